@@ -1,0 +1,57 @@
+#pragma once
+
+#include "runner/EditorEvent.h"
+
+#include <QObject>
+#include <QPoint>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+/// What the rest of the practice editor knows of its windows: who is open, where, and what happens in them.
+/// The windows themselves are built from descriptions; nothing outside this folder sees a widget.
+class EditorWindows : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Opens the window with this key, or raises it when it is open. False when no description has the key.
+    virtual bool open(const QString &windowKey) = 0;
+
+    /// Closes the window if it is open.
+    virtual void close(const QString &windowKey) = 0;
+
+    /// Keys of the open windows, last on top; an open popup is the key "Popup" on top.
+    [[nodiscard]] virtual QStringList openWindows() const = 0;
+
+    /// Top left corner of the window's contents (without frame) in global screen pixels; the origin of the
+    /// positions in a scenario. (0, 0) for a window that is not open.
+    [[nodiscard]] virtual QPoint origin(const QString &windowKey) const = 0;
+
+    /// Rectangle of the whole screen area of the editor in global screen pixels.
+    [[nodiscard]] virtual QRect screenRect() const = 0;
+
+Q_SIGNALS:
+    /// Something happened that a condition may wait for.
+    void happened(const EditorEvent &event);
+
+    /// The window came up, or a popup opened (key "Popup"). Emitted before the matching happened().
+    void pushed(const QString &windowKey);
+
+    /// The topmost entry of the stack went away. Emitted before the matching happened().
+    void popped(const QString &windowKey);
+
+    /// The window's origin is now here (global screen pixels); also emitted when it opens.
+    void moved(const QString &windowKey, const QPoint &origin);
+
+    /// A named control stands here (global screen pixels); emitted when its window opens or moves.
+    void controlMoved(const QString &controlName, const QPoint &position);
+
+    /// The editor as a whole became visible (true) or was minimised or hidden (false).
+    void visibilityChanged(bool visible);
+
+    /// The person closed the main window: the editor is to end.
+    void mainWindowClosed();
+};

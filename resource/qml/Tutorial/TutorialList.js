@@ -1,0 +1,21 @@
+﻿var list = [
+	{"filename":"TutorialStep1","title":qsTr("#1")},
+	{"filename":"TutorialStep2","title":qsTr("#2")},
+	{"filename":"TutorialStep3","title":qsTr("#3")},
+	{"filename":"TutorialStep4","title":qsTr("#4")},
+	{"filename":"TutorialStep5","title":qsTr("#5")},
+	{"filename":"TutorialStep6","title":qsTr("#6")},
+	{"filename":"TutorialStep7","title":qsTr("#7")},
+	{"filename":"TutorialStep8","title":qsTr("#8")},
+	{"filename":"TutorialStep9","title":qsTr("#9")},
+	{"filename":"TutorialStep10","title":qsTr("#10")},
+	{"filename":"TutorialStep11","title":qsTr("#11")},
+	{"filename":"TutorialStep12","title":qsTr("#12")},
+	{"filename":"TutorialStep13","title":qsTr("#13")},
+	{"filename":"TutorialStep14","title":qsTr("#14")},
+	{"filename":"TutorialStep15","title":qsTr("#15")},
+	{"filename":"TutorialStep16","title":qsTr("#16")},
+	{"filename":"TutorialStep17","title":qsTr("#17")},
+	{"filename":"TutorialStep18","title":qsTr("#18")},
+	{"filename":"TutorialStep19","title":qsTr("#19")}
+];

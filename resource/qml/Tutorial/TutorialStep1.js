@@ -1,0 +1,19 @@
+﻿var scenario = [
+    {
+"id":1,
+"name":"Welcome",
+"folder":false,
+"translationId":1,
+"x":-9999,
+"y":-9999,
+"windowKey":"",
+"condition":"click,",
+"hint":qsTr("#1"),
+"icon":"eye",
+"jump":-1,
+"jumpNo":-1,
+"command":"",
+"showArrow":true,
+"prohibited":false    
+    }
+];

@@ -1,0 +1,33 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+  <context>
+    <name>TutorialIndicator</name>
+    <message>
+      <source>Next</source>
+      <translation>次へ</translation>
+    </message>
+    <message>
+      <source>Yes</source>
+      <translation>はい</translation>
+    </message>
+    <message>
+      <source>No</source>
+      <translation>いいえ</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialList</name>
+    <message>
+      <source>#1</source>
+      <translation>1</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep1</name>
+    <message>
+      <source>#1</source>
+      <translation>ようこそ！</translation>
+    </message>
+  </context>
+</TS>
