@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "Tutorial/localisation/SampleTable.h"
+#include "Tutorial/localisation/SampleTranslators.h"
+
+/// The step directories ("step1", "step2", ...) directly under @p patchRoot, in ascending order of their
+/// numbers. The order of directories with equal numbers is open.
+[[nodiscard]] QStringList listPresetSteps(const QString &patchRoot);
+
+/// The game project's data files as they stand at the step @p stepName, translated, as one complete command
+/// for the host: "feedbackPresetData", the field separator, and a JSON object of "data/NAME" to the file's
+/// text.
+///
+/// The files come from the chain of patches under "resource/patch" (or else "tutorial-win/resource/patch") in
+/// @p applicationDirectory. Null when nothing is to be sent: there is no file at that step, or something
+/// failed, which is logged as a warning.
+[[nodiscard]] QString presetDataReply(const QString &stepName, const QString &applicationDirectory,
+                                      const SampleTable &table, const TranslateText &translate);
