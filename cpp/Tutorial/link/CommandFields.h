@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The fields of one command. A field that the sender left out reads as empty text, and as the number 0.
+class CommandFields
+{
+public:
+    static constexpr QChar kSeparator{1};
+
+    explicit CommandFields(const QString &command)
+        : m_fields(command.split(kSeparator))
+    {
+    }
+
+    /// Number of fields, the command word included; at least 1.
+    [[nodiscard]] int count() const { return m_fields.size(); }
+
+    [[nodiscard]] const QStringList &all() const { return m_fields; }
+
+    [[nodiscard]] QString text(int index) const { return m_fields.value(index); }
+
+    /// The field as a decimal number, 0 when it is none.
+    [[nodiscard]] int number(int index) const { return text(index).toInt(nullptr, 10); }
+
+    /// Joins fields to a command.
+    [[nodiscard]] static QString join(const QStringList &fields) { return fields.join(kSeparator); }
+
+private:
+    QStringList m_fields;
+};

@@ -1,0 +1,61 @@
+#include "Tutorial/link/CommandFields.h"
+
+#include <QTest>
+
+class tst_CommandFields : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keeps_empty_fields();
+    void reads_a_missing_field_as_empty_and_zero();
+    void reads_decimal_numbers_only_data();
+    void reads_decimal_numbers_only();
+    void joins_what_it_splits();
+};
+
+void tst_CommandFields::keeps_empty_fields()
+{
+    const CommandFields fields(QStringLiteral("a\x01\x01"
+                                              "b\x01"));
+    QCOMPARE(fields.count(), 4);
+    QCOMPARE(fields.text(1), QString());
+    QCOMPARE(fields.text(2), QStringLiteral("b"));
+}
+
+void tst_CommandFields::reads_a_missing_field_as_empty_and_zero()
+{
+    const CommandFields fields{QString()};
+    QCOMPARE(fields.count(), 1);
+    QCOMPARE(fields.text(5), QString());
+    QCOMPARE(fields.number(5), 0);
+}
+
+void tst_CommandFields::reads_decimal_numbers_only_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("number");
+    QTest::newRow("plain") << QStringLiteral("42") << 42;
+    QTest::newRow("negative") << QStringLiteral("-9999") << -9999;
+    QTest::newRow("hexadecimal") << QStringLiteral("0x10") << 0;
+    QTest::newRow("fraction") << QStringLiteral("1.5") << 0;
+    QTest::newRow("beyond int") << QStringLiteral("99999999999") << 0;
+    QTest::newRow("word") << QStringLiteral("left") << 0;
+}
+
+void tst_CommandFields::reads_decimal_numbers_only()
+{
+    QFETCH(QString, text);
+    QFETCH(int, number);
+    QCOMPARE(CommandFields(QStringLiteral("word\x01") + text).number(1), number);
+}
+
+void tst_CommandFields::joins_what_it_splits()
+{
+    const QString command = QStringLiteral("indicator\x01update\x01\x01"
+                                           "7");
+    QCOMPARE(CommandFields::join(CommandFields(command).all()), command);
+}
+
+QTEST_APPLESS_MAIN(tst_CommandFields)
+#include "tst_CommandFields.moc"

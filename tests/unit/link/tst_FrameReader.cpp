@@ -1,0 +1,330 @@
+#include "Tutorial/link/FrameReader.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <vector>
+
+namespace {
+
+QByteArray frame(const QByteArray &payload, char separator = '\x02')
+{
+    return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';
+}
+
+/// Writes down what the reader hands over, in order.
+class Recorder final : public FrameReader::Sink
+{
+public:
+    bool command(const QString &text) override
+    {
+        events.append(text);
+        return text != stopAt;
+    }
+
+    void problem(FrameReader::Problem problem, const QByteArray &bytes) override
+    {
+        switch (problem) {
+        case FrameReader::Problem::kInvalidHeader:
+            events.append(QStringLiteral("<invalid header>"));
+            break;
+        case FrameReader::Problem::kInvalidPayloadSize:
+            events.append(QStringLiteral("<invalid size>"));
+            break;
+        case FrameReader::Problem::kTerminatorNotFound:
+            events.append(QStringLiteral("<no terminator>"));
+            break;
+        }
+        problemBytes = bytes;
+    }
+
+    QStringList events;
+    QByteArray problemBytes;
+    QString stopAt = QStringLiteral("bye");
+};
+
+QByteArray bytes(const char *text, int size)
+{
+    return QByteArray(text, size);
+}
+
+} // namespace
+
+class tst_FrameReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hands_over_the_commands_of_one_read_data();
+    void hands_over_the_commands_of_one_read();
+    void reassembles_a_stream_that_is_split_at_every_byte();
+    void joins_single_bytes();
+    void waits_for_the_whole_frame_without_parsing();
+    void takes_any_separator_byte();
+    void drops_what_came_with_a_command_that_ends_the_read();
+    void keeps_an_invalid_header_and_reports_it_at_every_read();
+    void says_nothing_of_a_bad_lead_byte_in_a_short_read();
+    void loses_the_read_at_an_invalid_size_data();
+    void loses_the_read_at_an_invalid_size();
+    void accepts_what_the_number_parser_accepts_data();
+    void accepts_what_the_number_parser_accepts();
+    void delivers_the_text_before_it_misses_the_terminator();
+    void allocates_nothing_ahead_of_a_huge_length();
+    void survives_random_bytes();
+};
+
+void tst_FrameReader::hands_over_the_commands_of_one_read_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<QStringList>("events");
+    const auto row = [](const char *name, const QByteArray &data, const QStringList &events) {
+        QTest::newRow(name) << data << events;
+    };
+    const QString a = QStringLiteral("a");
+    const QString b = QStringLiteral("b");
+    row("one frame", frame("a"), {a});
+    row("two frames in order", frame("a") + frame("b"), {a, b});
+    row("two commands in one payload",
+        frame("a\x02"
+              "b"),
+        {a, b});
+    row("an empty part is an empty command",
+        frame("a\x02\x02"
+              "b"),
+        {a, QString(), b});
+    row("an empty part at the end", frame("a\x02"), {a, QString()});
+    row("length 0 holds no command", frame("") + frame("b"), {b});
+    row("upper case digits",
+        "0"
+        "0000000A"
+        "\x02"
+        "0123456789" +
+            bytes("\0", 1),
+        {QStringLiteral("0123456789")});
+    row("non-ASCII", frame("\xe6\xac\xa1"), {QStringLiteral("次")});
+    row("an inner zero byte ends the text, and the next frame is looked for behind it",
+        "0"
+        "00000003"
+        "\x02"
+        "a" +
+            bytes("\0", 1) +
+            "0"
+            "00000001"
+            "\x02"
+            "b" +
+            bytes("\0", 1),
+        {a, b});
+    row("a length that is too small delivers up to the zero byte",
+        "0"
+        "00000001"
+        "\x02"
+        "abc" +
+            bytes("\0", 1) + frame("b"),
+        {QStringLiteral("abc"), b});
+    row("a zero byte as separator ends the frame in its header", frame("0", '\0'), {QStringLiteral("0")});
+}
+
+void tst_FrameReader::hands_over_the_commands_of_one_read()
+{
+    QFETCH(QByteArray, data);
+    QFETCH(QStringList, events);
+    FrameReader reader;
+    Recorder recorder;
+    reader.read(data, recorder);
+    QCOMPARE(recorder.events, events);
+}
+
+void tst_FrameReader::reassembles_a_stream_that_is_split_at_every_byte()
+{
+    const QByteArray stream = frame("start\x01"
+                                    "1") +
+                              frame("stop\x02"
+                                    "contents") +
+                              frame("") + frame("\xc3\xa9");
+    const QStringList expected = {QStringLiteral("start\x01"
+                                                 "1"),
+                                  QStringLiteral("stop"), QStringLiteral("contents"), QStringLiteral("é")};
+    for (int split = 0; split <= stream.size(); ++split) {
+        FrameReader reader;
+        Recorder recorder;
+        reader.read(stream.left(split), recorder);
+        reader.read(stream.mid(split), recorder);
+        QVERIFY2(recorder.events == expected, qPrintable(QStringLiteral("split at %1").arg(split)));
+    }
+}
+
+void tst_FrameReader::joins_single_bytes()
+{
+    const QByteArray stream = frame("a") + frame("b\x02"
+                                                 "c");
+    FrameReader reader;
+    Recorder recorder;
+    for (const char byte : stream) {
+        reader.read(QByteArray(1, byte), recorder);
+    }
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+}
+
+void tst_FrameReader::waits_for_the_whole_frame_without_parsing()
+{
+    const QByteArray whole = frame(QByteArray(100, 'x'));
+    FrameReader reader;
+    Recorder recorder;
+    reader.read(whole.left(12), recorder);
+    reader.read(whole.mid(12, 98), recorder);
+    QVERIFY(recorder.events.isEmpty());
+    reader.read(whole.mid(110), recorder);
+    QCOMPARE(recorder.events, QStringList{QString(100, QLatin1Char('x'))});
+}
+
+void tst_FrameReader::takes_any_separator_byte()
+{
+    for (int separator = 1; separator < 256; ++separator) {
+        FrameReader reader;
+        Recorder recorder;
+        reader.read(frame("a", char(separator)), recorder);
+        QCOMPARE(recorder.events, QStringList{QStringLiteral("a")});
+    }
+}
+
+void tst_FrameReader::drops_what_came_with_a_command_that_ends_the_read()
+{
+    FrameReader reader;
+    Recorder recorder;
+    reader.read(frame("a\x02"
+                      "bye\x02"
+                      "b") +
+                    frame("c") + "0000",
+                recorder);
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("bye")}));
+    reader.read(frame("d"), recorder);
+    QCOMPARE(recorder.events.last(), QStringLiteral("d"));
+}
+
+void tst_FrameReader::keeps_an_invalid_header_and_reports_it_at_every_read()
+{
+    FrameReader reader;
+    Recorder recorder;
+    reader.read(frame("a") + "X0000001\x02 and more", recorder);
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("<invalid header>")}));
+    QCOMPARE(recorder.problemBytes, QByteArray("X0000001\x02 and more"));
+    reader.read(frame("b"), recorder);
+    QCOMPARE(recorder.events.last(), QStringLiteral("<invalid header>"));
+    QCOMPARE(recorder.problemBytes, "X0000001\x02 and more" + frame("b"));
+    QCOMPARE(recorder.events.size(), 3);
+}
+
+void tst_FrameReader::says_nothing_of_a_bad_lead_byte_in_a_short_read()
+{
+    FrameReader reader;
+    Recorder recorder;
+    reader.read("X0000001", recorder);
+    QVERIFY(recorder.events.isEmpty());
+    reader.read("\x02", recorder);
+    QCOMPARE(recorder.events, QStringList{QStringLiteral("<invalid header>")});
+}
+
+void tst_FrameReader::loses_the_read_at_an_invalid_size_data()
+{
+    QTest::addColumn<QByteArray>("digits");
+    QTest::newRow("letters") << QByteArray("0000000g");
+    QTest::newRow("below zero") << QByteArray("-0000001");
+    QTest::newRow("beyond int") << QByteArray("80000000");
+    QTest::newRow("blank") << QByteArray("        ");
+    QTest::newRow("not UTF-8") << QByteArray("\xff\xff\xff\xff\xff\xff\xff\xff");
+}
+
+void tst_FrameReader::loses_the_read_at_an_invalid_size()
+{
+    QFETCH(QByteArray, digits);
+    FrameReader reader;
+    Recorder recorder;
+    const QByteArray bad = "0" + digits +
+                           "\x02"
+                           "a" +
+                           bytes("\0", 1);
+    reader.read(frame("a") + bad + frame("b"), recorder);
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("<invalid size>")}));
+    QCOMPARE(recorder.problemBytes, bad + frame("b"));
+    reader.read(frame("c"), recorder);
+    QCOMPARE(recorder.events.last(), QStringLiteral("c"));
+}
+
+void tst_FrameReader::accepts_what_the_number_parser_accepts_data()
+{
+    QTest::addColumn<QByteArray>("digits");
+    QTest::newRow("leading blanks") << QByteArray("       1");
+    QTest::newRow("trailing blanks") << QByteArray("1       ");
+    QTest::newRow("plus") << QByteArray("+0000001");
+    QTest::newRow("prefix") << QByteArray("0x000001");
+}
+
+void tst_FrameReader::accepts_what_the_number_parser_accepts()
+{
+    QFETCH(QByteArray, digits);
+    FrameReader reader;
+    Recorder recorder;
+    reader.read("0" + digits +
+                    "\x02"
+                    "a" +
+                    bytes("\0", 1),
+                recorder);
+    QCOMPARE(recorder.events, QStringList{QStringLiteral("a")});
+}
+
+void tst_FrameReader::delivers_the_text_before_it_misses_the_terminator()
+{
+    FrameReader reader;
+    Recorder recorder;
+    const QByteArray data = "0"
+                            "00000001"
+                            "\x02"
+                            "abc";
+    reader.read(data, recorder);
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("abc"), QStringLiteral("<no terminator>")}));
+    QCOMPARE(recorder.problemBytes, data);
+    reader.read(frame("d"), recorder);
+    QCOMPARE(recorder.events.last(), QStringLiteral("d"));
+}
+
+void tst_FrameReader::allocates_nothing_ahead_of_a_huge_length()
+{
+    // Readers that reserved the 2 GiB which the length announces could not stand side by side.
+    std::vector<FrameReader> readers(2000);
+    Recorder recorder;
+    for (FrameReader &reader : readers) {
+        reader.read("0"
+                    "7fffffff"
+                    "\x02"
+                    "abc",
+                    recorder);
+        reader.read(bytes("\0", 1), recorder);
+    }
+    QVERIFY(recorder.events.isEmpty());
+}
+
+void tst_FrameReader::survives_random_bytes()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    const QByteArray alphabet = bytes("0011fFx \x01\x02\0\0a\xe6", 14);
+    for (int round = 0; round < 2000; ++round) {
+        FrameReader reader;
+        Recorder recorder;
+        qint64 sent = 0;
+        for (int read = 0; read < 8; ++read) {
+            QByteArray data;
+            const int size = random.bounded(40);
+            for (int i = 0; i < size; ++i) {
+                data.append(alphabet.at(random.bounded(alphabet.size())));
+            }
+            sent += data.size();
+            reader.read(data, recorder);
+            QVERIFY(recorder.problemBytes.size() <= sent);
+        }
+    }
+}
+
+QTEST_APPLESS_MAIN(tst_FrameReader)
+#include "tst_FrameReader.moc"
