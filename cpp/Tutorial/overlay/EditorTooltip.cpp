@@ -1,0 +1,155 @@
+#include "Tutorial/overlay/EditorTooltip.h"
+
+#include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/OverlayHost.h"
+#include "Tutorial/overlay/Placement.h"
+#include "tool/LogLine.h"
+
+#include <QEvent>
+#include <QTextDocument>
+#include <QTextEdit>
+
+namespace {
+
+constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\EditorTooltip.cpp";
+constexpr int kTickMs = 10;
+constexpr int kDelayTicks = 100;
+constexpr int kTimeoutTicks = 500;
+constexpr int kFadeTicks = 25;
+
+double opacityOf(int step)
+{
+    return static_cast<double>(static_cast<float>(step) / static_cast<float>(kFadeTicks));
+}
+
+} // namespace
+
+EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
+    : QWidget(parent)
+    , m_textEdit(new QTextEdit(this))
+    , m_manager(manager)
+{
+    m_textEdit->setObjectName(QStringLiteral("tooltipTextEdit"));
+    m_textEdit->setLineWrapMode(QTextEdit::NoWrap);
+    m_textEdit->setAutoFormatting(QTextEdit::AutoAll);
+    m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
+
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+    setGeometry(0, 0, 320, 240);
+    m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
+    hide();
+    new ClickThrough(this);
+}
+
+EditorTooltip::~EditorTooltip()
+{
+    logDebug(kSource, "EditorTooltip::~EditorTooltip", 53);
+    if (m_timerId != 0) {
+        killTimer(m_timerId);
+    }
+}
+
+void EditorTooltip::show(OverlayHost *manager, const QString &text, int x, int y)
+{
+    if (manager->editorTooltip() == nullptr) {
+        manager->setEditorTooltip(new EditorTooltip(nullptr, manager));
+    }
+    manager->editorTooltip()->present(text, x, y);
+}
+
+void EditorTooltip::present(const QString &text, int x, int y)
+{
+    m_text = text;
+    if (!text.isEmpty()) {
+        m_textEdit->setText(text);
+        m_textEdit->show();
+        const QSizeF size = m_textEdit->document()->size();
+        logDebug(kSource, "EditorTooltip::show", 74) << text << size.width() << size.height();
+        m_textEdit->resize(truncateToInt(size.width()), truncateToInt(size.height()));
+    } else {
+        m_textEdit->hide();
+    }
+    move(clampToInt(static_cast<qint64>(x) - m_textEdit->width() / 2),
+         clampToInt(static_cast<qint64>(y) - m_textEdit->height() / 2));
+    setWindowOpacity(0.0);
+    m_delay = kDelayTicks;
+    m_timeout = kTimeoutTicks;
+    m_fade = kFadeTicks;
+    show();
+}
+
+QVariantMap EditorTooltip::getSettings() const
+{
+    const QSize size = m_textEdit != nullptr ? m_textEdit->size() : QSize(0, 0);
+    return {{QStringLiteral("text"), m_text},
+            {QStringLiteral("width"), size.width()},
+            {QStringLiteral("height"), size.height()},
+            {QStringLiteral("x"), x()},
+            {QStringLiteral("y"), y()},
+            {QStringLiteral("windowOpacity"), windowOpacity()},
+            {QStringLiteral("delay"), m_delay},
+            {QStringLiteral("timeout"), m_timeout},
+            {QStringLiteral("fade"), m_fade}};
+}
+
+void EditorTooltip::setSettings(const QVariantMap &settings)
+{
+    logDebug(kSource, "EditorTooltip::setSettings", 106) << settings;
+    m_text = settings.value(QStringLiteral("text")).toString();
+    if (!m_text.isEmpty()) {
+        m_textEdit->setText(m_text);
+        m_textEdit->show();
+        m_textEdit->resize(settings.value(QStringLiteral("width")).toInt(),
+                           settings.value(QStringLiteral("height")).toInt());
+    } else {
+        m_textEdit->hide();
+    }
+    move(settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt());
+    // Not the name under which getSettings stores it: a rebuilt tooltip starts invisible.
+    setWindowOpacity(settings.value(QStringLiteral("opacity")).toDouble());
+    m_delay = settings.value(QStringLiteral("delay")).toInt();
+    m_timeout = settings.value(QStringLiteral("timeout")).toInt();
+    m_fade = settings.value(QStringLiteral("fade")).toInt();
+}
+
+void EditorTooltip::changeEvent(QEvent *event)
+{
+    logDebug(kSource, "EditorTooltip::changeEvent", 127) << event->type();
+    QWidget::changeEvent(event);
+}
+
+void EditorTooltip::timerEvent(QTimerEvent *event)
+{
+    Q_UNUSED(event)
+    if (!isVisible()) {
+        return;
+    }
+    if (m_delay >= 1) {
+        if (--m_delay == 0) {
+            m_fade = kFadeTicks;
+        }
+    } else if (m_timeout >= 1 && m_fade >= 1) {
+        setWindowOpacity(opacityOf(kFadeTicks + 1 - m_fade));
+        --m_fade;
+    } else if (m_timeout >= 1) {
+        if (--m_timeout == 0) {
+            m_fade = kFadeTicks;
+        }
+    } else if (m_fade >= 1) {
+        setWindowOpacity(opacityOf(m_fade - 1));
+        --m_fade;
+    }
+}
+
+void EditorTooltip::closeEvent(QCloseEvent *event)
+{
+    Q_UNUSED(event)
+    delete m_textEdit;
+    m_textEdit = nullptr;
+    m_manager->setEditorTooltip(nullptr);
+}

@@ -1,0 +1,424 @@
+#include "Tutorial/overlay/TutorialIndicator.h"
+
+#include "Tutorial/overlay/HintHtml.h"
+#include "Tutorial/overlay/OverlayHost.h"
+#include "Tutorial/overlay/Placement.h"
+#include "Tutorial/overlay/TutorialTooltip.h"
+#include "tool/LogLine.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTextDocument>
+#include <QTextEdit>
+
+namespace {
+
+constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialIndicator.cpp";
+constexpr int kTickMs = 100;
+constexpr int kNoTarget = -9999;
+constexpr int kTextTop = 56;
+constexpr int kMirroredArrowLeft = 256;
+constexpr int kButtonWidth = 64;
+constexpr int kButtonHeight = 32;
+
+// QWidget::isActiveWindow() lends every parentless tool window the state "active".
+bool isTheActiveWindow(const QWidget *widget)
+{
+    return widget != nullptr && QApplication::activeWindow() == widget;
+}
+
+void setShown(QWidget *widget, bool shown)
+{
+    if (widget != nullptr && widget->isHidden() == shown) {
+        widget->setVisible(shown);
+    }
+}
+
+void moveTo(QWidget *widget, const QPoint &position)
+{
+    if (widget != nullptr) {
+        widget->move(position);
+    }
+}
+
+void storePosition(QVariantMap &settings, const QString &name, const QWidget *widget)
+{
+    const QPoint position = widget != nullptr ? widget->pos() : QPoint();
+    settings.insert(name + QLatin1Char('X'), position.x());
+    settings.insert(name + QLatin1Char('Y'), position.y());
+}
+
+QPoint storedPosition(const QVariantMap &settings, const QString &name)
+{
+    return {settings.value(name + QLatin1Char('X')).toInt(), settings.value(name + QLatin1Char('Y')).toInt()};
+}
+
+void fillDocument(QTextDocument *document, const QString &hint, const QFont &font)
+{
+    document->setDefaultFont(font);
+    document->setHtml(hintToHtml(hint));
+}
+
+} // namespace
+
+TutorialIndicator::TutorialIndicator(QWidget *parent, OverlayHost *manager)
+    : QWidget(parent)
+    , m_arrow(QStringLiteral(":/resource/png/arrow.png"))
+    , m_click(QStringLiteral(":/resource/png/click.png"))
+    , m_doubleClick(QStringLiteral(":/resource/png/double_click.png"))
+    , m_rightClick(QStringLiteral(":/resource/png/right_click.png"))
+    , m_eye(QStringLiteral(":/resource/png/eye.png"))
+    , m_wait(QStringLiteral(":/resource/png/wait.png"))
+    , m_keyboard(QStringLiteral(":/resource/png/keyboard.png"))
+    , m_manager(manager)
+{
+    setAttribute(Qt::WA_QuitOnClose, false);
+    makeTooltip();
+    const QFont font = m_manager->overlayFont();
+    m_nextButton = makeButton(QStringLiteral("nextButton"), tr("Next"), font);
+    m_yesButton = makeButton(QStringLiteral("yesButton"), tr("Yes"), font);
+    m_noButton = makeButton(QStringLiteral("noButton"), tr("No"), font);
+    m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
+    connect(m_nextButton, &QAbstractButton::clicked, this, &TutorialIndicator::nextClicked);
+    connect(m_yesButton, &QAbstractButton::clicked, this, &TutorialIndicator::yesClicked);
+    connect(m_noButton, &QAbstractButton::clicked, this, &TutorialIndicator::noClicked);
+    m_elapsed.start();
+    hideTooltip();
+    hideButtons();
+}
+
+TutorialIndicator::~TutorialIndicator()
+{
+    logDebug(kSource, "TutorialIndicator::~TutorialIndicator", 94);
+    if (m_timerId != 0) {
+        killTimer(m_timerId);
+    }
+}
+
+void TutorialIndicator::setTargetWindowOffset(int x, int y, const QString &windowKey, bool arrowVisible)
+{
+    logDebug(kSource, "TutorialIndicator::setTargetWindowOffset", 102) << x << y << windowKey << arrowVisible;
+    makeTooltip();
+    m_windowKey = windowKey;
+    m_offsetX = x;
+    m_offsetY = y;
+    if (x == kNoTarget && y == kNoTarget) {
+        m_arrowVisible = false;
+        return;
+    }
+    setNewXy(x, y);
+    m_arrowVisible = arrowVisible;
+}
+
+void TutorialIndicator::setNewXy(int x, int y)
+{
+    m_newX = x;
+    m_newY = y;
+}
+
+void TutorialIndicator::setHint(const QString &hint)
+{
+    makeTooltip();
+    m_hint = hint;
+    if (hint.isEmpty()) {
+        m_tooltip->m_textEdit->hide();
+        return;
+    }
+    // Text edits go on using it, closed bubbles and new ones alike, so it lives as long as the process.
+    static auto *const document = new QTextDocument;
+    fillDocument(document, hint, m_manager->overlayFont());
+    m_tooltip->m_textEdit->setDocument(document);
+    m_tooltip->m_textEdit->show();
+    m_updateTextEditSize = true;
+}
+
+void TutorialIndicator::init(bool next, bool yesNo)
+{
+    logDebug(kSource, "TutorialIndicator::init", 139) << next << yesNo;
+    m_elapsed.restart();
+    m_nextWindowEnabled = next;
+    setShown(m_nextButton, next);
+    m_yesNoWindowEnabled = yesNo;
+    setShown(m_yesButton, yesNo);
+    setShown(m_noButton, yesNo);
+}
+
+void TutorialIndicator::showButtons()
+{
+    if (m_nextWindowEnabled) {
+        setShown(m_nextButton, true);
+    }
+    if (m_yesNoWindowEnabled) {
+        setShown(m_yesButton, true);
+        setShown(m_noButton, true);
+    }
+}
+
+void TutorialIndicator::hideButtons()
+{
+    setShown(m_nextButton, false);
+    setShown(m_yesButton, false);
+    setShown(m_noButton, false);
+}
+
+void TutorialIndicator::showTooltip()
+{
+    setShown(m_tooltip, true);
+}
+
+void TutorialIndicator::hideTooltip()
+{
+    setShown(m_tooltip, false);
+}
+
+bool TutorialIndicator::isActive() const
+{
+    return isTheActiveWindow(this) || isTheActiveWindow(m_nextButton) || isTheActiveWindow(m_yesButton) ||
+           isTheActiveWindow(m_noButton);
+}
+
+QVariantMap TutorialIndicator::getSettings() const
+{
+    QVariantMap settings;
+    settings.insert(QStringLiteral("tooltip"), m_tooltip != nullptr);
+    if (m_tooltip != nullptr) {
+        storePosition(settings, QStringLiteral("textEdit"), m_tooltip->m_textEdit);
+    }
+    settings.insert(QStringLiteral("newX"), m_newX);
+    settings.insert(QStringLiteral("newY"), m_newY);
+    settings.insert(QStringLiteral("lastX"), m_lastX);
+    settings.insert(QStringLiteral("lastY"), m_lastY);
+    settings.insert(QStringLiteral("upsideDown"), m_upsideDown);
+    settings.insert(QStringLiteral("mirror"), m_mirror);
+    settings.insert(QStringLiteral("repaintAll"), m_repaintAll);
+    settings.insert(QStringLiteral("updateTextEditSize"), m_updateTextEditSize);
+    settings.insert(QStringLiteral("hintHeight"), m_hintHeight);
+    storePosition(settings, QStringLiteral("tooltip"), m_tooltip);
+    storePosition(settings, QStringLiteral("nextButton"), m_nextButton);
+    storePosition(settings, QStringLiteral("yesButton"), m_yesButton);
+    storePosition(settings, QStringLiteral("noButton"), m_noButton);
+    settings.insert(QStringLiteral("windowKey"), m_windowKey);
+    settings.insert(QStringLiteral("offsetX"), m_offsetX);
+    settings.insert(QStringLiteral("offsetY"), m_offsetY);
+    settings.insert(QStringLiteral("arrowVisible"), m_arrowVisible);
+    settings.insert(QStringLiteral("hint"), m_hint);
+    settings.insert(QStringLiteral("nextWindowEnabled"), m_nextWindowEnabled);
+    settings.insert(QStringLiteral("yesNoWindowEnabled"), m_yesNoWindowEnabled);
+    settings.insert(QStringLiteral("iconKind"), m_iconKind);
+    return settings;
+}
+
+void TutorialIndicator::setSettings(const QVariantMap &settings)
+{
+    logDebug(kSource, "TutorialIndicator::setSettings", 215) << settings;
+    m_hint = settings.value(QStringLiteral("hint")).toString();
+    m_updateTextEditSize = settings.value(QStringLiteral("updateTextEditSize")).toBool();
+    if (settings.value(QStringLiteral("tooltip")).toBool()) {
+        applyTooltipSettings(settings);
+    }
+    m_newX = settings.value(QStringLiteral("newX")).toInt();
+    m_newY = settings.value(QStringLiteral("newY")).toInt();
+    m_lastX = settings.value(QStringLiteral("lastX")).toInt();
+    m_lastY = settings.value(QStringLiteral("lastY")).toInt();
+    m_upsideDown = settings.value(QStringLiteral("upsideDown")).toBool();
+    m_mirror = settings.value(QStringLiteral("mirror")).toBool();
+    m_repaintAll = settings.value(QStringLiteral("repaintAll")).toBool();
+    m_hintHeight = settings.value(QStringLiteral("hintHeight")).toInt();
+    moveTo(m_nextButton, storedPosition(settings, QStringLiteral("nextButton")));
+    moveTo(m_yesButton, storedPosition(settings, QStringLiteral("yesButton")));
+    moveTo(m_noButton, storedPosition(settings, QStringLiteral("noButton")));
+    m_windowKey = settings.value(QStringLiteral("windowKey")).toString();
+    m_offsetX = settings.value(QStringLiteral("offsetX")).toInt();
+    m_offsetY = settings.value(QStringLiteral("offsetY")).toInt();
+    m_arrowVisible = settings.value(QStringLiteral("arrowVisible")).toBool();
+    m_nextWindowEnabled = settings.value(QStringLiteral("nextWindowEnabled")).toBool();
+    setShown(m_nextButton, m_nextWindowEnabled);
+    m_yesNoWindowEnabled = settings.value(QStringLiteral("yesNoWindowEnabled")).toBool();
+    setShown(m_yesButton, m_yesNoWindowEnabled);
+    setShown(m_noButton, m_yesNoWindowEnabled);
+    m_iconKind = settings.value(QStringLiteral("iconKind")).toInt();
+}
+
+void TutorialIndicator::applyTooltipSettings(const QVariantMap &settings)
+{
+    makeTooltip();
+    QTextEdit *const textEdit = m_tooltip->m_textEdit;
+    textEdit->move(storedPosition(settings, QStringLiteral("textEdit")));
+    textEdit->setFixedHeight(settings.value(QStringLiteral("hintHeight")).toInt());
+    m_tooltip->move(storedPosition(settings, QStringLiteral("tooltip")));
+    if (m_hint.isEmpty()) {
+        textEdit->hide();
+        return;
+    }
+    // Not the document of setHint: that one may still belong to a bubble that is on its way out.
+    static auto *const document = new QTextDocument;
+    fillDocument(document, m_hint, m_manager->overlayFont());
+    textEdit->setDocument(document);
+    textEdit->show();
+    m_updateTextEditSize = true;
+}
+
+void TutorialIndicator::nextClicked()
+{
+    m_manager->send(QStringLiteral("next"));
+}
+
+void TutorialIndicator::yesClicked()
+{
+    m_manager->send(QStringLiteral("yes"));
+}
+
+void TutorialIndicator::noClicked()
+{
+    m_manager->send(QStringLiteral("no"));
+}
+
+void TutorialIndicator::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange) {
+        return;
+    }
+    const bool active = isActive();
+    logDebug(kSource, "TutorialIndicator::changeEvent", 286) << active;
+    if (active) {
+        m_manager->onOverlayActivated();
+    } else {
+        m_activatePending = true;
+    }
+    m_manager->updateOverlayVisibility();
+}
+
+void TutorialIndicator::timerEvent(QTimerEvent *event)
+{
+    Q_UNUSED(event)
+    place();
+    repaintTooltip();
+    if (m_activatePending) {
+        m_activatePending = false;
+        if (!isTheActiveWindow(this)) {
+            activateWindow();
+        }
+    }
+}
+
+void TutorialIndicator::closeEvent(QCloseEvent *event)
+{
+    Q_UNUSED(event)
+    if (m_timerId != 0) {
+        killTimer(m_timerId);
+        m_timerId = 0;
+    }
+    for (QPushButton **button : {&m_nextButton, &m_yesButton, &m_noButton}) {
+        if (*button != nullptr) {
+            (*button)->close();
+            *button = nullptr;
+        }
+    }
+    if (m_tooltip != nullptr) {
+        m_tooltip->close();
+        m_tooltip = nullptr;
+    }
+}
+
+qint64 TutorialIndicator::elapsedMs() const
+{
+    return m_elapsed.elapsed();
+}
+
+void TutorialIndicator::makeTooltip()
+{
+    if (m_tooltip == nullptr) {
+        auto tooltip = std::make_unique<TutorialTooltip>(this);
+        m_tooltip = tooltip.get();
+        m_windows.push_back(std::move(tooltip));
+    }
+}
+
+QPushButton *TutorialIndicator::makeButton(const QString &name, const QString &caption, const QFont &font)
+{
+    auto owned = std::make_unique<QPushButton>(caption);
+    QPushButton *const button = owned.get();
+    m_windows.push_back(std::move(owned));
+    button->setObjectName(name);
+    button->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    button->setMinimumSize(kButtonWidth, kButtonHeight);
+    button->setMaximumSize(kButtonWidth, kButtonHeight);
+    button->setAttribute(Qt::WA_TranslucentBackground);
+    button->setAttribute(Qt::WA_ShowWithoutActivating);
+    button->setFont(font);
+    button->hide();
+    return button;
+}
+
+const QPixmap *TutorialIndicator::icon() const
+{
+    switch (m_iconKind) {
+    case 0:
+        return &m_click;
+    case 1:
+        return &m_doubleClick;
+    case 2:
+        return &m_rightClick;
+    case 3:
+        return &m_eye;
+    case 4:
+        return &m_wait;
+    case 5:
+        return &m_keyboard;
+    default:
+        return nullptr;
+    }
+}
+
+void TutorialIndicator::place()
+{
+    const int arrowWidth = m_arrow.width();
+    const qint64 hostRight = static_cast<qint64>(m_manager->hostRect().right()) + 1;
+    const PlacementStep step =
+        stepPlacement({m_newX, m_newY, m_lastX, m_lastY, m_upsideDown, m_mirror}, hostRight, arrowWidth);
+    m_upsideDown = step.upsideDown;
+    m_mirror = step.mirror;
+    m_repaintAll = m_repaintAll || step.turnedOver || step.changedSides;
+    if (step.changedSides && m_tooltip != nullptr) {
+        m_tooltip->m_textEdit->move(m_mirror ? 0 : arrowWidth, kTextTop);
+    }
+    if (m_tooltip == nullptr && m_manager->running()) {
+        makeTooltip();
+    }
+    qint64 lastY = m_lastY;
+    if (m_updateTextEditSize) {
+        measureHint();
+        ++lastY; // the buttons stand below the text, so they move with its height even when all is at rest
+    }
+    if (step.x != m_lastX || step.y != lastY) {
+        moveTo(m_tooltip, {step.x, step.y});
+        const ButtonPlaces places = placeButtons(step.x, step.y, m_hintHeight, arrowWidth);
+        moveTo(m_nextButton, places.nextAndYes);
+        moveTo(m_yesButton, places.nextAndYes);
+        moveTo(m_noButton, places.no);
+    }
+    m_lastX = step.x;
+    m_lastY = step.y;
+}
+
+void TutorialIndicator::measureHint()
+{
+    m_updateTextEditSize = false;
+    if (m_tooltip != nullptr) {
+        m_hintHeight = truncateToInt(m_tooltip->m_textEdit->document()->size().height());
+        m_tooltip->m_textEdit->setFixedHeight(m_hintHeight);
+    }
+}
+
+void TutorialIndicator::repaintTooltip()
+{
+    if (m_tooltip == nullptr) {
+        return;
+    }
+    if (m_repaintAll) {
+        m_tooltip->repaint(0, 0, width(), height());
+    } else {
+        m_tooltip->repaint(m_mirror ? kMirroredArrowLeft : 0, 0, m_arrow.width() + 56, m_arrow.height() + 72);
+    }
+}

@@ -1,0 +1,31 @@
+#include "Tutorial/overlay/TutorialLog.h"
+
+#include "Tutorial/overlay/OverlayHost.h"
+
+#include <QApplication>
+#include <QEvent>
+
+TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
+    : QWidget(parent)
+    , m_manager(manager)
+{
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setGeometry(-1, -1, 1, 1);
+    show();
+    activateWindow();
+    hide();
+}
+
+void TutorialLog::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange) {
+        return;
+    }
+    // Not isActiveWindow(): that lends every parentless tool window the state "active".
+    if (QApplication::activeWindow() == this) {
+        m_manager->onOverlayActivated();
+    }
+    m_manager->updateOverlayVisibility();
+}

@@ -1,0 +1,124 @@
+#include "Tutorial/overlay/TutorialTooltip.h"
+
+#include "Tutorial/overlay/Bounce.h"
+#include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/TutorialIndicator.h"
+#include "tool/LogLine.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QTextEdit>
+
+namespace {
+
+constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialTooltip.cpp";
+constexpr int kTextWidth = 256;
+constexpr int kTextTop = 56;
+constexpr int kBounceRoom = 16;
+constexpr int kIconSide = 56;
+
+} // namespace
+
+TutorialTooltip::TutorialTooltip(QWidget *indicator)
+    : m_indicator(dynamic_cast<TutorialIndicator *>(indicator))
+    , m_textEdit(new QTextEdit(this))
+{
+    const int hintHeight = m_indicator->m_hintHeight;
+    m_textEdit->setObjectName(QStringLiteral("hintTextEdit"));
+    m_textEdit->setMinimumSize(kTextWidth, hintHeight);
+    m_textEdit->setMaximumSize(kTextWidth, hintHeight);
+    m_textEdit->setGeometry(m_indicator->m_arrow.width(), kTextTop, kTextWidth, hintHeight);
+    m_textEdit->setLineWrapMode(QTextEdit::WidgetWidth);
+    m_textEdit->setAutoFormatting(QTextEdit::AutoAll);
+    m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_textEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
+    if (!m_indicator->m_hint.isEmpty()) {
+        m_textEdit->setText(m_indicator->m_hint);
+        m_textEdit->show();
+        m_indicator->m_updateTextEditSize = true;
+    } else {
+        m_textEdit->hide();
+    }
+
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+    setGeometry(0, 0, 640, 480);
+    hide();
+    new ClickThrough(this);
+}
+
+TutorialTooltip::~TutorialTooltip()
+{
+    logDebug(kSource, "TutorialTooltip::~TutorialTooltip", 61);
+}
+
+void TutorialTooltip::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        logDebug(kSource, "TutorialTooltip::changeEvent", 68) << m_indicator->isActive() << isActiveWindow();
+    }
+}
+
+void TutorialTooltip::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    erase(painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (m_indicator->m_arrowVisible) {
+        drawArrow(painter);
+    }
+    drawIcon(painter);
+    QWidget::paintEvent(event);
+}
+
+void TutorialTooltip::closeEvent(QCloseEvent *event)
+{
+    Q_UNUSED(event)
+    delete m_textEdit;
+    m_textEdit = nullptr;
+    m_indicator->m_tooltip = nullptr;
+}
+
+// The window is transparent: whatever is redrawn is erased first, and no more than that.
+void TutorialTooltip::erase(QPainter &painter)
+{
+    const QColor nothing(0, 0, 0, 0);
+    if (m_indicator->m_repaintAll) {
+        painter.fillRect(0, 0, width(), height(), nothing);
+        m_indicator->m_repaintAll = false;
+        return;
+    }
+    const QSize arrow = m_indicator->m_arrow.size();
+    const bool mirror = m_indicator->m_mirror;
+    painter.fillRect(mirror ? kTextWidth : 0, 0, arrow.width(), arrow.height() + kBounceRoom, nothing);
+    painter.fillRect(mirror ? kTextWidth - kIconSide : arrow.width(), 0, kIconSide, kIconSide, nothing);
+}
+
+void TutorialTooltip::drawArrow(QPainter &painter) const
+{
+    const QPixmap &arrow = m_indicator->m_arrow;
+    const bool mirror = m_indicator->m_mirror;
+    const bool upsideDown = m_indicator->m_upsideDown;
+    const qint64 elapsedMs = m_indicator->elapsedMs();
+    const float bounce = upsideDown ? upsideDownBounceOffset(elapsedMs) : bounceOffset(elapsedMs);
+    painter.save();
+    painter.translate(mirror ? arrow.width() + kTextWidth : 0, upsideDown ? arrow.height() : 0);
+    painter.scale(mirror ? -1 : 1, upsideDown ? -1 : 1);
+    painter.drawPixmap(0, static_cast<int>(bounce), arrow);
+    painter.restore();
+}
+
+void TutorialTooltip::drawIcon(QPainter &painter) const
+{
+    const QPixmap *const icon = m_indicator->icon();
+    if (icon != nullptr) {
+        painter.drawPixmap(m_indicator->m_mirror ? kTextWidth - icon->width() : m_indicator->m_arrow.width(),
+                           0, *icon);
+    }
+}
