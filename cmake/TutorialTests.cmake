@@ -1,9 +1,19 @@
-# tutorial_add_test(NAME label SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [TIMEOUT seconds])
+# What every test runs in: nothing of it depends on who runs it, and where.
+set(runtime_dir "${CMAKE_BINARY_DIR}/runtime") # Qt complains when there is none, or when others may look into it
+file(MAKE_DIRECTORY "${runtime_dir}")
+file(CHMOD "${runtime_dir}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+set(TUTORIAL_TEST_ENVIRONMENT
+    "LC_ALL=C.UTF-8"
+    "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1")
+
+# tutorial_add_test(NAME label SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [TIMEOUT seconds] [WINDOW_MANAGERS ...])
 #
 # One QtTest program, registered with CTest under the label unit, system or desktop. Unit and system tests
-# run on Qt's offscreen platform; desktop tests run in a virtual display of their own that scripts/xrun makes.
+# run on Qt's offscreen platform; desktop tests run in a virtual display of their own that scripts/xrun makes,
+# once under each of WINDOW_MANAGERS (xfwm4 when none is named): NAME under the first, NAME_<other> under the others.
 function(tutorial_add_test name label)
-    cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBRARIES;ENVIRONMENT;WINDOW_MANAGERS" ${ARGN})
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()
@@ -12,17 +22,36 @@ function(tutorial_add_test name label)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_compile_definitions(${name} PRIVATE
         TUTORIAL_PROGRAM="$<TARGET_FILE:Tutorial>" TUTORIAL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-    if(label STREQUAL "desktop")
-        add_test(NAME ${name} COMMAND "${CMAKE_SOURCE_DIR}/scripts/xrun" $<TARGET_FILE:${name}>)
-        set(environment "QT_QPA_PLATFORM=xcb")
-    else()
-        add_test(NAME ${name} COMMAND ${name})
-        set(environment "QT_QPA_PLATFORM=offscreen")
-    endif()
     if(label STREQUAL "system" OR label STREQUAL "desktop")
         add_dependencies(${name} Tutorial)
     endif()
-    list(APPEND environment "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
-         "UBSAN_OPTIONS=print_stacktrace=1" ${arg_ENVIRONMENT})
-    set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
+
+    if(label STREQUAL "desktop")
+        tutorial_add_desktop_run(${name} "${arg_WINDOW_MANAGERS}" ${arg_TIMEOUT} "${arg_ENVIRONMENT}" $<TARGET_FILE:${name}>)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${arg_TIMEOUT}
+            ENVIRONMENT "${TUTORIAL_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${runtime_dir};${arg_ENVIRONMENT}")
+    endif()
+endfunction()
+
+# tutorial_add_desktop_run(NAME "window managers" timeout "environment" COMMAND...)
+#
+# Registers a command as desktop tests, one under each window manager. tutorial_add_test uses it for test programs.
+function(tutorial_add_desktop_run name window_managers timeout environment)
+    # The display ends before ctest loses patience, so that nothing of it stays behind.
+    math(EXPR limit "${timeout} - 10")
+    if(NOT window_managers)
+        set(window_managers xfwm4)
+    endif()
+    list(GET window_managers 0 first)
+    foreach(manager IN LISTS window_managers)
+        set(test ${name})
+        if(NOT manager STREQUAL first)
+            string(APPEND test "_${manager}")
+        endif()
+        add_test(NAME ${test} COMMAND "${CMAKE_SOURCE_DIR}/scripts/xrun" ${ARGN})
+        set_tests_properties(${test} PROPERTIES LABELS desktop TIMEOUT ${timeout}
+            ENVIRONMENT "${TUTORIAL_TEST_ENVIRONMENT};WM=${manager};LIMIT=${limit};${environment}")
+    endforeach()
 endfunction()

@@ -1,0 +1,95 @@
+"""What scripts/check-includes finds in small projects made here, sound ones and broken ones."""
+
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+SCRIPT = Path(__file__).resolve().parents[2] / "scripts" / "check-includes"
+
+
+class CheckIncludes(unittest.TestCase):
+    def check(self, files):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, text in files.items():
+                path = Path(folder, name)
+                path.parent.mkdir(parents=True, exist_ok=True)
+                path.write_text(text, encoding="utf-8")
+            run = subprocess.run([sys.executable, SCRIPT, folder], capture_output=True, text=True, check=False)
+        self.assertEqual(run.stderr, "")
+        return run.returncode, run.stdout.splitlines()
+
+    def assertSound(self, files):
+        self.assertEqual(self.check(files), (0, []))
+
+    def assertBroken(self, files, *complaints):
+        status, lines = self.check(files)
+        self.assertEqual(status, 1)
+        self.assertEqual(lines, list(complaints))
+
+    def test_downward_includes_and_qt_are_sound(self):
+        self.assertSound({
+            "main.cpp": '#include "Tutorial/Manager.h"\n#include <QApplication>\n',
+            "cpp/Tutorial/Manager.h": '#pragma once\n#include "Tutorial/overlay/Arrow.h"\n#include "tool/Log.h"\n',
+            "cpp/Tutorial/Manager.cpp": '#include "Manager.h"\n#include "Manager.moc"\n#include "moc_Manager.cpp"\n',
+            "cpp/Tutorial/overlay/Arrow.h": '#include "TutorialFont/Font.h"\n',
+            "cpp/TutorialFont/Font.h": "#include <QFont>\n",
+            "cpp/tool/Log.h": "",
+            "practice/Editor.cpp": '#include "window/Window.h"\n',
+            "practice/window/Window.h": "",
+            "authoring/check.cpp": '#include "tool/Log.h"\n',
+        })
+
+    def test_an_upward_include_is_named_with_its_line(self):
+        self.assertBroken(
+            {"cpp/tool/Log.h": '#pragma once\n\n#include "Tutorial/Manager.h"\n', "cpp/Tutorial/Manager.h": ""},
+            "cpp/tool/Log.h:3: cpp/tool may not include cpp/Tutorial/Manager.h (allowed: nothing but Qt)")
+
+    def test_an_include_of_a_neighbour_is_named(self):
+        self.assertBroken(
+            {"cpp/Tutorial/link/Frame.cpp": '#include "../overlay/Arrow.h"\n', "cpp/Tutorial/overlay/Arrow.h": ""},
+            "cpp/Tutorial/link/Frame.cpp:1: cpp/Tutorial/link may not include cpp/Tutorial/overlay/Arrow.h"
+            " (allowed: cpp/tool)")
+
+    def test_a_room_below_may_not_include_the_room_around_it(self):
+        self.assertBroken(
+            {"cpp/Tutorial/preset/Patch.h": '#include "Tutorial/Manager.h"\n', "cpp/Tutorial/Manager.h": ""},
+            "cpp/Tutorial/preset/Patch.h:1: cpp/Tutorial/preset may not include cpp/Tutorial/Manager.h"
+            " (allowed: cpp/Tutorial/localisation, cpp/tool)")
+
+    def test_the_practice_editor_may_not_include_the_companion(self):
+        self.assertBroken(
+            {"practice/Host.cpp": "#include <tool/Log.h>\n", "cpp/tool/Log.h": ""},
+            "practice/Host.cpp:1: practice may not include cpp/tool/Log.h (allowed: nothing but Qt)")
+
+    def test_a_circle_is_named_once(self):
+        self.assertBroken(
+            {"cpp/tool/A.h": '#include "B.h"\n', "cpp/tool/B.h": '#include "tool/C.h"\n', "cpp/tool/C.h": '#include "A.h"\n'},
+            "cpp/tool/C.h:1: includes in a circle: cpp/tool/A.h -> cpp/tool/B.h -> cpp/tool/C.h -> cpp/tool/A.h")
+
+    def test_a_file_that_includes_itself_is_a_circle(self):
+        self.assertBroken(
+            {"cpp/tool/A.h": '#include "tool/A.h"\n'},
+            "cpp/tool/A.h:1: includes in a circle: cpp/tool/A.h -> cpp/tool/A.h")
+
+    def test_an_unknown_room_and_an_unknown_file_are_named(self):
+        self.assertBroken(
+            {"cpp/attic/Old.h": '#include "Gone.h"\n'},
+            'cpp/attic/Old.h:1: "Gone.h" is no file of the project; put Qt and the system in <>',
+            "cpp/attic/Old.h:1: stands in no room that scripts/check-includes knows")
+
+    def test_includes_in_comments_do_not_count(self):
+        self.assertSound({
+            "cpp/tool/A.h": '// #include "tool/B.h"\n/*\n#include "tool/B.h"\n*/\nconst char *s = "/*";\n',
+            "cpp/tool/B.h": '#include "tool/A.h"\n',
+        })
+
+    def test_a_folder_without_sources_is_not_sound(self):
+        status, lines = self.check({})
+        self.assertEqual(status, 1)
+        self.assertEqual(len(lines), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()
