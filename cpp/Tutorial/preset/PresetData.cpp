@@ -1,0 +1,168 @@
+#include "Tutorial/preset/PresetData.h"
+
+#include <algorithm>
+#include <exception>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QByteArray>
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+
+#include "tool/DataSupport.h"
+#include "tool/JsonWrapper.h"
+#include "tool/LogLine.h"
+#include "tool/StringPatch.h"
+
+namespace {
+
+constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
+constexpr const char *kFunction = "TutorialManager::onReceived";
+constexpr QChar kFieldSeparator(0x01);
+
+/// The text of each data file at one step, by the name of its patch file.
+using FileTexts = QHash<QString, std::string>;
+
+QString choosePatchRoot(const QString &applicationDirectory)
+{
+    const QString root = QStringLiteral("%1/resource/patch").arg(applicationDirectory);
+    if (DataSupport::fileExists(root)) {
+        return root;
+    }
+    return QStringLiteral("%1/tutorial-win/resource/patch").arg(applicationDirectory);
+}
+
+/// The texts after the step in @p dataDirectory, made from the @p previous step's; none when it failed. A
+/// file that has no patch in this step is gone.
+std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileTexts &previous)
+{
+    FileTexts texts;
+    const QFileInfoList entries = QDir(dataDirectory).entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    for (const QFileInfo &entry : entries) {
+        const QString path = QStringLiteral("%1/%2").arg(entry.absolutePath(), entry.fileName());
+        QByteArray patch;
+        if (!DataSupport::readFile(path, patch)) {
+            logWarning(kSource, kFunction, 1024) << "Failed to read" << path;
+            return std::nullopt;
+        }
+        static const std::string kNoBase;
+        const auto before = previous.constFind(entry.fileName());
+        const std::string &base = before == previous.constEnd() ? kNoBase : before.value();
+        std::string text;
+        try {
+            if (!StringPatch::ApplyStringPatch(base, patch, text)) {
+                logWarning(kSource, kFunction, 1033) << "Failed to ApplyStringPatch";
+                return std::nullopt;
+            }
+        } catch (const std::exception &error) {
+            logWarning(kSource, kFunction, 1036) << "Failed to ApplyStringPatch" << path << error.what();
+            return std::nullopt;
+        }
+        texts.insert(entry.fileName(), std::move(text));
+    }
+    return texts;
+}
+
+std::optional<FileTexts> replayChain(const QString &patchRoot, const QString &stepName)
+{
+    const QStringList steps = listPresetSteps(patchRoot);
+    // A name that is no step directory gives the index -1, so nothing is replayed.
+    const int last = steps.indexOf(stepName);
+    FileTexts texts;
+    for (int i = 0; i <= last; ++i) {
+        auto next = replayStep(QStringLiteral("%1/%2/data").arg(patchRoot, steps.at(i)), texts);
+        if (!next) {
+            return std::nullopt;
+        }
+        texts = *std::move(next);
+    }
+    return texts;
+}
+
+/// The rows of the sample table, found by the name of a data file.
+class RowFinder
+{
+public:
+    explicit RowFinder(const SampleTable &table)
+    {
+        for (auto it = table.cbegin(); it != table.cend(); ++it) {
+            m_patterns.emplace_back(QRegularExpression(QStringLiteral("^%1$").arg(it.key())), it.value());
+        }
+    }
+
+    [[nodiscard]] QList<QStringList> rowsFor(const QString &dataFile) const
+    {
+        const auto found =
+            std::find_if(m_patterns.cbegin(), m_patterns.cend(),
+                         [&dataFile](const auto &entry) { return entry.first.match(dataFile).hasMatch(); });
+        return found == m_patterns.cend() ? QList<QStringList>() : found->second;
+    }
+
+private:
+    std::vector<std::pair<QRegularExpression, QList<QStringList>>> m_patterns;
+};
+
+} // namespace
+
+QStringList listPresetSteps(const QString &patchRoot)
+{
+    static const QRegularExpression pattern(QStringLiteral("^step\\d+$"));
+    constexpr int kNumberIndex = 4;
+    QStringList steps;
+    const QFileInfoList entries = QDir(patchRoot).entryInfoList(QDir::Dirs | QDir::Hidden, QDir::NoSort);
+    for (const QFileInfo &entry : entries) {
+        if (pattern.match(entry.fileName()).hasMatch()) {
+            steps.append(entry.fileName());
+        }
+    }
+    std::sort(steps.begin(), steps.end(), [](const QString &left, const QString &right) {
+        return left.midRef(kNumberIndex).toInt() < right.midRef(kNumberIndex).toInt();
+    });
+    return steps;
+}
+
+QString presetDataReply(const QString &stepName, const QString &applicationDirectory,
+                        const SampleTable &table, const TranslateText &translate)
+{
+    static const QRegularExpression stepPattern(QStringLiteral("^step(\\d+)$"));
+    static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
+
+    if (!stepPattern.match(stepName).hasMatch()) {
+        logWarning(kSource, kFunction, 989) << "Failed to get stepNumber" << stepName;
+        return {};
+    }
+    const QString patchRoot = choosePatchRoot(applicationDirectory);
+    const QString stepPath = patchRoot + QLatin1Char('/') + stepName;
+    if (!DataSupport::fileExists(stepPath)) {
+        logWarning(kSource, kFunction, 1001) << "presetData not found" << stepPath << stepName;
+        return {};
+    }
+    const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
+    if (!texts) {
+        return {};
+    }
+
+    const RowFinder rowFinder(table);
+    QStringList members;
+    for (auto it = texts->cbegin(); it != texts->cend(); ++it) {
+        const QRegularExpressionMatch match = patchPattern.match(it.key());
+        if (!match.hasMatch()) {
+            logWarning(kSource, kFunction, 1050) << "Bad patch name" << it.key();
+            return {};
+        }
+        const QString dataFile = match.captured(1);
+        JsonWrapper wrapper(QString::fromStdString(it.value()));
+        runSampleRows(rowFinder.rowsFor(dataFile), translate, wrapper);
+        members.append(JsonWrapper::getJsonString(QStringLiteral("data/%1").arg(dataFile)) +
+                       QLatin1Char(':') + JsonWrapper::getJsonString(wrapper.toJson(false)));
+    }
+    if (members.isEmpty()) {
+        return {};
+    }
+    return QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{') +
+           members.join(QLatin1Char(',')) + QLatin1Char('}');
+}
