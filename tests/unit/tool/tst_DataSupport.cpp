@@ -1,0 +1,216 @@
+#include "LogCapture.h"
+#include "tool/DataSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString messageSource()
+{
+    return QStringLiteral("..\\..\\tutorial\\cpp\\tool\\DataSupport");
+}
+
+QByteArray allBytes()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 256; ++i)
+        bytes.append(char(i));
+    return bytes;
+}
+
+} // namespace
+
+class tst_DataSupport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesAndReadsBack_data();
+    void writesAndReadsBack();
+    void readLogsSizeAndCount();
+    void writeIsSilentWhenItSucceeds();
+    void readOfMissingFileLeavesBytesAlone();
+    void readOfDirectoryFails();
+    void readThatEndsEarlyKeepsTheFilesSize();
+    void readsResources();
+    void writeToMissingDirectoryFails();
+    void writeToReadOnlyPlaceFails();
+    void writeToFullDeviceFails_data();
+    void writeToFullDeviceFails();
+    void writeTruncates();
+    void existsForFilesAndDirectories();
+    void resourcePathPutsTheNameBehindTheRoot();
+
+private:
+    [[nodiscard]] QString path(const QString &name) const { return m_directory.filePath(name); }
+
+    QTemporaryDir m_directory;
+};
+
+void tst_DataSupport::writesAndReadsBack_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("one zero byte") << QByteArray(1, '\0');
+    QTest::newRow("every byte") << allBytes();
+    QTest::newRow("line breaks") << QByteArray("a\r\nb\nc\r");
+    QTest::newRow("3 MB") << allBytes().repeated(12 * 1024);
+}
+
+void tst_DataSupport::writesAndReadsBack()
+{
+    QFETCH(QByteArray, bytes);
+    const QString file = path(QStringLiteral("round-trip"));
+    QVERIFY(DataSupport::writeFile(file, bytes));
+    QCOMPARE(QFileInfo(file).size(), qint64(bytes.size()));
+    QByteArray read("something else");
+    QVERIFY(DataSupport::readFile(file, read));
+    QCOMPARE(read, bytes);
+}
+
+void tst_DataSupport::readLogsSizeAndCount()
+{
+    const QString file = path(QStringLiteral("logged"));
+    QVERIFY(DataSupport::writeFile(file, "12345"));
+    QByteArray bytes;
+    LogCapture log;
+    QVERIFY(DataSupport::readFile(file, bytes));
+    QCOMPARE(log.debugs(), QStringList({messageSource() + QStringLiteral(" DataSupport::readFile 137 5"),
+                                        messageSource() + QStringLiteral(" DataSupport::readFile 141 5 5")}));
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_DataSupport::writeIsSilentWhenItSucceeds()
+{
+    LogCapture log;
+    QVERIFY(DataSupport::writeFile(path(QStringLiteral("silent")), "12345"));
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_DataSupport::readOfMissingFileLeavesBytesAlone()
+{
+    const QString file = path(QStringLiteral("missing"));
+    QByteArray bytes("as it was");
+    LogCapture log;
+    QVERIFY(!DataSupport::readFile(file, bytes));
+    QCOMPARE(bytes, QByteArray("as it was"));
+    QCOMPARE(log.lines(), log.warnings());
+    QCOMPARE(
+        log.warnings(),
+        QStringList{
+            QStringLiteral("%1 DataSupport::readFile 133 Failed to open \"%2\"").arg(messageSource(), file)});
+}
+
+void tst_DataSupport::readOfDirectoryFails()
+{
+    QByteArray bytes;
+    LogCapture log;
+    QVERIFY(!DataSupport::readFile(m_directory.path(), bytes));
+    QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open")));
+}
+
+void tst_DataSupport::readThatEndsEarlyKeepsTheFilesSize()
+{
+    // The kernel gives its attribute files the size of a page, and their text when read.
+    const QString file = QStringLiteral("/sys/devices/system/cpu/online");
+    const qint64 size = QFileInfo(file).size();
+    QByteArray text;
+    {
+        QFile whole(file);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        text = whole.readAll();
+    }
+    QVERIFY(text.size() < size);
+
+    QByteArray bytes("something else");
+    LogCapture log;
+    QVERIFY(!DataSupport::readFile(file, bytes));
+    QCOMPARE(qint64(bytes.size()), size);
+    QCOMPARE(bytes, text + QByteArray(int(size) - text.size(), '\0'));
+    QCOMPARE(
+        log.debugs().constLast(),
+        QStringLiteral("%1 DataSupport::readFile 141 %2 %3").arg(messageSource()).arg(text.size()).arg(size));
+    QCOMPARE(log.warnings(),
+             QStringList{QStringLiteral("%1 DataSupport::readFile 143 read bytes differs %2 %3")
+                             .arg(messageSource())
+                             .arg(text.size())
+                             .arg(size)});
+}
+
+void tst_DataSupport::readsResources()
+{
+    QByteArray bytes;
+    QVERIFY(DataSupport::readFile(DataSupport::resourcePath(QStringLiteral("qml/Tutorial/TutorialList.js")),
+                                  bytes));
+    QVERIFY(!bytes.isEmpty());
+}
+
+void tst_DataSupport::writeToMissingDirectoryFails()
+{
+    const QString file = path(QStringLiteral("missing/file"));
+    LogCapture log;
+    QVERIFY(!DataSupport::writeFile(file, "12345"));
+    QCOMPARE(log.lines(), QStringList{QStringLiteral("%1 DataSupport::writeFile 153 Failed to open \"%2\"")
+                                          .arg(messageSource(), file)});
+    QVERIFY(!QFileInfo::exists(file));
+}
+
+void tst_DataSupport::writeToReadOnlyPlaceFails()
+{
+    LogCapture log;
+    QVERIFY(!DataSupport::writeFile(QStringLiteral(":/qml/Tutorial/TutorialList.js"), "12345"));
+    QVERIFY(log.contains(QStringLiteral("DataSupport::writeFile 153 Failed to open")));
+}
+
+void tst_DataSupport::writeToFullDeviceFails_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("few bytes") << 5;
+    QTest::newRow("many bytes") << 1000000;
+}
+
+void tst_DataSupport::writeToFullDeviceFails()
+{
+    QFETCH(int, size);
+    LogCapture log;
+    QVERIFY(!DataSupport::writeFile(QStringLiteral("/dev/full"), QByteArray(size, 'x')));
+    QCOMPARE(log.lines(),
+             QStringList{QStringLiteral("%1 DataSupport::writeFile 160 write bytes differs -1 %2")
+                             .arg(messageSource())
+                             .arg(size)});
+}
+
+void tst_DataSupport::writeTruncates()
+{
+    const QString file = path(QStringLiteral("shrinks"));
+    QVERIFY(DataSupport::writeFile(file, "a long text"));
+    QVERIFY(DataSupport::writeFile(file, "short"));
+    QCOMPARE(QFileInfo(file).size(), qint64(5));
+    QVERIFY(DataSupport::writeFile(file, QByteArray()));
+    QCOMPARE(QFileInfo(file).size(), qint64(0));
+}
+
+void tst_DataSupport::existsForFilesAndDirectories()
+{
+    const QString file = path(QStringLiteral("exists"));
+    QVERIFY(!DataSupport::fileExists(file));
+    QVERIFY(DataSupport::writeFile(file, QByteArray()));
+    QVERIFY(DataSupport::fileExists(file));
+    QVERIFY(DataSupport::fileExists(m_directory.path()));
+    QVERIFY(DataSupport::fileExists(QStringLiteral(":/qml/Tutorial/TutorialList.js")));
+    QVERIFY(!DataSupport::fileExists(QString()));
+}
+
+void tst_DataSupport::resourcePathPutsTheNameBehindTheRoot()
+{
+    QCOMPARE(DataSupport::resourcePath(QStringLiteral("icon/undo.png")), QStringLiteral(":/icon/undo.png"));
+    QCOMPARE(DataSupport::resourcePath(QString()), QStringLiteral(":/"));
+}
+
+QTEST_GUILESS_MAIN(tst_DataSupport)
+#include "tst_DataSupport.moc"
