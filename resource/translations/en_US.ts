@@ -17,17 +17,491 @@
     </message>
   </context>
   <context>
+    <name>TutorialManager</name>
+    <message>
+      <source>unterminated "...": </source>
+      <translation>unterminated "...": </translation>
+    </message>
+    <message>
+      <source>not matched %1...%2: </source>
+      <translation>not matched %1...%2: </translation>
+    </message>
+    <message>
+      <source>not found %1 or %2: </source>
+      <translation>not found %1 or %2: </translation>
+    </message>
+    <message>
+      <source>unable to parse as string: </source>
+      <translation>unable to parse as string: </translation>
+    </message>
+    <message>
+      <source>not closed %1: </source>
+      <translation>not closed %1: </translation>
+    </message>
+    <message>
+      <source>Failed to save translation.</source>
+      <translation>Failed to save translation.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialEditor::Manager</name>
+    <message>
+      <source>Failed to save.</source>
+      <translation>Failed to save.</translation>
+    </message>
+    <message>
+      <source>Tutorial not loaded yet.</source>
+      <translation>Tutorial not loaded yet.</translation>
+    </message>
+    <message>
+      <source>folder</source>
+      <translation>folder</translation>
+    </message>
+    <message>
+      <source>item</source>
+      <translation>item</translation>
+    </message>
+    <message>
+      <source>No CR/NF found: %1</source>
+      <translation>No CR/NF found: %1</translation>
+    </message>
+    <message>
+      <source>closeMarker(%1) not found (l:%3): %2</source>
+      <translation>closeMarker(%1) not found (l:%3): %2</translation>
+    </message>
+    <message>
+      <source>qsTr/QT_TRANSLATE_NOOP not closed: %1</source>
+      <translation>qsTr/QT_TRANSLATE_NOOP not closed: %1</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialEditor::Model</name>
+    <message>
+      <source>No CR/NF found: %1</source>
+      <translation>No CR/NF found: %1</translation>
+    </message>
+    <message>
+      <source>closeMarker(%1) not found (l:%3): %2</source>
+      <translation>closeMarker(%1) not found (l:%3): %2</translation>
+    </message>
+    <message>
+      <source>qsTr/QT_TRANSLATE_NOOP not closed: %1</source>
+      <translation>qsTr/QT_TRANSLATE_NOOP not closed: %1</translation>
+    </message>
+  </context>
+  <context>
+    <name>UndoRedo</name>
+    <message>
+      <source>&amp;Undo</source>
+      <translation>&amp;Undo</translation>
+    </message>
+    <message>
+      <source>&amp;Redo</source>
+      <translation>&amp;Redo</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialList</name>
     <message>
       <source>#1</source>
-      <translation>1</translation>
+      <translation>Your first map</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>A person on the map</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Doors and treasure chests</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Event pages</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>A conversation with choices</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>The hero and the database</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>A town with a shop and an inn</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Travelling between maps</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Switches and variables</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Music and backdrops</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Guards on patrol</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>A walk through the database</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Items, weapons and armour</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Enemies and random encounters</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Classes, skills and traits</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>The boss battle</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Troops and battle events</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>A cut scene</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Finishing touches</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>Welcome!</translation>
+      <translation>Welcome! In this lesson you draw your first map and find your way around the map view.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>From here on an arrow shows where to act, and the picture beside it shows how: click, double-click, right-click or type.
+When you see “Next”, just read, then click it.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>A game begins with a project. Click “New”.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Type a name for your game here, then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Click “OK”. The project is made at the location shown above.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>The files are being copied. Wait a moment: the lesson goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>This is the map view. It shows the map that is open, here a village. Players will walk around on what you draw.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>These are the tiles: the pieces that maps are put together from. The tabs above sort them into “Ground”, “Nature” and “Buildings”.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>These are the drawing tools, from “Pencil” to “Eraser”. You will try them all on a map of your own.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>All maps of your game are in this list. Four came with the project. The highlighted one is open.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Now make a map of your own. The picture above this text means a right click. In many places it opens a menu.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Right-click “Oasis”, the last map in the list. A menu opens.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Click “New map…”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Type a name for your map, such as “Meadow”, and press Enter. The new map opens at once.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>This is your map, still untouched. First you cover the ground, then you add water and a tree.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click “Grass” in the list of tiles.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “Fill”. This tool covers a whole area at once.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click the map. Grass covers all of it.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Click “Water”.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Rectangle”. It draws areas with straight edges.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Press the mouse button here, drag to the lower right and let go. That is your pond.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Tall grass”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Ellipse”. It draws round areas in the same way.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Press here and drag to the lower right again. A round patch of tall grass appears.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>A map has three layers. Tiles on a higher layer cover the lower ones but do not replace them. So trees go on a layer above the ground.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “Layer 2”. What you draw from now on lies above the ground.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click the “Nature” tab. It holds trees, bushes and flowers.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “Tree”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Click “Pencil”. It draws tile by tile.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click here to plant a tree.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click “Eraser”. It takes tiles away from the layer that you work on.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click the tree. It is gone, but the grass below it stays.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Click “Undo” to bring the tree back. Other strokes can be taken back in the same way.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “Zoom in” to see your map more closely.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “Full size” to go back to the normal view.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>“Map” is the mode for drawing. People and doors are made in the mode “Events”, which the next lesson is about.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Well drawn! Next you change the settings of a map and add more maps.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Double-click your map in the list. Its properties open.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Type the name that players will see here, and press Enter.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>The list of tiles has a menu of its own. With it you can give all tiles another look.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Right-click the list of tiles.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click “Change the tile set…”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click the picture beside “Tile set”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Click “Autumn”. The picture on the right shows how it looks.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Your map wears autumn colours now. Click “Bush”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>You still hold the eraser. Click “Pencil” again.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Press the left mouse button here. The pencil draws the moment you press.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Right-click the list of tiles once more, to see how to leave a menu without choosing.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “Flowers”, outside the menu. The menu closes and the tile is chosen.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Press here, drag to the right and let go. Flowers grow all along the way.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “Village”, the first map in the list. It opens in the map view.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Right-click this map. Its menu opens.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click “Map properties…”. It opens the same window as a double click.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Type a new name for the village here and press Enter.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Right-click your own map and look at the last entry: “Delete map” removes a map and all that is drawn on it.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Better keep your map. Click “Oasis”: the menu closes and that map opens.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click “Load a sample map…”. It adds a map that is already drawn.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>The maps to choose from are on the left. This picture shows the one that is chosen.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Double-click “Snow field”. The map is added to your game and opens at once.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click “Load a sample map…”.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>This time click “OK”. It adds the map that is chosen in the list.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “Snow field”. You can go from map to map like this at any time.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>The map view has a menu, too. It is about the map that you see.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Right-click the map.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Click “Map properties…”.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Every map has its own tile set. Click the picture to see which one the snow field uses.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>It is “Winter”, which suits the snow. Click “OK” to keep it.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Right-click the map once more.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>You have enough maps for now. Click “Cancel”: nothing is added.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>Click “Fir tree”.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Press the left mouse button here, in the snow. A fir tree stands there now.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Right-click the map. You need nothing from this menu, so the next click goes elsewhere.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “Grid”. The menu closes, and lines show where each tile begins.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Click your own map to go back to it.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Click “Map properties…” once more.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>“Width” and “Height” make a map larger or smaller. Click “Cancel” to leave it as it is.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Click “Save”. Your work is safe now.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>Done! You can draw a map, change its properties and add more maps.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>In the next lesson somebody moves onto the map. Click “Next” to finish.</translation>
     </message>
   </context>
 </TS>
