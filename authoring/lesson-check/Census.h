@@ -1,0 +1,26 @@
+#pragma once
+
+#include "lesson-check/Finding.h"
+#include "lesson-check/Lesson.h"
+
+#include <QJsonObject>
+
+/// The figures that each lesson of the library has to have: how many steps, in which windows, with which
+/// conditions and icons.
+class Census
+{
+public:
+    /// Reads the table from @p json: an object of one row per lesson. What is wrong with the file named @p
+    /// file is appended to @p findings.
+    Census(QString file, const QByteArray &json, Findings &findings);
+
+    /// Counts @p lesson and compares it with its row.
+    [[nodiscard]] Findings check(const Lesson &lesson) const;
+
+    /// The row that @p lesson has by its own count.
+    [[nodiscard]] static QJsonObject count(const Lesson &lesson);
+
+private:
+    QString m_file;
+    QJsonObject m_rows;
+};

@@ -1,0 +1,168 @@
+#include "lesson-check/LessonLibrary.h"
+
+#include "lesson-check/BubbleCheck.h"
+#include "lesson-check/Census.h"
+#include "lesson-check/FlowCheck.h"
+#include "lesson-check/ScenarioReader.h"
+#include "lesson-check/StepCheck.h"
+#include "lesson-check/TextCheck.h"
+#include "lesson-check/WindowSizes.h"
+#include "tool/DataSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+QString listFile()
+{
+    return QStringLiteral("resource/qml/Tutorial/TutorialList.js");
+}
+QString scenarioFile(const QString &name)
+{
+    return QStringLiteral("resource/qml/Tutorial/%1.js").arg(name);
+}
+QString bundleFile()
+{
+    return QStringLiteral("resource/scenarios.qrc");
+}
+QString windowFolder()
+{
+    return QStringLiteral("practice/windows");
+}
+QString censusFile()
+{
+    return QStringLiteral("authoring/lesson-check/census.json");
+}
+QStringList locales()
+{
+    return {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
+}
+
+} // namespace
+
+LessonLibrary::LessonLibrary(QString root)
+    : m_root(std::move(root))
+{
+}
+
+bool LessonLibrary::exists() const
+{
+    return QFile::exists(QDir(m_root).filePath(listFile()));
+}
+
+Findings LessonLibrary::check(bool complete)
+{
+    m_findings.clear();
+    m_catalogues.clear();
+    m_lessons.clear();
+    readList();
+    readCatalogues();
+    readLessons(complete);
+    checkShipped();
+    checkLessons();
+    checkContexts();
+    return m_findings;
+}
+
+QByteArray LessonLibrary::read(const QString &file)
+{
+    QByteArray bytes;
+    if (!DataSupport::readFile(QDir(m_root).filePath(file), bytes))
+        report(Finding::Kind::kError, file, 0, {}, QStringLiteral("the file cannot be read"));
+    return bytes;
+}
+
+void LessonLibrary::report(Finding::Kind kind, const QString &file, int line, const QString &item,
+                           const QString &text)
+{
+    m_findings.append({kind, file, line, item, {}, text});
+}
+
+void LessonLibrary::readList()
+{
+    m_entries = LessonList(listFile(), read(listFile()), m_findings).entries();
+}
+
+void LessonLibrary::readCatalogues()
+{
+    const QStringList all = locales();
+    for (const QString &locale : all) {
+        const QString file = QStringLiteral("resource/translations/%1.ts").arg(locale);
+        m_catalogues.append(Catalogue(file, locale, read(file), m_findings));
+    }
+}
+
+void LessonLibrary::readLessons(bool complete)
+{
+    for (const LessonEntry &entry : qAsConst(m_entries)) {
+        const QString file = scenarioFile(entry.filename);
+        if (!QFile::exists(QDir(m_root).filePath(file))) {
+            report(complete ? Finding::Kind::kError : Finding::Kind::kNote, listFile(), entry.line,
+                   entry.filename, QStringLiteral("the lesson has no scenario file yet"));
+            continue;
+        }
+        ScenarioReader reader(file);
+        const ScenarioSteps steps = reader.read(read(file));
+        m_findings += reader.findings();
+        m_lessons.append({entry.filename, file, steps});
+    }
+}
+
+void LessonLibrary::checkShipped()
+{
+    const QByteArray bundle = read(bundleFile());
+    const QDir folder(QDir(m_root).filePath(QStringLiteral("resource/qml/Tutorial")));
+    const QStringList names = folder.entryList({QStringLiteral("*.js")}, QDir::Files, QDir::Name);
+    for (const QString &name : names) {
+        const QString base = name.chopped(3);
+        const auto lists = [&](const LessonEntry &entry) {
+            return entry.filename == base;
+        };
+        if (scenarioFile(base) != listFile() && std::none_of(m_entries.cbegin(), m_entries.cend(), lists))
+            report(Finding::Kind::kError, scenarioFile(base), 0, {},
+                   QStringLiteral("the lesson is not in the list"));
+        if (!bundle.contains("<file>qml/Tutorial/" + name.toUtf8() + "</file>"))
+            report(Finding::Kind::kError, bundleFile(), 0, {},
+                   QStringLiteral("the file qml/Tutorial/%1 is not in the bundle").arg(name));
+    }
+}
+
+void LessonLibrary::checkLessons()
+{
+    const WindowSizes windows(QDir(m_root).filePath(windowFolder()), windowFolder(), m_findings);
+    const Census census(censusFile(), read(censusFile()), m_findings);
+    BubbleCheck bubble;
+    for (const Lesson &lesson : qAsConst(m_lessons)) {
+        m_findings += checkSteps(lesson, windows);
+        m_findings += checkFlow(lesson);
+        m_findings += census.check(lesson);
+        for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
+            m_findings += checkTexts(lesson, catalogue);
+            m_findings += bubble.check(catalogue, lesson.name);
+        }
+    }
+    for (const Catalogue &catalogue : qAsConst(m_catalogues))
+        m_findings += checkTitles(listFile(), m_entries, catalogue);
+    m_findings += checkLanguages(m_catalogues);
+}
+
+void LessonLibrary::checkContexts()
+{
+    static const QRegularExpression lessonName(QStringLiteral("^TutorialStep\\d+$"));
+    for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
+        const QStringList contexts = catalogue.contexts();
+        for (const QString &context : contexts) {
+            const auto isIt = [&](const Lesson &lesson) {
+                return lesson.name == context;
+            };
+            if (lessonName.match(context).hasMatch() &&
+                std::none_of(m_lessons.cbegin(), m_lessons.cend(), isIt))
+                report(Finding::Kind::kError, catalogue.file(), 0, context,
+                       QStringLiteral("no lesson has this name, so its texts are never used"));
+        }
+    }
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "lesson-check/Catalogue.h"
+#include "lesson-check/Finding.h"
+#include "lesson-check/Lesson.h"
+#include "lesson-check/LessonList.h"
+
+/// The lessons, catalogues and window descriptions of a source tree, and the check of all of them together.
+class LessonLibrary
+{
+public:
+    /// @p root: the directory that holds resource/, practice/ and authoring/.
+    explicit LessonLibrary(QString root);
+
+    /// Whether there is a list of lessons below the root at all.
+    [[nodiscard]] bool exists() const;
+
+    /// Reads everything and returns what is wrong, in an order that does not change from run to run. A lesson
+    /// of the list that has no file yet is a note, and an error when the library is to be @p complete. Needs
+    /// a QGuiApplication, to lay out the hints.
+    [[nodiscard]] Findings check(bool complete);
+
+private:
+    [[nodiscard]] QByteArray read(const QString &file);
+    void report(Finding::Kind kind, const QString &file, int line, const QString &item, const QString &text);
+    void readList();
+    void readCatalogues();
+    void readLessons(bool complete);
+    void checkShipped();
+    void checkLessons();
+    void checkContexts();
+
+    QString m_root;
+    Findings m_findings;
+    QVector<LessonEntry> m_entries;
+    QVector<Catalogue> m_catalogues;
+    QVector<Lesson> m_lessons;
+};

@@ -1,0 +1,243 @@
+#include "lesson-check/ScenarioReader.h"
+
+#include "lesson-check/SourceLines.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <array>
+#include <functional>
+
+namespace {
+
+/// Puts a value into its member; false when the value is not of the member's kind.
+using Setter = std::function<bool(ScenarioStep &, const QString &)>;
+
+struct Field
+{
+    QString name;
+    QString kind;
+    Setter set;
+};
+
+Setter integer(int ScenarioStep::*member)
+{
+    return [member](ScenarioStep &step, const QString &value) {
+        static const QRegularExpression form(QStringLiteral("^-?(0|[1-9][0-9]*)$"));
+        bool fits = false;
+        step.*member = value.toInt(&fits);
+        return fits && form.match(value).hasMatch();
+    };
+}
+
+Setter boolean(bool ScenarioStep::*member)
+{
+    return [member](ScenarioStep &step, const QString &value) {
+        step.*member = value == QLatin1String("true");
+        return step.*member || value == QLatin1String("false");
+    };
+}
+
+Setter text(QString ScenarioStep::*member)
+{
+    return [member](ScenarioStep &step, const QString &value) {
+        const QJsonArray array = QJsonDocument::fromJson("[" + value.toUtf8() + "]").array();
+        step.*member = array.at(0).toString();
+        return array.size() == 1 && array.at(0).isString() && value == value.trimmed();
+    };
+}
+
+bool setHint(ScenarioStep &step, const QString &value)
+{
+    static const QRegularExpression form(QStringLiteral("^qsTr\\(\"#([1-9][0-9]*)\"\\)$"));
+    const QRegularExpressionMatch match = form.match(value);
+    if (match.hasMatch())
+        step.hint = match.captured(1).toInt();
+    return match.hasMatch();
+}
+
+const std::array<Field, 15> &fields()
+{
+    const QString number = QStringLiteral("a whole number");
+    const QString words = QStringLiteral("a text in double quotes");
+    const QString truth = QStringLiteral("true or false");
+    static const std::array<Field, 15> all = {{
+        {QStringLiteral("id"), number, integer(&ScenarioStep::id)},
+        {QStringLiteral("name"), words, text(&ScenarioStep::name)},
+        {QStringLiteral("folder"), truth, boolean(&ScenarioStep::folder)},
+        {QStringLiteral("translationId"), number, integer(&ScenarioStep::translationId)},
+        {QStringLiteral("x"), number, integer(&ScenarioStep::x)},
+        {QStringLiteral("y"), number, integer(&ScenarioStep::y)},
+        {QStringLiteral("windowKey"), words, text(&ScenarioStep::windowKey)},
+        {QStringLiteral("condition"), words, text(&ScenarioStep::condition)},
+        {QStringLiteral("hint"), QStringLiteral("qsTr(\"#N\")"), setHint},
+        {QStringLiteral("icon"), words, text(&ScenarioStep::icon)},
+        {QStringLiteral("jump"), number, integer(&ScenarioStep::jump)},
+        {QStringLiteral("jumpNo"), number, integer(&ScenarioStep::jumpNo)},
+        {QStringLiteral("command"), words, text(&ScenarioStep::command)},
+        {QStringLiteral("showArrow"), truth, boolean(&ScenarioStep::showArrow)},
+        {QStringLiteral("prohibited"), truth, boolean(&ScenarioStep::prohibited)},
+    }};
+    return all;
+}
+
+int fieldIndex(const QString &name)
+{
+    const auto &all = fields();
+    for (int i = 0; i < static_cast<int>(all.size()); ++i) {
+        if (all.at(static_cast<std::size_t>(i)).name == name)
+            return i;
+    }
+    return -1;
+}
+
+const Field &field(int index)
+{
+    return fields().at(static_cast<std::size_t>(index));
+}
+
+QString head()
+{
+    return QStringLiteral("var scenario = [");
+}
+QString tail()
+{
+    return QStringLiteral("];");
+}
+QString pad()
+{
+    return QStringLiteral("    ");
+}
+QString open()
+{
+    return pad() + QLatin1Char('{');
+}
+QString close()
+{
+    return pad() + QLatin1Char('}');
+}
+
+bool closesItem(const QString &line)
+{
+    return line == close() || line == close() + QLatin1Char(',');
+}
+
+} // namespace
+
+ScenarioReader::ScenarioReader(QString file)
+    : m_file(std::move(file))
+{
+}
+
+ScenarioSteps ScenarioReader::read(const QByteArray &bytes)
+{
+    m_at = 0;
+    m_findings.clear();
+    m_lines = SourceLines(m_file, bytes, SourceLines::LineEnd::kAny, m_findings).lines();
+
+    ScenarioSteps steps;
+    if (m_lines.constFirst() == head())
+        ++m_at;
+    else
+        report(0, nullptr, {}, QStringLiteral("the first line has to be \"%1\"").arg(head()));
+    while (m_at < m_lines.size() && m_lines.at(m_at) != tail()) {
+        if (m_lines.at(m_at) == open()) {
+            readItem(steps);
+        } else {
+            report(
+                m_at, nullptr, {},
+                QStringLiteral("an item begins with a line of four blanks and \"{\", and nothing else stands "
+                               "between items"));
+            while (m_at < m_lines.size() && m_lines.at(m_at) != open() && m_lines.at(m_at) != tail())
+                ++m_at;
+        }
+    }
+    if (m_at != m_lines.size() - 1)
+        report(qMin(m_at, m_lines.size() - 1), nullptr, {},
+               QStringLiteral("\"%1\" has to be the last line, and to stand once").arg(tail()));
+    return steps;
+}
+
+void ScenarioReader::readItem(ScenarioSteps &steps)
+{
+    const int first = m_at + 1;
+    int end = first;
+    while (end < m_lines.size() && !closesItem(m_lines.at(end)) && m_lines.at(end) != open() &&
+           m_lines.at(end) != tail())
+        ++end;
+
+    ScenarioStep step;
+    step.line = first;
+    readFields(first, end - first, step);
+    m_at = end;
+    if (end < m_lines.size() && closesItem(m_lines.at(end))) {
+        const bool hasComma = m_lines.at(end).endsWith(QLatin1Char(','));
+        const bool isLast = end + 1 >= m_lines.size() || m_lines.at(end + 1) == tail();
+        if (hasComma && isLast)
+            report(end, &step, {}, QStringLiteral("no comma stands behind the last item"));
+        if (!hasComma && !isLast)
+            report(end, &step, {}, QStringLiteral("a comma has to stand between two items"));
+        ++m_at;
+    } else {
+        report(qMin(end, m_lines.size() - 1), &step, {},
+               QStringLiteral("the item has to be closed by a line of four blanks and \"}\""));
+    }
+    steps.append(step);
+}
+
+void ScenarioReader::readFields(int first, int count, ScenarioStep &step)
+{
+    static const QRegularExpression form(QStringLiteral("^\"([^\"]*)\":(.*)$"));
+    QSet<int> seen;
+    int latest = -1;
+    for (int i = 0; i < count; ++i) {
+        QString line = m_lines.at(first + i);
+        const bool isLast = i == count - 1;
+        const QString ending = isLast ? pad() : QStringLiteral(",");
+        if (line.endsWith(ending))
+            line.chop(ending.size());
+        else
+            report(first + i, &step, {},
+                   isLast ? QStringLiteral("the last field ends with four blanks and no comma")
+                          : QStringLiteral("every field but the last ends with a comma"));
+        const QRegularExpressionMatch match = form.match(line);
+        if (!match.hasMatch()) {
+            report(first + i, &step, {},
+                   QStringLiteral("a field has the form \"key\":value, without an indent"));
+            continue;
+        }
+        const QString name = match.captured(1);
+        const int index = fieldIndex(name);
+        if (index < 0) {
+            report(first + i, &step, name, QStringLiteral("no field has this name"));
+            continue;
+        }
+        if (seen.contains(index))
+            report(first + i, &step, name, QStringLiteral("the field stands twice"));
+        else if (index < latest)
+            report(first + i, &step, name,
+                   QStringLiteral("the field has to stand before \"%1\"").arg(field(latest).name));
+        seen.insert(index);
+        latest = qMax(latest, index);
+        readValue(first + i, index, match.captured(2), step);
+    }
+    for (int i = 0; i < static_cast<int>(fields().size()); ++i) {
+        if (!seen.contains(i))
+            report(first - 1, &step, field(i).name, QStringLiteral("the field is missing"));
+    }
+}
+
+void ScenarioReader::readValue(int line, int index, const QString &value, ScenarioStep &step)
+{
+    if (!field(index).set(step, value))
+        report(line, &step, field(index).name, QStringLiteral("%1 is not %2").arg(value, field(index).kind));
+}
+
+void ScenarioReader::report(int line, const ScenarioStep *step, const QString &name, const QString &text)
+{
+    const QString item =
+        step != nullptr && step->id >= 0 ? QStringLiteral("item %1").arg(step->id) : QString();
+    m_findings.append({Finding::Kind::kError, m_file, line + 1, item, name, text});
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+/// One item of a scenario file as it stands there, nothing resolved.
+struct ScenarioStep
+{
+    int line = 0; ///< of the item's opening brace, counted from 1
+    int id = -1;
+    QString name;
+    bool folder = false;
+    int translationId = -1;
+    int x = 0; ///< pixels, relative to the contents of the window, of the bubble's top left corner
+    int y = 0;
+    QString windowKey;
+    QString condition;
+    int hint = -1; ///< the number N of qsTr("#N")
+    QString icon;
+    int jump = -1;
+    int jumpNo = -1;
+    QString command;
+    bool showArrow = true;
+    bool prohibited = false;
+
+    /// Whether the step points at nothing.
+    [[nodiscard]] bool hasNoPosition() const { return x == kNowhere && y == kNowhere; }
+
+    static constexpr int kNowhere = -9999;
+};
+
+using ScenarioSteps = QVector<ScenarioStep>;

@@ -1,0 +1,118 @@
+#include "lesson-check/StepCheck.h"
+
+#include "lesson-check/Condition.h"
+
+#include <QPoint>
+#include <QRegularExpression>
+
+namespace {
+
+/// From the bubble's top left corner to the tip of its arrow, in pixels.
+constexpr QPoint kTip(38, 150);
+
+class StepChecker
+{
+public:
+    StepChecker(const Lesson &lesson, const WindowSizes &windows)
+        : m_lesson(lesson)
+        , m_windows(windows)
+    {
+    }
+
+    Findings run()
+    {
+        for (const ScenarioStep &step : m_lesson.steps) {
+            m_step = &step;
+            checkWindow();
+            checkPosition();
+            checkCondition();
+            checkRest();
+        }
+        return m_findings;
+    }
+
+private:
+    void report(const QString &field, const QString &text)
+    {
+        m_findings.append({Finding::Kind::kError, m_lesson.file, m_step->line,
+                           QStringLiteral("item %1").arg(m_step->id), field, text});
+    }
+
+    void checkWindow()
+    {
+        if (!m_windows.isKnown(m_step->windowKey))
+            report(QStringLiteral("windowKey"),
+                   QStringLiteral("no window has the key \"%1\"").arg(m_step->windowKey));
+    }
+
+    void checkPosition()
+    {
+        const QString x = QStringLiteral("x");
+        const QString y = QStringLiteral("y");
+        if (m_step->hasNoPosition())
+            return;
+        if (m_step->x == ScenarioStep::kNowhere || m_step->y == ScenarioStep::kNowhere) {
+            report(m_step->x == ScenarioStep::kNowhere ? y : x,
+                   QStringLiteral("a step without position has -9999 in both x and y"));
+            return;
+        }
+        const QSize size = m_windows.size(m_step->windowKey);
+        if (!m_windows.isKnown(m_step->windowKey) || size.isEmpty())
+            return;
+        const QPoint tip = QPoint(m_step->x, m_step->y) + kTip;
+        if (tip.x() < 0 || tip.x() >= size.width())
+            report(x, QStringLiteral("the arrow's tip would be at %1, outside the window's width of %2")
+                          .arg(tip.x())
+                          .arg(size.width()));
+        if (tip.y() < 0 || tip.y() >= size.height())
+            report(y, QStringLiteral("the arrow's tip would be at %1, outside the window's height of %2")
+                          .arg(tip.y())
+                          .arg(size.height()));
+    }
+
+    void checkCondition()
+    {
+        const Condition condition(m_step->condition);
+        if (!condition.problem().isEmpty())
+            report(QStringLiteral("condition"), condition.problem());
+        else if (!condition.windowKey().isEmpty() && !m_windows.isKnown(condition.windowKey()))
+            report(QStringLiteral("condition"),
+                   QStringLiteral("no window has the key \"%1\"").arg(condition.windowKey()));
+        if (condition.type() != QLatin1String("yesNo") && m_step->jumpNo != -1)
+            report(QStringLiteral("jumpNo"),
+                   QStringLiteral("only a step with the condition yesNo has a way for no"));
+    }
+
+    void checkRest()
+    {
+        static const QStringList icons = {QStringLiteral("click"),      QStringLiteral("doubleClick"),
+                                          QStringLiteral("rightClick"), QStringLiteral("eye"),
+                                          QStringLiteral("wait"),       QStringLiteral("keyboard")};
+        static const QRegularExpression command(QStringLiteral("^(|presetData,step[1-9][0-9]*)$"));
+        if (!icons.contains(m_step->icon))
+            report(QStringLiteral("icon"), QStringLiteral("\"%1\" is not an icon").arg(m_step->icon));
+        if (!command.match(m_step->command).hasMatch())
+            report(QStringLiteral("command"),
+                   QStringLiteral("\"%1\" is not of the form presetData,stepN").arg(m_step->command));
+        if (m_step->hint != m_step->translationId)
+            report(QStringLiteral("hint"), QStringLiteral("the hint shows text %1, the translationId says %2")
+                                               .arg(m_step->hint)
+                                               .arg(m_step->translationId));
+        if (m_step->folder)
+            report(QStringLiteral("folder"), QStringLiteral("a lesson has no folders"));
+        if (m_step->prohibited)
+            report(QStringLiteral("prohibited"), QStringLiteral("no step of a lesson is prohibited"));
+    }
+
+    const Lesson &m_lesson;
+    const WindowSizes &m_windows;
+    const ScenarioStep *m_step = nullptr;
+    Findings m_findings;
+};
+
+} // namespace
+
+Findings checkSteps(const Lesson &lesson, const WindowSizes &windows)
+{
+    return StepChecker(lesson, windows).run();
+}

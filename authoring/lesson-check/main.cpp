@@ -1,0 +1,68 @@
+#include "Tutorial/overlay/OverlayStyle.h"
+#include "lesson-check/LessonLibrary.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+enum ExitStatus { kClean = 0, kFindings = 1, kUsage = 2 };
+
+/// Keeps the programs' own log out of the report.
+void dropMessage(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/) {}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // it only measures text
+    qInstallMessageHandler(dropMessage);
+    QApplication application(argc, argv);
+    OverlayStyle::apply();
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Checks the lessons of a source tree: scenario files, catalogues, figures.\n"
+                       "Status 0: nothing is wrong. 1: something is. 2: the command line is."));
+    parser.addPositionalArgument(QStringLiteral("directory"),
+                                 QStringLiteral("the source tree, the current directory by default"),
+                                 QStringLiteral("[directory]"));
+    const QCommandLineOption complete(QStringLiteral("complete"),
+                                      QStringLiteral("every lesson of the list has to have its file"));
+    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("show this"));
+    parser.addOptions({complete, help});
+    const bool understood = parser.parse(QCoreApplication::arguments());
+    if (!understood || parser.positionalArguments().size() > 1) {
+        err << "lesson-check: "
+            << (understood ? QStringLiteral("One directory at most.") : parser.errorText()) << "\n\n"
+            << parser.helpText();
+        return kUsage;
+    }
+    if (parser.isSet(help)) {
+        out << parser.helpText();
+        return kClean;
+    }
+
+    const QString root = parser.positionalArguments().value(0, QStringLiteral("."));
+    LessonLibrary library(root);
+    if (!library.exists()) {
+        err << "lesson-check: " << root
+            << " has no resource/qml/Tutorial/TutorialList.js; name the source tree\n";
+        return kUsage;
+    }
+    const Findings findings = library.check(parser.isSet(complete));
+    for (const Finding &finding : findings)
+        out << finding.toString() << "\n";
+    const auto isError = [](const Finding &finding) {
+        return finding.kind == Finding::Kind::kError;
+    };
+    const auto errors = std::count_if(findings.cbegin(), findings.cend(), isError);
+    out << (errors == 0 ? QStringLiteral("no findings\n") : QStringLiteral("%1 findings\n").arg(errors));
+    return errors == 0 ? kClean : kFindings;
+}
