@@ -1,0 +1,116 @@
+#include "window/GameMap.h"
+
+#include <QRect>
+
+#include <cstdlib>
+
+namespace {
+
+QRect spanned(const QPoint &from, const QPoint &to)
+{
+    return QRect(QPoint(qMin(from.x(), to.x()), qMin(from.y(), to.y())),
+                 QPoint(qMax(from.x(), to.x()), qMax(from.y(), to.y())));
+}
+
+} // namespace
+
+GameMap GameMap::blank(const QSize &cells, int ground)
+{
+    GameMap map;
+    map.size = cells;
+    for (Layer &layer : map.layers)
+        layer.fill(kEmpty, cells.width() * cells.height());
+    map.layers[0].fill(ground);
+    return map;
+}
+
+bool GameMap::contains(const QPoint &cell) const
+{
+    return QRect(QPoint(), size).contains(cell);
+}
+
+int GameMap::tile(int layer, const QPoint &cell) const
+{
+    return contains(cell) ? layers[std::size_t(layer)][cell.y() * size.width() + cell.x()] : kEmpty;
+}
+
+void GameMap::setTile(int layer, const QPoint &cell, int tile)
+{
+    if (contains(cell))
+        layers[std::size_t(layer)][cell.y() * size.width() + cell.x()] = tile;
+}
+
+void GameMap::resize(const QSize &cells, int ground)
+{
+    GameMap resized = blank(cells, ground);
+    for (int layer = 0; layer < kLayers; ++layer) {
+        for (const QPoint &cell : rectangle(QPoint(), QPoint(cells.width() - 1, cells.height() - 1))) {
+            if (contains(cell))
+                resized.setTile(layer, cell, tile(layer, cell));
+        }
+    }
+    size = resized.size;
+    layers = resized.layers;
+}
+
+QVector<QPoint> GameMap::rectangle(const QPoint &from, const QPoint &to)
+{
+    const QRect rect = spanned(from, to);
+    QVector<QPoint> cells;
+    cells.reserve(rect.width() * rect.height());
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x)
+            cells.append({x, y});
+    }
+    return cells;
+}
+
+QVector<QPoint> GameMap::ellipse(const QPoint &from, const QPoint &to)
+{
+    const QRect rect = spanned(from, to);
+    const double middleX = (rect.left() + rect.right()) / 2.0;
+    const double middleY = (rect.top() + rect.bottom()) / 2.0;
+    QVector<QPoint> cells;
+    for (const QPoint &cell : rectangle(from, to)) {
+        const double x = (cell.x() - middleX) / (rect.width() / 2.0);
+        const double y = (cell.y() - middleY) / (rect.height() / 2.0);
+        if (x * x + y * y <= 1.0)
+            cells.append(cell);
+    }
+    return cells;
+}
+
+QVector<QPoint> GameMap::line(const QPoint &from, const QPoint &to)
+{
+    const QPoint way = to - from;
+    const int steps = qMax(1, qMax(std::abs(way.x()), std::abs(way.y())));
+    QVector<QPoint> cells;
+    for (int step = 0; step <= steps; ++step)
+        cells.append(from +
+                     QPoint(qRound(double(way.x()) * step / steps), qRound(double(way.y()) * step / steps)));
+    return cells;
+}
+
+QVector<QPoint> GameMap::connected(int layer, const QPoint &cell) const
+{
+    QVector<QPoint> cells;
+    if (!contains(cell))
+        return cells;
+    const int wanted = tile(layer, cell);
+    QVector<bool> seen(size.width() * size.height(), false);
+    const auto visit = [&](const QPoint &next) {
+        if (!contains(next) || tile(layer, next) != wanted || seen[next.y() * size.width() + next.x()])
+            return;
+        seen[next.y() * size.width() + next.x()] = true;
+        cells.append(next);
+    };
+    visit(cell);
+    for (int index = 0; index < cells.size(); ++index) {
+        const QPoint at = cells[index];
+        visit(at + QPoint(1, 0));
+        visit(at - QPoint(1, 0));
+        visit(at + QPoint(0, 1));
+        visit(at - QPoint(0, 1));
+    }
+    return cells;
+}
