@@ -1,0 +1,73 @@
+#pragma once
+
+#include "window/DescriptionSet.h"
+#include "window/EditorProject.h"
+#include "window/EditorWindow.h"
+#include "window/EditorWindows.h"
+#include "window/MapPainter.h"
+
+#include <QHash>
+#include <QTimer>
+
+#include <memory>
+
+/// All windows of the editor, built from their descriptions, and what is open of them. The windows exist from
+/// the start and are shown and hidden; the set owns them and the project behind them.
+class EditorWindowSet : public EditorWindows
+{
+    Q_OBJECT
+
+public:
+    /// Builds the windows described in @p folder with the texts of @p locale. Gives nullptr and adds a line
+    /// to
+    /// @p errors for each thing that is wrong with a file; each names the file, the place and the mend.
+    static std::unique_ptr<EditorWindowSet> create(const QString &locale, QStringList *errors,
+                                                   const QString &folder = QStringLiteral(":/windows"));
+    ~EditorWindowSet() override;
+
+    bool open(const QString &windowKey) override;
+    void close(const QString &windowKey) override;
+    [[nodiscard]] QStringList openWindows() const override;
+    [[nodiscard]] QPoint origin(const QString &windowKey) const override;
+    [[nodiscard]] QRect screenRect() const override;
+
+    [[nodiscard]] EditorProject *project() { return m_project.get(); }
+
+    /// The window, part or (by its name) context menu; nullptr when there is none. Owned by the set.
+    [[nodiscard]] EditorWindow *window(const QString &keyOrPopup) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    EditorWindowSet(DescriptionSet descriptions, ProjectData data, const QString &locale);
+
+    void build();
+    EditorWindow *add(const QString &name, const QSize &size, const QVector<ControlDescription> &controls,
+                      QWidget *parent, Qt::WindowFlags flags);
+    void place(EditorWindow *window, const WindowDescription &description) const;
+    void closeTop();
+    void showPopup(const QString &name, const QPoint &position);
+    void hidePopup();
+    void tellPlace(const QString &key);
+    void tellPlaces(EditorWindow *window);
+    void updateVisible();
+    void updateTitle();
+    void onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position);
+    void onCloseRequested(const QString &key);
+    void tellState(const QString &key, const char *state);
+    [[nodiscard]] EditorWindow *mainWindow() const;
+
+    DescriptionSet m_descriptions;
+    std::unique_ptr<EditorProject> m_project;
+    MapPainter m_painter;
+    EditorWindowContext m_context;
+    /// Windows and parts by key, context menus by name.
+    QHash<QString, EditorWindow *> m_windows;
+    std::unique_ptr<EditorWindow> m_main;
+    QHash<QString, QTimer *> m_timers;
+    QStringList m_stack;
+    EditorWindow *m_popup = nullptr;
+    QHash<QString, QPoint> m_toldOrigins;
+    bool m_visible = false;
+};

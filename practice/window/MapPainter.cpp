@@ -1,0 +1,69 @@
+#include "window/MapPainter.h"
+
+#include "window/TileDrawing.h"
+
+#include <QPainter>
+
+MapPainter::MapPainter(const ProjectData *data)
+    : m_data(data)
+{
+}
+
+QPixmap MapPainter::tile(int number, int tileSet, int pixels)
+{
+    const quint64 key = (quint64(number) << 32U) | (quint64(tileSet) << 16U) | quint64(pixels);
+    const auto kept = m_tiles.constFind(key);
+    if (kept != m_tiles.constEnd())
+        return *kept;
+    QPixmap pixmap = drawTile(m_data->tiles.value(number).drawing, pixels);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(pixmap.rect(), m_data->tileSets.value(tileSet).tint);
+    painter.end();
+    m_tiles.insert(key, pixmap);
+    return pixmap;
+}
+
+void MapPainter::drawMap(QPainter &painter, const GameMap &map, int cellPixels, const QRect &clip)
+{
+    const QRect cells = QRect(QPoint(clip.left() / cellPixels, clip.top() / cellPixels),
+                              QPoint(clip.right() / cellPixels, clip.bottom() / cellPixels))
+                            .intersected(QRect(QPoint(), map.size));
+    if (cells.isEmpty())
+        return;
+    for (int layer = 0; layer < GameMap::kLayers; ++layer) {
+        for (const QPoint &cell : GameMap::rectangle(cells.topLeft(), cells.bottomRight())) {
+            const int number = map.tile(layer, cell);
+            if (number != GameMap::kEmpty)
+                painter.drawPixmap(cell * cellPixels, tile(number, map.tileSet, cellPixels));
+        }
+    }
+}
+
+QPixmap MapPainter::tileSetPicture(int tileSet, const QSize &size)
+{
+    QPixmap picture(size);
+    picture.fill(Qt::white);
+    constexpr int kColumns = ProjectData::kTilesPerTab;
+    const int rows = m_data->tiles.size() / kColumns;
+    const int pixels = qMax(1, qMin(size.width() / kColumns, size.height() / qMax(1, rows)));
+    const QPoint start((size.width() - pixels * kColumns) / 2, (size.height() - pixels * rows) / 2);
+    QPainter painter(&picture);
+    for (int number = 0; number < m_data->tiles.size(); ++number) {
+        const QPoint at = start + QPoint(number % kColumns, number / kColumns) * pixels;
+        painter.drawPixmap(at, tile(number, tileSet, pixels));
+    }
+    return picture;
+}
+
+QPixmap MapPainter::mapPicture(const GameMap &map, const QSize &size)
+{
+    QPixmap picture(size);
+    picture.fill(Qt::white);
+    const int pixels = qMax(1, qMin(size.width() / map.size.width(), size.height() / map.size.height()));
+    const QSize whole = map.size * pixels;
+    QPainter painter(&picture);
+    painter.translate((size.width() - whole.width()) / 2, (size.height() - whole.height()) / 2);
+    drawMap(painter, map, pixels, QRect(QPoint(), whole));
+    return picture;
+}

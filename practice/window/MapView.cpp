@@ -1,0 +1,106 @@
+#include "window/MapView.h"
+
+#include "window/EditorProject.h"
+#include "window/MapPainter.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+MapView::MapView(EditorProject *project, MapPainter *painter, QWidget *parent)
+    : QWidget(parent)
+    , m_project(project)
+    , m_painter(painter)
+{
+    connect(project, &EditorProject::changed, this, &MapView::fitToMap);
+    connect(project, &EditorProject::cellsChanged, this, qOverload<>(&QWidget::update));
+    fitToMap();
+}
+
+void MapView::fitToMap()
+{
+    const GameMap *map = m_project->map();
+    setVisible(map != nullptr);
+    resize(map != nullptr ? map->size * m_project->cellPixels() : QSize());
+    update();
+}
+
+QPoint MapView::cellAt(const QPoint &position) const
+{
+    const int pixels = m_project->cellPixels();
+    return {position.x() / pixels, position.y() / pixels};
+}
+
+bool MapView::drawsOnRelease() const
+{
+    const EditorProject::Tool tool = m_project->tool();
+    return tool == EditorProject::Tool::kRectangle || tool == EditorProject::Tool::kEllipse;
+}
+
+void MapView::paintEvent(QPaintEvent *event)
+{
+    const GameMap *map = m_project->map();
+    if (map == nullptr)
+        return;
+    const int pixels = m_project->cellPixels();
+    QPainter painter(this);
+    painter.fillRect(event->rect(), QColor(0x30, 0x34, 0x3c));
+    m_painter->drawMap(painter, *map, pixels, event->rect());
+    if (m_project->hasGrid() || m_project->isEventMode()) {
+        painter.setPen(QColor(0, 0, 0, 70));
+        for (int x = pixels; x < width(); x += pixels)
+            painter.drawLine(x, 0, x, height());
+        for (int y = pixels; y < height(); y += pixels)
+            painter.drawLine(0, y, width(), y);
+    }
+    if (m_project->isEventMode()) {
+        painter.setPen(QPen(Qt::white, 3));
+        painter.drawRect(QRect(m_cursor * pixels, QSize(pixels, pixels)).adjusted(1, 1, -2, -2));
+    } else if (m_drawing && drawsOnRelease()) {
+        for (const QPoint &cell : m_project->cellsOfStroke(m_strokeStart, m_strokeEnd))
+            painter.fillRect(QRect(cell * pixels, QSize(pixels, pixels)), QColor(255, 255, 255, 110));
+    }
+}
+
+void MapView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_strokeStart = cellAt(event->pos());
+    m_strokeEnd = m_strokeStart;
+    if (m_project->isEventMode()) {
+        m_cursor = m_strokeStart;
+        update();
+    } else {
+        m_drawing = true;
+        m_project->beginStroke();
+        if (!drawsOnRelease())
+            m_project->paint(m_project->cellsOfStroke(m_strokeStart, m_strokeEnd));
+    }
+    Q_EMIT pressed();
+}
+
+void MapView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint cell = cellAt(event->pos());
+    if (!m_drawing || cell == m_strokeEnd)
+        return;
+    if (drawsOnRelease())
+        update();
+    else
+        m_project->paint(m_project->cellsOfStroke(m_strokeEnd, cell));
+    m_strokeEnd = cell;
+}
+
+void MapView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const bool inside = rect().contains(event->pos());
+    if (event->button() == Qt::RightButton && inside)
+        Q_EMIT menuRequested(event->globalPos());
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_drawing && drawsOnRelease())
+        m_project->paint(m_project->cellsOfStroke(m_strokeStart, m_strokeEnd));
+    m_drawing = false;
+    if (inside)
+        Q_EMIT clicked();
+}
