@@ -41,13 +41,13 @@ bool isFloatingButton(const QWidget *widget)
            qobject_cast<const QPushButton *>(widget) != nullptr;
 }
 
-void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &line, qreal radius)
+void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &line)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(fill);
     painter->setPen(QPen(line, 1.0));
-    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), kPanelRadius, kPanelRadius);
     painter->restore();
 }
 
@@ -55,11 +55,13 @@ void drawButton(QPainter *painter, const QStyleOptionButton &option)
 {
     const bool pressed = option.state.testFlag(QStyle::State_Sunken);
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    drawPanel(painter, option.rect,
-              pressed   ? kButtonPressed
-              : hovered ? kButtonHover
-                        : kButtonFill,
-              kButtonLine, kPanelRadius);
+    const bool reachedByKey = option.state.testFlag(QStyle::State_HasFocus) &&
+                              option.state.testFlag(QStyle::State_KeyboardFocusChange);
+    const QColor &fill = pressed ? kButtonPressed : hovered ? kButtonHover : kButtonFill;
+    drawPanel(painter, option.rect, fill, kButtonLine);
+    if (reachedByKey) {
+        drawPanel(painter, option.rect.adjusted(3, 3, -3, -3), fill, kButtonText);
+    }
     painter->setPen(kButtonText);
     painter->drawText(pressed ? option.rect.translated(0, 1) : option.rect,
                       Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
@@ -100,7 +102,7 @@ void OverlayStyle::drawControl(ControlElement element, const QStyleOption *optio
 {
     const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
     if (element == CE_ShapedFrame && (isHintText(widget) || isTooltipText(widget))) {
-        drawPanel(painter, option->rect, kPanelFill, kPanelLine, kPanelRadius);
+        drawPanel(painter, option->rect, kPanelFill, kPanelLine);
     } else if (element == CE_PushButton && button != nullptr && isFloatingButton(widget)) {
         drawButton(painter, *button);
     } else {

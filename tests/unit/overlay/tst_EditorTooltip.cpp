@@ -1,0 +1,388 @@
+#include "FakeOverlayHost.h"
+#include "Tutorial/overlay/EditorTooltip.h"
+#include "LogCapture.h"
+
+#include <QAbstractEventDispatcher>
+#include <QPointer>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QtTest>
+#include <limits>
+
+namespace {
+
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr int kMax = std::numeric_limits<int>::max();
+
+void tick(EditorTooltip *tooltip, int count = 1)
+{
+    for (int i = 0; i < count; ++i) {
+        QTimerEvent event(0);
+        QCoreApplication::sendEvent(tooltip, &event);
+    }
+}
+
+// An opacity is kept in 255 steps.
+int stepsOf(double opacity)
+{
+    return static_cast<int>(opacity * 255.0 + 0.001);
+}
+
+int steps(const EditorTooltip *tooltip)
+{
+    return qRound(tooltip->windowOpacity() * 255.0);
+}
+
+int counter(const EditorTooltip *tooltip, const char *name)
+{
+    return tooltip->getSettings().value(QLatin1String(name)).toInt();
+}
+
+} // namespace
+
+class TestEditorTooltip : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void isBuiltHidden();
+    void methodTableIsComplete();
+    void firstShowBuildsIt();
+    void laterShowUsesTheSame();
+    void isCentredOnItsTextEdit_data();
+    void isCentredOnItsTextEdit();
+    void textEditIsAsLargeAsItsDocument();
+    void emptyTextShowsTheWindowAlone();
+    void staysInvisibleForOneHundredTicks();
+    void fadesInStaysAndFadesOut();
+    void anotherShowRestarts();
+    void hiddenItStandsStill();
+    void emptyTextRunsThroughItsTimes();
+    void settingsHoldExactlyTheirKeys();
+    void settingsCarryAllButTheOpacity();
+    void settingsOfEmptyTextHideTheTextEdit();
+    void emptyMapReadsAsZero();
+    void anyPointIsTaken_data();
+    void anyPointIsTaken();
+    void changesAreLogged();
+    void closingForgetsIt();
+    void destructionEndsTheTimerAndLogs();
+
+private:
+    void show(const QString &text, int x = 300, int y = 200) { EditorTooltip::show(&m_host, text, x, y); }
+    EditorTooltip *tooltip() { return m_host.tooltip; }
+    QTextEdit *textEdit() { return m_host.tooltip->findChild<QTextEdit *>(); }
+
+    FakeOverlayHost m_host;
+};
+
+void TestEditorTooltip::init()
+{
+    m_host = FakeOverlayHost();
+}
+
+void TestEditorTooltip::cleanup()
+{
+    delete m_host.tooltip;
+    m_host.tooltip = nullptr;
+}
+
+void TestEditorTooltip::isBuiltHidden()
+{
+    m_host.tooltip = new EditorTooltip(nullptr, &m_host);
+    QVERIFY(tooltip()->isHidden());
+    QCOMPARE(tooltip()->geometry(), QRect(0, 0, 320, 240));
+    QCOMPARE(tooltip()->windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                                           Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+    QVERIFY(tooltip()->testAttribute(Qt::WA_TranslucentBackground));
+    QVERIFY(tooltip()->testAttribute(Qt::WA_ShowWithoutActivating));
+    QCOMPARE(textEdit()->lineWrapMode(), QTextEdit::NoWrap);
+    QCOMPARE(textEdit()->autoFormatting(), QTextEdit::AutoAll);
+    QCOMPARE(textEdit()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(textEdit()->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QVERIFY(textEdit()->windowFlags().testFlag(Qt::WindowTransparentForInput));
+    QVERIFY(!textEdit()->isWindow());
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(tooltip());
+    QCOMPARE(timers.size(), 1);
+    QCOMPARE(timers.first().interval, 10);
+    QCOMPARE(counter(tooltip(), "delay"), 0);
+    QCOMPARE(counter(tooltip(), "timeout"), 0);
+    QCOMPARE(counter(tooltip(), "fade"), 0);
+}
+
+void TestEditorTooltip::methodTableIsComplete()
+{
+    const QMetaObject &meta = EditorTooltip::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("changeEvent(QEvent*)"));
+    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+}
+
+void TestEditorTooltip::firstShowBuildsIt()
+{
+    show(QStringLiteral("Map list"));
+    QVERIFY(tooltip() != nullptr);
+    QVERIFY(tooltip()->isVisible());
+    QVERIFY(textEdit()->isVisible());
+    QCOMPARE(textEdit()->toPlainText(), QStringLiteral("Map list"));
+    QCOMPARE(tooltip()->windowOpacity(), 0.0);
+    QCOMPARE(counter(tooltip(), "delay"), 100);
+    QCOMPARE(counter(tooltip(), "timeout"), 500);
+    QCOMPARE(counter(tooltip(), "fade"), 25);
+    QCOMPARE(tooltip()->size(), QSize(320, 240));
+}
+
+void TestEditorTooltip::laterShowUsesTheSame()
+{
+    show(QStringLiteral("one"));
+    EditorTooltip *const first = tooltip();
+    LogCapture log;
+    show(QStringLiteral("two"));
+    QCOMPARE(tooltip(), first);
+    QCOMPARE(textEdit()->toPlainText(), QStringLiteral("two"));
+    const QSizeF size = textEdit()->document()->size();
+    QString line;
+    QDebug(&line).nospace() << "EditorTooltip::show 74 \"two\" " << size.width() << " " << size.height();
+    QCOMPARE(log.debugs().size(), 1);
+    QVERIFY2(log.debugs().first().endsWith(line), qPrintable(log.debugs().first()));
+}
+
+void TestEditorTooltip::isCentredOnItsTextEdit_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("short") << QStringLiteral("Map");
+    QTest::newRow("long") << QStringLiteral(
+        "The list of all maps of the project, with the one that is open marked");
+    QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree");
+}
+
+void TestEditorTooltip::isCentredOnItsTextEdit()
+{
+    QFETCH(QString, text);
+    show(text, 401, 303);
+    QCOMPARE(tooltip()->pos(), QPoint(401 - textEdit()->width() / 2, 303 - textEdit()->height() / 2));
+}
+
+void TestEditorTooltip::textEditIsAsLargeAsItsDocument()
+{
+    show(QStringLiteral("The list of all maps of the project, with the one that is open marked"));
+    const QSizeF size = textEdit()->document()->size();
+    QCOMPARE(textEdit()->size(), QSize(static_cast<int>(size.width()), static_cast<int>(size.height())));
+    QVERIFY(textEdit()->width() > 320);
+}
+
+void TestEditorTooltip::emptyTextShowsTheWindowAlone()
+{
+    show(QStringLiteral("something"));
+    const QSize size = textEdit()->size();
+    LogCapture log;
+    show(QString(), 500, 400);
+    QVERIFY(tooltip()->isVisible());
+    QVERIFY(textEdit()->isHidden());
+    QCOMPARE(tooltip()->pos(), QPoint(500 - size.width() / 2, 400 - size.height() / 2));
+    QVERIFY(log.lines().isEmpty());
+}
+
+void TestEditorTooltip::staysInvisibleForOneHundredTicks()
+{
+    show(QStringLiteral("text"));
+    for (int i = 0; i < 100; ++i) {
+        tick(tooltip());
+        QCOMPARE(tooltip()->windowOpacity(), 0.0);
+    }
+    QCOMPARE(counter(tooltip(), "delay"), 0);
+    tick(tooltip());
+    QCOMPARE(steps(tooltip()), stepsOf(1.0 / 25.0));
+}
+
+void TestEditorTooltip::fadesInStaysAndFadesOut()
+{
+    show(QStringLiteral("text"));
+    tick(tooltip(), 100);
+    for (int i = 1; i <= 25; ++i) {
+        tick(tooltip());
+        QCOMPARE(steps(tooltip()), stepsOf(i / 25.0));
+    }
+    for (int i = 0; i < 500; ++i) {
+        tick(tooltip());
+        QCOMPARE(steps(tooltip()), 255);
+    }
+    QCOMPARE(counter(tooltip(), "timeout"), 0);
+    QCOMPARE(counter(tooltip(), "fade"), 25);
+    for (int i = 24; i >= 0; --i) {
+        tick(tooltip());
+        QCOMPARE(steps(tooltip()), stepsOf(i / 25.0));
+    }
+    tick(tooltip(), 50);
+    QCOMPARE(steps(tooltip()), 0);
+    QVERIFY(tooltip()->isVisible());
+}
+
+void TestEditorTooltip::anotherShowRestarts()
+{
+    show(QStringLiteral("text"));
+    tick(tooltip(), 100 + 25 + 500 + 10);
+    QCOMPARE(steps(tooltip()), stepsOf(15.0 / 25.0));
+    show(QStringLiteral("text"));
+    QCOMPARE(tooltip()->windowOpacity(), 0.0);
+    QCOMPARE(counter(tooltip(), "delay"), 100);
+    QCOMPARE(counter(tooltip(), "timeout"), 500);
+    QCOMPARE(counter(tooltip(), "fade"), 25);
+    tick(tooltip(), 100);
+    QCOMPARE(steps(tooltip()), 0);
+    tick(tooltip());
+    QCOMPARE(steps(tooltip()), stepsOf(1.0 / 25.0));
+}
+
+void TestEditorTooltip::hiddenItStandsStill()
+{
+    show(QStringLiteral("text"));
+    tick(tooltip(), 110);
+    const QVariantMap before = tooltip()->getSettings();
+    tooltip()->hide();
+    tick(tooltip(), 50);
+    QCOMPARE(tooltip()->getSettings(), before);
+    tooltip()->show();
+    tick(tooltip());
+    QCOMPARE(steps(tooltip()), stepsOf(11.0 / 25.0));
+}
+
+void TestEditorTooltip::emptyTextRunsThroughItsTimes()
+{
+    show(QString());
+    tick(tooltip(), 125);
+    QCOMPARE(steps(tooltip()), 255);
+    tick(tooltip(), 525);
+    QCOMPARE(steps(tooltip()), 0);
+    QVERIFY(tooltip()->isVisible());
+}
+
+void TestEditorTooltip::settingsHoldExactlyTheirKeys()
+{
+    show(QStringLiteral("text"), 333, 222);
+    tick(tooltip(), 130);
+    const QVariantMap settings = tooltip()->getSettings();
+    const QVariantMap expected{{QStringLiteral("text"), QStringLiteral("text")},
+                               {QStringLiteral("width"), textEdit()->width()},
+                               {QStringLiteral("height"), textEdit()->height()},
+                               {QStringLiteral("x"), tooltip()->x()},
+                               {QStringLiteral("y"), tooltip()->y()},
+                               {QStringLiteral("windowOpacity"), 1.0},
+                               {QStringLiteral("delay"), 0},
+                               {QStringLiteral("timeout"), 495},
+                               {QStringLiteral("fade"), 0}};
+    QCOMPARE(settings, expected);
+    QCOMPARE(static_cast<int>(settings.value(QStringLiteral("windowOpacity")).type()),
+             static_cast<int>(QMetaType::Double));
+}
+
+void TestEditorTooltip::settingsCarryAllButTheOpacity()
+{
+    show(QStringLiteral("text"), 333, 222);
+    tick(tooltip(), 130);
+    QVariantMap settings = tooltip()->getSettings();
+    EditorTooltip rebuilt(nullptr, &m_host);
+    LogCapture log;
+    rebuilt.setSettings(settings);
+    QVERIFY(log.contains(QStringLiteral("EditorTooltip::setSettings 106 QMap((\"delay\"")));
+    QCOMPARE(rebuilt.windowOpacity(), 0.0);
+    settings.insert(QStringLiteral("windowOpacity"), 0.0);
+    QCOMPARE(rebuilt.getSettings(), settings);
+    QCOMPARE(rebuilt.findChild<QTextEdit *>()->toPlainText(), QStringLiteral("text"));
+    QVERIFY(!rebuilt.findChild<QTextEdit *>()->isHidden());
+    QVERIFY(rebuilt.isHidden());
+    rebuilt.show();
+    tick(&rebuilt, 495);
+    QCOMPARE(steps(&rebuilt), 0);
+    tick(&rebuilt);
+    QCOMPARE(steps(&rebuilt), stepsOf(24.0 / 25.0));
+    // The name that is read.
+    rebuilt.setSettings({{QStringLiteral("opacity"), 1.0}});
+    QCOMPARE(steps(&rebuilt), 255);
+}
+
+void TestEditorTooltip::settingsOfEmptyTextHideTheTextEdit()
+{
+    show(QStringLiteral("text"));
+    tooltip()->setSettings(
+        {{QStringLiteral("x"), 7}, {QStringLiteral("y"), 8}, {QStringLiteral("width"), 9}});
+    QVERIFY(textEdit()->isHidden());
+    QVERIFY(textEdit()->width() != 9);
+    QCOMPARE(tooltip()->pos(), QPoint(7, 8));
+}
+
+void TestEditorTooltip::emptyMapReadsAsZero()
+{
+    show(QStringLiteral("text"));
+    tooltip()->setSettings({});
+    QCOMPARE(tooltip()->pos(), QPoint(0, 0));
+    QCOMPARE(tooltip()->getSettings().value(QStringLiteral("text")).toString(), QString());
+    for (const char *name : {"delay", "timeout", "fade"}) {
+        QCOMPARE(counter(tooltip(), name), 0);
+    }
+}
+
+void TestEditorTooltip::anyPointIsTaken_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<int>("y");
+    for (const int x : {kMin, -70000, 70000, kMax}) {
+        for (const int y : {kMin, kMax}) {
+            QTest::addRow("%d, %d", x, y) << x << y;
+        }
+    }
+}
+
+void TestEditorTooltip::anyPointIsTaken()
+{
+    QFETCH(int, x);
+    QFETCH(int, y);
+    show(QStringLiteral("text"), x, y);
+    tick(tooltip(), 110);
+    QVERIFY(tooltip()->isVisible());
+    QCOMPARE(tooltip()->size(), QSize(320, 240));
+    show(QStringLiteral("text"), 100, 100);
+    QCOMPARE(tooltip()->pos(), QPoint(100 - textEdit()->width() / 2, 100 - textEdit()->height() / 2));
+}
+
+void TestEditorTooltip::changesAreLogged()
+{
+    m_host.tooltip = new EditorTooltip(nullptr, &m_host);
+    LogCapture log;
+    QEvent event(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(tooltip(), &event);
+    QCOMPARE(log.debugs().size(), 1);
+    QVERIFY(log.debugs().first().contains(QStringLiteral("EditorTooltip::changeEvent 127")));
+    QVERIFY(m_host.calls.isEmpty());
+}
+
+void TestEditorTooltip::closingForgetsIt()
+{
+    show(QStringLiteral("text"));
+    const QPointer<EditorTooltip> closed = tooltip();
+    const QPointer<QTextEdit> text = textEdit();
+    closed->close();
+    QCOMPARE(m_host.tooltip, nullptr);
+    QVERIFY(text.isNull());
+    QVERIFY(!closed.isNull());
+    QVERIFY(closed->isHidden());
+    QCOMPARE(closed->getSettings().value(QStringLiteral("width")).toInt(), 0);
+    show(QStringLiteral("again"));
+    QVERIFY(tooltip() != closed);
+    delete closed;
+}
+
+void TestEditorTooltip::destructionEndsTheTimerAndLogs()
+{
+    LogCapture log;
+    {
+        const EditorTooltip shortLived(nullptr, &m_host);
+    }
+    QVERIFY(log.contains(QStringLiteral("EditorTooltip::~EditorTooltip 53")));
+}
+
+QTEST_MAIN(TestEditorTooltip)
+#include "tst_EditorTooltip.moc"

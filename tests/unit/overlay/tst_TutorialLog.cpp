@@ -1,0 +1,75 @@
+#include "FakeOverlayHost.h"
+#include "Tutorial/overlay/TutorialLog.h"
+
+#include <QApplication>
+#include <QtTest>
+
+class TestTutorialLog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isBuiltAsOneHiddenPixel();
+    void methodTableIsComplete();
+    void activationEndsThePopup();
+    void lostActivationDoesNotEndThePopup();
+    void otherChangesAreNotPassedOn();
+};
+
+void TestTutorialLog::isBuiltAsOneHiddenPixel()
+{
+    FakeOverlayHost host;
+    const TutorialLog log(nullptr, &host);
+    QCOMPARE(log.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    QVERIFY(log.testAttribute(Qt::WA_ShowWithoutActivating));
+    QVERIFY(log.testAttribute(Qt::WA_WState_Created));
+    QCOMPARE(log.geometry(), QRect(-1, -1, 1, 1));
+    QVERIFY(log.isHidden());
+}
+
+void TestTutorialLog::methodTableIsComplete()
+{
+    const QMetaObject &meta = TutorialLog::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("changeEvent(QEvent*)"));
+    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+}
+
+void TestTutorialLog::activationEndsThePopup()
+{
+    FakeOverlayHost host;
+    TutorialLog log(nullptr, &host);
+    host.calls.clear();
+    log.show();
+    log.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &log);
+    QCOMPARE(host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
+}
+
+void TestTutorialLog::lostActivationDoesNotEndThePopup()
+{
+    FakeOverlayHost host;
+    TutorialLog log(nullptr, &host);
+    log.show();
+    log.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &log);
+    host.calls.clear();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &other);
+    QCOMPARE(host.calls, QStringList(QStringLiteral("visibility")));
+}
+
+void TestTutorialLog::otherChangesAreNotPassedOn()
+{
+    FakeOverlayHost host;
+    TutorialLog log(nullptr, &host);
+    host.calls.clear();
+    QEvent event(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&log, &event);
+    QVERIFY(host.calls.isEmpty());
+}
+
+QTEST_MAIN(TestTutorialLog)
+#include "tst_TutorialLog.moc"
