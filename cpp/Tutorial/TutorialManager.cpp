@@ -1,0 +1,352 @@
+#include "Tutorial/TutorialManager.h"
+
+#include "Tutorial/link/CommandFields.h"
+#include "Tutorial/link/CommandWords.h"
+#include "Tutorial/localisation/Translators.h"
+#include "Tutorial/overlay/TutorialIndicator.h"
+#include "TutorialEditor/ItemClipboard.h"
+#include "UndoRedo/UndoRedo.h"
+#include "tool/DataSupport.h"
+#include "tool/LogLine.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace {
+
+constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr int kTickMs = 100;
+constexpr int kVisibilityIntervalMs = 10;
+
+TutorialManager *theInstance = nullptr;
+
+QString defaultLocale()
+{
+    return QStringLiteral("en_US");
+}
+
+void replaceFirst(QString *text, const QString &before, const QString &after)
+{
+    const int place = text->indexOf(before);
+    if (place >= 0) {
+        text->replace(place, before.size(), after);
+    }
+}
+
+} // namespace
+
+TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve translationPath)
+    : QObject(parent)
+    , m_overlays(*this)
+    , m_timer(this)
+    , m_document(std::make_unique<TutorialEditor::Manager>(&m_texts))
+    , m_translationOutput(translationPath ? std::move(translationPath) : &TutorialManager::getExistsFilename)
+{
+    theInstance = this;
+    m_locale = SystemService::getDebugLocale();
+    m_locale2 = m_locale == QLatin1String("ja_JP") ? defaultLocale() : QStringLiteral("ja_JP");
+    logDebug(kSource, "TutorialManager::TutorialManager", 210) << m_locale << m_locale2;
+
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString key = arguments.size() >= 2 ? arguments.at(1) : QStringLiteral("20200318-0017");
+    if (key.isEmpty()) {
+        deleteLater();
+        return;
+    }
+    connectToHost(key);
+
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            &TutorialManager::onApplicationStateChanged);
+    m_aliveTimerId = startTimer(kTickMs, Qt::CoarseTimer);
+    const bool loaded = m_texts.loadSecond();
+    logDebug(kSource, "TutorialManager::TutorialManager", 247) << loaded;
+
+    m_timer.setInterval(kVisibilityIntervalMs);
+    connect(&m_timer, &QTimer::timeout, this, &TutorialManager::onTimerTimeout);
+    m_timer.start();
+    m_presetTranslations = buildSampleTable();
+}
+
+TutorialManager::~TutorialManager()
+{
+    logDebug(kSource, "TutorialManager::~TutorialManager", 268);
+    if (m_socket) {
+        // A socket that goes down while it is deleted must not end the process from in here.
+        m_socket->disconnect(this);
+        delete m_socket;
+    }
+    if (m_aliveTimerId != 0) {
+        killTimer(m_aliveTimerId);
+    }
+    m_document.reset();
+    if (UndoRedo::instance()) {
+        UndoRedo::instance()->setHost(nullptr);
+    }
+    theInstance = nullptr;
+    logDebug(kSource, "TutorialManager::~TutorialManager", 276);
+}
+
+TutorialManager *TutorialManager::instance()
+{
+    return theInstance;
+}
+
+QPoint TutorialManager::getXy(const QString &windowKey)
+{
+    return m_windows.position(windowKey);
+}
+
+QString TutorialManager::getCurrentWindowKey()
+{
+    return m_windows.current();
+}
+
+void TutorialManager::clearMimeData()
+{
+    m_mimeData.clear();
+    setMimeType(ItemClipboard::emptyMimeType());
+}
+
+bool TutorialManager::connected()
+{
+    send(CommandWords::kTutorialReady);
+    return m_connected;
+}
+
+bool TutorialManager::isMakingSupported()
+{
+    return false;
+}
+
+void TutorialManager::copyTutorialItemList(const QList<int> &idList)
+{
+    const std::optional<QByteArray> payload = ItemClipboard::copy(m_document->tree(), idList);
+    if (payload) {
+        setMimeData(ItemClipboard::mimeType(), *payload);
+    }
+}
+
+QList<int> TutorialManager::pasteTutorialItemList()
+{
+    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document->tree(), m_texts);
+}
+
+QString TutorialManager::save()
+{
+    return m_document->save();
+}
+
+QString TutorialManager::getTutorialJson()
+{
+    const QString path = getExistsFilename(QStringLiteral("qml/Tutorial/TutorialList.js"));
+    QByteArray bytes;
+    if (!DataSupport::readFile(path, bytes)) {
+        logWarning(kSource, "TutorialManager::getTutorialJson", 1421) << "Failed to load" << path;
+        return {};
+    }
+    QStringList errors;
+    const QString list = m_texts.translateList(QString::fromUtf8(bytes), &errors);
+    if (!errors.isEmpty()) {
+        logWarning(kSource, "TutorialManager::getTutorialJson", 1447) << errors;
+    }
+    return list;
+}
+
+void TutorialManager::unload()
+{
+    m_document->clear();
+    if (!m_tutorialName.isEmpty()) {
+        m_tutorialName.clear();
+        Q_EMIT tutorialNameChanged();
+    }
+}
+
+void TutorialManager::startFromId(int id)
+{
+    QString text = m_document->getScenario(false);
+    replaceFirst(&text, QStringLiteral("var scenario = ["), QStringLiteral("["));
+    replaceFirst(&text, QStringLiteral("];"), QStringLiteral("]"));
+    QStringList errors;
+    text = m_texts.translateScript(text, &errors);
+    send(
+        CommandFields::join({CommandWords::kStart, QLatin1String("var scenario = ") + text + QLatin1Char(';'),
+                             QString::number(id)}));
+}
+
+void TutorialManager::startFromId()
+{
+    startFromId(-1);
+}
+
+QString TutorialManager::loadTutorial(const QString &filename)
+{
+    QString baseName = filename.mid(filename.lastIndexOf(QLatin1Char('/')) + 1);
+    if (baseName.endsWith(QLatin1String(".js"))) {
+        baseName.chop(3);
+    }
+    m_texts.setContext(baseName);
+    if (m_tutorialName != baseName) {
+        m_tutorialName = baseName;
+        Q_EMIT tutorialNameChanged();
+    }
+    return m_document->setContents(filename).join(QLatin1Char('\n'));
+}
+
+QString TutorialManager::feedbackTranslation()
+{
+    logDebug(kSource, "TutorialManager::feedbackTranslation", 1779);
+    if (!m_translationOutput.save(m_locale, m_locale2)) {
+        return tr("Failed to save translation.");
+    }
+    return m_document->save();
+}
+
+QPoint TutorialManager::getCursorPos()
+{
+    return QCursor::pos();
+}
+
+void TutorialManager::updateIndicatorXyWindowKey(int x, int y, const QString &windowKey)
+{
+    send(CommandFields::join({CommandWords::kIndicator, CommandWords::kUpdateXyWindowKey, QString::number(x),
+                              QString::number(y), windowKey}));
+    if (TutorialIndicator *indicator = m_overlays.indicator()) {
+        indicator->setTargetWindowOffset(x, y, windowKey, indicator->arrowVisible());
+    }
+}
+
+void TutorialManager::setModified(bool modified)
+{
+    if (m_modified != modified) {
+        m_modified = modified;
+        Q_EMIT modifiedChanged();
+    }
+}
+
+void TutorialManager::setMimeData(const QString &mimeType, const QByteArray &data)
+{
+    m_mimeData.clear();
+    m_mimeData.setData(mimeType, data);
+    setMimeType(mimeType);
+}
+
+void TutorialManager::setMimeType(const QString &mimeType)
+{
+    if (m_mimeType != mimeType) {
+        m_mimeType = mimeType;
+        Q_EMIT mimeTypeChanged();
+    }
+}
+
+void TutorialManager::setLocale(const QString &locale)
+{
+    if (m_locale == locale) {
+        return;
+    }
+    logDebug(kSource, "TutorialManager::setLocale", 2204) << locale;
+    SystemService::setDebugLocale(locale);
+    const QString oldLocale = m_locale;
+    m_locale = locale;
+    m_font.setLocale(locale);
+    setLocale2(oldLocale);
+    const LoadedTranslator loaded = loadTranslator(locale, qApp);
+    logDebug(kSource, "TutorialManager::setLocale", 2215)
+        << QLatin1String(":/translations/") + locale << loaded.loaded;
+    QCoreApplication::installTranslator(loaded.translator);
+    Q_EMIT localeChanged();
+}
+
+void TutorialManager::setLocale2(const QString &locale)
+{
+    if (m_locale2 != locale) {
+        logDebug(kSource, "TutorialManager::setLocale2", 2226) << locale;
+        m_locale2 = locale;
+        Q_EMIT locale2Changed();
+    }
+}
+
+QString TutorialManager::getExistsFilename(const QString &relativeName)
+{
+    logDebug(kSource, "TutorialManager::getExistsFilename", 1402) << relativeName;
+    const QString path = DataSupport::resourcePath(relativeName);
+    logDebug(kSource, "TutorialManager::getExistsFilename", 1405) << path;
+    return path;
+}
+
+void TutorialManager::timerEvent(QTimerEvent * /*event*/)
+{
+    const PlaybackVisibility::Tick due = m_visibility.tick();
+    if (due.showAgain) {
+        logDebug(kSource, "TutorialManager::timerEvent", 427) << due.hiddenTicks;
+        if (due.rebuild) {
+            m_overlays.rebuild();
+        }
+        m_overlays.showLog();
+        updateOverlayVisibility();
+    }
+    if (due.hide) {
+        updateOverlayVisibility();
+    }
+    if (due.ignoringShow) {
+        logDebug(kSource, "TutorialManager::timerEvent", 460)
+            << "m_logHideIgnoreTimeout now" << due.ignoreShowTicks;
+    }
+    if (m_socket) {
+        switch (m_keepAlive.tick()) {
+        case KeepAlive::Due::kClose:
+            requestClose();
+            break;
+        case KeepAlive::Due::kSendAlive:
+            send(CommandWords::kAlive);
+            break;
+        case KeepAlive::Due::kNothing:
+            break;
+        }
+    }
+}
+
+void TutorialManager::onTimerTimeout()
+{
+    if (!m_pendingJumpLink.isEmpty()) {
+        const QString link = m_pendingJumpLink;
+        m_pendingJumpLink.clear();
+        Q_EMIT jumpLinkChanged(link);
+    }
+    updateOverlayVisibility();
+}
+
+void TutorialManager::updateOverlayVisibility()
+{
+    switch (m_visibility.showing()) {
+    case PlaybackVisibility::Showing::kNoPlayback:
+        m_overlays.hideIndicator();
+        m_overlays.hideLog();
+        break;
+    case PlaybackVisibility::Showing::kHostHidden:
+        m_overlays.hideIndicator();
+        m_overlays.hideLog();
+        m_overlays.hideEditorTooltip();
+        break;
+    case PlaybackVisibility::Showing::kShown:
+        m_overlays.showIndicator();
+        m_overlays.showLog();
+        m_overlays.showEditorTooltip();
+        break;
+    }
+}
+
+void TutorialManager::onApplicationStateChanged(Qt::ApplicationState state)
+{
+    if (state == Qt::ApplicationActive || state == Qt::ApplicationInactive) {
+        m_visibility.setApplicationActive(state == Qt::ApplicationActive);
+        updateOverlayVisibility();
+    }
+}
+
+void TutorialManager::onOverlayActivated()
+{
+    if (m_windows.popPopup()) {
+        Q_EMIT currentWindowKeyChanged();
+    }
+}

@@ -1,0 +1,193 @@
+#pragma once
+
+#include "SystemService/SystemService.h"
+#include "Tutorial/HostWindows.h"
+#include "Tutorial/Overlays.h"
+#include "Tutorial/PlaybackVisibility.h"
+#include "Tutorial/link/FrameReader.h"
+#include "Tutorial/link/KeepAlive.h"
+#include "Tutorial/localisation/SampleTable.h"
+#include "Tutorial/localisation/ScenarioTexts.h"
+#include "Tutorial/localisation/TranslationOutput.h"
+#include "Tutorial/overlay/OverlayHost.h"
+#include "TutorialEditor/Manager.h"
+#include "TutorialFont/TutorialFont.h"
+#include "UndoRedo/UndoHost.h"
+
+#include <QList>
+#include <QLocalSocket>
+#include <QMimeData>
+#include <QObject>
+#include <QPoint>
+#include <QRect>
+#include <QString>
+#include <QTimer>
+
+#include <memory>
+
+class CommandFields;
+
+/// Joins the link to the host editor, the overlays, the scenario document and the authoring calls.
+///
+/// There is one instance, made by main and reached through instance(). It connects to the host editor in its
+/// constructor and ends the process when the link goes down or stays silent for 30 s. The parts it joins do
+/// their work without it and are tested without it.
+///
+/// Everything here runs in the main thread. Positions are global screen pixels.
+class TutorialManager final : public QObject, public OverlayHost, public UndoHost, private FrameReader::Sink
+{
+    Q_OBJECT
+    Q_PROPERTY(bool modified READ modified WRITE setModified NOTIFY modifiedChanged)
+    Q_PROPERTY(QString mimeType READ mimeType NOTIFY mimeTypeChanged)
+    Q_PROPERTY(QString tutorialName READ tutorialName NOTIFY tutorialNameChanged)
+    Q_PROPERTY(QString currentWindowKey READ getCurrentWindowKey NOTIFY currentWindowKeyChanged)
+    Q_PROPERTY(QString locale READ locale WRITE setLocale NOTIFY localeChanged)
+    Q_PROPERTY(QString locale2 READ locale2 WRITE setLocale2 NOTIFY locale2Changed)
+
+public:
+    /// Connects to the host editor whose key is the first argument of the program. With an empty key the
+    /// object deletes itself when the event loop next runs, and the process stays without a link.
+    ///
+    /// @p translationPath gives the path of a translation source from its relative name; without it they are
+    /// looked for in the resources, where nothing can be written.
+    explicit TutorialManager(QObject *parent = nullptr, TranslationOutput::Resolve translationPath = {});
+    ~TutorialManager() override;
+
+    /// The one instance, or null.
+    [[nodiscard]] static TutorialManager *instance();
+
+    /// Position of a window or control as the host editor told it; (0, 0) when it has not.
+    Q_INVOKABLE QPoint getXy(const QString &windowKey);
+    /// Key of the host editor's topmost window; "ApplicationWindow" when none is open.
+    Q_INVOKABLE QString getCurrentWindowKey();
+    /// Empties the item clipboard; mimeType becomes "Empty".
+    Q_INVOKABLE void clearMimeData();
+    /// Tells the host editor that an author's tool is there. Whether the link has ever been up.
+    Q_INVOKABLE bool connected();
+    /// Always false: this build plays lessons.
+    Q_INVOKABLE bool isMakingSupported();
+    /// Copies items, folders with their children, to the item clipboard. An unknown id leaves it as it was.
+    Q_INVOKABLE void copyTutorialItemList(const QList<int> &idList);
+    /// Adds the items of the clipboard at the end of the document. Their new ids, in order.
+    Q_INVOKABLE QList<int> pasteTutorialItemList();
+    /// Ends the process with exit status 0, at once.
+    Q_INVOKABLE void requestClose();
+    /// Writes the document to the file that it was loaded from. Empty, or a message for the author.
+    Q_INVOKABLE QString save();
+    /// The list of lessons as a JSON array with translated titles; empty when it cannot be read.
+    Q_INVOKABLE QString getTutorialJson();
+    /// Drops the document and the undo history.
+    Q_INVOKABLE void unload();
+    /// Hands the document over to the host editor, to be played from the item with this id; -1 is the first.
+    Q_INVOKABLE void startFromId(int id);
+    Q_INVOKABLE void startFromId();
+    /// Loads a scenario file into the document. Empty, or one error a line.
+    Q_INVOKABLE QString loadTutorial(const QString &filename);
+    /// The mouse pointer.
+    Q_INVOKABLE QPoint getCursorPos();
+    /// Moves the indicator, here and in the host editor's record of the step.
+    Q_INVOKABLE void updateIndicatorXyWindowKey(int x, int y, const QString &windowKey);
+    /// Writes the translation sources of both locales, then the scenario. Empty, or a message for the author.
+    Q_INVOKABLE QString feedbackTranslation();
+
+    [[nodiscard]] bool modified() const { return m_modified; }
+    void setModified(bool modified) override;
+    [[nodiscard]] QString mimeType() const { return m_mimeType; }
+    [[nodiscard]] QString tutorialName() const { return m_tutorialName; }
+    [[nodiscard]] QString locale() const { return m_locale; }
+    /// Changes the language of all texts and stores it for later runs; the old one becomes locale2.
+    void setLocale(const QString &locale);
+    [[nodiscard]] QString locale2() const { return m_locale2; }
+    void setLocale2(const QString &locale);
+
+    /// What the last undo or redo was about, for an author's tool; empty for nothing.
+    [[nodiscard]] QString undoNote() const { return m_undoNote; }
+    void setUndoNote(const QString &note) override { m_undoNote = note; }
+
+    void send(const QString &text) override;
+    void onOverlayActivated() override;
+    void updateOverlayVisibility() override;
+    [[nodiscard]] bool running() const override { return m_visibility.running(); }
+    [[nodiscard]] QRect hostRect() const override { return m_hostRect; }
+    [[nodiscard]] QFont overlayFont() override { return m_font.getFont(); }
+    [[nodiscard]] EditorTooltip *editorTooltip() const override { return m_overlays.editorTooltip(); }
+    void setEditorTooltip(EditorTooltip *tooltip) override { m_overlays.setEditorTooltip(tooltip); }
+
+Q_SIGNALS:
+    /// One command of the host editor, out of its frame.
+    void received(const QString &text);
+    void modifiedChanged();
+    /// An item that an author's tool is to jump to.
+    void jumpLinkChanged(const QString &linkInfo);
+    void mimeTypeChanged();
+    void tutorialNameChanged();
+    void localeChanged();
+    void locale2Changed();
+    void actionIdChanged(int actionId);
+    void currentWindowKeyChanged();
+
+public Q_SLOTS:
+    void onApplicationStateChanged(Qt::ApplicationState state);
+    /// Runs one command of the host editor; an unknown word is ignored.
+    void onReceived(const QString &text);
+    void onReadyRead();
+    void onConnected();
+    void onDisconnected();
+    void onTimerTimeout();
+    void onStateChanged(QLocalSocket::LocalSocketState socketState);
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    struct Command;
+
+    void connectToHost(const QString &key);
+    bool command(const QString &text) override;
+    void problem(FrameReader::Problem problem, const QByteArray &bytes) override;
+
+    void startPlayback();
+    void stopPlayback();
+    void setMimeData(const QString &mimeType, const QByteArray &data);
+    void setMimeType(const QString &mimeType);
+    static QString getExistsFilename(const QString &relativeName);
+
+    void start(const CommandFields &fields);
+    void stop(const CommandFields &fields);
+    void ignore(const CommandFields &fields);
+    void tutorialList(const CommandFields &fields);
+    void indicator(const CommandFields &fields);
+    void state(const CommandFields &fields);
+    void windowStack(const CommandFields &fields);
+    void position(const CommandFields &fields);
+    void applicationWindowSize(const CommandFields &fields);
+    void loadAndFeedback(const CommandFields &fields);
+    void fromServer(const CommandFields &fields);
+    void requestPresetData(const CommandFields &fields);
+    void showTooltip(const CommandFields &fields);
+    void hideTooltip(const CommandFields &fields);
+
+    Overlays m_overlays;
+    HostWindows m_windows;
+    QLocalSocket *m_socket = nullptr;
+    PlaybackVisibility m_visibility;
+    int m_aliveTimerId = 0;
+    KeepAlive m_keepAlive;
+    bool m_connected = false;
+    QRect m_hostRect;
+    bool m_modified = false;
+    QString m_undoNote;
+    QString m_pendingJumpLink;
+    QTimer m_timer;
+    ScenarioTexts m_texts;
+    std::unique_ptr<TutorialEditor::Manager> m_document;
+    TranslationOutput m_translationOutput;
+    QMimeData m_mimeData;
+    QString m_mimeType;
+    QString m_tutorialName;
+    QString m_locale;
+    QString m_locale2;
+    FrameReader m_frames;
+    SampleTable m_presetTranslations;
+    TutorialFont m_font;
+};

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "Tutorial/TutorialManager.h"
+#include "Tutorial/overlay/TutorialIndicator.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QString>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+/// A manager in the test's own process, linked to a server of the test. The key stands in the arguments that
+/// the test program gave to its QApplication.
+class ManagerFixture
+{
+public:
+    static constexpr int kLimitMs = 5000;
+
+    /// Listens, makes the manager and waits until the link is up on both sides.
+    bool start()
+    {
+        QLocalServer::removeServer(serverName());
+        if (!m_server.listen(serverName())) {
+            return false;
+        }
+        manager = std::make_unique<TutorialManager>();
+        if (!QTest::qWaitFor([this] { return m_server.hasPendingConnections(); }, kLimitMs)) {
+            return false;
+        }
+        m_socket = m_server.nextPendingConnection();
+        return true;
+    }
+
+    static QString serverName() { return QStringLiteral("tkvq") + QCoreApplication::arguments().at(1); }
+
+    /// Runs a command as if it had come over the link.
+    void receive(const QStringList &fields) const { manager->onReceived(fields.join(QChar(1))); }
+
+    /// Waits for the next payload that is not "alive".
+    QString nextPayload()
+    {
+        QString payload;
+        const bool arrived = QTest::qWaitFor([this, &payload] { return takePayload(&payload); }, kLimitMs);
+        return arrived ? payload : QStringLiteral("nothing arrived");
+    }
+
+    std::unique_ptr<TutorialManager> manager;
+
+private:
+    bool takePayload(QString *payload)
+    {
+        m_bytes += m_socket->readAll();
+        while (m_bytes.size() >= 11) {
+            const int length = m_bytes.mid(1, 8).toInt(nullptr, 16);
+            if (m_bytes.size() < length + 11) {
+                return false;
+            }
+            *payload = QString::fromUtf8(m_bytes.mid(10, length));
+            m_bytes.remove(0, length + 11);
+            if (*payload != QLatin1String("alive")) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    QLocalServer m_server;
+    QLocalSocket *m_socket = nullptr;
+    QByteArray m_bytes;
+};
+
+/// Deletes the overlays that a manager left behind, which it does not own. Call it when the manager is gone.
+inline void deleteOverlays()
+{
+    // An indicator owns its windows, so the indicators go first.
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    QWidgetList indicators;
+    std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(indicators),
+                 [](QWidget *widget) { return qobject_cast<TutorialIndicator *>(widget) != nullptr; });
+    qDeleteAll(indicators);
+    const QWidgetList others = QApplication::topLevelWidgets();
+    qDeleteAll(others);
+}
+
+/// Runs a test class in an application whose first argument is a key that no other test uses, with settings
+/// in a folder that goes away.
+template<typename Test>
+int runWithKey(int argc, char **argv)
+{
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    QByteArray key = settings.path().section(QLatin1Char('/'), -1).toLatin1();
+    int count = 2;
+    char *arguments[] = {argv[0], key.data(), nullptr};
+    QApplication application(count, arguments);
+    QCoreApplication::setApplicationName(QStringLiteral("Tutorial"));
+    QCoreApplication::setOrganizationName(QStringLiteral("VELMORAN"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
