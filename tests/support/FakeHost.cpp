@@ -1,0 +1,145 @@
+#include "FakeHost.h"
+
+#include <QTest>
+#include <QUuid>
+
+FakeHost::FakeHost()
+{
+    m_process.setProgram(QStringLiteral(TUTORIAL_PROGRAM));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.path());
+    m_process.setProcessEnvironment(environment);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
+    QObject::connect(&m_process, &QProcess::readyReadStandardError, &m_process,
+                     [this] { m_log += m_process.readAllStandardError(); });
+}
+
+FakeHost::~FakeHost()
+{
+    m_process.disconnect();
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+bool FakeHost::start(const QString &locale)
+{
+    return listen(QUuid::createUuid().toString(QUuid::Id128)) && startProgram({m_key, locale}) &&
+           waitForConnection();
+}
+
+bool FakeHost::startProgram(const QStringList &arguments)
+{
+    m_process.setArguments(arguments);
+    m_process.start();
+    return m_process.waitForStarted(kLimitMs);
+}
+
+bool FakeHost::listen(const QString &key)
+{
+    m_key = key;
+    return m_server.listen(QStringLiteral("tkvq") + key);
+}
+
+bool FakeHost::waitForConnection()
+{
+    if (!waitFor([this] { return m_server.hasPendingConnections(); })) {
+        return false;
+    }
+    m_socket = m_server.nextPendingConnection();
+    return true;
+}
+
+void FakeHost::disconnectLink()
+{
+    m_socket->disconnectFromServer();
+}
+
+QByteArray FakeHost::frame(const QByteArray &payload, char separator)
+{
+    return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';
+}
+
+QByteArray FakeHost::command(const QStringList &fields)
+{
+    return fields.join(QChar(1)).toUtf8();
+}
+
+void FakeHost::write(const QByteArray &bytes)
+{
+    m_socket->write(bytes);
+    m_socket->flush();
+}
+
+void FakeHost::readPending()
+{
+    if (m_socket) {
+        m_received += m_socket->readAll();
+    }
+}
+
+QByteArray FakeHost::receivedBytes()
+{
+    readPending();
+    return m_received;
+}
+
+QStringList FakeHost::payloads()
+{
+    readPending();
+    QStringList result;
+    int cursor = 0;
+    while (m_received.size() - cursor >= 11) {
+        const int length = m_received.mid(cursor + 1, 8).toInt(nullptr, 16);
+        if (m_received.at(cursor) != '1' || m_received.size() - cursor < length + 11) {
+            break;
+        }
+        const QString payload = QString::fromUtf8(m_received.mid(cursor + 10, length));
+        if (payload != QLatin1String("alive")) {
+            result.append(payload);
+        }
+        cursor += length + 11;
+    }
+    return result;
+}
+
+int FakeHost::aliveCount()
+{
+    return receivedBytes().count("100000005\x02"
+                                 "alive");
+}
+
+bool FakeHost::waitForPayloads(int count)
+{
+    return waitFor([this, count] { return payloads().size() >= count; });
+}
+
+QString FakeHost::log()
+{
+    return QString::fromUtf8(m_log);
+}
+
+bool FakeHost::waitForLog(const QString &text)
+{
+    return waitFor([this, &text] { return log().contains(text); });
+}
+
+bool FakeHost::sync()
+{
+    // The size shows in the log, so each round has a line of its own to wait for.
+    ++m_syncCount;
+    send({QStringLiteral("applicationWindowSize"), QString::number(m_syncCount), QStringLiteral("77001")});
+    return waitForLog(
+        QStringLiteral("TutorialManager::setApplicationWindowSize 596 %1 77001").arg(m_syncCount));
+}
+
+bool FakeHost::waitForEnd(int limitMs)
+{
+    return waitFor([this] { return m_process.state() == QProcess::NotRunning; }, limitMs);
+}
+
+bool FakeHost::waitFor(const std::function<bool()> &condition, int limitMs)
+{
+    return QTest::qWaitFor(condition, limitMs);
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QByteArray>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <memory>
+
+/// A host editor for tests: it starts the real program, listens for it, and sees what it sends and logs.
+///
+/// The settings of the program live in a temporary folder of this object. Every wait has a limit and returns
+/// false when it is over.
+class FakeHost
+{
+public:
+    static constexpr int kLimitMs = 10000;
+
+    FakeHost();
+    ~FakeHost();
+    FakeHost(const FakeHost &) = delete;
+    FakeHost &operator=(const FakeHost &) = delete;
+
+    /// Listens under a key of its own, starts the program with it and waits for the connection.
+    bool start(const QString &locale = QStringLiteral("en_US"));
+    /// Starts the program with exactly these arguments; nobody listens unless listen() was called.
+    bool startProgram(const QStringList &arguments);
+    bool listen(const QString &key);
+    bool waitForConnection();
+    /// The connection goes down.
+    void disconnectLink();
+
+    [[nodiscard]] QString key() const { return m_key; }
+    [[nodiscard]] QProcess &process() { return m_process; }
+    [[nodiscard]] QString settingsFolder() const { return m_folder.path(); }
+
+    /// A frame around a payload.
+    static QByteArray frame(const QByteArray &payload, char separator = '\x02');
+    /// Fields joined to a command.
+    static QByteArray command(const QStringList &fields);
+
+    /// Writes bytes and has the operating system take them.
+    void write(const QByteArray &bytes);
+    /// Writes one command in a frame of its own.
+    void send(const QStringList &fields) { write(frame(command(fields))); }
+
+    /// Payloads received so far, "alive" left out; and how many "alive" there were.
+    [[nodiscard]] QStringList payloads();
+    [[nodiscard]] int aliveCount();
+    /// All bytes received so far.
+    [[nodiscard]] QByteArray receivedBytes();
+    /// Waits until as many payloads besides "alive" are there.
+    bool waitForPayloads(int count);
+
+    /// Everything the program has written to its error output.
+    [[nodiscard]] QString log();
+    bool waitForLog(const QString &text);
+    /// Waits until the program has handled all that was sent: asks it something and waits for the answer.
+    bool sync();
+
+    /// Waits for the end of the program.
+    bool waitForEnd(int limitMs = kLimitMs);
+
+    /// Runs the event loop until @p condition holds.
+    static bool waitFor(const std::function<bool()> &condition, int limitMs = kLimitMs);
+
+private:
+    void readPending();
+
+    QTemporaryDir m_folder;
+    QString m_key;
+    QLocalServer m_server;
+    QLocalSocket *m_socket = nullptr;
+    QProcess m_process;
+    QByteArray m_received;
+    QByteArray m_log;
+    int m_syncCount = 0;
+};

@@ -1,0 +1,227 @@
+#include "FakeHost.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+/// What each command does, seen on the wire and in the log.
+class tst_Dispatch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ignores_unknown_words_silently();
+    void compares_words_exactly();
+    void ignores_contents_and_log();
+    void greets_with_the_locale_data();
+    void greets_with_the_locale();
+    void greets_again_without_new_overlays();
+    void drops_an_indicator_update_before_the_greeting();
+    void hands_an_indicator_update_to_the_indicator();
+    void takes_a_command_without_its_fields();
+    void ignores_a_second_show_within_ten_ticks();
+    void ignores_show_before_the_greeting();
+    void plays_the_document_as_it_stands_after_an_unknown_name();
+    void refuses_a_bad_step_name();
+    void reports_preset_data_that_is_not_there();
+};
+
+void tst_Dispatch::ignores_unknown_words_silently()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const QString before = host.log();
+    host.send({QStringLiteral("nonsense"), QStringLiteral("1")});
+    host.send({QString()});
+    host.send({QStringLiteral("state"), QStringLiteral("sideways")});
+    host.send({QStringLiteral("windowStack"), QStringLiteral("pop")});
+    QVERIFY(host.sync());
+    QString after = host.log().mid(before.size());
+    // Only the heartbeat and the answer that sync() waits for may stand there.
+    const QStringList lines = after.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        QVERIFY2(line.contains(QStringLiteral("\"alive\"")) ||
+                     line.contains(QStringLiteral("setApplicationWindowSize")),
+                 qPrintable(line));
+    }
+    QVERIFY(host.payloads().isEmpty());
+}
+
+void tst_Dispatch::compares_words_exactly()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("TutorialList")});
+    host.send({QStringLiteral("tutorialList ")});
+    host.send({QStringLiteral("alive")});
+    QVERIFY(host.sync());
+    QVERIFY(host.payloads().isEmpty());
+}
+
+void tst_Dispatch::ignores_contents_and_log()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("contents"), QString(100000, QLatin1Char('x'))});
+    host.send({QStringLiteral("log"), QStringLiteral("append"), QStringLiteral("text")});
+    QVERIFY(host.sync());
+    QVERIFY(host.payloads().isEmpty());
+}
+
+void tst_Dispatch::greets_with_the_locale_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<bool>("loaded");
+    const QString word = QStringLiteral("fromServer");
+    QTest::newRow("Japanese") << QStringList{word, QStringLiteral("ja_JP")} << QStringLiteral("ja_JP")
+                              << true;
+    QTest::newRow("dash") << QStringList{word, QStringLiteral("-")} << QStringLiteral("en_US") << true;
+    QTest::newRow("empty") << QStringList{word, QString()} << QStringLiteral("en_US") << true;
+    QTest::newRow("missing") << QStringList{word} << QStringLiteral("en_US") << true;
+    QTest::newRow("unknown") << QStringList{word, QStringLiteral("xx")} << QStringLiteral("xx") << false;
+}
+
+void tst_Dispatch::greets_with_the_locale()
+{
+    QFETCH(QStringList, command);
+    QFETCH(QString, locale);
+    QFETCH(bool, loaded);
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    host.send(command);
+    const QString line = QStringLiteral("\":/translations/%1\" %2")
+                             .arg(locale, loaded ? QStringLiteral("true") : QStringLiteral("false"));
+    QVERIFY(FakeHost::waitFor([&] {
+        return host.log().contains(QRegularExpression(QStringLiteral("TutorialManager::onReceived \\d+ ") +
+                                                      QRegularExpression::escape(line)));
+    }));
+}
+
+void tst_Dispatch::greets_again_without_new_overlays()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
+    host.send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+    QVERIFY(host.sync());
+    // The newest translator is asked first.
+    QVERIFY2(host.payloads().at(0).contains(QRegularExpression(QStringLiteral("[ぁ-ん]"))),
+             qPrintable(host.payloads().at(0)));
+    QVERIFY(!host.log().contains(QStringLiteral("TutorialIndicator::~TutorialIndicator")));
+}
+
+void tst_Dispatch::drops_an_indicator_update_before_the_greeting()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("1"),
+               QStringLiteral("2"), QStringLiteral("MainWindow"), QStringLiteral("hint"), QStringLiteral("7"),
+               QStringLiteral("0")});
+    QVERIFY(host.sync());
+    QVERIFY(!host.log().contains(QStringLiteral("TutorialIndicator::")));
+}
+
+void tst_Dispatch::hands_an_indicator_update_to_the_indicator()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
+    host.send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("11"),
+               QStringLiteral("22"), QStringLiteral("NewProject"), QStringLiteral("hint"),
+               QStringLiteral("5"), QStringLiteral("3")});
+    QVERIFY(host.sync());
+    QVERIFY2(host.log().contains(QRegularExpression(
+                 QStringLiteral("TutorialIndicator::setTargetWindowOffset \\d+ 11 22 \"NewProject\" true"))),
+             qPrintable(host.log()));
+    QVERIFY2(
+        host.log().contains(QRegularExpression(QStringLiteral("TutorialIndicator::init \\d+ true false"))),
+        qPrintable(host.log()));
+}
+
+void tst_Dispatch::takes_a_command_without_its_fields()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer")});
+    const QStringList words = {QStringLiteral("indicator"),       QStringLiteral("state"),
+                               QStringLiteral("windowStack"),     QStringLiteral("windowPosition"),
+                               QStringLiteral("controlPosition"), QStringLiteral("applicationWindowSize"),
+                               QStringLiteral("tutorial"),        QStringLiteral("requestPresetData"),
+                               QStringLiteral("showTooltip"),     QStringLiteral("start")};
+    for (const QString &word : words) {
+        host.send({word});
+    }
+    host.send({QStringLiteral("indicator"), QStringLiteral("update")});
+    host.send({QStringLiteral("indicator"), QStringLiteral("updateXy"), QStringLiteral("3")});
+    QVERIFY(host.sync());
+    QVERIFY2(host.log().contains(QStringLiteral("TutorialManager::setApplicationWindowSize 596 0 0")),
+             qPrintable(host.log()));
+}
+
+void tst_Dispatch::ignores_a_second_show_within_ten_ticks()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
+    host.send({QStringLiteral("start")});
+    host.send({QStringLiteral("state"), QStringLiteral("hide")});
+    host.send({QStringLiteral("state"), QStringLiteral("show")});
+    host.send({QStringLiteral("state"), QStringLiteral("show")});
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::timerEvent 460 m_logHideIgnoreTimeout now 0")));
+    QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout set to 10")), 1);
+    QCOMPARE(host.log().count(QStringLiteral("TutorialManager::timerEvent 427")), 1);
+    QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout now")), 10);
+    host.send({QStringLiteral("state"), QStringLiteral("show")});
+    QVERIFY(host.sync());
+    QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout set to 10")), 2);
+}
+
+void tst_Dispatch::ignores_show_before_the_greeting()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("state"), QStringLiteral("show")});
+    QVERIFY(host.sync());
+    QVERIFY(!host.log().contains(QStringLiteral("m_logHideIgnoreTimeout")));
+}
+
+void tst_Dispatch::plays_the_document_as_it_stands_after_an_unknown_name()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
+    host.send({QStringLiteral("tutorial"), QStringLiteral("NoSuchLesson")});
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(3));
+    QCOMPARE(host.payloads().at(1), host.payloads().at(0));
+    QVERIFY2(
+        host.log().contains(QRegularExpression(QStringLiteral("TutorialEditor::Manager::setContents 307"))),
+        qPrintable(host.log()));
+}
+
+void tst_Dispatch::refuses_a_bad_step_name()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("requestPresetData"), QStringLiteral("stepX")});
+    QVERIFY(host.waitForLog(QStringLiteral("Failed to get stepNumber \"stepX\"")));
+    QVERIFY(host.sync());
+    QVERIFY(host.payloads().isEmpty());
+}
+
+void tst_Dispatch::reports_preset_data_that_is_not_there()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("requestPresetData"), QStringLiteral("step4711")});
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReceived 1001 presetData not found")));
+    QVERIFY(host.sync());
+    QVERIFY(host.payloads().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_Dispatch)
+#include "tst_Dispatch.moc"

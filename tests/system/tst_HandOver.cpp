@@ -1,0 +1,136 @@
+#include "FakeHost.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+/// The list of lessons and the scenario as the host editor gets them.
+class tst_HandOver : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lists_19_lessons_with_titles_data();
+    void lists_19_lessons_with_titles();
+    void hands_over_a_complete_script_data();
+    void hands_over_a_complete_script();
+    void differs_between_languages_in_the_hints_only();
+    void falls_back_to_English_for_a_language_without_catalogue();
+
+private:
+    static QJsonArray scenario(const QString &locale);
+};
+
+namespace {
+
+const QStringList kLocales = {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
+
+void addLocales()
+{
+    QTest::addColumn<QString>("locale");
+    for (const QString &locale : kLocales) {
+        QTest::newRow(qPrintable(locale)) << locale;
+    }
+}
+
+} // namespace
+
+QJsonArray tst_HandOver::scenario(const QString &locale)
+{
+    FakeHost host;
+    if (!host.start(locale)) {
+        return {};
+    }
+    host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
+    if (!host.waitForPayloads(1)) {
+        return {};
+    }
+    const QString prefix = QStringLiteral("start\x01var scenario = ");
+    const QString suffix = QStringLiteral(";\x01-1");
+    const QString payload = host.payloads().at(0);
+    if (!payload.startsWith(prefix) || !payload.endsWith(suffix)) {
+        qWarning() << "unexpected hand-over" << payload.left(60) << payload.right(20);
+        return {};
+    }
+    const QString script = payload.mid(prefix.size(), payload.size() - prefix.size() - suffix.size());
+    return QJsonDocument::fromJson(script.toUtf8()).array();
+}
+
+void tst_HandOver::lists_19_lessons_with_titles_data()
+{
+    addLocales();
+}
+
+void tst_HandOver::lists_19_lessons_with_titles()
+{
+    QFETCH(QString, locale);
+    FakeHost host;
+    QVERIFY(host.start(locale));
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+    const QString prefix = QStringLiteral("tutorialList\x01");
+    QVERIFY(host.payloads().at(0).startsWith(prefix));
+    const QJsonDocument list = QJsonDocument::fromJson(host.payloads().at(0).mid(prefix.size()).toUtf8());
+    QVERIFY(list.isArray());
+    QCOMPARE(list.array().size(), 19);
+    for (int i = 0; i < 19; ++i) {
+        const QJsonObject entry = list.array().at(i).toObject();
+        QCOMPARE(entry.keys(), (QStringList{QStringLiteral("filename"), QStringLiteral("title")}));
+        QCOMPARE(entry.value(QStringLiteral("filename")).toString(),
+                 QStringLiteral("TutorialStep%1").arg(i + 1));
+        const QString title = entry.value(QStringLiteral("title")).toString();
+        QVERIFY2(!title.isEmpty() && !title.startsWith(QLatin1Char('#')), qPrintable(title));
+    }
+}
+
+void tst_HandOver::hands_over_a_complete_script_data()
+{
+    addLocales();
+}
+
+void tst_HandOver::hands_over_a_complete_script()
+{
+    QFETCH(QString, locale);
+    const QJsonArray items = scenario(locale);
+    QCOMPARE(items.size(), 86);
+    const QStringList fields = {
+        QStringLiteral("command"),    QStringLiteral("condition"), QStringLiteral("folder"),
+        QStringLiteral("hint"),       QStringLiteral("icon"),      QStringLiteral("id"),
+        QStringLiteral("jump"),       QStringLiteral("jumpNo"),    QStringLiteral("name"),
+        QStringLiteral("prohibited"), QStringLiteral("showArrow"), QStringLiteral("translationId"),
+        QStringLiteral("windowKey"),  QStringLiteral("x"),         QStringLiteral("y")};
+    for (const QJsonValue &value : items) {
+        const QJsonObject item = value.toObject();
+        QCOMPARE(item.keys(), fields);
+        const QString hint = item.value(QStringLiteral("hint")).toString();
+        QVERIFY2(!hint.isEmpty() && !hint.startsWith(QLatin1Char('#')) &&
+                     !hint.contains(QStringLiteral("qsTr(")),
+                 qPrintable(hint));
+    }
+}
+
+void tst_HandOver::differs_between_languages_in_the_hints_only()
+{
+    QList<QJsonArray> scenarios;
+    for (const QString &locale : kLocales) {
+        QJsonArray items = scenario(locale);
+        QVERIFY(!items.isEmpty());
+        for (int i = 0; i < items.size(); ++i) {
+            QJsonObject item = items.at(i).toObject();
+            item.remove(QStringLiteral("hint"));
+            items[i] = item;
+        }
+        scenarios.append(items);
+    }
+    QCOMPARE(scenarios.at(1), scenarios.at(0));
+    QCOMPARE(scenarios.at(2), scenarios.at(0));
+}
+
+void tst_HandOver::falls_back_to_English_for_a_language_without_catalogue()
+{
+    QCOMPARE(scenario(QStringLiteral("xx_YY")), scenario(QStringLiteral("en_US")));
+}
+
+QTEST_GUILESS_MAIN(tst_HandOver)
+#include "tst_HandOver.moc"

@@ -1,0 +1,236 @@
+#include "FakeHost.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+/// Frames on the wire, in both directions.
+class tst_Link : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answers_a_frame_that_is_split_at_any_byte();
+    void runs_the_commands_of_one_payload_in_order();
+    void runs_two_frames_of_one_read_in_order();
+    void sends_alive_each_second();
+    void frames_its_answers();
+    void counts_bytes_in_the_length_of_an_answer();
+    void drops_what_stands_behind_bye_and_stays();
+    void keeps_reporting_an_invalid_header();
+    void recovers_after_an_invalid_payload_size();
+    void recovers_after_a_missing_terminator();
+    void logs_128_characters_of_what_it_sends_and_sends_all();
+    void survives_hostile_bytes();
+    void survives_hostile_commands();
+};
+
+namespace {
+
+const QStringList kAskForList = {QStringLiteral("tutorialList")};
+
+} // namespace
+
+void tst_Link::answers_a_frame_that_is_split_at_any_byte()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    const QByteArray frame = FakeHost::frame("tutorialList");
+    for (int split = 1; split < frame.size(); ++split) {
+        host.write(frame.left(split));
+        host.write(frame.mid(split));
+        QVERIFY2(host.waitForPayloads(split), qPrintable(QStringLiteral("split at %1").arg(split)));
+        QCOMPARE(host.payloads().size(), split);
+    }
+}
+
+void tst_Link::runs_the_commands_of_one_payload_in_order()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.write(FakeHost::frame("tutorialList\x02\x02unknown\x02tutorial\x01TutorialStep1\x02tutorialList"));
+    QVERIFY(host.waitForPayloads(3));
+    const QStringList payloads = host.payloads();
+    QVERIFY(payloads.at(0).startsWith(QStringLiteral("tutorialList\x01")));
+    QVERIFY(payloads.at(1).startsWith(QStringLiteral("start\x01")));
+    QVERIFY(payloads.at(2).startsWith(QStringLiteral("tutorialList\x01")));
+}
+
+void tst_Link::runs_two_frames_of_one_read_in_order()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.write(FakeHost::frame("tutorial\x01TutorialStep1") + FakeHost::frame("") +
+               FakeHost::frame("tutorialList"));
+    QVERIFY(host.waitForPayloads(2));
+    QVERIFY(host.payloads().at(0).startsWith(QStringLiteral("start\x01")));
+    QVERIFY(host.payloads().at(1).startsWith(QStringLiteral("tutorialList\x01")));
+}
+
+void tst_Link::sends_alive_each_second()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(FakeHost::waitFor([&host] { return host.aliveCount() >= 1; }));
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(FakeHost::waitFor([&host] { return host.aliveCount() >= 4; }));
+    QVERIFY2(clock.elapsed() > 2500 && clock.elapsed() < 4000, qPrintable(QString::number(clock.elapsed())));
+}
+
+void tst_Link::frames_its_answers()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(FakeHost::waitFor([&host] { return !host.receivedBytes().isEmpty(); }));
+    QVERIFY(host.receivedBytes().startsWith(QByteArray("100000005\x02"
+                                                       "alive\0",
+                                                       16)));
+}
+
+void tst_Link::counts_bytes_in_the_length_of_an_answer()
+{
+    FakeHost host;
+    QVERIFY(host.start(QStringLiteral("ja_JP")));
+    host.send(kAskForList);
+    QVERIFY(host.waitForPayloads(1));
+    const QString list = host.payloads().at(0);
+    const QByteArray utf8 = list.toUtf8();
+    QVERIFY(utf8.size() > list.size());
+    const QByteArray header = '1' + QByteArray::number(utf8.size(), 16).rightJustified(8, '0') + '\x02';
+    QVERIFY(host.receivedBytes().contains(header + utf8 + '\0'));
+}
+
+void tst_Link::drops_what_stands_behind_bye_and_stays()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.write(FakeHost::frame("tutorialList\x02"
+                               "bye\x02tutorialList") +
+               FakeHost::frame("tutorialList"));
+    // What follows must not come with the same read.
+    QVERIFY(host.waitForPayloads(1));
+    QVERIFY(host.sync());
+    QCOMPARE(host.payloads().size(), 1);
+    QCOMPARE(host.process().state(), QProcess::Running);
+}
+
+void tst_Link::keeps_reporting_an_invalid_header()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    const QString warning = QStringLiteral("TutorialManager::onReadyRead 396 Invalid header");
+    host.write("Xnonsense");
+    QVERIFY(host.waitForLog(warning + QStringLiteral(" \"Xnonsense\"")));
+    host.write(FakeHost::frame("tutorialList"));
+    QVERIFY(FakeHost::waitFor([&] { return host.log().count(warning) == 2; }));
+    QVERIFY(host.payloads().isEmpty());
+    QCOMPARE(host.process().state(), QProcess::Running);
+}
+
+void tst_Link::recovers_after_an_invalid_payload_size()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.write("0zzzzzzzz\x02tutorialList");
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReadyRead 368 Invalid payload size")));
+    host.send(kAskForList);
+    QVERIFY(host.waitForPayloads(1));
+}
+
+void tst_Link::recovers_after_a_missing_terminator()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.write("000000002\x02"
+               "abc");
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReadyRead 390 Terminator not found")));
+    host.send(kAskForList);
+    QVERIFY(host.waitForPayloads(1));
+}
+
+void tst_Link::logs_128_characters_of_what_it_sends_and_sends_all()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send(kAskForList);
+    QVERIFY(host.waitForPayloads(1));
+    const QString payload = host.payloads().at(0);
+    QVERIFY(payload.size() > 300);
+    QVERIFY(host.sync());
+    QString shown;
+    QDebug(&shown) << payload.left(128);
+    QVERIFY2(host.log().contains(QStringLiteral("TutorialManager::send 1396 ") + shown),
+             qPrintable(host.log()));
+}
+
+void tst_Link::survives_hostile_bytes()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    const QByteArray alphabet("0011ffFx+- \x01\x02\0\0\xe6\x9c", 17);
+    for (int round = 0; round < 10; ++round) {
+        FakeHost host;
+        QVERIFY(host.start());
+        for (int write = 0; write < 40; ++write) {
+            QByteArray bytes = random.bounded(2) != 0 ? QByteArray() : QByteArray("0");
+            const int size = random.bounded(200);
+            for (int i = 0; i < size; ++i) {
+                bytes.append(alphabet.at(random.bounded(alphabet.size())));
+            }
+            host.write(bytes);
+        }
+        host.disconnectLink();
+        QVERIFY(host.waitForEnd());
+        QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(host.process().exitCode(), 0);
+    }
+}
+
+void tst_Link::survives_hostile_commands()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    const QByteArrayList words = {"start",
+                                  "stop",
+                                  "contents",
+                                  "tutorialList",
+                                  "state",
+                                  "indicator",
+                                  "log",
+                                  "windowStack",
+                                  "tutorial",
+                                  "windowPosition",
+                                  "controlPosition",
+                                  "applicationWindowSize",
+                                  "fromServer",
+                                  "requestPresetData",
+                                  "showTooltip",
+                                  "hideTooltip"};
+    const QByteArrayList fields = {
+        "",      "0",    "-1",    "-9999",        "2147483647", "-2147483648", "99999999999",
+        "show",  "hide", "push",  "pop",          "update",     "updateXy",    "append",
+        "ja_JP", "-",    "step1", "step99999",    "../../x",    "%1%2",        "<b>&\\\n",
+        "\xff",  "7",    "Popup", "TutorialStep1"};
+    for (int round = 0; round < 6; ++round) {
+        FakeHost host;
+        QVERIFY(host.start());
+        for (int i = 0; i < 150; ++i) {
+            QByteArray command = words.at(random.bounded(words.size()));
+            const int count = random.bounded(9);
+            for (int field = 0; field < count; ++field) {
+                command += '\x01' + fields.at(random.bounded(fields.size()));
+            }
+            host.write(FakeHost::frame(command));
+        }
+        QVERIFY(host.sync());
+        host.disconnectLink();
+        QVERIFY(host.waitForEnd());
+        QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(host.process().exitCode(), 0);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Link)
+#include "tst_Link.moc"

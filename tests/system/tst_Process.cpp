@@ -1,0 +1,154 @@
+#include "FakeHost.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+
+/// The life of the process: how it starts, and the ways in which it ends.
+class tst_Process : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ends_with_status_0_when_the_link_goes_down();
+    void ends_without_a_message_about_destroyed_objects();
+    void connects_under_the_default_key_without_arguments();
+    void stays_with_en_US_with_one_argument();
+    void ignores_further_arguments();
+    void logs_a_locale_without_a_catalogue_and_runs_on();
+    void stays_without_a_socket_under_an_empty_key();
+    void ends_by_itself_after_30_silent_seconds();
+    void starts_although_nobody_listens();
+    void reads_the_stored_locale();
+};
+
+void tst_Process::ends_with_status_0_when_the_link_goes_down()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    QElapsedTimer clock;
+    clock.start();
+    host.disconnectLink();
+    QVERIFY(host.waitForEnd());
+    QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host.process().exitCode(), 0);
+    QVERIFY(host.log().contains(QStringLiteral("TutorialManager::onDisconnected 414")));
+    QVERIFY(host.log().contains(QStringLiteral("TutorialManager::requestClose 1535")));
+}
+
+void tst_Process::ends_without_a_message_about_destroyed_objects()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
+    host.send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("800"),
+               QStringLiteral("600")});
+    host.send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("100"),
+               QStringLiteral("100"), QStringLiteral("MainWindow"), QStringLiteral("hint"),
+               QStringLiteral("7"), QStringLiteral("0")});
+    host.send(
+        {QStringLiteral("showTooltip"), QStringLiteral("text"), QStringLiteral("10"), QStringLiteral("10")});
+    QVERIFY(host.sync());
+    host.disconnectLink();
+    QVERIFY(host.waitForEnd());
+    QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host.process().exitCode(), 0);
+    const QString end = host.log().section(QStringLiteral("TutorialManager::requestClose 1535"), 1);
+    QCOMPARE(end.trimmed(), QString());
+}
+
+void tst_Process::connects_under_the_default_key_without_arguments()
+{
+    FakeHost host;
+    if (!host.listen(QStringLiteral("20200318-0017"))) {
+        QLocalServer::removeServer(QStringLiteral("tkvq20200318-0017"));
+        QVERIFY(host.listen(QStringLiteral("20200318-0017")));
+    }
+    QVERIFY(host.startProgram({}));
+    QVERIFY(host.waitForConnection());
+    QVERIFY(host.waitForLog(QStringLiteral("\\main main 122 \":/translations/en_US\" true")));
+}
+
+void tst_Process::stays_with_en_US_with_one_argument()
+{
+    FakeHost host;
+    QVERIFY(host.listen(QStringLiteral("one-argument-%1").arg(QCoreApplication::applicationPid())));
+    QVERIFY(host.startProgram({host.key()}));
+    QVERIFY(host.waitForConnection());
+    QVERIFY(host.waitForLog(QStringLiteral("..\\..\\tutorial\\main main 122 \":/translations/en_US\" true")));
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::TutorialManager 247 true")));
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onConnected 408")));
+}
+
+void tst_Process::ignores_further_arguments()
+{
+    FakeHost host;
+    QVERIFY(host.listen(QStringLiteral("more-arguments-%1").arg(QCoreApplication::applicationPid())));
+    QVERIFY(host.startProgram(
+        {host.key(), QStringLiteral("zh_CN"), QStringLiteral("ja_JP"), QStringLiteral("x")}));
+    QVERIFY(host.waitForConnection());
+    QVERIFY(host.waitForLog(QStringLiteral("main 122 \":/translations/zh_CN\" true")));
+}
+
+void tst_Process::logs_a_locale_without_a_catalogue_and_runs_on()
+{
+    FakeHost host;
+    QVERIFY(host.start(QStringLiteral("xx_YY")));
+    QVERIFY(host.waitForLog(QStringLiteral("main 122 \":/translations/xx_YY\" false")));
+    QVERIFY(host.sync());
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+}
+
+void tst_Process::stays_without_a_socket_under_an_empty_key()
+{
+    FakeHost host;
+    QVERIFY(host.startProgram({QString()}));
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::~TutorialManager")));
+    QCOMPARE(host.process().state(), QProcess::Running);
+    QVERIFY(!host.log().contains(QStringLiteral("onStateChanged")));
+    host.process().terminate();
+    QVERIFY(host.waitForEnd());
+}
+
+void tst_Process::starts_although_nobody_listens()
+{
+    FakeHost host;
+    QVERIFY(host.startProgram({QStringLiteral("nobody-%1").arg(QCoreApplication::applicationPid())}));
+    // The heartbeat goes on without a link, and is dropped.
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::send 1396 \"alive\"")));
+    QCOMPARE(host.process().state(), QProcess::Running);
+}
+
+void tst_Process::ends_by_itself_after_30_silent_seconds()
+{
+    FakeHost host;
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(host.start());
+    QVERIFY(host.waitForEnd(60000));
+    QVERIFY2(clock.elapsed() > 28000 && clock.elapsed() < 40000,
+             qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host.process().exitCode(), 0);
+    const int alive = host.aliveCount();
+    QVERIFY2(alive >= 27 && alive <= 30, qPrintable(QString::number(alive)));
+}
+
+void tst_Process::reads_the_stored_locale()
+{
+    FakeHost host;
+    QDir(host.settingsFolder()).mkpath(QStringLiteral("VELMORAN"));
+    QFile settings(host.settingsFolder() + QStringLiteral("/VELMORAN/Tutorial.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[General]\ndebugLocale=ja_JP\n");
+    settings.close();
+    QVERIFY(host.start());
+    QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::TutorialManager 210 \"ja_JP\" \"en_US\"")));
+}
+
+QTEST_GUILESS_MAIN(tst_Process)
+#include "tst_Process.moc"
