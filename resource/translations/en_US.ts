@@ -241,11 +241,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>This is your map, still untouched. First you cover the ground, then you add water and a tree.</translation>
+      <translation>This is your map. So far it is plain grass. You will give it tall grass, a pond and a tree.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Click “Grass” in the list of tiles.</translation>
+      <translation>Click “Tall grass” in the list of tiles.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -253,7 +253,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click the map. Grass covers all of it.</translation>
+      <translation>Click the map. Tall grass covers all of it.</translation>
     </message>
     <message>
       <source>#19</source>
@@ -269,7 +269,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Click “Tall grass”.</translation>
+      <translation>Click “Sand”.</translation>
     </message>
     <message>
       <source>#23</source>
@@ -277,7 +277,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Press here and drag to the lower right again. A round patch of tall grass appears.</translation>
+      <translation>Press here and drag to the lower right again. A round patch of sand appears.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -337,7 +337,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Type the name that players will see here, and press Enter.</translation>
+      <translation>Here, type the name that players will see, and press Enter.</translation>
     </message>
     <message>
       <source>#40</source>
@@ -421,7 +421,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>Double-click “Snow field”. The map is added to your game and opens at once.</translation>
+      <translation>One map is chosen already. Click “OK” to add it to your game.</translation>
     </message>
     <message>
       <source>#61</source>
@@ -429,11 +429,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>This time click “OK”. It adds the map that is chosen in the list.</translation>
+      <translation>This time double-click “Snow field”. That chooses the map and adds it at once.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Click “Snow field”. You can go from map to map like this at any time.</translation>
+      <translation>Click “Harbour”. You can go from map to map like this at any time.</translation>
     </message>
     <message>
       <source>#64</source>
@@ -449,11 +449,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Every map has its own tile set. Click the picture to see which one the snow field uses.</translation>
+      <translation>Every map has its own tile set. Click the picture to see which one the harbour uses.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>It is “Winter”, which suits the snow. Click “OK” to keep it.</translation>
+      <translation>It is “Coast”, which suits a harbour. Click “OK” to keep it.</translation>
     </message>
     <message>
       <source>#69</source>
@@ -469,7 +469,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Press the left mouse button here, in the snow. A fir tree stands there now.</translation>
+      <translation>Press the left mouse button here, behind the sand. Now the harbour has one more fir tree.</translation>
     </message>
     <message>
       <source>#73</source>

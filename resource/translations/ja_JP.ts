@@ -241,11 +241,11 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>これがあなたのマップです。まだ何も描かれていません。まず地面を塗り、それから水辺や木を加えていきます。</translation>
+      <translation>これがあなたのマップです。今は一面の草地です。これから、深い草や池、木を描いていきます。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>タイルの一覧で「草地」をクリックしてください。</translation>
+      <translation>タイルの一覧で「深い草」をクリックしてください。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>マップをクリックしてください。一面が草地になります。</translation>
+      <translation>マップをクリックしてください。一面が深い草になります。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>「深い草」をクリックしてください。</translation>
+      <translation>「砂」をクリックしてください。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>ここからも、右下へドラッグしてください。深い草が丸く生えます。</translation>
+      <translation>ここからも、右下へドラッグしてください。丸い砂地ができます。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>「雪原」をダブルクリックしてください。マップがゲームに追加され、すぐに開きます。</translation>
+      <translation>マップが1つ選ばれています。「OK」をクリックして、ゲームに追加してください。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -429,11 +429,11 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>今度は「OK」をクリックしてください。一覧で選ばれているマップが追加されます。</translation>
+      <translation>今度は「雪原」をダブルクリックしてください。選ぶと同時に追加されます。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>「雪原」をクリックしてください。こうして、いつでもマップを切り替えられます。</translation>
+      <translation>「港」をクリックしてください。こうして、いつでもマップを切り替えられます。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>タイルセットはマップごとに違います。絵をクリックして、雪原のタイルセットを見てください。</translation>
+      <translation>タイルセットはマップごとに決められます。絵をクリックして、港のタイルセットを見てください。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>雪によく合う「冬」です。「OK」をクリックして、このまま使いましょう。</translation>
+      <translation>港によく合う「海岸」です。「OK」をクリックして、このまま使いましょう。</translation>
     </message>
     <message>
       <source>#69</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>雪の上のここで、左ボタンを押してください。モミの木が立ちます。</translation>
+      <translation>砂浜の手前のここで、左ボタンを押してください。港にモミの木が1本増えます。</translation>
     </message>
     <message>
       <source>#73</source>

@@ -241,19 +241,19 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>这就是你的地图，上面还什么都没画。先铺好地面，再添上水面和树。</translation>
+      <translation>这就是你的地图，现在只有一片草地。接下来给它画上高草、池塘和树。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>在图块列表中点击“草地”。</translation>
+      <translation>在图块列表中点击“高草”。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>点击“填充”。这个工具可以一次铺满整片区域。</translation>
+      <translation>点击“填充”。用它可以一次铺满整片区域。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>点击地图，整张地图就铺满草地了。</translation>
+      <translation>点击地图，整张地图就长满高草了。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>点击“高草”。</translation>
+      <translation>点击“沙地”。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>从这里再向右下方拖动，就会长出一片圆形的高草。</translation>
+      <translation>从这里再向右下方拖动，就会出现一片圆形的沙地。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>双击“雪原”。这张地图会加入你的游戏，并立即打开。</translation>
+      <translation>已经选中了一张地图。点击“确定”，把它加入你的游戏。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -429,11 +429,11 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>这次点击“确定”，列表中选中的地图就会加入游戏。</translation>
+      <translation>这次双击“雪原”，会在选中的同时把它加入游戏。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>点击“雪原”。你可以随时这样切换地图。</translation>
+      <translation>点击“港口”。你可以随时这样切换地图。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>每张地图都有自己的图块组。点击图片，看看雪原用的是哪一个。</translation>
+      <translation>每张地图都有自己的图块组。点击图片，看看港口用的是哪一个。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>是“冬天”，正适合雪地。点击“确定”，继续使用它。</translation>
+      <translation>用的是“海岸”，正适合港口。点击“确定”，继续使用它。</translation>
     </message>
     <message>
       <source>#69</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>在雪地上的这个位置按下鼠标左键，就会立起一棵冷杉。</translation>
+      <translation>在沙滩旁的这个位置按下鼠标左键，港口就多了一棵冷杉。</translation>
     </message>
     <message>
       <source>#73</source>
