@@ -22,19 +22,13 @@ Findings BubbleCheck::check(const Catalogue &catalogue, const QString &context)
     for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
         document.setHtml(hintToHtml(message->translation));
         document.setTextWidth(kTextWidth);
-        const QSizeF size = document.size();
-        const auto report = [&](const QString &what, double has, int allowed) {
+        const int height = qRound(document.size().height());
+        if (height > kTextHeight)
             findings.append(
                 {Finding::Kind::kError, catalogue.file(), message->line, context, message.key(),
-                 QStringLiteral("the hint does not fit the bubble: it is %1 pixels %2, %3 at most")
-                     .arg(qRound(has))
-                     .arg(what)
-                     .arg(allowed)});
-        };
-        if (size.height() > kTextHeight)
-            report(QStringLiteral("high"), size.height(), kTextHeight);
-        if (size.width() > kTextWidth)
-            report(QStringLiteral("wide"), size.width(), kTextWidth);
+                 QStringLiteral("the hint does not fit the bubble: it is %1 pixels high, %2 at most")
+                     .arg(height)
+                     .arg(kTextHeight)});
     }
     return findings;
 }

@@ -31,7 +31,8 @@ public:
         if (m_xml.readNextStartElement()) {
             const QString language = m_xml.attributes().value(QLatin1String("language")).toString();
             if (m_xml.name() != QLatin1String("TS") || language != locale)
-                report({}, {}, QStringLiteral("the root has to be TS with the language \"%1\"").arg(locale));
+                report(line(), {}, {},
+                       QStringLiteral("the root has to be TS with the language \"%1\"").arg(locale));
             while (m_xml.readNextStartElement()) {
                 if (m_xml.name() == QLatin1String("context"))
                     readContext();
@@ -40,7 +41,7 @@ public:
             }
         }
         if (m_xml.hasError())
-            report({}, {}, m_xml.errorString());
+            report(line(), {}, {}, m_xml.errorString());
         return m_contexts;
     }
 
@@ -52,7 +53,7 @@ private:
             if (m_xml.name() == QLatin1String("name")) {
                 context = m_xml.readElementText();
                 if (m_contexts.contains(context))
-                    report(context, {}, QStringLiteral("the context stands twice"));
+                    report(line(), context, {}, QStringLiteral("the context stands twice"));
                 m_contexts[context];
             } else if (m_xml.name() == QLatin1String("message")) {
                 readMessage(context);
@@ -64,7 +65,7 @@ private:
 
     void readMessage(const QString &context)
     {
-        Catalogue::Message message{static_cast<int>(m_xml.lineNumber()), {}};
+        Catalogue::Message message{line(), {}};
         QString source;
         QString state;
         while (m_xml.readNextStartElement()) {
@@ -78,24 +79,25 @@ private:
             }
         }
         if (m_contexts.value(context).contains(source))
-            report(context, source, QStringLiteral("the text stands twice"));
+            report(message.line, context, source, QStringLiteral("the text stands twice"));
         if (!state.isEmpty())
-            report(context, source, QStringLiteral("the translation is marked %1").arg(state));
+            report(message.line, context, source, QStringLiteral("the translation is marked %1").arg(state));
         else if (message.translation.trimmed().isEmpty())
-            report(context, source, QStringLiteral("the translation is empty"));
+            report(message.line, context, source, QStringLiteral("the translation is empty"));
         else
             m_contexts[context].insert(source, message);
         for (const QString &marker : placeMarkers(source)) {
             if (!message.translation.contains(marker))
-                report(context, source,
+                report(message.line, context, source,
                        QStringLiteral("the translation lacks the place marker %1").arg(marker));
         }
     }
 
-    void report(const QString &context, const QString &source, const QString &text)
+    [[nodiscard]] int line() const { return static_cast<int>(m_xml.lineNumber()); }
+
+    void report(int at, const QString &context, const QString &source, const QString &text)
     {
-        m_findings.append(
-            {Finding::Kind::kError, m_file, static_cast<int>(m_xml.lineNumber()), context, source, text});
+        m_findings.append({Finding::Kind::kError, m_file, at, context, source, text});
     }
 
     QString m_file;

@@ -63,6 +63,8 @@ int main(int argc, char *argv[])
         return finding.kind == Finding::Kind::kError;
     };
     const auto errors = std::count_if(findings.cbegin(), findings.cend(), isError);
-    out << (errors == 0 ? QStringLiteral("no findings\n") : QStringLiteral("%1 findings\n").arg(errors));
+    out << (errors == 0   ? QStringLiteral("no findings\n")
+            : errors == 1 ? QStringLiteral("1 finding\n")
+                          : QStringLiteral("%1 findings\n").arg(errors));
     return errors == 0 ? kClean : kFindings;
 }
