@@ -9,7 +9,8 @@
 /// {"tabView", "tabview", "1"}, {"spinBox", "=", "35 %"}, {"comboBox", "moveType", "1"},
 /// {"checked", "directionFix", "1"}, {"popup", "MapPopup", ""}, {"mouseEvent", "Map", "click"},
 /// {"radioButton", "RadioButton", "8"}, {"pressed", "0", "0"}, {"menuEvent", "Map", "click"}.
-struct EditorEvent {
+struct EditorEvent
+{
     QString type;
     QString target;
     QString value;

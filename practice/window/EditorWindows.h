@@ -33,6 +33,9 @@ public:
     /// Rectangle of the whole screen area of the editor in global screen pixels.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 
+    /// Size of the main window's contents in pixels.
+    [[nodiscard]] virtual QSize applicationSize() const { return screenRect().size(); }
+
 Q_SIGNALS:
     /// Something happened that a condition may wait for.
     void happened(const EditorEvent &event);

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "runner/ScenarioRunner.h"
+
+#include <QHash>
+#include <QMap>
+#include <QPoint>
+#include <QSize>
+#include <QTimer>
+
+class EditorWindows;
+
+/// One lesson between the companion and the windows: asks for it, runs it, and keeps the companion's picture
+/// of the windows true. It speaks in commands; who carries them is not its business.
+class LessonSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Lesson
+    {
+        QString name;
+        QString title;
+    };
+
+    /// @p windows stays the caller's and outlives this.
+    explicit LessonSession(EditorWindows *windows, QObject *parent = nullptr);
+
+    /// Says hello, in the words of the link, and asks for the list of lessons.
+    void greet(const QString &locale);
+    /// Asks for the lesson. A lesson that runs is stopped first.
+    void request(const QString &lessonName);
+    /// Ends the lesson that runs.
+    void stop();
+    /// Forgets the lesson that runs, as its companion is gone.
+    void abandon();
+
+    /// A command of the companion, fields separated by the byte 0x01.
+    void receive(const QString &command);
+
+    [[nodiscard]] QString lessonName() const { return m_lessonName; }
+    [[nodiscard]] const ScenarioRunner &runner() const { return m_runner; }
+    void skipStep() { m_runner.skip(); }
+
+    /// Where the bubble's window was sent for the present step, in global screen pixels; nothing when the
+    /// step points nowhere or its window is not open.
+    [[nodiscard]] std::optional<QPoint> bubbleTarget() const;
+
+Q_SIGNALS:
+    /// Fields of a command for the companion.
+    void sends(const QStringList &fields);
+    void lessonsListed(const QVector<LessonSession::Lesson> &lessons);
+    void started();
+    void stepReached();
+    /// The lesson was played to its end.
+    void finished();
+    /// The data files of a step came, file name to text.
+    void filesReceived(const QMap<QString, QString> &files);
+    /// Something in what the companion sent is wrong; the session goes on as well as it can.
+    void problemFound(const QString &problem);
+
+private:
+    void begin(const QString &scenarioText, int id);
+    void end();
+    void list(const QString &json);
+    void readFiles(const QString &json);
+    void runCommand(const QString &command);
+    void onStepReached();
+    void onMoved(const QString &windowKey, const QPoint &origin);
+    void sendWindows();
+    void sendApplicationSize();
+    void sendStep();
+
+    EditorWindows *m_windows;
+    ScenarioRunner m_runner;
+    QTimer m_wait;
+    QString m_lessonName;
+    /// What the companion was told last: it points at the window of the step, or nowhere.
+    bool m_pointing = false;
+    QSize m_applicationSize;
+};
