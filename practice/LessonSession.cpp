@@ -38,6 +38,9 @@ LessonSession::LessonSession(EditorWindows *windows, QObject *parent)
 {
     m_wait.setSingleShot(true);
     connect(&m_wait, &QTimer::timeout, &m_runner, &ScenarioRunner::elapsed);
+    m_handOver.setSingleShot(true);
+    m_handOver.setInterval(kHandOverMs);
+    connect(&m_handOver, &QTimer::timeout, this, [this] { Q_EMIT refused(m_lessonName); });
     connect(&m_runner, &ScenarioRunner::stepReached, this, &LessonSession::onStepReached);
     connect(&m_runner, &ScenarioRunner::commandRequested, this, &LessonSession::runCommand);
     connect(&m_runner, &ScenarioRunner::finished, this, [this] {
@@ -74,6 +77,7 @@ void LessonSession::request(const QString &lessonName)
 {
     stop();
     m_lessonName = lessonName;
+    m_handOver.start();
     Q_EMIT sends({QStringLiteral("tutorial"), lessonName});
 }
 
@@ -86,6 +90,7 @@ void LessonSession::stop()
 
 void LessonSession::abandon()
 {
+    m_handOver.stop();
     m_wait.stop();
     m_runner.stop();
 }
@@ -136,10 +141,12 @@ void LessonSession::begin(const QString &scenarioText, int id)
     for (const QString &problem : qAsConst(problems)) {
         Q_EMIT problemFound(problem);
     }
+    m_handOver.stop();
+    stop();
     if (scenario.size() == 0) {
+        Q_EMIT refused(m_lessonName);
         return;
     }
-    stop();
     const QRect screen = m_windows->screenRect();
     Q_EMIT sends({QStringLiteral("start"), number(screen.x()), number(screen.y()), number(screen.width()),
                   number(screen.height())});

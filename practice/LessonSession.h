@@ -38,6 +38,8 @@ public:
     /// A command of the companion, fields separated by the byte 0x01.
     void receive(const QString &command);
 
+    static constexpr int kHandOverMs = 5000;
+
     [[nodiscard]] QString lessonName() const { return m_lessonName; }
     [[nodiscard]] const ScenarioRunner &runner() const { return m_runner; }
     void skipStep() { m_runner.skip(); }
@@ -56,6 +58,8 @@ Q_SIGNALS:
     void finished();
     /// The data files of a step came, file name to text.
     void filesReceived(const QMap<QString, QString> &files);
+    /// The companion has not handed over the lesson that was asked for.
+    void refused(const QString &lessonName);
     /// Something in what the companion sent is wrong; the session goes on as well as it can.
     void problemFound(const QString &problem);
 
@@ -74,6 +78,7 @@ private:
     EditorWindows *m_windows;
     ScenarioRunner m_runner;
     QTimer m_wait;
+    QTimer m_handOver;
     QString m_lessonName;
     /// What the companion was told last: it points at the window of the step, or nowhere.
     bool m_pointing = false;

@@ -2,7 +2,6 @@
 
 #include "link/HostFrame.h"
 
-#include <QLocalSocket>
 #include <QUuid>
 
 namespace {

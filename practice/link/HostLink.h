@@ -3,12 +3,11 @@
 #include "link/CompanionFrameReader.h"
 
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QObject>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
-
-class QLocalSocket;
 
 /// The editor's end of the link: a local server of its own, the companion as a child process, and the one
 /// connection between them.

@@ -1,0 +1,103 @@
+#include "LessonPanel.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+QString text(const QString &locale, const QString &en, const QString &ja, const QString &zh)
+{
+    if (locale == QLatin1String("ja_JP")) {
+        return ja;
+    }
+    return locale == QLatin1String("zh_CN") ? zh : en;
+}
+
+} // namespace
+
+LessonPanel::LessonPanel(const QString &locale)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , m_locale(locale)
+    , m_lessons(new QComboBox)
+    , m_start(new QPushButton(
+          text(locale, QStringLiteral("Start"), QStringLiteral("はじめる"), QStringLiteral("开始"))))
+    , m_skip(new QPushButton(text(locale, QStringLiteral("Skip step"), QStringLiteral("この手順をとばす"),
+                                  QStringLiteral("跳过此步"))))
+    , m_status(new QLabel)
+{
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowTitle(
+        text(locale, QStringLiteral("Lessons"), QStringLiteral("レッスン"), QStringLiteral("课程")));
+    m_lessons->setObjectName(QStringLiteral("lessonsComboBox"));
+    m_start->setObjectName(QStringLiteral("startButton"));
+    m_skip->setObjectName(QStringLiteral("skipButton"));
+    m_status->setObjectName(QStringLiteral("statusLabel"));
+    m_lessons->setMinimumWidth(280);
+    m_status->setMinimumWidth(220);
+    m_start->setEnabled(false);
+    m_skip->setEnabled(false);
+
+    auto *layout = new QHBoxLayout(this);
+    for (QWidget *widget : {static_cast<QWidget *>(m_lessons), static_cast<QWidget *>(m_start),
+                            static_cast<QWidget *>(m_skip), static_cast<QWidget *>(m_status)}) {
+        layout->addWidget(widget);
+    }
+    connect(m_start, &QPushButton::clicked, this,
+            [this] { Q_EMIT lessonChosen(m_lessons->currentData().toString()); });
+    connect(m_skip, &QPushButton::clicked, this, &LessonPanel::skipRequested);
+}
+
+void LessonPanel::setLessons(const QVector<LessonSession::Lesson> &lessons)
+{
+    m_lessons->clear();
+    for (const LessonSession::Lesson &lesson : lessons) {
+        m_lessons->addItem(QStringLiteral("%1. %2").arg(m_lessons->count() + 1).arg(lesson.title),
+                           lesson.name);
+    }
+    m_start->setEnabled(!lessons.isEmpty());
+}
+
+void LessonPanel::showStep(const QString &lessonName, int number, int count)
+{
+    const int row = m_lessons->findData(lessonName);
+    if (row >= 0) {
+        m_lessons->setCurrentIndex(row);
+    }
+    m_start->setText(text(m_locale, QStringLiteral("Start again"), QStringLiteral("はじめから"),
+                          QStringLiteral("重新开始")));
+    m_skip->setEnabled(true);
+    m_status->setText(text(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
+                           QStringLiteral("第 %1 步，共 %2 步"))
+                          .arg(number)
+                          .arg(count));
+}
+
+void LessonPanel::showFinished()
+{
+    m_skip->setEnabled(false);
+    m_status->setText(text(m_locale, QStringLiteral("The lesson is finished."),
+                           QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
+}
+
+void LessonPanel::showRefused(const QString &lessonName)
+{
+    m_skip->setEnabled(false);
+    m_status->setText(text(m_locale, QStringLiteral("\"%1\" cannot be opened."),
+                           QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
+                          .arg(titleOf(lessonName)));
+}
+
+void LessonPanel::showSilent()
+{
+    m_status->setText(text(m_locale, QStringLiteral("The guide does not answer."),
+                           QStringLiteral("ガイドが応答しません。"), QStringLiteral("向导没有响应。")));
+}
+
+QString LessonPanel::titleOf(const QString &lessonName) const
+{
+    const int row = m_lessons->findData(lessonName);
+    return row < 0 ? lessonName : m_lessons->itemText(row);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "LessonSession.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+/// The strip above the editor from which the person chooses a lesson, starts it again, or passes a step.
+class LessonPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Texts are those of @p locale, in English where there are none.
+    explicit LessonPanel(const QString &locale);
+
+    void setLessons(const QVector<LessonSession::Lesson> &lessons);
+    void showStep(const QString &lessonName, int number, int count);
+    void showFinished();
+    void showRefused(const QString &lessonName);
+    void showSilent();
+
+Q_SIGNALS:
+    void lessonChosen(const QString &lessonName);
+    void skipRequested();
+
+private:
+    [[nodiscard]] QString titleOf(const QString &lessonName) const;
+
+    QString m_locale;
+    QComboBox *m_lessons;
+    QPushButton *m_start;
+    QPushButton *m_skip;
+    QLabel *m_status;
+};

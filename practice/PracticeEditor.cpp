@@ -1,0 +1,175 @@
+#include "PracticeEditor.h"
+
+#include "pilot/Pilot.h"
+#include "window/EditorWindows.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+constexpr QPoint kPanelPlace(90, 40);
+
+void printLine(FILE *stream, const QString &line)
+{
+    QTextStream out(stream);
+    out.setCodec("UTF-8");
+    out << line << '\n';
+}
+
+} // namespace
+
+PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWindows> windows)
+    : m_options(options)
+    , m_windows(std::move(windows))
+    , m_session(m_windows.get())
+    , m_panel(options.locale)
+    , m_projects(options.projectsFolder)
+    , m_link(options.companionProgram, options.key, options.locale)
+{
+    if (options.lesson > 0) {
+        m_lessonName = QStringLiteral("TutorialStep%1").arg(options.lesson);
+    }
+    connect(m_windows.get(), &EditorWindows::mainWindowClosed, this, [this] { Q_EMIT ended(0); });
+    connect(m_windows.get(), &EditorWindows::visibilityChanged, &m_panel, &QWidget::setVisible);
+    connect(&m_panel, &LessonPanel::lessonChosen, this, &PracticeEditor::play);
+    connect(&m_panel, &LessonPanel::skipRequested, this, [this] { m_session.skipStep(); });
+    connect(&m_link, &HostLink::connected, this, &PracticeEditor::onConnected);
+    connect(&m_link, &HostLink::received, &m_session, &LessonSession::receive);
+    connect(&m_link, &HostLink::problemFound, &m_session, &LessonSession::problemFound);
+    connect(&m_link, &HostLink::lost, this, &PracticeEditor::onLost);
+    connect(&m_link, &HostLink::silenceChanged, this, [this](bool silent) {
+        if (silent) {
+            m_panel.showSilent();
+        }
+    });
+    connectSession();
+    if (options.pilot) {
+        makePilot();
+    }
+}
+
+PracticeEditor::~PracticeEditor()
+{
+    // What the windows do while they go away is nobody's business any more.
+    disconnect(m_windows.get(), nullptr, &m_session, nullptr);
+    m_link.stop();
+}
+
+bool PracticeEditor::start(QString *error)
+{
+    if (!m_windows->open(QStringLiteral("MainWindow"))) {
+        *error = QStringLiteral("The main window has no description.");
+        return false;
+    }
+    m_panel.move(kPanelPlace);
+    m_panel.show();
+    return m_link.start(error);
+}
+
+void PracticeEditor::connectSession()
+{
+    connect(&m_session, &LessonSession::sends, &m_link, &HostLink::send);
+    connect(&m_session, &LessonSession::problemFound, this,
+            [](const QString &problem) { printLine(stderr, problem); });
+    connect(&m_session, &LessonSession::lessonsListed, this,
+            [this](const QVector<LessonSession::Lesson> &lessons) {
+                m_panel.setLessons(lessons);
+                if (!m_lessonName.isEmpty()) {
+                    m_session.request(m_lessonName);
+                }
+            });
+    connect(&m_session, &LessonSession::stepReached, this, [this] {
+        const ScenarioRunner &runner = m_session.runner();
+        m_panel.showStep(m_session.lessonName(), runner.index() + 1, runner.scenario().size());
+    });
+    connect(&m_session, &LessonSession::finished, this, [this] {
+        m_lessonName.clear();
+        m_panel.showFinished();
+    });
+    connect(&m_session, &LessonSession::refused, &m_panel, &LessonPanel::showRefused);
+    connect(&m_session, &LessonSession::filesReceived, this, [this](const QMap<QString, QString> &files) {
+        QString error;
+        if (!m_projects.create(m_session.lessonName(), files, &error)) {
+            tellPerson(error);
+        }
+    });
+}
+
+void PracticeEditor::makePilot()
+{
+    const QString title = QStringLiteral("lesson %1 (%2)").arg(m_options.lesson).arg(m_options.locale);
+    m_pilot = new Pilot(&m_session, {title, m_options.shotsFolder}, this);
+    connect(m_pilot, &Pilot::progress, this, [](const QString &line) { printLine(stdout, line); });
+    connect(m_pilot, &Pilot::ended, this, [this](const QString &failure) {
+        if (!failure.isEmpty()) {
+            printLine(stderr, failure);
+        }
+        Q_EMIT ended(failure.isEmpty() ? 0 : 1);
+    });
+}
+
+void PracticeEditor::onConnected()
+{
+    if (m_pilot != nullptr) {
+        m_pilot->setCompanionPid(m_link.companionPid());
+    }
+    m_session.greet(m_options.locale);
+}
+
+void PracticeEditor::onLost(const QString &lastWords)
+{
+    m_session.abandon();
+    printLine(stderr, QStringLiteral("The companion ended unexpectedly. Its last lines were:\n") + lastWords);
+    if (m_pilot != nullptr) {
+        m_pilot->fail(QStringLiteral("the companion ended"));
+        return;
+    }
+    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Practice editor"),
+                                QStringLiteral("The guide ended unexpectedly. Your project is not affected.\n"
+                                               "Restart it? The lesson begins again."));
+    box->setObjectName(QStringLiteral("lostMessageBox"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QPushButton *const restart = box->addButton(QStringLiteral("Restart"), QMessageBox::AcceptRole);
+    box->addButton(QStringLiteral("Go on without"), QMessageBox::RejectRole);
+    connect(box, &QDialog::finished, this, [this, box, restart] {
+        if (box->clickedButton() == restart) {
+            restartCompanion();
+        }
+    });
+    box->open();
+}
+
+void PracticeEditor::restartCompanion()
+{
+    QString error;
+    if (!m_link.start(&error)) {
+        tellPerson(error);
+    }
+}
+
+void PracticeEditor::tellPerson(const QString &text)
+{
+    printLine(stderr, text);
+    if (m_pilot != nullptr) {
+        m_pilot->fail(text);
+        return;
+    }
+    auto *box =
+        new QMessageBox(QMessageBox::Warning, QStringLiteral("Practice editor"), text, QMessageBox::Ok);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void PracticeEditor::play(const QString &lessonName)
+{
+    m_lessonName = lessonName;
+    if (m_link.isConnected()) {
+        m_session.request(lessonName);
+    } else {
+        restartCompanion();
+    }
+}

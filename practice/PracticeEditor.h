@@ -1,0 +1,68 @@
+#pragma once
+
+#include "LessonPanel.h"
+#include "LessonSession.h"
+#include "link/HostLink.h"
+#include "project/ProjectStore.h"
+
+#include <QObject>
+
+#include <memory>
+
+class EditorWindows;
+class Pilot;
+
+/// The practice editor as a whole: joins the windows, the link, the lesson and, if asked for, the pilot.
+class PracticeEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        /// Number of the lesson to begin with; 0 lets the person choose.
+        int lesson = 0;
+        QString locale;
+        bool pilot = false;
+        QString shotsFolder;
+        QString companionProgram;
+        /// Key of the link; empty for a random one.
+        QString key;
+        /// Where the projects of lessons are made.
+        QString projectsFolder;
+    };
+
+    PracticeEditor(const Options &options, std::unique_ptr<EditorWindows> windows);
+    ~PracticeEditor() override;
+
+    PracticeEditor(const PracticeEditor &) = delete;
+    PracticeEditor &operator=(const PracticeEditor &) = delete;
+    PracticeEditor(PracticeEditor &&) = delete;
+    PracticeEditor &operator=(PracticeEditor &&) = delete;
+
+    /// Opens the main window and starts the companion. False with a text for the person when that fails.
+    [[nodiscard]] bool start(QString *error);
+
+Q_SIGNALS:
+    /// The editor is to end with this exit status.
+    void ended(int status);
+
+private:
+    void connectSession();
+    void makePilot();
+    void onConnected();
+    void onLost(const QString &lastWords);
+    void restartCompanion();
+    void tellPerson(const QString &text);
+    void play(const QString &lessonName);
+
+    Options m_options;
+    std::unique_ptr<EditorWindows> m_windows;
+    LessonSession m_session;
+    LessonPanel m_panel;
+    ProjectStore m_projects;
+    HostLink m_link;
+    Pilot *m_pilot = nullptr;
+    /// The lesson to ask for once the companion is there.
+    QString m_lessonName;
+};

@@ -1,0 +1,28 @@
+#include "pilot/Placement.h"
+
+namespace {
+
+// From the top left corner of an upright, unmirrored bubble to the tip of its arrow.
+constexpr QPoint kTip(38, 150);
+constexpr int kMirroredLeft = 308;
+constexpr int kUpsideDownBelow = 165;
+
+bool isClose(const QPoint &a, const QPoint &b)
+{
+    return qAbs(a.x() - b.x()) <= kRestingShort && qAbs(a.y() - b.y()) <= kRestingShort;
+}
+
+} // namespace
+
+std::optional<QPoint> arrowSpot(const QPoint &bubble, const QPoint &target)
+{
+    for (const int left : {0, kMirroredLeft}) {
+        for (const int below : {0, kUpsideDownBelow}) {
+            const QPoint upright = bubble + QPoint(left, -below);
+            if (isClose(upright, target)) {
+                return upright + kTip;
+            }
+        }
+    }
+    return {};
+}

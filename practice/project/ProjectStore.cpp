@@ -1,0 +1,81 @@
+#include "project/ProjectStore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+namespace {
+
+bool staysInside(const QString &name)
+{
+    const QString clean = QDir::cleanPath(name);
+    return !name.isEmpty() && QDir::isRelativePath(name) && clean != QLatin1String("..") &&
+           !clean.startsWith(QLatin1String("../")) && clean != QLatin1String(".");
+}
+
+bool write(const QString &path, const QString &text, QString *error)
+{
+    QFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+        file.write(bytes) == bytes.size() && file.flush()) {
+        return true;
+    }
+    *error = QStringLiteral("The project's file \"%1\" cannot be written: %2").arg(path, file.errorString());
+    return false;
+}
+
+} // namespace
+
+ProjectStore::ProjectStore(const QString &folder, QObject *parent)
+    : QObject(parent)
+    , m_folder(folder)
+{
+}
+
+bool ProjectStore::create(const QString &name, const QMap<QString, QString> &files, QString *error)
+{
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!staysInside(file.key())) {
+            *error =
+                QStringLiteral("The project cannot hold the file \"%1\": it would lie outside of the folder.")
+                    .arg(file.key());
+            return false;
+        }
+    }
+    // Built beside its place and renamed into it.
+    QDir().mkpath(m_folder);
+    QTemporaryDir room(QDir(m_folder).filePath(QStringLiteral(".new-XXXXXX")));
+    if (!room.isValid()) {
+        *error = QStringLiteral("The project's folder cannot be made in \"%1\": %2")
+                     .arg(m_folder, room.errorString());
+        return false;
+    }
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!write(room.filePath(file.key()), file.value(), error)) {
+            return false;
+        }
+    }
+    QString path = QDir(m_folder).filePath(name);
+    for (int number = 2; QFileInfo::exists(path); ++number) {
+        path = QDir(m_folder).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
+    }
+    if (!QDir().rename(room.path(), path)) {
+        *error = QStringLiteral("The project's folder \"%1\" cannot be made.").arg(path);
+        return false;
+    }
+    room.setAutoRemove(false);
+    m_path = path;
+    Q_EMIT changed();
+    return true;
+}
+
+QJsonDocument ProjectStore::file(const QString &name) const
+{
+    QFile file(QDir(m_path).filePath(name));
+    if (m_path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QJsonDocument::fromJson(file.readAll());
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QJsonDocument>
+#include <QMap>
+#include <QObject>
+
+/// The data files of the project that a lesson brings along, in a folder of the person's.
+class ProjectStore : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Projects are made inside @p folder, which need not exist yet.
+    explicit ProjectStore(const QString &folder, QObject *parent = nullptr);
+
+    /// Writes @p files, path inside the project to text, into a new folder named after @p name; where there
+    /// is one already, a number is added: nothing that exists is touched. The folder appears whole or not at
+    /// all. False with a text for the person when a path leads out of the project or a file cannot be
+    /// written; the project that was open stays open.
+    [[nodiscard]] bool create(const QString &name, const QMap<QString, QString> &files, QString *error);
+
+    /// Full path of the open project's folder; empty before the first create().
+    [[nodiscard]] QString path() const { return m_path; }
+
+    /// The file of the open project, such as "data/Actors.json"; null when there is none or it is not JSON.
+    [[nodiscard]] QJsonDocument file(const QString &name) const;
+
+Q_SIGNALS:
+    /// Another project is open.
+    void changed();
+
+private:
+    QString m_folder;
+    QString m_path;
+};
