@@ -1,6 +1,7 @@
 #include "window/DescriptionSet.h"
 
 #include "window/EditorProject.h"
+#include "window/ToolIcon.h"
 
 #include <QDir>
 
@@ -53,6 +54,7 @@ struct ReferenceCheck
         oneOf(control.name + QStringLiteral(".field"), control.field, EditorProject::fields());
         oneOf(control.name + QStringLiteral(".source"), control.source, EditorProject::sources());
         oneOf(control.name + QStringLiteral(".picture"), control.picture, EditorProject::pictures());
+        oneOf(control.name + QStringLiteral(".icon"), control.icon, toolIcons());
         oneOf(control.name + QStringLiteral(".needs"), control.needs, {QStringLiteral("project")});
     }
 };

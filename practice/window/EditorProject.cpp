@@ -125,12 +125,10 @@ void EditorProject::runMap(const QString &command)
     } else if (command == QLatin1String("map.redo")) {
         swapLayers(open->redo, open->undo);
     } else if (command == QLatin1String("map.edit")) {
-        m_draft = open->map;
-        m_draftSize = m_draft.size;
-        m_draftIsNew = false;
+        editMap();
     } else if (command == QLatin1String("map.delete")) {
         m_maps.remove(m_currentMap);
-        m_currentMap = qMin(m_currentMap, m_maps.size() - 1);
+        selectMap(m_currentMap);
         m_modified = true;
     }
 }
@@ -140,11 +138,11 @@ void EditorProject::runDialog(const QString &command)
     if (command == QLatin1String("newProject.accept")) {
         m_open = false;
         m_maps.clear();
-        m_currentMap = -1;
+        selectMap(-1);
     } else if (command == QLatin1String("newProject.create")) {
         for (const GameMap &map : std::as_const(m_data.startMaps))
             m_maps.append({map, {}, {}});
-        m_currentMap = 0;
+        selectMap(0);
         m_name = m_newName;
         m_open = true;
         m_modified = false;
@@ -249,7 +247,7 @@ int EditorProject::currentRow(const QString &source) const
 void EditorProject::setCurrentRow(const QString &source, int row)
 {
     if (source == QLatin1String("maps"))
-        m_currentMap = qBound(-1, row, m_maps.size() - 1);
+        selectMap(row);
     else if (source == QLatin1String("tileTab"))
         m_tileTab = row;
     else if (source == QLatin1String("tiles"))
@@ -306,15 +304,37 @@ void EditorProject::paint(const QVector<QPoint> &cells)
         Q_EMIT changed();
 }
 
+void EditorProject::selectMap(int row)
+{
+    m_currentMap = qBound(-1, row, m_maps.size() - 1);
+    editMap();
+}
+
+void EditorProject::editMap()
+{
+    m_draftIsNew = false;
+    if (const GameMap *shown = map()) {
+        m_draft = *shown;
+        m_draftSize = shown->size;
+    }
+}
+
 void EditorProject::acceptMap()
 {
-    m_draft.resize(m_draftSize, 0);
+    OpenMap *open = current();
     if (m_draftIsNew) {
+        m_draft.resize(m_draftSize, 0);
         addMap(m_draft);
-    } else if (OpenMap *open = current()) {
-        open->map = m_draft;
-        open->undo.clear();
-        open->redo.clear();
+    } else if (open != nullptr) {
+        open->map.name = m_draft.name;
+        open->map.displayName = m_draft.displayName;
+        open->map.showName = m_draft.showName;
+        open->map.tileSet = m_draft.tileSet;
+        if (open->map.size != m_draftSize) {
+            open->map.resize(m_draftSize, 0);
+            open->undo.clear();
+            open->redo.clear();
+        }
         m_modified = true;
     }
 }
@@ -326,7 +346,7 @@ void EditorProject::addMap(GameMap map)
     const OpenMap *below = current();
     map.level = below != nullptr ? below->map.level : 0;
     m_maps.insert(m_currentMap + 1, {std::move(map), {}, {}});
-    ++m_currentMap;
+    selectMap(m_currentMap + 1);
     m_modified = true;
 }
 

@@ -95,6 +95,9 @@ private:
     bool runView(const QString &command);
     void runMap(const QString &command);
     void runDialog(const QString &command);
+    void selectMap(int row);
+    /// Makes the draft a copy of the map on show, so that the dialog never shows another one.
+    void editMap();
     void acceptMap();
     void addMap(GameMap map);
     void swapLayers(QVector<GameMap::Layers> &from, QVector<GameMap::Layers> &to);

@@ -17,7 +17,7 @@ constexpr int kFontPixels = 12;
 
 QString EditorWindowContext::text(const LocalText &texts) const
 {
-    return texts.value(locale, texts.value(QStringLiteral("en_US")));
+    return texts.value(locale);
 }
 
 EditorWindow::EditorWindow(const QString &key, const QSize &size, const QVector<ControlDescription> &controls,

@@ -15,7 +15,7 @@ struct EditorWindowContext
     MapPainter *painter;
     QString locale;
 
-    /// The text in the locale, in English where there is none.
+    /// The text in the locale.
     [[nodiscard]] QString text(const LocalText &texts) const;
 };
 

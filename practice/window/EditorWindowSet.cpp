@@ -41,12 +41,13 @@ std::unique_ptr<EditorWindowSet> EditorWindowSet::create(const QString &locale, 
                                                          const QString &folder)
 {
     initWindowDescriptions();
+    const QString known = JsonReader::locales().contains(locale) ? locale : JsonReader::locales().first();
     DescriptionSet descriptions = DescriptionSet::read(folder, errors);
-    ProjectData data = ProjectData::read(folder + QStringLiteral("/data/project.json"), locale, errors);
+    ProjectData data = ProjectData::read(folder + QStringLiteral("/data/project.json"), known, errors);
     if (!errors->isEmpty())
         return nullptr;
     return std::unique_ptr<EditorWindowSet>(
-        new EditorWindowSet(std::move(descriptions), std::move(data), locale));
+        new EditorWindowSet(std::move(descriptions), std::move(data), known));
 }
 
 EditorWindowSet::EditorWindowSet(DescriptionSet descriptions, ProjectData data, const QString &locale)
@@ -136,13 +137,12 @@ bool EditorWindowSet::open(const QString &windowKey)
         return true;
     }
     place(window, description);
-    m_stack.append(windowKey);
     window->show();
     window->activateWindow();
+    m_stack.append(windowKey);
     Q_EMIT pushed(windowKey);
-    m_toldOrigins.remove(windowKey);
+    m_toldOrigins.clear();
     tellPlaces(window);
-    updateVisible();
     if (QTimer *timer = m_timers.value(windowKey))
         timer->start();
     tellState(windowKey, "open");
@@ -177,7 +177,6 @@ void EditorWindowSet::closeTop()
     if (!m_stack.isEmpty())
         m_windows[m_stack.last()]->activateWindow();
     Q_EMIT popped(key);
-    updateVisible();
     tellState(key, "close");
 }
 
@@ -241,7 +240,6 @@ void EditorWindowSet::showPopup(const QString &name, const QPoint &position)
     m_popup = m_windows[name];
     m_popup->move(fitted(position, m_popup->size(), screenRect()));
     m_popup->show();
-    m_popup->raise();
     Q_EMIT pushed(popupEntry());
     tellPlaces(m_popup);
     Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_descriptions.popupKey()});

@@ -18,7 +18,8 @@ class EditorWindowSet : public EditorWindows
     Q_OBJECT
 
 public:
-    /// Builds the windows described in @p folder with the texts of @p locale. Gives nullptr and adds a line
+    /// Builds the windows described in @p folder with the texts of @p locale, English
+    /// where that is not one of the three. Gives nullptr and adds a line
     /// to
     /// @p errors for each thing that is wrong with a file; each names the file, the place and the mend.
     static std::unique_ptr<EditorWindowSet> create(const QString &locale, QStringList *errors,

@@ -6,16 +6,6 @@
 
 #include <utility>
 
-namespace {
-
-const QStringList &locales()
-{
-    static const QStringList names{QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
-    return names;
-}
-
-} // namespace
-
 JsonReader::JsonReader(QString file, QString place, QJsonObject object, QStringList *errors)
     : m_file(std::move(file))
     , m_place(std::move(place))
@@ -46,6 +36,12 @@ std::optional<JsonReader> JsonReader::open(const QString &path, QStringList *err
         return std::nullopt;
     }
     return JsonReader(path, QString(), document.object(), errors);
+}
+
+const QStringList &JsonReader::locales()
+{
+    static const QStringList names{QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
+    return names;
 }
 
 bool JsonReader::has(const QString &field) const

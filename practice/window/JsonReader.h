@@ -25,6 +25,9 @@ public:
     /// The object in the file at @p path; empty, with an error added, when it cannot be read or is not JSON.
     static std::optional<JsonReader> open(const QString &path, QStringList *errors);
 
+    /// The locales that every text has, English first.
+    static const QStringList &locales();
+
     [[nodiscard]] bool has(const QString &field) const;
 
     /// The required fields: an error when absent or of another type.

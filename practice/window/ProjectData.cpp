@@ -1,5 +1,7 @@
 #include "window/ProjectData.h"
 
+#include "window/TileDrawing.h"
+
 namespace {
 
 QString str(const char *text)
@@ -54,7 +56,7 @@ ProjectData ProjectData::read(const QString &path, const QString &locale, QStrin
         if (tiles.size() != kTilesPerTab)
             tab.addError(str("tiles"), str("must be %1 tiles").arg(kTilesPerTab));
         for (JsonReader &tile : tiles) {
-            data.tiles.append({tile.text(str("drawing")), tile.text(str("letter")),
+            data.tiles.append({tile.choice(str("drawing"), tileDrawings()), tile.text(str("letter")),
                                tile.localText(str("name")).value(locale)});
             letters.insert(data.tiles.last().letter, data.tiles.size() - 1);
         }
@@ -86,6 +88,6 @@ ProjectData ProjectData::read(const QString &path, const QString &locale, QStrin
             data.texts.insert(str(name), texts->localText(str(name)).value(locale));
     }
     if (data.tiles.isEmpty() || data.tileSets.isEmpty() || data.startMaps.isEmpty() || !texts)
-        reader->addError(QString(), str("needs tileTabs, tileSets, sampleMaps, startMaps and texts"));
+        reader->addError(str("(file)"), str("needs tileTabs, tileSets, sampleMaps, startMaps and texts"));
     return data;
 }

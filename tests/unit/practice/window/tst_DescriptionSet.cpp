@@ -1,0 +1,145 @@
+#include "DescriptionFiles.h"
+#include "window/DescriptionSet.h"
+
+#include <QtTest>
+
+namespace {
+
+const QString kShipped = QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows");
+
+} // namespace
+
+class tst_DescriptionSet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shippedDescriptionsHaveNoErrors();
+    void controlsOfAWindowDoNotOverlap();
+    void everyFileIsCompiledIn();
+    void controlsOfPopupsAreFoundByName();
+    void tellsBadReferences_data();
+    void tellsBadReferences();
+    void tellsAnEmptyFolder();
+};
+
+void tst_DescriptionSet::shippedDescriptionsHaveNoErrors()
+{
+    QStringList errors;
+    const auto set = DescriptionSet::read(kShipped, &errors);
+    QCOMPARE(errors, QStringList());
+    const QStringList firstLesson{QString(),
+                                  QStringLiteral("ApplicationWindow"),
+                                  QStringLiteral("Copying"),
+                                  QStringLiteral("ImageSelector"),
+                                  QStringLiteral("MainWindow"),
+                                  QStringLiteral("MainWindowClient_mapEditorView"),
+                                  QStringLiteral("MapEditTreeBox"),
+                                  QStringLiteral("MapLoader"),
+                                  QStringLiteral("MapProperties"),
+                                  QStringLiteral("Menu"),
+                                  QStringLiteral("NewProject")};
+    for (const QString &key : firstLesson)
+        QVERIFY2(set.contains(key), qPrintable(key));
+}
+
+void tst_DescriptionSet::controlsOfAWindowDoNotOverlap()
+{
+    QStringList errors;
+    const auto set = DescriptionSet::read(kShipped, &errors);
+    const QStringList keys = set.keys();
+    for (const QString &key : keys) {
+        QVector<QPair<QString, QRect>> places;
+        for (const ControlDescription &control : set[key].controls)
+            places.append({control.name, control.geometry});
+        for (const QString &part : keys) {
+            if (set[part].kind == WindowDescription::Kind::kPart && set[part].owner == key)
+                places.append({part, QRect(set[part].place, set[part].size)});
+        }
+        for (int left = 0; left < places.size(); ++left) {
+            QVERIFY2(QRect(QPoint(), set[key].size).contains(places[left].second),
+                     qPrintable(places[left].first));
+            for (int right = left + 1; right < places.size(); ++right) {
+                QVERIFY2(!places[left].second.intersects(places[right].second),
+                         qPrintable(key + QLatin1Char(' ') + places[left].first + QLatin1Char(' ') +
+                                    places[right].first));
+            }
+        }
+    }
+}
+
+void tst_DescriptionSet::everyFileIsCompiledIn()
+{
+    QFile list(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows.qrc"));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(list.readAll());
+    const QStringList names = QDir(kShipped).entryList({QStringLiteral("*.json")}, QDir::Files);
+    QVERIFY(!names.isEmpty());
+    for (const QString &name : names)
+        QVERIFY2(text.contains(QStringLiteral("<file alias=\"%1\">windows/%1</file>").arg(name)),
+                 qPrintable(name));
+}
+
+void tst_DescriptionSet::controlsOfPopupsAreFoundByName()
+{
+    QStringList errors;
+    const auto set = DescriptionSet::read(kShipped, &errors);
+    QCOMPARE(set.popupKey(), QStringLiteral("Menu"));
+    QVERIFY(set.popup(QStringLiteral("MapPopup")) != nullptr);
+    QVERIFY(set.popup(QStringLiteral("NoPopup")) == nullptr);
+}
+
+void tst_DescriptionSet::tellsBadReferences_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const char *control, const char *error) {
+        QTest::newRow(name) << QByteArray(control) << QString::fromLatin1(error);
+    };
+    row("window", R"("type": "progress", "click": {"open": "Other"})",
+        "it.click.open: no window is called \"Other\"; add \"Other.json\" or correct the name");
+    row("context menu", R"("type": "progress", "contextMenu": {"popup": "Other"})",
+        "it.contextMenu.popup: no context menu is called \"Other\"; add it to \"Menu.json\"");
+    row("command", R"("type": "progress", "doubleClick": {"run": "map.eat"})",
+        "it.doubleClick.run: \"map.eat\" is unknown; use one of: tool.pencil, ");
+    row("field", R"("type": "lineEdit", "field": "map.age")",
+        "it.field: \"map.age\" is unknown; use one of: status, ");
+    row("source", R"("type": "list", "rowHeight": 9, "source": "worlds")",
+        "it.source: \"worlds\" is unknown; use one of: maps, ");
+    row("picture", R"("type": "picture", "picture": "face")",
+        "it.picture: \"face\" is unknown; use one of: map.tileSet, ");
+    row("icon", R"("type": "toolButton", "icon": "axe", "action": "x", "actionState": "", "label": TEXT)",
+        "it.icon: \"axe\" is unknown; use one of: ellipse, ");
+    row("need",
+        R"("type": "toolButton", "icon": "save", "needs": "luck", "action": "x", "actionState": "", "label": TEXT)",
+        "it.needs: \"luck\" is unknown; use one of: project");
+}
+
+void tst_DescriptionSet::tellsBadReferences()
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QString, error);
+    const DescriptionFiles files;
+    const QByteArray text =
+        "{\"key\": \"Box\", \"kind\": \"window\", \"size\": [90, 90], \"place\": [0, 0], \"title\": TEXT,"
+        "\"controls\": [{\"name\": \"it\", \"geometry\": [0, 0, 9, 9], " +
+        control + "}]}";
+    const QString path =
+        files.write(QStringLiteral("Box.json"),
+                    QByteArray(text).replace("TEXT", R"({"en_US": "a", "ja_JP": "b", "zh_CN": "c"})"));
+    QStringList errors;
+    DescriptionSet::read(files.folder(), &errors);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors.first().startsWith(path + QStringLiteral(": ") + error), qPrintable(errors.first()));
+}
+
+void tst_DescriptionSet::tellsAnEmptyFolder()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    DescriptionSet::read(files.folder(), &errors);
+    QCOMPARE(errors, QStringList{files.folder() + QStringLiteral(": holds no window descriptions (*.json)")});
+}
+
+QTEST_GUILESS_MAIN(tst_DescriptionSet)
+#include "tst_DescriptionSet.moc"
