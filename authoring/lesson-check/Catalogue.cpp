@@ -86,7 +86,8 @@ private:
             report(message.line, context, source, QStringLiteral("the translation is empty"));
         else
             m_contexts[context].insert(source, message);
-        for (const QString &marker : placeMarkers(source)) {
+        const QSet<QString> markers = placeMarkers(source);
+        for (const QString &marker : markers) {
             if (!message.translation.contains(marker))
                 report(message.line, context, source,
                        QStringLiteral("the translation lacks the place marker %1").arg(marker));

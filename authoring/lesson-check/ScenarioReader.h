@@ -21,8 +21,8 @@ public:
 private:
     void readItem(ScenarioSteps &steps);
     void readFields(int first, int count, ScenarioStep &step);
-    void readValue(int line, int field, const QString &value, ScenarioStep &step);
-    void report(int line, const ScenarioStep *step, const QString &field, const QString &text);
+    void readValue(int line, int index, const QString &value, ScenarioStep &step);
+    void report(int line, const ScenarioStep *step, const QString &name, const QString &text);
 
     QString m_file;
     QStringList m_lines;

@@ -74,7 +74,8 @@ Findings checkLanguages(const QVector<Catalogue> &catalogues)
 {
     QMap<QString, QSet<QString>> all;
     for (const Catalogue &catalogue : catalogues) {
-        for (const QString &context : catalogue.contexts()) {
+        const QStringList contexts = catalogue.contexts();
+        for (const QString &context : contexts) {
             const Catalogue::Messages messages = catalogue.messages(context);
             for (auto message = messages.cbegin(); message != messages.cend(); ++message)
                 all[context].insert(message.key());
