@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
 #include "tool/LogLine.h"
@@ -44,6 +45,7 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
     m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
     hide();
     new ClickThrough(this);
+    new KeepPlace(this);
 }
 
 EditorTooltip::~EditorTooltip()
@@ -76,7 +78,7 @@ void EditorTooltip::present(const QString &text, int x, int y)
     }
     move(clampToInt(static_cast<qint64>(x) - m_textEdit->width() / 2),
          clampToInt(static_cast<qint64>(y) - m_textEdit->height() / 2));
-    setWindowOpacity(0.0);
+    applyOpacity(0.0);
     m_delay = kDelayTicks;
     m_timeout = kTimeoutTicks;
     m_fade = kFadeTicks;
@@ -111,7 +113,7 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
     }
     move(settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt());
     // Not the name under which getSettings stores it: a rebuilt tooltip starts invisible.
-    setWindowOpacity(settings.value(QStringLiteral("opacity")).toDouble());
+    applyOpacity(settings.value(QStringLiteral("opacity")).toDouble());
     m_delay = settings.value(QStringLiteral("delay")).toInt();
     m_timeout = settings.value(QStringLiteral("timeout")).toInt();
     m_fade = settings.value(QStringLiteral("fade")).toInt();
@@ -134,16 +136,23 @@ void EditorTooltip::timerEvent(QTimerEvent *event)
             m_fade = kFadeTicks;
         }
     } else if (m_timeout >= 1 && m_fade >= 1) {
-        setWindowOpacity(opacityOf(kFadeTicks + 1 - m_fade));
+        applyOpacity(opacityOf(kFadeTicks + 1 - m_fade));
         --m_fade;
     } else if (m_timeout >= 1) {
         if (--m_timeout == 0) {
             m_fade = kFadeTicks;
         }
     } else if (m_fade >= 1) {
-        setWindowOpacity(opacityOf(m_fade - 1));
+        applyOpacity(opacityOf(m_fade - 1));
         --m_fade;
     }
+}
+
+void EditorTooltip::applyOpacity(double opacity)
+{
+    setWindowOpacity(opacity);
+    // On X11 the new opacity stays in Qt's output buffer until something else is sent; painting is.
+    update();
 }
 
 void EditorTooltip::closeEvent(QCloseEvent *event)

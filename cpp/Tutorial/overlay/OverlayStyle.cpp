@@ -51,20 +51,28 @@ void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const Q
     painter->restore();
 }
 
+// The window of No begins 8 pixels before that of Yes ends, and both begin where the hint's panel ends: the
+// body keeps clear of all of them.
+QRect buttonBody(const QRect &window)
+{
+    return window.adjusted(0, 4, -10, 0);
+}
+
 void drawButton(QPainter *painter, const QStyleOptionButton &option)
 {
+    const QRect body = buttonBody(option.rect);
     const bool pressed = option.state.testFlag(QStyle::State_Sunken);
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
     const bool reachedByKey = option.state.testFlag(QStyle::State_HasFocus) &&
                               option.state.testFlag(QStyle::State_KeyboardFocusChange);
     const QColor &fill = pressed ? kButtonPressed : hovered ? kButtonHover : kButtonFill;
-    drawPanel(painter, option.rect, fill, kButtonLine);
+    drawPanel(painter, body, fill, kButtonLine);
     if (reachedByKey) {
-        drawPanel(painter, option.rect.adjusted(3, 3, -3, -3), fill, kButtonText);
+        drawPanel(painter, body.adjusted(3, 3, -3, -3), fill, kButtonText);
     }
     painter->setPen(kButtonText);
-    painter->drawText(pressed ? option.rect.translated(0, 1) : option.rect,
-                      Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
+    painter->drawText(pressed ? body.translated(0, 1) : body, Qt::AlignCenter | Qt::TextShowMnemonic,
+                      option.text);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 
 #include "Tutorial/overlay/HintHtml.h"
+#include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
@@ -348,6 +349,7 @@ QPushButton *TutorialIndicator::makeButton(const QString &name, const QString &c
     button->setAttribute(Qt::WA_ShowWithoutActivating);
     button->setFont(font);
     button->hide();
+    new KeepPlace(button);
     return button;
 }
 

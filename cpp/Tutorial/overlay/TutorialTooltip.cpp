@@ -2,6 +2,7 @@
 
 #include "Tutorial/overlay/Bounce.h"
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "tool/LogLine.h"
 
@@ -49,6 +50,7 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     setGeometry(0, 0, 640, 480);
     hide();
     new ClickThrough(this);
+    new KeepPlace(this);
 }
 
 TutorialTooltip::~TutorialTooltip()

@@ -1,6 +1,6 @@
 #include "FakeOverlayHost.h"
-#include "Tutorial/overlay/EditorTooltip.h"
 #include "LogCapture.h"
+#include "Tutorial/overlay/EditorTooltip.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "FakeOverlayHost.h"
-#include "TestIndicator.h"
 #include "LogCapture.h"
+#include "TestIndicator.h"
 
 #include <QTextDocument>
 #include <QtTest>
