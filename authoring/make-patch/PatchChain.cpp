@@ -1,0 +1,204 @@
+#include "make-patch/PatchChain.h"
+
+#include "make-patch/PatchFiles.h"
+#include "make-patch/PatchMaker.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const QDir::Filters kEverything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+} // namespace
+
+PatchChain::PatchChain(QString stepsDirectory, QString patchDirectory, QStringList mayVanish)
+    : m_stepsDirectory(std::move(stepsDirectory))
+    , m_patchDirectory(QDir::cleanPath(patchDirectory))
+    , m_mayVanish(std::move(mayVanish))
+{
+}
+
+bool PatchChain::make(QString &error)
+{
+    if (!findSteps(error) || !checkPatchDirectory(error))
+        return false;
+    const QString parent = QFileInfo(m_patchDirectory).absolutePath();
+    QDir().mkpath(parent);
+    // Beside the place it is for, so that to put it there is a rename.
+    QTemporaryDir scratch(parent + QStringLiteral("/make-patch-XXXXXX"));
+    if (!scratch.isValid()) {
+        error = QStringLiteral("cannot make a directory in %1: %2").arg(parent, scratch.errorString());
+        return false;
+    }
+    const QString made = scratch.filePath(QStringLiteral("new"));
+    for (const Step &step : std::as_const(m_steps)) {
+        if (!makeStep(step, made, error))
+            return false;
+    }
+    for (const QString &name : std::as_const(m_mayVanish)) {
+        if (!m_vanished.contains(name)) {
+            error = QStringLiteral("%1 was allowed to vanish, and no step leaves it out").arg(name);
+            return false;
+        }
+    }
+    return replacePatchDirectory(made, scratch.filePath(QStringLiteral("old")), error);
+}
+
+bool PatchChain::findSteps(QString &error)
+{
+    const QDir root(m_stepsDirectory);
+    if (!root.exists()) {
+        error = QStringLiteral("%1 is not a directory").arg(m_stepsDirectory);
+        return false;
+    }
+    static const QRegularExpression stepName(QStringLiteral("^step(\\d+)$"));
+    const QFileInfoList entries = root.entryInfoList(kEverything);
+    for (const QFileInfo &entry : entries) {
+        const QRegularExpressionMatch match = stepName.match(entry.fileName());
+        if (!match.hasMatch())
+            continue; // a note on the steps, for one
+        bool isNumber = false;
+        const int number = match.captured(1).toInt(&isNumber);
+        if (!isNumber || !entry.isDir()) {
+            error = QStringLiteral("%1 is not a directory \"stepN\" with a number that fits 31 bits")
+                        .arg(entry.filePath());
+            return false;
+        }
+        m_steps.append({number, entry.fileName()});
+    }
+    if (m_steps.isEmpty()) {
+        error = QStringLiteral("%1 has no directory \"stepN\"").arg(m_stepsDirectory);
+        return false;
+    }
+    std::sort(m_steps.begin(), m_steps.end(),
+              [](const Step &left, const Step &right) { return left.number < right.number; });
+    const auto same =
+        std::adjacent_find(m_steps.cbegin(), m_steps.cend(),
+                           [](const Step &left, const Step &right) { return left.number == right.number; });
+    if (same != m_steps.cend()) {
+        error = QStringLiteral("%1 and %2 in %3 have the same number: rename one")
+                    .arg(same->name, std::next(same)->name, m_stepsDirectory);
+        return false;
+    }
+    return true;
+}
+
+bool PatchChain::checkPatchDirectory(QString &error) const
+{
+    const QFileInfo info(m_patchDirectory);
+    if (info.exists() && !info.isDir()) {
+        error = QStringLiteral("%1 is in the way: it is not a directory").arg(m_patchDirectory);
+        return false;
+    }
+    const QString steps = QDir(m_stepsDirectory).canonicalPath();
+    const QString patches = info.absoluteFilePath();
+    if (patches.startsWith(steps + QLatin1Char('/')) || steps.startsWith(patches + QLatin1Char('/'))) {
+        error = QStringLiteral("%1 and %2 lie inside one another").arg(m_patchDirectory, m_stepsDirectory);
+        return false;
+    }
+    QDirIterator iterator(m_patchDirectory, QDir::Files | QDir::Hidden | QDir::System,
+                          QDirIterator::Subdirectories);
+    while (iterator.hasNext()) {
+        const QString path = iterator.next();
+        if (!path.endsWith(QStringLiteral("-patch"))) {
+            error = QStringLiteral("%1 is not replaced, because %2 in it is no patch: move it away, or name "
+                                   "another directory")
+                        .arg(m_patchDirectory, path);
+            return false;
+        }
+    }
+    return true;
+}
+
+bool PatchChain::makeStep(const Step &step, const QString &directory, QString &error)
+{
+    const QString from = QStringLiteral("%1/%2/data").arg(m_stepsDirectory, step.name);
+    const QString to = QStringLiteral("%1/%2/data").arg(directory, step.name);
+    QStringList names;
+    if (!dataFiles(from, names, error) || !checkVanished(step, names, error))
+        return false;
+    if (!QDir().mkpath(to)) {
+        error = QStringLiteral("cannot make the directory %1").arg(to);
+        return false;
+    }
+    QHash<QString, std::string> texts;
+    for (const QString &name : std::as_const(names)) {
+        const QString path = QStringLiteral("%1/%2").arg(from, name);
+        std::string text;
+        if (!PatchFiles::read(path, text, error))
+            return false;
+        QByteArray patch;
+        if (!PatchMaker::makePatch(m_texts.value(name), text, patch, error)) {
+            error = QStringLiteral("%1: %2").arg(path, error);
+            return false;
+        }
+        if (!PatchFiles::write(QStringLiteral("%1/%2-patch").arg(to, name), patch, error))
+            return false;
+        ++m_patchCount;
+        m_patchBytes += patch.size();
+        texts.insert(name, std::move(text));
+    }
+    m_texts = std::move(texts);
+    return true;
+}
+
+bool PatchChain::dataFiles(const QString &directory, QStringList &names, QString &error) const
+{
+    if (!QFileInfo(directory).isDir()) {
+        error = QStringLiteral("%1 is missing: a step has its data files there").arg(directory);
+        return false;
+    }
+    const QFileInfoList entries = QDir(directory).entryInfoList(kEverything, QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        if (!entry.isFile() || !entry.fileName().endsWith(QStringLiteral(".json"))) {
+            error = QStringLiteral("%1 is no data file: only NAME.json belongs there").arg(entry.filePath());
+            return false;
+        }
+        names << entry.fileName();
+    }
+    return true;
+}
+
+bool PatchChain::checkVanished(const Step &step, const QStringList &names, QString &error)
+{
+    QStringList missing;
+    for (auto it = m_texts.cbegin(); it != m_texts.cend(); ++it) {
+        if (names.contains(it.key()))
+            continue;
+        if (m_mayVanish.contains(it.key()))
+            m_vanished << it.key();
+        else
+            missing << it.key();
+    }
+    if (missing.isEmpty())
+        return true;
+    missing.sort();
+    error = QStringLiteral(
+                "%1/%2/data lacks what the step before it has: %3. Copy it there, or allow it to vanish "
+                "with --allow-vanish")
+                .arg(m_stepsDirectory, step.name, missing.join(QStringLiteral(", ")));
+    return false;
+}
+
+bool PatchChain::replacePatchDirectory(const QString &made, const QString &aside, QString &error) const
+{
+    QDir directory;
+    const bool isReplacing = QFileInfo::exists(m_patchDirectory);
+    if (isReplacing && !directory.rename(m_patchDirectory, aside)) {
+        error = QStringLiteral("cannot move the old %1 out of the way").arg(m_patchDirectory);
+        return false;
+    }
+    if (directory.rename(made, m_patchDirectory))
+        return true;
+    error = QStringLiteral("cannot put the patches in their place at %1").arg(m_patchDirectory);
+    if (isReplacing)
+        directory.rename(aside, m_patchDirectory);
+    return false;
+}
