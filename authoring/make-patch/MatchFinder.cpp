@@ -6,8 +6,6 @@
 namespace {
 
 constexpr std::int32_t kNowhere = -1;
-// A match as long as this is taken without a look at the rest.
-constexpr std::size_t kLongEnough = 2048;
 
 int hashBitsFor(std::size_t places)
 {
@@ -62,11 +60,11 @@ void MatchFinder::add(std::size_t begin, std::size_t end)
     addTo(m_short, begin, end);
 }
 
-MatchFinder::Match MatchFinder::matchAt(std::size_t place, std::size_t source) const
+MatchFinder::Match MatchFinder::matchAt(std::string_view text, std::size_t place, std::size_t source)
 {
-    const char *earlier = m_text.data() + source;
-    const char *later = m_text.data() + place;
-    const std::size_t most = m_text.size() - place;
+    const char *earlier = text.data() + source;
+    const char *later = text.data() + place;
+    const std::size_t most = text.size() - place;
     return {source, std::size_t(std::mismatch(later, later + most, earlier).first - later)};
 }
 
@@ -77,7 +75,7 @@ MatchFinder::Match MatchFinder::findIn(const Chains &chains, std::size_t place, 
     int tries = chains.tries;
     std::int32_t source = chains.latest[hash(chains, place)];
     for (; source != kNowhere && tries > 0 && best.length < kLongEnough; --tries) {
-        const Match match = matchAt(place, std::size_t(source));
+        const Match match = matchAt(m_text, place, std::size_t(source));
         // Of two that are as long, the one nearer to the beginning takes the smaller number to name.
         if (match.length > best.length || (match.length == best.length && match.source < best.source))
             best = match;
@@ -88,7 +86,5 @@ MatchFinder::Match MatchFinder::findIn(const Chains &chains, std::size_t place, 
 
 MatchFinder::Match MatchFinder::find(std::size_t place, Match atLeast) const
 {
-    if (atLeast.length >= kLongEnough)
-        return atLeast;
     return findIn(m_short, place, findIn(m_long, place, atLeast));
 }

@@ -20,6 +20,9 @@ public:
         std::size_t length = 0; ///< In bytes; may reach beyond the place asked for, as the bytes then repeat.
     };
 
+    /// A match as long as this is taken without a look for a longer one.
+    static constexpr std::size_t kLongEnough = 2048;
+
     /// @p text has to live as long as the finder, and to be shorter than 2^31 bytes.
     explicit MatchFinder(std::string_view text);
 
@@ -27,8 +30,8 @@ public:
     void add(std::size_t begin, std::size_t end);
     /// The longest match for @p place that is found and no shorter than @p atLeast; otherwise @p atLeast.
     [[nodiscard]] Match find(std::size_t place, Match atLeast) const;
-    /// The match for @p place that begins at @p source, which lies before it.
-    [[nodiscard]] Match matchAt(std::size_t place, std::size_t source) const;
+    /// The match in @p text for @p place that begins at @p source, which lies before it.
+    [[nodiscard]] static Match matchAt(std::string_view text, std::size_t place, std::size_t source);
 
 private:
     /// Places that share a hash, each with the one added before it.

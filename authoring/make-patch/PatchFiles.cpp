@@ -1,6 +1,7 @@
 #include "make-patch/PatchFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 bool PatchFiles::read(const QString &path, std::string &text, QString &error)
@@ -21,8 +22,16 @@ bool PatchFiles::read(const QString &path, std::string &text, QString &error)
 
 bool PatchFiles::write(const QString &path, const QByteArray &bytes, QString &error)
 {
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile()) {
+        // Not even a device: root would put a file in its place.
+        error = QStringLiteral("cannot write %1: it is not a regular file").arg(path);
+        return false;
+    }
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    // Flushed by hand: commit() does not see that its own flush fails, and puts the empty file in place.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit()) {
         error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
         return false;
     }

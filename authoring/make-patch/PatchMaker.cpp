@@ -4,6 +4,7 @@
 #include "tool/StringPatch.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -94,26 +95,19 @@ public:
         , m_text(base + target)
         // Zeros at the end need no operation.
         , m_view(std::string_view(m_text).substr(0, base.size() + target.find_last_not_of('\0') + 1))
-        , m_finder(m_view)
         , m_writer(target.size())
         , m_distance(base.size())
+        , m_literals(base.size())
     {
     }
 
     QByteArray patch() &&
     {
-        m_finder.add(0, m_baseSize);
         std::size_t place = m_baseSize;
-        m_literals = place;
         while (place < m_view.size()) {
-            const std::size_t next = copyTo(place);
-            if (next == place) {
-                m_finder.add(place, place + 1);
-                ++place;
-                continue;
-            }
-            if (next - place < kLongMatch)
-                m_finder.add(place, next);
+            const std::size_t next = std::max(copyTo(place), place + 1);
+            if (m_finder && next - place < kLongMatch)
+                m_finder->add(place, next);
             place = next;
         }
         m_writer.insert(m_view.substr(m_literals));
@@ -123,17 +117,23 @@ public:
 private:
     /// The best match for @p place. The two likeliest are tried first: an edit leaves what follows it either
     /// at the distance that the last copy had, or as far from the end as it was.
-    [[nodiscard]] MatchFinder::Match bestMatch(std::size_t place) const
+    [[nodiscard]] MatchFinder::Match bestMatch(std::size_t place)
     {
         MatchFinder::Match best;
         for (const std::size_t distance : {m_distance, m_targetSize}) {
             if (distance == 0 || distance > place)
                 continue;
-            const MatchFinder::Match match = m_finder.matchAt(place, place - distance);
+            const MatchFinder::Match match = MatchFinder::matchAt(m_view, place, place - distance);
             if (match.length > best.length)
                 best = match;
         }
-        return m_finder.find(place, best);
+        if (best.length >= std::min(MatchFinder::kLongEnough, m_view.size() - place))
+            return best;
+        if (!m_finder) {
+            m_finder.emplace(m_view);
+            m_finder->add(0, place);
+        }
+        return m_finder->find(place, best);
     }
 
     /// Writes a copy for @p place if that is shorter than to insert the bytes; returns where it ends, @p
@@ -164,10 +164,11 @@ private:
     std::size_t m_targetSize;
     std::string m_text;
     std::string_view m_view; ///< Base and target, one behind the other, as offsets count.
-    MatchFinder m_finder;
+    std::optional<MatchFinder>
+        m_finder; ///< Made when it is needed first: a text that is unchanged does without.
     PatchWriter m_writer;
-    std::size_t m_distance;     ///< From the source of the last copy to where it went.
-    std::size_t m_literals = 0; ///< From here on nothing is written yet.
+    std::size_t m_distance; ///< From the source of the last copy to where it went.
+    std::size_t m_literals; ///< From here on nothing is written yet.
 };
 
 } // namespace
