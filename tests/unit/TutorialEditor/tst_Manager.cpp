@@ -1,0 +1,498 @@
+#include "DocumentFixture.h"
+#include "LogCapture.h"
+
+#include <QDir>
+#include <QMetaMethod>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+/// A lesson file in the form of the library, with a folder and every field.
+const char *const kTwoLevels = "var scenario = [\n"
+                               "    {\n"
+                               "\"id\":1,\n"
+                               "\"name\":\"Part\",\n"
+                               "\"folder\":true,\n"
+                               "\"children\":[\n"
+                               "        {\n"
+                               "\"id\":3,\n"
+                               "\"name\":\"A \\\"b\\\"\",\n"
+                               "\"folder\":false,\n"
+                               "\"translationId\":2,\n"
+                               "\"x\":10,\n"
+                               "\"y\":-20,\n"
+                               "\"windowKey\":\"MainWindow\",\n"
+                               "\"condition\":\"click,\",\n"
+                               "\"hint\":qsTr(\"#2\"),\n"
+                               "\"icon\":\"eye\",\n"
+                               "\"jump\":4,\n"
+                               "\"jumpNo\":5,\n"
+                               "\"command\":\"presetData,step2\",\n"
+                               "\"showArrow\":false,\n"
+                               "\"prohibited\":true        \n"
+                               "        }\n"
+                               "]    \n"
+                               "    },\n"
+                               "    {\n"
+                               "\"id\":2,\n"
+                               "\"name\":\"B\",\n"
+                               "\"folder\":false,\n"
+                               "\"translationId\":1,\n"
+                               "\"x\":-9999,\n"
+                               "\"y\":-9999,\n"
+                               "\"windowKey\":\"\",\n"
+                               "\"condition\":\"\",\n"
+                               "\"hint\":qsTr(\"#1\"),\n"
+                               "\"icon\":\"click\",\n"
+                               "\"jump\":-1,\n"
+                               "\"jumpNo\":-1,\n"
+                               "\"command\":\"\",\n"
+                               "\"showArrow\":true,\n"
+                               "\"prohibited\":false    \n"
+                               "    }\n"
+                               "];";
+
+} // namespace
+
+class tst_Manager : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theInstanceLivesAsLongAsTheObject();
+    void theMetaObjectIsBare();
+
+    void loadsWhatTheFormAllows_data();
+    void loadsWhatTheFormAllows();
+    void refusesWhatIsNoArray_data();
+    void refusesWhatIsNoArray();
+    void aFileThatDoesNotOpenLeavesTheItems();
+    void anItemWithoutIdIsLeftOutAndNamed();
+    void aScannerFailureIsAnErrorAndLoadingGoesOn();
+    void textsAreTranslatedOnLoad();
+    void loadingLeavesTheHistory();
+    void loadingIsLogged();
+
+    void namelessItemsGetNumberedNames();
+    void numberedNamesUseTheWordOfTheLocale();
+    void aFolderAndAnItemCountApart();
+
+    void writesTheFormOfTheLibrary();
+    void writesHintsAsTextWhenNotTranslated();
+    void compactTextKeepsTheBreaksBetweenItems();
+    void anEmptyDocumentIsAnEmptyArray();
+    void aNodeWithoutItemIsLeftOut();
+    void theFirstOfTwoItemsWithOneIdIsWritten();
+
+    void aSavedFileLoadsToTheSameTree();
+    void savingMarksThePositionAsSaved();
+    void savingWithoutAFileSaysSo();
+    void aFailedSaveIsReportedAndStaysModified_data();
+    void aFailedSaveIsReportedAndStaysModified();
+    void theLibraryIsInTheFormOfTheWriter();
+    void clearDropsItemsAndHistory();
+    void worksWithoutAHistory();
+};
+
+void tst_Manager::theInstanceLivesAsLongAsTheObject()
+{
+    const ScenarioTexts texts;
+    LogCapture log;
+    QCOMPARE(TutorialEditor::Manager::instance(), nullptr);
+    {
+        TutorialEditor::Manager document(&texts);
+        QCOMPARE(TutorialEditor::Manager::instance(), &document);
+        QCOMPARE(document.tree()->root.id, -1);
+        QVERIFY(document.tree()->root.folder);
+        QCOMPARE(document.fileName(), QString());
+    }
+    QCOMPARE(TutorialEditor::Manager::instance(), nullptr);
+    const QString source = QStringLiteral("..\\..\\tutorial\\cpp\\TutorialEditor\\Manager.cpp ");
+    QCOMPARE(log.debugs(), (QStringList{source + QStringLiteral("TutorialEditor::Manager::Manager 276"),
+                                        source + QStringLiteral("TutorialEditor::Manager::~Manager 284")}));
+}
+
+void tst_Manager::theMetaObjectIsBare()
+{
+    const QMetaObject &meta = TutorialEditor::Manager::staticMetaObject;
+    QCOMPARE(meta.className(), "TutorialEditor::Manager");
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+}
+
+void tst_Manager::loadsWhatTheFormAllows_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("shape");
+    QTest::newRow("scenario") << QByteArray("var scenario = [{\"id\":1},{\"id\":2}];")
+                              << QStringLiteral("1 2");
+    QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBFvar scenario = [{\"id\":1}];")
+                                     << QStringLiteral("1");
+    QTest::newRow("bare array") << QByteArray("[{\"id\":1}]") << QStringLiteral("1");
+    QTest::newRow("carriage returns")
+        << QByteArray("var scenario = [\r\n{\"id\":1}\r\n];\r\n") << QStringLiteral("1");
+    QTest::newRow("no item") << QByteArray("var scenario = [];") << QString();
+    QTest::newRow("folder") << QByteArray("[{\"id\":1,\"folder\":true,\"children\":[{\"id\":2}]},{\"id\":3}]")
+                            << QStringLiteral("1F[2] 3");
+    QTest::newRow("children of a leaf")
+        << QByteArray("[{\"id\":1,\"children\":[{\"id\":2}]}]") << QStringLiteral("1[2]");
+    QTest::newRow("comments") << QByteArray("/* a */\n// b\nvar scenario = [\n  // c\n \n{\"id\":1}\n];\n")
+                              << QStringLiteral("1");
+    QTest::newRow("the same id twice") << QByteArray("[{\"id\":1},{\"id\":1}]") << QStringLiteral("1 1");
+}
+
+void tst_Manager::loadsWhatTheFormAllows()
+{
+    QFETCH(QByteArray, bytes);
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(bytes), QStringList());
+    QTEST(fixture.shape(), "shape");
+    QCOMPARE(fixture.document.fileName(), fixture.path(QStringLiteral("Lesson.js")));
+}
+
+void tst_Manager::refusesWhatIsNoArray_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("object") << QByteArray("{\"id\":1}");
+    QTest::newRow("number") << QByteArray("12");
+    QTest::newRow("broken") << QByteArray("var scenario = [{\"id\":1}");
+    QTest::newRow("comment behind code") << QByteArray("[{\"id\":1} // first\n]");
+    QTest::newRow("an end inside a text") << QByteArray("var scenario = [{\"id\":1,\"name\":\"a];\"}];");
+    QTest::newRow("a comment begins inside a text")
+        << QByteArray("[{\"id\":1,\"name\":\"/*\"},{\"id\":2,\"name\":\"*/\"}]x");
+}
+
+void tst_Manager::refusesWhatIsNoArray()
+{
+    QFETCH(QByteArray, bytes);
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":5}]"), QStringList());
+    QCOMPARE(fixture.load(bytes), QStringList{QStringLiteral("json is not array")});
+    QCOMPARE(fixture.shape(), QString());
+    QCOMPARE(fixture.ids(), QString());
+}
+
+void tst_Manager::aFileThatDoesNotOpenLeavesTheItems()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":5}]"), QStringList());
+    LogCapture log;
+    const QString missing = fixture.path(QStringLiteral("missing.js"));
+    QCOMPARE(fixture.document.setContents(missing), QStringList());
+    QCOMPARE(fixture.shape(), QStringLiteral("5"));
+    QCOMPARE(fixture.document.fileName(), missing);
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(QStringLiteral("TutorialEditor::Manager::setContents 307 ")));
+    QVERIFY(log.warnings().first().contains(missing));
+    QCOMPARE(fixture.document.save(), QString());
+    QCOMPARE(fixture.document.setContents(missing), QStringList());
+    QCOMPARE(fixture.shape(), QStringLiteral("5"));
+}
+
+void tst_Manager::anItemWithoutIdIsLeftOutAndNamed()
+{
+    DocumentFixture fixture;
+    LogCapture log;
+    const QStringList errors = fixture.load(
+        R"([{"id":1},{"name":"lost"},"text",{"id":2,"folder":true,"children":[{"id":3},{}]},{"id":4,"children":5}])");
+    QCOMPARE(errors,
+             (QStringList{QStringLiteral("Item 2 is left out: it is no object with an \"id\""),
+                          QStringLiteral("Item 3 is left out: it is no object with an \"id\""),
+                          QStringLiteral("Item 4, child 2 is left out: it is no object with an \"id\""),
+                          QStringLiteral("Item 5 is left out: toArray() is called for kValue.")}));
+    QCOMPARE(fixture.shape(), QStringLiteral("1 2F[3]"));
+    QCOMPARE(fixture.ids(), QStringLiteral("1 2 3"));
+    QVERIFY(log.contains(QStringLiteral("TutorialEditor::Manager::setContents 395 (\"Item 2 is left out")));
+}
+
+void tst_Manager::aScannerFailureIsAnErrorAndLoadingGoesOn()
+{
+    DocumentFixture fixture;
+    const QStringList errors = fixture.load("var scenario = [{\"id\":1,\"hint\":qsTr(\"#1}];");
+    QCOMPARE(errors.size(), 2);
+    QVERIFY2(errors.first().startsWith(QStringLiteral("not matched qsTr(\"")), qPrintable(errors.first()));
+    QCOMPARE(errors.last(), QStringLiteral("json is not array"));
+}
+
+void tst_Manager::textsAreTranslatedOnLoad()
+{
+    FixedTranslator translator;
+    translator.texts = {{QStringLiteral("Lesson|#1"), QStringLiteral("Click \"here\"")},
+                        {QStringLiteral("Elsewhere|x"), QStringLiteral("y")}};
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"translationId\":1,\"hint\":qsTr(\"#1\"),"
+                          "\"name\":QT_TRANSLATE_NOOP(\"Elsewhere\", \"x\")}]\n\n"),
+             QStringList());
+    QCOMPARE(fixture.item(1)->hint, QStringLiteral("Click \"here\""));
+    QCOMPARE(fixture.item(1)->hint2, QStringLiteral("Click \"here\""));
+    QCOMPARE(fixture.item(1)->name, QStringLiteral("y"));
+}
+
+void tst_Manager::loadingLeavesTheHistory()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    fixture.item(1)->setName(QStringLiteral("b"));
+    fixture.undoRedo().endSingle();
+    QCOMPARE(fixture.load("[{\"id\":2}]"), QStringList());
+    QVERIFY(fixture.undoRedo().canUndo());
+}
+
+void tst_Manager::loadingIsLogged()
+{
+    DocumentFixture fixture;
+    LogCapture log;
+    QCOMPARE(fixture.load("[ ]\n"), QStringList());
+    const QString function = QStringLiteral("TutorialEditor::Manager::setContents ");
+    QVERIFY(log.contains(function + QStringLiteral("302 \"%1\"").arg(fixture.document.fileName())));
+    QVERIFY(log.contains(function + QStringLiteral("349")));
+    QVERIFY(log.contains(function + QStringLiteral("352 \"[ ]\"")));
+    QVERIFY(!log.contains(function + QStringLiteral("395")));
+    QVERIFY(log.warnings().isEmpty());
+}
+
+void tst_Manager::namelessItemsGetNumberedNames()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(R"([{"id":1},{"id":2,"name":"item007"},{"id":3,"folder":true,"children":[{"id":4},
+                             {"id":5,"name":"x"}]},{"id":6,"name":""},{"id":-5}])"),
+             QStringList());
+    QCOMPARE(fixture.item(1)->name, QStringLiteral("item008"));
+    QCOMPARE(fixture.item(2)->name, QStringLiteral("item007"));
+    QCOMPARE(fixture.item(3)->name, QStringLiteral("folder001"));
+    QCOMPARE(fixture.item(4)->name, QStringLiteral("item009"));
+    QCOMPARE(fixture.item(5)->name, QStringLiteral("x"));
+    QCOMPARE(fixture.item(6)->name, QStringLiteral("item010"));
+    QCOMPARE(fixture.item(-5)->name, QString());
+    QVERIFY(!fixture.undoRedo().canUndo());
+}
+
+void tst_Manager::numberedNamesUseTheWordOfTheLocale()
+{
+    FixedTranslator translator;
+    translator.texts = {{QStringLiteral("TutorialEditor::Manager|item"), QStringLiteral("Schritt")},
+                        {QStringLiteral("TutorialEditor::Manager|folder"), QStringLiteral("Ordner")}};
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(R"([{"id":1},{"id":2,"folder":true}])"), QStringList());
+    QCOMPARE(fixture.item(1)->name, QStringLiteral("Schritt001"));
+    QCOMPARE(fixture.item(2)->name, QStringLiteral("Ordner001"));
+}
+
+void tst_Manager::aFolderAndAnItemCountApart()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(R"([{"id":1},{"id":2,"folder":true},{"id":3,"folder":true},{"id":4}])"),
+             QStringList());
+    QCOMPARE(fixture.item(1)->name, QStringLiteral("item001"));
+    QCOMPARE(fixture.item(2)->name, QStringLiteral("folder001"));
+    QCOMPARE(fixture.item(3)->name, QStringLiteral("folder002"));
+    QCOMPARE(fixture.item(4)->name, QStringLiteral("item002"));
+}
+
+void tst_Manager::writesTheFormOfTheLibrary()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(kTwoLevels), QStringList());
+    LogCapture log;
+    QCOMPARE(fixture.document.getScenario(true), QString::fromUtf8(kTwoLevels));
+    QVERIFY(log.contains(QStringLiteral("TutorialEditor::Manager::getScenario 414")));
+}
+
+void tst_Manager::writesHintsAsTextWhenNotTranslated()
+{
+    FixedTranslator translator;
+    translator.texts = {{QStringLiteral("Lesson|#2"), QStringLiteral("say \"%1\"")},
+                        {QStringLiteral("Lesson|#1"), QStringLiteral("line\nbreak")}};
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(kTwoLevels), QStringList());
+    const QString expected =
+        QString::fromUtf8(kTwoLevels)
+            .replace(QStringLiteral("qsTr(\"#2\")"), QStringLiteral("\"say \\\"%1\\\"\""))
+            .replace(QStringLiteral("qsTr(\"#1\")"), QStringLiteral("\"line\\nbreak\""));
+    QCOMPARE(fixture.document.getScenario(false), expected);
+}
+
+void tst_Manager::compactTextKeepsTheBreaksBetweenItems()
+{
+    DocumentFixture fixture;
+    QCOMPARE(
+        fixture.load(
+            R"([{"id":1,"name":"f","folder":true,"children":[]},{"id":2,"name":"g","folder":true,"children":[]}])"),
+        QStringList());
+    QString text = QStringLiteral("before ");
+    fixture.document.getJsonText(0, &fixture.tree()->root, &fixture.tree()->items, &text, true, false);
+    QCOMPARE(text, QStringLiteral("before [{\"id\":1,\"name\":\"f\",\"folder\":true,\"children\":[]},\n"
+                                  "{\"id\":2,\"name\":\"g\",\"folder\":true,\"children\":[]}]"));
+}
+
+void tst_Manager::anEmptyDocumentIsAnEmptyArray()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.document.getScenario(true), QStringLiteral("var scenario = [\n\n];"));
+    QCOMPARE(fixture.load(R"([{"id":1,"name":"f","folder":true,"prohibited":true}])"), QStringList());
+    QCOMPARE(fixture.document.getScenario(true),
+             QStringLiteral("var scenario = [\n    {\n\"id\":1,\n\"name\":\"f\",\n\"folder\":true,\n"
+                            "\"children\":[\n\n]    \n    }\n];"));
+}
+
+void tst_Manager::aNodeWithoutItemIsLeftOut()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(R"([{"id":2,"name":"f","folder":true}])"), QStringList());
+    const QString whole = fixture.document.getScenario(true);
+    fixture.tree()->root.children.prepend(Node(1, false));
+    fixture.tree()->root.children.append(Node(3, false));
+    LogCapture log;
+    QCOMPARE(fixture.document.getScenario(true), whole);
+    const QString source = QStringLiteral("..\\..\\tutorial\\cpp\\TutorialEditor\\Manager.cpp ");
+    QCOMPARE(
+        log.warnings(),
+        (QStringList{source + QStringLiteral("TutorialEditor::Manager::getJsonText 462 data not found 1"),
+                     source + QStringLiteral("TutorialEditor::Manager::getJsonText 462 data not found 3")}));
+}
+
+void tst_Manager::theFirstOfTwoItemsWithOneIdIsWritten()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(R"([{"id":1,"name":"first"},{"id":1,"name":"second"}])"), QStringList());
+    const QString text = fixture.document.getScenario(true);
+    QCOMPARE(text.count(QStringLiteral("\"first\"")), 2);
+    QCOMPARE(text.count(QStringLiteral("\"second\"")), 0);
+}
+
+void tst_Manager::aSavedFileLoadsToTheSameTree()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(kTwoLevels), QStringList());
+    LogCapture log;
+    QCOMPARE(fixture.document.save(), QString());
+    QVERIFY(log.contains(QStringLiteral("TutorialEditor::Manager::save 431")));
+    const QByteArray saved = contentOf(fixture.document.fileName());
+    QCOMPARE(saved, QByteArray("\xEF\xBB\xBF") + kTwoLevels);
+    const QString text = fixture.document.getScenario(false);
+    const QString shape = fixture.shape();
+    fixture.document.clear();
+    QCOMPARE(fixture.document.setContents(fixture.document.fileName()), QStringList());
+    QCOMPARE(fixture.shape(), shape);
+    QCOMPARE(fixture.document.getScenario(false), text);
+    QCOMPARE(fixture.document.save(), QString());
+    QCOMPARE(contentOf(fixture.document.fileName()), saved);
+}
+
+void tst_Manager::savingMarksThePositionAsSaved()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    fixture.item(1)->setName(QStringLiteral("b"));
+    fixture.undoRedo().endSingle();
+    QVERIFY(fixture.host.modified);
+    QCOMPARE(fixture.document.save(), QString());
+    QVERIFY(!fixture.host.modified);
+    fixture.undoRedo().undo();
+    QVERIFY(fixture.host.modified);
+}
+
+void tst_Manager::savingWithoutAFileSaysSo()
+{
+    FixedTranslator translator;
+    DocumentFixture fixture;
+    QCOMPARE(fixture.document.save(), QStringLiteral("Tutorial not loaded yet."));
+    translator.texts = {
+        {QStringLiteral("TutorialEditor::Manager|Tutorial not loaded yet."), QStringLiteral("leer")}};
+    QCOMPARE(fixture.document.save(), QStringLiteral("leer"));
+}
+
+void tst_Manager::aFailedSaveIsReportedAndStaysModified_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::newRow("missing directory") << QStringLiteral("missing/Lesson.js");
+    QTest::newRow("a directory stands in the way") << QStringLiteral(".");
+    QTest::newRow("read-only file system") << QStringLiteral(":/qml/Tutorial/NoLesson.js");
+    QTest::newRow("full disk") << QStringLiteral("/dev/full");
+}
+
+void tst_Manager::aFailedSaveIsReportedAndStaysModified()
+{
+    QFETCH(QString, fileName);
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    if (fileName.startsWith(QStringLiteral("/dev/"))) {
+        // The device would be read without end, so it takes the place of the loaded file.
+        QVERIFY(QFile::exists(fileName));
+        QVERIFY(QFile::remove(fixture.document.fileName()));
+        QVERIFY(QFile::link(fileName, fixture.document.fileName()));
+    } else {
+        const bool resource = fileName.startsWith(QLatin1Char(':'));
+        QCOMPARE(fixture.document.setContents(resource ? fileName : fixture.path(fileName)), QStringList());
+    }
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    fixture.item(1)->setName(QStringLiteral("b"));
+    fixture.undoRedo().endSingle();
+    QVERIFY(fixture.host.modified);
+    LogCapture log;
+    QCOMPARE(fixture.document.save(), QStringLiteral("Failed to save."));
+    QVERIFY(fixture.host.modified);
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY2(log.warnings().first().contains(QStringLiteral("DataSupport::writeFile 1")),
+             qPrintable(log.warnings().first()));
+}
+
+void tst_Manager::theLibraryIsInTheFormOfTheWriter()
+{
+    // Some of the files have carriage returns, which the writer never makes; all else is the same byte for
+    // byte.
+    const QDir library(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/qml/Tutorial"));
+    const QStringList files = library.entryList({QStringLiteral("TutorialStep*.js")});
+    QVERIFY(!files.isEmpty());
+    for (const QString &name : files) {
+        DocumentFixture fixture;
+        const QByteArray source = contentOf(library.filePath(name));
+        QCOMPARE(fixture.load(source), QStringList());
+        QCOMPARE(fixture.document.save(), QString());
+        QCOMPARE(contentOf(fixture.document.fileName()), QByteArray(source).replace("\r\n", "\n"));
+    }
+}
+
+void tst_Manager::clearDropsItemsAndHistory()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    const QString fileName = fixture.document.fileName();
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    fixture.item(1)->setName(QStringLiteral("b"));
+    fixture.undoRedo().endSingle();
+    fixture.tree()->root.id = 5;
+    fixture.tree()->root.folder = false;
+    fixture.document.clear();
+    QCOMPARE(fixture.shape(), QString());
+    QCOMPARE(fixture.ids(), QString());
+    QCOMPARE(fixture.tree()->root.id, -1);
+    QVERIFY(fixture.tree()->root.folder);
+    QVERIFY(!fixture.undoRedo().canUndo());
+    QVERIFY(!fixture.host.modified);
+    QCOMPARE(fixture.document.fileName(), fileName);
+}
+
+void tst_Manager::worksWithoutAHistory()
+{
+    DocumentFixture fixture;
+    UndoRedo::publish(nullptr);
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    QCOMPARE(fixture.document.save(), QString());
+    fixture.document.clear();
+    QCOMPARE(fixture.shape(), QString());
+}
+
+QTEST_MAIN(tst_Manager)
+#include "tst_Manager.moc"
