@@ -76,8 +76,9 @@ void EditorTooltip::present(const QString &text, int x, int y)
     } else {
         m_textEdit->hide();
     }
-    move(clampToInt(static_cast<qint64>(x) - m_textEdit->width() / 2),
-         clampToInt(static_cast<qint64>(y) - m_textEdit->height() / 2));
+    const qint64 left = static_cast<qint64>(x) - m_textEdit->width() / 2;
+    const qint64 top = static_cast<qint64>(y) - m_textEdit->height() / 2;
+    move(clampToReach({clampToInt(left), clampToInt(top)}));
     applyOpacity(0.0);
     m_delay = kDelayTicks;
     m_timeout = kTimeoutTicks;
@@ -111,7 +112,8 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
     } else {
         m_textEdit->hide();
     }
-    move(settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt());
+    move(clampToReach(
+        {settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt()}));
     // Not the name under which getSettings stores it: a rebuilt tooltip starts invisible.
     applyOpacity(settings.value(QStringLiteral("opacity")).toDouble());
     m_delay = settings.value(QStringLiteral("delay")).toInt();

@@ -14,6 +14,7 @@ constexpr int kRoomToReturn = 218;
 constexpr int kReturnMargin = 64;
 constexpr int kSnap = 2;
 constexpr int kButtonGap = 56;
+constexpr int kReach = 1 << 24; // far beyond any screen
 
 qint64 effectiveX(const Placement &placement, int arrowWidth)
 {
@@ -78,6 +79,11 @@ ButtonPlaces placeButtons(int x, int y, int hintHeight, int arrowWidth)
     const qint64 left = static_cast<qint64>(x) + arrowWidth;
     const int top = clampToInt(static_cast<qint64>(y) + hintHeight + kButtonGap);
     return {QPoint(clampToInt(left), top), QPoint(clampToInt(left + kButtonGap), top)};
+}
+
+QPoint clampToReach(const QPoint &position)
+{
+    return {qBound(-kReach, position.x(), kReach), qBound(-kReach, position.y(), kReach)};
 }
 
 int clampToInt(qint64 value)

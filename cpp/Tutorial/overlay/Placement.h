@@ -40,6 +40,9 @@ struct ButtonPlaces
 /// The buttons' places for the bubble's window at (@p x, @p y) with a hint of @p hintHeight pixels.
 [[nodiscard]] ButtonPlaces placeButtons(int x, int y, int hintHeight, int arrowWidth);
 
+/// @p position, or the nearest point that a window can be moved to without its rectangle running over.
+[[nodiscard]] QPoint clampToReach(const QPoint &position);
+
 /// @p value, or the limit of int that it lies beyond.
 [[nodiscard]] int clampToInt(qint64 value);
 

@@ -38,7 +38,7 @@ void setShown(QWidget *widget, bool shown)
 void moveTo(QWidget *widget, const QPoint &position)
 {
     if (widget != nullptr) {
-        widget->move(position);
+        widget->move(clampToReach(position));
     }
 }
 
@@ -246,7 +246,7 @@ void TutorialIndicator::applyTooltipSettings(const QVariantMap &settings)
     QTextEdit *const textEdit = m_tooltip->m_textEdit;
     textEdit->move(storedPosition(settings, QStringLiteral("textEdit")));
     textEdit->setFixedHeight(settings.value(QStringLiteral("hintHeight")).toInt());
-    m_tooltip->move(storedPosition(settings, QStringLiteral("tooltip")));
+    moveTo(m_tooltip, storedPosition(settings, QStringLiteral("tooltip")));
     if (m_hint.isEmpty()) {
         textEdit->hide();
         return;

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void copesWithAnyCoordinates();
     void putsTheButtonsBelowTheHint_data();
     void putsTheButtonsBelowTheHint();
+    void clampsToReach();
     void clampsToInt_data();
     void clampsToInt();
     void truncatesToInt_data();
@@ -280,6 +281,13 @@ void TestPlacement::putsTheButtonsBelowTheHint()
     const ButtonPlaces places = placeButtons(window.x(), window.y(), hintHeight, kArrow);
     QTEST(places.nextAndYes, "next");
     QTEST(places.no, "no");
+}
+
+void TestPlacement::clampsToReach()
+{
+    QCOMPARE(clampToReach({-70000, 70000}), QPoint(-70000, 70000));
+    QCOMPARE(clampToReach({kMin, kMax}), QPoint(-(1 << 24), 1 << 24));
+    QCOMPARE(clampToReach({kMax, kMin}), QPoint(1 << 24, -(1 << 24)));
 }
 
 void TestPlacement::clampsToInt_data()
