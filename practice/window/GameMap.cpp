@@ -43,8 +43,9 @@ void GameMap::setTile(int layer, const QPoint &cell, int tile)
 void GameMap::resize(const QSize &cells, int ground)
 {
     GameMap resized = blank(cells, ground);
+    const QVector<QPoint> places = rectangle(QPoint(), QPoint(cells.width() - 1, cells.height() - 1));
     for (int layer = 0; layer < kLayers; ++layer) {
-        for (const QPoint &cell : rectangle(QPoint(), QPoint(cells.width() - 1, cells.height() - 1))) {
+        for (const QPoint &cell : places) {
             if (contains(cell))
                 resized.setTile(layer, cell, tile(layer, cell));
         }
@@ -71,7 +72,8 @@ QVector<QPoint> GameMap::ellipse(const QPoint &from, const QPoint &to)
     const double middleX = (rect.left() + rect.right()) / 2.0;
     const double middleY = (rect.top() + rect.bottom()) / 2.0;
     QVector<QPoint> cells;
-    for (const QPoint &cell : rectangle(from, to)) {
+    const QVector<QPoint> places = rectangle(from, to);
+    for (const QPoint &cell : places) {
         const double x = (cell.x() - middleX) / (rect.width() / 2.0);
         const double y = (cell.y() - middleY) / (rect.height() / 2.0);
         if (x * x + y * y <= 1.0)
@@ -98,19 +100,17 @@ QVector<QPoint> GameMap::connected(int layer, const QPoint &cell) const
         return cells;
     const int wanted = tile(layer, cell);
     QVector<bool> seen(size.width() * size.height(), false);
-    const auto visit = [&](const QPoint &next) {
-        if (!contains(next) || tile(layer, next) != wanted || seen[next.y() * size.width() + next.x()])
-            return;
-        seen[next.y() * size.width() + next.x()] = true;
-        cells.append(next);
-    };
-    visit(cell);
-    for (int index = 0; index < cells.size(); ++index) {
-        const QPoint at = cells[index];
-        visit(at + QPoint(1, 0));
-        visit(at - QPoint(1, 0));
-        visit(at + QPoint(0, 1));
-        visit(at - QPoint(0, 1));
+    QVector<QPoint> open{cell};
+    while (!open.isEmpty()) {
+        const QPoint at = open.takeLast();
+        if (!contains(at) || tile(layer, at) != wanted)
+            continue;
+        bool &wasSeen = seen[at.y() * size.width() + at.x()];
+        if (wasSeen)
+            continue;
+        wasSeen = true;
+        cells.append(at);
+        open += {at + QPoint(1, 0), at - QPoint(1, 0), at + QPoint(0, 1), at - QPoint(0, 1)};
     }
     return cells;
 }

@@ -135,7 +135,7 @@ QVector<LocalText> JsonReader::localTexts(const QString &field)
 
 QString JsonReader::choice(const QString &field, const QStringList &allowed)
 {
-    const QString value = text(field);
+    QString value = text(field);
     if (!allowed.contains(value))
         addError(field, QStringLiteral("\"%1\" is unknown; use one of: %2")
                             .arg(value, allowed.join(QStringLiteral(", "))));

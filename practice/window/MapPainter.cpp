@@ -31,8 +31,9 @@ void MapPainter::drawMap(QPainter &painter, const GameMap &map, int cellPixels, 
                             .intersected(QRect(QPoint(), map.size));
     if (cells.isEmpty())
         return;
+    const QVector<QPoint> places = GameMap::rectangle(cells.topLeft(), cells.bottomRight());
     for (int layer = 0; layer < GameMap::kLayers; ++layer) {
-        for (const QPoint &cell : GameMap::rectangle(cells.topLeft(), cells.bottomRight())) {
+        for (const QPoint &cell : places) {
             const int number = map.tile(layer, cell);
             if (number != GameMap::kEmpty)
                 painter.drawPixmap(cell * cellPixels, tile(number, map.tileSet, cellPixels));
@@ -63,7 +64,8 @@ QPixmap MapPainter::mapPicture(const GameMap &map, const QSize &size)
     const int pixels = qMax(1, qMin(size.width() / map.size.width(), size.height() / map.size.height()));
     const QSize whole = map.size * pixels;
     QPainter painter(&picture);
-    painter.translate((size.width() - whole.width()) / 2, (size.height() - whole.height()) / 2);
+    const QSize margins = (size - whole) / 2;
+    painter.translate(margins.width(), margins.height());
     drawMap(painter, map, pixels, QRect(QPoint(), whole));
     return picture;
 }

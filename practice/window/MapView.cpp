@@ -56,7 +56,8 @@ void MapView::paintEvent(QPaintEvent *event)
         painter.setPen(QPen(Qt::white, 3));
         painter.drawRect(QRect(m_cursor * pixels, QSize(pixels, pixels)).adjusted(1, 1, -2, -2));
     } else if (m_drawing && drawsOnRelease()) {
-        for (const QPoint &cell : m_project->cellsOfStroke(m_strokeStart, m_strokeEnd))
+        const QVector<QPoint> cells = m_project->cellsOfStroke(m_strokeStart, m_strokeEnd);
+        for (const QPoint &cell : cells)
             painter.fillRect(QRect(cell * pixels, QSize(pixels, pixels)), QColor(255, 255, 255, 110));
     }
 }

@@ -216,10 +216,10 @@ void tst_EditorProject::tabChoosesTheTilesOfTheList()
 {
     EditorProject project(data());
     const QString tiles = QStringLiteral("tiles");
-    QCOMPARE(names(project, tiles).first(), QStringLiteral("Grass"));
+    QCOMPARE(names(project, tiles).at(0), QStringLiteral("Grass"));
     project.setCurrentRow(QStringLiteral("tileTab"), 1);
-    QCOMPARE(names(project, tiles).first(), QStringLiteral("Tree"));
-    QCOMPARE(project.rows(tiles).first().tile, ProjectData::kTilesPerTab);
+    QCOMPARE(names(project, tiles).at(0), QStringLiteral("Tree"));
+    QCOMPARE(project.rows(tiles).at(0).tile, ProjectData::kTilesPerTab);
     QCOMPARE(project.currentRow(tiles), -1);
     project.setCurrentRow(tiles, 2);
     QCOMPARE(project.currentRow(tiles), 2);
