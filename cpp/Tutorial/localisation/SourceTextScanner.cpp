@@ -256,9 +256,13 @@ QString Pass::translated(const QString &context, const QString &quoted) const
 
 QString Pass::replaceCalls(const QString &opening, int gap)
 {
-    QString result;
-    int copied = 0;
     int call = m_text.indexOf(opening);
+    if (call == -1) {
+        return m_text;
+    }
+    QString result;
+    result.reserve(m_text.size());
+    int copied = 0;
     while (call != -1) {
         const Value value = readValue(call);
         result += m_text.midRef(copied, call - copied);
