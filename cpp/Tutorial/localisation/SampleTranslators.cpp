@@ -1,7 +1,6 @@
 #include "Tutorial/localisation/SampleTranslators.h"
 
 #include <optional>
-#include <utility>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -156,20 +155,22 @@ Walked translateCommands(const TranslateText &translate, const QString &context,
             return {changed, false};
         }
         QJsonObject command = entry.toObject();
-        for (const auto &[key, number] : {std::pair(codeKey, 791), std::pair(parametersKey, 795)}) {
-            if (!command.contains(key)) {
-                warn(kFunction, number, "listItem does not contain key", entry) << key;
-                return {changed, false};
-            }
+        const QJsonValue code = command.value(codeKey);
+        if (code.isUndefined()) {
+            warn(kFunction, 791, "listItem does not contain key", entry) << codeKey;
+            return {changed, false};
         }
         const QJsonValue parametersValue = command.value(parametersKey);
+        if (parametersValue.isUndefined()) {
+            warn(kFunction, 795, "listItem does not contain key", entry) << parametersKey;
+            return {changed, false};
+        }
         if (!parametersValue.isArray()) {
             warn(kFunction, 800, "parametersWrapper is not array", parametersValue);
             return {changed, false};
         }
         QJsonArray parameters = parametersValue.toArray();
-        const Walked walked =
-            translateParameters(translate, context, command.value(codeKey).toInt(), parameters);
+        const Walked walked = translateParameters(translate, context, code.toInt(), parameters);
         if (walked.changed) {
             command.insert(parametersKey, parameters);
             list.replace(i, command);
