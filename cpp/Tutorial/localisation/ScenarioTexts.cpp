@@ -28,8 +28,7 @@ QString ScenarioTexts::applyTranslation(const QString &context, const QString &t
     logDebug(kSource, "TutorialManager::applyTranslation", 1885) << context << text;
     const QByteArray contextUtf8 = context.toUtf8();
     const QByteArray textUtf8 = text.toUtf8();
-    const QString result =
-        QCoreApplication::translate(contextUtf8.constData(), textUtf8.constData(), nullptr, -1);
+    QString result = QCoreApplication::translate(contextUtf8.constData(), textUtf8.constData(), nullptr, -1);
     logDebug(kSource, "TutorialManager::applyTranslation", 1928) << context << text << result;
     return result;
 }

@@ -29,7 +29,7 @@ using FileTexts = QHash<QString, std::string>;
 
 QString choosePatchRoot(const QString &applicationDirectory)
 {
-    const QString root = QStringLiteral("%1/resource/patch").arg(applicationDirectory);
+    QString root = QStringLiteral("%1/resource/patch").arg(applicationDirectory);
     if (DataSupport::fileExists(root)) {
         return root;
     }
@@ -52,7 +52,7 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
         static const std::string kNoBase;
         const auto before = previous.constFind(entry.fileName());
         const std::string &base = before == previous.constEnd() ? kNoBase : before.value();
-        std::string text;
+        std::string &text = texts[entry.fileName()];
         try {
             if (!StringPatch::ApplyStringPatch(base, patch, text)) {
                 logWarning(kSource, kFunction, 1033) << "Failed to ApplyStringPatch";
@@ -62,7 +62,6 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
             logWarning(kSource, kFunction, 1036) << "Failed to ApplyStringPatch" << path << error.what();
             return std::nullopt;
         }
-        texts.insert(entry.fileName(), std::move(text));
     }
     return texts;
 }

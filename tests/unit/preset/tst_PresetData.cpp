@@ -1,0 +1,557 @@
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "LogCapture.h"
+#include "Tutorial/preset/PresetData.h"
+#include "tool/JsonWrapper.h"
+
+namespace {
+
+constexpr QChar kFieldSeparator(0x01);
+
+void appendNumber(QByteArray &bytes, quint32 number, int width)
+{
+    for (int i = 0; i < width; ++i) {
+        bytes.append(char(number >> (8 * i) & 0xFF));
+    }
+}
+
+/// The header of a patch to a text of @p size bytes.
+QByteArray header(int size)
+{
+    QByteArray patch;
+    appendNumber(patch, quint32(size), 4);
+    return patch;
+}
+
+/// A patch to @p text that needs no base.
+QByteArray insertPatch(const QByteArray &text)
+{
+    QByteArray patch = header(text.size());
+    for (int i = 0; i < text.size(); i += 65536) {
+        const QByteArray piece = text.mid(i, 65536);
+        patch.append(char(1));
+        appendNumber(patch, quint32(piece.size() - 1), 2);
+        patch.append(piece);
+    }
+    return patch;
+}
+
+/// A patch to the first @p size bytes of the base, up to 65,536.
+QByteArray copyPatch(int size)
+{
+    QByteArray patch = header(size);
+    patch.append(char(254));
+    appendNumber(patch, 0, 2);
+    appendNumber(patch, quint32(size - 1), 2);
+    return patch;
+}
+
+QString translation(const QString &context, const QString &text)
+{
+    return context + QLatin1Char(':') + text;
+}
+
+/// A program directory of its own, with patches in it.
+class ProgramDirectory
+{
+public:
+    explicit ProgramDirectory(const QString &patchRoot = QStringLiteral("resource/patch"))
+        : m_root(m_dir.filePath(patchRoot))
+    {
+    }
+
+    [[nodiscard]] QString path() const { return m_dir.path(); }
+    [[nodiscard]] QString root() const { return m_root; }
+    [[nodiscard]] QString dataPath(const QString &step) const
+    {
+        return m_root + QLatin1Char('/') + step + QStringLiteral("/data");
+    }
+
+    void addStep(const QString &step) const { QVERIFY(QDir().mkpath(dataPath(step))); }
+    void addFile(const QString &step, const QString &name, const QByteArray &bytes) const
+    {
+        addStep(step);
+        QFile file(dataPath(step) + QLatin1Char('/') + name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    }
+
+    [[nodiscard]] QString reply(const QString &step) const
+    {
+        return presetDataReply(step, path(), buildSampleTable(), translation);
+    }
+    /// The members of the reply, empty when there is none.
+    [[nodiscard]] QJsonObject replyObject(const QString &step) const
+    {
+        const QString text = reply(step);
+        const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
+        if (!text.startsWith(head)) {
+            return {};
+        }
+        return QJsonDocument::fromJson(text.mid(head.size()).toUtf8()).object();
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_root;
+};
+
+QString source()
+{
+    return QStringLiteral("TutorialManager::onReceived ");
+}
+
+/// The warnings without their source labels.
+QStringList warningTexts(const LogCapture &log)
+{
+    QStringList texts;
+    const QStringList warnings = log.warnings();
+    for (const QString &warning : warnings) {
+        texts.append(warning.section(QLatin1Char(' '), 1));
+    }
+    return texts;
+}
+
+QString step(int number)
+{
+    return QStringLiteral("step%1").arg(number);
+}
+
+} // namespace
+
+class tst_PresetData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stepsAreSortedByNumber();
+    void stepsOfAMissingRoot();
+    void badStepNames_data();
+    void badStepNames();
+    void missingStepIsReported();
+    void secondRootIsUsedWithoutTheFirst();
+    void firstRootHidesTheSecond();
+    void replyIsOneCommand();
+    void chainIsReplayedUpToTheStep();
+    void fileWithoutAPatchIsGone();
+    void fileOfALaterStepStartsFromNothing();
+    void fileThatComesBackStartsFromNothing();
+    void laterStepsAreNotRead();
+    void hiddenFilesBelongToTheStep();
+    void badPatchEndsTheRequest();
+    void oversizedPatchEndsTheRequest();
+    void unreadableFileEndsTheRequest();
+    void badPatchNameEndsTheRequestBehindThePatches();
+    void nothingIsSentForNoFiles();
+    void plainFileWithTheNameOfAStep();
+    void rootMayBeALink();
+    void stepWithoutDataForgetsEarlierFiles();
+    void tableKeysAreRegularExpressions();
+    void onlyRowsForLessonsRun();
+    void fileOutsideTheTableIsNotTranslated();
+    void textsThatAreNoJson_data();
+    void textsThatAreNoJson();
+    void unwrittenBytesAreAText();
+    void textThatIsNotUtf8IsReplaced();
+    void textIsCompactAndEscaped();
+};
+
+void tst_PresetData::stepsAreSortedByNumber()
+{
+    const ProgramDirectory program;
+    for (const char *name :
+         {"step10", "step2", "step9", "step1", "step100", "step", "stepX", "step1x", "xstep1", "Step3"}) {
+        program.addStep(QString::fromLatin1(name));
+    }
+    QFile file(program.root() + QStringLiteral("/step5"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(listPresetSteps(program.root()), (QStringList{step(1), step(2), step(9), step(10), step(100)}));
+}
+
+void tst_PresetData::stepsOfAMissingRoot()
+{
+    QCOMPARE(listPresetSteps(QStringLiteral("/no/such/directory")), QStringList());
+}
+
+void tst_PresetData::badStepNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("letters") << QStringLiteral("stepX");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("no number") << QStringLiteral("step");
+    QTest::newRow("more behind") << QStringLiteral("step1x");
+    QTest::newRow("more before") << QStringLiteral("xstep1");
+    QTest::newRow("path") << QStringLiteral("step1/../step1");
+    QTest::newRow("negative") << QStringLiteral("step-1");
+    QTest::newRow("capital") << QStringLiteral("Step1");
+}
+
+void tst_PresetData::badStepNames()
+{
+    QFETCH(QString, name);
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch("[]"));
+    LogCapture log;
+    const QString reply = program.reply(name);
+    QVERIFY(reply.isNull());
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(source()));
+    QVERIFY(log.warnings().first().endsWith(QStringLiteral("Failed to get stepNumber \"%1\"").arg(name)));
+}
+
+void tst_PresetData::missingStepIsReported()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch("[]"));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(
+        warningTexts(log),
+        QStringList{source() +
+                    QStringLiteral("1001 presetData not found \"%1/step2\" \"step2\"").arg(program.root())});
+}
+
+void tst_PresetData::secondRootIsUsedWithoutTheFirst()
+{
+    const ProgramDirectory program(QStringLiteral("tutorial-win/resource/patch"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("[1]"));
+    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
+             QStringLiteral("[1]"));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QVERIFY(log.contains(QStringLiteral("1001 presetData not found \"%1/tutorial-win/resource/patch/step2\"")
+                             .arg(program.path())));
+}
+
+void tst_PresetData::firstRootHidesTheSecond()
+{
+    const ProgramDirectory program(QStringLiteral("tutorial-win/resource/patch"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("[1]"));
+    QVERIFY(QDir().mkpath(program.path() + QStringLiteral("/resource/patch")));
+    LogCapture log;
+    QVERIFY(program.reply(step(1)).isNull());
+    QVERIFY(log.contains(QStringLiteral("presetData not found")));
+}
+
+void tst_PresetData::replyIsOneCommand()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("{ \"a\" : \"x/y\" }\n"));
+    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
+                                         QStringLiteral(R"({"data/Other.json":"{\"a\":\"x/y\"}"})"));
+    program.addFile(step(1), QStringLiteral("Second.json-patch"), insertPatch("[]"));
+    const QString first = QStringLiteral(R"("data/Other.json":"{\"a\":\"x/y\"}")");
+    const QString second = QStringLiteral(R"("data/Second.json":"[]")");
+    const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
+    const QString reply = program.reply(step(1));
+    // The members stand in no order of their own.
+    QVERIFY(reply == head + QStringLiteral("{%1,%2}").arg(first, second) ||
+            reply == head + QStringLiteral("{%1,%2}").arg(second, first));
+}
+
+void tst_PresetData::chainIsReplayedUpToTheStep()
+{
+    const ProgramDirectory program;
+    const QString name = QStringLiteral("Other.json-patch");
+    program.addFile(step(1), name, insertPatch("[\"one\"]"));
+    QByteArray change = header(13); // ["one","two"], from the base and new bytes
+    change += QByteArray::fromHex("ff000005");
+    change += QByteArray::fromHex("0006") + ",\"two\"]";
+    program.addFile(step(2), name, change);
+    program.addFile(step(10), name, copyPatch(13));
+    const QString key = QStringLiteral("data/Other.json");
+    QCOMPARE(program.replyObject(step(1)).value(key).toString(), QStringLiteral("[\"one\"]"));
+    QCOMPARE(program.replyObject(step(2)).value(key).toString(), QStringLiteral("[\"one\",\"two\"]"));
+    QCOMPARE(program.replyObject(step(10)).value(key).toString(), QStringLiteral("[\"one\",\"two\"]"));
+}
+
+void tst_PresetData::fileWithoutAPatchIsGone()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("B.json-patch"), insertPatch("[2]"));
+    program.addFile(step(2), QStringLiteral("B.json-patch"), copyPatch(3));
+    QCOMPARE(program.replyObject(step(1)).keys(),
+             (QStringList{QStringLiteral("data/A.json"), QStringLiteral("data/B.json")}));
+    QCOMPARE(program.replyObject(step(2)).keys(), QStringList{QStringLiteral("data/B.json")});
+}
+
+void tst_PresetData::fileOfALaterStepStartsFromNothing()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), copyPatch(3));
+    // The copy reads from what this patch wrote: with a base in front it would read the base.
+    program.addFile(step(2), QStringLiteral("B.json-patch"),
+                    header(6) + QByteArray::fromHex("0001") + "12" + QByteArray::fromHex("ff000003"));
+    QCOMPARE(program.replyObject(step(2)).value(QStringLiteral("data/B.json")).toString(),
+             QStringLiteral("121212"));
+}
+
+void tst_PresetData::fileThatComesBackStartsFromNothing()
+{
+    const ProgramDirectory program;
+    const QString name = QStringLiteral("A.json-patch");
+    program.addFile(step(1), name, insertPatch("[7]"));
+    program.addStep(step(2));
+    program.addFile(step(3), name,
+                    header(6) + QByteArray::fromHex("0001") + "12" + QByteArray::fromHex("ff000003"));
+    QCOMPARE(program.replyObject(step(3)).value(QStringLiteral("data/A.json")).toString(),
+             QStringLiteral("121212"));
+}
+
+void tst_PresetData::laterStepsAreNotRead()
+{
+    const ProgramDirectory program;
+    const QString name = QStringLiteral("A.json-patch");
+    program.addFile(step(1), name, insertPatch("[1]"));
+    program.addFile(step(2), name, copyPatch(3));
+    program.addFile(step(10), name, QByteArray("\0\0\0\0\x02", 5));
+    LogCapture log;
+    QCOMPARE(program.replyObject(step(2)).value(QStringLiteral("data/A.json")).toString(),
+             QStringLiteral("[1]"));
+    QCOMPARE(log.warnings(), QStringList());
+    QVERIFY(!log.contains(step(10)));
+    QVERIFY(program.reply(step(10)).isNull());
+}
+
+void tst_PresetData::hiddenFilesBelongToTheStep()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral(".hidden-patch"), insertPatch("[1]"));
+    QVERIFY(QDir().mkpath(program.dataPath(step(1)) + QStringLiteral("/directory-patch")));
+    QCOMPARE(program.replyObject(step(1)).keys(), QStringList{QStringLiteral("data/.hidden")});
+}
+
+void tst_PresetData::badPatchEndsTheRequest()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), QByteArray("\3\0\0\0\x02", 5));
+    program.addFile(step(3), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    LogCapture log;
+    QVERIFY(program.reply(step(3)).isNull());
+    QCOMPARE(warningTexts(log),
+             (QStringList{QStringLiteral("StringPatch::ApplyStringPatch 284 Invalid tag 2"),
+                          source() + QStringLiteral("1033 Failed to ApplyStringPatch")}));
+}
+
+void tst_PresetData::oversizedPatchEndsTheRequest()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), QByteArray("\xff\xff\xff\xff", 4));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(QStringLiteral("Failed to ApplyStringPatch")));
+    QVERIFY(log.warnings().first().contains(source()));
+}
+
+void tst_PresetData::unreadableFileEndsTheRequest()
+{
+    const ProgramDirectory program;
+    // What the kernel shows as a file of a page ends before that.
+    const QString target = QStringLiteral("/sys/devices/system/cpu/online");
+    QVERIFY2(QFileInfo(target).size() > 100, "this test needs a file that is shorter than it says");
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addStep(step(2));
+    const QString path = program.dataPath(step(2)) + QStringLiteral("/A.json-patch");
+    QVERIFY(QFile::link(target, path));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(log.warnings().size(), 2);
+    QVERIFY(log.warnings().last().contains(source()));
+    QVERIFY(log.warnings().last().endsWith(QStringLiteral("Failed to read \"%1\"").arg(path)));
+}
+
+void tst_PresetData::badPatchNameEndsTheRequestBehindThePatches()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json"), insertPatch("[2]"));
+    LogCapture log;
+    QVERIFY(program.reply(step(1)).isNull());
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().first().contains(source()));
+    QVERIFY(log.warnings().first().endsWith(QStringLiteral("Bad patch name \"A.json\"")));
+    // Names are looked at behind the last patch: a patch that fails comes first.
+    program.addFile(step(1), QStringLiteral("B.json"), QByteArray("\0\0\0\0\x02", 5));
+    log.clear();
+    QVERIFY(program.reply(step(1)).isNull());
+    QVERIFY(log.contains(QStringLiteral("1033 Failed to ApplyStringPatch")));
+    QVERIFY(!log.contains(QStringLiteral("Bad patch name")));
+}
+
+void tst_PresetData::nothingIsSentForNoFiles()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addStep(step(2));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PresetData::plainFileWithTheNameOfAStep()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    QFile file(program.root() + QStringLiteral("/step2"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_PresetData::rootMayBeALink()
+{
+    const ProgramDirectory elsewhere(QStringLiteral("patches"));
+    elsewhere.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    const ProgramDirectory program;
+    QVERIFY(QDir().mkpath(program.path() + QStringLiteral("/resource")));
+    QVERIFY(QFile::link(elsewhere.root(), program.root()));
+    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/A.json")).toString(),
+             QStringLiteral("[1]"));
+    // A link to nowhere is no root.
+    QVERIFY(QFile::remove(program.root()));
+    QVERIFY(QFile::link(elsewhere.path() + QStringLiteral("/nowhere"), program.root()));
+    LogCapture log;
+    QVERIFY(program.reply(step(1)).isNull());
+    QVERIFY(log.contains(QStringLiteral("tutorial-win/resource/patch/step1")));
+}
+
+void tst_PresetData::stepWithoutDataForgetsEarlierFiles()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    QVERIFY(QDir().mkpath(program.root() + QStringLiteral("/step2")));
+    program.addFile(step(3), QStringLiteral("B.json-patch"), insertPatch("[3]"));
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(program.replyObject(step(3)).keys(), QStringList{QStringLiteral("data/B.json")});
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PresetData::tableKeysAreRegularExpressions()
+{
+    const ProgramDirectory program;
+    const QByteArray map = R"({"events":[{"name":"inn","pages":[]}]})";
+    const QByteArray things = R"([{"name":"inn"}])";
+    program.addFile(step(1), QStringLiteral("Map001.json-patch"), insertPatch(map));
+    program.addFile(step(1), QStringLiteral("MapInfos.json-patch"), insertPatch(things));
+    program.addFile(step(1), QStringLiteral("Items.json-patch"),
+                    insertPatch(R"([{"name":"a","description":""}])"));
+    program.addFile(step(1), QStringLiteral("ItemsXjson-patch"),
+                    insertPatch(R"([{"name":"a","description":"b"}])"));
+    program.addFile(step(1), QStringLiteral("MyItems.json-patch"), insertPatch(R"([{"name":"a"}])"));
+    program.addFile(step(1), QStringLiteral("Items.json2-patch"), insertPatch(R"([{"name":"a"}])"));
+    LogCapture log;
+    const QJsonObject reply = program.replyObject(step(1));
+    const QJsonObject expected{
+        {QStringLiteral("data/Map001.json"),
+         QStringLiteral(R"({"events":[{"name":"Tutorial:inn","pages":[]}]})")},
+        {QStringLiteral("data/MapInfos.json"), QStringLiteral(R"([{"name":"Tutorial:inn"}])")},
+        {QStringLiteral("data/Items.json"), QStringLiteral(R"([{"description":"","name":"Tutorial:a"}])")},
+        {QStringLiteral("data/ItemsXjson"),
+         QStringLiteral(R"([{"description":"Tutorial:b","name":"Tutorial:a"}])")},
+        {QStringLiteral("data/MyItems.json"), QStringLiteral(R"([{"name":"a"}])")},
+        {QStringLiteral("data/Items.json2"), QStringLiteral(R"([{"name":"a"}])")}};
+    QCOMPARE(reply, expected);
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PresetData::onlyRowsForLessonsRun()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("System.json-patch"),
+                    insertPatch(R"({"currencyUnit":"G","switches":["door"]})"));
+    LogCapture log;
+    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/System.json")).toString(),
+             QStringLiteral(R"({"currencyUnit":"G","switches":["Tutorial:door"]})"));
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PresetData::fileOutsideTheTableIsNotTranslated()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"([{"name":"a"}])"));
+    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
+             QStringLiteral(R"([{"name":"a"}])"));
+}
+
+void tst_PresetData::textsThatAreNoJson_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no JSON") << QByteArray("{") << QString();
+    QTest::newRow("empty") << QByteArray() << QString();
+    QTest::newRow("number") << QByteArray("12") << QStringLiteral("12");
+    QTest::newRow("null") << QByteArray("null") << QStringLiteral("null");
+}
+
+void tst_PresetData::textsThatAreNoJson()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch(bytes));
+    LogCapture log;
+    const QJsonObject reply = program.replyObject(step(1));
+    QCOMPARE(reply.keys(), QStringList{QStringLiteral("data/Items.json")});
+    QCOMPARE(reply.value(QStringLiteral("data/Items.json")), QJsonValue(text));
+    // Each of the two rows of the file complains.
+    QCOMPARE(
+        warningTexts(log).filter(QStringLiteral("translateArrayKeyText 574 wrapper is not array")).size(), 2);
+}
+
+void tst_PresetData::unwrittenBytesAreAText()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), header(5));
+    LogCapture log;
+    const QString zeroes(5, QChar(0));
+    const QString expected = JsonWrapper(zeroes).toJson();
+    log.clear();
+    const QJsonObject reply = program.replyObject(step(1));
+    QCOMPARE(reply.keys(), QStringList{QStringLiteral("data/Other.json")});
+    QCOMPARE(reply.value(QStringLiteral("data/Other.json")).toString(), expected);
+    QVERIFY(!log.contains(QStringLiteral("jsonStr is empty."))); // five characters came, not none
+}
+
+void tst_PresetData::textThatIsNotUtf8IsReplaced()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Other.json-patch"),
+                    insertPatch("[\"a\xff\xfe"
+                                "b\"]"));
+    LogCapture log;
+    const QString replaced =
+        QStringLiteral("[\"a") + QString(2, QChar(QChar::ReplacementCharacter)) + QStringLiteral("b\"]");
+    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(), replaced);
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PresetData::textIsCompactAndEscaped()
+{
+    const ProgramDirectory program;
+    const QString text = QString::fromUtf8("{\n  \"b\": [ 1, 2.5 ],\n  \"a\": \"\\u6f22 \u5b57 \\\"q\\\" "
+                                           "\\\\ \\n \\u0001 \\u007f \U0001F600\"\n}\n");
+    program.addFile(step(1), QStringLiteral("O \"th\".json-patch"), insertPatch(text.toUtf8()));
+    const QString compact =
+        QString::fromUtf8(QJsonDocument::fromJson(text.toUtf8()).toJson(QJsonDocument::Compact));
+    const QString escaped =
+        QString::fromUtf8(QJsonDocument(QJsonArray{compact}).toJson(QJsonDocument::Compact));
+    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
+                                         QStringLiteral("{\"data/O \\\"th\\\".json\":") +
+                                         escaped.mid(1, escaped.size() - 2) + QLatin1Char('}'));
+}
+
+QTEST_GUILESS_MAIN(tst_PresetData)
+#include "tst_PresetData.moc"
