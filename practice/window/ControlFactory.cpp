@@ -8,7 +8,6 @@
 #include "window/ToolIcon.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QCursor>
 #include <QLabel>
 #include <QLineEdit>
@@ -98,22 +97,6 @@ QWidget *makeCheckBox(const ControlDescription &control, const Context &context,
     return box;
 }
 
-QWidget *makeComboBox(const ControlDescription &control, const Context &context, EditorWindow *window)
-{
-    auto *box = new QComboBox(window);
-    for (const LocalText &item : control.items)
-        box->addItem(context.text(item));
-    keepFresh(box, context, [box, field = control.field, project = context.project] {
-        box->setCurrentIndex(project->field(field).toInt());
-    });
-    QObject::connect(box, qOverload<int>(&QComboBox::activated), window,
-                     [control, window, project = context.project](int index) {
-                         project->setField(control.field, index);
-                         window->report(QStringLiteral("comboBox"), control.name, QString::number(index));
-                     });
-    return box;
-}
-
 QWidget *makeButton(const ControlDescription &control, const Context &context, EditorWindow *window)
 {
     auto *button = new QPushButton(context.text(control.label), window);
@@ -162,7 +145,7 @@ QWidget *makeToolButton(const ControlDescription &control, const Context &contex
 QWidget *makeTabs(const ControlDescription &control, const Context &context, EditorWindow *window)
 {
     QStringList texts;
-    for (const LocalText &tab : control.items)
+    for (const LocalText &tab : control.tabs)
         texts.append(context.text(tab));
     auto *tabs = new TabRow(texts, control.tabWidth, window);
     keepFresh(tabs, context, [tabs, source = control.source, project = context.project] {
@@ -242,19 +225,12 @@ QWidget *makeControl(const ControlDescription &control, const EditorWindowContex
 {
     using Maker = QWidget *(*)(const ControlDescription &, const EditorWindowContext &, EditorWindow *);
     static const QMap<QString, Maker> makers{
-        {QStringLiteral("button"), makeButton},
-        {QStringLiteral("checkBox"), makeCheckBox},
-        {QStringLiteral("comboBox"), makeComboBox},
-        {QStringLiteral("entry"), makeEntry},
-        {QStringLiteral("label"), makeLabel},
-        {QStringLiteral("lineEdit"), makeLineEdit},
-        {QStringLiteral("list"), makeList},
-        {QStringLiteral("map"), makeMap},
-        {QStringLiteral("picture"), makePicture},
-        {QStringLiteral("progress"), makeProgress},
-        {QStringLiteral("spinBox"), makeSpinBox},
-        {QStringLiteral("tabs"), makeTabs},
-        {QStringLiteral("toolButton"), makeToolButton},
+        {QStringLiteral("button"), makeButton},     {QStringLiteral("checkBox"), makeCheckBox},
+        {QStringLiteral("entry"), makeEntry},       {QStringLiteral("label"), makeLabel},
+        {QStringLiteral("lineEdit"), makeLineEdit}, {QStringLiteral("list"), makeList},
+        {QStringLiteral("map"), makeMap},           {QStringLiteral("picture"), makePicture},
+        {QStringLiteral("progress"), makeProgress}, {QStringLiteral("spinBox"), makeSpinBox},
+        {QStringLiteral("tabs"), makeTabs},         {QStringLiteral("toolButton"), makeToolButton},
     };
     return makers[control.type](control, context, window);
 }

@@ -12,10 +12,9 @@ QString str(const char *text)
 
 const QStringList &controlTypes()
 {
-    static const QStringList types{str("button"),    str("checkBox"), str("comboBox"), str("entry"),
-                                   str("label"),     str("lineEdit"), str("list"),     str("map"),
-                                   str("picture"),   str("progress"), str("spinBox"),  str("tabs"),
-                                   str("toolButton")};
+    static const QStringList types{str("button"),   str("checkBox"), str("entry"), str("label"),
+                                   str("lineEdit"), str("list"),     str("map"),   str("picture"),
+                                   str("progress"), str("spinBox"),  str("tabs"),  str("toolButton")};
     return types;
 }
 
@@ -49,9 +48,7 @@ void readOwnFields(JsonReader &reader, ControlDescription &control)
     } else if (type == str("tabs")) {
         control.tabWidth = reader.number(str("tabWidth"));
         control.source = reader.text(str("source"));
-        control.items = reader.localTexts(str("tabs"));
-    } else if (type == str("comboBox")) {
-        control.items = reader.localTexts(str("items"));
+        control.tabs = reader.localTexts(str("tabs"));
     } else if (type == str("toolButton")) {
         control.icon = reader.text(str("icon"));
         control.needs = reader.text(str("needs"), QString());

@@ -42,7 +42,7 @@ struct ControlDescription
     /// Word for a map in its events.
     QString target;
     QString suffix;
-    QVector<LocalText> items;
+    QVector<LocalText> tabs;
     int rowHeight = 0;
     int tabWidth = 0;
     int minimum = 0;

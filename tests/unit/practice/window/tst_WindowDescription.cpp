@@ -84,7 +84,7 @@ void tst_WindowDescription::readsAListATabRowAndASpinBox()
     QCOMPARE(part.owner, QStringLiteral("Box"));
     QCOMPARE(part.controls[0].rowHeight, 24);
     QCOMPARE(part.controls[0].contextMenu.popup, QStringLiteral("MapPopup"));
-    QCOMPARE(part.controls[1].items.size(), 2);
+    QCOMPARE(part.controls[1].tabs.size(), 2);
     QCOMPARE(part.controls[1].tabWidth, 45);
     QCOMPARE(part.controls[2].maximum, 99);
     QCOMPARE(part.controls[2].suffix, QStringLiteral(" %"));
@@ -116,7 +116,7 @@ void tst_WindowDescription::tellsWhatIsWrong_data()
         QTest::newRow(name) << QByteArray(piece) << QByteArray(replacement) << QString::fromLatin1(error);
     };
     row("unknown control type", R"("type": "button")", R"("type": "buton")",
-        "controls[0].type: \"buton\" is unknown; use one of: button, checkBox, comboBox, entry, label, "
+        "controls[0].type: \"buton\" is unknown; use one of: button, checkBox, entry, label, "
         "lineEdit, "
         "list, map, picture, progress, spinBox, tabs, toolButton");
     row("outside the window", "[100, 60, 90, 30]", "[120, 60, 90, 30]",
