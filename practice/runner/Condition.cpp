@@ -119,7 +119,7 @@ std::optional<Condition> Condition::parse(const QString &text)
 int Condition::waitMs() const
 {
     const int ms = m_target.toInt();
-    return ms > 0 ? ms : kShortestWaitMs;
+    return ms > 0 ? ms : kDefaultWaitMs;
 }
 
 bool Condition::isMetBy(const EditorEvent &event, const QString &windowKey) const

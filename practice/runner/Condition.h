@@ -32,7 +32,7 @@ public:
         kTextLength,
     };
 
-    static constexpr int kShortestWaitMs = 1000;
+    static constexpr int kDefaultWaitMs = 1000;
 
     /// Nothing for words that are no condition: an unknown type, a field missing, too many fields, no number
     /// where one belongs. Empty words mean kNext.
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] QString target() const { return m_target; }
     [[nodiscard]] QString value() const { return m_value; }
 
-    /// How long a kWait lasts: the number in "wait,<milliseconds>", or kShortestWaitMs.
+    /// How long a kWait lasts: the number in "wait,<milliseconds>", or kDefaultWaitMs.
     [[nodiscard]] int waitMs() const;
 
     /// Whether the event is what the condition waits for in a step of the window @p windowKey. What a control

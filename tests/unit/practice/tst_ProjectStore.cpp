@@ -1,0 +1,99 @@
+#include "project/ProjectStore.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestProjectStore : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesTheFilesIntoANewFolder();
+    void touchesNothingThatIsThere();
+    void refusesPathsThatLeadOut_data();
+    void refusesPathsThatLeadOut();
+    void leavesNothingBehindWhenAFileCannotBeWritten();
+    void hasNoFilesBeforeAProjectIsOpen();
+};
+
+void TestProjectStore::writesTheFilesIntoANewFolder()
+{
+    const QTemporaryDir room;
+    ProjectStore store(room.filePath(QStringLiteral("made/for/it")));
+    QSignalSpy changed(&store, &ProjectStore::changed);
+    QString error;
+    QVERIFY2(store.create(QStringLiteral("Harbour"),
+                          {{QStringLiteral("data/Actors.json"), QStringLiteral("[null,\"\u5730\"]")},
+                           {QStringLiteral("data/broken.json"), QStringLiteral("[")}},
+                          &error),
+             qPrintable(error));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(store.path(), room.filePath(QStringLiteral("made/for/it/Harbour")));
+    QCOMPARE(store.file(QStringLiteral("data/Actors.json")).array().at(1).toString(),
+             QStringLiteral("\u5730"));
+    QVERIFY(store.file(QStringLiteral("data/broken.json")).isNull());
+    QVERIFY(store.file(QStringLiteral("data/none.json")).isNull());
+}
+
+void TestProjectStore::touchesNothingThatIsThere()
+{
+    const QTemporaryDir room;
+    ProjectStore store(room.path());
+    QString error;
+    const QMap<QString, QString> first = {{QStringLiteral("a.json"), QStringLiteral("[1]")}};
+    QVERIFY(store.create(QStringLiteral("P"), first, &error));
+    QVERIFY(store.create(QStringLiteral("P"), {{QStringLiteral("a.json"), QStringLiteral("[2]")}}, &error));
+    QCOMPARE(store.path(), room.filePath(QStringLiteral("P (2)")));
+    QCOMPARE(store.file(QStringLiteral("a.json")).array().at(0).toInt(), 2);
+    QFile old(room.filePath(QStringLiteral("P/a.json")));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("[1]"));
+}
+
+void TestProjectStore::refusesPathsThatLeadOut_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"../a.json", "data/../../a.json", "/tmp/a.json", "..", ".", ""}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestProjectStore::refusesPathsThatLeadOut()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir room;
+    ProjectStore store(room.path());
+    QString error;
+    QVERIFY(!store.create(QStringLiteral("P"), {{name, QStringLiteral("[]")}}, &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(store.path().isEmpty());
+    QVERIFY(QDir(room.path()).isEmpty());
+}
+
+void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
+{
+    const QTemporaryDir room;
+    ProjectStore store(room.path());
+    QSignalSpy changed(&store, &ProjectStore::changed);
+    QString error;
+    // "a" cannot be a file and a folder.
+    QVERIFY(!store.create(
+        QStringLiteral("P"),
+        {{QStringLiteral("a"), QStringLiteral("x")}, {QStringLiteral("a/b.json"), QStringLiteral("[]")}},
+        &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(changed.isEmpty());
+    QVERIFY(QDir(room.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty());
+}
+
+void TestProjectStore::hasNoFilesBeforeAProjectIsOpen()
+{
+    const ProjectStore store(QDir::tempPath());
+    QVERIFY(store.file(QStringLiteral("data/Actors.json")).isNull());
+}
+
+QTEST_APPLESS_MAIN(TestProjectStore)
+#include "tst_ProjectStore.moc"
