@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QPoint kPanelPlace(90, 40);
+constexpr QPoint kPanelPlace(490, 40);
 
 void printLine(FILE *stream, const QString &line)
 {

@@ -10,8 +10,9 @@ namespace {
 
 using Type = Condition::Type;
 
-// Longer than the companion's own tick, so that two looks that see the same see it at rest.
-constexpr int kTickMs = 110;
+constexpr int kTickMs = 60;
+// Longer than the companion's own tick: what has not moved for this long is at rest.
+constexpr int kRestMs = 110;
 constexpr int kToolMs = 10000;
 constexpr int kSettleMs = 10000;
 constexpr int kConditionMs = 6000;
@@ -101,6 +102,7 @@ void Pilot::onStepReached()
     ++m_steps;
     m_phase = Phase::kWatching;
     m_sincePhase.start();
+    m_sinceMoved.start();
     m_seen = {};
     m_actions.clear();
     m_done.clear();
@@ -159,14 +161,16 @@ void Pilot::watch()
     QByteArray geometries;
     // No window at all is no failure here: it may be still to come.
     run(QStringLiteral("xdotool"),
-        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
-         QString::number(m_pid), QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"),
-         QStringLiteral("%@")},
+        {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+         QStringLiteral("--pid"), QString::number(m_pid), QStringLiteral("--name"), QString(),
+         QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")},
         &geometries);
     const OverlayWatch seen = OverlayWatch::parse(geometries);
-    const bool resting = seen == m_seen;
+    if (!(seen == m_seen)) {
+        m_sinceMoved.start();
+    }
     m_seen = seen;
-    if (!resting || !settled(step) ||
+    if (!m_sinceMoved.hasExpired(kRestMs) || !m_sincePhase.hasExpired(kRestMs) || !settled(step) ||
         (m_sinceClick.isValid() && !m_sinceClick.hasExpired(kBetweenClicksMs))) {
         return;
     }
@@ -231,9 +235,11 @@ void Pilot::planKeys(const ScenarioStep &step)
 
 void Pilot::actOnce()
 {
-    if (m_actions.isEmpty()) {
+    if (m_actions.size() <= 1) {
         m_phase = Phase::kAwaiting;
         m_sincePhase.start();
+    }
+    if (m_actions.isEmpty()) {
         return;
     }
     const QStringList action = m_actions.dequeue();

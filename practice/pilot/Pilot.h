@@ -70,6 +70,7 @@ private:
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sincePhase;
     QElapsedTimer m_sinceClick;
+    QElapsedTimer m_sinceMoved;
     OverlayWatch m_seen;
     int m_steps = 0;
     int m_shots = 0;

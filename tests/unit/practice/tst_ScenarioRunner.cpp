@@ -22,7 +22,7 @@ Scenario scenarioOf(const QStringList &items, QStringList *problems = nullptr)
                            problems != nullptr ? problems : &ignored);
 }
 
-EditorEvent event(const QString &words)
+EditorEvent happening(const QString &words)
 {
     const QStringList fields = words.split(QLatin1Char(','));
     return {fields.value(0), fields.value(1), fields.value(2), {}};
@@ -184,7 +184,7 @@ void TestScenarioRunner::playsToTheEnd()
     QCOMPARE(runner.step().id, 5);
     runner.next();
     QCOMPARE(runner.step().id, 3);
-    runner.handle(event(QStringLiteral("list,2")));
+    runner.handle(happening(QStringLiteral("list,2")));
     QCOMPARE(runner.step().id, 9);
     runner.answer(false);
     QCOMPARE(runner.step().id, 1);
@@ -276,12 +276,12 @@ void TestScenarioRunner::anEventForAnotherStepDoesNothing()
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
     runner.start(scenarioOf({item(1, QStringLiteral("list,0")), item(2, QStringLiteral("list,1"))}), -1);
-    runner.handle(event(QStringLiteral("list,1")));
+    runner.handle(happening(QStringLiteral("list,1")));
     QCOMPARE(runner.step().id, 1);
     // A row that was selected before counts when it is clicked again, and only then.
-    runner.handle(event(QStringLiteral("list,0")));
+    runner.handle(happening(QStringLiteral("list,0")));
     QCOMPARE(runner.step().id, 2);
-    runner.handle(event(QStringLiteral("list,1")));
+    runner.handle(happening(QStringLiteral("list,1")));
     QVERIFY(!runner.isRunning());
     QCOMPARE(reached.size(), 2);
 }
@@ -313,7 +313,7 @@ void TestScenarioRunner::passesAStepThatHasNothingToWaitFor()
     QCOMPARE(runner.step().id, 3);
     QCOMPARE(reached.size(), 1);
     open.clear();
-    runner.handle(event(QStringLiteral("windowState,A,close")));
+    runner.handle(happening(QStringLiteral("windowState,A,close")));
     QCOMPARE(runner.step().id, 5);
 }
 
@@ -366,7 +366,7 @@ void TestScenarioRunner::stopsSilently()
     QVERIFY(!runner.isRunning());
     runner.next();
     runner.skip();
-    runner.handle(event(QStringLiteral("list,0")));
+    runner.handle(happening(QStringLiteral("list,0")));
     QVERIFY(finished.isEmpty());
 }
 

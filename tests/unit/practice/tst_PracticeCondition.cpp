@@ -240,4 +240,4 @@ void TestCondition::waitsForTheTimeGiven()
 }
 
 QTEST_APPLESS_MAIN(TestCondition)
-#include "tst_Condition.moc"
+#include "tst_PracticeCondition.moc"
