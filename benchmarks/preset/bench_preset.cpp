@@ -217,7 +217,7 @@ private:
     static double best(const Work &work)
     {
         double seconds = std::numeric_limits<double>::max();
-        for (int run = 0; run < 7; ++run) {
+        for (int run = 0; run < 15; ++run) {
             const std::clock_t begin = std::clock();
             work();
             seconds = std::min(seconds, cpuSeconds(begin));

@@ -3,28 +3,12 @@
 #include <optional>
 
 #include <QJsonArray>
-#include <QJsonObject>
 
+#include "Tutorial/localisation/EventCommands.h"
+#include "Tutorial/localisation/SampleWarning.h"
 #include "tool/JsonWrapper.h"
-#include "tool/LogLine.h"
 
 namespace {
-
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\localisation\\SampleTranslators.cpp";
-
-/// Begins the warning about @p offending; a key may be streamed behind it.
-QDebug warn(const char *function, int number, const char *message, const JsonWrapper &offending)
-{
-    const QString json = offending.toJson().replace(QLatin1Char('%'), QChar(0xFF05));
-    QDebug line = logWarning(kSource, function, number);
-    line << message << json;
-    return line;
-}
-
-QDebug warn(const char *function, int number, const char *message, const QJsonValue &offending)
-{
-    return warn(function, number, message, JsonWrapper(offending));
-}
 
 /// What is to stand in the place of @p text, if anything else than @p text.
 std::optional<QString> replacement(const TranslateText &translate, const QString &context,
@@ -53,136 +37,6 @@ bool replaceElements(const TranslateText &translate, const QString &context, QJs
     return changed;
 }
 
-// Event commands by their codes in the host editor's data files.
-enum class EventCode {
-    kShowText = 101,
-    kShowChoices = 102,
-    kTextLine = 401,
-    kChoiceBranch = 402,
-    kScrollLine = 405
-};
-
-/// Hands the element at @p index to @p translate if it is a string, and writes the result whatever it is.
-bool translateElement(const TranslateText &translate, const QString &context, int index, QJsonArray &array)
-{
-    if (!array.at(index).isString()) {
-        return false;
-    }
-    const QString text = array.at(index).toString();
-    array.replace(index, translate(context, text));
-    return true;
-}
-
-/// What became of an event command, a list of them, or one level above.
-struct Walked
-{
-    bool changed;
-    bool finished; ///< False when a warning ended the walk.
-};
-
-constexpr Walked kUntouched{false, true};
-constexpr Walked kEnded{false, false};
-
-Walked translateChoices(const TranslateText &translate, const QString &context, QJsonArray &parameters)
-{
-    if (parameters.isEmpty()) {
-        warn("translateEvent", 820, "parametersWrapper is too short", parameters);
-        return kEnded;
-    }
-    if (!parameters.at(0).isArray()) {
-        warn("translateEvent", 825, "parameterWrapper is not array", parameters.at(0));
-        return kEnded;
-    }
-    QJsonArray choices = parameters.at(0).toArray();
-    bool changed = false;
-    for (int i = 0; i < choices.size(); ++i) {
-        changed = translateElement(translate, context, i, choices) || changed;
-    }
-    if (changed) {
-        parameters.replace(0, choices);
-    }
-    return {changed, true};
-}
-
-/// Translates the parameter at @p index; the warning about too few parameters has the number @p
-/// warningNumber.
-Walked translateParameter(const TranslateText &translate, const QString &context, int index,
-                          int warningNumber, QJsonArray &parameters)
-{
-    if (parameters.size() <= index) {
-        warn("translateEvent", warningNumber, "parametersWrapper is too short", parameters);
-        return kEnded;
-    }
-    return {translateElement(translate, context, index, parameters), true};
-}
-
-Walked translateParameters(const TranslateText &translate, const QString &context, int code,
-                           QJsonArray &parameters)
-{
-    switch (static_cast<EventCode>(code)) {
-    case EventCode::kShowText: {
-        constexpr int kSpeaker = 4;
-        if (parameters.size() <= kSpeaker) {
-            return kUntouched;
-        }
-        return {translateElement(translate, context, kSpeaker, parameters), true};
-    }
-    case EventCode::kShowChoices:
-        return translateChoices(translate, context, parameters);
-    case EventCode::kTextLine:
-    case EventCode::kScrollLine:
-        return translateParameter(translate, context, 0, 844, parameters);
-    case EventCode::kChoiceBranch:
-        return translateParameter(translate, context, 1, 858, parameters);
-    }
-    return kUntouched;
-}
-
-/// Changes are written into @p list as they come, so what was changed before the walk ended stays.
-Walked translateCommands(const TranslateText &translate, const QString &context, QJsonArray &list)
-{
-    constexpr const char *kFunction = "translateEvent";
-    const QString codeKey = QStringLiteral("code");
-    const QString parametersKey = QStringLiteral("parameters");
-    bool changed = false;
-    for (int i = 0; i < list.size(); ++i) {
-        const QJsonValue entry = list.at(i);
-        if (entry.isNull()) {
-            continue;
-        }
-        if (!entry.isObject()) {
-            warn(kFunction, 787, "listItem is not object", entry);
-            return {changed, false};
-        }
-        QJsonObject command = entry.toObject();
-        const QJsonValue code = command.value(codeKey);
-        if (code.isUndefined()) {
-            warn(kFunction, 791, "listItem does not contain key", entry) << codeKey;
-            return {changed, false};
-        }
-        const QJsonValue parametersValue = command.value(parametersKey);
-        if (parametersValue.isUndefined()) {
-            warn(kFunction, 795, "listItem does not contain key", entry) << parametersKey;
-            return {changed, false};
-        }
-        if (!parametersValue.isArray()) {
-            warn(kFunction, 800, "parametersWrapper is not array", parametersValue);
-            return {changed, false};
-        }
-        QJsonArray parameters = parametersValue.toArray();
-        const Walked walked = translateParameters(translate, context, code.toInt(), parameters);
-        if (walked.changed) {
-            command.insert(parametersKey, parameters);
-            list.replace(i, command);
-            changed = true;
-        }
-        if (!walked.finished) {
-            return {changed, false};
-        }
-    }
-    return {changed, true};
-}
-
 } // namespace
 
 void translateKeyText(const TranslateText &translate, const QString &context, const QString &key,
@@ -190,11 +44,11 @@ void translateKeyText(const TranslateText &translate, const QString &context, co
 {
     constexpr const char *kFunction = "translateKeyText";
     if (!wrapper.isObject()) {
-        warn(kFunction, 549, "wrapper is not object", wrapper);
+        warnSample(kFunction, 549, "wrapper is not object", wrapper);
         return;
     }
     if (!wrapper.contains(key)) {
-        warn(kFunction, 553, "wrapper does not contain key", wrapper) << key;
+        warnSample(kFunction, 553, "wrapper does not contain key", wrapper) << key;
         return;
     }
     if (const auto text = replacement(translate, context, wrapper[key].toString())) {
@@ -207,7 +61,7 @@ void translateArrayKeyText(const TranslateText &translate, const QString &contex
 {
     constexpr const char *kFunction = "translateArrayKeyText";
     if (!wrapper.isArray()) {
-        warn(kFunction, 574, "wrapper is not array", wrapper);
+        warnSample(kFunction, 574, "wrapper is not array", wrapper);
         return;
     }
     const int length = wrapper.length();
@@ -217,11 +71,11 @@ void translateArrayKeyText(const TranslateText &translate, const QString &contex
             continue;
         }
         if (!item.isObject()) {
-            warn(kFunction, 584, "item is not object", item);
+            warnSample(kFunction, 584, "item is not object", item);
             return;
         }
         if (!item.contains(key)) {
-            warn(kFunction, 588, "item does not contain key", item) << key;
+            warnSample(kFunction, 588, "item does not contain key", item) << key;
             return;
         }
         if (const auto text = replacement(translate, context, item[key].toString())) {
@@ -236,11 +90,11 @@ void translateKeyArrayText(const TranslateText &translate, const QString &contex
 {
     constexpr const char *kFunction = "translateKeyArrayText";
     if (!wrapper.isObject()) {
-        warn(kFunction, 610, "wrapper is not object", wrapper);
+        warnSample(kFunction, 610, "wrapper is not object", wrapper);
         return;
     }
     if (!wrapper.contains(key)) {
-        warn(kFunction, 614, "wrapper does not contain key", wrapper) << key;
+        warnSample(kFunction, 614, "wrapper does not contain key", wrapper) << key;
         return;
     }
     const JsonWrapper keyWrapper = wrapper[key];
@@ -248,7 +102,7 @@ void translateKeyArrayText(const TranslateText &translate, const QString &contex
         return;
     }
     if (!keyWrapper.isArray()) {
-        warn(kFunction, 622, "keyWrapper is not array", keyWrapper);
+        warnSample(kFunction, 622, "keyWrapper is not array", keyWrapper);
         return;
     }
     QJsonArray array = keyWrapper.toArray();
@@ -262,11 +116,11 @@ void translateKeyKeyArrayText(const TranslateText &translate, const QString &con
 {
     constexpr const char *kFunction = "translateKeyKeyArrayText";
     if (!wrapper.isObject()) {
-        warn(kFunction, 646, "wrapper is not object", wrapper);
+        warnSample(kFunction, 646, "wrapper is not object", wrapper);
         return;
     }
     if (!wrapper.contains(key1)) {
-        warn(kFunction, 650, "wrapper does not contain key", wrapper) << key1;
+        warnSample(kFunction, 650, "wrapper does not contain key", wrapper) << key1;
         return;
     }
     JsonWrapper key1Wrapper = wrapper[key1];
@@ -274,11 +128,11 @@ void translateKeyKeyArrayText(const TranslateText &translate, const QString &con
         return;
     }
     if (!key1Wrapper.isObject()) {
-        warn(kFunction, 658, "key1Wrapper is not object", key1Wrapper);
+        warnSample(kFunction, 658, "key1Wrapper is not object", key1Wrapper);
         return;
     }
     if (!key1Wrapper.contains(key2)) {
-        warn(kFunction, 662, "key1Wrapper does not contain key", key1Wrapper) << key2;
+        warnSample(kFunction, 662, "key1Wrapper does not contain key", key1Wrapper) << key2;
         return;
     }
     const JsonWrapper key2Wrapper = key1Wrapper[key2];
@@ -286,7 +140,7 @@ void translateKeyKeyArrayText(const TranslateText &translate, const QString &con
         return;
     }
     if (!key2Wrapper.isArray()) {
-        warn(kFunction, 670, "key2Wrapper is not array", key2Wrapper);
+        warnSample(kFunction, 670, "key2Wrapper is not array", key2Wrapper);
         return;
     }
     QJsonArray array = key2Wrapper.toArray();
@@ -301,11 +155,11 @@ void translateKeyKeyAnyKeyText(const TranslateText &translate, const QString &co
 {
     constexpr const char *kFunction = "translateKeyKeyAnyKeyText";
     if (!wrapper.isObject()) {
-        warn(kFunction, 695, "wrapper is not object", wrapper);
+        warnSample(kFunction, 695, "wrapper is not object", wrapper);
         return;
     }
     if (!wrapper.contains(key1)) {
-        warn(kFunction, 699, "wrapper does not contain key", wrapper) << key1;
+        warnSample(kFunction, 699, "wrapper does not contain key", wrapper) << key1;
         return;
     }
     JsonWrapper key1Wrapper = wrapper[key1];
@@ -313,11 +167,11 @@ void translateKeyKeyAnyKeyText(const TranslateText &translate, const QString &co
         return;
     }
     if (!key1Wrapper.isObject()) {
-        warn(kFunction, 707, "key1Wrapper is not object", key1Wrapper);
+        warnSample(kFunction, 707, "key1Wrapper is not object", key1Wrapper);
         return;
     }
     if (!key1Wrapper.contains(key2)) {
-        warn(kFunction, 711, "key1Wrapper does not contain key", key1Wrapper) << key2;
+        warnSample(kFunction, 711, "key1Wrapper does not contain key", key1Wrapper) << key2;
         return;
     }
     JsonWrapper key2Wrapper = key1Wrapper[key2];
@@ -325,7 +179,7 @@ void translateKeyKeyAnyKeyText(const TranslateText &translate, const QString &co
         return;
     }
     if (!key2Wrapper.isObject()) {
-        warn(kFunction, 719, "key2Wrapper is not object", key2Wrapper);
+        warnSample(kFunction, 719, "key2Wrapper is not object", key2Wrapper);
         return;
     }
     bool changed = false;
@@ -349,11 +203,11 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
     const QString nameKey = QStringLiteral("name");
     const QString pagesKey = QStringLiteral("pages");
     if (!wrapper.isObject()) {
-        warn(kFunction, 894, "wrapper is not object", wrapper);
+        warnSample(kFunction, 894, "wrapper is not object", wrapper);
         return;
     }
     if (!wrapper.contains(eventsKey)) {
-        warn(kFunction, 898, "wrapper does not contain eventsKey", wrapper) << eventsKey;
+        warnSample(kFunction, 898, "wrapper does not contain eventsKey", wrapper) << eventsKey;
         return;
     }
     const JsonWrapper eventsWrapper = wrapper[eventsKey];
@@ -361,7 +215,7 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
         return;
     }
     if (!eventsWrapper.isArray()) {
-        warn(kFunction, 906, "eventsWrapper is not array", eventsWrapper);
+        warnSample(kFunction, 906, "eventsWrapper is not array", eventsWrapper);
         return;
     }
 
@@ -372,11 +226,11 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
             continue;
         }
         if (!event.isObject()) {
-            warn(kFunction, 916, "eventItem is not object", event);
+            warnSample(kFunction, 916, "eventItem is not object", event);
             break;
         }
         if (!event.contains(nameKey)) {
-            warn(kFunction, 920, "eventItem does not contain nameKey", event) << nameKey;
+            warnSample(kFunction, 920, "eventItem does not contain nameKey", event) << nameKey;
             break;
         }
         if (const auto text = replacement(translate, context, event[nameKey].toString())) {
@@ -384,7 +238,7 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
             events.replace(i, event.toValue());
         }
         if (!event.contains(pagesKey)) {
-            warn(kFunction, 937, "eventItem does not contain pagesKey", event) << pagesKey;
+            warnSample(kFunction, 937, "eventItem does not contain pagesKey", event) << pagesKey;
             break;
         }
         JsonWrapper pages = event[pagesKey];
@@ -400,7 +254,7 @@ void translateEvent(const TranslateText &translate, const QString &context, Json
     constexpr const char *kFunction = "translateEvent";
     const QString listKey = QStringLiteral("list");
     if (!wrapper.isArray()) {
-        warn(kFunction, 758, "wrapper is not array", wrapper);
+        warnSample(kFunction, 758, "wrapper is not array", wrapper);
         return;
     }
     const int length = wrapper.length();
@@ -410,20 +264,20 @@ void translateEvent(const TranslateText &translate, const QString &context, Json
             continue;
         }
         if (!item.isObject()) {
-            warn(kFunction, 768, "item is not object", item);
+            warnSample(kFunction, 768, "item is not object", item);
             return;
         }
         if (!item.contains(listKey)) {
-            warn(kFunction, 772, "item does not contain key", item) << listKey;
+            warnSample(kFunction, 772, "item does not contain key", item) << listKey;
             return;
         }
         const JsonWrapper listWrapper = item[listKey];
         if (!listWrapper.isArray()) {
-            warn(kFunction, 777, "listWrapper is not array", listWrapper);
+            warnSample(kFunction, 777, "listWrapper is not array", listWrapper);
             return;
         }
         QJsonArray list = listWrapper.toArray();
-        const Walked walked = translateCommands(translate, context, list);
+        const EventWalk walked = translateEventCommands(translate, context, list);
         if (walked.changed) {
             item.set(listKey, list);
             wrapper.set(i, item.toValue());

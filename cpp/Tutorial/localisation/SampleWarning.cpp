@@ -1,0 +1,25 @@
+#include "Tutorial/localisation/SampleWarning.h"
+
+#include <QJsonValue>
+
+#include "tool/JsonWrapper.h"
+#include "tool/LogLine.h"
+
+namespace {
+
+constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\localisation\\SampleTranslators.cpp";
+
+} // namespace
+
+QDebug warnSample(const char *function, int number, const char *message, const JsonWrapper &offending)
+{
+    const QString json = offending.toJson().replace(QLatin1Char('%'), QChar(0xFF05));
+    QDebug line = logWarning(kSource, function, number);
+    line << message << json;
+    return line;
+}
+
+QDebug warnSample(const char *function, int number, const char *message, const QJsonValue &offending)
+{
+    return warnSample(function, number, message, JsonWrapper(offending));
+}
