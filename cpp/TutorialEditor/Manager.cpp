@@ -17,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace TutorialEditor {
 
@@ -142,7 +143,7 @@ void Manager::readItems(const QString &json, QStringList *errors)
 void Manager::nameItems()
 {
     UsedNames names;
-    for (const TutorialItemData *data : m_tree.items) {
+    for (const TutorialItemData *data : std::as_const(m_tree.items)) {
         if (!data->name.isEmpty()) {
             names.add(data->name);
         }

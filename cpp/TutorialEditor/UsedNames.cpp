@@ -4,6 +4,8 @@
 
 #include <QtGlobal>
 
+#include <utility>
+
 UsedNames::UsedNames(const QStringList &names)
 {
     for (const QString &name : names) {
@@ -47,7 +49,7 @@ int UsedNames::highestSuffix(const QString &base)
         return *known;
     }
     int highest = 0;
-    for (const QString &name : m_names) {
+    for (const QString &name : std::as_const(m_names)) {
         highest = qMax(highest, suffixNumber(name, base).value_or(0));
     }
     m_highestSuffix.insert(base, highest);
