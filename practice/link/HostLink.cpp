@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kGoodbyeMs = 2000;
-constexpr int kLoggedBytes = 8192;
+constexpr int kLoggedBytes = 2048;
 
 } // namespace
 

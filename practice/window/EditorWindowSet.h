@@ -31,6 +31,7 @@ public:
     [[nodiscard]] QStringList openWindows() const override;
     [[nodiscard]] QPoint origin(const QString &windowKey) const override;
     [[nodiscard]] QRect screenRect() const override;
+    [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 
     [[nodiscard]] EditorProject *project() { return m_project.get(); }
 

@@ -1,0 +1,187 @@
+#include "PracticeEditor.h"
+#include "window/EditorWindowSet.h"
+
+#include <QLocalServer>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+namespace {
+
+constexpr int kSoonMs = 15000;
+
+/// Process ids of the children of @p parent.
+QVector<qint64> childrenOf(qint64 parent)
+{
+    QProcess pgrep;
+    pgrep.start(QStringLiteral("pgrep"), {QStringLiteral("-P"), QString::number(parent)});
+    pgrep.waitForFinished();
+    QVector<qint64> children;
+    const QList<QByteArray> lines = pgrep.readAllStandardOutput().split('\n');
+    for (const QByteArray &line : lines) {
+        if (!line.isEmpty()) {
+            children.append(line.toLongLong());
+        }
+    }
+    return children;
+}
+
+/// A process that has ended and that nobody has asked after yet does not count.
+bool isAlive(qint64 pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    return stat.open(QIODevice::ReadOnly) && !stat.readAll().contains(") Z ");
+}
+
+void end(qint64 pid, int signal)
+{
+    ::kill(static_cast<pid_t>(pid), signal);
+}
+
+} // namespace
+
+/// Who ends whom, with the real companion.
+class TestPracticeLife : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void closingTheEditorEndsTheCompanion();
+    void killingTheEditorEndsTheCompanionWithinASecond();
+    void aKilledCompanionIsRestartedOnRequest();
+    void aMissingCompanionIsSaid();
+    void wrongOptionsAreSaid_data();
+    void wrongOptionsAreSaid();
+
+private:
+    static PracticeEditor::Options options();
+    static std::unique_ptr<EditorWindows> windows();
+};
+
+PracticeEditor::Options TestPracticeLife::options()
+{
+    PracticeEditor::Options options;
+    options.lesson = 1;
+    options.locale = QStringLiteral("en_US");
+    options.companionProgram = QStringLiteral(TUTORIAL_PROGRAM);
+    return options;
+}
+
+std::unique_ptr<EditorWindows> TestPracticeLife::windows()
+{
+    QStringList errors;
+    return EditorWindowSet::create(QStringLiteral("en_US"), &errors);
+}
+
+void TestPracticeLife::closingTheEditorEndsTheCompanion()
+{
+    qint64 companion = 0;
+    {
+        PracticeEditor editor(options(), windows());
+        QString error;
+        QVERIFY2(editor.start(&error), qPrintable(error));
+        QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+        companion = childrenOf(QCoreApplication::applicationPid()).value(0);
+        QVERIFY(isAlive(companion));
+        QSignalSpy ended(&editor, &PracticeEditor::ended);
+        const QWidgetList topLevels = QApplication::topLevelWidgets();
+        for (QWidget *widget : topLevels) {
+            if (widget->objectName() == QLatin1String("MainWindow")) {
+                widget->close();
+            }
+        }
+        QCOMPARE(ended.size(), 1);
+    }
+    QVERIFY(!isAlive(companion));
+}
+
+void TestPracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
+{
+    QProcess editor;
+    editor.start(QStringLiteral(PRACTICE_PROGRAM), {QStringLiteral("--lesson"), QStringLiteral("1")});
+    QVERIFY(editor.waitForStarted());
+    QVector<qint64> children;
+    QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(editor.processId())).isEmpty(), kSoonMs);
+    const qint64 companion = children.constFirst();
+    // Connected is what the companion is when it has an open socket beside its standard ones.
+    QTRY_VERIFY_WITH_TIMEOUT(
+        QProcess::execute(QStringLiteral("sh"),
+                          {QStringLiteral("-c"),
+                           QStringLiteral("ls -l /proc/%1/fd | grep -q socket:").arg(companion)}) == 0,
+        kSoonMs);
+    end(editor.processId(), SIGKILL);
+    QTRY_VERIFY_WITH_TIMEOUT(!isAlive(companion), 1000);
+    editor.waitForFinished();
+}
+
+void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
+{
+    PracticeEditor editor(options(), windows());
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    const qint64 first = childrenOf(QCoreApplication::applicationPid()).value(0);
+    end(first, SIGKILL);
+
+    QMessageBox *box = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) != nullptr, kSoonMs);
+    QCOMPARE(box->objectName(), QStringLiteral("lostMessageBox"));
+    QVERIFY(!editor.session().runner().isRunning());
+    for (QAbstractButton *button : box->buttons()) {
+        if (box->buttonRole(button) == QMessageBox::AcceptRole) {
+            button->click();
+        }
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    QCOMPARE(editor.session().lessonName(), QStringLiteral("TutorialStep1"));
+    const qint64 second = childrenOf(QCoreApplication::applicationPid()).value(0);
+    QVERIFY(second != first && isAlive(second));
+}
+
+void TestPracticeLife::aMissingCompanionIsSaid()
+{
+    PracticeEditor::Options missing = options();
+    missing.companionProgram = QStringLiteral("/nowhere/Tutorial");
+    PracticeEditor editor(missing, windows());
+    QString error;
+    QVERIFY(!editor.start(&error));
+    QVERIFY2(error.contains(QStringLiteral("/nowhere/Tutorial")), qPrintable(error));
+}
+
+void TestPracticeLife::wrongOptionsAreSaid_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("no such lesson") << QStringList{QStringLiteral("--lesson"), QStringLiteral("20")}
+                                    << QByteArray("no lesson 20");
+    QTest::newRow("no number") << QStringList{QStringLiteral("--lesson"), QStringLiteral("one")}
+                               << QByteArray("no lesson one");
+    QTest::newRow("no such locale") << QStringList{QStringLiteral("--locale"), QStringLiteral("fr_FR")}
+                                    << QByteArray("no locale fr_FR");
+    QTest::newRow("a pilot without a lesson")
+        << QStringList{QStringLiteral("--pilot")} << QByteArray("--lesson N");
+    QTest::newRow("a key that names no server")
+        << QStringList{QStringLiteral("--key"), QStringLiteral("a/b/c")} << QByteArray("cannot listen");
+}
+
+void TestPracticeLife::wrongOptionsAreSaid()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    QProcess editor;
+    editor.start(QStringLiteral(PRACTICE_PROGRAM), arguments);
+    QVERIFY(editor.waitForFinished(kSoonMs));
+    QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(editor.exitCode(), 2);
+    const QByteArray said = editor.readAllStandardError();
+    QVERIFY2(said.contains(message), said.constData());
+}
+
+QTEST_MAIN(TestPracticeLife)
+#include "tst_PracticeLife.moc"
