@@ -13,6 +13,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include "Tutorial/preset/JsonString.h"
 #include "tool/DataSupport.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
@@ -146,7 +147,7 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
     }
 
     const RowFinder rowFinder(table);
-    QStringList members;
+    QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
     for (auto it = texts->cbegin(); it != texts->cend(); ++it) {
         const QRegularExpressionMatch match = patchPattern.match(it.key());
         if (!match.hasMatch()) {
@@ -156,12 +157,13 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
         const QString dataFile = match.captured(1);
         JsonWrapper wrapper(QString::fromStdString(it.value()));
         runSampleRows(rowFinder.rowsFor(dataFile), translate, wrapper);
-        members.append(JsonWrapper::getJsonString(QStringLiteral("data/%1").arg(dataFile)) +
-                       QLatin1Char(':') + JsonWrapper::getJsonString(wrapper.toJson(false)));
+        if (it != texts->cbegin()) {
+            reply += QLatin1Char(',');
+        }
+        appendJsonString(reply, QStringLiteral("data/%1").arg(dataFile));
+        reply += QLatin1Char(':');
+        appendJsonString(reply, wrapper.toJson(false));
     }
-    if (members.isEmpty()) {
-        return {};
-    }
-    return QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{') +
-           members.join(QLatin1Char(',')) + QLatin1Char('}');
+    reply += QLatin1Char('}');
+    return texts->isEmpty() ? QString() : reply;
 }
