@@ -132,7 +132,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>Travelling between maps</translation>
+      <translation>Traveling between maps</translation>
     </message>
     <message>
       <source>#9</source>
@@ -152,7 +152,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>Items, weapons and armour</translation>
+      <translation>Items, weapons and armor</translation>
     </message>
     <message>
       <source>#14</source>
@@ -225,7 +225,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>Now make a map of your own. The picture above this text means a right click. In many places it opens a menu.</translation>
+      <translation>Now you make a map of your own. The picture above this text stands for a right click, which opens a menu in many places.</translation>
     </message>
     <message>
       <source>#12</source>
@@ -325,11 +325,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>“Map” is the mode for drawing. People and doors are made in the mode “Events”, which the next lesson is about.</translation>
+      <translation>“Map” is the mode for drawing. People and doors are made in “Events” mode, which the next lesson uses.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Well drawn! Next you change the settings of a map and add more maps.</translation>
+      <translation>Well drawn! Next you change the properties of a map and add more maps.</translation>
     </message>
     <message>
       <source>#38</source>
@@ -365,7 +365,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Your map wears autumn colours now. Click “Bush”.</translation>
+      <translation>Your map wears autumn colors now. Click “Bush”.</translation>
     </message>
     <message>
       <source>#47</source>
@@ -433,11 +433,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Click “Harbour”. You can go from map to map like this at any time.</translation>
+      <translation>Click “Harbor”. You can go from map to map like this at any time.</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>The map view has a menu, too. It is about the map that you see.</translation>
+      <translation>The map view has a menu, too. It works on the map that you see.</translation>
     </message>
     <message>
       <source>#65</source>
@@ -449,11 +449,11 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Every map has its own tile set. Click the picture to see which one the harbour uses.</translation>
+      <translation>Every map has its own tile set. Click the picture to see which one the harbor uses.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>It is “Coast”, which suits a harbour. Click “OK” to keep it.</translation>
+      <translation>It is “Coast”, which suits a harbor. Click “OK” to keep it.</translation>
     </message>
     <message>
       <source>#69</source>
@@ -469,7 +469,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Press the left mouse button here, behind the sand. Now the harbour has one more fir tree.</translation>
+      <translation>Press the left mouse button here. The harbor gets one more fir tree.</translation>
     </message>
     <message>
       <source>#73</source>
@@ -501,7 +501,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>In the next lesson somebody moves onto the map. Click “Next” to finish.</translation>
+      <translation>In the next lesson you put a person on the map. Click “Next” to finish.</translation>
     </message>
   </context>
 </TS>

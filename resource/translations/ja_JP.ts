@@ -188,7 +188,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>ここからは、操作する場所を矢印が、操作のしかた（クリック、ダブルクリック、右クリック、キー入力）をその横の絵が示します。
+      <translation>ここからは、矢印が操作する場所を、その横の絵が操作のしかた（クリック、ダブルクリック、右クリック、キー入力）を示します。
 「次へ」が出ているときは、読み終えたらクリックしてください。</translation>
     </message>
     <message>
@@ -209,7 +209,7 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>これがマップ画面です。開いているマップ、今は村が表示されています。ここに描いた場所を、プレイヤーが歩き回ります。</translation>
+      <translation>ここがマップ画面です。今は、村のマップが表示されています。ここに描いた世界を、プレイヤーが歩き回ります。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -417,11 +417,11 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>左側に、選べるマップが並んでいます。この絵は、選ばれているマップです。</translation>
+      <translation>左側に、追加できるマップが並んでいます。この絵は、今選ばれているマップです。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>マップが1つ選ばれています。「OK」をクリックして、ゲームに追加してください。</translation>
+      <translation>すでに1枚選ばれています。「OK」をクリックして、ゲームに追加してください。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>砂浜の手前のここで、左ボタンを押してください。港にモミの木が1本増えます。</translation>
+      <translation>ここで、マウスの左ボタンを押してください。港にモミの木が1本増えます。</translation>
     </message>
     <message>
       <source>#73</source>

@@ -164,7 +164,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>头目之战</translation>
+      <translation>首领之战</translation>
     </message>
     <message>
       <source>#17</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>这些是图块，地图就是用它们拼成的。上方的标签把图块分成“地面”“自然”和“建筑”三类。</translation>
+      <translation>这些是图块，地图就是用它们拼成的。上方的选项卡把图块分成“地面”“自然”和“建筑”三类。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -273,11 +273,11 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>点击“椭圆”。用法相同，画出的是圆形区域。</translation>
+      <translation>点击“椭圆”。用法相同，画出的是椭圆形区域。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>从这里再向右下方拖动，就会出现一片圆形的沙地。</translation>
+      <translation>从这里再向右下方拖动，就会出现一片圆形沙地。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
       <source>#27</source>
-      <translation>点击“自然”标签，里面有树木、灌木和花。</translation>
+      <translation>点击“自然”选项卡，里面有树木、灌木和花。</translation>
     </message>
     <message>
       <source>#28</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“原大”，恢复正常大小。</translation>
+      <translation>点击“实际大小”，恢复正常显示。</translation>
     </message>
     <message>
       <source>#36</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>画得不错！接下来修改地图的设置，并添加更多地图。</translation>
+      <translation>画得不错！接下来修改地图的属性，并添加更多地图。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>在沙滩旁的这个位置按下鼠标左键，港口就多了一棵冷杉。</translation>
+      <translation>在这里按下鼠标左键，港口就会多一棵冷杉。</translation>
     </message>
     <message>
       <source>#73</source>

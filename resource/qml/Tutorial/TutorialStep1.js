@@ -1106,7 +1106,7 @@
     },
     {
 "id":66,
-"name":"Go to the harbour",
+"name":"Go to the harbor",
 "folder":false,
 "translationId":63,
 "x":86,
@@ -1157,7 +1157,7 @@
     },
     {
 "id":69,
-"name":"Properties of the harbour",
+"name":"Properties of the harbor",
 "folder":false,
 "translationId":66,
 "x":72,
@@ -1293,7 +1293,7 @@
     },
     {
 "id":77,
-"name":"Plant a fir tree in the harbour",
+"name":"Plant a fir tree in the harbor",
 "folder":false,
 "translationId":72,
 "x":362,

@@ -73,7 +73,7 @@ void tst_EditorProject::createOpensTheStartMapsUnderTheTypedName()
     QVERIFY(!project.isModified());
     QCOMPARE(project.name(), QStringLiteral("Quest"));
     QCOMPARE(names(project, kMaps), (QStringList{QStringLiteral("Village"), QStringLiteral("Forest path"),
-                                                 QStringLiteral("Harbour"), QStringLiteral("Oasis")}));
+                                                 QStringLiteral("Harbor"), QStringLiteral("Oasis")}));
     QCOMPARE(project.currentRow(kMaps), 0);
 
     project.run(QStringLiteral("newProject.accept"));
@@ -255,7 +255,7 @@ void tst_EditorProject::draftIsAlwaysThatOfTheMapOnShow()
     QCOMPARE(project.draft().name, QStringLiteral("Village"));
     project.run(QStringLiteral("map.new"));
     project.setCurrentRow(kMaps, 2);
-    QCOMPARE(project.draft().name, QStringLiteral("Harbour"));
+    QCOMPARE(project.draft().name, QStringLiteral("Harbor"));
     project.beginStroke();
     project.paint({{2, 2}});
     const GameMap::Layers painted = project.map()->layers;

@@ -407,7 +407,7 @@ void tst_EditorWindowSet::rowsAreToldEvenWhenSelectedAlready()
     const QStringList told{str("list,2, in MapEditTreeBox")};
     editor.clickRow("MapEditTreeBox", "maps", 2);
     QCOMPARE(editor.takeTold(), told);
-    QCOMPARE(editor->project()->map()->name, str("Harbour"));
+    QCOMPARE(editor->project()->map()->name, str("Harbor"));
     editor.clickRow("MapEditTreeBox", "maps", 2);
     QCOMPARE(editor.takeTold(), told);
     editor.clickRow("MainWindow", "tiles", 0);
