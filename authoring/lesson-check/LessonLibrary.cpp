@@ -6,7 +6,7 @@
 #include "lesson-check/ScenarioReader.h"
 #include "lesson-check/StepCheck.h"
 #include "lesson-check/TextCheck.h"
-#include "lesson-check/WindowSizes.h"
+#include "lesson-check/WindowPlaces.h"
 #include "tool/DataSupport.h"
 
 #include <QDir>
@@ -133,7 +133,7 @@ void LessonLibrary::checkShipped()
 
 void LessonLibrary::checkLessons()
 {
-    const WindowSizes windows(QDir(m_root).filePath(windowFolder()), windowFolder(), m_findings);
+    const WindowPlaces windows(QDir(m_root).filePath(windowFolder()), windowFolder(), m_findings);
     const Census census(censusFile(), read(censusFile()), m_findings);
     BubbleCheck bubble;
     for (const Lesson &lesson : qAsConst(m_lessons)) {

@@ -1,19 +1,19 @@
 #include "lesson-check/StepCheck.h"
 
 #include "lesson-check/Condition.h"
+#include "lesson-check/Spot.h"
 
 #include <QPoint>
 #include <QRegularExpression>
 
-namespace {
+#include <algorithm>
 
-/// From the bubble's top left corner to the tip of its arrow, in pixels.
-constexpr QPoint kTip(38, 150);
+namespace {
 
 class StepChecker
 {
 public:
-    StepChecker(const Lesson &lesson, const WindowSizes &windows)
+    StepChecker(const Lesson &lesson, const WindowPlaces &windows)
         : m_lesson(lesson)
         , m_windows(windows)
     {
@@ -59,15 +59,31 @@ private:
         const QSize size = m_windows.size(m_step->windowKey);
         if (!m_windows.isKnown(m_step->windowKey) || size.isEmpty())
             return;
-        const QPoint tip = QPoint(m_step->x, m_step->y) + kTip;
-        if (tip.x() < 0 || tip.x() >= size.width())
+        const QPoint tip = QPoint(m_step->x, m_step->y) + Spot::kTip;
+        if (tip.x() < 0 || tip.x() >= size.width()) {
             report(x, QStringLiteral("the arrow's tip would be at %1, outside the window's width of %2")
                           .arg(tip.x())
                           .arg(size.width()));
-        if (tip.y() < 0 || tip.y() >= size.height())
+        } else if (tip.y() < 0 || tip.y() >= size.height()) {
             report(y, QStringLiteral("the arrow's tip would be at %1, outside the window's height of %2")
                           .arg(tip.y())
                           .arg(size.height()));
+        } else {
+            checkTarget(tip);
+        }
+    }
+
+    void checkTarget(const QPoint &tip)
+    {
+        const QVector<ControlPlace> controls = m_windows.controls(m_step->windowKey);
+        const auto holds = [&](const ControlPlace &control) {
+            return control.geometry.contains(tip);
+        };
+        if (!controls.isEmpty() && std::none_of(controls.cbegin(), controls.cend(), holds))
+            report(QStringLiteral("x"),
+                   QStringLiteral("the arrow's tip would be at (%1, %2), where the window has no control")
+                       .arg(tip.x())
+                       .arg(tip.y()));
     }
 
     void checkCondition()
@@ -105,14 +121,14 @@ private:
     }
 
     const Lesson &m_lesson;
-    const WindowSizes &m_windows;
+    const WindowPlaces &m_windows;
     const ScenarioStep *m_step = nullptr;
     Findings m_findings;
 };
 
 } // namespace
 
-Findings checkSteps(const Lesson &lesson, const WindowSizes &windows)
+Findings checkSteps(const Lesson &lesson, const WindowPlaces &windows)
 {
     return StepChecker(lesson, windows).run();
 }

@@ -250,6 +250,9 @@ void tst_LessonLibrary::namesTheFinding_data()
         IN_SCENARIO "70: item 5, \"y\": the arrow's tip would be at -1, outside the window's height of 600");
     row("below the window", scenario, "\"y\":100,", "\"y\":450,",
         IN_SCENARIO "70: item 5, \"y\": the arrow's tip would be at 600, outside the window's height of 600");
+    row("arrow that points at nothing", scenario, "\"x\":62,", "\"x\":400,",
+        IN_SCENARIO
+        "53: item 4, \"x\": the arrow's tip would be at (438, 28), where the window has no control");
     row("hint of another number", scenario, "qsTr(\"#3\")", "qsTr(\"#4\")",
         IN_SCENARIO "36: item 3, \"hint\": the hint shows text 4, the translationId says 3");
     row("folder", scenario, "\"folder\":false", "\"folder\":true",
