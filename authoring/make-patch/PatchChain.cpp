@@ -18,7 +18,7 @@ const QDir::Filters kEverything = QDir::AllEntries | QDir::Hidden | QDir::System
 
 } // namespace
 
-PatchChain::PatchChain(QString stepsDirectory, QString patchDirectory, QStringList mayVanish)
+PatchChain::PatchChain(QString stepsDirectory, const QString &patchDirectory, QStringList mayVanish)
     : m_stepsDirectory(std::move(stepsDirectory))
     , m_patchDirectory(QDir::cleanPath(patchDirectory))
     , m_mayVanish(std::move(mayVanish))
@@ -143,7 +143,7 @@ bool PatchChain::makeStep(const Step &step, const QString &directory, QString &e
             return false;
         ++m_patchCount;
         m_patchBytes += patch.size();
-        texts.insert(name, std::move(text));
+        texts.insert(name, text);
     }
     m_texts = std::move(texts);
     return true;

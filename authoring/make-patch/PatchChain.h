@@ -18,7 +18,7 @@ class PatchChain
 public:
     /// Reads from @p stepsDirectory, and writes to @p patchDirectory, which is replaced whole. @p mayVanish
     /// names the data files, as `NAME.json`, that a step may leave out after an earlier one had them.
-    PatchChain(QString stepsDirectory, QString patchDirectory, QStringList mayVanish);
+    PatchChain(QString stepsDirectory, const QString &patchDirectory, QStringList mayVanish);
 
     /// Makes the chain. False, with the reason in @p error and the patch directory as it was, on bad input or
     /// when writing fails. A directory that holds something that is no patch is not replaced.

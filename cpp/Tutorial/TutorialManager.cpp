@@ -146,7 +146,7 @@ QString TutorialManager::getTutorialJson()
         return {};
     }
     QStringList errors;
-    const QString list = m_texts.translateList(QString::fromUtf8(bytes), &errors);
+    QString list = m_texts.translateList(QString::fromUtf8(bytes), &errors);
     if (!errors.isEmpty()) {
         logWarning(kSource, "TutorialManager::getTutorialJson", 1447) << errors;
     }
@@ -269,7 +269,7 @@ void TutorialManager::setLocale2(const QString &locale)
 QString TutorialManager::getExistsFilename(const QString &relativeName)
 {
     logDebug(kSource, "TutorialManager::getExistsFilename", 1402) << relativeName;
-    const QString path = DataSupport::resourcePath(relativeName);
+    QString path = DataSupport::resourcePath(relativeName);
     logDebug(kSource, "TutorialManager::getExistsFilename", 1405) << path;
     return path;
 }
