@@ -1,0 +1,253 @@
+#include "FakeOverlayHost.h"
+#include "TestIndicator.h"
+#include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/OverlayStyle.h"
+
+#include <QMouseEvent>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QtTest>
+
+namespace {
+
+// A window under the overlays that counts what the mouse does to it.
+class WindowBelow final : public QWidget
+{
+public:
+    int presses = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        Q_UNUSED(event)
+        ++presses;
+    }
+};
+
+QString run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(10000)) {
+        return QStringLiteral("%1 did not end").arg(program);
+    }
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+QString idOf(const QWidget *widget)
+{
+    return QString::number(widget->winId());
+}
+
+void click(const QPoint &at)
+{
+    run(QStringLiteral("xdotool"), {QStringLiteral("mousemove"), QString::number(at.x()),
+                                    QString::number(at.y()), QStringLiteral("click"), QStringLiteral("1")});
+    QCoreApplication::processEvents();
+}
+
+// Where the X server has the window, in root coordinates: Qt's own idea of it may differ.
+QPoint positionOf(const QWidget *widget)
+{
+    const QString info = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), idOf(widget)});
+    const auto number = [&info](const QString &axis) {
+        const QRegularExpression line(QStringLiteral("Absolute upper-left %1: +(-?\\d+)").arg(axis));
+        return line.match(info).captured(1).toInt();
+    };
+    return {number(QStringLiteral("X")), number(QStringLiteral("Y"))};
+}
+
+QString activeWindowId()
+{
+    return run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed();
+}
+
+// The opacity that the X server was told, in 255 steps.
+int opacityStepsOf(const QWidget *widget)
+{
+    const QString property = run(QStringLiteral("xprop"), {QStringLiteral("-id"), idOf(widget),
+                                                           QStringLiteral("_NET_WM_WINDOW_OPACITY")});
+    const QRegularExpressionMatch match = QRegularExpression(QStringLiteral("= (\\d+)")).match(property);
+    return match.hasMatch() ? static_cast<int>(match.captured(1).toULongLong() / 0x01010101U) : 255;
+}
+
+} // namespace
+
+class TestOverlayWindows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void clicksPassThroughTheBubble();
+    void clicksPassThroughTheTooltip();
+    void buttonsTakeTheirClicks();
+    void focusStaysBelow();
+    void bubbleReachesBeyondTheScreen_data();
+    void bubbleReachesBeyondTheScreen();
+    void tooltipReachesBeyondTheScreen();
+    void fadeArrivesWithNothingElseToPaint();
+
+private:
+    void waitUntilClickThrough(QWidget *overlay, const QPoint &spot);
+    void verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots);
+
+    FakeOverlayHost m_host;
+    std::unique_ptr<WindowBelow> m_below;
+    std::unique_ptr<TestIndicator> m_indicator;
+};
+
+void TestOverlayWindows::initTestCase()
+{
+    OverlayStyle::apply();
+}
+
+void TestOverlayWindows::init()
+{
+    m_host = FakeOverlayHost();
+    m_below = std::make_unique<WindowBelow>();
+    m_below->setGeometry(60, 60, 900, 700);
+    m_below->show();
+    m_below->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_below.get()));
+    m_indicator = std::make_unique<TestIndicator>(&m_host);
+}
+
+void TestOverlayWindows::cleanup()
+{
+    delete m_host.tooltip;
+    m_indicator.reset();
+    m_below.reset();
+}
+
+// The window manager may be a moment behind; from the first click that arrives on, all must.
+void TestOverlayWindows::waitUntilClickThrough(QWidget *overlay, const QPoint &spot)
+{
+    QVERIFY(QTest::qWaitForWindowExposed(overlay));
+    m_below->presses = 0;
+    const auto arrived = [this] {
+        return m_below->presses > 0;
+    };
+    QTRY_VERIFY((click(overlay->mapToGlobal(spot)), QTest::qWaitFor(arrived, 500)));
+    m_below->presses = 0;
+}
+
+void TestOverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots)
+{
+    for (int round = 0; round < 3; ++round) {
+        waitUntilClickThrough(overlay, spots.first());
+        int clicks = 0;
+        for (const QPoint &spot : spots) {
+            click(overlay->mapToGlobal(spot));
+            ++clicks;
+            QTRY_COMPARE(m_below->presses, clicks);
+        }
+        overlay->hide();
+        QTRY_VERIFY(!overlay->windowHandle()->isExposed());
+        overlay->show();
+    }
+}
+
+void TestOverlayWindows::clicksPassThroughTheBubble()
+{
+    m_indicator->setHint(QStringLiteral("Click through this text."));
+    m_indicator->setTargetWindowOffset(200, 200, QString(), true);
+    m_indicator->showTooltip();
+    m_indicator->tick(60);
+    const QRect text = m_indicator->textEdit()->geometry();
+    verifyPassesThrough(m_indicator->tooltip(),
+                        {text.center(), {64, 64}, {150, 20}, {500, 400}, text.topLeft()});
+}
+
+void TestOverlayWindows::clicksPassThroughTheTooltip()
+{
+    EditorTooltip::show(&m_host, QStringLiteral("Click through this tooltip"), 400, 300);
+    m_host.tooltip->setWindowOpacity(1.0);
+    verifyPassesThrough(m_host.tooltip, {{10, 10}, {60, 12}, {200, 200}});
+}
+
+void TestOverlayWindows::buttonsTakeTheirClicks()
+{
+    m_indicator->setTargetWindowOffset(200, 200, QString(), true);
+    m_indicator->init(false, true);
+    m_indicator->showTooltip();
+    m_indicator->tick(60);
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::yes()));
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no()));
+    waitUntilClickThrough(m_indicator->tooltip(), {500, 400});
+    // No stands 56 pixels to the right and lies above the last 8 of Yes.
+    click(positionOf(TestIndicator::yes()) + QPoint(20, 16));
+    QTRY_COMPARE(m_host.sent, QStringList(QStringLiteral("yes")));
+    click(positionOf(TestIndicator::no()) + QPoint(40, 16));
+    QTRY_COMPARE(m_host.sent, QStringList({QStringLiteral("yes"), QStringLiteral("no")}));
+    QCOMPARE(m_below->presses, 0);
+}
+
+void TestOverlayWindows::focusStaysBelow()
+{
+    QTRY_COMPARE(activeWindowId(), idOf(m_below.get()));
+    m_indicator->setHint(QStringLiteral("Here"));
+    m_indicator->init(true, true);
+    m_indicator->showTooltip();
+    EditorTooltip::show(&m_host, QStringLiteral("There"), 400, 300);
+    QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip()));
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
+    QCOMPARE(activeWindowId(), idOf(m_below.get()));
+    QCOMPARE(QApplication::activeWindow(), m_below.get());
+}
+
+void TestOverlayWindows::bubbleReachesBeyondTheScreen_data()
+{
+    QTest::addColumn<QPoint>("target");
+    QTest::newRow("right") << QPoint(880, 300);
+    QTest::newRow("bottom") << QPoint(300, 800);
+    QTest::newRow("both") << QPoint(880, 800);
+    QTest::newRow("left") << QPoint(-80, 300);
+}
+
+void TestOverlayWindows::bubbleReachesBeyondTheScreen()
+{
+    QFETCH(QPoint, target);
+    m_host.rect = QRect(QPoint(0, 0), QGuiApplication::primaryScreen()->size());
+    m_indicator->setTargetWindowOffset(target.x(), target.y(), QString(), true);
+    m_indicator->tick(80);
+    const QPoint rest(m_indicator->state("lastX").toInt(), m_indicator->state("lastY").toInt());
+    QVERIFY((rest - target).manhattanLength() <= 6);
+    for (int round = 0; round < 3; ++round) {
+        m_indicator->showTooltip();
+        QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip()));
+        QTRY_COMPARE(positionOf(m_indicator->tooltip()), rest);
+        QCOMPARE(m_indicator->state("tooltipX").toInt(), rest.x());
+        QCOMPARE(m_indicator->state("tooltipY").toInt(), rest.y());
+        m_indicator->hideTooltip();
+        QTRY_VERIFY(!m_indicator->tooltip()->windowHandle()->isExposed());
+    }
+}
+
+void TestOverlayWindows::tooltipReachesBeyondTheScreen()
+{
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    const QPoint point(screen.width() - 60, screen.height() - 40);
+    EditorTooltip::show(&m_host, QStringLiteral("At the edge"), point.x(), point.y());
+    const QWidget *const text = m_host.tooltip->findChild<QTextEdit *>();
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
+    QTRY_COMPARE(positionOf(m_host.tooltip), point - QPoint(text->width() / 2, text->height() / 2));
+}
+
+void TestOverlayWindows::fadeArrivesWithNothingElseToPaint()
+{
+    EditorTooltip::show(&m_host, QStringLiteral("Fading in"), 400, 300);
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
+    QCOMPARE(opacityStepsOf(m_host.tooltip), 0);
+    QTRY_COMPARE(opacityStepsOf(m_host.tooltip), 255);
+    EditorTooltip::show(&m_host, QString(), 400, 300);
+    QTRY_COMPARE(opacityStepsOf(m_host.tooltip), 0);
+}
+
+QTEST_MAIN(TestOverlayWindows)
+#include "tst_OverlayWindows.moc"
