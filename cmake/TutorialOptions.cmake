@@ -36,6 +36,16 @@ if(TUTORIAL_CLAZY)
         "SHELL:-Xclang -plugin-arg-clazy -Xclang level1")
 endif()
 
+# AUTOMOC looks for Q_OBJECT again when the target's own CMakeLists.txt changes, but not when a folder below adds sources
+# to the target. This makes it look. Call it when all sources are there.
+function(tutorial_watch_sources target)
+    get_target_property(sources ${target} SOURCES)
+    if(NOT sources STREQUAL "${${target}_WATCHED_SOURCES}")
+        set(${target}_WATCHED_SOURCES "${sources}" CACHE INTERNAL "The sources that AUTOMOC has seen")
+        file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+    endif()
+endfunction()
+
 # Whether a target links a library, itself or through others.
 function(tutorial_links result target library)
     set(open ${target})
@@ -60,16 +70,15 @@ function(tutorial_links result target library)
     set(${result} FALSE PARENT_SCOPE)
 endfunction()
 
-# Qt's headers, compiled once for every target of ours that uses windows and sockets (with other modules the macros
-# differ, and the compiler refuses). For whole builds: with it a file that lacks an include still compiles, so the
+# Qt's headers, compiled once for every target of ours that uses widgets (without them the macros differ, and the
+# compiler refuses). For whole builds: with it a file that lacks an include still compiles, so the
 # release build goes without. Call it when all targets are there.
 function(tutorial_precompile_headers)
-    set(modules Qt5::Widgets Qt5::Network)
     file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
     add_library(tutorial_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
     set_target_properties(tutorial_precompiled PROPERTIES AUTOMOC OFF)
-    target_link_libraries(tutorial_precompiled PRIVATE tutorial_options ${modules})
-    target_precompile_headers(tutorial_precompiled PRIVATE <QtWidgets> <QtNetwork>)
+    target_link_libraries(tutorial_precompiled PRIVATE tutorial_options Qt5::Widgets)
+    target_precompile_headers(tutorial_precompiled PRIVATE <QtWidgets>)
 
     set(folders "${CMAKE_SOURCE_DIR}")
     while(folders)
@@ -82,14 +91,9 @@ function(tutorial_precompile_headers)
             if(target STREQUAL "tutorial_precompiled" OR NOT type MATCHES "EXECUTABLE|STATIC_LIBRARY|OBJECT_LIBRARY")
                 continue()
             endif()
-            set(fits TRUE)
-            foreach(needed IN ITEMS tutorial_options ${modules})
-                tutorial_links(links ${target} ${needed})
-                if(NOT links)
-                    set(fits FALSE)
-                endif()
-            endforeach()
-            if(fits)
+            tutorial_links(is_ours ${target} tutorial_options)
+            tutorial_links(has_widgets ${target} Qt5::Widgets)
+            if(is_ours AND has_widgets)
                 target_precompile_headers(${target} REUSE_FROM tutorial_precompiled)
             endif()
         endforeach()
