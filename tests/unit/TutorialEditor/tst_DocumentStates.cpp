@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kSequences = 150;
+constexpr int kSequences = 100;
 constexpr int kSteps = 120;
 
 /// Runs the same random steps on the document and on the model of it.

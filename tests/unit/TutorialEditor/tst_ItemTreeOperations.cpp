@@ -445,6 +445,8 @@ void tst_ItemTreeOperations::copySubtreeGivesNewNumbersAndANewName()
     }
     QCOMPARE(fixture.shape(), QStringLiteral("1 3 2 4"));
     QVERIFY(!fixture.undoRedo().canUndo());
+    delete fixture.tree()->items.takeLast();
+    delete fixture.tree()->items.takeLast();
 }
 
 void tst_ItemTreeOperations::copySubtreeLeavesTheNodesOfChildrenBehind()
