@@ -180,6 +180,681 @@
     </message>
   </context>
   <context>
+    <name>Tutorial</name>
+    <message>
+      <source>#1</source>
+      <translation>Mila</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Slash</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Cloth cap</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>A cap that keeps the sun off.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Traveler</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>The lamp of Amberfield has burned for a hundred years.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Last night, it went out.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Slime</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Herb</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Restores 30 HP to one ally.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Sign</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Amberfield</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Travelers are welcome.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Forest path</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Strike</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>A strong blow to one enemy.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation> strikes hard!</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Fainted</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation> has fainted!</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation> has been defeated!</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation> wakes up!</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Game started</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Village and forest</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>One slime</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Wooden sword</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>A sword for practice. Better than nothing.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Pip</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Good morning, Mila!</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>The lamp is out. It was so dark last night!</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Tonic</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Wakes up an ally who has fainted.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Door</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Way out</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Treasure chest</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Mila found a herb!</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Mila's house</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Inside</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>A herb! Keep it for the road.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>The chest is empty.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Herb found</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Elder</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Somebody has taken our Dawn Lamp.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Will you look for it?</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Yes</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Not yet</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Thank you, Mila. Ask in the village first.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Come back when you are ready.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>We are counting on you.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Elder asked for help</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Toma</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Travel cloak</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Warm, light and waterproof.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Guardian</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>You are leaving? Then I will come with you.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Bread</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Restores 10 HP to one ally. Freshly baked.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Shop door</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Inn door</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Bruno</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Welcome! Have a look around.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Greta</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>A bed for the night? It costs 10.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Stay</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Leave</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Good morning! Did you sleep well?</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>See you another time.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Shop</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Inn</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Hunting knife</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Short and quick.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>To the forest</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>To the village</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>To the mine</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Back to the forest</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Old mine. Closed. Keep out!</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Mine entrance</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Lever</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>There is a rusty lever.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>Pull it?</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>Pull</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>Leave it</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>Somewhere, a gate opens.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>The lever will not move any more.</translation>
+    </message>
+    <message>
+      <source>#84</source>
+      <translation>Gate</translation>
+    </message>
+    <message>
+      <source>#85</source>
+      <translation>The gate is shut.</translation>
+    </message>
+    <message>
+      <source>#86</source>
+      <translation>Old mine</translation>
+    </message>
+    <message>
+      <source>#87</source>
+      <translation>Gate open</translation>
+    </message>
+    <message>
+      <source>#88</source>
+      <translation>Cave</translation>
+    </message>
+    <message>
+      <source>#89</source>
+      <translation>Sparkle</translation>
+    </message>
+    <message>
+      <source>#90</source>
+      <translation>Spring</translation>
+    </message>
+    <message>
+      <source>#91</source>
+      <translation>You hear water and birds.</translation>
+    </message>
+    <message>
+      <source>#92</source>
+      <translation>Guard</translation>
+    </message>
+    <message>
+      <source>#93</source>
+      <translation>Halt! Who goes there?</translation>
+    </message>
+    <message>
+      <source>#94</source>
+      <translation>All quiet at the south gate.</translation>
+    </message>
+    <message>
+      <source>#95</source>
+      <translation>Second guard</translation>
+    </message>
+    <message>
+      <source>#96</source>
+      <translation>The mine is dangerous. Buy herbs first.</translation>
+    </message>
+    <message>
+      <source>#97</source>
+      <translation>Sena</translation>
+    </message>
+    <message>
+      <source>#98</source>
+      <translation>Sage</translation>
+    </message>
+    <message>
+      <source>#99</source>
+      <translation>I study old lamps. Take me along!</translation>
+    </message>
+    <message>
+      <source>#100</source>
+      <translation>Leather vest</translation>
+    </message>
+    <message>
+      <source>#101</source>
+      <translation>Tough, but easy to move in.</translation>
+    </message>
+    <message>
+      <source>#102</source>
+      <translation>Round shield</translation>
+    </message>
+    <message>
+      <source>#103</source>
+      <translation>Stops blows and small stones.</translation>
+    </message>
+    <message>
+      <source>#104</source>
+      <translation>Antidote</translation>
+    </message>
+    <message>
+      <source>#105</source>
+      <translation>Cures poison.</translation>
+    </message>
+    <message>
+      <source>#106</source>
+      <translation>Torch</translation>
+    </message>
+    <message>
+      <source>#107</source>
+      <translation>Lights up dark places.</translation>
+    </message>
+    <message>
+      <source>#108</source>
+      <translation>Poisoned</translation>
+    </message>
+    <message>
+      <source>#109</source>
+      <translation> is poisoned!</translation>
+    </message>
+    <message>
+      <source>#110</source>
+      <translation> has been poisoned!</translation>
+    </message>
+    <message>
+      <source>#111</source>
+      <translation> suffers from the poison.</translation>
+    </message>
+    <message>
+      <source>#112</source>
+      <translation> is free of the poison!</translation>
+    </message>
+    <message>
+      <source>#113</source>
+      <translation>Iron sword</translation>
+    </message>
+    <message>
+      <source>#114</source>
+      <translation>Heavy, with a sharp edge.</translation>
+    </message>
+    <message>
+      <source>#115</source>
+      <translation>Oak staff</translation>
+    </message>
+    <message>
+      <source>#116</source>
+      <translation>Helps to gather magic.</translation>
+    </message>
+    <message>
+      <source>#117</source>
+      <translation>Bite</translation>
+    </message>
+    <message>
+      <source>#118</source>
+      <translation>Cave bat</translation>
+    </message>
+    <message>
+      <source>#119</source>
+      <translation>Giant rat</translation>
+    </message>
+    <message>
+      <source>#120</source>
+      <translation>Poison cap</translation>
+    </message>
+    <message>
+      <source>#121</source>
+      <translation>Two slimes</translation>
+    </message>
+    <message>
+      <source>#122</source>
+      <translation>Two bats</translation>
+    </message>
+    <message>
+      <source>#123</source>
+      <translation>Rat and mushroom</translation>
+    </message>
+    <message>
+      <source>#124</source>
+      <translation>Shield light</translation>
+    </message>
+    <message>
+      <source>#125</source>
+      <translation>Heal</translation>
+    </message>
+    <message>
+      <source>#126</source>
+      <translation>Restores 40 HP to one ally.</translation>
+    </message>
+    <message>
+      <source>#127</source>
+      <translation> calls a gentle light!</translation>
+    </message>
+    <message>
+      <source>#128</source>
+      <translation>Spark</translation>
+    </message>
+    <message>
+      <source>#129</source>
+      <translation>A small flame for one enemy.</translation>
+    </message>
+    <message>
+      <source>#130</source>
+      <translation> throws a spark!</translation>
+    </message>
+    <message>
+      <source>#131</source>
+      <translation>Shield wall</translation>
+    </message>
+    <message>
+      <source>#132</source>
+      <translation>Protects all allies for one turn.</translation>
+    </message>
+    <message>
+      <source>#133</source>
+      <translation> raises the shield!</translation>
+    </message>
+    <message>
+      <source>#134</source>
+      <translation>Poison spores</translation>
+    </message>
+    <message>
+      <source>#135</source>
+      <translation>Poisons one enemy.</translation>
+    </message>
+    <message>
+      <source>#136</source>
+      <translation> scatters spores!</translation>
+    </message>
+    <message>
+      <source>#137</source>
+      <translation>Protected</translation>
+    </message>
+    <message>
+      <source>#138</source>
+      <translation> is protected!</translation>
+    </message>
+    <message>
+      <source>#139</source>
+      <translation> is no longer protected.</translation>
+    </message>
+    <message>
+      <source>#140</source>
+      <translation>Stone warden</translation>
+    </message>
+    <message>
+      <source>#141</source>
+      <translation>Dawn Lamp</translation>
+    </message>
+    <message>
+      <source>#142</source>
+      <translation>The lamp of Amberfield. It is warm to the touch.</translation>
+    </message>
+    <message>
+      <source>#143</source>
+      <translation>The light woke me. Now it is mine.</translation>
+    </message>
+    <message>
+      <source>#144</source>
+      <translation>It belongs to the whole village!</translation>
+    </message>
+    <message>
+      <source>#145</source>
+      <translation>The Dawn Lamp shines again!</translation>
+    </message>
+    <message>
+      <source>#146</source>
+      <translation>Only stones are left.</translation>
+    </message>
+    <message>
+      <source>#147</source>
+      <translation>Rockfall</translation>
+    </message>
+    <message>
+      <source>#148</source>
+      <translation>Stones hit all enemies.</translation>
+    </message>
+    <message>
+      <source>#149</source>
+      <translation> makes the ceiling shake!</translation>
+    </message>
+    <message>
+      <source>#150</source>
+      <translation>Warden defeated</translation>
+    </message>
+    <message>
+      <source>#151</source>
+      <translation>The stone warden</translation>
+    </message>
+    <message>
+      <source>#152</source>
+      <translation>Crystal beetle</translation>
+    </message>
+    <message>
+      <source>#153</source>
+      <translation>Asleep</translation>
+    </message>
+    <message>
+      <source>#154</source>
+      <translation> falls asleep!</translation>
+    </message>
+    <message>
+      <source>#155</source>
+      <translation> has been put to sleep!</translation>
+    </message>
+    <message>
+      <source>#156</source>
+      <translation> is sleeping.</translation>
+    </message>
+    <message>
+      <source>#157</source>
+      <translation> wakes with a start!</translation>
+    </message>
+    <message>
+      <source>#158</source>
+      <translation>Beetle and bat</translation>
+    </message>
+    <message>
+      <source>#159</source>
+      <translation>And so the lamp burns once more in Amberfield.</translation>
+    </message>
+    <message>
+      <source>#160</source>
+      <translation>The end. Thank you for playing!</translation>
+    </message>
+    <message>
+      <source>#161</source>
+      <translation>To the hilltop</translation>
+    </message>
+    <message>
+      <source>#162</source>
+      <translation>Back to the village</translation>
+    </message>
+    <message>
+      <source>#163</source>
+      <translation>Lamp scene</translation>
+    </message>
+    <message>
+      <source>#164</source>
+      <translation>Look, you can see the whole village from here.</translation>
+    </message>
+    <message>
+      <source>#165</source>
+      <translation>And it is bright again.</translation>
+    </message>
+    <message>
+      <source>#166</source>
+      <translation>You have brought the light home.</translation>
+    </message>
+    <message>
+      <source>#167</source>
+      <translation>Hilltop</translation>
+    </message>
+    <message>
+      <source>#168</source>
+      <translation>Lamp returned</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>

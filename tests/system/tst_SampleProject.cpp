@@ -1,0 +1,341 @@
+#include "FakeHost.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+/// The sample project of the lessons, from its source files to what the host editor gets.
+class tst_SampleProject : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void has_a_step_for_each_lesson_from_the_second();
+    void steps_only_grow();
+    void numbers_entries_by_their_places();
+    void writes_texts_as_numbers_only();
+    void uses_each_text_of_the_catalogues_data();
+    void uses_each_text_of_the_catalogues();
+    void reaches_the_host_whole_and_in_its_language_data();
+    void reaches_the_host_whole_and_in_its_language();
+};
+
+namespace {
+
+const QString kSource = QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset");
+constexpr int kFirstStep = 2;
+constexpr int kLastStep = 19;
+
+/// Data files by name.
+using Files = QMap<QString, QJsonDocument>;
+
+QString stepName(int step)
+{
+    return QStringLiteral("step%1").arg(step);
+}
+
+Files readStep(int step)
+{
+    Files files;
+    const QDir directory(QStringLiteral("%1/%2/data").arg(kSource, stepName(step)));
+    const QStringList names = directory.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
+        QFile file(directory.filePath(name));
+        if (file.open(QIODevice::ReadOnly)) {
+            files.insert(name, QJsonDocument::fromJson(file.readAll()));
+        }
+    }
+    return files;
+}
+
+QJsonValue root(const QJsonDocument &document)
+{
+    return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+}
+
+bool isNumber(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral("^#\\d+$"));
+    return number.match(text).hasMatch();
+}
+
+/// The value with @p change made to each string in it.
+template<typename Change>
+QJsonValue changed(const QJsonValue &value, const Change &change)
+{
+    if (value.isString()) {
+        return change(value.toString());
+    }
+    if (value.isArray()) {
+        QJsonArray array;
+        const QJsonArray old = value.toArray();
+        for (const QJsonValue &element : old) {
+            array.append(changed(element, change));
+        }
+        return array;
+    }
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            it.value() = changed(it.value(), change);
+        }
+        return object;
+    }
+    return value;
+}
+
+QSet<QString> numbersIn(const QJsonValue &value)
+{
+    QSet<QString> numbers;
+    changed(value, [&numbers](const QString &text) {
+        if (isNumber(text)) {
+            numbers.insert(text);
+        }
+        return text;
+    });
+    return numbers;
+}
+
+/// The strings that a person who makes a game reads: names, descriptions, messages and notes, and what event
+/// commands say.
+QStringList readableTexts(const QJsonValue &value)
+{
+    static const QRegularExpression textKey(QStringLiteral("^(name|description|note|message\\d)$"));
+    QStringList texts;
+    if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue &element : array) {
+            texts += readableTexts(element);
+        }
+        return texts;
+    }
+    const QJsonObject object = value.toObject();
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        if (textKey.match(it.key()).hasMatch()) {
+            texts.append(it.value().toString());
+        } else {
+            texts += readableTexts(it.value());
+        }
+    }
+    const QJsonArray parameters = object.value(QStringLiteral("parameters")).toArray();
+    switch (object.value(QStringLiteral("code")).toInt()) {
+    case 101:
+        texts.append(parameters.at(4).toString());
+        break;
+    case 102:
+        texts += parameters.at(0).toVariant().toStringList();
+        break;
+    case 401:
+    case 405:
+        texts.append(parameters.at(0).toString(QStringLiteral("no text")));
+        break;
+    case 402:
+        texts.append(parameters.at(1).toString(QStringLiteral("no text")));
+        break;
+    default:
+        break;
+    }
+    return texts;
+}
+
+/// The sample project's texts in the catalogue, by their numbers.
+QMap<QString, QString> catalogue(const QString &locale)
+{
+    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/translations/%1.ts").arg(locale));
+    QMap<QString, QString> texts;
+    if (!file.open(QIODevice::ReadOnly)) {
+        return texts;
+    }
+    QXmlStreamReader xml(&file);
+    QString context;
+    QString source;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement()) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("source")) {
+            source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation") && context == QLatin1String("Tutorial")) {
+            texts.insert(source, xml.readElementText());
+        }
+    }
+    return texts;
+}
+
+void addLocales()
+{
+    QTest::addColumn<QString>("locale");
+    for (const char *locale : {"en_US", "ja_JP", "zh_CN"}) {
+        QTest::newRow(locale) << QString::fromLatin1(locale);
+    }
+}
+
+/// What the program answers to the request for a step.
+QString replyOf(FakeHost &host, int step)
+{
+    const int before = host.payloads().size();
+    host.send({QStringLiteral("requestPresetData"), stepName(step)});
+    return host.waitForPayloads(before + 1) ? host.payloads().constLast() : QString();
+}
+
+} // namespace
+
+void tst_SampleProject::has_a_step_for_each_lesson_from_the_second()
+{
+    const QStringList found =
+        QDir(kSource).entryList({QStringLiteral("step*")}, QDir::Dirs | QDir::NoDotAndDotDot);
+    QCOMPARE(found.size(), kLastStep - kFirstStep + 1);
+    const QStringList needed = {
+        QStringLiteral("Actors.json"),   QStringLiteral("Animations.json"),   QStringLiteral("Armors.json"),
+        QStringLiteral("Classes.json"),  QStringLiteral("CommonEvents.json"), QStringLiteral("Enemies.json"),
+        QStringLiteral("Items.json"),    QStringLiteral("Map001.json"),       QStringLiteral("MapInfos.json"),
+        QStringLiteral("Skills.json"),   QStringLiteral("States.json"),       QStringLiteral("System.json"),
+        QStringLiteral("Tilesets.json"), QStringLiteral("Troops.json"),       QStringLiteral("Weapons.json")};
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const Files files = readStep(step);
+        for (const QString &name : needed) {
+            QVERIFY2(files.contains(name), qPrintable(stepName(step) + QLatin1Char(' ') + name));
+        }
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            QVERIFY2(!file.value().isNull(), qPrintable(stepName(step) + QLatin1Char(' ') + file.key()));
+        }
+    }
+}
+
+void tst_SampleProject::steps_only_grow()
+{
+    for (int step = kFirstStep + 1; step <= kLastStep; ++step) {
+        const Files before = readStep(step - 1);
+        const Files files = readStep(step);
+        bool grows = files.size() > before.size();
+        for (auto file = before.begin(); file != before.end(); ++file) {
+            const QJsonDocument now = files.value(file.key());
+            QVERIFY2(now.array().size() >= file.value().array().size(), qPrintable(file.key()));
+            grows = grows || now != file.value();
+        }
+        QVERIFY2(grows, qPrintable(stepName(step)));
+    }
+}
+
+void tst_SampleProject::numbers_entries_by_their_places()
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const Files files = readStep(step);
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            const QJsonArray entries = file.value().isArray()
+                                           ? file.value().array()
+                                           : file.value().object().value(QStringLiteral("events")).toArray();
+            if (file.key() == QLatin1String("System.json")) {
+                continue;
+            }
+            QVERIFY2(!entries.isEmpty() && entries.at(0).isNull(), qPrintable(file.key()));
+            for (int id = 1; id < entries.size(); ++id) {
+                QCOMPARE(entries.at(id).toObject().value(QStringLiteral("id")).toInt(), id);
+            }
+        }
+        const QJsonArray maps = files.value(QStringLiteral("MapInfos.json")).array();
+        for (int id = 1; id < maps.size(); ++id) {
+            const QJsonObject map =
+                files.value(QStringLiteral("Map%1.json").arg(id, 3, 10, QLatin1Char('0'))).object();
+            QCOMPARE(map.value(QStringLiteral("data")).toArray().size(),
+                     3 * map.value(QStringLiteral("width")).toInt() *
+                         map.value(QStringLiteral("height")).toInt());
+        }
+    }
+}
+
+void tst_SampleProject::writes_texts_as_numbers_only()
+{
+    int count = 0;
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const Files files = readStep(step);
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            const QStringList texts = readableTexts(root(file.value()));
+            for (const QString &text : texts) {
+                QVERIFY2(text.isEmpty() || isNumber(text), qPrintable(file.key() + QLatin1Char(' ') + text));
+                count += int(!text.isEmpty());
+            }
+        }
+    }
+    QVERIFY(count > 0);
+}
+
+void tst_SampleProject::uses_each_text_of_the_catalogues_data()
+{
+    addLocales();
+}
+
+void tst_SampleProject::uses_each_text_of_the_catalogues()
+{
+    QFETCH(QString, locale);
+    QSet<QString> used;
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const Files files = readStep(step);
+        for (const QJsonDocument &file : files) {
+            used += numbersIn(root(file));
+        }
+    }
+    QSet<QString> consecutive;
+    for (int number = 1; number <= used.size(); ++number) {
+        consecutive.insert(QStringLiteral("#%1").arg(number));
+    }
+    QCOMPARE(used, consecutive);
+    const QMap<QString, QString> texts = catalogue(locale);
+    const QStringList numbers = texts.keys();
+    QCOMPARE(QSet<QString>(numbers.begin(), numbers.end()), used);
+    for (const QString &text : texts) {
+        QVERIFY(!text.isEmpty() && !text.contains(QLatin1Char('#')));
+    }
+}
+
+void tst_SampleProject::reaches_the_host_whole_and_in_its_language_data()
+{
+    addLocales();
+}
+
+void tst_SampleProject::reaches_the_host_whole_and_in_its_language()
+{
+    QFETCH(QString, locale);
+    const QMap<QString, QString> texts = catalogue(locale);
+    FakeHost host;
+    QProcessEnvironment environment = host.process().processEnvironment();
+    environment.insert(QStringLiteral("QT_MESSAGE_PATTERN"), QStringLiteral("%{type}: %{message}"));
+    host.process().setProcessEnvironment(environment);
+    QVERIFY(host.start(locale));
+    QVERIFY(host.sync());
+    const int loggedAtStart = host.log().size();
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const QString prefix = QStringLiteral("feedbackPresetData\x01");
+        const QString reply = replyOf(host, step);
+        QVERIFY2(reply.startsWith(prefix), qPrintable(stepName(step)));
+        const QJsonObject sent = QJsonDocument::fromJson(reply.mid(prefix.size()).toUtf8()).object();
+        const Files files = readStep(step);
+        QCOMPARE(sent.size(), files.size());
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            const QJsonValue expected = changed(root(file.value()), [&texts](const QString &text) {
+                return isNumber(text) ? texts.value(text) : text;
+            });
+            const QString name = QStringLiteral("data/") + file.key();
+            QVERIFY2(sent.contains(name), qPrintable(name));
+            QCOMPARE(root(QJsonDocument::fromJson(sent.value(name).toString().toUtf8())), expected);
+        }
+    }
+    QVERIFY(host.sync());
+    const QStringList lines = host.log().mid(loggedAtStart).split(QLatin1Char('\n'));
+    QVERIFY(!lines.filter(QRegularExpression(QStringLiteral("^debug: "))).isEmpty());
+    QCOMPARE(lines.filter(QRegularExpression(QStringLiteral("^(warning|critical): "))), QStringList());
+}
+
+QTEST_GUILESS_MAIN(tst_SampleProject)
+#include "tst_SampleProject.moc"
