@@ -80,7 +80,7 @@ public:
     [[nodiscard]] QString ids()
     {
         QStringList numbers;
-        for (const TutorialItemData *data : tree()->items) {
+        for (const TutorialItemData *data : qAsConst(tree()->items)) {
             numbers << QString::number(data->id);
         }
         return numbers.join(QLatin1Char(' '));

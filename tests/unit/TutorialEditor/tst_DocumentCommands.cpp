@@ -94,8 +94,8 @@ void tst_DocumentCommands::insertWithoutItsParentIsLogged()
     LogCapture log;
     insertTreeItem(77, -1, 9, data, QString(), {});
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().first().contains(QStringLiteral("InsertTreeItemCommand::redo 71 ")));
-    QVERIFY(log.warnings().first().endsWith(QStringLiteral("77 9")));
+    QVERIFY(log.warnings().constFirst().contains(QStringLiteral("InsertTreeItemCommand::redo 71 ")));
+    QVERIFY(log.warnings().constFirst().endsWith(QStringLiteral("77 9")));
     fixture.undoRedo().undo();
 }
 

@@ -344,7 +344,7 @@ void tst_ItemTreeOperations::createFromJsonLeavesOutAChildWithoutId()
              (QStringList{QStringLiteral("Item 2, child 2 is left out: it is no object with an \"id\""),
                           QStringLiteral("Item 2, child 3 is left out: it is no object with an \"id\"")}));
     QCOMPARE(log.warnings().size(), 2);
-    QVERIFY(log.warnings().first().contains(
+    QVERIFY(log.warnings().constFirst().contains(
         QStringLiteral("TutorialItemData::fromJson 329 \"m_object doesn't have key: id\"")));
     qDeleteAll(items);
 }
@@ -383,7 +383,7 @@ void tst_ItemTreeOperations::createFromJsonRefusesWhatItCannotRead()
     QCOMPARE(items, QList<TutorialItemData *>{&present});
     QCOMPARE(errors, QStringList{error});
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY2(log.warnings().first().contains(warning), qPrintable(log.warnings().first()));
+    QVERIFY2(log.warnings().constFirst().contains(warning), qPrintable(log.warnings().constFirst()));
 }
 
 void tst_ItemTreeOperations::toJsonPutsTheChildrenOfAFolderLast()

@@ -191,8 +191,9 @@ void tst_Manager::aFileThatDoesNotOpenLeavesTheItems()
     QCOMPARE(fixture.shape(), QStringLiteral("5"));
     QCOMPARE(fixture.document.fileName(), missing);
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().first().contains(QStringLiteral("TutorialEditor::Manager::setContents 307 ")));
-    QVERIFY(log.warnings().first().contains(missing));
+    QVERIFY(
+        log.warnings().constFirst().contains(QStringLiteral("TutorialEditor::Manager::setContents 307 ")));
+    QVERIFY(log.warnings().constFirst().contains(missing));
     QCOMPARE(fixture.document.save(), QString());
     QCOMPARE(fixture.document.setContents(missing), QStringList());
     QCOMPARE(fixture.shape(), QStringLiteral("5"));
@@ -444,8 +445,8 @@ void tst_Manager::aFailedSaveIsReportedAndStaysModified()
     QCOMPARE(fixture.document.save(), QStringLiteral("Failed to save."));
     QVERIFY(fixture.host.modified);
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY2(log.warnings().first().contains(QStringLiteral("DataSupport::writeFile 1")),
-             qPrintable(log.warnings().first()));
+    QVERIFY2(log.warnings().constFirst().contains(QStringLiteral("DataSupport::writeFile 1")),
+             qPrintable(log.warnings().constFirst()));
 }
 
 void tst_Manager::theLibraryIsInTheFormOfTheWriter()

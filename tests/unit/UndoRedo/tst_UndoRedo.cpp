@@ -103,7 +103,7 @@ void tst_UndoRedo::constructionIsLoggedAsAWarning()
     LogCapture log;
     const UndoRedo undoRedo;
     QCOMPARE(log.warnings().size(), 1);
-    const QString warning = log.warnings().first();
+    const QString warning = log.warnings().constFirst();
     QVERIFY2(
         warning.startsWith(line("UndoRedo", 34, QStringLiteral("\"Tutorial\" \"%1").arg(QDir::tempPath()))),
         qPrintable(warning));

@@ -63,7 +63,7 @@ void tst_TranslationOutput::theSecondIsNotTriedWhenTheFirstFails()
     QVERIFY(QDir().mkdir(blocked));
     LogCapture log;
     QVERIFY(!output().save(QStringLiteral("ja_JP"), QStringLiteral("en_US")));
-    QCOMPARE(log.warnings().last(), failure(1857, blocked));
+    QCOMPARE(log.warnings().constLast(), failure(1857, blocked));
     QVERIFY(!QFile::exists(path(QStringLiteral("translations/en_US.ts"))));
 }
 
@@ -73,7 +73,7 @@ void tst_TranslationOutput::theFirstStaysWhenTheSecondFails()
     QVERIFY(QDir().mkdir(blocked));
     LogCapture log;
     QVERIFY(!output().save(QStringLiteral("ja_JP"), QStringLiteral("en_US")));
-    QCOMPARE(log.warnings().last(), failure(1863, blocked));
+    QCOMPARE(log.warnings().constLast(), failure(1863, blocked));
     QVERIFY(QFile::exists(path(QStringLiteral("translations/ja_JP.ts"))));
 }
 
@@ -81,7 +81,7 @@ void tst_TranslationOutput::theResourceSystemIsReadOnly()
 {
     LogCapture log;
     QVERIFY(!TranslationOutput().save(QStringLiteral("ja_JP"), QStringLiteral("en_US")));
-    QCOMPARE(log.warnings().last(), failure(1857, QStringLiteral(":/translations/ja_JP.ts")));
+    QCOMPARE(log.warnings().constLast(), failure(1857, QStringLiteral(":/translations/ja_JP.ts")));
 }
 
 QTEST_APPLESS_MAIN(tst_TranslationOutput)
