@@ -139,7 +139,7 @@ void tst_TutorialItemData::hint2IsTheTranslationOfTheNumber()
     FixedTranslator translator;
     translator.texts = {{QStringLiteral("Lesson|#4"), QStringLiteral("four")},
                         {QStringLiteral("Lesson|#-1"), QStringLiteral("minus one")},
-                        {QStringLiteral("Lesson|#6"), QStringLiteral("")},
+                        {QStringLiteral("Lesson|#6"), QLatin1String("")},
                         {QStringLiteral("Other|#5"), QStringLiteral("five")}};
     ScenarioTexts texts;
     texts.setContext(QStringLiteral("Lesson"));
