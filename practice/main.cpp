@@ -5,10 +5,13 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLocale>
+#include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 
@@ -27,6 +30,34 @@ int complain(const QString &text)
 {
     std::fprintf(stderr, "PracticeEditor: %s\n", qPrintable(text));
     return 2;
+}
+
+/// Ends of a pipe from the signal handler into the event loop.
+int signalPipe[2] = {-1, -1};
+
+void onSignal(int signal)
+{
+    const auto number = static_cast<char>(signal);
+    // A full pipe holds a signal already.
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &number, 1);
+}
+
+/// Ends the program in good order when it is interrupted or terminated: the companion hears "bye", and no
+/// socket file stays behind.
+void endOnSignals(QApplication *application)
+{
+    if (::pipe(signalPipe) != 0) {
+        return;
+    }
+    auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, application);
+    QObject::connect(notifier, &QSocketNotifier::activated, application, [] {
+        char number = 0;
+        if (::read(signalPipe[0], &number, 1) == 1) {
+            QApplication::exit(128 + number);
+        }
+    });
+    std::signal(SIGINT, onSignal);
+    std::signal(SIGTERM, onSignal);
 }
 
 /// Empty when the options make sense.
@@ -103,6 +134,7 @@ int main(int argc, char **argv)
     PracticeEditor editor(options, std::move(windows));
     QObject::connect(&editor, &PracticeEditor::ended, &application, &QApplication::exit,
                      Qt::QueuedConnection);
+    endOnSignals(&application);
     QString error;
     if (!editor.start(&error)) {
         return complain(error);

@@ -66,9 +66,9 @@ QVector<ControlPlace> WindowPlaces::controls(const QString &windowKey) const
         const Window &part = *m_windows.constFind(other);
         if (windowKey.isEmpty() || part.partOf != windowKey)
             continue;
-        for (ControlPlace control : part.controls) {
-            control.geometry.translate(part.place);
+        for (const ControlPlace &control : part.controls) {
             all.append(control);
+            all.last().geometry.translate(part.place);
         }
     }
     return all;

@@ -16,8 +16,7 @@ struct ScenarioStep;
 /// real buttons. What it knows beyond that is which step is on, to tell when the bubble has arrived and what
 /// text to type.
 ///
-/// A step whose condition does not come true that way is a broken lesson. Needs an X display, xdotool, and
-/// ImageMagick's import for pictures.
+/// A step whose condition does not come true that way is a broken lesson. Needs an X display and xdotool.
 class Pilot : public QObject
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #include "PracticeEditor.h"
 #include "window/EditorWindowSet.h"
 
-#include <QLocalServer>
+#include <QDir>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -53,6 +53,7 @@ class TestPracticeLife : public QObject
 private Q_SLOTS:
     void closingTheEditorEndsTheCompanion();
     void killingTheEditorEndsTheCompanionWithinASecond();
+    void aTerminatedEditorLeavesNothingBehind();
     void aKilledCompanionIsRestartedOnRequest();
     void aMissingCompanionIsSaid();
     void wrongOptionsAreSaid_data();
@@ -117,6 +118,23 @@ void TestPracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
     end(editor.processId(), SIGKILL);
     QTRY_VERIFY_WITH_TIMEOUT(!isAlive(companion), 1000);
     editor.waitForFinished();
+}
+
+void TestPracticeLife::aTerminatedEditorLeavesNothingBehind()
+{
+    const QString key = QStringLiteral("life%1").arg(QCoreApplication::applicationPid());
+    const QString socket = QDir::temp().filePath(QStringLiteral("tkvq") + key);
+    QProcess editor;
+    editor.start(QStringLiteral(PRACTICE_PROGRAM), {QStringLiteral("--key"), key});
+    QVector<qint64> children;
+    QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(editor.processId())).isEmpty(), kSoonMs);
+    QVERIFY(QFile::exists(socket));
+    editor.terminate();
+    QVERIFY(editor.waitForFinished(kSoonMs));
+    QCOMPARE(editor.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(editor.exitCode(), 128 + SIGTERM);
+    QVERIFY(!isAlive(children.constFirst()));
+    QVERIFY(!QFile::exists(socket));
 }
 
 void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
