@@ -14,5 +14,5 @@ struct LoadedTranslator
 
 /// Makes a translator with the catalogue of @p locale from ":/translations". It is not installed: callers log
 /// the result and install it with QCoreApplication::installTranslator, whether or not the catalogue was
-/// found.
+/// found. @p locale may be any text: nothing outside ":/" is read.
 [[nodiscard]] LoadedTranslator loadTranslator(const QString &locale, QObject *parent);

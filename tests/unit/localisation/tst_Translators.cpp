@@ -1,5 +1,8 @@
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
 
@@ -12,7 +15,11 @@ class tst_Translators : public QObject
 private Q_SLOTS:
     void catalogueIsFoundByTheNameOfItsLocale_data();
     void catalogueIsFoundByTheNameOfItsLocale();
+    void unknownLocaleGivesAnEmptyTranslator_data();
     void unknownLocaleGivesAnEmptyTranslator();
+    void longNameIsCutAtItsDelimiters();
+    void fileOutsideTheResourcesIsNotRead();
+    void nameOfMegabytesTakesNoTime();
     void translatorBelongsToTheParentAndIsNotInstalled();
 };
 
@@ -37,13 +44,59 @@ void tst_Translators::catalogueIsFoundByTheNameOfItsLocale()
     QCOMPARE(result.translator->translate("TutorialIndicator", "Next"), next);
 }
 
+void tst_Translators::unknownLocaleGivesAnEmptyTranslator_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::newRow("nobody's") << QStringLiteral("xx_YY");
+    QTest::newRow("for selection only") << QStringLiteral("Raw");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("language only") << QStringLiteral("en");
+    QTest::newRow("the folder itself") << QStringLiteral(".");
+    QTest::newRow("no catalogue") << QStringLiteral("../icon/undo.png");
+    QTest::newRow("device") << QStringLiteral("/dev/zero");
+    QTest::newRow("line feed") << QStringLiteral("en_US\n");
+}
+
 void tst_Translators::unknownLocaleGivesAnEmptyTranslator()
 {
+    QFETCH(QString, locale);
     QObject parent;
-    const LoadedTranslator result = loadTranslator(QStringLiteral("xx_YY"), &parent);
+    const LoadedTranslator result = loadTranslator(locale, &parent);
     QVERIFY(!result.loaded);
     QVERIFY(result.translator != nullptr);
     QVERIFY(result.translator->isEmpty());
+}
+
+void tst_Translators::longNameIsCutAtItsDelimiters()
+{
+    QObject parent;
+    QVERIFY(loadTranslator(QStringLiteral("ja_JP.UTF-8"), &parent).loaded);
+    QVERIFY(loadTranslator(QStringLiteral("ja_JP_") + QString(1000, QLatin1Char('x')), &parent).loaded);
+}
+
+void tst_Translators::fileOutsideTheResourcesIsNotRead()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("ja_JP.qm"));
+    QVERIFY(QFile::copy(QStringLiteral(":/translations/ja_JP.qm"), path));
+    QTranslator direct;
+    QVERIFY(direct.load(path));
+    QObject parent;
+    for (const QString &locale : {path, folder.filePath(QStringLiteral("ja_JP")),
+                                  QStringLiteral("../..") + path, QStringLiteral("../../..") + path}) {
+        const LoadedTranslator result = loadTranslator(locale, &parent);
+        QVERIFY2(!result.loaded, qPrintable(locale));
+        QVERIFY(result.translator->isEmpty());
+    }
+}
+
+void tst_Translators::nameOfMegabytesTakesNoTime()
+{
+    QObject parent;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!loadTranslator(QString(2000000, QLatin1Char('_')), &parent).loaded);
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_Translators::translatorBelongsToTheParentAndIsNotInstalled()
