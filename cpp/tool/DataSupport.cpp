@@ -20,7 +20,8 @@ constexpr qint64 kMostBytes = std::numeric_limits<int>::max() - 64;
 bool DataSupport::readFile(const QString &path, QByteArray &bytes)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // Opening a pipe would wait for someone to write to it.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         logWarning(kSource, "DataSupport::readFile", 133) << "Failed to open" << path;
         return false;
     }

@@ -9,9 +9,9 @@ class DataSupport
 public:
     DataSupport() = delete;
 
-    /// Reads the whole file at @p path into @p bytes; true if every byte came. When the file does not open,
-    /// @p bytes is untouched; when it ends early, @p bytes holds what came, filled up with zero bytes to the
-    /// file's size.
+    /// Reads the whole file at @p path into @p bytes; true if every byte came. When the file does not open
+    /// or @p path is no plain file, @p bytes is untouched; when it ends early, @p bytes holds what came,
+    /// filled up with zero bytes to the file's size.
     static bool readFile(const QString &path, QByteArray &bytes);
 
     /// Creates or truncates the file at @p path and writes @p bytes; true if every byte reached the system.

@@ -8,6 +8,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 QString messageSource()
@@ -36,6 +40,7 @@ private Q_SLOTS:
     void writeIsSilentWhenItSucceeds();
     void readOfMissingFileLeavesBytesAlone();
     void readOfDirectoryFails();
+    void readOfAPipeDoesNotWait();
     void readThatEndsEarlyKeepsTheFilesSize();
     void readsResources();
     void writeToMissingDirectoryFails();
@@ -112,6 +117,25 @@ void tst_DataSupport::readOfDirectoryFails()
     LogCapture log;
     QVERIFY(!DataSupport::readFile(m_directory.path(), bytes));
     QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open")));
+}
+
+void tst_DataSupport::readOfAPipeDoesNotWait()
+{
+    const QString pipe = path(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    const QString link = path(QStringLiteral("link to a pipe"));
+    QVERIFY(QFile::link(pipe, link));
+    // With both ends open here nobody waits, whatever the code under test does.
+    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    QVERIFY(ends >= 0);
+    for (const QString &file : {pipe, link}) {
+        QByteArray bytes("as it was");
+        LogCapture log;
+        QVERIFY(!DataSupport::readFile(file, bytes));
+        QCOMPARE(bytes, QByteArray("as it was"));
+        QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open \"%1\"").arg(file)));
+    }
+    close(ends);
 }
 
 void tst_DataSupport::readThatEndsEarlyKeepsTheFilesSize()
