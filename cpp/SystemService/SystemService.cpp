@@ -17,6 +17,9 @@ namespace {
 
 constexpr const char *kSource = "..\\..\\tutorial\\cpp\\SystemService\\SystemService.cpp";
 
+// Four characters stand for three bytes, and a text takes less than 2^30 characters.
+constexpr qint64 kMostBytesForBase64 = (qint64(1) << 30) / 4 * 3 - 1024;
+
 QString settingText(const QString &key, const QString &fallback = {})
 {
     return QSettings().value(key, fallback).toString();
@@ -146,6 +149,9 @@ QString SystemService::getBase64FromFile(const QString &filename)
     QFile file(filename);
     if (!file.open(QIODevice::ReadOnly)) {
         logWarning(kSource, "SystemService::getBase64FromFile", 214) << "failed to read" << filename;
+        return {};
+    }
+    if (file.size() > kMostBytesForBase64) {
         return {};
     }
     QDataStream stream(&file);

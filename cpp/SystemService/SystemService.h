@@ -44,7 +44,7 @@ public:
     /// The text of the UTF-8 file @p filename; empty, with a warning, when it cannot be opened.
     Q_INVOKABLE static QString loadFile(const QString &filename);
     /// The bytes of the file @p filename in base64; empty when it cannot be opened (with a warning) or when
-    /// not all of its bytes can be read (without).
+    /// not all of its bytes can be read (without), as with more of them than base64 text can hold.
     Q_INVOKABLE static QString getBase64FromFile(const QString &filename);
     Q_INVOKABLE static QString getPlayerPathname();
     Q_INVOKABLE static void setPlayerPathname(const QString &pathname);

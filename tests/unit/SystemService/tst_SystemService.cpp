@@ -69,6 +69,8 @@ private Q_SLOTS:
     void base64OfAllBytes();
     void base64WarnsWhenItCannotOpen();
     void base64OfAShortReadIsEmptyWithoutAMessage();
+    void base64OfAHugeFileIsEmptyWithoutAMessage_data();
+    void base64OfAHugeFileIsEmptyWithoutAMessage();
     void filenameBaseEndsAtTheFirstDot_data();
     void filenameBaseEndsAtTheFirstDot();
 
@@ -302,6 +304,27 @@ void tst_SystemService::base64OfAShortReadIsEmptyWithoutAMessage()
     QVERIFY2(QFileInfo(path).size() > 100, "this test needs a file that is shorter than it says");
     LogCapture log;
     QCOMPARE(SystemService::getBase64FromFile(path), QString());
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_SystemService::base64OfAHugeFileIsEmptyWithoutAMessage_data()
+{
+    QTest::addColumn<qint64>("gigabytes");
+    QTest::newRow("beyond a text") << qint64(1);
+    QTest::newRow("beyond int") << qint64(3);
+    QTest::newRow("beyond unsigned int") << qint64(5);
+}
+
+void tst_SystemService::base64OfAHugeFileIsEmptyWithoutAMessage()
+{
+    QFETCH(qint64, gigabytes);
+    const QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("huge")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.resize(gigabytes << 30)); // a hole: it takes no room
+    file.close();
+    LogCapture log;
+    QCOMPARE(SystemService::getBase64FromFile(file.fileName()), QString());
     QCOMPARE(log.lines(), QStringList());
 }
 
