@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -106,6 +107,32 @@ private:
     std::vector<std::pair<QRegularExpression, QList<QStringList>>> m_patterns;
 };
 
+/// The command with all of @p texts, translated; null, with a warning, when a file is not named as a patch.
+QString replyOf(const FileTexts &texts, const SampleTable &table, const TranslateText &translate)
+{
+    static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
+    const RowFinder rowFinder(table);
+    QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        const QRegularExpressionMatch match = patchPattern.match(it.key());
+        if (!match.hasMatch()) {
+            logWarning(kSource, kFunction, 1050) << "Bad patch name" << it.key();
+            return {};
+        }
+        const QString dataFile = match.captured(1);
+        JsonWrapper wrapper(QString::fromStdString(it.value()));
+        runSampleRows(rowFinder.rowsFor(dataFile), translate, wrapper);
+        if (it != texts.cbegin()) {
+            reply += QLatin1Char(',');
+        }
+        appendJsonString(reply, QStringLiteral("data/%1").arg(dataFile));
+        reply += QLatin1Char(':');
+        appendJsonString(reply, wrapper.toJson(false));
+    }
+    reply += QLatin1Char('}');
+    return texts.isEmpty() ? QString() : reply;
+}
+
 } // namespace
 
 QStringList listPresetSteps(const QString &patchRoot)
@@ -129,7 +156,6 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
                         const SampleTable &table, const TranslateText &translate)
 {
     static const QRegularExpression stepPattern(QStringLiteral("^step(\\d+)$"));
-    static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
 
     if (!stepPattern.match(stepName).hasMatch()) {
         logWarning(kSource, kFunction, 989) << "Failed to get stepNumber" << stepName;
@@ -141,29 +167,12 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
         logWarning(kSource, kFunction, 1001) << "presetData not found" << stepPath << stepName;
         return {};
     }
-    const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
-    if (!texts) {
+    // A patch of a few bytes may ask for more than any text can hold.
+    try {
+        const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
+        return texts ? replyOf(*texts, table, translate) : QString();
+    } catch (const std::bad_alloc &) {
+        logWarning(kSource, kFunction, 1072) << "Not enough memory for the data files of" << stepName;
         return {};
     }
-
-    const RowFinder rowFinder(table);
-    QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
-    for (auto it = texts->cbegin(); it != texts->cend(); ++it) {
-        const QRegularExpressionMatch match = patchPattern.match(it.key());
-        if (!match.hasMatch()) {
-            logWarning(kSource, kFunction, 1050) << "Bad patch name" << it.key();
-            return {};
-        }
-        const QString dataFile = match.captured(1);
-        JsonWrapper wrapper(QString::fromStdString(it.value()));
-        runSampleRows(rowFinder.rowsFor(dataFile), translate, wrapper);
-        if (it != texts->cbegin()) {
-            reply += QLatin1Char(',');
-        }
-        appendJsonString(reply, QStringLiteral("data/%1").arg(dataFile));
-        reply += QLatin1Char(':');
-        appendJsonString(reply, wrapper.toJson(false));
-    }
-    reply += QLatin1Char('}');
-    return texts->isEmpty() ? QString() : reply;
 }

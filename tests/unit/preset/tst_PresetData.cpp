@@ -6,6 +6,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "LogCapture.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/JsonWrapper.h"
@@ -134,6 +139,7 @@ private Q_SLOTS:
     void stepsOfAMissingRoot();
     void badStepNames_data();
     void badStepNames();
+    void missingStepIsReported_data();
     void missingStepIsReported();
     void secondRootIsUsedWithoutTheFirst();
     void firstRootHidesTheSecond();
@@ -147,6 +153,7 @@ private Q_SLOTS:
     void badPatchEndsTheRequest();
     void oversizedPatchEndsTheRequest();
     void unreadableFileEndsTheRequest();
+    void pipeEndsTheRequest();
     void badPatchNameEndsTheRequestBehindThePatches();
     void nothingIsSentForNoFiles();
     void plainFileWithTheNameOfAStep();
@@ -157,6 +164,7 @@ private Q_SLOTS:
     void fileOutsideTheTableIsNotTranslated();
     void textsThatAreNoJson_data();
     void textsThatAreNoJson();
+    void lackOfMemoryEndsTheRequest();
     void unwrittenBytesAreAText();
     void textThatIsNotUtf8IsReplaced();
     void textIsCompactAndEscaped();
@@ -190,6 +198,8 @@ void tst_PresetData::badStepNames_data()
     QTest::newRow("path") << QStringLiteral("step1/../step1");
     QTest::newRow("negative") << QStringLiteral("step-1");
     QTest::newRow("capital") << QStringLiteral("Step1");
+    QTest::newRow("digit beyond Latin") << QStringLiteral("step\uff11");
+    QTest::newRow("list") << QStringLiteral("step1 step1");
 }
 
 void tst_PresetData::badStepNames()
@@ -205,16 +215,31 @@ void tst_PresetData::badStepNames()
     QVERIFY(log.warnings().first().endsWith(QStringLiteral("Failed to get stepNumber \"%1\"").arg(name)));
 }
 
+void tst_PresetData::missingStepIsReported_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("logged");
+    QTest::newRow("another number") << step(2) << step(2);
+    QTest::newRow("same number") << QStringLiteral("step01") << QStringLiteral("step01");
+    QTest::newRow("no number that there is")
+        << QString(QStringLiteral("step") + QString(40, QLatin1Char('9')))
+        << QString(QStringLiteral("step") + QString(40, QLatin1Char('9')));
+    // The end of a line counts as the end of the name.
+    QTest::newRow("line feed") << QStringLiteral("step1\n") << QStringLiteral("step1\\n");
+}
+
 void tst_PresetData::missingStepIsReported()
 {
+    QFETCH(QString, name);
+    QFETCH(QString, logged);
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch("[]"));
     LogCapture log;
-    QVERIFY(program.reply(step(2)).isNull());
-    QCOMPARE(
-        warningTexts(log),
-        QStringList{source() +
-                    QStringLiteral("1001 presetData not found \"%1/step2\" \"step2\"").arg(program.root())});
+    QVERIFY(program.reply(name).isNull());
+    QCOMPARE(warningTexts(log),
+             QStringList{
+                 source() +
+                 QStringLiteral("1001 presetData not found \"%1/%2\" \"%2\"").arg(program.root(), logged)});
 }
 
 void tst_PresetData::secondRootIsUsedWithoutTheFirst()
@@ -371,6 +396,23 @@ void tst_PresetData::unreadableFileEndsTheRequest()
     QVERIFY(log.warnings().last().endsWith(QStringLiteral("Failed to read \"%1\"").arg(path)));
 }
 
+void tst_PresetData::pipeEndsTheRequest()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    const QString pipe = program.path() + QStringLiteral("/pipe");
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    // With both ends open here nobody waits, whatever the code under test does.
+    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    QVERIFY(ends >= 0);
+    const QString path = program.dataPath(step(1)) + QStringLiteral("/B.json-patch");
+    QVERIFY(QFile::link(pipe, path));
+    LogCapture log;
+    QVERIFY(program.reply(step(1)).isNull());
+    QVERIFY(log.contains(QStringLiteral("Failed to read \"%1\"").arg(path)));
+    close(ends);
+}
+
 void tst_PresetData::badPatchNameEndsTheRequestBehindThePatches()
 {
     const ProgramDirectory program;
@@ -509,6 +551,21 @@ void tst_PresetData::textsThatAreNoJson()
     // Each of the two rows of the file complains.
     QCOMPARE(
         warningTexts(log).filter(QStringLiteral("translateArrayKeyText 574 wrapper is not array")).size(), 2);
+}
+
+void tst_PresetData::lackOfMemoryEndsTheRequest()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Items.json-patch"),
+                    insertPatch(R"([{"name":"a","description":"b"}])"));
+    LogCapture log;
+    const QString reply = presetDataReply(
+        step(1), program.path(), buildSampleTable(),
+        [](const QString & /*context*/, const QString & /*text*/) -> QString { throw std::bad_alloc(); });
+    QVERIFY(reply.isNull());
+    QCOMPARE(
+        warningTexts(log),
+        QStringList{source() + QStringLiteral("1072 Not enough memory for the data files of \"step1\"")});
 }
 
 void tst_PresetData::unwrittenBytesAreAText()
