@@ -160,6 +160,10 @@ void EditorTooltip::applyOpacity(double opacity)
 void EditorTooltip::closeEvent(QCloseEvent *event)
 {
     Q_UNUSED(event)
+    if (m_timerId != 0) {
+        killTimer(m_timerId);
+        m_timerId = 0;
+    }
     delete m_textEdit;
     m_textEdit = nullptr;
     m_manager->setEditorTooltip(nullptr);

@@ -15,6 +15,10 @@ TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
     show();
     activateWindow();
     hide();
+    // An X11 window manager answers later than this: it would still activate the window, and Qt would go on
+    // believing that the program is active, or take the focus from the host editor when the window is shown
+    // next. A native window that is gone gets no such answer; the next show makes a new one.
+    destroy();
 }
 
 void TutorialLog::changeEvent(QEvent *event)

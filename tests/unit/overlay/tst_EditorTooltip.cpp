@@ -369,6 +369,7 @@ void TestEditorTooltip::closingForgetsIt()
     QVERIFY(text.isNull());
     QVERIFY(!closed.isNull());
     QVERIFY(closed->isHidden());
+    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(closed).isEmpty());
     QCOMPARE(closed->getSettings().value(QStringLiteral("width")).toInt(), 0);
     show(QStringLiteral("again"));
     QVERIFY(tooltip() != closed);
