@@ -196,6 +196,7 @@ void LessonSession::runCommand(const QString &command)
 {
     const QStringList words = command.split(QLatin1Char(','));
     if (words.size() == 2 && words.constFirst() == QLatin1String("presetData")) {
+        Q_EMIT filesRequested();
         Q_EMIT sends({QStringLiteral("requestPresetData"), words.constLast()});
     } else {
         Q_EMIT problemFound(

@@ -56,6 +56,8 @@ Q_SIGNALS:
     void stepReached();
     /// The lesson was played to its end.
     void finished();
+    /// The companion was asked for data files.
+    void filesRequested();
     /// The data files of a step came, file name to text.
     void filesReceived(const QMap<QString, QString> &files);
     /// The companion has not handed over the lesson that was asked for.

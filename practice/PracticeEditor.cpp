@@ -27,7 +27,6 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_windows(std::move(windows))
     , m_session(m_windows.get())
     , m_panel(options.locale)
-    , m_projects(options.projectsFolder)
     , m_link(options.companionProgram, options.key, options.locale)
 {
     if (options.lesson > 0) {
@@ -46,7 +45,11 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
             m_panel.showSilent();
         }
     });
+    if (!options.projectsFolder.isEmpty()) {
+        m_windows->setProjectsFolder(options.projectsFolder);
+    }
     connectSession();
+    connectProject();
     if (options.pilot) {
         makePilot();
     }
@@ -91,12 +94,20 @@ void PracticeEditor::connectSession()
         m_panel.showFinished();
     });
     connect(&m_session, &LessonSession::refused, &m_panel, &LessonPanel::showRefused);
-    connect(&m_session, &LessonSession::filesReceived, this, [this](const QMap<QString, QString> &files) {
-        QString error;
-        if (!m_projects.create(m_session.lessonName(), files, &error)) {
-            tellPerson(error);
-        }
-    });
+}
+
+void PracticeEditor::connectProject()
+{
+    connect(&m_session, &LessonSession::started, &m_lessonProject, &LessonProject::drop);
+    connect(&m_session, &LessonSession::filesRequested, &m_lessonProject, &LessonProject::begin);
+    connect(&m_session, &LessonSession::filesReceived, &m_lessonProject, &LessonProject::takeFiles);
+    connect(m_windows.get(), &EditorWindows::projectCreated, &m_lessonProject, &LessonProject::takePlace);
+    connect(&m_lessonProject, &LessonProject::made, this,
+            [this](const QString &path, const QMap<QString, QString> &files) {
+                printLine(stdout, QStringLiteral("The project of the lesson stands in %1").arg(path));
+                m_windows->showProject(files);
+            });
+    connect(&m_lessonProject, &LessonProject::failed, this, &PracticeEditor::tellPerson);
 }
 
 void PracticeEditor::makePilot()

@@ -3,7 +3,7 @@
 #include "LessonPanel.h"
 #include "LessonSession.h"
 #include "link/HostLink.h"
-#include "project/ProjectStore.h"
+#include "project/LessonProject.h"
 
 #include <QObject>
 
@@ -28,7 +28,7 @@ public:
         QString companionProgram;
         /// Key of the link; empty for a random one.
         QString key;
-        /// Where the projects of lessons are made.
+        /// Where new projects are offered to go; empty for the windows' own choice.
         QString projectsFolder;
     };
 
@@ -51,6 +51,7 @@ Q_SIGNALS:
 
 private:
     void connectSession();
+    void connectProject();
     void makePilot();
     void onConnected();
     void onLost(const QString &lastWords);
@@ -62,7 +63,7 @@ private:
     std::unique_ptr<EditorWindows> m_windows;
     LessonSession m_session;
     LessonPanel m_panel;
-    ProjectStore m_projects;
+    LessonProject m_lessonProject;
     HostLink m_link;
     Pilot *m_pilot = nullptr;
     /// The lesson to ask for once the companion is there.

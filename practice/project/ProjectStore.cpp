@@ -28,14 +28,16 @@ bool write(const QString &path, const QString &text, QString *error)
 
 } // namespace
 
-ProjectStore::ProjectStore(const QString &folder, QObject *parent)
-    : QObject(parent)
-    , m_folder(folder)
+bool ProjectStore::create(const QString &location, const QString &name, const QMap<QString, QString> &files,
+                          QString *error)
 {
-}
-
-bool ProjectStore::create(const QString &name, const QMap<QString, QString> &files, QString *error)
-{
+    if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
+        *error =
+            QStringLiteral("A project cannot have the name \"%1\": its folder is named after it. Choose a "
+                           "name without \"/\".")
+                .arg(name);
+        return false;
+    }
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (!staysInside(file.key())) {
             *error =
@@ -45,11 +47,11 @@ bool ProjectStore::create(const QString &name, const QMap<QString, QString> &fil
         }
     }
     // Built beside its place and renamed into it.
-    QDir().mkpath(m_folder);
-    QTemporaryDir room(QDir(m_folder).filePath(QStringLiteral(".new-XXXXXX")));
+    QDir().mkpath(location);
+    QTemporaryDir room(QDir(location).filePath(QStringLiteral(".new-XXXXXX")));
     if (!room.isValid()) {
         *error = QStringLiteral("The project's folder cannot be made in \"%1\": %2")
-                     .arg(m_folder, room.errorString());
+                     .arg(location, room.errorString());
         return false;
     }
     for (auto file = files.begin(); file != files.end(); ++file) {
@@ -57,9 +59,9 @@ bool ProjectStore::create(const QString &name, const QMap<QString, QString> &fil
             return false;
         }
     }
-    QString path = QDir(m_folder).filePath(name);
+    QString path = QDir(location).filePath(name);
     for (int number = 2; QFileInfo::exists(path); ++number) {
-        path = QDir(m_folder).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
+        path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
     }
     if (!QDir().rename(room.path(), path)) {
         *error = QStringLiteral("The project's folder \"%1\" cannot be made.").arg(path);

@@ -10,14 +10,15 @@ class ProjectStore : public QObject
     Q_OBJECT
 
 public:
-    /// Projects are made inside @p folder, which need not exist yet.
-    explicit ProjectStore(const QString &folder, QObject *parent = nullptr);
+    using QObject::QObject;
 
-    /// Writes @p files, path inside the project to text, into a new folder named after @p name; where there
-    /// is one already, a number is added: nothing that exists is touched. The folder appears whole or not at
-    /// all. False with a text for the person when a path leads out of the project or a file cannot be
-    /// written; the project that was open stays open.
-    [[nodiscard]] bool create(const QString &name, const QMap<QString, QString> &files, QString *error);
+    /// Writes @p files, path inside the project to text, into a new folder @p name inside of @p location,
+    /// which need not exist yet; where there is such a folder already, a number is added: nothing that exists
+    /// is touched. The folder appears whole or not at all. False with a text for the person when the name is
+    /// none for a folder, a path leads out of the project or a file cannot be written; the project that was
+    /// open stays open.
+    [[nodiscard]] bool create(const QString &location, const QString &name,
+                              const QMap<QString, QString> &files, QString *error);
 
     /// Full path of the open project's folder; empty before the first create().
     [[nodiscard]] QString path() const { return m_path; }
@@ -30,6 +31,5 @@ Q_SIGNALS:
     void changed();
 
 private:
-    QString m_folder;
     QString m_path;
 };

@@ -64,8 +64,9 @@ QStringList EditorProject::fields()
 
 QStringList EditorProject::sources()
 {
-    return {QStringLiteral("maps"), QStringLiteral("tiles"), QStringLiteral("tileTab"),
-            QStringLiteral("tileSets"), QStringLiteral("sampleMaps")};
+    return QStringList{QStringLiteral("maps"), QStringLiteral("tiles"), QStringLiteral("tileTab"),
+                       QStringLiteral("tileSets"), QStringLiteral("sampleMaps")} +
+           ProjectContents::sources();
 }
 
 QStringList EditorProject::pictures()
@@ -138,14 +139,10 @@ void EditorProject::runDialog(const QString &command)
     if (command == QLatin1String("newProject.accept")) {
         m_open = false;
         m_maps.clear();
+        m_names.clear();
         selectMap(-1);
     } else if (command == QLatin1String("newProject.create")) {
-        for (const GameMap &map : std::as_const(m_data.startMaps))
-            m_maps.append({map, {}, {}});
-        selectMap(0);
-        m_name = m_newName;
-        m_open = true;
-        m_modified = false;
+        create();
     } else if (command == QLatin1String("tileSet.choose")) {
         m_draftTileSet = m_draft.tileSet;
     } else if (command == QLatin1String("tileSet.accept")) {
@@ -225,6 +222,10 @@ QVector<EditorProject::Row> EditorProject::rows(const QString &source) const
     } else if (source == QLatin1String("sampleMaps")) {
         for (const GameMap &map : m_data.sampleMaps)
             rows.append({map.name, 0, GameMap::kEmpty});
+    } else {
+        const QStringList names = m_names.value(source);
+        for (const QString &name : names)
+            rows.append({name, 0, GameMap::kEmpty});
     }
     return rows;
 }
@@ -241,7 +242,7 @@ int EditorProject::currentRow(const QString &source) const
         return m_draftTileSet;
     if (source == QLatin1String("sampleMaps"))
         return m_sampleMap;
-    return -1;
+    return m_names.value(source).isEmpty() ? -1 : m_nameRows.value(source);
 }
 
 void EditorProject::setCurrentRow(const QString &source, int row)
@@ -256,6 +257,8 @@ void EditorProject::setCurrentRow(const QString &source, int row)
         m_draftTileSet = qBound(0, row, m_data.tileSets.size() - 1);
     else if (source == QLatin1String("sampleMaps"))
         m_sampleMap = qBound(0, row, m_data.sampleMaps.size() - 1);
+    else if (m_names.contains(source))
+        m_nameRows.insert(source, qBound(0, row, qMax(0, m_names.value(source).size() - 1)));
     Q_EMIT changed();
 }
 
@@ -348,6 +351,35 @@ void EditorProject::addMap(GameMap map)
     m_maps.insert(m_currentMap + 1, {std::move(map), {}, {}});
     selectMap(m_currentMap + 1);
     m_modified = true;
+}
+
+void EditorProject::create()
+{
+    ProjectContents contents;
+    contents.maps = m_data.startMaps;
+    m_name = m_newName;
+    m_open = true;
+    replace(std::move(contents));
+    Q_EMIT created(m_newLocation, m_name);
+}
+
+void EditorProject::show(ProjectContents contents)
+{
+    if (!m_open)
+        return;
+    replace(std::move(contents));
+    Q_EMIT changed();
+}
+
+void EditorProject::replace(ProjectContents contents)
+{
+    m_maps.clear();
+    for (GameMap &map : contents.maps)
+        m_maps.append({std::move(map), {}, {}});
+    m_names = std::move(contents.names);
+    m_nameRows.clear();
+    selectMap(0);
+    m_modified = false;
 }
 
 void EditorProject::swapLayers(QVector<GameMap::Layers> &from, QVector<GameMap::Layers> &to)

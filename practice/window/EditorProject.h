@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/GameMap.h"
+#include "window/ProjectContents.h"
 #include "window/ProjectData.h"
 
 #include <QObject>
@@ -55,6 +56,9 @@ public:
     [[nodiscard]] int currentRow(const QString &source) const;
     void setCurrentRow(const QString &source, int row);
 
+    /// Replaces what the open project holds, and counts as saved; does nothing while none is open.
+    void show(ProjectContents contents);
+
     [[nodiscard]] bool isOpen() const { return m_open; }
     [[nodiscard]] bool isModified() const { return m_modified; }
     [[nodiscard]] QString name() const { return m_name; }
@@ -81,6 +85,8 @@ public:
 Q_SIGNALS:
     /// Anything but cells changed: lists, fields, tools, view.
     void changed();
+    /// The person has made a new project, to stand in the folder @p name inside of @p location. It is open.
+    void created(const QString &location, const QString &name);
     /// Cells of the map on show changed.
     void cellsChanged();
 
@@ -99,6 +105,8 @@ private:
     /// Makes the draft a copy of the map on show, so that the dialog never shows another one.
     void editMap();
     void acceptMap();
+    void create();
+    void replace(ProjectContents contents);
     void addMap(GameMap map);
     void swapLayers(QVector<GameMap::Layers> &from, QVector<GameMap::Layers> &to);
     [[nodiscard]] QString status() const;
@@ -110,6 +118,9 @@ private:
     QString m_name;
     QVector<OpenMap> m_maps;
     int m_currentMap = -1;
+    /// Of the lists that come from data files, by source.
+    QMap<QString, QStringList> m_names;
+    QMap<QString, int> m_nameRows;
     int m_tileTab = 0;
     int m_tile = 0;
     Tool m_tool = Tool::kPencil;

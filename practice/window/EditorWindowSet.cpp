@@ -58,6 +58,7 @@ EditorWindowSet::EditorWindowSet(DescriptionSet descriptions, ProjectData data, 
 {
     build();
     connect(m_project.get(), &EditorProject::changed, this, &EditorWindowSet::updateTitle);
+    connect(m_project.get(), &EditorProject::created, this, &EditorWindows::projectCreated);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive)
             hidePopup();
@@ -202,6 +203,16 @@ QPoint EditorWindowSet::origin(const QString &windowKey) const
 QRect EditorWindowSet::screenRect() const
 {
     return m_main->screen()->geometry();
+}
+
+void EditorWindowSet::setProjectsFolder(const QString &folder)
+{
+    m_project->setField(QStringLiteral("newProject.location"), folder);
+}
+
+void EditorWindowSet::showProject(const QMap<QString, QString> &files)
+{
+    m_project->show(ProjectContents::read(files, m_project->data().tiles.size()));
 }
 
 EditorWindow *EditorWindowSet::window(const QString &keyOrPopup) const

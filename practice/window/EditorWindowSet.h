@@ -33,6 +33,9 @@ public:
     [[nodiscard]] QRect screenRect() const override;
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 
+    void setProjectsFolder(const QString &folder) override;
+    void showProject(const QMap<QString, QString> &files) override;
+
     [[nodiscard]] EditorProject *project() { return m_project.get(); }
 
     /// The window, part or (by its name) context menu; nullptr when there is none. Owned by the set.

@@ -2,6 +2,7 @@
 
 #include "runner/EditorEvent.h"
 
+#include <QMap>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -36,7 +37,17 @@ public:
     /// Size of the main window's contents in pixels.
     [[nodiscard]] virtual QSize applicationSize() const { return screenRect().size(); }
 
+    /// Offers @p folder as the place of a new project.
+    virtual void setProjectsFolder(const QString &folder) = 0;
+
+    /// Shows the data files, path inside the project to text, as the contents of the open project; does
+    /// nothing while none is open.
+    virtual void showProject(const QMap<QString, QString> &files) = 0;
+
 Q_SIGNALS:
+    /// The person has made a new project; its folder is @p name inside of @p location.
+    void projectCreated(const QString &location, const QString &name);
+
     /// Something happened that a condition may wait for.
     void happened(const EditorEvent &event);
 

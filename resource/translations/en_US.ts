@@ -271,586 +271,598 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>Village and forest</translation>
+      <translation>Meadow</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>One slime</translation>
+      <translation>Autumn</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Wooden sword</translation>
+      <translation>Winter</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>A sword for practice. Better than nothing.</translation>
+      <translation>Desert</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Pip</translation>
+      <translation>Night</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Good morning, Mila!</translation>
+      <translation>Coast</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>The lamp is out. It was so dark last night!</translation>
+      <translation>One slime</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Tonic</translation>
+      <translation>Wooden sword</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Wakes up an ally who has fainted.</translation>
+      <translation>A sword for practice. Better than nothing.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Door</translation>
+      <translation>Pip</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Way out</translation>
+      <translation>Good morning, Mila!</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>Treasure chest</translation>
+      <translation>The lamp is out. It was so dark last night!</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Mila found a herb!</translation>
+      <translation>Tonic</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Mila's house</translation>
+      <translation>Wakes up an ally who has fainted.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Inside</translation>
+      <translation>Door</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>A herb! Keep it for the road.</translation>
+      <translation>Way out</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>The chest is empty.</translation>
+      <translation>Treasure chest</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Herb found</translation>
+      <translation>Mila found a herb!</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>Elder</translation>
+      <translation>Mila's house</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Somebody has taken our Dawn Lamp.</translation>
+      <translation>A herb! Keep it for the road.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Will you look for it?</translation>
+      <translation>The chest is empty.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Yes</translation>
+      <translation>Herb found</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Not yet</translation>
+      <translation>Elder</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Thank you, Mila. Ask in the village first.</translation>
+      <translation>Somebody has taken our Dawn Lamp.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Come back when you are ready.</translation>
+      <translation>Will you look for it?</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>We are counting on you.</translation>
+      <translation>Yes</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Elder asked for help</translation>
+      <translation>Not yet</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Toma</translation>
+      <translation>Thank you, Mila. Ask in the village first.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Travel cloak</translation>
+      <translation>Come back when you are ready.</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>Warm, light and waterproof.</translation>
+      <translation>We are counting on you.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Guardian</translation>
+      <translation>Elder asked for help</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>You are leaving? Then I will come with you.</translation>
+      <translation>Toma</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>Bread</translation>
+      <translation>Travel cloak</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>Restores 10 HP to one ally. Freshly baked.</translation>
+      <translation>Warm, light and waterproof.</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>Shop door</translation>
+      <translation>Guardian</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>Inn door</translation>
+      <translation>You are leaving? Then I will come with you.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>Bruno</translation>
+      <translation>Bread</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>Welcome! Have a look around.</translation>
+      <translation>Restores 10 HP to one ally. Freshly baked.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Greta</translation>
+      <translation>Shop door</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>A bed for the night? It costs 10.</translation>
+      <translation>Inn door</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Stay</translation>
+      <translation>Bruno</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>Leave</translation>
+      <translation>Welcome! Have a look around.</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>Good morning! Did you sleep well?</translation>
+      <translation>Greta</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>See you another time.</translation>
+      <translation>A bed for the night? It costs 10.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Shop</translation>
+      <translation>Stay</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>Inn</translation>
+      <translation>Leave</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Hunting knife</translation>
+      <translation>Good morning! Did you sleep well?</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Short and quick.</translation>
+      <translation>See you another time.</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>To the forest</translation>
+      <translation>Shop</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>To the village</translation>
+      <translation>Inn</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>To the mine</translation>
+      <translation>Hunting knife</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>Back to the forest</translation>
+      <translation>Short and quick.</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>Old mine. Closed. Keep out!</translation>
+      <translation>To the forest</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>Mine entrance</translation>
+      <translation>To the village</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>Lever</translation>
+      <translation>To the mine</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>There is a rusty lever.</translation>
+      <translation>Back to the forest</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>Pull it?</translation>
+      <translation>Old mine. Closed. Keep out!</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>Pull</translation>
+      <translation>Mine entrance</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>Leave it</translation>
+      <translation>Lever</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>Somewhere, a gate opens.</translation>
+      <translation>There is a rusty lever.</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>The lever will not move any more.</translation>
+      <translation>Pull it?</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>Gate</translation>
+      <translation>Pull</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>The gate is shut.</translation>
+      <translation>Leave it</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>Old mine</translation>
+      <translation>Somewhere, a gate opens.</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>Gate open</translation>
+      <translation>The lever will not move any more.</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>Cave</translation>
+      <translation>Gate</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>Sparkle</translation>
+      <translation>The gate is shut.</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>Spring</translation>
+      <translation>Old mine</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>You hear water and birds.</translation>
+      <translation>Gate open</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>Guard</translation>
+      <translation>Sparkle</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>Halt! Who goes there?</translation>
+      <translation>Spring</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>All quiet at the south gate.</translation>
+      <translation>You hear water and birds.</translation>
     </message>
     <message>
       <source>#95</source>
-      <translation>Second guard</translation>
+      <translation>Guard</translation>
     </message>
     <message>
       <source>#96</source>
-      <translation>The mine is dangerous. Buy herbs first.</translation>
+      <translation>Halt! Who goes there?</translation>
     </message>
     <message>
       <source>#97</source>
-      <translation>Sena</translation>
+      <translation>All quiet at the south gate.</translation>
     </message>
     <message>
       <source>#98</source>
-      <translation>Sage</translation>
+      <translation>Second guard</translation>
     </message>
     <message>
       <source>#99</source>
-      <translation>I study old lamps. Take me along!</translation>
+      <translation>The mine is dangerous. Buy herbs first.</translation>
     </message>
     <message>
       <source>#100</source>
-      <translation>Leather vest</translation>
+      <translation>Sena</translation>
     </message>
     <message>
       <source>#101</source>
-      <translation>Tough, but easy to move in.</translation>
+      <translation>Sage</translation>
     </message>
     <message>
       <source>#102</source>
-      <translation>Round shield</translation>
+      <translation>I study old lamps. Take me along!</translation>
     </message>
     <message>
       <source>#103</source>
-      <translation>Stops blows and small stones.</translation>
+      <translation>Leather vest</translation>
     </message>
     <message>
       <source>#104</source>
-      <translation>Antidote</translation>
+      <translation>Tough, but easy to move in.</translation>
     </message>
     <message>
       <source>#105</source>
-      <translation>Cures poison.</translation>
+      <translation>Round shield</translation>
     </message>
     <message>
       <source>#106</source>
-      <translation>Torch</translation>
+      <translation>Stops blows and small stones.</translation>
     </message>
     <message>
       <source>#107</source>
-      <translation>Lights up dark places.</translation>
+      <translation>Antidote</translation>
     </message>
     <message>
       <source>#108</source>
-      <translation>Poisoned</translation>
+      <translation>Cures poison.</translation>
     </message>
     <message>
       <source>#109</source>
-      <translation> is poisoned!</translation>
+      <translation>Torch</translation>
     </message>
     <message>
       <source>#110</source>
-      <translation> has been poisoned!</translation>
+      <translation>Lights up dark places.</translation>
     </message>
     <message>
       <source>#111</source>
-      <translation> suffers from the poison.</translation>
+      <translation>Poisoned</translation>
     </message>
     <message>
       <source>#112</source>
-      <translation> is free of the poison!</translation>
+      <translation> is poisoned!</translation>
     </message>
     <message>
       <source>#113</source>
-      <translation>Iron sword</translation>
+      <translation> has been poisoned!</translation>
     </message>
     <message>
       <source>#114</source>
-      <translation>Heavy, with a sharp edge.</translation>
+      <translation> suffers from the poison.</translation>
     </message>
     <message>
       <source>#115</source>
-      <translation>Oak staff</translation>
+      <translation> is free of the poison!</translation>
     </message>
     <message>
       <source>#116</source>
-      <translation>Helps to gather magic.</translation>
+      <translation>Iron sword</translation>
     </message>
     <message>
       <source>#117</source>
-      <translation>Bite</translation>
+      <translation>Heavy, with a sharp edge.</translation>
     </message>
     <message>
       <source>#118</source>
-      <translation>Cave bat</translation>
+      <translation>Oak staff</translation>
     </message>
     <message>
       <source>#119</source>
-      <translation>Giant rat</translation>
+      <translation>Helps to gather magic.</translation>
     </message>
     <message>
       <source>#120</source>
-      <translation>Poison cap</translation>
+      <translation>Bite</translation>
     </message>
     <message>
       <source>#121</source>
-      <translation>Two slimes</translation>
+      <translation>Cave bat</translation>
     </message>
     <message>
       <source>#122</source>
-      <translation>Two bats</translation>
+      <translation>Giant rat</translation>
     </message>
     <message>
       <source>#123</source>
-      <translation>Rat and mushroom</translation>
+      <translation>Poison cap</translation>
     </message>
     <message>
       <source>#124</source>
-      <translation>Shield light</translation>
+      <translation>Two slimes</translation>
     </message>
     <message>
       <source>#125</source>
-      <translation>Heal</translation>
+      <translation>Two bats</translation>
     </message>
     <message>
       <source>#126</source>
-      <translation>Restores 40 HP to one ally.</translation>
+      <translation>Rat and mushroom</translation>
     </message>
     <message>
       <source>#127</source>
-      <translation> calls a gentle light!</translation>
+      <translation>Shield light</translation>
     </message>
     <message>
       <source>#128</source>
-      <translation>Spark</translation>
+      <translation>Heal</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>A small flame for one enemy.</translation>
+      <translation>Restores 40 HP to one ally.</translation>
     </message>
     <message>
       <source>#130</source>
-      <translation> throws a spark!</translation>
+      <translation> calls a gentle light!</translation>
     </message>
     <message>
       <source>#131</source>
-      <translation>Shield wall</translation>
+      <translation>Spark</translation>
     </message>
     <message>
       <source>#132</source>
-      <translation>Protects all allies for one turn.</translation>
+      <translation>A small flame for one enemy.</translation>
     </message>
     <message>
       <source>#133</source>
-      <translation> raises the shield!</translation>
+      <translation> throws a spark!</translation>
     </message>
     <message>
       <source>#134</source>
-      <translation>Poison spores</translation>
+      <translation>Shield wall</translation>
     </message>
     <message>
       <source>#135</source>
-      <translation>Poisons one enemy.</translation>
+      <translation>Protects all allies for one turn.</translation>
     </message>
     <message>
       <source>#136</source>
-      <translation> scatters spores!</translation>
+      <translation> raises the shield!</translation>
     </message>
     <message>
       <source>#137</source>
-      <translation>Protected</translation>
+      <translation>Poison spores</translation>
     </message>
     <message>
       <source>#138</source>
-      <translation> is protected!</translation>
+      <translation>Poisons one enemy.</translation>
     </message>
     <message>
       <source>#139</source>
-      <translation> is no longer protected.</translation>
+      <translation> scatters spores!</translation>
     </message>
     <message>
       <source>#140</source>
-      <translation>Stone warden</translation>
+      <translation>Protected</translation>
     </message>
     <message>
       <source>#141</source>
-      <translation>Dawn Lamp</translation>
+      <translation> is protected!</translation>
     </message>
     <message>
       <source>#142</source>
-      <translation>The lamp of Amberfield. It is warm to the touch.</translation>
+      <translation> is no longer protected.</translation>
     </message>
     <message>
       <source>#143</source>
-      <translation>The light woke me. Now it is mine.</translation>
+      <translation>Stone warden</translation>
     </message>
     <message>
       <source>#144</source>
-      <translation>It belongs to the whole village!</translation>
+      <translation>Dawn Lamp</translation>
     </message>
     <message>
       <source>#145</source>
-      <translation>The Dawn Lamp shines again!</translation>
+      <translation>The lamp of Amberfield. It is warm to the touch.</translation>
     </message>
     <message>
       <source>#146</source>
-      <translation>Only stones are left.</translation>
+      <translation>The light woke me. Now it is mine.</translation>
     </message>
     <message>
       <source>#147</source>
-      <translation>Rockfall</translation>
+      <translation>It belongs to the whole village!</translation>
     </message>
     <message>
       <source>#148</source>
-      <translation>Stones hit all enemies.</translation>
+      <translation>The Dawn Lamp shines again!</translation>
     </message>
     <message>
       <source>#149</source>
-      <translation> makes the ceiling shake!</translation>
+      <translation>Only stones are left.</translation>
     </message>
     <message>
       <source>#150</source>
-      <translation>Warden defeated</translation>
+      <translation>Rockfall</translation>
     </message>
     <message>
       <source>#151</source>
-      <translation>The stone warden</translation>
+      <translation>Stones hit all enemies.</translation>
     </message>
     <message>
       <source>#152</source>
-      <translation>Crystal beetle</translation>
+      <translation> makes the ceiling shake!</translation>
     </message>
     <message>
       <source>#153</source>
-      <translation>Asleep</translation>
+      <translation>Warden defeated</translation>
     </message>
     <message>
       <source>#154</source>
-      <translation> falls asleep!</translation>
+      <translation>The stone warden</translation>
     </message>
     <message>
       <source>#155</source>
-      <translation> has been put to sleep!</translation>
+      <translation>Crystal beetle</translation>
     </message>
     <message>
       <source>#156</source>
-      <translation> is sleeping.</translation>
+      <translation>Asleep</translation>
     </message>
     <message>
       <source>#157</source>
-      <translation> wakes with a start!</translation>
+      <translation> falls asleep!</translation>
     </message>
     <message>
       <source>#158</source>
-      <translation>Beetle and bat</translation>
+      <translation> has been put to sleep!</translation>
     </message>
     <message>
       <source>#159</source>
-      <translation>And so the lamp burns once more in Amberfield.</translation>
+      <translation> is sleeping.</translation>
     </message>
     <message>
       <source>#160</source>
-      <translation>The end. Thank you for playing!</translation>
+      <translation> wakes with a start!</translation>
     </message>
     <message>
       <source>#161</source>
-      <translation>To the hilltop</translation>
+      <translation>Beetle and bat</translation>
     </message>
     <message>
       <source>#162</source>
-      <translation>Back to the village</translation>
+      <translation>And so the lamp burns once more in Amberfield.</translation>
     </message>
     <message>
       <source>#163</source>
-      <translation>Lamp scene</translation>
+      <translation>The end. Thank you for playing!</translation>
     </message>
     <message>
       <source>#164</source>
-      <translation>Look, you can see the whole village from here.</translation>
+      <translation>To the hilltop</translation>
     </message>
     <message>
       <source>#165</source>
-      <translation>And it is bright again.</translation>
+      <translation>Back to the village</translation>
     </message>
     <message>
       <source>#166</source>
-      <translation>You have brought the light home.</translation>
+      <translation>Lamp scene</translation>
     </message>
     <message>
       <source>#167</source>
-      <translation>Hilltop</translation>
+      <translation>Look, you can see the whole village from here.</translation>
     </message>
     <message>
       <source>#168</source>
+      <translation>And it is bright again.</translation>
+    </message>
+    <message>
+      <source>#169</source>
+      <translation>You have brought the light home.</translation>
+    </message>
+    <message>
+      <source>#170</source>
+      <translation>Hilltop</translation>
+    </message>
+    <message>
+      <source>#171</source>
       <translation>Lamp returned</translation>
     </message>
   </context>

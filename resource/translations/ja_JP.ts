@@ -271,586 +271,598 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>村と森</translation>
+      <translation>草原</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>スライム1匹</translation>
+      <translation>秋</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>木の剣</translation>
+      <translation>冬</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>けいこ用の剣。ないよりはいい。</translation>
+      <translation>砂漠</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>ピップ</translation>
+      <translation>夜</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>おはよう、ミラ！</translation>
+      <translation>海岸</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>ランプが消えちゃった。昨夜はまっくらだったよ！</translation>
+      <translation>スライム1匹</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>気付け薬</translation>
+      <translation>木の剣</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>気絶した味方を起こす。</translation>
+      <translation>けいこ用の剣。ないよりはいい。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>ドア</translation>
+      <translation>ピップ</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>出口</translation>
+      <translation>おはよう、ミラ！</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>宝箱</translation>
+      <translation>ランプが消えちゃった。昨夜はまっくらだったよ！</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>ミラは薬草を見つけた！</translation>
+      <translation>気付け薬</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>ミラの家</translation>
+      <translation>気絶した味方を起こす。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>家の中</translation>
+      <translation>ドア</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>薬草だ！旅のために取っておきなよ。</translation>
+      <translation>出口</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>宝箱は空っぽだ。</translation>
+      <translation>宝箱</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>薬草を見つけた</translation>
+      <translation>ミラは薬草を見つけた！</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>長老</translation>
+      <translation>ミラの家</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>だれかが村の「暁のランプ」を持ち去った。</translation>
+      <translation>薬草だ！旅のために取っておきなよ。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>さがしてくれるか？</translation>
+      <translation>宝箱は空っぽだ。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>はい</translation>
+      <translation>薬草を見つけた</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>まだ無理</translation>
+      <translation>長老</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>ありがとう、ミラ。まず村で話を聞いておくれ。</translation>
+      <translation>だれかが村の「暁のランプ」を持ち去った。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>したくができたら、また来なさい。</translation>
+      <translation>さがしてくれるか？</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>たのんだぞ。</translation>
+      <translation>はい</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>長老にたのまれた</translation>
+      <translation>まだ無理</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>トーマ</translation>
+      <translation>ありがとう、ミラ。まず村で話を聞いておくれ。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>旅のマント</translation>
+      <translation>したくができたら、また来なさい。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>あたたかくて軽く、雨にも強い。</translation>
+      <translation>たのんだぞ。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>守り手</translation>
+      <translation>長老にたのまれた</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>出かけるのか？なら、おれも行く。</translation>
+      <translation>トーマ</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>パン</translation>
+      <translation>旅のマント</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>味方1人のHPを10回復する。焼きたて。</translation>
+      <translation>あたたかくて軽く、雨にも強い。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>店のドア</translation>
+      <translation>守り手</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>宿屋のドア</translation>
+      <translation>出かけるのか？なら、おれも行く。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>ブルーノ</translation>
+      <translation>パン</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>いらっしゃい！見ていってくれ。</translation>
+      <translation>味方1人のHPを10回復する。焼きたて。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>グレタ</translation>
+      <translation>店のドア</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>今夜はお泊まりですか？10で泊まれますよ。</translation>
+      <translation>宿屋のドア</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>泊まる</translation>
+      <translation>ブルーノ</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>やめる</translation>
+      <translation>いらっしゃい！見ていってくれ。</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>おはようございます！よく眠れましたか？</translation>
+      <translation>グレタ</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>またお越しくださいね。</translation>
+      <translation>今夜はお泊まりですか？10で泊まれますよ。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>お店</translation>
+      <translation>泊まる</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>宿屋</translation>
+      <translation>やめる</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>狩りのナイフ</translation>
+      <translation>おはようございます！よく眠れましたか？</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>短くて、すばやくふるえる。</translation>
+      <translation>またお越しくださいね。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>森へ</translation>
+      <translation>お店</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>村へ</translation>
+      <translation>宿屋</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>鉱山へ</translation>
+      <translation>狩りのナイフ</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>森へもどる</translation>
+      <translation>短くて、すばやくふるえる。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>古い鉱山。閉鎖中。立入禁止！</translation>
+      <translation>森へ</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>鉱山の入口</translation>
+      <translation>村へ</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>レバー</translation>
+      <translation>鉱山へ</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>さびたレバーがある。</translation>
+      <translation>森へもどる</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>引いてみる？</translation>
+      <translation>古い鉱山。閉鎖中。立入禁止！</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>引く</translation>
+      <translation>鉱山の入口</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>やめておく</translation>
+      <translation>レバー</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>どこかで門の開く音がした。</translation>
+      <translation>さびたレバーがある。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>レバーはもう動かない。</translation>
+      <translation>引いてみる？</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>門</translation>
+      <translation>引く</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>門は閉まっている。</translation>
+      <translation>やめておく</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>古い鉱山</translation>
+      <translation>どこかで門の開く音がした。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>門が開いた</translation>
+      <translation>レバーはもう動かない。</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>どうくつ</translation>
+      <translation>門</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>きらめき</translation>
+      <translation>門は閉まっている。</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>泉</translation>
+      <translation>古い鉱山</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>水の音と鳥の声が聞こえる。</translation>
+      <translation>門が開いた</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>衛兵</translation>
+      <translation>きらめき</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>止まれ！だれだ？</translation>
+      <translation>泉</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>南の門、異常なし。</translation>
+      <translation>水の音と鳥の声が聞こえる。</translation>
     </message>
     <message>
       <source>#95</source>
-      <translation>2人目の衛兵</translation>
+      <translation>衛兵</translation>
     </message>
     <message>
       <source>#96</source>
-      <translation>鉱山は危ない。先に薬草を買っておけ。</translation>
+      <translation>止まれ！だれだ？</translation>
     </message>
     <message>
       <source>#97</source>
-      <translation>セナ</translation>
+      <translation>南の門、異常なし。</translation>
     </message>
     <message>
       <source>#98</source>
-      <translation>賢者</translation>
+      <translation>2人目の衛兵</translation>
     </message>
     <message>
       <source>#99</source>
-      <translation>古いランプを研究しているの。連れていって！</translation>
+      <translation>鉱山は危ない。先に薬草を買っておけ。</translation>
     </message>
     <message>
       <source>#100</source>
-      <translation>革の胴着</translation>
+      <translation>セナ</translation>
     </message>
     <message>
       <source>#101</source>
-      <translation>じょうぶで動きやすい。</translation>
+      <translation>賢者</translation>
     </message>
     <message>
       <source>#102</source>
-      <translation>丸い盾</translation>
+      <translation>古いランプを研究しているの。連れていって！</translation>
     </message>
     <message>
       <source>#103</source>
-      <translation>攻撃や小石を防ぐ。</translation>
+      <translation>革の胴着</translation>
     </message>
     <message>
       <source>#104</source>
-      <translation>毒消し</translation>
+      <translation>じょうぶで動きやすい。</translation>
     </message>
     <message>
       <source>#105</source>
-      <translation>毒を治す。</translation>
+      <translation>丸い盾</translation>
     </message>
     <message>
       <source>#106</source>
-      <translation>たいまつ</translation>
+      <translation>攻撃や小石を防ぐ。</translation>
     </message>
     <message>
       <source>#107</source>
-      <translation>暗い所を照らす。</translation>
+      <translation>毒消し</translation>
     </message>
     <message>
       <source>#108</source>
-      <translation>毒</translation>
+      <translation>毒を治す。</translation>
     </message>
     <message>
       <source>#109</source>
-      <translation>は毒を受けた！</translation>
+      <translation>たいまつ</translation>
     </message>
     <message>
       <source>#110</source>
-      <translation>に毒を与えた！</translation>
+      <translation>暗い所を照らす。</translation>
     </message>
     <message>
       <source>#111</source>
-      <translation>は毒に苦しんでいる。</translation>
+      <translation>毒</translation>
     </message>
     <message>
       <source>#112</source>
-      <translation>の毒が消えた！</translation>
+      <translation>は毒を受けた！</translation>
     </message>
     <message>
       <source>#113</source>
-      <translation>鉄の剣</translation>
+      <translation>に毒を与えた！</translation>
     </message>
     <message>
       <source>#114</source>
-      <translation>重くて、よく切れる。</translation>
+      <translation>は毒に苦しんでいる。</translation>
     </message>
     <message>
       <source>#115</source>
-      <translation>樫の杖</translation>
+      <translation>の毒が消えた！</translation>
     </message>
     <message>
       <source>#116</source>
-      <translation>魔力を集めやすくする。</translation>
+      <translation>鉄の剣</translation>
     </message>
     <message>
       <source>#117</source>
-      <translation>かみつき</translation>
+      <translation>重くて、よく切れる。</translation>
     </message>
     <message>
       <source>#118</source>
-      <translation>どうくつコウモリ</translation>
+      <translation>樫の杖</translation>
     </message>
     <message>
       <source>#119</source>
-      <translation>大ネズミ</translation>
+      <translation>魔力を集めやすくする。</translation>
     </message>
     <message>
       <source>#120</source>
-      <translation>毒キノコ</translation>
+      <translation>かみつき</translation>
     </message>
     <message>
       <source>#121</source>
-      <translation>スライム2匹</translation>
+      <translation>どうくつコウモリ</translation>
     </message>
     <message>
       <source>#122</source>
-      <translation>コウモリ2匹</translation>
+      <translation>大ネズミ</translation>
     </message>
     <message>
       <source>#123</source>
-      <translation>ネズミとキノコ</translation>
+      <translation>毒キノコ</translation>
     </message>
     <message>
       <source>#124</source>
-      <translation>盾の光</translation>
+      <translation>スライム2匹</translation>
     </message>
     <message>
       <source>#125</source>
-      <translation>いやし</translation>
+      <translation>コウモリ2匹</translation>
     </message>
     <message>
       <source>#126</source>
-      <translation>味方1人のHPを40回復する。</translation>
+      <translation>ネズミとキノコ</translation>
     </message>
     <message>
       <source>#127</source>
-      <translation>はやさしい光を呼んだ！</translation>
+      <translation>盾の光</translation>
     </message>
     <message>
       <source>#128</source>
-      <translation>火花</translation>
+      <translation>いやし</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>敵1体に小さな炎を放つ。</translation>
+      <translation>味方1人のHPを40回復する。</translation>
     </message>
     <message>
       <source>#130</source>
-      <translation>は火花を放った！</translation>
+      <translation>はやさしい光を呼んだ！</translation>
     </message>
     <message>
       <source>#131</source>
-      <translation>盾の構え</translation>
+      <translation>火花</translation>
     </message>
     <message>
       <source>#132</source>
-      <translation>1ターンの間、味方全員を守る。</translation>
+      <translation>敵1体に小さな炎を放つ。</translation>
     </message>
     <message>
       <source>#133</source>
-      <translation>は盾を構えた！</translation>
+      <translation>は火花を放った！</translation>
     </message>
     <message>
       <source>#134</source>
-      <translation>毒の胞子</translation>
+      <translation>盾の構え</translation>
     </message>
     <message>
       <source>#135</source>
-      <translation>敵1体に毒を与える。</translation>
+      <translation>1ターンの間、味方全員を守る。</translation>
     </message>
     <message>
       <source>#136</source>
-      <translation>は胞子をまき散らした！</translation>
+      <translation>は盾を構えた！</translation>
     </message>
     <message>
       <source>#137</source>
-      <translation>守り</translation>
+      <translation>毒の胞子</translation>
     </message>
     <message>
       <source>#138</source>
-      <translation>は守られている！</translation>
+      <translation>敵1体に毒を与える。</translation>
     </message>
     <message>
       <source>#139</source>
-      <translation>の守りが解けた。</translation>
+      <translation>は胞子をまき散らした！</translation>
     </message>
     <message>
       <source>#140</source>
-      <translation>岩の番人</translation>
+      <translation>守り</translation>
     </message>
     <message>
       <source>#141</source>
-      <translation>暁のランプ</translation>
+      <translation>は守られている！</translation>
     </message>
     <message>
       <source>#142</source>
-      <translation>アンバー村のランプ。さわるとあたたかい。</translation>
+      <translation>の守りが解けた。</translation>
     </message>
     <message>
       <source>#143</source>
-      <translation>光がわしを起こした。もうわしのものだ。</translation>
+      <translation>岩の番人</translation>
     </message>
     <message>
       <source>#144</source>
-      <translation>あれは村のみんなのものよ！</translation>
+      <translation>暁のランプ</translation>
     </message>
     <message>
       <source>#145</source>
-      <translation>暁のランプがふたたび輝いた！</translation>
+      <translation>アンバー村のランプ。さわるとあたたかい。</translation>
     </message>
     <message>
       <source>#146</source>
-      <translation>岩だけが残っている。</translation>
+      <translation>光がわしを起こした。もうわしのものだ。</translation>
     </message>
     <message>
       <source>#147</source>
-      <translation>落石</translation>
+      <translation>あれは村のみんなのものよ！</translation>
     </message>
     <message>
       <source>#148</source>
-      <translation>敵全体に岩を落とす。</translation>
+      <translation>暁のランプがふたたび輝いた！</translation>
     </message>
     <message>
       <source>#149</source>
-      <translation>は天井をゆらした！</translation>
+      <translation>岩だけが残っている。</translation>
     </message>
     <message>
       <source>#150</source>
-      <translation>番人を倒した</translation>
+      <translation>落石</translation>
     </message>
     <message>
       <source>#151</source>
-      <translation>岩の番人との戦い</translation>
+      <translation>敵全体に岩を落とす。</translation>
     </message>
     <message>
       <source>#152</source>
-      <translation>水晶カブト</translation>
+      <translation>は天井をゆらした！</translation>
     </message>
     <message>
       <source>#153</source>
-      <translation>眠り</translation>
+      <translation>番人を倒した</translation>
     </message>
     <message>
       <source>#154</source>
-      <translation>は眠ってしまった！</translation>
+      <translation>岩の番人との戦い</translation>
     </message>
     <message>
       <source>#155</source>
-      <translation>を眠らせた！</translation>
+      <translation>水晶カブト</translation>
     </message>
     <message>
       <source>#156</source>
-      <translation>は眠っている。</translation>
+      <translation>眠り</translation>
     </message>
     <message>
       <source>#157</source>
-      <translation>はとび起きた！</translation>
+      <translation>は眠ってしまった！</translation>
     </message>
     <message>
       <source>#158</source>
-      <translation>カブトとコウモリ</translation>
+      <translation>を眠らせた！</translation>
     </message>
     <message>
       <source>#159</source>
-      <translation>こうして、アンバー村のランプはまた燃えはじめた。</translation>
+      <translation>は眠っている。</translation>
     </message>
     <message>
       <source>#160</source>
-      <translation>おわり。遊んでくれてありがとう！</translation>
+      <translation>はとび起きた！</translation>
     </message>
     <message>
       <source>#161</source>
-      <translation>丘の上へ</translation>
+      <translation>カブトとコウモリ</translation>
     </message>
     <message>
       <source>#162</source>
-      <translation>村へもどる</translation>
+      <translation>こうして、アンバー村のランプはまた燃えはじめた。</translation>
     </message>
     <message>
       <source>#163</source>
-      <translation>ランプの場面</translation>
+      <translation>おわり。遊んでくれてありがとう！</translation>
     </message>
     <message>
       <source>#164</source>
-      <translation>見て。ここから村じゅうが見えるよ。</translation>
+      <translation>丘の上へ</translation>
     </message>
     <message>
       <source>#165</source>
-      <translation>また明るくなったな。</translation>
+      <translation>村へもどる</translation>
     </message>
     <message>
       <source>#166</source>
-      <translation>光を村に取りもどしてくれたな。</translation>
+      <translation>ランプの場面</translation>
     </message>
     <message>
       <source>#167</source>
-      <translation>丘の上</translation>
+      <translation>見て。ここから村じゅうが見えるよ。</translation>
     </message>
     <message>
       <source>#168</source>
+      <translation>また明るくなったな。</translation>
+    </message>
+    <message>
+      <source>#169</source>
+      <translation>光を村に取りもどしてくれたな。</translation>
+    </message>
+    <message>
+      <source>#170</source>
+      <translation>丘の上</translation>
+    </message>
+    <message>
+      <source>#171</source>
       <translation>ランプを返した</translation>
     </message>
   </context>

@@ -271,586 +271,598 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>村庄与森林</translation>
+      <translation>草原</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>一只史莱姆</translation>
+      <translation>秋天</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>木剑</translation>
+      <translation>冬天</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>练习用的剑。总比没有好。</translation>
+      <translation>沙漠</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>皮普</translation>
+      <translation>夜晚</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>早上好，米拉！</translation>
+      <translation>海岸</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>灯灭了。昨晚可黑了！</translation>
+      <translation>一只史莱姆</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>提神药</translation>
+      <translation>木剑</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>唤醒昏倒的同伴。</translation>
+      <translation>练习用的剑。总比没有好。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>门</translation>
+      <translation>皮普</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>出口</translation>
+      <translation>早上好，米拉！</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>宝箱</translation>
+      <translation>灯灭了。昨晚可黑了！</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>米拉找到了草药！</translation>
+      <translation>提神药</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>米拉的家</translation>
+      <translation>唤醒昏倒的同伴。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>室内</translation>
+      <translation>门</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>是草药！留着路上用吧。</translation>
+      <translation>出口</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>宝箱是空的。</translation>
+      <translation>宝箱</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>找到了草药</translation>
+      <translation>米拉找到了草药！</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>长老</translation>
+      <translation>米拉的家</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>有人拿走了村里的“黎明之灯”。</translation>
+      <translation>是草药！留着路上用吧。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>你愿意去找它吗？</translation>
+      <translation>宝箱是空的。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>好的</translation>
+      <translation>找到了草药</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>现在还不行</translation>
+      <translation>长老</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>谢谢你，米拉。先在村里打听一下吧。</translation>
+      <translation>有人拿走了村里的“黎明之灯”。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>准备好了再来吧。</translation>
+      <translation>你愿意去找它吗？</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>全靠你了。</translation>
+      <translation>好的</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>长老请求帮助</translation>
+      <translation>现在还不行</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>托马</translation>
+      <translation>谢谢你，米拉。先在村里打听一下吧。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>旅行斗篷</translation>
+      <translation>准备好了再来吧。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>保暖轻便，还能防雨。</translation>
+      <translation>全靠你了。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>守护者</translation>
+      <translation>长老请求帮助</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>你要出门？那我也一起去。</translation>
+      <translation>托马</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>面包</translation>
+      <translation>旅行斗篷</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>为一名同伴恢复10点HP。刚出炉。</translation>
+      <translation>保暖轻便，还能防雨。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>商店的门</translation>
+      <translation>守护者</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>旅馆的门</translation>
+      <translation>你要出门？那我也一起去。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>布鲁诺</translation>
+      <translation>面包</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>欢迎光临！随便看看吧。</translation>
+      <translation>为一名同伴恢复10点HP。刚出炉。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>格蕾塔</translation>
+      <translation>商店的门</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>要住一晚吗？只要10。</translation>
+      <translation>旅馆的门</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>住下</translation>
+      <translation>布鲁诺</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>不住了</translation>
+      <translation>欢迎光临！随便看看吧。</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>早上好！睡得好吗？</translation>
+      <translation>格蕾塔</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>下次再来。</translation>
+      <translation>要住一晚吗？只要10。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>商店</translation>
+      <translation>住下</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>旅馆</translation>
+      <translation>不住了</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>猎刀</translation>
+      <translation>早上好！睡得好吗？</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>短小而灵巧。</translation>
+      <translation>下次再来。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>前往森林</translation>
+      <translation>商店</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>返回村庄</translation>
+      <translation>旅馆</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>前往矿洞</translation>
+      <translation>猎刀</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>返回森林</translation>
+      <translation>短小而灵巧。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>旧矿洞。已关闭，禁止入内！</translation>
+      <translation>前往森林</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>矿洞入口</translation>
+      <translation>返回村庄</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>拉杆</translation>
+      <translation>前往矿洞</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>有一根生锈的拉杆。</translation>
+      <translation>返回森林</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>要拉动它吗？</translation>
+      <translation>旧矿洞。已关闭，禁止入内！</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>拉动</translation>
+      <translation>矿洞入口</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>不动它</translation>
+      <translation>拉杆</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>不知哪里的门打开了。</translation>
+      <translation>有一根生锈的拉杆。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>拉杆已经动不了了。</translation>
+      <translation>要拉动它吗？</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>大门</translation>
+      <translation>拉动</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>大门紧闭着。</translation>
+      <translation>不动它</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>旧矿洞</translation>
+      <translation>不知哪里的门打开了。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>大门打开</translation>
+      <translation>拉杆已经动不了了。</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>洞穴</translation>
+      <translation>大门</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>闪光</translation>
+      <translation>大门紧闭着。</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>泉水</translation>
+      <translation>旧矿洞</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>听得到水声和鸟鸣。</translation>
+      <translation>大门打开</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>卫兵</translation>
+      <translation>闪光</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>站住！什么人？</translation>
+      <translation>泉水</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>南门一切正常。</translation>
+      <translation>听得到水声和鸟鸣。</translation>
     </message>
     <message>
       <source>#95</source>
-      <translation>第二名卫兵</translation>
+      <translation>卫兵</translation>
     </message>
     <message>
       <source>#96</source>
-      <translation>矿洞很危险。先买些草药吧。</translation>
+      <translation>站住！什么人？</translation>
     </message>
     <message>
       <source>#97</source>
-      <translation>塞娜</translation>
+      <translation>南门一切正常。</translation>
     </message>
     <message>
       <source>#98</source>
-      <translation>贤者</translation>
+      <translation>第二名卫兵</translation>
     </message>
     <message>
       <source>#99</source>
-      <translation>我在研究古灯。带上我吧！</translation>
+      <translation>矿洞很危险。先买些草药吧。</translation>
     </message>
     <message>
       <source>#100</source>
-      <translation>皮背心</translation>
+      <translation>塞娜</translation>
     </message>
     <message>
       <source>#101</source>
-      <translation>结实又便于行动。</translation>
+      <translation>贤者</translation>
     </message>
     <message>
       <source>#102</source>
-      <translation>圆盾</translation>
+      <translation>我在研究古灯。带上我吧！</translation>
     </message>
     <message>
       <source>#103</source>
-      <translation>抵挡攻击和小石子。</translation>
+      <translation>皮背心</translation>
     </message>
     <message>
       <source>#104</source>
-      <translation>解毒药</translation>
+      <translation>结实又便于行动。</translation>
     </message>
     <message>
       <source>#105</source>
-      <translation>解除中毒。</translation>
+      <translation>圆盾</translation>
     </message>
     <message>
       <source>#106</source>
-      <translation>火把</translation>
+      <translation>抵挡攻击和小石子。</translation>
     </message>
     <message>
       <source>#107</source>
-      <translation>照亮黑暗的地方。</translation>
+      <translation>解毒药</translation>
     </message>
     <message>
       <source>#108</source>
-      <translation>中毒</translation>
+      <translation>解除中毒。</translation>
     </message>
     <message>
       <source>#109</source>
-      <translation>中毒了！</translation>
+      <translation>火把</translation>
     </message>
     <message>
       <source>#110</source>
-      <translation>被下了毒！</translation>
+      <translation>照亮黑暗的地方。</translation>
     </message>
     <message>
       <source>#111</source>
-      <translation>因中毒而痛苦。</translation>
+      <translation>中毒</translation>
     </message>
     <message>
       <source>#112</source>
-      <translation>的毒解除了！</translation>
+      <translation>中毒了！</translation>
     </message>
     <message>
       <source>#113</source>
-      <translation>铁剑</translation>
+      <translation>被下了毒！</translation>
     </message>
     <message>
       <source>#114</source>
-      <translation>沉重而锋利。</translation>
+      <translation>因中毒而痛苦。</translation>
     </message>
     <message>
       <source>#115</source>
-      <translation>橡木杖</translation>
+      <translation>的毒解除了！</translation>
     </message>
     <message>
       <source>#116</source>
-      <translation>有助于聚集魔力。</translation>
+      <translation>铁剑</translation>
     </message>
     <message>
       <source>#117</source>
-      <translation>撕咬</translation>
+      <translation>沉重而锋利。</translation>
     </message>
     <message>
       <source>#118</source>
-      <translation>洞穴蝙蝠</translation>
+      <translation>橡木杖</translation>
     </message>
     <message>
       <source>#119</source>
-      <translation>巨鼠</translation>
+      <translation>有助于聚集魔力。</translation>
     </message>
     <message>
       <source>#120</source>
-      <translation>毒蘑菇</translation>
+      <translation>撕咬</translation>
     </message>
     <message>
       <source>#121</source>
-      <translation>两只史莱姆</translation>
+      <translation>洞穴蝙蝠</translation>
     </message>
     <message>
       <source>#122</source>
-      <translation>两只蝙蝠</translation>
+      <translation>巨鼠</translation>
     </message>
     <message>
       <source>#123</source>
-      <translation>老鼠和蘑菇</translation>
+      <translation>毒蘑菇</translation>
     </message>
     <message>
       <source>#124</source>
-      <translation>盾之光</translation>
+      <translation>两只史莱姆</translation>
     </message>
     <message>
       <source>#125</source>
-      <translation>治疗</translation>
+      <translation>两只蝙蝠</translation>
     </message>
     <message>
       <source>#126</source>
-      <translation>为一名同伴恢复40点HP。</translation>
+      <translation>老鼠和蘑菇</translation>
     </message>
     <message>
       <source>#127</source>
-      <translation>召唤了柔和的光！</translation>
+      <translation>盾之光</translation>
     </message>
     <message>
       <source>#128</source>
-      <translation>火花</translation>
+      <translation>治疗</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>向一个敌人放出小火焰。</translation>
+      <translation>为一名同伴恢复40点HP。</translation>
     </message>
     <message>
       <source>#130</source>
-      <translation>放出了火花！</translation>
+      <translation>召唤了柔和的光！</translation>
     </message>
     <message>
       <source>#131</source>
-      <translation>举盾防御</translation>
+      <translation>火花</translation>
     </message>
     <message>
       <source>#132</source>
-      <translation>在一回合内保护全体同伴。</translation>
+      <translation>向一个敌人放出小火焰。</translation>
     </message>
     <message>
       <source>#133</source>
-      <translation>举起了盾！</translation>
+      <translation>放出了火花！</translation>
     </message>
     <message>
       <source>#134</source>
-      <translation>毒孢子</translation>
+      <translation>举盾防御</translation>
     </message>
     <message>
       <source>#135</source>
-      <translation>使一个敌人中毒。</translation>
+      <translation>在一回合内保护全体同伴。</translation>
     </message>
     <message>
       <source>#136</source>
-      <translation>撒出了孢子！</translation>
+      <translation>举起了盾！</translation>
     </message>
     <message>
       <source>#137</source>
-      <translation>守护</translation>
+      <translation>毒孢子</translation>
     </message>
     <message>
       <source>#138</source>
-      <translation>受到守护！</translation>
+      <translation>使一个敌人中毒。</translation>
     </message>
     <message>
       <source>#139</source>
-      <translation>的守护消失了。</translation>
+      <translation>撒出了孢子！</translation>
     </message>
     <message>
       <source>#140</source>
-      <translation>岩石守卫</translation>
+      <translation>守护</translation>
     </message>
     <message>
       <source>#141</source>
-      <translation>黎明之灯</translation>
+      <translation>受到守护！</translation>
     </message>
     <message>
       <source>#142</source>
-      <translation>琥珀村的灯。摸起来暖暖的。</translation>
+      <translation>的守护消失了。</translation>
     </message>
     <message>
       <source>#143</source>
-      <translation>是光唤醒了我。它现在归我了。</translation>
+      <translation>岩石守卫</translation>
     </message>
     <message>
       <source>#144</source>
-      <translation>那是全村人的！</translation>
+      <translation>黎明之灯</translation>
     </message>
     <message>
       <source>#145</source>
-      <translation>黎明之灯重新亮了起来！</translation>
+      <translation>琥珀村的灯。摸起来暖暖的。</translation>
     </message>
     <message>
       <source>#146</source>
-      <translation>只剩下石头了。</translation>
+      <translation>是光唤醒了我。它现在归我了。</translation>
     </message>
     <message>
       <source>#147</source>
-      <translation>落石</translation>
+      <translation>那是全村人的！</translation>
     </message>
     <message>
       <source>#148</source>
-      <translation>用岩石砸向所有敌人。</translation>
+      <translation>黎明之灯重新亮了起来！</translation>
     </message>
     <message>
       <source>#149</source>
-      <translation>震动了洞顶！</translation>
+      <translation>只剩下石头了。</translation>
     </message>
     <message>
       <source>#150</source>
-      <translation>打倒了守卫</translation>
+      <translation>落石</translation>
     </message>
     <message>
       <source>#151</source>
-      <translation>岩石守卫之战</translation>
+      <translation>用岩石砸向所有敌人。</translation>
     </message>
     <message>
       <source>#152</source>
-      <translation>水晶甲虫</translation>
+      <translation>震动了洞顶！</translation>
     </message>
     <message>
       <source>#153</source>
-      <translation>睡眠</translation>
+      <translation>打倒了守卫</translation>
     </message>
     <message>
       <source>#154</source>
-      <translation>睡着了！</translation>
+      <translation>岩石守卫之战</translation>
     </message>
     <message>
       <source>#155</source>
-      <translation>被催眠了！</translation>
+      <translation>水晶甲虫</translation>
     </message>
     <message>
       <source>#156</source>
-      <translation>正在睡觉。</translation>
+      <translation>睡眠</translation>
     </message>
     <message>
       <source>#157</source>
-      <translation>惊醒了！</translation>
+      <translation>睡着了！</translation>
     </message>
     <message>
       <source>#158</source>
-      <translation>甲虫和蝙蝠</translation>
+      <translation>被催眠了！</translation>
     </message>
     <message>
       <source>#159</source>
-      <translation>就这样，琥珀村的灯再次燃起。</translation>
+      <translation>正在睡觉。</translation>
     </message>
     <message>
       <source>#160</source>
-      <translation>剧终。感谢游玩！</translation>
+      <translation>惊醒了！</translation>
     </message>
     <message>
       <source>#161</source>
-      <translation>前往山丘顶</translation>
+      <translation>甲虫和蝙蝠</translation>
     </message>
     <message>
       <source>#162</source>
-      <translation>回到村庄</translation>
+      <translation>就这样，琥珀村的灯再次燃起。</translation>
     </message>
     <message>
       <source>#163</source>
-      <translation>灯的场景</translation>
+      <translation>剧终。感谢游玩！</translation>
     </message>
     <message>
       <source>#164</source>
-      <translation>看，从这里能看到整个村庄。</translation>
+      <translation>前往山丘顶</translation>
     </message>
     <message>
       <source>#165</source>
-      <translation>又变得明亮了。</translation>
+      <translation>回到村庄</translation>
     </message>
     <message>
       <source>#166</source>
-      <translation>你们把光带回了家。</translation>
+      <translation>灯的场景</translation>
     </message>
     <message>
       <source>#167</source>
-      <translation>山丘顶</translation>
+      <translation>看，从这里能看到整个村庄。</translation>
     </message>
     <message>
       <source>#168</source>
+      <translation>又变得明亮了。</translation>
+    </message>
+    <message>
+      <source>#169</source>
+      <translation>你们把光带回了家。</translation>
+    </message>
+    <message>
+      <source>#170</source>
+      <translation>山丘顶</translation>
+    </message>
+    <message>
+      <source>#171</source>
       <translation>归还了灯</translation>
     </message>
   </context>

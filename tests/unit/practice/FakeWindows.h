@@ -53,5 +53,7 @@ public:
         return m_origins.value(windowKey);
     }
     [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
+    void setProjectsFolder(const QString & /*folder*/) override {}
+    void showProject(const QMap<QString, QString> & /*files*/) override {}
     [[nodiscard]] QSize applicationSize() const override { return {1100, 720}; }
 };

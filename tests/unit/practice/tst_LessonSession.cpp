@@ -269,12 +269,14 @@ void TestLessonSession::waitsByTheClock()
 
 void TestLessonSession::asksForPresetDataAndPassesItOn()
 {
+    QSignalSpy requested(m_session, &LessonSession::filesRequested);
     QMap<QString, QString> files;
     connect(m_session, &LessonSession::filesReceived, this,
             [&files](const QMap<QString, QString> &received) { files = received; });
     m_session->receive(
         startCommand(QStringLiteral(R"({"id":1,"condition":"click","command":"presetData,step2"})")));
     QVERIFY(sent().contains(QStringLiteral("requestPresetData|step2")));
+    QCOMPARE(requested.size(), 1);
     m_session->receive(
         QStringLiteral("feedbackPresetData\u0001{\"data/Actors.json\":\"[null,{\\\"id\\\":1}]\"}"));
     QCOMPARE(files.size(), 1);

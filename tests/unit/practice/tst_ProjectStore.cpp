@@ -13,6 +13,8 @@ class TestProjectStore : public QObject
 private Q_SLOTS:
     void writesTheFilesIntoANewFolder();
     void touchesNothingThatIsThere();
+    void refusesNamesThatAreNoFolder_data();
+    void refusesNamesThatAreNoFolder();
     void refusesPathsThatLeadOut_data();
     void refusesPathsThatLeadOut();
     void leavesNothingBehindWhenAFileCannotBeWritten();
@@ -22,10 +24,10 @@ private Q_SLOTS:
 void TestProjectStore::writesTheFilesIntoANewFolder()
 {
     const QTemporaryDir room;
-    ProjectStore store(room.filePath(QStringLiteral("made/for/it")));
+    ProjectStore store;
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
-    QVERIFY2(store.create(QStringLiteral("Harbour"),
+    QVERIFY2(store.create(room.filePath(QStringLiteral("made/for/it")), QStringLiteral("Harbour"),
                           {{QStringLiteral("data/Actors.json"), QStringLiteral("[null,\"\u5730\"]")},
                            {QStringLiteral("data/broken.json"), QStringLiteral("[")}},
                           &error),
@@ -41,16 +43,37 @@ void TestProjectStore::writesTheFilesIntoANewFolder()
 void TestProjectStore::touchesNothingThatIsThere()
 {
     const QTemporaryDir room;
-    ProjectStore store(room.path());
+    ProjectStore store;
     QString error;
     const QMap<QString, QString> first = {{QStringLiteral("a.json"), QStringLiteral("[1]")}};
-    QVERIFY(store.create(QStringLiteral("P"), first, &error));
-    QVERIFY(store.create(QStringLiteral("P"), {{QStringLiteral("a.json"), QStringLiteral("[2]")}}, &error));
+    QVERIFY(store.create(room.path(), QStringLiteral("P"), first, &error));
+    QVERIFY(store.create(room.path(), QStringLiteral("P"),
+                         {{QStringLiteral("a.json"), QStringLiteral("[2]")}}, &error));
     QCOMPARE(store.path(), room.filePath(QStringLiteral("P (2)")));
     QCOMPARE(store.file(QStringLiteral("a.json")).array().at(0).toInt(), 2);
     QFile old(room.filePath(QStringLiteral("P/a.json")));
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("[1]"));
+}
+
+void TestProjectStore::refusesNamesThatAreNoFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"", ".", "..", "../P", "a/b", "/tmp/P"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestProjectStore::refusesNamesThatAreNoFolder()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir room;
+    ProjectStore store;
+    QString error;
+    QVERIFY(!store.create(room.path(), name, {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error));
+    QVERIFY(error.contains(QStringLiteral("name")));
+    QVERIFY(store.path().isEmpty());
+    QVERIFY(QDir(room.path()).isEmpty());
 }
 
 void TestProjectStore::refusesPathsThatLeadOut_data()
@@ -65,9 +88,9 @@ void TestProjectStore::refusesPathsThatLeadOut()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
-    ProjectStore store(room.path());
+    ProjectStore store;
     QString error;
-    QVERIFY(!store.create(QStringLiteral("P"), {{name, QStringLiteral("[]")}}, &error));
+    QVERIFY(!store.create(room.path(), QStringLiteral("P"), {{name, QStringLiteral("[]")}}, &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(store.path().isEmpty());
     QVERIFY(QDir(room.path()).isEmpty());
@@ -76,12 +99,12 @@ void TestProjectStore::refusesPathsThatLeadOut()
 void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 {
     const QTemporaryDir room;
-    ProjectStore store(room.path());
+    ProjectStore store;
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
     // "a" cannot be a file and a folder.
     QVERIFY(!store.create(
-        QStringLiteral("P"),
+        room.path(), QStringLiteral("P"),
         {{QStringLiteral("a"), QStringLiteral("x")}, {QStringLiteral("a/b.json"), QStringLiteral("[]")}},
         &error));
     QVERIFY(!error.isEmpty());
@@ -91,7 +114,7 @@ void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 
 void TestProjectStore::hasNoFilesBeforeAProjectIsOpen()
 {
-    const ProjectStore store(QDir::tempPath());
+    const ProjectStore store;
     QVERIFY(store.file(QStringLiteral("data/Actors.json")).isNull());
 }
 

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void createOpensTheStartMapsUnderTheTypedName();
     void everyCommandIsSafeWithNoProject();
     void everyNameIsKnown();
+    void dataFilesReplaceWhatIsOpen();
     void toolsModesAndLayersReplaceEachOther_data();
     void toolsModesAndLayersReplaceEachOther();
     void zoomStaysInItsBounds();
@@ -99,6 +100,14 @@ void tst_EditorProject::everyNameIsKnown()
 {
     EditorProject project(data());
     project.run(QStringLiteral("newProject.create"));
+    ProjectContents contents;
+    contents.maps = {GameMap::blank(QSize(2, 2), 0)};
+    const QStringList listSources = ProjectContents::sources();
+    for (const QString &source : listSources) {
+        QCOMPARE(project.currentRow(source), -1);
+        contents.names.insert(source, {QStringLiteral("One"), QStringLiteral("Two")});
+    }
+    project.show(contents);
     project.run(QStringLiteral("map.edit"));
     const QStringList fields = EditorProject::fields();
     for (const QString &field : fields)
@@ -110,6 +119,46 @@ void tst_EditorProject::everyNameIsKnown()
     QCOMPARE(project.currentRow(QStringLiteral("other")), -1);
     QVERIFY(project.rows(QStringLiteral("other")).isEmpty());
     QVERIFY(!project.isOn(QStringLiteral("map.undo")).has_value());
+}
+
+void tst_EditorProject::dataFilesReplaceWhatIsOpen()
+{
+    ProjectContents contents;
+    contents.maps = {GameMap::blank(QSize(3, 2), 4)};
+    contents.maps[0].name = QStringLiteral("Cellar");
+    const QString items = QStringLiteral("items");
+    contents.names.insert(items, {QStringLiteral("Herb"), QStringLiteral("Bread")});
+
+    EditorProject project(data());
+    project.show(contents);
+    QVERIFY(!project.isOpen());
+    QVERIFY(project.rows(items).isEmpty());
+
+    // The place of the new project, at which the data files are awaited.
+    const QSignalSpy created(&project, &EditorProject::created);
+    project.setField(QStringLiteral("newProject.name"), QStringLiteral("Quest"));
+    project.setField(QStringLiteral("newProject.location"), QStringLiteral("/games"));
+    project.run(QStringLiteral("newProject.create"));
+    QCOMPARE(created.count(), 1);
+    QCOMPARE(created.first(), (QVariantList{QStringLiteral("/games"), QStringLiteral("Quest")}));
+
+    const QSignalSpy changed(&project, &EditorProject::changed);
+    project.beginStroke();
+    project.paint({{0, 0}});
+    project.show(contents);
+    QVERIFY(!changed.isEmpty());
+    QVERIFY(!project.isModified());
+    QCOMPARE(project.name(), QStringLiteral("Quest"));
+    QCOMPARE(names(project, kMaps), QStringList{QStringLiteral("Cellar")});
+    QCOMPARE(project.map()->size, QSize(3, 2));
+    QCOMPARE(names(project, items), (QStringList{QStringLiteral("Herb"), QStringLiteral("Bread")}));
+    project.setCurrentRow(items, 1);
+    QCOMPARE(project.currentRow(items), 1);
+    project.setCurrentRow(items, 7);
+    QCOMPARE(project.currentRow(items), 1);
+
+    project.run(QStringLiteral("newProject.accept"));
+    QVERIFY(project.rows(items).isEmpty());
 }
 
 void tst_EditorProject::toolsModesAndLayersReplaceEachOther_data()
