@@ -1,36 +1,26 @@
 #include "LessonPanel.h"
 
+#include "LocaleText.h"
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-
-namespace {
-
-QString text(const QString &locale, const QString &en, const QString &ja, const QString &zh)
-{
-    if (locale == QLatin1String("ja_JP")) {
-        return ja;
-    }
-    return locale == QLatin1String("zh_CN") ? zh : en;
-}
-
-} // namespace
 
 LessonPanel::LessonPanel(const QString &locale)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
     , m_locale(locale)
     , m_lessons(new QComboBox)
     , m_start(new QPushButton(
-          text(locale, QStringLiteral("Start"), QStringLiteral("はじめる"), QStringLiteral("开始"))))
-    , m_skip(new QPushButton(text(locale, QStringLiteral("Skip step"), QStringLiteral("この手順をとばす"),
-                                  QStringLiteral("跳过此步"))))
+          localeText(locale, QStringLiteral("Start"), QStringLiteral("はじめる"), QStringLiteral("开始"))))
+    , m_skip(new QPushButton(localeText(locale, QStringLiteral("Skip step"),
+                                        QStringLiteral("この手順をとばす"), QStringLiteral("跳过此步"))))
     , m_status(new QLabel)
 {
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(
-        text(locale, QStringLiteral("Lessons"), QStringLiteral("レッスン"), QStringLiteral("课程")));
+        localeText(locale, QStringLiteral("Lessons"), QStringLiteral("レッスン"), QStringLiteral("课程")));
     m_lessons->setObjectName(QStringLiteral("lessonsComboBox"));
     m_start->setObjectName(QStringLiteral("startButton"));
     m_skip->setObjectName(QStringLiteral("skipButton"));
@@ -66,34 +56,42 @@ void LessonPanel::showStep(const QString &lessonName, int number, int count)
     if (row >= 0) {
         m_lessons->setCurrentIndex(row);
     }
-    m_start->setText(text(m_locale, QStringLiteral("Start again"), QStringLiteral("はじめから"),
-                          QStringLiteral("重新开始")));
+    m_start->setText(localeText(m_locale, QStringLiteral("Start again"), QStringLiteral("はじめから"),
+                                QStringLiteral("重新开始")));
     m_skip->setEnabled(true);
-    m_status->setText(text(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
-                           QStringLiteral("第 %1 步，共 %2 步"))
+    m_status->setText(localeText(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
+                                 QStringLiteral("第 %1 步，共 %2 步"))
                           .arg(number)
                           .arg(count));
+}
+
+void LessonPanel::showClosed(const QString &windowTitle)
+{
+    m_status->setText(localeText(m_locale, QStringLiteral("Open \"%1\" again, or skip the step."),
+                                 QStringLiteral("「%1」をもう一度開くか、手順をとばしてください。"),
+                                 QStringLiteral("请重新打开“%1”，或跳过此步。"))
+                          .arg(windowTitle));
 }
 
 void LessonPanel::showFinished()
 {
     m_skip->setEnabled(false);
-    m_status->setText(text(m_locale, QStringLiteral("The lesson is finished."),
-                           QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
+    m_status->setText(localeText(m_locale, QStringLiteral("The lesson is finished."),
+                                 QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
 }
 
 void LessonPanel::showRefused(const QString &lessonName)
 {
     m_skip->setEnabled(false);
-    m_status->setText(text(m_locale, QStringLiteral("\"%1\" cannot be opened."),
-                           QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
+    m_status->setText(localeText(m_locale, QStringLiteral("\"%1\" cannot be opened."),
+                                 QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
                           .arg(titleOf(lessonName)));
 }
 
 void LessonPanel::showSilent()
 {
-    m_status->setText(text(m_locale, QStringLiteral("The guide does not answer."),
-                           QStringLiteral("ガイドが応答しません。"), QStringLiteral("向导没有响应。")));
+    m_status->setText(localeText(m_locale, QStringLiteral("The guide does not answer."),
+                                 QStringLiteral("ガイドが応答しません。"), QStringLiteral("向导没有响应。")));
 }
 
 QString LessonPanel::titleOf(const QString &lessonName) const

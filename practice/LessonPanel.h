@@ -19,6 +19,8 @@ public:
 
     void setLessons(const QVector<LessonSession::Lesson> &lessons);
     void showStep(const QString &lessonName, int number, int count);
+    /// The step is in a window called @p windowTitle that the person has closed.
+    void showClosed(const QString &windowTitle);
     void showFinished();
     void showRefused(const QString &lessonName);
     void showSilent();

@@ -49,14 +49,22 @@ LessonSession::LessonSession(EditorWindows *windows, QObject *parent)
     });
 
     connect(windows, &EditorWindows::happened, &m_runner, &ScenarioRunner::handle);
-    connect(windows, &EditorWindows::pushed, this, [this](const QString &key) {
-        Q_EMIT sends({QStringLiteral("windowStack"), QStringLiteral("push"), key});
-    });
+    connect(windows, &EditorWindows::pushed, this, &LessonSession::sendPush);
     connect(windows, &EditorWindows::popped, this, [this] {
-        Q_EMIT sends({QStringLiteral("windowStack"), QStringLiteral("pop")});
-        if (m_runner.isRunning() && m_pointing && !bubbleTarget()) {
-            sendStep();
+        sendPop();
+        onWindowGone();
+    });
+    connect(windows, &EditorWindows::popupAbandoned, this, [this] {
+        // Whether the companion has taken the popup off already cannot be known here: its stack is emptied,
+        // which one pop too many does not harm, and told anew.
+        const QStringList keys = m_windows->openWindows();
+        for (int i = 0; i <= keys.size(); ++i) {
+            sendPop();
         }
+        for (const QString &key : keys) {
+            sendPush(key);
+        }
+        onWindowGone();
     });
     connect(windows, &EditorWindows::moved, this, &LessonSession::onMoved);
     connect(windows, &EditorWindows::controlMoved, this, [this](const QString &name, const QPoint &position) {
@@ -132,6 +140,11 @@ std::optional<QPoint> LessonSession::bubbleTarget() const
         return {};
     }
     return origin + QPoint(step.x, step.y);
+}
+
+bool LessonSession::lacksWindow() const
+{
+    return m_runner.isRunning() && m_runner.step().hasPosition() && !bubbleTarget();
 }
 
 void LessonSession::begin(const QString &scenarioText, int id)
@@ -230,11 +243,28 @@ void LessonSession::onMoved(const QString &windowKey, const QPoint &origin)
     }
 }
 
+void LessonSession::onWindowGone()
+{
+    if (m_runner.isRunning() && m_pointing && !bubbleTarget()) {
+        sendStep();
+    }
+}
+
+void LessonSession::sendPush(const QString &windowKey)
+{
+    Q_EMIT sends({QStringLiteral("windowStack"), QStringLiteral("push"), windowKey});
+}
+
+void LessonSession::sendPop()
+{
+    Q_EMIT sends({QStringLiteral("windowStack"), QStringLiteral("pop")});
+}
+
 void LessonSession::sendWindows()
 {
     const QStringList keys = m_windows->openWindows();
     for (const QString &key : keys) {
-        Q_EMIT sends({QStringLiteral("windowStack"), QStringLiteral("push"), key});
+        sendPush(key);
         const QPoint origin = m_windows->origin(key);
         Q_EMIT sends({QStringLiteral("windowPosition"), key, number(origin.x()), number(origin.y())});
     }
@@ -260,4 +290,5 @@ void LessonSession::sendStep()
     Q_EMIT sends({QStringLiteral("indicator"), QStringLiteral("update"), number(position.x()),
                   number(position.y()), step.windowKey, step.hint, number(flagsOf(step)),
                   number(step.iconKind())});
+    Q_EMIT stepTold();
 }

@@ -47,6 +47,8 @@ public:
     /// Where the bubble's window was sent for the present step, in global screen pixels; nothing when the
     /// step points nowhere or its window is not open.
     [[nodiscard]] std::optional<QPoint> bubbleTarget() const;
+    /// Whether the present step points into a window that is not open.
+    [[nodiscard]] bool lacksWindow() const;
 
 Q_SIGNALS:
     /// Fields of a command for the companion.
@@ -54,6 +56,8 @@ Q_SIGNALS:
     void lessonsListed(const QVector<LessonSession::Lesson> &lessons);
     void started();
     void stepReached();
+    /// The companion was told the step: it was reached, or its window closed or opened again.
+    void stepTold();
     /// The lesson was played to its end.
     void finished();
     /// The companion was asked for data files.
@@ -73,6 +77,9 @@ private:
     void runCommand(const QString &command);
     void onStepReached();
     void onMoved(const QString &windowKey, const QPoint &origin);
+    void onWindowGone();
+    void sendPush(const QString &windowKey);
+    void sendPop();
     void sendWindows();
     void sendApplicationSize();
     void sendStep();

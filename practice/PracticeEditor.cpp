@@ -1,5 +1,6 @@
 #include "PracticeEditor.h"
 
+#include "LocaleText.h"
 #include "pilot/Pilot.h"
 #include "window/EditorWindows.h"
 
@@ -85,9 +86,12 @@ void PracticeEditor::connectSession()
                     m_session.request(m_lessonName);
                 }
             });
-    connect(&m_session, &LessonSession::stepReached, this, [this] {
+    connect(&m_session, &LessonSession::stepTold, this, [this] {
         const ScenarioRunner &runner = m_session.runner();
         m_panel.showStep(m_session.lessonName(), runner.index() + 1, runner.scenario().size());
+        if (m_session.lacksWindow()) {
+            m_panel.showClosed(m_windows->title(runner.step().windowKey));
+        }
     });
     connect(&m_session, &LessonSession::finished, this, [this] {
         m_lessonName.clear();
@@ -113,7 +117,7 @@ void PracticeEditor::connectProject()
 void PracticeEditor::makePilot()
 {
     const QString title = QStringLiteral("lesson %1 (%2)").arg(m_options.lesson).arg(m_options.locale);
-    m_pilot = new Pilot(&m_session, {title, m_options.shotsFolder}, this);
+    m_pilot = new Pilot(&m_session, {title, m_options.pilotAnswersYes, m_options.shotsFolder}, this);
     connect(m_pilot, &Pilot::progress, this, [](const QString &line) { printLine(stdout, line); });
     connect(m_pilot, &Pilot::ended, this, [this](const QString &failure) {
         if (!failure.isEmpty()) {
@@ -139,19 +143,36 @@ void PracticeEditor::onLost(const QString &lastWords)
         m_pilot->fail(QStringLiteral("the companion ended"));
         return;
     }
-    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Practice editor"),
-                                QStringLiteral("The guide ended unexpectedly. Your project is not affected.\n"
-                                               "Restart it? The lesson begins again."));
+    auto *box = new QMessageBox(
+        QMessageBox::Warning, practiceEditorText(),
+        inWords(QStringLiteral("The guide ended unexpectedly. Your project is not affected.\n"
+                               "Restart it? The lesson begins again."),
+                QStringLiteral("ガイドが突然終了しました。プロジェクトには影響ありません。\n"
+                               "もう一度起動しますか？レッスンは最初からになります。"),
+                QStringLiteral("向导意外结束了。您的项目不受影响。\n要重新启动吗？课程会从头开始。")));
     box->setObjectName(QStringLiteral("lostMessageBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QPushButton *const restart = box->addButton(QStringLiteral("Restart"), QMessageBox::AcceptRole);
-    box->addButton(QStringLiteral("Go on without"), QMessageBox::RejectRole);
+    QPushButton *const restart = box->addButton(
+        inWords(QStringLiteral("Restart"), QStringLiteral("もう一度起動"), QStringLiteral("重新启动")),
+        QMessageBox::AcceptRole);
+    box->addButton(inWords(QStringLiteral("Go on without"), QStringLiteral("ガイドなしで続ける"),
+                           QStringLiteral("不用向导继续")),
+                   QMessageBox::RejectRole);
     connect(box, &QDialog::finished, this, [this, box, restart] {
         if (box->clickedButton() == restart) {
             restartCompanion();
         }
     });
+    m_lostBox = box;
     box->open();
+}
+
+void PracticeEditor::closeDialogs()
+{
+    const QStringList open = m_windows->openWindows();
+    for (int i = open.size() - 1; i > 0; --i) {
+        m_windows->close(open.at(i));
+    }
 }
 
 void PracticeEditor::restartCompanion()
@@ -169,15 +190,33 @@ void PracticeEditor::tellPerson(const QString &text)
         m_pilot->fail(text);
         return;
     }
-    auto *box =
-        new QMessageBox(QMessageBox::Warning, QStringLiteral("Practice editor"), text, QMessageBox::Ok);
+    auto *box = new QMessageBox(QMessageBox::Warning, practiceEditorText(),
+                                inWords(QStringLiteral("Something went wrong."),
+                                        QStringLiteral("問題が起きました。"), QStringLiteral("出错了。")),
+                                QMessageBox::Ok);
+    box->setInformativeText(text);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
+}
+
+QString PracticeEditor::inWords(const QString &en, const QString &ja, const QString &zh) const
+{
+    return localeText(m_options.locale, en, ja, zh);
+}
+
+QString PracticeEditor::practiceEditorText() const
+{
+    return inWords(QStringLiteral("Practice editor"), QStringLiteral("練習用エディター"),
+                   QStringLiteral("练习编辑器"));
 }
 
 void PracticeEditor::play(const QString &lessonName)
 {
     m_lessonName = lessonName;
+    if (m_lostBox != nullptr) {
+        m_lostBox->close();
+    }
+    closeDialogs();
     if (m_link.isConnected()) {
         m_session.request(lessonName);
     } else {

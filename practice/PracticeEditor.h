@@ -6,11 +6,13 @@
 #include "project/LessonProject.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 class EditorWindows;
 class Pilot;
+class QMessageBox;
 
 /// The practice editor as a whole: joins the windows, the link, the lesson and, if asked for, the pilot.
 class PracticeEditor : public QObject
@@ -24,6 +26,8 @@ public:
         int lesson = 0;
         QString locale;
         bool pilot = false;
+        /// The pilot says Yes to the questions of a lesson, else No.
+        bool pilotAnswersYes = true;
         QString shotsFolder;
         QString companionProgram;
         /// Key of the link; empty for a random one.
@@ -57,6 +61,9 @@ private:
     void onLost(const QString &lastWords);
     void restartCompanion();
     void tellPerson(const QString &text);
+    void closeDialogs();
+    [[nodiscard]] QString inWords(const QString &en, const QString &ja, const QString &zh) const;
+    [[nodiscard]] QString practiceEditorText() const;
     void play(const QString &lessonName);
 
     Options m_options;
@@ -66,6 +73,8 @@ private:
     LessonProject m_lessonProject;
     HostLink m_link;
     Pilot *m_pilot = nullptr;
+    /// Asks about a companion that is gone.
+    QPointer<QMessageBox> m_lostBox;
     /// The lesson to ask for once the companion is there.
     QString m_lessonName;
 };

@@ -61,7 +61,7 @@ void endOnSignals(QApplication *application)
 }
 
 /// Empty when the options make sense.
-QString problemOf(const PracticeEditor::Options &options, const QString &lesson)
+QString problemOf(const PracticeEditor::Options &options, const QString &lesson, const QString &answer)
 {
     if (!lesson.isEmpty() && (options.lesson < 1 || options.lesson > 19)) {
         return QStringLiteral("there is no lesson %1; --lesson takes 1 to 19").arg(lesson);
@@ -72,6 +72,9 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson)
     }
     if (options.pilot && options.lesson == 0) {
         return QStringLiteral("--pilot needs to know which lesson: add --lesson N");
+    }
+    if (answer != QLatin1String("yes") && answer != QLatin1String("no")) {
+        return QStringLiteral("--answers takes yes or no, not \"%1\"").arg(answer);
     }
     return {};
 }
@@ -93,6 +96,10 @@ int main(int argc, char **argv)
     const QCommandLineOption pilot(
         QStringLiteral("pilot"),
         QStringLiteral("Let the lesson play itself, with real mouse and key events."));
+    const QCommandLineOption answers(
+        QStringLiteral("answers"),
+        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default) or no."),
+        QStringLiteral("answer"), QStringLiteral("yes"));
     const QCommandLineOption shots(
         QStringLiteral("shots"), QStringLiteral("With --pilot: leave a picture of each step in this folder."),
         QStringLiteral("folder"));
@@ -106,17 +113,19 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
     parser.addHelpOption();
-    parser.addOptions({lesson, locale, pilot, shots, companion, key});
+    parser.addOptions({lesson, locale, pilot, answers, shots, companion, key});
     parser.process(application);
 
     PracticeEditor::Options options;
     options.lesson = parser.value(lesson).toInt();
     options.locale = parser.value(locale);
     options.pilot = parser.isSet(pilot);
+    options.pilotAnswersYes = parser.value(answers) != QLatin1String("no");
     options.shotsFolder = parser.value(shots);
     options.companionProgram = parser.value(companion);
     options.key = parser.value(key);
-    if (const QString problem = problemOf(options, parser.value(lesson)); !problem.isEmpty()) {
+    if (const QString problem = problemOf(options, parser.value(lesson), parser.value(answers));
+        !problem.isEmpty()) {
         return complain(problem);
     }
     // The pilot's projects are nobody's.

@@ -262,8 +262,10 @@ void Pilot::actOnce()
 
 void Pilot::pressButton()
 {
-    // Next, or the left one of Yes and No, whose right edge lies below the other.
-    const QRect button = m_seen.buttons.constFirst();
+    // Next, or Yes on the left, whose right edge lies below No.
+    const bool isYesNo = m_session->runner().step().condition.type() == Type::kYesNo;
+    const QRect button =
+        isYesNo && !m_settings.answersYes ? m_seen.buttons.constLast() : m_seen.buttons.constFirst();
     const QPoint spot(button.x() + button.width() / 3, button.center().y());
     m_done += QStringLiteral("%1 a click on the button at (%2, %3)")
                   .arg(m_done.isEmpty() ? QString() : QStringLiteral(" and"))

@@ -26,6 +26,8 @@ public:
     {
         /// How the lesson is called in messages, such as "lesson 1 (ja_JP)".
         QString title;
+        /// Which button it presses where a step asks a question: Yes, else No.
+        bool answersYes = true;
         /// Pictures of the whole screen go here, one for each step; none when empty.
         QString shotsFolder;
     };

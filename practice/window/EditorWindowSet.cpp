@@ -60,8 +60,10 @@ EditorWindowSet::EditorWindowSet(DescriptionSet descriptions, ProjectData data, 
     connect(m_project.get(), &EditorProject::changed, this, &EditorWindowSet::updateTitle);
     connect(m_project.get(), &EditorProject::created, this, &EditorWindows::projectCreated);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationInactive)
-            hidePopup();
+        if (state == Qt::ApplicationInactive && m_popup != nullptr) {
+            std::exchange(m_popup, nullptr)->hide();
+            Q_EMIT popupAbandoned();
+        }
     });
     qApp->installEventFilter(this);
 }
@@ -80,7 +82,8 @@ void EditorWindowSet::build()
                 ->move(description.place);
         } else if (description.kind == Kind::kWindow && key != mainKey()) {
             EditorWindow *window = add(key, description.size, description.controls, m_main.get(), Qt::Dialog);
-            window->setWindowModality(Qt::ApplicationModal);
+            // Blocks the editor, and not the lesson strip, with which the person passes a step.
+            window->setWindowModality(Qt::WindowModal);
             window->setWindowTitle(m_context.text(description.title));
             if (description.closesAfterMs > 0) {
                 auto *timer = new QTimer(window);
@@ -198,6 +201,14 @@ QPoint EditorWindowSet::origin(const QString &windowKey) const
                                                           : screenRect().topLeft();
     const EditorWindow *window = m_windows[windowKey];
     return window->isVisible() ? window->mapToGlobal(QPoint()) : QPoint();
+}
+
+QString EditorWindowSet::title(const QString &windowKey) const
+{
+    if (!m_descriptions.contains(windowKey))
+        return {};
+    const WindowDescription &description = m_descriptions[windowKey];
+    return m_context.text(description.title);
 }
 
 QRect EditorWindowSet::screenRect() const

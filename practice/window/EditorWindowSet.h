@@ -18,10 +18,9 @@ class EditorWindowSet : public EditorWindows
     Q_OBJECT
 
 public:
-    /// Builds the windows described in @p folder with the texts of @p locale, English
-    /// where that is not one of the three. Gives nullptr and adds a line
-    /// to
-    /// @p errors for each thing that is wrong with a file; each names the file, the place and the mend.
+    /// Builds the windows described in @p folder with the texts of @p locale, English where that is not one
+    /// of the three. Gives nullptr and adds a line to @p errors for each thing that is wrong with a file;
+    /// each names the file, the place and the mend.
     static std::unique_ptr<EditorWindowSet> create(const QString &locale, QStringList *errors,
                                                    const QString &folder = QStringLiteral(":/windows"));
     ~EditorWindowSet() override;
@@ -30,6 +29,7 @@ public:
     void close(const QString &windowKey) override;
     [[nodiscard]] QStringList openWindows() const override;
     [[nodiscard]] QPoint origin(const QString &windowKey) const override;
+    [[nodiscard]] QString title(const QString &windowKey) const override;
     [[nodiscard]] QRect screenRect() const override;
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 

@@ -31,6 +31,9 @@ public:
     /// positions in a scenario. (0, 0) for a window that is not open.
     [[nodiscard]] virtual QPoint origin(const QString &windowKey) const = 0;
 
+    /// How the window is called in the person's language; empty when no description has the key, or no title.
+    [[nodiscard]] virtual QString title(const QString &windowKey) const = 0;
+
     /// Rectangle of the whole screen area of the editor in global screen pixels.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 
@@ -56,6 +59,10 @@ Q_SIGNALS:
 
     /// The topmost entry of the stack went away. Emitted before the matching happened().
     void popped(const QString &windowKey);
+
+    /// The popup closed because another program became active. Takes the place of popped(): when that program
+    /// is the companion, it has taken "Popup" off its stack by itself, or is about to.
+    void popupAbandoned();
 
     /// The window's origin is now here (global screen pixels); also emitted when it opens.
     void moved(const QString &windowKey, const QPoint &origin);

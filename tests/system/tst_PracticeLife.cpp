@@ -184,6 +184,8 @@ void TestPracticeLife::wrongOptionsAreSaid_data()
                                     << QByteArray("no locale fr_FR");
     QTest::newRow("a pilot without a lesson")
         << QStringList{QStringLiteral("--pilot")} << QByteArray("--lesson N");
+    QTest::newRow("an answer that is none")
+        << QStringList{QStringLiteral("--answers"), QStringLiteral("maybe")} << QByteArray("not \"maybe\"");
     QTest::newRow("a key that names no server")
         << QStringList{QStringLiteral("--key"), QStringLiteral("a/b/c")} << QByteArray("cannot listen");
 }

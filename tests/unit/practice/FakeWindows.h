@@ -52,6 +52,10 @@ public:
     {
         return m_origins.value(windowKey);
     }
+    [[nodiscard]] QString title(const QString &windowKey) const override
+    {
+        return windowKey + QStringLiteral("!");
+    }
     [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
     void setProjectsFolder(const QString & /*folder*/) override {}
     void showProject(const QMap<QString, QString> & /*files*/) override {}

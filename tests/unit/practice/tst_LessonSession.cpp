@@ -38,6 +38,8 @@ private Q_SLOTS:
     void followsTheWindowOfTheStep();
     void pointsAgainWhenTheWindowComesBack();
     void passesOnWhatTheWindowsDo();
+    void tellsTheStackAnewAfterAnAbandonedPopup();
+    void knowsWhenTheWindowOfTheStepIsClosed();
     void stopsAtTheEnd();
     void theCompanionsButtonsGoOn();
     void waitsByTheClock();
@@ -233,6 +235,51 @@ void TestLessonSession::passesOnWhatTheWindowsDo()
     QCOMPARE(sent(), (QStringList{QStringLiteral("windowStack|push|Popup"), QStringLiteral("windowStack|pop"),
                                   QStringLiteral("controlPosition|ok|3|4"), QStringLiteral("state|hide"),
                                   QStringLiteral("state|show")}));
+}
+
+void TestLessonSession::tellsTheStackAnewAfterAnAbandonedPopup()
+{
+    m_windows->open(QStringLiteral("Copying"));
+    m_session->receive(startCommand(kPointing));
+    Q_EMIT m_windows->pushed(QStringLiteral("Popup"));
+    sent();
+    Q_EMIT m_windows->popupAbandoned();
+    const QStringList told = sent();
+
+    // What the companion makes of it, whether it took "Popup" away by itself before, or did not.
+    for (QStringList stack :
+         {QStringList{QStringLiteral("MainWindow"), QStringLiteral("Copying")},
+          QStringList{QStringLiteral("MainWindow"), QStringLiteral("Copying"), QStringLiteral("Popup")}}) {
+        for (const QString &command : told) {
+            if (command == QLatin1String("windowStack|pop")) {
+                if (!stack.isEmpty()) {
+                    stack.removeLast();
+                }
+            } else {
+                QVERIFY2(command.startsWith(QLatin1String("windowStack|push|")), qPrintable(command));
+                stack.append(command.section(QLatin1Char('|'), 2));
+            }
+        }
+        QCOMPARE(stack, m_windows->openWindows());
+    }
+}
+
+void TestLessonSession::knowsWhenTheWindowOfTheStepIsClosed()
+{
+    QSignalSpy told(m_session, &LessonSession::stepTold);
+    QVERIFY(!m_session->lacksWindow());
+    m_session->receive(startCommand(
+        QStringLiteral(R"({"id":1,"x":1,"y":2,"windowKey":"Copying","condition":"list,1","hint":"h"})")));
+    QCOMPARE(told.size(), 1);
+    QVERIFY(m_session->lacksWindow());
+    m_windows->open(QStringLiteral("Copying"));
+    QCOMPARE(told.size(), 2);
+    QVERIFY(!m_session->lacksWindow());
+    m_windows->close(QStringLiteral("Copying"));
+    QCOMPARE(told.size(), 3);
+    QVERIFY(m_session->lacksWindow());
+    m_session->receive(startCommand(kReading));
+    QVERIFY(!m_session->lacksWindow());
 }
 
 void TestLessonSession::stopsAtTheEnd()

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QtTest>
@@ -37,6 +38,8 @@ public:
                          [this](const QString &key) { told.append(str("pop ") + key); });
         QObject::connect(m_set.get(), &EditorWindows::visibilityChanged, m_set.get(),
                          [this](bool visible) { told.append(visible ? str("visible") : str("invisible")); });
+        QObject::connect(m_set.get(), &EditorWindows::popupAbandoned, m_set.get(),
+                         [this] { told.append(str("abandoned")); });
         QObject::connect(m_set.get(), &EditorWindows::mainWindowClosed, m_set.get(),
                          [this] { told.append(str("main window closed")); });
     }
@@ -142,11 +145,14 @@ private Q_SLOTS:
     void popupClosesAtAPressElsewhere();
     void popupClosesWithEscape();
     void popupIsReplacedByTheNext();
+    void popupIsAbandonedToAnotherProgram();
     void propertiesAreKeptWithOkOnly();
     void pictureIsChosenInItsWindow();
     void doubleClicksOpenAndAccept();
     void returnKeyAcceptsAndEscapeCancels();
     void valuesAreTold();
+    void dialogsBlockTheEditorAndNothingElse();
+    void windowsHaveTitles();
     void minimisingIsTold();
     void closingTheMainWindowEndsEverything();
 };
@@ -585,6 +591,19 @@ void tst_EditorWindowSet::popupIsReplacedByTheNext()
     QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 3);
 }
 
+void tst_EditorWindowSet::popupIsAbandonedToAnotherProgram()
+{
+    Editor editor;
+    editor.openProject();
+    editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+    editor.takeTold();
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(editor.takeTold(), QStringList{str("abandoned")});
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(editor.takeTold(), QStringList());
+}
+
 void tst_EditorWindowSet::propertiesAreKeptWithOkOnly()
 {
     Editor editor;
@@ -676,6 +695,52 @@ void tst_EditorWindowSet::valuesAreTold()
                                              str("checked,showName,1 in MapProperties")}));
     editor.click("MapProperties", "ok");
     QCOMPARE(editor->project()->map()->size, QSize(25, 16));
+}
+
+void tst_EditorWindowSet::dialogsBlockTheEditorAndNothingElse()
+{
+    Editor editor;
+    editor.openProject();
+    // The lesson strip is such a window.
+    QPushButton strip;
+    strip.resize(100, 40);
+    strip.show();
+    QSignalSpy stripClicked(&strip, &QPushButton::clicked);
+    const auto clickIn = [](QWidget *window, const QPoint &position) {
+        // Through the window system, which is where blocked windows lose their events.
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, position);
+    };
+    QWidget *const main = editor->window(str("MainWindow"));
+    auto *undo = editor.find<QAbstractButton>("MainWindow", "editUndo");
+    QSignalSpy mainClicked(undo, &QAbstractButton::clicked);
+    undo->setEnabled(true);
+    const QPoint undoSpot = undo->geometry().center();
+
+    clickIn(main, undoSpot);
+    QCOMPARE(mainClicked.size(), 1);
+    editor->open(str("MapProperties"));
+    editor->open(str("ImageSelector"));
+    clickIn(main, undoSpot);
+    QCOMPARE(mainClicked.size(), 1);
+    auto *cancel = editor.find<QAbstractButton>("MapProperties", "cancel");
+    QSignalSpy cancelled(cancel, &QAbstractButton::clicked);
+    clickIn(cancel->window(), cancel->geometry().center());
+    QCOMPARE(cancelled.size(), 0);
+    clickIn(&strip, QPoint(50, 20));
+    QCOMPARE(stripClicked.size(), 1);
+    editor->close(str("ImageSelector"));
+    clickIn(cancel->window(), cancel->geometry().center());
+    QCOMPARE(cancelled.size(), 1);
+    clickIn(main, undoSpot);
+    QCOMPARE(mainClicked.size(), 2);
+}
+
+void tst_EditorWindowSet::windowsHaveTitles()
+{
+    const Editor editor("ja_JP");
+    QCOMPARE(editor->title(str("MapProperties")), str("マップの設定"));
+    QCOMPARE(editor->title(str("MapEditTreeBox")), str("マップ一覧"));
+    QCOMPARE(editor->title(str("Nowhere")), QString());
 }
 
 void tst_EditorWindowSet::minimisingIsTold()
