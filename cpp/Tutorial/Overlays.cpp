@@ -4,6 +4,8 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "Tutorial/overlay/TutorialLog.h"
 
+#include <utility>
+
 namespace {
 
 // QWidget::show and hide cost allocations even when they change nothing.
@@ -91,20 +93,21 @@ void Overlays::hideEditorTooltip() const
 
 void Overlays::rebuild()
 {
-    if (m_log) {
-        m_log->close();
-        m_log = new TutorialLog(nullptr, &m_host);
+    // A window that goes away changes what is active, and that brings the overlays into step from inside
+    // close(): what is being closed is no longer ours then, or it would be shown again.
+    if (TutorialLog *old = std::exchange(m_log, nullptr)) {
+        old->close();
+        createLog();
     }
-    if (m_indicator) {
-        const QVariantMap settings = m_indicator->getSettings();
-        m_indicator->close();
-        m_indicator = new TutorialIndicator(nullptr, &m_host);
+    if (TutorialIndicator *old = std::exchange(m_indicator, nullptr)) {
+        const QVariantMap settings = old->getSettings();
+        old->close();
+        createIndicator();
         m_indicator->setSettings(settings);
     }
-    if (m_editorTooltip) {
-        const QVariantMap settings = m_editorTooltip->getSettings();
-        // Closing takes the pointer away, through the host.
-        m_editorTooltip->close();
+    if (EditorTooltip *old = std::exchange(m_editorTooltip, nullptr)) {
+        const QVariantMap settings = old->getSettings();
+        old->close();
         m_editorTooltip = new EditorTooltip(nullptr, &m_host);
         m_editorTooltip->setSettings(settings);
     }

@@ -11,8 +11,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 
 /// A manager in the test's own process, linked to a server of the test. The key stands in the arguments that
@@ -41,6 +39,13 @@ public:
 
     /// Runs a command as if it had come over the link.
     void receive(const QStringList &fields) const { manager->onReceived(fields.join(QChar(1))); }
+
+    /// Writes bytes to the link.
+    void write(const QByteArray &bytes) const
+    {
+        m_socket->write(bytes);
+        m_socket->flush();
+    }
 
     /// Waits for the next payload that is not "alive".
     QString nextPayload()
@@ -75,15 +80,25 @@ private:
     QByteArray m_bytes;
 };
 
+/// The top-level widgets of one class.
+template<typename Widget>
+QList<Widget *> topLevels()
+{
+    QList<Widget *> found;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *match = qobject_cast<Widget *>(widget)) {
+            found.append(match);
+        }
+    }
+    return found;
+}
+
 /// Deletes the overlays that a manager left behind, which it does not own. Call it when the manager is gone.
 inline void deleteOverlays()
 {
     // An indicator owns its windows, so the indicators go first.
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    QWidgetList indicators;
-    std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(indicators),
-                 [](QWidget *widget) { return qobject_cast<TutorialIndicator *>(widget) != nullptr; });
-    qDeleteAll(indicators);
+    qDeleteAll(topLevels<TutorialIndicator>());
     const QWidgetList others = QApplication::topLevelWidgets();
     qDeleteAll(others);
 }

@@ -6,10 +6,12 @@
 #include "Tutorial/overlay/TutorialLog.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 
+#include <QFile>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -26,20 +28,10 @@ QStringList methodsOf(const QMetaObject &meta, QMetaMethod::MethodType type)
     return names;
 }
 
-template<typename Widget>
-QList<Widget *> topLevels()
+QString greeting()
 {
-    QList<Widget *> found;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *match = qobject_cast<Widget *>(widget)) {
-            found.append(match);
-        }
-    }
-    return found;
+    return QStringLiteral("fromServer");
 }
-
-const QString kGreeting = QStringLiteral("fromServer");
 
 } // namespace
 
@@ -75,6 +67,7 @@ private Q_SLOTS:
     void supports_no_making();
     void answers_the_cursor_position();
     void hands_over_from_an_id();
+    void hands_over_a_text_that_holds_an_end();
     void keeps_the_base_name_of_a_lesson_data();
     void keeps_the_base_name_of_a_lesson();
     void announces_a_lesson_name_once();
@@ -87,6 +80,7 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<ManagerFixture> m_fixture;
+    QStringList m_order; // of signals
 };
 
 void tst_TutorialManager::init()
@@ -252,8 +246,8 @@ void tst_TutorialManager::creates_only_the_log_when_started_before_the_greeting(
 
 void tst_TutorialManager::creates_the_overlays_once()
 {
-    m_fixture->receive({kGreeting, QStringLiteral("en_US")});
-    m_fixture->receive({kGreeting, QStringLiteral("zh_CN")});
+    m_fixture->receive({greeting(), QStringLiteral("en_US")});
+    m_fixture->receive({greeting(), QStringLiteral("zh_CN")});
     QCOMPARE(topLevels<TutorialLog>().size(), 1);
     QCOMPARE(topLevels<TutorialIndicator>().size(), 1);
     QVERIFY(!topLevels<TutorialTooltip>().constFirst()->isVisible());
@@ -268,7 +262,7 @@ void tst_TutorialManager::creates_the_overlays_once()
 
 void tst_TutorialManager::moves_the_indicator_by_name()
 {
-    m_fixture->receive({kGreeting, QStringLiteral("en_US")});
+    m_fixture->receive({greeting(), QStringLiteral("en_US")});
     m_fixture->receive({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("1"),
                         QStringLiteral("2"), QStringLiteral("MainWindow"), QStringLiteral("hint"),
                         QStringLiteral("0"), QStringLiteral("0")});
@@ -391,6 +385,21 @@ void tst_TutorialManager::hands_over_from_an_id()
     QVERIFY(!manager->running());
 }
 
+void tst_TutorialManager::hands_over_a_text_that_holds_an_end()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("own.js")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"(var scenario = [{"id":1,"name":"a","hint":"b\u005d;c"}];)");
+    file.close();
+    QCOMPARE(m_fixture->manager->loadTutorial(file.fileName()), QString());
+    m_fixture->manager->startFromId();
+    // The end that is taken off is the first one, wherever it stands.
+    const QString payload = m_fixture->nextPayload();
+    QVERIFY2(payload.contains(QStringLiteral("\"hint\":\"b]c\"")), qPrintable(payload));
+    QVERIFY2(payload.endsWith(QStringLiteral("\n];;\x01-1")), qPrintable(payload));
+}
+
 void tst_TutorialManager::keeps_the_base_name_of_a_lesson_data()
 {
     QTest::addColumn<QString>("filename");
@@ -445,16 +454,15 @@ void tst_TutorialManager::changes_the_locale()
     TutorialManager *manager = m_fixture->manager.get();
     QCOMPARE(manager->locale(), QStringLiteral("en_US"));
     QCOMPARE(manager->locale2(), QStringLiteral("ja_JP"));
-    QStringList order;
     connect(manager, &TutorialManager::localeChanged, this,
-            [&order] { order.append(QStringLiteral("locale")); });
+            [this] { m_order.append(QStringLiteral("locale")); });
     connect(manager, &TutorialManager::locale2Changed, this,
-            [&order] { order.append(QStringLiteral("locale2")); });
+            [this] { m_order.append(QStringLiteral("locale2")); });
     LogCapture log;
     manager->setProperty("locale", QStringLiteral("ja_JP"));
     QCOMPARE(manager->locale(), QStringLiteral("ja_JP"));
     QCOMPARE(manager->locale2(), QStringLiteral("en_US"));
-    QCOMPARE(order, (QStringList{QStringLiteral("locale2"), QStringLiteral("locale")}));
+    QCOMPARE(m_order, (QStringList{QStringLiteral("locale2"), QStringLiteral("locale")}));
     QCOMPARE(QSettings().value(QStringLiteral("debugLocale")).toString(), QStringLiteral("ja_JP"));
     QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale 2204 \"ja_JP\"")));
     QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale2 2226 \"en_US\"")));
@@ -485,7 +493,7 @@ void tst_TutorialManager::survives_hostile_numbers()
 {
     const QStringList numbers = {QStringLiteral("2147483647"), QStringLiteral("-2147483648"),
                                  QStringLiteral("-9999"), QStringLiteral("0")};
-    m_fixture->receive({kGreeting, QStringLiteral("en_US")});
+    m_fixture->receive({greeting(), QStringLiteral("en_US")});
     for (const QString &a : numbers) {
         for (const QString &b : numbers) {
             m_fixture->receive({QStringLiteral("start"), a, b, b, a});
