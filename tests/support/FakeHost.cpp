@@ -56,6 +56,18 @@ void FakeHost::disconnectLink()
     m_socket->disconnectFromServer();
 }
 
+void FakeHost::stopReading()
+{
+    readPending();
+    m_socket->setReadBufferSize(1);
+}
+
+void FakeHost::resumeReading()
+{
+    m_socket->setReadBufferSize(0);
+    readPending();
+}
+
 QByteArray FakeHost::frame(const QByteArray &payload, char separator)
 {
     return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';

@@ -34,6 +34,10 @@ public:
     /// The connection goes down.
     void disconnectLink();
 
+    /// Leaves what the program sends where it is, until the system takes no more of it; and takes it again.
+    void stopReading();
+    void resumeReading();
+
     [[nodiscard]] QString key() const { return m_key; }
     [[nodiscard]] QProcess &process() { return m_process; }
     [[nodiscard]] QString settingsFolder() const { return m_folder.path(); }

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void ignores_a_second_show_within_ten_ticks();
     void ignores_show_before_the_greeting();
     void plays_the_document_as_it_stands_after_an_unknown_name();
+    void says_what_did_not_load_and_stays();
     void refuses_a_bad_step_name();
     void reports_preset_data_that_is_not_there();
 };
@@ -201,6 +202,20 @@ void tst_Dispatch::plays_the_document_as_it_stands_after_an_unknown_name()
     QVERIFY2(
         host.log().contains(QRegularExpression(QStringLiteral("TutorialEditor::Manager::setContents 307"))),
         qPrintable(host.log()));
+}
+
+void tst_Dispatch::says_what_did_not_load_and_stays()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    // A file that is there and is no scenario.
+    host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialList")});
+    QVERIFY(host.waitForLog(QStringLiteral(
+        "TutorialManager::loadAndFeedback 1477 Failed to loadTutorial \"json is not array\"")));
+    QVERIFY(host.sync());
+    QVERIFY(host.payloads().isEmpty());
+    host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
+    QVERIFY(host.waitForPayloads(1));
 }
 
 void tst_Dispatch::refuses_a_bad_step_name()

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void hands_over_a_complete_script_data();
     void hands_over_a_complete_script();
     void differs_between_languages_in_the_hints_only();
+    void sends_no_byte_order_mark();
     void falls_back_to_English_for_a_language_without_catalogue();
 
 private:
@@ -24,12 +25,16 @@ private:
 
 namespace {
 
-const QStringList kLocales = {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
+QStringList allLocales()
+{
+    return {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
+}
 
 void addLocales()
 {
     QTest::addColumn<QString>("locale");
-    for (const QString &locale : kLocales) {
+    const QStringList locales = allLocales();
+    for (const QString &locale : locales) {
         QTest::newRow(qPrintable(locale)) << locale;
     }
 }
@@ -113,7 +118,8 @@ void tst_HandOver::hands_over_a_complete_script()
 void tst_HandOver::differs_between_languages_in_the_hints_only()
 {
     QList<QJsonArray> scenarios;
-    for (const QString &locale : kLocales) {
+    const QStringList locales = allLocales();
+    for (const QString &locale : locales) {
         QJsonArray items = scenario(locale);
         QVERIFY(!items.isEmpty());
         for (int i = 0; i < items.size(); ++i) {
@@ -125,6 +131,20 @@ void tst_HandOver::differs_between_languages_in_the_hints_only()
     }
     QCOMPARE(scenarios.at(1), scenarios.at(0));
     QCOMPARE(scenarios.at(2), scenarios.at(0));
+}
+
+void tst_HandOver::sends_no_byte_order_mark()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("tutorialList")});
+    host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
+    host.send({QStringLiteral("requestPresetData"), QStringLiteral("step2")});
+    QVERIFY(host.waitForPayloads(3));
+    QVERIFY(host.payloads().at(0).startsWith(QStringLiteral("tutorialList\x01[")));
+    QVERIFY(host.payloads().at(1).startsWith(QStringLiteral("start\x01var scenario = [")));
+    QVERIFY(host.payloads().at(2).startsWith(QStringLiteral("feedbackPresetData\x01{")));
+    QVERIFY(!host.receivedBytes().contains("\xEF\xBB\xBF"));
 }
 
 void tst_HandOver::falls_back_to_English_for_a_language_without_catalogue()

@@ -1,5 +1,6 @@
 #include "FakeHost.h"
 
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -20,13 +21,54 @@ private Q_SLOTS:
     void recovers_after_an_invalid_payload_size();
     void recovers_after_a_missing_terminator();
     void logs_128_characters_of_what_it_sends_and_sends_all();
+    void waits_for_no_host_that_stops_reading();
+    void takes_no_memory_ahead_of_a_huge_length();
+    void survives_every_field_in_every_place();
     void survives_hostile_bytes();
     void survives_hostile_commands();
 };
 
 namespace {
 
-const QStringList kAskForList = {QStringLiteral("tutorialList")};
+QStringList askForList()
+{
+    return {QStringLiteral("tutorialList")};
+}
+
+QByteArrayList commandWords()
+{
+    return {"start",
+            "stop",
+            "contents",
+            "tutorialList",
+            "state",
+            "indicator",
+            "log",
+            "windowStack",
+            "tutorial",
+            "windowPosition",
+            "fromServer",
+            "showTooltip",
+            "controlPosition",
+            "applicationWindowSize",
+            "requestPresetData",
+            "hideTooltip"};
+}
+
+QByteArrayList hostileFields()
+{
+    return {"",      "0",    "-1",    "-9999",        "2147483647", "-2147483648", "99999999999",
+            "show",  "hide", "push",  "pop",          "update",     "updateXy",    "append",
+            "ja_JP", "-",    "step1", "step99999",    "../../x",    "%1%2",        "<b>&\\\n",
+            "\xff",  "7",    "Popup", "TutorialStep1"};
+}
+
+/// The address space that a process has taken, in pages.
+qint64 pagesOf(const QProcess &process)
+{
+    QFile file(QStringLiteral("/proc/%1/statm").arg(process.processId()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(0).toLongLong() : -1;
+}
 
 } // namespace
 
@@ -91,7 +133,7 @@ void tst_Link::counts_bytes_in_the_length_of_an_answer()
 {
     FakeHost host;
     QVERIFY(host.start(QStringLiteral("ja_JP")));
-    host.send(kAskForList);
+    host.send(askForList());
     QVERIFY(host.waitForPayloads(1));
     const QString list = host.payloads().at(0);
     const QByteArray utf8 = list.toUtf8();
@@ -105,7 +147,7 @@ void tst_Link::drops_what_stands_behind_bye_and_stays()
     FakeHost host;
     QVERIFY(host.start());
     host.write(FakeHost::frame("tutorialList\x02"
-                               "bye\x02tutorialList") +
+                               "bye\x01now\x02tutorialList") +
                FakeHost::frame("tutorialList"));
     // What follows must not come with the same read.
     QVERIFY(host.waitForPayloads(1));
@@ -133,7 +175,7 @@ void tst_Link::recovers_after_an_invalid_payload_size()
     QVERIFY(host.start());
     host.write("0zzzzzzzz\x02tutorialList");
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReadyRead 368 Invalid payload size")));
-    host.send(kAskForList);
+    host.send(askForList());
     QVERIFY(host.waitForPayloads(1));
 }
 
@@ -144,7 +186,7 @@ void tst_Link::recovers_after_a_missing_terminator()
     host.write("000000002\x02"
                "abc");
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReadyRead 390 Terminator not found")));
-    host.send(kAskForList);
+    host.send(askForList());
     QVERIFY(host.waitForPayloads(1));
 }
 
@@ -152,7 +194,7 @@ void tst_Link::logs_128_characters_of_what_it_sends_and_sends_all()
 {
     FakeHost host;
     QVERIFY(host.start());
-    host.send(kAskForList);
+    host.send(askForList());
     QVERIFY(host.waitForPayloads(1));
     const QString payload = host.payloads().at(0);
     QVERIFY(payload.size() > 300);
@@ -161,6 +203,64 @@ void tst_Link::logs_128_characters_of_what_it_sends_and_sends_all()
     QDebug(&shown) << payload.left(128);
     QVERIFY2(host.log().contains(QStringLiteral("TutorialManager::send 1396 ") + shown),
              qPrintable(host.log()));
+}
+
+void tst_Link::waits_for_no_host_that_stops_reading()
+{
+    constexpr int kLessons = 20;
+    FakeHost host;
+    QVERIFY(host.start());
+    host.stopReading();
+    for (int lesson = 0; lesson < kLessons; ++lesson) {
+        host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
+    }
+    // Far more than a socket takes by itself, and still it listens.
+    QVERIFY(host.sync());
+    QVERIFY(host.receivedBytes().size() < 100000);
+    QCOMPARE(host.log().count(QStringLiteral("TutorialManager::send 1396 \"start\\u0001var scenario")),
+             kLessons);
+    host.resumeReading();
+    QVERIFY(host.waitForPayloads(kLessons));
+    QVERIFY(host.receivedBytes().size() > 500000);
+    const QStringList payloads = host.payloads();
+    for (const QString &payload : payloads) {
+        QVERIFY(payload == payloads.constFirst());
+    }
+}
+
+void tst_Link::takes_no_memory_ahead_of_a_huge_length()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const qint64 before = pagesOf(host.process());
+    QVERIFY(before > 0);
+    host.write("07fffffff\x02"
+               "abc");
+    host.write("def");
+    const int alive = host.aliveCount();
+    QVERIFY(FakeHost::waitFor([&] { return host.aliveCount() >= alive + 2; }));
+    const qint64 grown = (pagesOf(host.process()) - before) * 4096;
+    QVERIFY2(grown < 256 * 1024 * 1024, qPrintable(QString::number(grown)));
+}
+
+void tst_Link::survives_every_field_in_every_place()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
+    const QByteArrayList words = commandWords();
+    const QByteArrayList fields = hostileFields();
+    for (const QByteArray &word : words) {
+        for (const QByteArray &field : fields) {
+            host.write(FakeHost::frame(word + ('\x01' + field).repeated(9)));
+        }
+        QVERIFY2(host.sync(), word.constData());
+    }
+    // The overlays compute with what they were told on their next ticks.
+    const int alive = host.aliveCount();
+    QVERIFY(FakeHost::waitFor([&] { return host.aliveCount() > alive; }));
+    QCOMPARE(host.process().state(), QProcess::Running);
 }
 
 void tst_Link::survives_hostile_bytes()
@@ -192,27 +292,8 @@ void tst_Link::survives_hostile_commands()
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
-    const QByteArrayList words = {"start",
-                                  "stop",
-                                  "contents",
-                                  "tutorialList",
-                                  "state",
-                                  "indicator",
-                                  "log",
-                                  "windowStack",
-                                  "tutorial",
-                                  "windowPosition",
-                                  "controlPosition",
-                                  "applicationWindowSize",
-                                  "fromServer",
-                                  "requestPresetData",
-                                  "showTooltip",
-                                  "hideTooltip"};
-    const QByteArrayList fields = {
-        "",      "0",    "-1",    "-9999",        "2147483647", "-2147483648", "99999999999",
-        "show",  "hide", "push",  "pop",          "update",     "updateXy",    "append",
-        "ja_JP", "-",    "step1", "step99999",    "../../x",    "%1%2",        "<b>&\\\n",
-        "\xff",  "7",    "Popup", "TutorialStep1"};
+    const QByteArrayList words = commandWords();
+    const QByteArrayList fields = hostileFields();
     for (int round = 0; round < 6; ++round) {
         FakeHost host;
         QVERIFY(host.start());

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <csignal>
+
 /// The life of the process: how it starts, and the ways in which it ends.
 class tst_Process : public QObject
 {
@@ -13,6 +15,7 @@ class tst_Process : public QObject
 private Q_SLOTS:
     void ends_with_status_0_when_the_link_goes_down();
     void ends_without_a_message_about_destroyed_objects();
+    void registers_its_bundles_before_main();
     void connects_under_the_default_key_without_arguments();
     void stays_with_en_US_with_one_argument();
     void ignores_further_arguments();
@@ -58,6 +61,25 @@ void tst_Process::ends_without_a_message_about_destroyed_objects()
     QCOMPARE(host.process().exitCode(), 0);
     const QString end = host.log().section(QStringLiteral("TutorialManager::requestClose 1535"), 1);
     QCOMPARE(end.trimmed(), QString());
+}
+
+void tst_Process::registers_its_bundles_before_main()
+{
+    FakeHost host;
+    QProcessEnvironment environment = host.process().processEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(RESOURCE_SPY));
+    host.process().setProcessEnvironment(environment);
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const QStringList before = host.log()
+                                   .section(QStringLiteral("\\main main 122"), 0, 0)
+                                   .split(QLatin1Char('\n'))
+                                   .filter(QStringLiteral("Tutorial registers"));
+    QCOMPARE(before, (QStringList{QStringLiteral("Tutorial registers icon in format 2"),
+                                  QStringLiteral("Tutorial registers resource in format 2"),
+                                  QStringLiteral("Tutorial registers translations in format 2"),
+                                  QStringLiteral("Tutorial registers qml in format 2")}));
+    QCOMPARE(host.log().count(QStringLiteral("Tutorial registers")), 4);
 }
 
 void tst_Process::connects_under_the_default_key_without_arguments()
@@ -110,8 +132,11 @@ void tst_Process::stays_without_a_socket_under_an_empty_key()
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::~TutorialManager")));
     QCOMPARE(host.process().state(), QProcess::Running);
     QVERIFY(!host.log().contains(QStringLiteral("onStateChanged")));
+    QVERIFY(!host.log().contains(QStringLiteral("TutorialManager::send")));
     host.process().terminate();
     QVERIFY(host.waitForEnd());
+    // The signal ended it, not a crash on the way out.
+    QCOMPARE(host.process().exitCode(), SIGTERM);
 }
 
 void tst_Process::starts_although_nobody_listens()
@@ -125,17 +150,25 @@ void tst_Process::starts_although_nobody_listens()
 
 void tst_Process::ends_by_itself_after_30_silent_seconds()
 {
-    FakeHost host;
+    // One whose host editor says nothing, and one whose host editor is not there.
+    FakeHost silent;
+    FakeHost absent;
     QElapsedTimer clock;
     clock.start();
-    QVERIFY(host.start());
-    QVERIFY(host.waitForEnd(60000));
-    QVERIFY2(clock.elapsed() > 28000 && clock.elapsed() < 40000,
-             qPrintable(QString::number(clock.elapsed())));
-    QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
-    QCOMPARE(host.process().exitCode(), 0);
-    const int alive = host.aliveCount();
-    QVERIFY2(alive >= 27 && alive <= 30, qPrintable(QString::number(alive)));
+    QVERIFY(silent.start());
+    QVERIFY(absent.startProgram({QStringLiteral("absent-%1").arg(QCoreApplication::applicationPid())}));
+    for (FakeHost *host : {&silent, &absent}) {
+        QVERIFY(host->waitForEnd(60000));
+        QVERIFY2(clock.elapsed() > 28000 && clock.elapsed() < 40000,
+                 qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(host->process().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(host->process().exitCode(), 0);
+        QCOMPARE(host->log().count(QStringLiteral("TutorialManager::send 1396 \"alive\"")), 29);
+        QVERIFY(host->log().contains(QStringLiteral("TutorialManager::requestClose 1535")));
+    }
+    QCOMPARE(silent.aliveCount(), 29);
+    QVERIFY(!silent.log().contains(QStringLiteral("onDisconnected")));
+    QVERIFY(absent.log().contains(QStringLiteral("QLocalSocket::ServerNotFoundError")));
 }
 
 void tst_Process::reads_the_stored_locale()
