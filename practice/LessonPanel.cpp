@@ -12,9 +12,9 @@ LessonPanel::LessonPanel(const QString &locale)
     , m_locale(locale)
     , m_lessons(new QComboBox)
     , m_start(new QPushButton(
-          localeText(locale, QStringLiteral("Start"), QStringLiteral("はじめる"), QStringLiteral("开始"))))
+          localeText(locale, QStringLiteral("Start"), QStringLiteral("始める"), QStringLiteral("开始"))))
     , m_skip(new QPushButton(localeText(locale, QStringLiteral("Skip step"),
-                                        QStringLiteral("この手順をとばす"), QStringLiteral("跳过此步"))))
+                                        QStringLiteral("この手順を飛ばす"), QStringLiteral("跳过此步"))))
     , m_status(new QLabel)
 {
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -56,7 +56,7 @@ void LessonPanel::showStep(const QString &lessonName, int number, int count)
     if (row >= 0) {
         m_lessons->setCurrentIndex(row);
     }
-    m_start->setText(localeText(m_locale, QStringLiteral("Start again"), QStringLiteral("はじめから"),
+    m_start->setText(localeText(m_locale, QStringLiteral("Start again"), QStringLiteral("最初から"),
                                 QStringLiteral("重新开始")));
     m_skip->setEnabled(true);
     m_status->setText(localeText(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),

@@ -20,7 +20,7 @@
     <name>TutorialManager</name>
     <message>
       <source>unterminated "...": </source>
-      <translation>「"」で閉じられていない文字列です: </translation>
+      <translation>"..." が閉じられていません: </translation>
     </message>
     <message>
       <source>not matched %1...%2: </source>
@@ -112,7 +112,7 @@
     </message>
     <message>
       <source>#3</source>
-      <translation>扉と宝箱</translation>
+      <translation>ドアと宝箱</translation>
     </message>
     <message>
       <source>#4</source>
@@ -875,8 +875,8 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>ここからは、矢印が操作する場所を、その横の絵が操作のしかた（クリック、ダブルクリック、右クリック、キー入力）を示します。
-「次へ」が出ているときは、読み終えたらクリックしてください。</translation>
+      <translation>ここからは、矢印で操作する場所を、その横の絵で操作のしかた（クリック、ダブルクリック、右クリック、キー入力）を示します。
+「次へ」が出たら、説明を読んでからクリックしてください。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -888,7 +888,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>「OK」をクリックしてください。上に表示されている場所にプロジェクトが作られます。</translation>
+      <translation>「OK」をクリックしてください。上の「場所」に書かれたフォルダーに、プロジェクトが作られます。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -912,7 +912,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>次は、自分のマップを作ります。この説明の上にある絵は「右クリック」の印です。右クリックすると、多くの場所でメニューが開きます。</translation>
+      <translation>次は、自分のマップを作ります。この説明の上にある絵は、右クリックを表します。右クリックすると、多くの場所でメニューが開きます。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -964,7 +964,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>ここからも、右下へドラッグしてください。丸い砂地ができます。</translation>
+      <translation>今度はここから、右下へドラッグしてください。丸い砂地ができます。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -996,7 +996,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>木をクリックしてください。木だけが消え、下の草地は残ります。</translation>
+      <translation>木をクリックしてください。木だけが消え、下の草は残ります。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -1012,7 +1012,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「マップ」は、描くためのモードです。人物や扉は「イベント」モードで作ります。こちらは次のレッスンで使います。</translation>
+      <translation>「マップ」は、マップを描くためのモードです。人物やドアは「イベント」モードで作ります。こちらは次のレッスンで使います。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1040,11 +1040,11 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>「タイルセット」の横の絵をクリックしてください。</translation>
+      <translation>「タイルセット」の横の画像をクリックしてください。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>「秋」をクリックしてください。右側の絵で見た目を確かめられます。</translation>
+      <translation>「秋」をクリックしてください。右側の画像で見た目を確かめられます。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -1060,7 +1060,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>ここで、マウスの左ボタンを押してください。鉛筆は、押した瞬間に描きます。</translation>
+      <translation>ここで、マウスの左ボタンを押してください。鉛筆では、押した瞬間に描かれます。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -1072,7 +1072,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>ここでボタンを押し、右へドラッグして離してください。なぞった所に花が並びます。</translation>
+      <translation>ここでマウスのボタンを押し、右へドラッグして離してください。なぞった所に花が並びます。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -1084,7 +1084,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>「マップの設定…」をクリックしてください。ダブルクリックしたときと同じ画面が開きます。</translation>
+      <translation>「マップの設定…」をクリックしてください。ダブルクリックしたときと同じウィンドウが開きます。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -1092,7 +1092,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>自分のマップを右クリックして、一番下の「マップを削除」を見てください。これを選ぶと、マップが描いた内容ごと消えます。</translation>
+      <translation>自分のマップを右クリックして、一番下の「マップを削除」を見てください。これを選ぶと、描いた内容ごとマップが消えます。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>「サンプルマップを読み込む…」をクリックしてください。完成したマップを追加できます。</translation>
+      <translation>「サンプルマップを読み込む…」をクリックしてください。完成済みのマップを追加できます。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>左側に、追加できるマップが並んでいます。この絵は、今選ばれているマップです。</translation>
+      <translation>左側に、追加できるマップが並んでいます。この画像は、今選ばれているマップです。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -1136,11 +1136,11 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>タイルセットはマップごとに決められます。絵をクリックして、港のタイルセットを見てください。</translation>
+      <translation>タイルセットはマップごとに決められます。画像をクリックして、港のタイルセットを見てください。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>港によく合う「海岸」です。「OK」をクリックして、このまま使いましょう。</translation>
+      <translation>港のタイルセットは「海岸」です。よく合うので、このまま「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#69</source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>マップを右クリックしてください。今回はメニューを使わずに、次は別の場所をクリックします。</translation>
+      <translation>マップを右クリックしてください。このメニューは使わず、次は別の場所をクリックします。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>「幅」と「高さ」で、マップの大きさを変えられます。今は「キャンセル」をクリックして、そのままにしましょう。</translation>
+      <translation>「幅」と「高さ」で、マップの大きさを変えられます。今は変えずに、「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -1184,11 +1184,11 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>完成です！これで、マップを描くことも、設定を変えることも、マップを増やすこともできますね。</translation>
+      <translation>完成です！これで、マップを描くことも、設定を変えることも、マップを増やすこともできるようになりました。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>次のレッスンでは、マップに人物を置きます。「次へ」をクリックすると終了です。</translation>
+      <translation>次のレッスンでは、マップに人物を置きます。「次へ」をクリックすると、このレッスンは終了です。</translation>
     </message>
   </context>
 </TS>
