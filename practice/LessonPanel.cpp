@@ -68,7 +68,7 @@ void LessonPanel::showStep(const QString &lessonName, int number, int count)
 void LessonPanel::showClosed(const QString &windowTitle)
 {
     m_status->setText(localeText(m_locale, QStringLiteral("Open \"%1\" again, or skip the step."),
-                                 QStringLiteral("「%1」をもう一度開くか、手順をとばしてください。"),
+                                 QStringLiteral("「%1」をもう一度開くか、手順を飛ばしてください。"),
                                  QStringLiteral("请重新打开“%1”，或跳过此步。"))
                           .arg(windowTitle));
 }

@@ -148,7 +148,7 @@ void PracticeEditor::onLost(const QString &lastWords)
         inWords(QStringLiteral("The guide ended unexpectedly. Your project is not affected.\n"
                                "Restart it? The lesson begins again."),
                 QStringLiteral("ガイドが突然終了しました。プロジェクトには影響ありません。\n"
-                               "もう一度起動しますか？レッスンは最初からになります。"),
+                               "もう一度起動しますか？レッスンは最初から始まります。"),
                 QStringLiteral("向导意外结束了。您的项目不受影响。\n要重新启动吗？课程会从头开始。")));
     box->setObjectName(QStringLiteral("lostMessageBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
