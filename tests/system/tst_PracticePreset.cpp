@@ -1,0 +1,118 @@
+#include "LessonSession.h"
+#include "link/HostLink.h"
+#include "project/LessonProject.h"
+#include "window/EditorWindowSet.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// From the command of a lesson's step to the project on disk and in the windows, with the real companion.
+class TestPracticePreset : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void aStepsCommandBringsTheProjectInTheLearnersLanguage_data();
+    void aStepsCommandBringsTheProjectInTheLearnersLanguage();
+
+private:
+    QTemporaryDir m_settings;
+};
+
+namespace {
+
+constexpr int kSoonMs = 15000;
+
+QStringList rowsOf(const EditorProject &project, const QString &source)
+{
+    QStringList texts;
+    const auto rows = project.rows(source);
+    for (const EditorProject::Row &row : rows) {
+        texts.append(row.text);
+    }
+    return texts;
+}
+
+} // namespace
+
+void TestPracticePreset::initTestCase()
+{
+    // The companion keeps its language in its settings.
+    QVERIFY(m_settings.isValid());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_settings.path()));
+}
+
+void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("maps");
+    QTest::addColumn<QString>("hero");
+    QTest::newRow("English") << QStringLiteral("en_US")
+                             << QStringList{QStringLiteral("Amberfield"), QStringLiteral("Mila's house"),
+                                            QStringLiteral("Forest path")}
+                             << QStringLiteral("Mila");
+    QTest::newRow("Japanese") << QStringLiteral("ja_JP")
+                              << QStringList{QStringLiteral("アンバー村"), QStringLiteral("ミラの家"),
+                                             QStringLiteral("森の小道")}
+                              << QStringLiteral("ミラ");
+    QTest::newRow("Chinese") << QStringLiteral("zh_CN")
+                             << QStringList{QStringLiteral("琥珀村"), QStringLiteral("米拉的家"),
+                                            QStringLiteral("林间小路")}
+                             << QStringLiteral("米拉");
+}
+
+void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, maps);
+    QFETCH(QString, hero);
+    const QTemporaryDir room;
+    QStringList errors;
+    const auto windows = EditorWindowSet::create(locale, &errors);
+    QVERIFY2(windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
+    windows->setProjectsFolder(room.path());
+    EditorProject *const project = windows->project();
+    LessonSession session(windows.get());
+    LessonProject lessonProject;
+    HostLink link(QStringLiteral(TUTORIAL_PROGRAM), QString(), locale);
+    connect(&session, &LessonSession::sends, &link, &HostLink::send);
+    connect(&link, &HostLink::received, &session, &LessonSession::receive);
+    connect(&link, &HostLink::connected, &session, [&session, locale] { session.greet(locale); });
+    connect(&session, &LessonSession::filesRequested, &lessonProject, &LessonProject::begin);
+    connect(&session, &LessonSession::filesReceived, &lessonProject, &LessonProject::takeFiles);
+    connect(windows.get(), &EditorWindows::projectCreated, &lessonProject, &LessonProject::takePlace);
+    QString path;
+    connect(&lessonProject, &LessonProject::made, windows.get(),
+            [&windows, &path](const QString &made, const QMap<QString, QString> &files) {
+                path = made;
+                windows->showProject(files);
+            });
+    QString error;
+    QVERIFY2(link.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(link.isConnected(), kSoonMs);
+
+    // A lesson of one step. What it asks for arrives while the person still names the project, or after.
+    session.receive(QStringLiteral("start\u0001var scenario = "
+                                   "[{\"id\":1,\"condition\":\"click,\",\"command\":\"presetData,step4\"}];"
+                                   "\u0001-1"));
+    project->setField(QStringLiteral("newProject.name"), QStringLiteral("Quest"));
+    project->run(QStringLiteral("newProject.create"));
+    QTRY_COMPARE_WITH_TIMEOUT(path, room.filePath(QStringLiteral("Quest")), kSoonMs);
+
+    QCOMPARE(rowsOf(*project, QStringLiteral("maps")), maps);
+    QCOMPARE(rowsOf(*project, QStringLiteral("actors")), QStringList{hero});
+    const QDir source(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset/step4/data"));
+    const QDir written(path + QStringLiteral("/data"));
+    QCOMPARE(written.entryList(QDir::Files), source.entryList(QDir::Files));
+    QFile actors(written.filePath(QStringLiteral("Actors.json")));
+    QVERIFY(actors.open(QIODevice::ReadOnly));
+    QCOMPARE(QJsonDocument::fromJson(actors.readAll()).array().at(1)[QLatin1String("name")].toString(), hero);
+    link.stop();
+}
+
+QTEST_MAIN(TestPracticePreset)
+#include "tst_PracticePreset.moc"
