@@ -92,7 +92,7 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(QStringLiteral("TARGET"), QStringLiteral("The text that comes out."),
                                  QString());
 
-    if (!parser.parse(application.arguments()))
+    if (!parser.parse(QCoreApplication::arguments()))
         return badUsage(parser.errorText());
     if (parser.isSet(help)) {
         QTextStream(stdout) << parser.helpText();

@@ -68,11 +68,11 @@ void setUndoNote(const QString &note)
 
 } // namespace
 
-ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand(int id, PropertyHash properties,
+ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand(int id, const PropertyHash &properties,
                                                              const QVariant &value, QString note)
     : UndoMergeableCommand(value)
     , m_tutorialItemId(id)
-    , m_properties(std::move(properties))
+    , m_properties(properties)
     , m_note(std::move(note))
 {
     setText(commandText(id, m_properties, value));

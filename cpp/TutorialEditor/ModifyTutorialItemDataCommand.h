@@ -17,7 +17,8 @@ public:
     static constexpr int kType = 1;
 
     /// @p note becomes the undo note with every undo, and every redo but the first; empty sets none.
-    ModifyTutorialItemDataCommand(int id, PropertyHash properties, const QVariant &value, QString note);
+    ModifyTutorialItemDataCommand(int id, const PropertyHash &properties, const QVariant &value,
+                                  QString note);
 
     void doUndo() override;
     void doRedo() override;

@@ -49,7 +49,7 @@ QString TutorialFont::getFontFamily(const QStringList &names)
         logWarning(kSource, "TutorialFont::getFontFamily", 53) << "familyList.size() == 0 for" << names;
         return {};
     }
-    const QString family = families.takeFirst();
+    QString family = families.takeFirst();
     if (QFont::substitutes(family) != families) {
         QFont::insertSubstitutions(family, families);
     }
