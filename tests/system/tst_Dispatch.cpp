@@ -1,6 +1,9 @@
 #include "FakeHost.h"
 
+#include <QDir>
+#include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 /// What each command does, seen on the wire and in the log.
@@ -24,6 +27,8 @@ private Q_SLOTS:
     void says_what_did_not_load_and_stays();
     void refuses_a_bad_step_name();
     void reports_preset_data_that_is_not_there();
+    void answers_with_the_preset_data_beside_the_program();
+    void survives_hostile_locales();
 };
 
 void tst_Dispatch::ignores_unknown_words_silently()
@@ -236,6 +241,59 @@ void tst_Dispatch::reports_preset_data_that_is_not_there()
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReceived 1001 presetData not found")));
     QVERIFY(host.sync());
     QVERIFY(host.payloads().isEmpty());
+}
+
+void tst_Dispatch::answers_with_the_preset_data_beside_the_program()
+{
+    FakeHost host;
+    const QTemporaryDir folder;
+    const QString program = folder.filePath(QStringLiteral("Tutorial"));
+    QVERIFY(QFile::copy(host.process().program(), program));
+    host.process().setProgram(program);
+    const auto addPatch = [&folder](const QString &step, const QByteArray &operations, char size) {
+        const QString data = folder.filePath(QStringLiteral("resource/patch/%1/data").arg(step));
+        QFile file(data + QStringLiteral("/Actors.json-patch"));
+        return QDir().mkpath(data) && file.open(QIODevice::WriteOnly) &&
+               file.write(QByteArray(1, size) + QByteArray(3, '\0') + operations) == 4 + operations.size();
+    };
+    const QByteArray text = QStringLiteral("[ {\"name\":\"\u52c7\u8005\"} ]\n").toUtf8();
+    const char size = char(text.size());
+    QVERIFY(addPatch(QStringLiteral("step1"), QByteArray(1, '\0') + char(size - 1) + text, size));
+    QVERIFY(addPatch(QStringLiteral("step2"), QByteArray::fromHex("ff0000") + char(size - 1), size));
+    QVERIFY(addPatch(QStringLiteral("step10"), QByteArray::fromHex("02"), size));
+
+    QVERIFY(host.start());
+    host.send({QStringLiteral("requestPresetData"), QStringLiteral("step10")});
+    host.send({QStringLiteral("requestPresetData"), QStringLiteral("step2")});
+    QVERIFY(host.waitForPayloads(1));
+    QVERIFY(host.sync());
+    const QString reply = QStringLiteral("feedbackPresetData\x01{\"data/Actors.json\":"
+                                         "\"[{\\\"name\\\":\\\"\u52c7\u8005\\\"}]\"}");
+    QCOMPARE(host.payloads(), QStringList{reply});
+    const QByteArray payload = reply.toUtf8();
+    QVERIFY(host.receivedBytes().contains(
+        '1' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + '\x02' + payload + '\0'));
+    const QString log = host.log();
+    QVERIFY2(log.contains(QStringLiteral("(\"requestPresetData\", \"step2\")")), qPrintable(log));
+    QVERIFY2(log.contains(QStringLiteral("StringPatch::ApplyStringPatch 284 Invalid tag 2")),
+             qPrintable(log));
+    QVERIFY2(log.contains(QStringLiteral("TutorialManager::onReceived 1033 Failed to ApplyStringPatch")),
+             qPrintable(log));
+}
+
+void tst_Dispatch::survives_hostile_locales()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    const QString word = QStringLiteral("fromServer");
+    host.send({word, QStringLiteral("/proc/self/mem")});
+    host.send({word, QStringLiteral("../../../../etc/passwd")});
+    host.send({word, QString(300000, QLatin1Char('_'))});
+    host.send({word, QStringLiteral("ja_JP")});
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+    const QRegularExpression japanese(QStringLiteral("[\u3041-\u3093]"));
+    QVERIFY2(host.payloads().at(0).contains(japanese), qPrintable(host.payloads().at(0)));
 }
 
 QTEST_GUILESS_MAIN(tst_Dispatch)
