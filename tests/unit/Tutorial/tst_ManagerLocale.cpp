@@ -1,0 +1,178 @@
+#include "LogCapture.h"
+#include "ManagerFixture.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTranslator>
+
+/// The two locales of the manager, and what a change of them brings about.
+class tst_ManagerLocale : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void starts_with_the_locale_that_was_chosen_last_data();
+    void starts_with_the_locale_that_was_chosen_last();
+    void changes_the_locale();
+    void announces_no_second_locale_that_stays();
+    void looks_texts_up_in_the_newest_catalogue_first();
+    void loads_nothing_for_the_second_locale();
+    void hands_the_locale_to_the_font();
+    void takes_a_locale_without_a_catalogue();
+    void ignores_the_current_locale();
+
+private:
+    std::unique_ptr<ManagerFixture> m_fixture;
+    QStringList m_order; // of signals
+};
+
+void tst_ManagerLocale::init()
+{
+    QSettings().clear();
+    m_order.clear();
+    m_fixture = std::make_unique<ManagerFixture>();
+    QVERIFY(m_fixture->start());
+}
+
+void tst_ManagerLocale::cleanup()
+{
+    m_fixture.reset();
+    deleteOverlays();
+    qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("locale2");
+    QTest::newRow("none") << QString() << QStringLiteral("en_US") << QStringLiteral("ja_JP");
+    for (const char *locale : {"en_US", "zh_CN", "Raw"}) {
+        QTest::newRow(locale) << QString::fromLatin1(locale) << QString::fromLatin1(locale)
+                              << QStringLiteral("ja_JP");
+    }
+    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("en_US");
+}
+
+void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, locale);
+    QFETCH(QString, locale2);
+    m_fixture.reset();
+    if (!chosen.isEmpty()) {
+        QSettings().setValue(QStringLiteral("debugLocale"), chosen);
+    }
+    m_fixture = std::make_unique<ManagerFixture>();
+    LogCapture log;
+    QVERIFY(m_fixture->start());
+    QCOMPARE(m_fixture->manager->locale(), locale);
+    QCOMPARE(m_fixture->manager->locale2(), locale2);
+    QVERIFY(log.contains(
+        QStringLiteral("TutorialManager::TutorialManager 210 \"%1\" \"%2\"").arg(locale, locale2)));
+    QVERIFY(log.contains(QStringLiteral("TutorialManager::TutorialManager 247 true")));
+}
+
+void tst_ManagerLocale::changes_the_locale()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    QCOMPARE(manager->locale(), QStringLiteral("en_US"));
+    QCOMPARE(manager->locale2(), QStringLiteral("ja_JP"));
+    connect(manager, &TutorialManager::localeChanged, this,
+            [this] { m_order.append(QStringLiteral("locale")); });
+    connect(manager, &TutorialManager::locale2Changed, this,
+            [this] { m_order.append(QStringLiteral("locale2")); });
+    LogCapture log;
+    manager->setProperty("locale", QStringLiteral("ja_JP"));
+    QCOMPARE(manager->locale(), QStringLiteral("ja_JP"));
+    QCOMPARE(manager->locale2(), QStringLiteral("en_US"));
+    QCOMPARE(m_order, (QStringList{QStringLiteral("locale2"), QStringLiteral("locale")}));
+    QCOMPARE(QSettings().value(QStringLiteral("debugLocale")).toString(), QStringLiteral("ja_JP"));
+    const QString source =
+        QStringLiteral("..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp TutorialManager::");
+    QCOMPARE(log.lines(),
+             (QStringList{source + QStringLiteral("setLocale 2204 \"ja_JP\""),
+                          source + QStringLiteral("setLocale2 2226 \"en_US\""),
+                          source + QStringLiteral("setLocale 2215 \":/translations/ja_JP\" true")}));
+}
+
+void tst_ManagerLocale::announces_no_second_locale_that_stays()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    manager->setLocale2(QStringLiteral("en_US"));
+    QSignalSpy locale(manager, &TutorialManager::localeChanged);
+    QSignalSpy locale2(manager, &TutorialManager::locale2Changed);
+    manager->setLocale(QStringLiteral("ja_JP"));
+    QCOMPARE(manager->locale2(), QStringLiteral("en_US"));
+    QCOMPARE(locale.size(), 1);
+    QCOMPARE(locale2.size(), 0);
+}
+
+void tst_ManagerLocale::looks_texts_up_in_the_newest_catalogue_first()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    const auto next = [] {
+        return QCoreApplication::translate("TutorialIndicator", "Next");
+    };
+    manager->setLocale(QStringLiteral("ja_JP"));
+    const QString japanese = next();
+    QCOMPARE(japanese, QStringLiteral("\u6b21\u3078"));
+    manager->setLocale(QStringLiteral("zh_CN"));
+    const QString chinese = next();
+    QVERIFY(chinese != japanese && chinese != QLatin1String("Next"));
+    // A locale without a catalogue leaves the word to those before it.
+    manager->setLocale(QStringLiteral("Raw"));
+    QCOMPARE(next(), chinese);
+}
+
+void tst_ManagerLocale::loads_nothing_for_the_second_locale()
+{
+    const auto translators = [] {
+        return qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly).size();
+    };
+    const int before = translators();
+    LogCapture log;
+    m_fixture->manager->setProperty("locale2", QStringLiteral("zh_CN"));
+    QCOMPARE(m_fixture->manager->locale2(), QStringLiteral("zh_CN"));
+    QCOMPARE(translators(), before);
+    QCOMPARE(QCoreApplication::translate("TutorialIndicator", "Next"), QStringLiteral("Next"));
+    QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale2 2226 \"zh_CN\"")));
+}
+
+void tst_ManagerLocale::hands_the_locale_to_the_font()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    LogCapture log;
+    const QString latin = manager->overlayFont().family();
+    manager->setLocale(QStringLiteral("zh_CN"));
+    QVERIFY(manager->overlayFont().family() != latin);
+}
+
+void tst_ManagerLocale::takes_a_locale_without_a_catalogue()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    LogCapture log;
+    manager->setLocale(QStringLiteral("Raw"));
+    QCOMPARE(manager->locale(), QStringLiteral("Raw"));
+    QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale 2215 \":/translations/Raw\" false")));
+}
+
+void tst_ManagerLocale::ignores_the_current_locale()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    QSignalSpy locale(manager, &TutorialManager::localeChanged);
+    QSignalSpy locale2(manager, &TutorialManager::locale2Changed);
+    manager->setLocale(QStringLiteral("en_US"));
+    manager->setLocale2(QStringLiteral("ja_JP"));
+    QCOMPARE(locale.size() + locale2.size(), 0);
+    QCOMPARE(manager->locale2(), QStringLiteral("ja_JP"));
+}
+
+int main(int argc, char **argv)
+{
+    return runWithKey<tst_ManagerLocale>(argc, argv);
+}
+#include "tst_ManagerLocale.moc"
