@@ -4,6 +4,7 @@
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
+#include "Tutorial/overlay/StayHidden.h"
 #include "tool/LogLine.h"
 
 #include <QEvent>
@@ -46,6 +47,7 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
     hide();
     new ClickThrough(this);
     new KeepPlace(this);
+    new StayHidden(this);
 }
 
 EditorTooltip::~EditorTooltip()

@@ -4,6 +4,7 @@
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
+#include "Tutorial/overlay/StayHidden.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 #include "tool/LogLine.h"
 
@@ -350,6 +351,7 @@ QPushButton *TutorialIndicator::makeButton(const QString &name, const QString &c
     button->setFont(font);
     button->hide();
     new KeepPlace(button);
+    new StayHidden(button);
     return button;
 }
 

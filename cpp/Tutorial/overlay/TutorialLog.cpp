@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/TutorialLog.h"
 
 #include "Tutorial/overlay/OverlayHost.h"
+#include "Tutorial/overlay/StayHidden.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -12,13 +13,11 @@ TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setGeometry(-1, -1, 1, 1);
+    // From here on: the window is hidden again long before any window manager could activate it.
+    new StayHidden(this);
     show();
     activateWindow();
     hide();
-    // An X11 window manager answers later than this: it would still activate the window, and Qt would go on
-    // believing that the program is active, or take the focus from the host editor when the window is shown
-    // next. A native window that is gone gets no such answer; the next show makes a new one.
-    destroy();
 }
 
 void TutorialLog::changeEvent(QEvent *event)

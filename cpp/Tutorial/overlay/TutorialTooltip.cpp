@@ -3,6 +3,7 @@
 #include "Tutorial/overlay/Bounce.h"
 #include "Tutorial/overlay/ClickThrough.h"
 #include "Tutorial/overlay/KeepPlace.h"
+#include "Tutorial/overlay/StayHidden.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "tool/LogLine.h"
 
@@ -51,6 +52,7 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     hide();
     new ClickThrough(this);
     new KeepPlace(this);
+    new StayHidden(this);
 }
 
 TutorialTooltip::~TutorialTooltip()
