@@ -196,10 +196,15 @@ QString TutorialManager::loadTutorial(const QString &filename)
 QString TutorialManager::feedbackTranslation()
 {
     logDebug(kSource, "TutorialManager::feedbackTranslation", 1779);
-    if (!m_translationOutput.save(m_locale, m_locale2)) {
+    if (!saveTranslation()) {
         return tr("Failed to save translation.");
     }
     return m_document->save();
+}
+
+bool TutorialManager::saveTranslation() const
+{
+    return m_translationOutput.save(m_locale, m_locale2);
 }
 
 QPoint TutorialManager::getCursorPos()

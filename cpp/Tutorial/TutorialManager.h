@@ -89,6 +89,8 @@ public:
     Q_INVOKABLE void updateIndicatorXyWindowKey(int x, int y, const QString &windowKey);
     /// Writes the translation sources of both locales, then the scenario. Empty, or a message for the author.
     Q_INVOKABLE QString feedbackTranslation();
+    /// Writes the translation sources of both locales; true if both were written.
+    [[nodiscard]] bool saveTranslation() const;
 
     [[nodiscard]] bool modified() const { return m_modified; }
     void setModified(bool modified) override;

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <memory>
+#include <utility>
 
 /// A manager in the test's own process, linked to a server of the test. The key stands in the arguments that
 /// the test program gave to its QApplication.
@@ -20,14 +21,15 @@ class ManagerFixture
 public:
     static constexpr int kLimitMs = 5000;
 
-    /// Listens, makes the manager and waits until the link is up on both sides.
-    bool start()
+    /// Listens, makes the manager and waits until the link is up on both sides. @p translationPath goes to
+    /// the manager.
+    bool start(TranslationOutput::Resolve translationPath = {})
     {
         QLocalServer::removeServer(serverName());
         if (!m_server.listen(serverName())) {
             return false;
         }
-        manager = std::make_unique<TutorialManager>();
+        manager = std::make_unique<TutorialManager>(nullptr, std::move(translationPath));
         if (!QTest::qWaitFor([this] { return m_server.hasPendingConnections(); }, kLimitMs)) {
             return false;
         }

@@ -1,0 +1,54 @@
+#include "AuthoringExample.h"
+
+#include "TutorialEditor/ItemTreeOperations.h"
+#include "TutorialEditor/Manager.h"
+#include "TutorialEditor/ModifyTutorialItemDataCommand.h"
+#include "TutorialEditor/TutorialItemData.h"
+#include "UndoRedo/UndoRedo.h"
+
+#include <QMetaObject>
+
+namespace {
+
+void setField(const TutorialItemData &item, const char *field, int value)
+{
+    PropertyHash properties;
+    properties.insert(QStringLiteral("target"), QLatin1String(field));
+    UndoRedo::instance()->addCommand(
+        new ModifyTutorialItemDataCommand(item.id, properties, value, item.changeNote()));
+}
+
+} // namespace
+
+// Adds a copy of one step at the end of a lesson, with the bubble moved by offset, as one step of the undo
+// history, and saves the lesson. Returns empty text, or what to tell the author.
+QString appendMovedCopy(QObject *manager, QObject *history, const QString &fileName, int id, QPoint offset)
+{
+    // A file that does not open leaves the lesson before in place, and the next save would write that.
+    QMetaObject::invokeMethod(manager, "unload");
+
+    QString message;
+    QMetaObject::invokeMethod(manager, "loadTutorial", Q_RETURN_ARG(QString, message),
+                              Q_ARG(QString, fileName));
+    if (!message.isEmpty()) {
+        return message; // something is missing in the document now, so it must not be saved
+    }
+    // A file that does not open gives no message, and copying an unknown id leaves the old clipboard.
+    ItemTree *document = TutorialEditor::Manager::instance()->tree();
+    if (findData(&document->items, id) == nullptr) {
+        return QStringLiteral("%1 has no step %2").arg(fileName).arg(id);
+    }
+    QMetaObject::invokeMethod(manager, "copyTutorialItemList", Q_ARG(QList<int>, QList<int>{id}));
+
+    QList<int> newIds;
+    QMetaObject::invokeMethod(history, "beginSequence", Q_ARG(QString, QStringLiteral("append copy")));
+    QMetaObject::invokeMethod(manager, "pasteTutorialItemList", Q_RETURN_ARG(QList<int>, newIds));
+    if (const TutorialItemData *copy = findData(&document->items, newIds.value(0))) {
+        setField(*copy, "x", copy->x + offset.x());
+        setField(*copy, "y", copy->y + offset.y());
+    }
+    QMetaObject::invokeMethod(history, "endSequence");
+
+    QMetaObject::invokeMethod(manager, "save", Q_RETURN_ARG(QString, message));
+    return message;
+}
