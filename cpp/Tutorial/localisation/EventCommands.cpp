@@ -51,8 +51,8 @@ EventWalk translateChoices(const TranslateText &translate, const QString &contex
     return {changed, true};
 }
 
-/// Translates the parameter at @p index; the warning about too few parameters has the number @p
-/// warningNumber.
+/// Translates the parameter at @p index; @p warningNumber is the number of the warning about too few
+/// parameters.
 EventWalk translateParameter(const TranslateText &translate, const QString &context, int index,
                              int warningNumber, QJsonArray &parameters)
 {

@@ -19,8 +19,8 @@ QString japaneseFilter()
     return QStringLiteral("ja_JP");
 }
 
-/// Two rows for each of @p keys, one per filter, for a file that is an array of things with texts under @p
-/// keys.
+/// Two rows for each of @p keys, one per filter, for a file that is an array of things with texts under
+/// these keys.
 Rows arrayRows(const QString &japaneseContext, std::initializer_list<QString> keys)
 {
     const QString translator = QStringLiteral("translateArrayKeyText");

@@ -10,6 +10,46 @@
 
 namespace {
 
+/// Looks at the JSON that a translator walks. Each check says whether its wrapper is as the translator needs
+/// it, and logs a warning with the number and the message of that check when it is not.
+class Checks
+{
+public:
+    explicit Checks(const char *function)
+        : m_function(function)
+    {
+    }
+
+    [[nodiscard]] bool isObject(const JsonWrapper &wrapper, int number, const char *message) const
+    {
+        if (!wrapper.isObject()) {
+            warnSample(m_function, number, message, wrapper);
+            return false;
+        }
+        return true;
+    }
+    [[nodiscard]] bool isArray(const JsonWrapper &wrapper, int number, const char *message) const
+    {
+        if (!wrapper.isArray()) {
+            warnSample(m_function, number, message, wrapper);
+            return false;
+        }
+        return true;
+    }
+    [[nodiscard]] bool contains(const JsonWrapper &wrapper, const QString &key, int number,
+                                const char *message) const
+    {
+        if (!wrapper.contains(key)) {
+            warnSample(m_function, number, message, wrapper) << key;
+            return false;
+        }
+        return true;
+    }
+
+private:
+    const char *m_function;
+};
+
 /// What is to stand in the place of @p text, if anything else than @p text.
 std::optional<QString> replacement(const TranslateText &translate, const QString &context,
                                    const QString &text)
@@ -42,13 +82,9 @@ bool replaceElements(const TranslateText &translate, const QString &context, QJs
 void translateKeyText(const TranslateText &translate, const QString &context, const QString &key,
                       JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateKeyText";
-    if (!wrapper.isObject()) {
-        warnSample(kFunction, 549, "wrapper is not object", wrapper);
-        return;
-    }
-    if (!wrapper.contains(key)) {
-        warnSample(kFunction, 553, "wrapper does not contain key", wrapper) << key;
+    const Checks checks("translateKeyText");
+    if (!checks.isObject(wrapper, 549, "wrapper is not object") ||
+        !checks.contains(wrapper, key, 553, "wrapper does not contain key")) {
         return;
     }
     if (const auto text = replacement(translate, context, wrapper[key].toString())) {
@@ -59,9 +95,8 @@ void translateKeyText(const TranslateText &translate, const QString &context, co
 void translateArrayKeyText(const TranslateText &translate, const QString &context, const QString &key,
                            JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateArrayKeyText";
-    if (!wrapper.isArray()) {
-        warnSample(kFunction, 574, "wrapper is not array", wrapper);
+    const Checks checks("translateArrayKeyText");
+    if (!checks.isArray(wrapper, 574, "wrapper is not array")) {
         return;
     }
     const int length = wrapper.length();
@@ -70,12 +105,8 @@ void translateArrayKeyText(const TranslateText &translate, const QString &contex
         if (item.isNull()) {
             continue;
         }
-        if (!item.isObject()) {
-            warnSample(kFunction, 584, "item is not object", item);
-            return;
-        }
-        if (!item.contains(key)) {
-            warnSample(kFunction, 588, "item does not contain key", item) << key;
+        if (!checks.isObject(item, 584, "item is not object") ||
+            !checks.contains(item, key, 588, "item does not contain key")) {
             return;
         }
         if (const auto text = replacement(translate, context, item[key].toString())) {
@@ -88,21 +119,16 @@ void translateArrayKeyText(const TranslateText &translate, const QString &contex
 void translateKeyArrayText(const TranslateText &translate, const QString &context, const QString &key,
                            JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateKeyArrayText";
-    if (!wrapper.isObject()) {
-        warnSample(kFunction, 610, "wrapper is not object", wrapper);
-        return;
-    }
-    if (!wrapper.contains(key)) {
-        warnSample(kFunction, 614, "wrapper does not contain key", wrapper) << key;
+    const Checks checks("translateKeyArrayText");
+    if (!checks.isObject(wrapper, 610, "wrapper is not object") ||
+        !checks.contains(wrapper, key, 614, "wrapper does not contain key")) {
         return;
     }
     const JsonWrapper keyWrapper = wrapper[key];
     if (keyWrapper.isNull()) {
         return;
     }
-    if (!keyWrapper.isArray()) {
-        warnSample(kFunction, 622, "keyWrapper is not array", keyWrapper);
+    if (!checks.isArray(keyWrapper, 622, "keyWrapper is not array")) {
         return;
     }
     QJsonArray array = keyWrapper.toArray();
@@ -114,33 +140,24 @@ void translateKeyArrayText(const TranslateText &translate, const QString &contex
 void translateKeyKeyArrayText(const TranslateText &translate, const QString &context, const QString &key1,
                               const QString &key2, JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateKeyKeyArrayText";
-    if (!wrapper.isObject()) {
-        warnSample(kFunction, 646, "wrapper is not object", wrapper);
-        return;
-    }
-    if (!wrapper.contains(key1)) {
-        warnSample(kFunction, 650, "wrapper does not contain key", wrapper) << key1;
+    const Checks checks("translateKeyKeyArrayText");
+    if (!checks.isObject(wrapper, 646, "wrapper is not object") ||
+        !checks.contains(wrapper, key1, 650, "wrapper does not contain key")) {
         return;
     }
     JsonWrapper key1Wrapper = wrapper[key1];
     if (key1Wrapper.isNull()) {
         return;
     }
-    if (!key1Wrapper.isObject()) {
-        warnSample(kFunction, 658, "key1Wrapper is not object", key1Wrapper);
-        return;
-    }
-    if (!key1Wrapper.contains(key2)) {
-        warnSample(kFunction, 662, "key1Wrapper does not contain key", key1Wrapper) << key2;
+    if (!checks.isObject(key1Wrapper, 658, "key1Wrapper is not object") ||
+        !checks.contains(key1Wrapper, key2, 662, "key1Wrapper does not contain key")) {
         return;
     }
     const JsonWrapper key2Wrapper = key1Wrapper[key2];
     if (key2Wrapper.isNull()) {
         return;
     }
-    if (!key2Wrapper.isArray()) {
-        warnSample(kFunction, 670, "key2Wrapper is not array", key2Wrapper);
+    if (!checks.isArray(key2Wrapper, 670, "key2Wrapper is not array")) {
         return;
     }
     QJsonArray array = key2Wrapper.toArray();
@@ -153,33 +170,24 @@ void translateKeyKeyArrayText(const TranslateText &translate, const QString &con
 void translateKeyKeyAnyKeyText(const TranslateText &translate, const QString &context, const QString &key1,
                                const QString &key2, JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateKeyKeyAnyKeyText";
-    if (!wrapper.isObject()) {
-        warnSample(kFunction, 695, "wrapper is not object", wrapper);
-        return;
-    }
-    if (!wrapper.contains(key1)) {
-        warnSample(kFunction, 699, "wrapper does not contain key", wrapper) << key1;
+    const Checks checks("translateKeyKeyAnyKeyText");
+    if (!checks.isObject(wrapper, 695, "wrapper is not object") ||
+        !checks.contains(wrapper, key1, 699, "wrapper does not contain key")) {
         return;
     }
     JsonWrapper key1Wrapper = wrapper[key1];
     if (key1Wrapper.isNull()) {
         return;
     }
-    if (!key1Wrapper.isObject()) {
-        warnSample(kFunction, 707, "key1Wrapper is not object", key1Wrapper);
-        return;
-    }
-    if (!key1Wrapper.contains(key2)) {
-        warnSample(kFunction, 711, "key1Wrapper does not contain key", key1Wrapper) << key2;
+    if (!checks.isObject(key1Wrapper, 707, "key1Wrapper is not object") ||
+        !checks.contains(key1Wrapper, key2, 711, "key1Wrapper does not contain key")) {
         return;
     }
     JsonWrapper key2Wrapper = key1Wrapper[key2];
     if (key2Wrapper.isNull()) {
         return;
     }
-    if (!key2Wrapper.isObject()) {
-        warnSample(kFunction, 719, "key2Wrapper is not object", key2Wrapper);
+    if (!checks.isObject(key2Wrapper, 719, "key2Wrapper is not object")) {
         return;
     }
     bool changed = false;
@@ -198,24 +206,19 @@ void translateKeyKeyAnyKeyText(const TranslateText &translate, const QString &co
 
 void translateMapEvent(const TranslateText &translate, const QString &context, JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateMapEvent";
+    const Checks checks("translateMapEvent");
     const QString eventsKey = QStringLiteral("events");
     const QString nameKey = QStringLiteral("name");
     const QString pagesKey = QStringLiteral("pages");
-    if (!wrapper.isObject()) {
-        warnSample(kFunction, 894, "wrapper is not object", wrapper);
-        return;
-    }
-    if (!wrapper.contains(eventsKey)) {
-        warnSample(kFunction, 898, "wrapper does not contain eventsKey", wrapper) << eventsKey;
+    if (!checks.isObject(wrapper, 894, "wrapper is not object") ||
+        !checks.contains(wrapper, eventsKey, 898, "wrapper does not contain eventsKey")) {
         return;
     }
     const JsonWrapper eventsWrapper = wrapper[eventsKey];
     if (eventsWrapper.isNull()) {
         return;
     }
-    if (!eventsWrapper.isArray()) {
-        warnSample(kFunction, 906, "eventsWrapper is not array", eventsWrapper);
+    if (!checks.isArray(eventsWrapper, 906, "eventsWrapper is not array")) {
         return;
     }
 
@@ -225,20 +228,15 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
         if (event.isNull()) {
             continue;
         }
-        if (!event.isObject()) {
-            warnSample(kFunction, 916, "eventItem is not object", event);
-            break;
-        }
-        if (!event.contains(nameKey)) {
-            warnSample(kFunction, 920, "eventItem does not contain nameKey", event) << nameKey;
+        if (!checks.isObject(event, 916, "eventItem is not object") ||
+            !checks.contains(event, nameKey, 920, "eventItem does not contain nameKey")) {
             break;
         }
         if (const auto text = replacement(translate, context, event[nameKey].toString())) {
             event.set(nameKey, *text);
             events.replace(i, event.toValue());
         }
-        if (!event.contains(pagesKey)) {
-            warnSample(kFunction, 937, "eventItem does not contain pagesKey", event) << pagesKey;
+        if (!checks.contains(event, pagesKey, 937, "eventItem does not contain pagesKey")) {
             break;
         }
         JsonWrapper pages = event[pagesKey];
@@ -251,10 +249,9 @@ void translateMapEvent(const TranslateText &translate, const QString &context, J
 
 void translateEvent(const TranslateText &translate, const QString &context, JsonWrapper &wrapper)
 {
-    constexpr const char *kFunction = "translateEvent";
+    const Checks checks("translateEvent");
     const QString listKey = QStringLiteral("list");
-    if (!wrapper.isArray()) {
-        warnSample(kFunction, 758, "wrapper is not array", wrapper);
+    if (!checks.isArray(wrapper, 758, "wrapper is not array")) {
         return;
     }
     const int length = wrapper.length();
@@ -263,17 +260,12 @@ void translateEvent(const TranslateText &translate, const QString &context, Json
         if (item.isNull()) {
             continue;
         }
-        if (!item.isObject()) {
-            warnSample(kFunction, 768, "item is not object", item);
-            return;
-        }
-        if (!item.contains(listKey)) {
-            warnSample(kFunction, 772, "item does not contain key", item) << listKey;
+        if (!checks.isObject(item, 768, "item is not object") ||
+            !checks.contains(item, listKey, 772, "item does not contain key")) {
             return;
         }
         const JsonWrapper listWrapper = item[listKey];
-        if (!listWrapper.isArray()) {
-            warnSample(kFunction, 777, "listWrapper is not array", listWrapper);
+        if (!checks.isArray(listWrapper, 777, "listWrapper is not array")) {
             return;
         }
         QJsonArray list = listWrapper.toArray();
