@@ -5,6 +5,7 @@
 #include "Tutorial/localisation/Translators.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "TutorialEditor/ItemClipboard.h"
+#include "TutorialEditor/ScenarioSource.h"
 #include "UndoRedo/UndoRedo.h"
 #include "tool/DataSupport.h"
 #include "tool/LogLine.h"
@@ -24,14 +25,6 @@ TutorialManager *theInstance = nullptr;
 QString defaultLocale()
 {
     return QStringLiteral("en_US");
-}
-
-void replaceFirst(QString *text, const QString &before, const QString &after)
-{
-    const int place = text->indexOf(before);
-    if (place >= 0) {
-        text->replace(place, before.size(), after);
-    }
 }
 
 } // namespace
@@ -164,11 +157,8 @@ void TutorialManager::unload()
 
 void TutorialManager::startFromId(int id)
 {
-    QString text = m_document->getScenario(false);
-    replaceFirst(&text, QStringLiteral("var scenario = ["), QStringLiteral("["));
-    replaceFirst(&text, QStringLiteral("];"), QStringLiteral("]"));
     QStringList errors;
-    text = m_texts.translateScript(text, &errors);
+    const QString text = m_texts.translateScript(scenarioArray(m_document->getScenario(false)), &errors);
     send(
         CommandFields::join({CommandWords::kStart, QLatin1String("var scenario = ") + text + QLatin1Char(';'),
                              QString::number(id)}));

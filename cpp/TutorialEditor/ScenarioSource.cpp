@@ -3,15 +3,9 @@
 #include <QLatin1String>
 #include <QStringView>
 
-namespace {
+#include "tool/SourceArray.h"
 
-void replaceFirst(QString *text, QLatin1String before, QLatin1String after)
-{
-    const int place = text->indexOf(before);
-    if (place >= 0) {
-        text->replace(place, before.size(), after);
-    }
-}
+namespace {
 
 bool isComment(QStringView line)
 {
@@ -67,9 +61,7 @@ QString withoutLineComments(const QString &text)
     }
 }
 
-QString scenarioArray(QString text)
+QString scenarioArray(const QString &text)
 {
-    replaceFirst(&text, QLatin1String("var scenario = ["), QLatin1String("["));
-    replaceFirst(&text, QLatin1String("];"), QLatin1String("]"));
-    return text;
+    return sourceArray(text, QLatin1String("scenario"));
 }

@@ -14,4 +14,4 @@
 
 /// @p text with its head "var scenario = [" and the first "];" made the brackets of a plain array; what is
 /// not there is left alone.
-[[nodiscard]] QString scenarioArray(QString text);
+[[nodiscard]] QString scenarioArray(const QString &text);

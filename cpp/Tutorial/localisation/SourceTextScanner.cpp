@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include "tool/JsonWrapper.h"
+#include "tool/SourceArray.h"
 
 namespace {
 
@@ -277,14 +278,6 @@ QString Pass::replaceCalls(const QString &opening, int gap)
     return result;
 }
 
-void replaceFirst(QString &text, const QString &before, const QString &after)
-{
-    const int found = text.indexOf(before);
-    if (found != -1) {
-        text.replace(found, before.size(), after);
-    }
-}
-
 } // namespace
 
 SourceTextScanner::SourceTextScanner(Lookup first, Lookup second)
@@ -318,9 +311,7 @@ QString SourceTextScanner::translateScript(const QString &text, const QString &c
 QString SourceTextScanner::translateList(const QString &text, const QString &context,
                                          QStringList *errors) const
 {
-    QString list = text;
-    replaceFirst(list, QStringLiteral("var list = ["), QStringLiteral("["));
-    replaceFirst(list, QStringLiteral("];"), QStringLiteral("]"));
+    const QString list = sourceArray(text, QLatin1String("list"));
     // Behind an entry's text stands at least the quote and the brace that end it.
     constexpr int kGap = 2;
     return Pass(list, context, m_first, m_second, errors).replaceCalls(simpleOpening(), kGap);

@@ -18,15 +18,13 @@ public:
     /// Gives the translation of a text in a context.
     using Lookup = std::function<QString(const QString &context, const QString &text)>;
 
-    /// @p first gives a text back that it does not know. @p second is asked about text identifiers ("#1")
-    /// that
-    /// @p first gave back; an empty answer leaves the identifier as it is.
+    /// @p first gives a text back that it does not know. @p second is asked about the text identifiers
+    /// ("#1") that @p first gave back; an empty answer leaves the identifier as it is.
     SourceTextScanner(Lookup first, Lookup second);
 
     /// Reads the one value, a string or a call, at the start of @p text and returns it as a quoted JSON
-    /// string.
-    /// @p context is that of qsTr. @p rest receives what stands behind the value; it is empty after a
-    /// failure.
+    /// string. @p context is that of qsTr. @p rest receives what stands behind the value; it is empty after
+    /// a failure, whose text, with what could not be read behind it, is appended to @p errors.
     QString parseTranslatable(const QString &text, const QString &context, QString *rest,
                               QStringList *errors) const;
 
