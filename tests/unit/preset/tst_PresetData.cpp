@@ -403,7 +403,7 @@ void tst_PresetData::pipeEndsTheRequest()
     const QString pipe = program.path() + QStringLiteral("/pipe");
     QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
     // With both ends open here nobody waits, whatever the code under test does.
-    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC);
     QVERIFY(ends >= 0);
     const QString path = program.dataPath(step(1)) + QStringLiteral("/B.json-patch");
     QVERIFY(QFile::link(pipe, path));

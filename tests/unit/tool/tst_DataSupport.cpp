@@ -126,7 +126,7 @@ void tst_DataSupport::readOfAPipeDoesNotWait()
     const QString link = path(QStringLiteral("link to a pipe"));
     QVERIFY(QFile::link(pipe, link));
     // With both ends open here nobody waits, whatever the code under test does.
-    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC);
     QVERIFY(ends >= 0);
     for (const QString &file : {pipe, link}) {
         QByteArray bytes("as it was");
