@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>A bed for the night? It costs 10.</translation>
+      <translation>A bed for the night? You need not pay.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -707,7 +707,7 @@
     </message>
     <message>
       <source>#132</source>
-      <translation>A small flame for one enemy.</translation>
+      <translation>Hits one enemy with a small flame.</translation>
     </message>
     <message>
       <source>#133</source>

@@ -144,7 +144,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>巡回する見張り</translation>
+      <translation>巡回する衛兵</translation>
     </message>
     <message>
       <source>#12</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
       <source>#3</source>
-      <translation>布のぼうし</translation>
+      <translation>布の帽子</translation>
     </message>
     <message>
       <source>#4</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>アンバー村のランプは、百年のあいだ燃え続けてきた。</translation>
+      <translation>アンバー村のランプは、百年のあいだともり続けてきた。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>今夜はお泊まりですか？10で泊まれますよ。</translation>
+      <translation>今夜はお泊まりですか？お代はいりませんよ。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
       <source>#74</source>
-      <translation>短くて、すばやくふるえる。</translation>
+      <translation>短くて、すばやく振れる。</translation>
     </message>
     <message>
       <source>#75</source>
@@ -799,7 +799,7 @@
     </message>
     <message>
       <source>#155</source>
-      <translation>水晶カブト</translation>
+      <translation>水晶カブトムシ</translation>
     </message>
     <message>
       <source>#156</source>
@@ -823,11 +823,11 @@
     </message>
     <message>
       <source>#161</source>
-      <translation>カブトとコウモリ</translation>
+      <translation>カブトムシとコウモリ</translation>
     </message>
     <message>
       <source>#162</source>
-      <translation>こうして、アンバー村のランプはまた燃えはじめた。</translation>
+      <translation>こうして、アンバー村のランプにまた明かりがともった。</translation>
     </message>
     <message>
       <source>#163</source>

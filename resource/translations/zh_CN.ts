@@ -47,7 +47,7 @@
     <name>TutorialEditor::Manager</name>
     <message>
       <source>Failed to save.</source>
-      <translation>保存失败。</translation>
+      <translation>无法保存。</translation>
     </message>
     <message>
       <source>Tutorial not loaded yet.</source>
@@ -59,7 +59,7 @@
     </message>
     <message>
       <source>item</source>
-      <translation>项目</translation>
+      <translation>条目</translation>
     </message>
     <message>
       <source>No CR/NF found: %1</source>
@@ -67,7 +67,7 @@
     </message>
     <message>
       <source>closeMarker(%1) not found (l:%3): %2</source>
-      <translation>找不到结束标记（%1）（第 %3 行）：%2</translation>
+      <translation>第 %3 行找不到结束标记 %1：%2</translation>
     </message>
     <message>
       <source>qsTr/QT_TRANSLATE_NOOP not closed: %1</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
       <source>closeMarker(%1) not found (l:%3): %2</source>
-      <translation>找不到结束标记（%1）（第 %3 行）：%2</translation>
+      <translation>第 %3 行找不到结束标记 %1：%2</translation>
     </message>
     <message>
       <source>qsTr/QT_TRANSLATE_NOOP not closed: %1</source>
@@ -144,7 +144,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>巡逻的守卫</translation>
+      <translation>巡逻的卫兵</translation>
     </message>
     <message>
       <source>#12</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>琥珀村的灯已经燃烧了一百年。</translation>
+      <translation>琥珀村的灯已经亮了一百年。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -219,7 +219,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>为一名同伴恢复30点HP。</translation>
+      <translation>为一名同伴恢复 30 点 HP。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -243,7 +243,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>给一个敌人强力的一击。</translation>
+      <translation>对一个敌人使出强力的一击。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -419,7 +419,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>为一名同伴恢复10点HP。刚出炉。</translation>
+      <translation>为一名同伴恢复 10 点 HP。刚出炉。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>要住一晚吗？只要10。</translation>
+      <translation>要住一晚吗？不收你钱。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
       <source>#74</source>
-      <translation>短小而灵巧。</translation>
+      <translation>短小，出手快。</translation>
     </message>
     <message>
       <source>#75</source>
@@ -483,7 +483,7 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>返回村庄</translation>
+      <translation>前往村庄</translation>
     </message>
     <message>
       <source>#77</source>
@@ -519,11 +519,11 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>不动它</translation>
+      <translation>算了</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>不知哪里的门打开了。</translation>
+      <translation>不知从哪里传来大门打开的声音。</translation>
     </message>
     <message>
       <source>#87</source>
@@ -543,7 +543,7 @@
     </message>
     <message>
       <source>#91</source>
-      <translation>大门打开</translation>
+      <translation>大门已打开</translation>
     </message>
     <message>
       <source>#92</source>
@@ -695,7 +695,7 @@
     </message>
     <message>
       <source>#129</source>
-      <translation>为一名同伴恢复40点HP。</translation>
+      <translation>为一名同伴恢复 40 点 HP。</translation>
     </message>
     <message>
       <source>#130</source>
@@ -707,7 +707,7 @@
     </message>
     <message>
       <source>#132</source>
-      <translation>向一个敌人放出小火焰。</translation>
+      <translation>向一个敌人放出一小团火焰。</translation>
     </message>
     <message>
       <source>#133</source>
@@ -743,7 +743,7 @@
     </message>
     <message>
       <source>#141</source>
-      <translation>受到守护！</translation>
+      <translation>受到了守护！</translation>
     </message>
     <message>
       <source>#142</source>
@@ -783,11 +783,11 @@
     </message>
     <message>
       <source>#151</source>
-      <translation>用岩石砸向所有敌人。</translation>
+      <translation>让落石砸向所有敌人。</translation>
     </message>
     <message>
       <source>#152</source>
-      <translation>震动了洞顶！</translation>
+      <translation>让洞顶摇晃起来！</translation>
     </message>
     <message>
       <source>#153</source>
@@ -811,11 +811,11 @@
     </message>
     <message>
       <source>#158</source>
-      <translation>被催眠了！</translation>
+      <translation>陷入了沉睡！</translation>
     </message>
     <message>
       <source>#159</source>
-      <translation>正在睡觉。</translation>
+      <translation>正在沉睡。</translation>
     </message>
     <message>
       <source>#160</source>
@@ -827,7 +827,7 @@
     </message>
     <message>
       <source>#162</source>
-      <translation>就这样，琥珀村的灯再次燃起。</translation>
+      <translation>就这样，琥珀村的灯再次亮起。</translation>
     </message>
     <message>
       <source>#163</source>
@@ -835,11 +835,11 @@
     </message>
     <message>
       <source>#164</source>
-      <translation>前往山丘顶</translation>
+      <translation>前往山岗</translation>
     </message>
     <message>
       <source>#165</source>
-      <translation>回到村庄</translation>
+      <translation>返回村庄</translation>
     </message>
     <message>
       <source>#166</source>
@@ -851,15 +851,15 @@
     </message>
     <message>
       <source>#168</source>
-      <translation>又变得明亮了。</translation>
+      <translation>又亮起来了。</translation>
     </message>
     <message>
       <source>#169</source>
-      <translation>你们把光带回了家。</translation>
+      <translation>你们把光明带回了村庄。</translation>
     </message>
     <message>
       <source>#170</source>
-      <translation>山丘顶</translation>
+      <translation>山岗</translation>
     </message>
     <message>
       <source>#171</source>
@@ -870,17 +870,17 @@
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>欢迎！这一课里，你会画出第一张地图，并熟悉地图视图的用法。
+      <translation>欢迎！在这一课里，你会画出自己的第一张地图，并熟悉地图视图的用法。
 点击“下一步”开始。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>接下来，箭头会指出操作的位置，旁边的图标表示操作的方式：单击、双击、右键单击或键盘输入。
-出现“下一步”时，读完后点击它即可。</translation>
+      <translation>接下来，箭头会指出操作的位置，旁边的图标表示操作的方式：点击、双击、右键点击或键盘输入。
+出现“下一步”时，读完说明后点击它即可。</translation>
     </message>
     <message>
       <source>#3</source>
-      <translation>制作游戏从建立项目开始。请点击“新建”。</translation>
+      <translation>制作游戏从新建项目开始。点击“新建”。</translation>
     </message>
     <message>
       <source>#4</source>
@@ -888,7 +888,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>点击“确定”。项目会建立在上面显示的位置。</translation>
+      <translation>点击“确定”。项目会建立在上方“位置”一栏所示的文件夹里。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -896,7 +896,7 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>这里是地图视图，显示的是当前打开的地图，现在是一座村庄。玩家将在你画出的地图上行走。</translation>
+      <translation>这里是地图视图，显示的是当前打开的地图，目前是一座村庄。玩家会在你画出的地图上走动。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -912,11 +912,11 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>接下来制作自己的地图。这段说明上方的图标表示“右键单击”。在很多地方，右键单击会打开菜单。</translation>
+      <translation>接下来制作自己的地图。这段说明上方的图标表示“右键点击”。在很多地方，右键点击都会打开菜单。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>右键单击列表中的最后一张地图“绿洲”，打开菜单。</translation>
+      <translation>右键点击列表中的最后一张地图“绿洲”，打开菜单。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -940,7 +940,7 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>点击地图，整张地图就长满高草了。</translation>
+      <translation>点击地图，整张地图就会长满高草。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -964,11 +964,11 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>从这里再向右下方拖动，就会出现一片圆形沙地。</translation>
+      <translation>在这里按下鼠标左键，再次向右下方拖动后松开，就会出现一片圆形沙地。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>地图有三个图层。上层的图块会盖住下层，但不会把它替换掉，所以树要画在地面上方的图层。</translation>
+      <translation>地图有三个图层。上层的图块会盖住下层，但不会把它替换掉，所以树要画在更高的图层上。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -996,7 +996,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>点击那棵树。树会消失，下面的草地还在。</translation>
+      <translation>点击那棵树。树会消失，下面的草会保留。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -1032,7 +1032,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>右键单击图块列表。</translation>
+      <translation>右键点击图块列表。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -1052,11 +1052,11 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>地图变成了秋天的颜色。请点击“灌木”。</translation>
+      <translation>地图变成了秋天的颜色。点击“灌木”。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>现在用的还是橡皮擦。请再次点击“铅笔”。</translation>
+      <translation>现在用的还是橡皮擦。再次点击“铅笔”。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -1064,7 +1064,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>再次右键单击图块列表。这次试试什么都不选就关闭菜单。</translation>
+      <translation>再次右键点击图块列表。这次试试什么都不选就关闭菜单。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -1080,11 +1080,11 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>右键单击这张地图，打开它的菜单。</translation>
+      <translation>右键点击这张地图，打开它的菜单。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>点击“地图属性…”。打开的窗口和双击时一样。</translation>
+      <translation>点击“地图属性…”。打开的窗口和双击地图时一样。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -1092,11 +1092,11 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>右键单击你自己的地图，看看最后一项：“删除地图”会把地图连同上面画的内容一起删掉。</translation>
+      <translation>右键点击你自己的地图，看看最后一项：“删除地图”会把地图连同上面画的内容一起删掉。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>还是留着地图吧。点击“绿洲”：菜单会关闭，并打开那张地图。</translation>
+      <translation>还是留着自己的地图吧。点击“绿洲”：菜单会关闭，并打开那张地图。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1128,7 +1128,7 @@
     </message>
     <message>
       <source>#65</source>
-      <translation>右键单击地图。</translation>
+      <translation>右键点击地图。</translation>
     </message>
     <message>
       <source>#66</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>再次右键单击地图。</translation>
+      <translation>再次右键点击地图。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>右键单击地图。这次不使用菜单，下一步会点击别的地方。</translation>
+      <translation>右键点击地图。这次不使用菜单，接下来点击别的地方。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -1188,7 +1188,7 @@
     </message>
     <message>
       <source>#80</source>
-      <translation>下一课，我们会在地图上安排一个人物。点击“下一步”结束本课。</translation>
+      <translation>下一课会在地图上放置一个人物。点击“下一步”结束本课。</translation>
     </message>
   </context>
 </TS>
