@@ -201,7 +201,8 @@ void tst_SystemService::outputPathIsInTheDocuments()
 
 void tst_SystemService::materialPathIsTheParentOfTheDocuments()
 {
-    const QString documents = QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).first();
+    const QString documents =
+        QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).constFirst();
     const QString path = SystemService::getDefaultMaterialPath();
     QVERIFY(QDir::isAbsolutePath(path));
     QCOMPARE(QDir::cleanPath(path), QFileInfo(documents).absolutePath());

@@ -140,7 +140,7 @@ void tst_SampleEvents::commandWarnings()
         QStringLiteral(R"([{"list":[%1]},{"list":[%1,%2,%3]},{"list":[%3]}])").arg(translated, entry, good));
     QCOMPARE(wrapper.toJson(), expected.toJson());
     QCOMPARE(log.warnings().size(), 1);
-    QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1),
+    QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1),
              QStringLiteral("translateEvent ") + warning);
 }
 
@@ -178,7 +178,7 @@ void tst_SampleEvents::listWarnings()
     LogCapture log;
     QCOMPARE(translatedJson(QStringLiteral("translateCommonEvent"), json), json);
     QCOMPARE(log.warnings().size(), 1);
-    QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1),
+    QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1),
              QStringLiteral("translateEvent ") + warning);
 }
 
@@ -247,7 +247,7 @@ void tst_SampleEvents::mapWarnings()
     LogCapture log;
     QCOMPARE(translatedJson(QStringLiteral("translateMapEvent"), json), result);
     QCOMPARE(log.warnings().size(), 1);
-    QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1),
+    QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1),
              QStringLiteral("translateMapEvent ") + warning);
 }
 

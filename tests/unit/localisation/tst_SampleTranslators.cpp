@@ -138,7 +138,7 @@ void tst_SampleTranslators::warnings()
     LogCapture log;
     QCOMPARE(translatedJson(translator, json, QStringLiteral("k"), QStringLiteral("l")), result);
     QCOMPARE(log.warnings().size(), 1);
-    QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1), warning);
+    QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1), warning);
 }
 
 void tst_SampleTranslators::onlyRowsForLessonsRun()
@@ -198,7 +198,7 @@ void tst_SampleTranslators::eachNameCallsItsFunction()
         LogCapture log;
         QCOMPARE(translatedJson(QString::fromLatin1(name), QStringLiteral("5")), QStringLiteral("5"));
         QCOMPARE(log.warnings().size(), 1);
-        QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1, 1), QString::fromLatin1(logged));
+        QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1, 1), QString::fromLatin1(logged));
     }
 }
 
@@ -217,7 +217,7 @@ void tst_SampleTranslators::textThatFailedToParseIsReported()
         log.clear();
         translateArrayKeyText(sampleTranslation, QStringLiteral("T"), QStringLiteral("k"), wrapper);
         QCOMPARE(log.warnings().size(), 1);
-        QCOMPARE(log.warnings().first().section(QLatin1Char(' '), 1),
+        QCOMPARE(log.warnings().constFirst().section(QLatin1Char(' '), 1),
                  QStringLiteral("translateArrayKeyText 574 wrapper is not array \"\""));
     }
 }

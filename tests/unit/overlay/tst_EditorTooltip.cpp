@@ -147,7 +147,7 @@ void TestEditorTooltip::laterShowUsesTheSame()
     QString line;
     QDebug(&line).nospace() << "EditorTooltip::show 74 \"two\" " << size.width() << " " << size.height();
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY2(log.debugs().first().endsWith(line), qPrintable(log.debugs().first()));
+    QVERIFY2(log.debugs().constFirst().endsWith(line), qPrintable(log.debugs().constFirst()));
 }
 
 void TestEditorTooltip::isCentredOnItsTextEdit_data()
@@ -355,7 +355,7 @@ void TestEditorTooltip::changesAreLogged()
     QEvent event(QEvent::ActivationChange);
     QCoreApplication::sendEvent(tooltip(), &event);
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(log.debugs().first().contains(QStringLiteral("EditorTooltip::changeEvent 127")));
+    QVERIFY(log.debugs().constFirst().contains(QStringLiteral("EditorTooltip::changeEvent 127")));
     QVERIFY(m_host.calls.isEmpty());
 }
 

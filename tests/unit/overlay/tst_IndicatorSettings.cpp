@@ -204,7 +204,7 @@ void TestIndicatorSettings::mapIsLogged()
     LogCapture log;
     m_indicator->setSettings({{QStringLiteral("windowKey"), QStringLiteral("MapWindow")}});
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(log.debugs().first().contains(
+    QVERIFY(log.debugs().constFirst().contains(
         QStringLiteral("TutorialIndicator::setSettings 215 QMap((\"windowKey\"")));
 }
 

@@ -308,8 +308,9 @@ void TestTutorialIndicator::initShowsTheButtonsOfTheStep()
     LogCapture log;
     m_indicator->init(next, yesNo);
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(log.debugs().first().endsWith(QStringLiteral("TutorialIndicator::init 139 %1 %2")
-                                              .arg(QVariant(next).toString(), QVariant(yesNo).toString())));
+    QVERIFY(
+        log.debugs().constFirst().endsWith(QStringLiteral("TutorialIndicator::init 139 %1 %2")
+                                               .arg(QVariant(next).toString(), QVariant(yesNo).toString())));
     QCOMPARE(TestIndicator::next()->isVisible(), next);
     QCOMPARE(TestIndicator::yes()->isVisible(), yesNo);
     QCOMPARE(TestIndicator::no()->isVisible(), yesNo);
@@ -398,7 +399,7 @@ void TestTutorialIndicator::activationOfAnotherWindowIsPassedOn()
     QCoreApplication::sendEvent(m_indicator.get(), &event);
     QCOMPARE(m_host.calls, QStringList(QStringLiteral("visibility")));
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(log.debugs().first().endsWith(QStringLiteral("TutorialIndicator::changeEvent 286 false")));
+    QVERIFY(log.debugs().constFirst().endsWith(QStringLiteral("TutorialIndicator::changeEvent 286 false")));
 }
 
 void TestTutorialIndicator::ownActivationEndsThePopup()

@@ -274,7 +274,7 @@ void TestTutorialTooltip::activationIsLogged()
     QEvent event(QEvent::ActivationChange);
     QCoreApplication::sendEvent(m_indicator->tooltip(), &event);
     QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(log.debugs().first().contains(QStringLiteral("TutorialTooltip::changeEvent 68 false ")));
+    QVERIFY(log.debugs().constFirst().contains(QStringLiteral("TutorialTooltip::changeEvent 68 false ")));
     QVERIFY(m_host.calls.isEmpty());
 }
 

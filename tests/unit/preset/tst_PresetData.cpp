@@ -211,8 +211,9 @@ void tst_PresetData::badStepNames()
     const QString reply = program.reply(name);
     QVERIFY(reply.isNull());
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().first().contains(source()));
-    QVERIFY(log.warnings().first().endsWith(QStringLiteral("Failed to get stepNumber \"%1\"").arg(name)));
+    QVERIFY(log.warnings().constFirst().contains(source()));
+    QVERIFY(
+        log.warnings().constFirst().endsWith(QStringLiteral("Failed to get stepNumber \"%1\"").arg(name)));
 }
 
 void tst_PresetData::missingStepIsReported_data()
@@ -375,8 +376,8 @@ void tst_PresetData::oversizedPatchEndsTheRequest()
     LogCapture log;
     QVERIFY(program.reply(step(2)).isNull());
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().first().contains(QStringLiteral("Failed to ApplyStringPatch")));
-    QVERIFY(log.warnings().first().contains(source()));
+    QVERIFY(log.warnings().constFirst().contains(QStringLiteral("Failed to ApplyStringPatch")));
+    QVERIFY(log.warnings().constFirst().contains(source()));
 }
 
 void tst_PresetData::unreadableFileEndsTheRequest()
@@ -392,8 +393,8 @@ void tst_PresetData::unreadableFileEndsTheRequest()
     LogCapture log;
     QVERIFY(program.reply(step(2)).isNull());
     QCOMPARE(log.warnings().size(), 2);
-    QVERIFY(log.warnings().last().contains(source()));
-    QVERIFY(log.warnings().last().endsWith(QStringLiteral("Failed to read \"%1\"").arg(path)));
+    QVERIFY(log.warnings().constLast().contains(source()));
+    QVERIFY(log.warnings().constLast().endsWith(QStringLiteral("Failed to read \"%1\"").arg(path)));
 }
 
 void tst_PresetData::pipeEndsTheRequest()
@@ -421,8 +422,8 @@ void tst_PresetData::badPatchNameEndsTheRequestBehindThePatches()
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
     QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().first().contains(source()));
-    QVERIFY(log.warnings().first().endsWith(QStringLiteral("Bad patch name \"A.json\"")));
+    QVERIFY(log.warnings().constFirst().contains(source()));
+    QVERIFY(log.warnings().constFirst().endsWith(QStringLiteral("Bad patch name \"A.json\"")));
     // Names are looked at behind the last patch: a patch that fails comes first.
     program.addFile(step(1), QStringLiteral("B.json"), QByteArray("\0\0\0\0\x02", 5));
     log.clear();
