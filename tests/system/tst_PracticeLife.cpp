@@ -151,7 +151,8 @@ void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
         (box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) != nullptr, kSoonMs);
     QCOMPARE(box->objectName(), QStringLiteral("lostMessageBox"));
     QVERIFY(!editor.session().runner().isRunning());
-    for (QAbstractButton *button : box->buttons()) {
+    const QList<QAbstractButton *> buttons = box->buttons();
+    for (QAbstractButton *button : buttons) {
         if (box->buttonRole(button) == QMessageBox::AcceptRole) {
             button->click();
         }

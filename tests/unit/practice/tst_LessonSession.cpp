@@ -57,6 +57,8 @@ private:
     LessonSession *m_session = nullptr;
     QStringList m_sent;
     QStringList m_problems;
+    QVector<LessonSession::Lesson> m_lessons; // as listed last
+    QMap<QString, QString> m_files;           // as received last
 };
 
 void TestLessonSession::init()
@@ -89,15 +91,14 @@ void TestLessonSession::greetsAndAsksForTheList()
 
 void TestLessonSession::listsTheLessons()
 {
-    QVector<LessonSession::Lesson> lessons;
     connect(m_session, &LessonSession::lessonsListed, this,
-            [&lessons](const QVector<LessonSession::Lesson> &listed) { lessons = listed; });
+            [this](const QVector<LessonSession::Lesson> &listed) { m_lessons = listed; });
     m_session->receive(
         QStringLiteral("tutorialList\u0001[{\"filename\":\"TutorialStep1\",\"title\":\"Maps\"},"
                        "{\"filename\":\"TutorialStep2\",\"title\":\"\u5730\u56fe\"}]"));
-    QCOMPARE(lessons.size(), 2);
-    QCOMPARE(lessons.at(1).name, QStringLiteral("TutorialStep2"));
-    QCOMPARE(lessons.at(1).title, QStringLiteral("\u5730\u56fe"));
+    QCOMPARE(m_lessons.size(), 2);
+    QCOMPARE(m_lessons.at(1).name, QStringLiteral("TutorialStep2"));
+    QCOMPARE(m_lessons.at(1).title, QStringLiteral("\u5730\u56fe"));
 }
 
 void TestLessonSession::asksForALessonAndIsRefused()
@@ -317,17 +318,16 @@ void TestLessonSession::waitsByTheClock()
 void TestLessonSession::asksForPresetDataAndPassesItOn()
 {
     QSignalSpy requested(m_session, &LessonSession::filesRequested);
-    QMap<QString, QString> files;
     connect(m_session, &LessonSession::filesReceived, this,
-            [&files](const QMap<QString, QString> &received) { files = received; });
+            [this](const QMap<QString, QString> &received) { m_files = received; });
     m_session->receive(
         startCommand(QStringLiteral(R"({"id":1,"condition":"click","command":"presetData,step2"})")));
     QVERIFY(sent().contains(QStringLiteral("requestPresetData|step2")));
     QCOMPARE(requested.size(), 1);
     m_session->receive(
         QStringLiteral("feedbackPresetData\u0001{\"data/Actors.json\":\"[null,{\\\"id\\\":1}]\"}"));
-    QCOMPARE(files.size(), 1);
-    QCOMPARE(files.value(QStringLiteral("data/Actors.json")), QStringLiteral("[null,{\"id\":1}]"));
+    QCOMPARE(m_files.size(), 1);
+    QCOMPARE(m_files.value(QStringLiteral("data/Actors.json")), QStringLiteral("[null,{\"id\":1}]"));
     QCOMPARE(m_problems, QStringList());
 }
 
