@@ -3,6 +3,8 @@
 #include "lesson-check/Condition.h"
 #include "lesson-check/Spot.h"
 
+#include "Tutorial/ScenarioWords.h"
+
 #include <QPoint>
 #include <QRegularExpression>
 
@@ -101,11 +103,11 @@ private:
 
     void checkRest()
     {
-        static const QStringList icons = {QStringLiteral("click"),      QStringLiteral("doubleClick"),
-                                          QStringLiteral("rightClick"), QStringLiteral("eye"),
-                                          QStringLiteral("wait"),       QStringLiteral("keyboard")};
-        static const QRegularExpression command(QStringLiteral("^(|presetData,step[1-9][0-9]*)$"));
-        if (!icons.contains(m_step->icon))
+        static const QRegularExpression command(
+            QStringLiteral("^(|%1,step[1-9][0-9]*)$").arg(QLatin1String(ScenarioWords::kPresetData)));
+        const auto &icons = ScenarioWords::kIconNames;
+        if (std::none_of(icons.begin(), icons.end(),
+                         [this](const char *icon) { return m_step->icon == QLatin1String(icon); }))
             report(QStringLiteral("icon"), QStringLiteral("\"%1\" is not an icon").arg(m_step->icon));
         if (!command.match(m_step->command).hasMatch())
             report(QStringLiteral("command"),
