@@ -52,7 +52,7 @@ void TutorialManager::onReadyRead()
 
 bool TutorialManager::command(const QString &text)
 {
-    if (CommandFields(text).text(0) == CommandWords::kBye) {
+    if (CommandFields::word(text) == CommandWords::kBye) {
         stopPlayback();
         return false;
     }

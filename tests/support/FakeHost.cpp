@@ -1,7 +1,10 @@
 #include "FakeHost.h"
 
+#include <QFile>
 #include <QTest>
 #include <QUuid>
+
+#include <unistd.h>
 
 FakeHost::FakeHost()
 {
@@ -54,6 +57,14 @@ bool FakeHost::waitForConnection()
 void FakeHost::disconnectLink()
 {
     m_socket->disconnectFromServer();
+}
+
+qint64 FakeHost::addressSpace() const
+{
+    QFile file(QStringLiteral("/proc/%1/statm").arg(m_process.processId()));
+    return file.open(QIODevice::ReadOnly)
+               ? file.readAll().split(' ').value(0).toLongLong() * sysconf(_SC_PAGESIZE)
+               : -1;
 }
 
 void FakeHost::stopReading()

@@ -40,6 +40,8 @@ public:
 
     [[nodiscard]] QString key() const { return m_key; }
     [[nodiscard]] QProcess &process() { return m_process; }
+    /// Bytes of address space that the program has taken; below 0 when it cannot be told.
+    [[nodiscard]] qint64 addressSpace() const;
     [[nodiscard]] QString settingsFolder() const { return m_folder.path(); }
 
     /// A frame around a payload.

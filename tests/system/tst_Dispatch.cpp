@@ -18,6 +18,7 @@ private Q_SLOTS:
     void greets_with_the_locale_data();
     void greets_with_the_locale();
     void greets_again_without_new_overlays();
+    void keeps_little_of_a_greeting();
     void drops_an_indicator_update_before_the_greeting();
     void hands_an_indicator_update_to_the_indicator();
     void takes_a_command_without_its_fields();
@@ -118,6 +119,23 @@ void tst_Dispatch::greets_again_without_new_overlays()
     QVERIFY2(host.payloads().at(0).contains(QRegularExpression(QStringLiteral("[ぁ-ん]"))),
              qPrintable(host.payloads().at(0)));
     QVERIFY(!host.log().contains(QStringLiteral("TutorialIndicator::~TutorialIndicator")));
+}
+
+void tst_Dispatch::keeps_little_of_a_greeting()
+{
+    constexpr int kGreetings = 500;
+    FakeHost host;
+    QVERIFY(host.start());
+    const QStringList greeting = {QStringLiteral("fromServer"), QStringLiteral("ja_JP")};
+    host.send(greeting);
+    QVERIFY(host.sync());
+    const qint64 before = host.addressSpace();
+    for (int i = 0; i < kGreetings; ++i) {
+        host.send(greeting);
+    }
+    QVERIFY(host.sync());
+    const qint64 each = (host.addressSpace() - before) / kGreetings;
+    QVERIFY2(before > 0 && each < 8192, qPrintable(QString::number(each)));
 }
 
 void tst_Dispatch::drops_an_indicator_update_before_the_greeting()

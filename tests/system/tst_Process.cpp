@@ -16,6 +16,7 @@ private Q_SLOTS:
     void ends_with_status_0_when_the_link_goes_down();
     void ends_without_a_message_about_destroyed_objects();
     void registers_its_bundles_before_main();
+    void builds_its_objects_in_order();
     void connects_under_the_default_key_without_arguments();
     void stays_with_en_US_with_one_argument();
     void ignores_further_arguments();
@@ -80,6 +81,25 @@ void tst_Process::registers_its_bundles_before_main()
                                   QStringLiteral("Tutorial registers translations in format 2"),
                                   QStringLiteral("Tutorial registers qml in format 2")}));
     QCOMPARE(host.log().count(QStringLiteral("Tutorial registers")), 4);
+}
+
+void tst_Process::builds_its_objects_in_order()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const QString log = host.log();
+    const QStringList steps = {QStringLiteral("\\main main 122 \":/translations/en_US\" true"),
+                               QStringLiteral("TutorialManager::TutorialManager 210 \"en_US\" \"ja_JP\""),
+                               QStringLiteral("onStateChanged 527 QLocalSocket::ConnectingState"),
+                               QStringLiteral("TutorialManager::TutorialManager 247 true"),
+                               QStringLiteral("UndoRedo::UndoRedo 34 \"Tutorial\"")};
+    int place = 0;
+    for (const QString &step : steps) {
+        const int found = log.indexOf(step, place);
+        QVERIFY2(found >= 0, qPrintable(step + QStringLiteral("\nis not where it belongs in\n") + log));
+        place = found;
+    }
 }
 
 void tst_Process::connects_under_the_default_key_without_arguments()

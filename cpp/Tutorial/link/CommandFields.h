@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringRef>
 
 /// The fields of one command. A field that the sender left out reads as empty text, and as the number 0.
 class CommandFields
@@ -23,6 +24,12 @@ public:
 
     /// The field as a decimal number, 0 when it is none.
     [[nodiscard]] int number(int index) const { return text(index).toInt(nullptr, 10); }
+
+    /// Field 0 of a command, without a look at the others.
+    [[nodiscard]] static QStringRef word(const QString &command)
+    {
+        return command.leftRef(command.indexOf(kSeparator));
+    }
 
     /// Joins fields to a command.
     [[nodiscard]] static QString join(const QStringList &fields) { return fields.join(kSeparator); }

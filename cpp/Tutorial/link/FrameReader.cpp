@@ -1,8 +1,5 @@
 #include "Tutorial/link/FrameReader.h"
 
-#include <QStringList>
-#include <QVector>
-
 namespace {
 
 constexpr char kLead = '0';
@@ -18,6 +15,12 @@ void FrameReader::read(const QByteArray &bytes, Sink &sink)
 {
     QByteArray data = bytes;
     if (m_missing > 0) {
+        if (bytes.size() > m_mostBytes - m_buffer.size()) {
+            const QByteArray start = m_buffer.left(kPayloadOffset);
+            wait({}, 0);
+            sink.problem(Problem::kInvalidPayloadSize, start);
+            return;
+        }
         m_buffer.append(bytes);
         if (bytes.size() < m_missing) {
             m_missing -= bytes.size();
@@ -75,13 +78,17 @@ bool FrameReader::deliver(const QString &payload, Sink &sink)
     if (payload.isEmpty()) {
         return true;
     }
-    const QVector<QStringRef> commands = payload.splitRef(kCommandSeparator);
-    for (const QStringRef &command : commands) {
-        if (!sink.command(command.toString())) {
+    int start = 0;
+    for (;;) {
+        const int end = payload.indexOf(kCommandSeparator, start);
+        if (!sink.command(payload.mid(start, end < 0 ? -1 : end - start))) {
             return false;
         }
+        if (end < 0) {
+            return true;
+        }
+        start = end + 1;
     }
-    return true;
 }
 
 void FrameReader::wait(const QByteArray &bytes, qint64 missing)

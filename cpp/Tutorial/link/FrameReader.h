@@ -11,10 +11,20 @@
 ///
 /// The length only tells when a frame has come in whole. Where its text ends is told by the first zero byte,
 /// so a length that is too small loses nothing, and a zero byte inside the payload ends the text early.
-/// Nothing is allocated ahead of the bytes that arrived, whatever a length says.
+/// Nothing is allocated ahead of the bytes that arrived, whatever a length says, and what waits for the rest
+/// of its frame has a limit.
 class FrameReader
 {
 public:
+    /// The most bytes that wait. The texts and fields made of so many still fit Qt's containers.
+    static constexpr int kMostBytes = 1 << 27;
+
+    /// @p mostBytes is for tests.
+    explicit FrameReader(int mostBytes = kMostBytes)
+        : m_mostBytes(mostBytes)
+    {
+    }
+
     enum class Problem { kInvalidHeader, kInvalidPayloadSize, kTerminatorNotFound };
 
     /// Receives what a read brought, in order, from inside read().
@@ -38,13 +48,15 @@ public:
     /// Takes the next bytes of the stream, any number of them, and hands complete commands to @p sink.
     ///
     /// After an invalid header the bytes stay, and every later read reports the same problem; after an
-    /// invalid size or a missing terminator this read is lost and the next one starts afresh.
+    /// invalid size or a missing terminator this read is lost and the next one starts afresh. More bytes than
+    /// may wait are an invalid size, reported with the first of them only.
     void read(const QByteArray &bytes, Sink &sink);
 
 private:
     bool deliver(const QString &payload, Sink &sink);
     void wait(const QByteArray &bytes, qint64 missing);
 
+    int m_mostBytes;
     /// Bytes of a frame that has not come in whole.
     QByteArray m_buffer;
     /// How many bytes are missing, 0 when nothing is waiting. A 1 may stand for any number.

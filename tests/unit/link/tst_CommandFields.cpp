@@ -11,6 +11,8 @@ private Q_SLOTS:
     void reads_a_missing_field_as_empty_and_zero();
     void reads_decimal_numbers_only_data();
     void reads_decimal_numbers_only();
+    void names_the_word_alone_data();
+    void names_the_word_alone();
     void joins_what_it_splits();
 };
 
@@ -48,6 +50,26 @@ void tst_CommandFields::reads_decimal_numbers_only()
     QFETCH(QString, text);
     QFETCH(int, number);
     QCOMPARE(CommandFields(QStringLiteral("word\x01") + text).number(1), number);
+}
+
+void tst_CommandFields::names_the_word_alone_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("alone") << QStringLiteral("bye") << QStringLiteral("bye");
+    QTest::newRow("with fields") << QStringLiteral("bye\x01now\x01") << QStringLiteral("bye");
+    QTest::newRow("none before the fields") << QStringLiteral("\x01"
+                                                              "bye")
+                                            << QString();
+    QTest::newRow("empty") << QString() << QString();
+}
+
+void tst_CommandFields::names_the_word_alone()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, word);
+    QVERIFY(CommandFields::word(command) == word);
+    QCOMPARE(CommandFields(command).text(0), word);
 }
 
 void tst_CommandFields::joins_what_it_splits()
