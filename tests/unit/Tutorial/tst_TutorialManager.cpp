@@ -73,6 +73,7 @@ private Q_SLOTS:
     void announces_a_lesson_name_once();
     void unloads();
     void saves_nothing_without_a_file();
+    void saves_no_translations_into_the_program();
     void survives_hostile_numbers();
 
 private:
@@ -443,6 +444,24 @@ void tst_TutorialManager::saves_nothing_without_a_file()
     QString message;
     QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "save", Q_RETURN_ARG(QString, message)));
     QCOMPARE(message, QStringLiteral("Tutorial not loaded yet."));
+}
+
+void tst_TutorialManager::saves_no_translations_into_the_program()
+{
+    LogCapture log;
+    QString message;
+    QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "feedbackTranslation",
+                                      Q_RETURN_ARG(QString, message)));
+    QCOMPARE(message, QStringLiteral("Failed to save translation."));
+    const QString start =
+        QStringLiteral("..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp TutorialManager::");
+    const QString path = QStringLiteral("translations/en_US.ts");
+    QCOMPARE(log.debugs().mid(0, 3),
+             (QStringList{start + QStringLiteral("feedbackTranslation 1779"),
+                          start + QStringLiteral("getExistsFilename 1402 \"%1\"").arg(path),
+                          start + QStringLiteral("getExistsFilename 1405 \":/%1\"").arg(path)}));
+    QCOMPARE(log.warnings().constLast(),
+             start + QStringLiteral("saveTranslation 1857 Failed to save \":/%1\"").arg(path));
 }
 
 void tst_TutorialManager::survives_hostile_numbers()

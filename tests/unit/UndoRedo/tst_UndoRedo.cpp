@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aSteadyDragIsOneStep();
     void anotherNameIsAnotherStep();
     void theNamelessTransactionHasTheEmptyName();
+    void theVeryFirstTransactionMayMergeWhenItHasNoName();
     void setUnmergeableKeepsTheNextTransactionApart();
     void theFirstCommandIsPushedAndTheNextMerges();
     void aFailedMergeIsTakenBackAndPushed();
@@ -253,6 +254,19 @@ void tst_UndoRedo::theNamelessTransactionHasTheEmptyName()
     m_undoRedo->beginSingle();
     QVERIFY(m_undoRedo->mergeable());
     m_undoRedo->endSingle();
+}
+
+void tst_UndoRedo::theVeryFirstTransactionMayMergeWhenItHasNoName()
+{
+    // There was no transaction before: its name is empty too, and no time lies between.
+    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
+    LogCapture log;
+    m_undoRedo->beginSingle();
+    QVERIFY(log.contains(line("beginSingle", 245, QStringLiteral("may be merged"))));
+    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->endSingle();
+    m_undoRedo->undo();
+    QVERIFY(!m_undoRedo->canUndo());
 }
 
 void tst_UndoRedo::setUnmergeableKeepsTheNextTransactionApart()
