@@ -11,7 +11,8 @@
 /// strings or calls again.
 ///
 /// Nothing stops at a failure: its text goes to the error list, and what could not be read is left behind
-/// (or, behind an argument that is not closed, dropped). Run time is linear in the length of the text.
+/// (or, behind an argument that is not closed, dropped). Run time is linear in the length of the text, save
+/// that each argument of a chain goes through the text that it is put into once more.
 class SourceTextScanner
 {
 public:
