@@ -22,6 +22,9 @@ constexpr int kTextTop = 56;
 constexpr int kMirroredArrowLeft = 256;
 constexpr int kButtonWidth = 64;
 constexpr int kButtonHeight = 32;
+// Characters. More than any screen shows of a hint, and few enough to be laid out without holding up the
+// event loop, as a hint of megabytes would for minutes.
+constexpr int kLongestHint = 8000;
 
 // QWidget::isActiveWindow() lends every parentless tool window the state "active".
 bool isTheActiveWindow(const QWidget *widget)
@@ -121,14 +124,14 @@ void TutorialIndicator::setNewXy(int x, int y)
 void TutorialIndicator::setHint(const QString &hint)
 {
     makeTooltip();
-    m_hint = hint;
+    m_hint = hint.left(kLongestHint);
     if (hint.isEmpty()) {
         m_tooltip->m_textEdit->hide();
         return;
     }
     // Text edits go on using it, closed bubbles and new ones alike, so it lives as long as the process.
     static auto *const document = new QTextDocument;
-    fillDocument(document, hint, m_manager->overlayFont());
+    fillDocument(document, m_hint, m_manager->overlayFont());
     m_tooltip->m_textEdit->setDocument(document);
     m_tooltip->m_textEdit->show();
     m_updateTextEditSize = true;

@@ -36,7 +36,7 @@ public:
     void setNewXy(int x, int y);
 
     /// Shows @p hint, plain text, in the bubble; an empty one hides the text. The bubble's height follows on
-    /// the next tick.
+    /// the next tick. Of a hint longer than any screen the front is kept.
     void setHint(const QString &hint);
 
     /// Begins a step: restarts the bounce and shows or hides the buttons.

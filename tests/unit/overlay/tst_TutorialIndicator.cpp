@@ -51,6 +51,7 @@ private Q_SLOTS:
     void hintFontIsFetchedEachTime();
     void emptyHintHidesTheTextAndKeepsItsHeight();
     void emptyHintKeepsAPendingMeasurement();
+    void hintOfMegabytesDoesNotHoldUpTheLoop();
     void initShowsTheButtonsOfTheStep_data();
     void initShowsTheButtonsOfTheStep();
     void showButtonsHidesNothing();
@@ -278,6 +279,19 @@ void TestTutorialIndicator::emptyHintHidesTheTextAndKeepsItsHeight()
     QCOMPARE(m_indicator->state("hint").toString(), QString());
     QCOMPARE(m_indicator->state("hintHeight").toInt(), height);
     QCOMPARE(TestIndicator::next()->pos(), button);
+}
+
+void TestTutorialIndicator::hintOfMegabytesDoesNotHoldUpTheLoop()
+{
+    m_indicator->setTargetWindowOffset(300, 200, QString(), true);
+    const QString front = QStringLiteral("the front ");
+    QElapsedTimer timer;
+    timer.start();
+    m_indicator->setHint(front + QString(1000000, QLatin1Char('x')));
+    m_indicator->tooltip()->show();
+    m_indicator->tick(3);
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(m_indicator->textEdit()->toPlainText().startsWith(front));
 }
 
 void TestTutorialIndicator::emptyHintKeepsAPendingMeasurement()
