@@ -1,5 +1,6 @@
 #include "link/HostLink.h"
 
+#include "LocaleText.h"
 #include "link/HostFrame.h"
 
 #include <QUuid>
@@ -46,10 +47,14 @@ bool HostLink::start(QString *error)
 {
     const QString name = QStringLiteral("tkvq%1").arg(m_key);
     if (!m_server.isListening() && !m_server.listen(name)) {
-        *error =
-            QStringLiteral(
-                "The editor cannot listen on \"%1\": %2. Start it again with another --key, or without one.")
-                .arg(name, m_server.errorString());
+        *error = localeText(m_locale,
+                            QStringLiteral("The editor cannot listen on \"%1\": %2. Start it again with "
+                                           "another --key, or without one."),
+                            QStringLiteral("「%1」で接続を待てません（%2）。別の --key を付けるか、--key を"
+                                           "付けずに、もう一度起動してください。"),
+                            QStringLiteral("无法在“%1”上等待连接（%2）。请换一个 --key，或不带 --key "
+                                           "重新启动。"))
+                     .arg(name, m_server.errorString());
         return false;
     }
     if (m_process.state() != QProcess::NotRunning) {
@@ -62,10 +67,14 @@ bool HostLink::start(QString *error)
     m_reader = {};
     m_process.start(m_program, {m_key, m_locale}, QIODevice::ReadOnly);
     if (!m_process.waitForStarted()) {
-        *error =
-            QStringLiteral("The companion \"%1\" does not start: %2. Build the target Tutorial, or name the "
-                           "program with --companion.")
-                .arg(m_program, m_process.errorString());
+        *error = localeText(m_locale,
+                            QStringLiteral("The guide \"%1\" does not start: %2. Build the target Tutorial, "
+                                           "or name the program with --companion."),
+                            QStringLiteral("ガイド「%1」を起動できません（%2）。ターゲット Tutorial を"
+                                           "ビルドするか、--companion でプログラムを指定してください。"),
+                            QStringLiteral("无法启动向导“%1”（%2）。请构建目标 Tutorial，或用 "
+                                           "--companion 指定程序。"))
+                     .arg(m_program, m_process.errorString());
         return false;
     }
     m_expected = true;

@@ -78,7 +78,7 @@ Pilot::Pilot(LessonSession *session, const Settings &settings, QObject *parent)
     connect(session, &LessonSession::stepReached, this, &Pilot::onStepReached);
     connect(session, &LessonSession::finished, this, &Pilot::onFinished);
     connect(session, &LessonSession::refused, this,
-            [this] { fail(QStringLiteral("the companion does not hand it over")); });
+            [this] { fail(QStringLiteral("the companion does not hand it over; has it a file of that lesson?")); });
     connect(session, &LessonSession::problemFound, this, &Pilot::fail);
 }
 
@@ -119,6 +119,19 @@ void Pilot::onFinished()
         return;
     }
     Q_EMIT progress(m_current + QStringLiteral(" ok"));
+    m_phase = Phase::kEnding;
+    m_sincePhase.start();
+}
+
+void Pilot::watchEnd()
+{
+    const OverlayWatch seen = look();
+    if (seen.bubble || !seen.buttons.isEmpty()) {
+        if (m_sincePhase.hasExpired(kSettleMs)) {
+            fail(QStringLiteral("the bubble or its buttons stay on the screen after the last step"));
+        }
+        return;
+    }
     if (!m_settings.shotsFolder.isEmpty() && !takeShot(QStringLiteral("end"))) {
         return;
     }
@@ -133,6 +146,10 @@ void Pilot::onFinished()
 
 void Pilot::tick()
 {
+    if (m_phase == Phase::kEnding) {
+        watchEnd();
+        return;
+    }
     if (!m_session->runner().isRunning()) {
         return;
     }
@@ -149,6 +166,7 @@ void Pilot::tick()
         }
         break;
     case Phase::kIdle:
+    case Phase::kEnding:
     case Phase::kOver:
         break;
     }
@@ -163,14 +181,7 @@ void Pilot::watch()
                  .arg(m_current));
         return;
     }
-    QByteArray geometries;
-    // No window at all is no failure here: it may be still to come.
-    run(QStringLiteral("xdotool"),
-        {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-         QStringLiteral("--pid"), QString::number(m_pid), QStringLiteral("--name"), QString(),
-         QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")},
-        &geometries);
-    const OverlayWatch seen = OverlayWatch::parse(geometries);
+    const OverlayWatch seen = look();
     if (!(seen == m_seen)) {
         m_sinceMoved.start();
     }
@@ -188,6 +199,18 @@ void Pilot::watch()
     }
     planAction(step, spot);
     m_phase = Phase::kActing;
+}
+
+OverlayWatch Pilot::look()
+{
+    QByteArray geometries;
+    // No window at all is no failure here: it may be still to come.
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+         QStringLiteral("--pid"), QString::number(m_pid), QStringLiteral("--name"), QString(),
+         QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")},
+        &geometries);
+    return OverlayWatch::parse(geometries);
 }
 
 bool Pilot::settled(const ScenarioStep &step) const

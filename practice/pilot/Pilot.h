@@ -48,12 +48,14 @@ Q_SIGNALS:
     void ended(const QString &failure);
 
 private:
-    enum class Phase { kIdle, kWatching, kActing, kAwaiting, kOver };
+    enum class Phase { kIdle, kWatching, kActing, kAwaiting, kEnding, kOver };
 
     void onStepReached();
     void onFinished();
     void tick();
     void watch();
+    void watchEnd();
+    OverlayWatch look();
     void planAction(const ScenarioStep &step, const std::optional<QPoint> &spot);
     void planKeys(const ScenarioStep &step);
     void actOnce();

@@ -55,6 +55,9 @@ private Q_SLOTS:
     void killingTheEditorEndsTheCompanionWithinASecond();
     void aTerminatedEditorLeavesNothingBehind();
     void aKilledCompanionIsRestartedOnRequest();
+    void aLossIsToldInThePersonsLanguage_data();
+    void aLossIsToldInThePersonsLanguage();
+    void startAgainBringsALostCompanionBack();
     void aMissingCompanionIsSaid();
     void wrongOptionsAreSaid_data();
     void wrongOptionsAreSaid();
@@ -62,6 +65,9 @@ private Q_SLOTS:
 private:
     static PracticeEditor::Options options();
     static std::unique_ptr<EditorWindows> windows();
+    /// The message box that is open; nullptr when there is none.
+    static QMessageBox *messageBox();
+    static QAbstractButton *acceptButton(const QMessageBox &box);
 };
 
 PracticeEditor::Options TestPracticeLife::options()
@@ -77,6 +83,22 @@ std::unique_ptr<EditorWindows> TestPracticeLife::windows()
 {
     QStringList errors;
     return EditorWindowSet::create(QStringLiteral("en_US"), &errors);
+}
+
+QMessageBox *TestPracticeLife::messageBox()
+{
+    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+}
+
+QAbstractButton *TestPracticeLife::acceptButton(const QMessageBox &box)
+{
+    const QList<QAbstractButton *> buttons = box.buttons();
+    for (QAbstractButton *button : buttons) {
+        if (box.buttonRole(button) == QMessageBox::AcceptRole) {
+            return button;
+        }
+    }
+    return nullptr;
 }
 
 void TestPracticeLife::closingTheEditorEndsTheCompanion()
@@ -146,21 +168,81 @@ void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
     const qint64 first = childrenOf(QCoreApplication::applicationPid()).value(0);
     end(first, SIGKILL);
 
-    QMessageBox *box = nullptr;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        (box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) != nullptr, kSoonMs);
-    QCOMPARE(box->objectName(), QStringLiteral("lostMessageBox"));
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr, kSoonMs);
+    QCOMPARE(messageBox()->objectName(), QStringLiteral("lostMessageBox"));
     QVERIFY(!editor.session().runner().isRunning());
-    const QList<QAbstractButton *> buttons = box->buttons();
-    for (QAbstractButton *button : buttons) {
-        if (box->buttonRole(button) == QMessageBox::AcceptRole) {
-            button->click();
-        }
-    }
+    acceptButton(*messageBox())->click();
     QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
     QCOMPARE(editor.session().lessonName(), QStringLiteral("TutorialStep1"));
     const qint64 second = childrenOf(QCoreApplication::applicationPid()).value(0);
     QVERIFY(second != first && isAlive(second));
+}
+
+void TestPracticeLife::aLossIsToldInThePersonsLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("guide");
+    QTest::addColumn<QString>("restart");
+    QTest::addColumn<QString>("wrong");
+    QTest::newRow("English") << QStringLiteral("en_US") << QStringLiteral("The guide")
+                             << QStringLiteral("Restart") << QStringLiteral("Something went wrong.");
+    QTest::newRow("Japanese") << QStringLiteral("ja_JP") << QStringLiteral("ガイド")
+                              << QStringLiteral("もう一度起動") << QStringLiteral("問題が起きました。");
+    QTest::newRow("Chinese") << QStringLiteral("zh_CN") << QStringLiteral("向导")
+                             << QStringLiteral("重新启动") << QStringLiteral("出错了。");
+}
+
+void TestPracticeLife::aLossIsToldInThePersonsLanguage()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, guide);
+    QFETCH(QString, restart);
+    QFETCH(QString, wrong);
+    const QTemporaryDir folder;
+    PracticeEditor::Options inLanguage = options();
+    inLanguage.locale = locale;
+    inLanguage.companionProgram = folder.filePath(QStringLiteral("Guide"));
+    QVERIFY(QFile::link(QStringLiteral(TUTORIAL_PROGRAM), inLanguage.companionProgram));
+    PracticeEditor editor(inLanguage, windows());
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    // It ends, and cannot be started again.
+    QVERIFY(QFile::remove(inLanguage.companionProgram));
+    end(childrenOf(QCoreApplication::applicationPid()).value(0), SIGKILL);
+
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr, kSoonMs);
+    QVERIFY2(messageBox()->text().startsWith(guide), qPrintable(messageBox()->text()));
+    QCOMPARE(acceptButton(*messageBox())->text(), restart);
+    acceptButton(*messageBox())->click();
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr && messageBox()->text() == wrong, kSoonMs);
+    const QString details = messageBox()->informativeText();
+    QVERIFY2(details.contains(guide, Qt::CaseInsensitive), qPrintable(details));
+    QVERIFY2(details.contains(inLanguage.companionProgram), qPrintable(details));
+    acceptButton(*messageBox())->click();
+    QTRY_VERIFY(messageBox() == nullptr);
+}
+
+void TestPracticeLife::startAgainBringsALostCompanionBack()
+{
+    PracticeEditor editor(options(), windows());
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    end(childrenOf(QCoreApplication::applicationPid()).value(0), SIGKILL);
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr, kSoonMs);
+    QAbstractButton *start = nullptr;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (start == nullptr) {
+            start = widget->findChild<QAbstractButton *>(QStringLiteral("startButton"));
+        }
+    }
+    QVERIFY(start != nullptr);
+    start->click();
+    QTRY_VERIFY(messageBox() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    QCOMPARE(childrenOf(QCoreApplication::applicationPid()).size(), 1);
 }
 
 void TestPracticeLife::aMissingCompanionIsSaid()
