@@ -77,8 +77,9 @@ Pilot::Pilot(LessonSession *session, const Settings &settings, QObject *parent)
     });
     connect(session, &LessonSession::stepReached, this, &Pilot::onStepReached);
     connect(session, &LessonSession::finished, this, &Pilot::onFinished);
-    connect(session, &LessonSession::refused, this,
-            [this] { fail(QStringLiteral("the companion does not hand it over; has it a file of that lesson?")); });
+    connect(session, &LessonSession::refused, this, [this] {
+        fail(QStringLiteral("the companion does not hand it over; has it a file of that lesson?"));
+    });
     connect(session, &LessonSession::problemFound, this, &Pilot::fail);
 }
 
