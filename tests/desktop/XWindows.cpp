@@ -1,0 +1,98 @@
+#include "XWindows.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QRegularExpression>
+
+namespace XWindows {
+
+namespace {
+
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(10000)) {
+        return QStringLiteral("%1 did not end").arg(program).toUtf8();
+    }
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+QString run(const QString &program, const QStringList &arguments)
+{
+    return QString::fromLocal8Bit(outputOf(program, arguments));
+}
+
+QVector<Window> mapped(qint64 processId)
+{
+    // All of a process' windows share the upper bits of their ids, so one of them finds the others in the
+    // tree.
+    const QStringList visible =
+        run(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                        QStringLiteral("--pid"), QString::number(processId)})
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QString tree = run(QStringLiteral("xwininfo"), {QStringLiteral("-root"), QStringLiteral("-tree")});
+    static const QRegularExpression line(
+        QStringLiteral("^ *(0x[0-9a-f]+) .* (\\d+)x(\\d+)\\+-?\\d+\\+-?\\d+  \\+(-?\\d+)\\+(-?\\d+)$"),
+        QRegularExpression::MultilineOption);
+    QVector<Window> windows;
+    QRegularExpressionMatchIterator matches = line.globalMatch(tree);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const QString id = match.captured(1);
+        if (visible.contains(QString::number(id.toULongLong(nullptr, 16)))) {
+            windows += {id, QRect(match.captured(4).toInt(), match.captured(5).toInt(),
+                                  match.captured(2).toInt(), match.captured(3).toInt())};
+        }
+    }
+    return windows;
+}
+
+QVector<Window> mapped(qint64 processId, const QSize &size)
+{
+    QVector<Window> windows = mapped(processId);
+    windows.erase(std::remove_if(windows.begin(), windows.end(),
+                                 [&size](const Window &window) { return window.rect.size() != size; }),
+                  windows.end());
+    return windows;
+}
+
+QString property(const QString &id, const QString &name)
+{
+    const QString line = run(QStringLiteral("xprop"), {QStringLiteral("-id"), id, name});
+    return line.section(QStringLiteral(" = "), 1).trimmed();
+}
+
+int opacitySteps(const QString &id)
+{
+    const QString opacity = property(id, QStringLiteral("_NET_WM_WINDOW_OPACITY"));
+    return opacity.isEmpty() ? 255 : static_cast<int>(opacity.toULongLong() / 0x01010101U);
+}
+
+quintptr activeWindow()
+{
+    return run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed().toULongLong();
+}
+
+void click(const QPoint &at)
+{
+    run(QStringLiteral("xdotool"), {QStringLiteral("mousemove"), QString::number(at.x()),
+                                    QString::number(at.y()), QStringLiteral("click"), QStringLiteral("1")});
+    QCoreApplication::processEvents();
+}
+
+QImage screenshot(const QRect &area)
+{
+    const QString crop =
+        QStringLiteral("%1x%2+%3+%4").arg(area.width()).arg(area.height()).arg(area.x()).arg(area.y());
+    return QImage::fromData(
+        outputOf(QStringLiteral("import"),
+                 {QStringLiteral("-silent"), QStringLiteral("-window"), QStringLiteral("root"),
+                  QStringLiteral("-crop"), crop, QStringLiteral("+repage"), QStringLiteral("-depth"),
+                  QStringLiteral("8"), QStringLiteral("ppm:-")}),
+        "PPM");
+}
+
+} // namespace XWindows
