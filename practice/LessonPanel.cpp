@@ -17,6 +17,10 @@ LessonPanel::LessonPanel(const QString &locale)
                                         QStringLiteral("この手順を飛ばす"), QStringLiteral("跳过此步"))))
     , m_status(new QLabel)
 {
+    // As the editor's windows have it, so that the strip is as wide on every desktop.
+    QFont pixelFont = font();
+    pixelFont.setPixelSize(12);
+    setFont(pixelFont);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(
@@ -26,7 +30,9 @@ LessonPanel::LessonPanel(const QString &locale)
     m_skip->setObjectName(QStringLiteral("skipButton"));
     m_status->setObjectName(QStringLiteral("statusLabel"));
     m_lessons->setMinimumWidth(280);
-    m_status->setMinimumWidth(220);
+    // The longest message takes two lines, which are higher in Japanese and Chinese.
+    m_status->setWordWrap(true);
+    m_status->setFixedSize(280, 3 * fontMetrics().lineSpacing());
     m_start->setEnabled(false);
     m_skip->setEnabled(false);
 

@@ -1,0 +1,53 @@
+#include "LessonPanel.h"
+
+#include <QLabel>
+#include <QTest>
+
+class TestLessonPanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void messagesFit_data();
+    void messagesFit();
+};
+
+void TestLessonPanel::messagesFit_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("English") << QStringLiteral("en_US") << QStringLiteral("Load a sample map")
+                             << QStringLiteral("A person on the map");
+    QTest::newRow("Japanese") << QStringLiteral("ja_JP") << QStringLiteral("サンプルマップの読み込み")
+                              << QStringLiteral("マップに人物を置く");
+    QTest::newRow("Chinese") << QStringLiteral("zh_CN") << QStringLiteral("载入示例地图")
+                             << QStringLiteral("在地图上安排人物");
+}
+
+void TestLessonPanel::messagesFit()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, window);
+    QFETCH(QString, title);
+    LessonPanel panel(locale);
+    panel.setLessons({{QStringLiteral("TutorialStep1"), title}});
+    panel.show();
+    const QLabel *status = panel.findChild<QLabel *>(QStringLiteral("statusLabel"));
+    const auto fits = [status] {
+        return status->heightForWidth(status->width()) <= status->height();
+    };
+    panel.showStep(QStringLiteral("TutorialStep1"), 86, 86);
+    QVERIFY(fits());
+    panel.showClosed(window);
+    QVERIFY2(status->text().contains(window) && fits(), qPrintable(status->text()));
+    panel.showRefused(QStringLiteral("TutorialStep1"));
+    QVERIFY2(status->text().contains(title) && fits(), qPrintable(status->text()));
+    panel.showSilent();
+    QVERIFY(fits());
+    panel.showFinished();
+    QVERIFY(fits());
+}
+
+QTEST_MAIN(TestLessonPanel)
+#include "tst_LessonPanel.moc"
