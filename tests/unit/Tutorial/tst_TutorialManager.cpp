@@ -1,4 +1,3 @@
-#include "LogCapture.h"
 #include "ManagerFixture.h"
 
 #include "Tutorial/overlay/EditorTooltip.h"
@@ -6,12 +5,10 @@
 #include "Tutorial/overlay/TutorialLog.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 
-#include <QFile>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -66,14 +63,6 @@ private Q_SLOTS:
     void reports_that_it_is_ready();
     void supports_no_making();
     void answers_the_cursor_position();
-    void hands_over_from_an_id();
-    void hands_over_a_text_that_holds_an_end();
-    void keeps_the_base_name_of_a_lesson_data();
-    void keeps_the_base_name_of_a_lesson();
-    void announces_a_lesson_name_once();
-    void unloads();
-    void saves_nothing_without_a_file();
-    void saves_no_translations_into_the_program();
     void survives_hostile_numbers();
 
 private:
@@ -366,102 +355,6 @@ void tst_TutorialManager::answers_the_cursor_position()
     QVERIFY(
         QMetaObject::invokeMethod(m_fixture->manager.get(), "getCursorPos", Q_RETURN_ARG(QPoint, position)));
     QCOMPARE(position, QCursor::pos());
-}
-
-void tst_TutorialManager::hands_over_from_an_id()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    QCOMPARE(manager->loadTutorial(QStringLiteral(":/qml/Tutorial/TutorialStep1.js")), QString());
-    QVERIFY(QMetaObject::invokeMethod(manager, "startFromId", Q_ARG(int, 7)));
-    const QString payload = m_fixture->nextPayload();
-    QVERIFY(payload.startsWith(QStringLiteral("start\x01var scenario = [\n    {\n\"id\":1,\n")));
-    QVERIFY(payload.endsWith(QStringLiteral("\n    }\n];\x01"
-                                            "7")));
-    QVERIFY(QMetaObject::invokeMethod(manager, "startFromId"));
-    QVERIFY(m_fixture->nextPayload().endsWith(QStringLiteral(";\x01-1")));
-    QVERIFY(!manager->running());
-}
-
-void tst_TutorialManager::hands_over_a_text_that_holds_an_end()
-{
-    QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("own.js")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"(var scenario = [{"id":1,"name":"a","hint":"b\u005d;c"}];)");
-    file.close();
-    QCOMPARE(m_fixture->manager->loadTutorial(file.fileName()), QString());
-    m_fixture->manager->startFromId();
-    // The end that is taken off is the first one, wherever it stands.
-    const QString payload = m_fixture->nextPayload();
-    QVERIFY2(payload.contains(QStringLiteral("\"hint\":\"b]c\"")), qPrintable(payload));
-    QVERIFY2(payload.endsWith(QStringLiteral("\n];;\x01-1")), qPrintable(payload));
-}
-
-void tst_TutorialManager::keeps_the_base_name_of_a_lesson_data()
-{
-    QTest::addColumn<QString>("filename");
-    QTest::newRow("resource") << QStringLiteral(":/qml/Tutorial/TutorialStep1.js");
-    QTest::newRow("bare") << QStringLiteral("TutorialStep1");
-    QTest::newRow("directories only") << QStringLiteral("/some/where/TutorialStep1");
-    QTest::newRow("ending only") << QStringLiteral("TutorialStep1.js");
-}
-
-void tst_TutorialManager::keeps_the_base_name_of_a_lesson()
-{
-    QFETCH(QString, filename);
-    QCOMPARE(m_fixture->manager->loadTutorial(filename), QString());
-    QCOMPARE(m_fixture->manager->tutorialName(), QStringLiteral("TutorialStep1"));
-}
-
-void tst_TutorialManager::announces_a_lesson_name_once()
-{
-    QSignalSpy spy(m_fixture->manager.get(), &TutorialManager::tutorialNameChanged);
-    QString errors = QStringLiteral("not called");
-    for (int i = 0; i < 2; ++i) {
-        QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "loadTutorial",
-                                          Q_RETURN_ARG(QString, errors),
-                                          Q_ARG(QString, QStringLiteral(":/qml/Tutorial/TutorialStep1.js"))));
-        QCOMPARE(errors, QString());
-    }
-    QCOMPARE(spy.size(), 1);
-}
-
-void tst_TutorialManager::unloads()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    QCOMPARE(manager->loadTutorial(QStringLiteral(":/qml/Tutorial/TutorialStep1.js")), QString());
-    QSignalSpy spy(manager, &TutorialManager::tutorialNameChanged);
-    QVERIFY(QMetaObject::invokeMethod(manager, "unload"));
-    QVERIFY(QMetaObject::invokeMethod(manager, "unload"));
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(manager->tutorialName(), QString());
-    manager->startFromId();
-    QCOMPARE(m_fixture->nextPayload(), QStringLiteral("start\x01var scenario = [\n\n];\x01-1"));
-}
-
-void tst_TutorialManager::saves_nothing_without_a_file()
-{
-    QString message;
-    QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "save", Q_RETURN_ARG(QString, message)));
-    QCOMPARE(message, QStringLiteral("Tutorial not loaded yet."));
-}
-
-void tst_TutorialManager::saves_no_translations_into_the_program()
-{
-    LogCapture log;
-    QString message;
-    QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "feedbackTranslation",
-                                      Q_RETURN_ARG(QString, message)));
-    QCOMPARE(message, QStringLiteral("Failed to save translation."));
-    const QString start =
-        QStringLiteral("..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp TutorialManager::");
-    const QString path = QStringLiteral("translations/en_US.ts");
-    QCOMPARE(log.debugs().mid(0, 3),
-             (QStringList{start + QStringLiteral("feedbackTranslation 1779"),
-                          start + QStringLiteral("getExistsFilename 1402 \"%1\"").arg(path),
-                          start + QStringLiteral("getExistsFilename 1405 \":/%1\"").arg(path)}));
-    QCOMPARE(log.warnings().constLast(),
-             start + QStringLiteral("saveTranslation 1857 Failed to save \":/%1\"").arg(path));
 }
 
 void tst_TutorialManager::survives_hostile_numbers()
