@@ -63,15 +63,6 @@ QString activeWindowId()
     return run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed();
 }
 
-// The opacity that the X server was told, in 255 steps.
-int opacityStepsOf(const QWidget *widget)
-{
-    const QString property = run(QStringLiteral("xprop"), {QStringLiteral("-id"), idOf(widget),
-                                                           QStringLiteral("_NET_WM_WINDOW_OPACITY")});
-    const QRegularExpressionMatch match = QRegularExpression(QStringLiteral("= (\\d+)")).match(property);
-    return match.hasMatch() ? static_cast<int>(match.captured(1).toULongLong() / 0x01010101U) : 255;
-}
-
 } // namespace
 
 class TestOverlayWindows : public QObject
@@ -90,7 +81,6 @@ private Q_SLOTS:
     void bubbleReachesBeyondTheScreen_data();
     void bubbleReachesBeyondTheScreen();
     void tooltipReachesBeyondTheScreen();
-    void fadeReachesTheWindowSystem();
 
 private:
     void waitUntilClickThrough(QWidget *overlay, const QPoint &spot);
@@ -248,16 +238,6 @@ void TestOverlayWindows::tooltipReachesBeyondTheScreen()
     const QWidget *const text = m_host.tooltip->findChild<QTextEdit *>();
     QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
     QTRY_COMPARE(positionOf(m_host.tooltip), point - QPoint(text->width() / 2, text->height() / 2));
-}
-
-void TestOverlayWindows::fadeReachesTheWindowSystem()
-{
-    EditorTooltip::show(&m_host, QStringLiteral("Fading in"), 400, 300);
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
-    QCOMPARE(opacityStepsOf(m_host.tooltip), 0);
-    QTRY_COMPARE(opacityStepsOf(m_host.tooltip), 255);
-    EditorTooltip::show(&m_host, QString(), 400, 300);
-    QTRY_COMPARE(opacityStepsOf(m_host.tooltip), 0);
 }
 
 QTEST_MAIN(TestOverlayWindows)
