@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
@@ -70,7 +71,7 @@ void EditorTooltip::present(const QString &text, int x, int y)
 {
     m_text = text;
     if (!text.isEmpty()) {
-        m_textEdit->setText(text);
+        setHostText(m_textEdit, text);
         m_textEdit->show();
         const QSizeF size = m_textEdit->document()->size();
         logDebug(kSource, "EditorTooltip::show", 74) << text << size.width() << size.height();
@@ -107,7 +108,7 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
     logDebug(kSource, "EditorTooltip::setSettings", 106) << settings;
     m_text = settings.value(QStringLiteral("text")).toString();
     if (!m_text.isEmpty()) {
-        m_textEdit->setText(m_text);
+        setHostText(m_textEdit, m_text);
         m_textEdit->show();
         m_textEdit->resize(settings.value(QStringLiteral("width")).toInt(),
                            settings.value(QStringLiteral("height")).toInt());

@@ -2,6 +2,7 @@
 
 #include "Tutorial/overlay/Bounce.h"
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/StayHidden.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
@@ -37,7 +38,7 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     m_textEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
     if (!m_indicator->m_hint.isEmpty()) {
-        m_textEdit->setText(m_indicator->m_hint);
+        setHostText(m_textEdit, m_indicator->m_hint);
         m_textEdit->show();
         m_indicator->m_updateTextEditSize = true;
     } else {
