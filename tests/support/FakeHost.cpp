@@ -6,6 +6,12 @@
 
 #include <unistd.h>
 
+namespace {
+
+constexpr int kEndMs = 1000; // a program that a test has stopped does not end
+
+} // namespace
+
 FakeHost::FakeHost()
 {
     m_process.setProgram(QStringLiteral(TUTORIAL_PROGRAM));
@@ -20,6 +26,11 @@ FakeHost::FakeHost()
 FakeHost::~FakeHost()
 {
     m_process.disconnect();
+    // The program ends by itself when its link goes down; killed, it could not write down which lines it ran.
+    if (m_socket != nullptr) {
+        m_socket->abort();
+        m_process.waitForFinished(kEndMs);
+    }
     if (m_process.state() != QProcess::NotRunning) {
         m_process.kill();
         m_process.waitForFinished();
