@@ -72,7 +72,7 @@ TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const Scen
     try {
         const QString idKey = QStringLiteral("id");
         if (!json.contains(idKey)) {
-            throw QStringLiteral("m_object doesn't have key: id");
+            JsonWrapper::errorHandler(QStringLiteral("m_object doesn't have key: %1").arg(idKey));
         }
         data->id = json[idKey].toInt();
         read(json, QStringLiteral("name"), data->name);

@@ -114,7 +114,8 @@ void UndoRedo::endSequence()
         return;
     }
     if (const QUndoCommand *sequence = m_undoStack->command(m_sequenceStartIndex)) {
-        logDebug(kSource, "UndoRedo::endSequence", 211) << "childCount" << sequence->childCount();
+        logDebug(kSource, "UndoRedo::endSequence", 211)
+            << static_cast<const void *>(sequence) << "childCount" << sequence->childCount();
         if (sequence->childCount() == 0) {
             // The marker replaces the empty step, so that there is nothing to redo.
             m_undoStack->undo();

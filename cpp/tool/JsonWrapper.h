@@ -74,6 +74,10 @@ public:
     /// and QStringList among them, logs a warning and gives empty text.
     [[nodiscard]] static QString getJsonString(const QVariant &variant);
 
+    /// Logs @p message and throws it.
+    [[noreturn]] static void errorHandler(const QString &message);
+    [[noreturn]] static void errorHandler(const char *message);
+
 protected:
     // Only the member that belongs to the kind means anything; the others are empty.
     Kind m_kind = Kind::kDoc;
@@ -82,8 +86,4 @@ protected:
     QJsonObject m_object;
     QJsonValue m_value;
     bool m_parseFailed = false;
-
-    /// Logs @p message and throws it.
-    [[noreturn]] static void errorHandler(const QString &message);
-    [[noreturn]] static void errorHandler(const char *message);
 };
