@@ -38,6 +38,8 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
     m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
+    // Without it a blinking cursor stands in the text while the window is active.
+    m_textEdit->setFocusPolicy(Qt::NoFocus);
 
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -37,6 +37,8 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_textEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
+    // Without it a blinking cursor stands in the text while the window is active.
+    m_textEdit->setFocusPolicy(Qt::NoFocus);
     if (!m_indicator->m_hint.isEmpty()) {
         setHostText(m_textEdit, m_indicator->m_hint);
         m_textEdit->show();

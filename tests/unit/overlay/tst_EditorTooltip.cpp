@@ -104,6 +104,7 @@ void TestEditorTooltip::isBuiltHidden()
     QCOMPARE(textEdit()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QCOMPARE(textEdit()->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QVERIFY(textEdit()->windowFlags().testFlag(Qt::WindowTransparentForInput));
+    QCOMPARE(textEdit()->focusPolicy(), Qt::NoFocus);
     QVERIFY(!textEdit()->isWindow());
     const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(tooltip());
     QCOMPARE(timers.size(), 1);

@@ -128,6 +128,7 @@ void TestTutorialTooltip::textEditIsBuiltFixed()
     QCOMPARE(textEdit->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QCOMPARE(textEdit->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
     QVERIFY(textEdit->windowFlags().testFlag(Qt::WindowTransparentForInput));
+    QCOMPARE(textEdit->focusPolicy(), Qt::NoFocus);
     QVERIFY(!textEdit->isWindow());
     QVERIFY(textEdit->isHidden());
 }
