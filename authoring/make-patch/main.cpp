@@ -88,9 +88,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("BASE"),
                                  QStringLiteral("The text that the patch is applied to."),
-                                 QStringLiteral("[BASE TARGET]"));
+                                 QStringLiteral("[BASE"));
     parser.addPositionalArgument(QStringLiteral("TARGET"), QStringLiteral("The text that comes out."),
-                                 QString());
+                                 QStringLiteral("TARGET]"));
 
     if (!parser.parse(QCoreApplication::arguments()))
         return badUsage(parser.errorText());

@@ -209,7 +209,7 @@ void tst_MakePatchTool::helpNamesBothForms()
     const Run result = run("--help");
     QCOMPARE(result.status, 0);
     for (const char *part : {"make-patch BASE TARGET -o FILE", "make-patch --chain STEPS_DIR -o PATCH_DIR",
-                             "--allow-vanish <NAME.json>"})
+                             "make-patch [options] [BASE TARGET]\n", "--allow-vanish <NAME.json>"})
         QVERIFY2(result.output.contains(QString::fromLatin1(part)), qPrintable(result.output));
 }
 
