@@ -53,8 +53,14 @@ Condition::Condition(const QString &text)
         return;
     }
     const QRegularExpression whole(QRegularExpression::anchoredPattern(form->pattern));
-    if (!whole.match(text).hasMatch())
+    if (!whole.match(text).hasMatch()) {
         m_problem = QStringLiteral("\"%1\" does not have the form of \"%2\"").arg(text, form->example);
-    else if (m_type == QLatin1String("windowState"))
+        if (m_type == QLatin1String("action"))
+            m_problem += QStringLiteral("; the last word is empty, open or close");
+    } else if (m_type == QLatin1String("windowState")) {
         m_windowKey = text.section(QLatin1Char(','), 1, 1);
+    } else if (m_type == QLatin1String("action")) {
+        m_action = text.section(QLatin1Char(','), 1, 1);
+        m_actionState = text.section(QLatin1Char(','), 2, 2);
+    }
 }

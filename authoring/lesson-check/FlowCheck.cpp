@@ -22,6 +22,8 @@ public:
             checkTarget(step, QStringLiteral("jump"), step.jump);
             checkTarget(step, QStringLiteral("jumpNo"), step.jumpNo);
         }
+        for (int i = 0; i < m_lesson.steps.size(); ++i)
+            checkClick(i);
         follow();
         for (int i = 0; i < m_lesson.steps.size(); ++i) {
             if (!m_reached.at(i))
@@ -51,6 +53,30 @@ private:
             report(step, field, QStringLiteral("no item has the id %1").arg(target));
     }
 
+    /// Index of the step behind the one at @p at, without a question between them; -1 for a jump to nowhere.
+    [[nodiscard]] int next(int at) const
+    {
+        const int jump = m_lesson.steps.at(at).jump;
+        return jump == -1 ? at + 1 : m_indexById.value(jump, -1);
+    }
+
+    /// A click on the map, the only thing that reports either, goes down and comes up: it must not end two
+    /// steps.
+    void checkClick(int at)
+    {
+        const int behind = next(at);
+        if (behind < 0 || behind >= m_lesson.steps.size())
+            return;
+        const ScenarioStep &step = m_lesson.steps.at(at);
+        const ScenarioStep &other = m_lesson.steps.at(behind);
+        if (step.condition.startsWith(QLatin1String("pressed,")) &&
+            other.condition.startsWith(QLatin1String("mouseEvent,")))
+            report(other, QStringLiteral("condition"),
+                   QStringLiteral("the click that ends item %1 would end this step as well, when the button "
+                                  "comes up")
+                       .arg(step.id));
+    }
+
     /// Marks every step that can be reached from the first.
     void follow()
     {
@@ -65,7 +91,7 @@ private:
         while (!open.isEmpty()) {
             const int at = open.takeLast();
             const ScenarioStep &step = m_lesson.steps.at(at);
-            visit(step.jump == -1 ? at + 1 : m_indexById.value(step.jump, -1));
+            visit(next(at));
             if (step.condition == QLatin1String("yesNo"))
                 visit(step.jumpNo == -1 ? at + 1 : m_indexById.value(step.jumpNo, -1));
         }

@@ -27,8 +27,11 @@ Setter integer(int ScenarioStep::*member)
     return [member](ScenarioStep &step, const QString &value) {
         static const QRegularExpression form(QStringLiteral("^-?(0|[1-9][0-9]*)$"));
         bool fits = false;
-        step.*member = value.toInt(&fits);
-        return fits && form.match(value).hasMatch();
+        const int number = value.toInt(&fits);
+        if (!fits || !form.match(value).hasMatch())
+            return false;
+        step.*member = number;
+        return true;
     };
 }
 
@@ -126,6 +129,14 @@ bool closesItem(const QString &line)
 
 } // namespace
 
+/// Which fields of an item have been met so far, by their indices.
+struct ScenarioReader::Places
+{
+    QSet<int> seen;
+    QSet<int> replaced; ///< a line that is no field stands where these were due
+    int latest = -1;    ///< the furthest one
+};
+
 ScenarioReader::ScenarioReader(QString file)
     : m_file(std::move(file))
 {
@@ -189,50 +200,70 @@ void ScenarioReader::readItem(ScenarioSteps &steps)
 
 void ScenarioReader::readFields(int first, int count, ScenarioStep &step)
 {
-    static const QRegularExpression form(QStringLiteral("^\"([^\"]*)\":(.*)$"));
-    QSet<int> seen;
-    int latest = -1;
-    for (int i = 0; i < count; ++i) {
-        QString line = m_lines.at(first + i);
-        const bool isLast = i == count - 1;
-        const QString ending = isLast ? pad() : QStringLiteral(",");
-        if (line.endsWith(ending))
-            line.chop(ending.size());
-        else
-            report(first + i, &step, {},
-                   isLast ? QStringLiteral("the last field ends with four blanks and no comma")
-                          : QStringLiteral("every field but the last ends with a comma"));
-        const QRegularExpressionMatch match = form.match(line);
-        if (!match.hasMatch()) {
-            report(first + i, &step, {},
-                   QStringLiteral("a field has the form \"key\":value, without an indent"));
-            continue;
-        }
-        const QString name = match.captured(1);
-        const int index = fieldIndex(name);
-        if (index < 0) {
-            report(first + i, &step, name, QStringLiteral("no field has this name"));
-            continue;
-        }
-        if (seen.contains(index))
-            report(first + i, &step, name, QStringLiteral("the field stands twice"));
-        else if (index < latest)
-            report(first + i, &step, name,
-                   QStringLiteral("the field has to stand before \"%1\"").arg(field(latest).name));
-        seen.insert(index);
-        latest = qMax(latest, index);
-        readValue(first + i, index, match.captured(2), step);
-    }
+    Places places;
+    for (int i = 0; i < count; ++i)
+        readField(first + i, i == count - 1 ? pad() : QStringLiteral(","), places, step);
     for (int i = 0; i < static_cast<int>(fields().size()); ++i) {
-        if (!seen.contains(i))
+        if (places.seen.contains(i))
+            continue;
+        step.unread.append(field(i).name);
+        if (!places.replaced.contains(i))
             report(first - 1, &step, field(i).name, QStringLiteral("the field is missing"));
     }
 }
 
-void ScenarioReader::readValue(int line, int index, const QString &value, ScenarioStep &step)
+void ScenarioReader::readField(int at, const QString &ending, Places &places, ScenarioStep &step)
 {
-    if (!field(index).set(step, value))
-        report(line, &step, field(index).name, QStringLiteral("%1 is not %2").arg(value, field(index).kind));
+    // Wider than the form, so that a blank too many does not count as a lost field as well.
+    static const QRegularExpression wide(QStringLiteral("^\\s*\"([^\"]*)\"\\s*:\\s*(.*?)\\s*$"));
+    QString line = m_lines.at(at);
+    const bool ends = line.endsWith(ending);
+    if (ends)
+        line.chop(ending.size());
+    const QRegularExpressionMatch match = wide.match(line);
+    if (!match.hasMatch()) {
+        reportForeignLine(at, {}, QStringLiteral("a field has the form \"key\":value"), places, step);
+        return;
+    }
+    const QString name = match.captured(1);
+    const QString value = match.captured(2);
+    const int index = fieldIndex(name);
+    if (index < 0) {
+        reportForeignLine(at, name, QStringLiteral("no field has this name"), places, step);
+        return;
+    }
+
+    const bool fits = field(index).set(step, value);
+    if (!fits && step.isRead(qPrintable(name)))
+        step.unread.append(name);
+    const QString form = QStringLiteral("\"%1\":%2").arg(name, value);
+    if (!ends)
+        report(at, &step, {},
+               ending == pad() ? QStringLiteral("the last field ends with four blanks and no comma")
+                               : QStringLiteral("every field but the last ends with a comma"));
+    else if (line != form)
+        report(at, &step, name, QStringLiteral("without blanks around its parts the field is %1").arg(form));
+    else if (places.seen.contains(index))
+        report(at, &step, name, QStringLiteral("the field stands twice"));
+    else if (index < places.latest)
+        report(at, &step, name,
+               QStringLiteral("the field has to stand before \"%1\"").arg(field(places.latest).name));
+    else if (!fits)
+        report(at, &step, name, QStringLiteral("%1 is not %2").arg(value, field(index).kind));
+    places.seen.insert(index);
+    places.latest = qMax(places.latest, index);
+}
+
+void ScenarioReader::reportForeignLine(int at, const QString &name, const QString &text, Places &places,
+                                       const ScenarioStep &step)
+{
+    const int next = places.latest + 1;
+    if (next == static_cast<int>(fields().size())) {
+        report(at, &step, name, text);
+        return;
+    }
+    places.replaced.insert(next);
+    report(at, &step, name, QStringLiteral("%1; \"%2\" has to stand here").arg(text, field(next).name));
 }
 
 void ScenarioReader::report(int line, const ScenarioStep *step, const QString &name, const QString &text)

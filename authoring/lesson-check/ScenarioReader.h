@@ -13,15 +13,20 @@ public:
     /// @p file names the file in the findings.
     explicit ScenarioReader(QString file);
 
-    /// Returns the items that can be read. What deviates from the form is added to findings().
+    /// Returns the items that can be read. What deviates from the form is added to findings(), with one
+    /// finding for a line at most: what else may be wrong with it shows when that is mended.
     [[nodiscard]] ScenarioSteps read(const QByteArray &bytes);
 
     [[nodiscard]] const Findings &findings() const { return m_findings; }
 
 private:
     void readItem(ScenarioSteps &steps);
+    struct Places;
+
     void readFields(int first, int count, ScenarioStep &step);
-    void readValue(int line, int index, const QString &value, ScenarioStep &step);
+    void readField(int at, const QString &ending, Places &places, ScenarioStep &step);
+    void reportForeignLine(int at, const QString &name, const QString &text, Places &places,
+                           const ScenarioStep &step);
     void report(int line, const ScenarioStep *step, const QString &name, const QString &text);
 
     QString m_file;

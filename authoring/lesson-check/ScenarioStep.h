@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 /// One item of a scenario file as it stands there, nothing resolved.
@@ -22,6 +23,9 @@ struct ScenarioStep
     QString command;
     bool showArrow = true;
     bool prohibited = false;
+    QStringList unread; ///< names of the fields that are missing or cannot be read; their values mean nothing
+
+    [[nodiscard]] bool isRead(const char *field) const { return !unread.contains(QLatin1String(field)); }
 
     /// Whether the step points at nothing.
     [[nodiscard]] bool hasNoPosition() const { return x == kNowhere && y == kNowhere; }

@@ -34,8 +34,11 @@ public:
     }
 
 private:
+    /// A field that cannot be read has its finding already.
     void report(const QString &field, const QString &text)
     {
+        if (m_step->unread.contains(field))
+            return;
         m_findings.append({Finding::Kind::kError, m_lesson.file, m_step->line,
                            QStringLiteral("item %1").arg(m_step->id), field, text});
     }
@@ -51,7 +54,7 @@ private:
     {
         const QString x = QStringLiteral("x");
         const QString y = QStringLiteral("y");
-        if (m_step->hasNoPosition())
+        if (m_step->hasNoPosition() || !m_step->isRead("x") || !m_step->isRead("y"))
             return;
         if (m_step->x == ScenarioStep::kNowhere || m_step->y == ScenarioStep::kNowhere) {
             report(m_step->x == ScenarioStep::kNowhere ? y : x,
@@ -59,7 +62,7 @@ private:
             return;
         }
         const QSize size = m_windows.size(m_step->windowKey);
-        if (!m_windows.isKnown(m_step->windowKey) || size.isEmpty())
+        if (!m_windows.isKnown(m_step->windowKey) || size.isEmpty() || !m_step->isRead("windowKey"))
             return;
         const QPoint tip = QPoint(m_step->x, m_step->y) + Spot::kTip;
         if (tip.x() < 0 || tip.x() >= size.width()) {
@@ -90,15 +93,30 @@ private:
 
     void checkCondition()
     {
+        if (!m_step->isRead("condition"))
+            return;
         const Condition condition(m_step->condition);
         if (!condition.problem().isEmpty())
             report(QStringLiteral("condition"), condition.problem());
         else if (!condition.windowKey().isEmpty() && !m_windows.isKnown(condition.windowKey()))
             report(QStringLiteral("condition"),
                    QStringLiteral("no window has the key \"%1\"").arg(condition.windowKey()));
+        else if (!condition.action().isEmpty())
+            checkAction(condition.action(), condition.actionState());
         if (condition.type() != QLatin1String("yesNo") && m_step->jumpNo != -1)
             report(QStringLiteral("jumpNo"),
                    QStringLiteral("only a step with the condition yesNo has a way for no"));
+    }
+
+    void checkAction(const QString &action, const QString &state)
+    {
+        const QStringList states = m_windows.actionStates(action);
+        if (states.isEmpty())
+            report(QStringLiteral("condition"),
+                   QStringLiteral("no window has the action \"%1\"").arg(action));
+        else if (!states.contains(state))
+            report(QStringLiteral("condition"),
+                   QStringLiteral("the action %1 reports \"action,%1,%2\"").arg(action, states.first()));
     }
 
     void checkRest()
@@ -112,7 +130,7 @@ private:
         if (!command.match(m_step->command).hasMatch())
             report(QStringLiteral("command"),
                    QStringLiteral("\"%1\" is not of the form presetData,stepN").arg(m_step->command));
-        if (m_step->hint != m_step->translationId)
+        if (m_step->hint != m_step->translationId && m_step->isRead("translationId"))
             report(QStringLiteral("hint"), QStringLiteral("the hint shows text %1, the translationId says %2")
                                                .arg(m_step->hint)
                                                .arg(m_step->translationId));

@@ -38,9 +38,7 @@ Findings compare(const QString &file, const QString &context, const Uses &uses, 
     return findings;
 }
 
-} // namespace
-
-Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue)
+Uses usesOf(const Lesson &lesson)
 {
     Uses uses;
     for (const ScenarioStep &step : lesson.steps) {
@@ -48,8 +46,16 @@ Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue)
             uses.insert(step.translationId,
                         {step.line, QStringLiteral("item %1").arg(step.id), QStringLiteral("translationId")});
     }
-    Findings findings = compare(lesson.file, lesson.name, uses, catalogue);
+    return uses;
+}
+
+} // namespace
+
+Findings checkNumbers(const Lesson &lesson)
+{
+    const Uses uses = usesOf(lesson);
     const int last = uses.isEmpty() ? 0 : uses.lastKey();
+    Findings findings;
     for (int number = 1; number < last; ++number) {
         if (!uses.contains(number))
             findings.append({Finding::Kind::kError,
@@ -60,6 +66,11 @@ Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue)
                              QStringLiteral("the number %1 is left out").arg(number)});
     }
     return findings;
+}
+
+Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue)
+{
+    return compare(lesson.file, lesson.name, usesOf(lesson), catalogue);
 }
 
 Findings checkTitles(const QString &listFile, const QVector<LessonEntry> &entries, const Catalogue &catalogue)

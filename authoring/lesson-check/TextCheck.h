@@ -5,8 +5,10 @@
 #include "lesson-check/Lesson.h"
 #include "lesson-check/LessonList.h"
 
-/// The texts that @p lesson uses: each number is in @p catalogue, each text there is used, no number is left
-/// out.
+/// The numbers of the texts that @p lesson uses: none below the highest is left out.
+[[nodiscard]] Findings checkNumbers(const Lesson &lesson);
+
+/// The texts that @p lesson uses: each number is in @p catalogue, each text there is used.
 [[nodiscard]] Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue);
 
 /// The same for the titles of the list in the file @p listFile.

@@ -7,26 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace {
-
-QVector<ControlPlace> readControls(const QJsonObject &window, const QString &prefix)
-{
-    QVector<ControlPlace> controls;
-    const QJsonArray all = window.value(QLatin1String("controls")).toArray();
-    for (const QJsonValue &value : all) {
-        const QJsonObject control = value.toObject();
-        const QJsonArray place = control.value(QLatin1String("geometry")).toArray();
-        controls.append(
-            {prefix + control.value(QLatin1String("name")).toString(),
-             QRect(place.at(0).toInt(), place.at(1).toInt(), place.at(2).toInt(), place.at(3).toInt()),
-             control.value(QLatin1String("rowHeight")).toInt(),
-             control.value(QLatin1String("tabWidth")).toInt()});
-    }
-    return controls;
-}
-
-} // namespace
-
 WindowPlaces::WindowPlaces(const QString &path, const QString &shownPath, Findings &findings)
 {
     const QDir folder(path);
@@ -56,6 +36,25 @@ WindowPlaces::WindowPlaces(const QString &path, const QString &shownPath, Findin
                 readControls(popup.toObject(), popup[QLatin1String("name")].toString() + QLatin1Char('/'));
         m_windows.insert(description.value(QLatin1String("key")).toString(), window);
     }
+}
+
+QVector<ControlPlace> WindowPlaces::readControls(const QJsonObject &window, const QString &prefix)
+{
+    QVector<ControlPlace> controls;
+    const QJsonArray all = window.value(QLatin1String("controls")).toArray();
+    for (const QJsonValue &value : all) {
+        const QJsonObject control = value.toObject();
+        const QJsonArray place = control.value(QLatin1String("geometry")).toArray();
+        controls.append(
+            {prefix + control.value(QLatin1String("name")).toString(),
+             QRect(place.at(0).toInt(), place.at(1).toInt(), place.at(2).toInt(), place.at(3).toInt()),
+             control.value(QLatin1String("rowHeight")).toInt(),
+             control.value(QLatin1String("tabWidth")).toInt()});
+        const QString action = control.value(QLatin1String("action")).toString();
+        if (!action.isEmpty())
+            m_actions.insert(action, control.value(QLatin1String("actionState")).toString());
+    }
+    return controls;
 }
 
 QVector<ControlPlace> WindowPlaces::controls(const QString &windowKey) const

@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <QStringList>
+
+class QJsonObject;
 
 /// Where a control stands, in pixels from the top left corner of its window's contents.
 struct ControlPlace
@@ -35,6 +38,10 @@ public:
     /// that is not known.
     [[nodiscard]] QVector<ControlPlace> controls(const QString &windowKey) const;
 
+    /// What the action @p name reports as its last word, one for each control that has it ("" is one, too).
+    /// Empty when no window has the action.
+    [[nodiscard]] QStringList actionStates(const QString &name) const { return m_actions.values(name); }
+
     /// All keys, sorted.
     [[nodiscard]] QStringList keys() const;
 
@@ -47,5 +54,8 @@ private:
         QVector<ControlPlace> controls;
     };
 
+    [[nodiscard]] QVector<ControlPlace> readControls(const QJsonObject &window, const QString &prefix);
+
     QHash<QString, Window> m_windows;
+    QMultiHash<QString, QString> m_actions;
 };

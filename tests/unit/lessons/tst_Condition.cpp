@@ -12,6 +12,7 @@ private Q_SLOTS:
     void refusesOtherForms_data();
     void refusesOtherForms();
     void namesTheWindowOfAWindowState();
+    void namesTheActionAndItsLastWord();
 };
 
 void tst_Condition::acceptsEveryFormInUse_data()
@@ -67,7 +68,12 @@ void tst_Condition::refusesOtherForms_data()
         "\"windowState,Copying,shut\" does not have the form of \"windowState,Copying,close\"");
     row("list,first", "\"list,first\" does not have the form of \"list,2\"");
     row("list,-1", "\"list,-1\" does not have the form of \"list,2\"");
-    row("action,fileSave", "\"action,fileSave\" does not have the form of \"action,fileSave,close\"");
+    row("action,fileSave", "\"action,fileSave\" does not have the form of \"action,fileSave,close\"; the "
+                           "last word is empty, open or close");
+    row("action,fileSave,shut", "\"action,fileSave,shut\" does not have the form of "
+                                "\"action,fileSave,close\"; the last word is empty, open or close");
+    row("action,,open", "\"action,,open\" does not have the form of \"action,fileSave,close\"; the last word "
+                        "is empty, open or close");
     row("tabView,palette,1", "\"tabView,palette,1\" does not have the form of \"tabView,tabview,1\"");
     row("yesNo,", "\"yesNo,\" does not have the form of \"yesNo\"");
     row("spinBox,35", "\"spinBox,35\" does not have the form of \"spinBox,=,35 %\"");
@@ -90,6 +96,16 @@ void tst_Condition::namesTheWindowOfAWindowState()
 {
     QCOMPARE(Condition(QStringLiteral("windowState,Copying,close")).windowKey(), QStringLiteral("Copying"));
     QCOMPARE(Condition(QStringLiteral("list,2")).windowKey(), QString());
+}
+
+void tst_Condition::namesTheActionAndItsLastWord()
+{
+    const Condition save(QStringLiteral("action,fileSave,close"));
+    QCOMPARE(save.action(), QStringLiteral("fileSave"));
+    QCOMPARE(save.actionState(), QStringLiteral("close"));
+    QCOMPARE(Condition(QStringLiteral("action,editUndo,")).actionState(), QString());
+    QCOMPARE(Condition(QStringLiteral("action,fileSave,shut")).action(), QString());
+    QCOMPARE(Condition(QStringLiteral("windowState,Copying,close")).action(), QString());
 }
 
 QTEST_APPLESS_MAIN(tst_Condition)

@@ -76,6 +76,13 @@ private Q_SLOTS:
     void readsEverythingAnewEachTime();
     void namesTheFinding_data();
     void namesTheFinding();
+    void saysOneThingOfAWrongLine_data();
+    void saysOneThingOfAWrongLine();
+    void saysOnceWhatConcernsNoLanguage();
+    void namesTheLanguageThatLacksAText_data();
+    void namesTheLanguageThatLacksAText();
+    void namesAClickThatEndsTwoSteps_data();
+    void namesAClickThatEndsTwoSteps();
     void namesAFileThatIsGone_data();
     void namesAFileThatIsGone();
     void namesALessonThatIsNotInTheList();
@@ -199,9 +206,9 @@ void tst_LessonLibrary::namesTheFinding_data()
     row("no blanks behind the last field", scenario, "\"prohibited\":false    \n", "\"prohibited\":false\n",
         IN_SCENARIO "17: item 1: the last field ends with four blanks and no comma");
     row("field with an indent", scenario, "\"x\":0,", " \"x\":0,",
-        IN_SCENARIO "41: item 3: a field has the form \"key\":value, without an indent");
-    row("unknown field", scenario, "\"x\":0,", "\"z\":0,",
-        IN_SCENARIO "41: item 3, \"z\": no field has this name");
+        IN_SCENARIO "41: item 3, \"x\": without blanks around its parts the field is \"x\":0");
+    row("field behind the last", scenario, "\"prohibited\":false    ", "\"prohibited\":false,\n\"z\":0    ",
+        IN_SCENARIO "18: item 1, \"z\": no field has this name");
     row("missing field", scenario, "\"x\":0,\n", "", IN_SCENARIO "36: item 3, \"x\": the field is missing");
     row("field twice", scenario, "\"x\":0,\n", "\"x\":0,\n\"x\":0,\n",
         IN_SCENARIO "42: item 3, \"x\": the field stands twice");
@@ -234,6 +241,10 @@ void tst_LessonLibrary::namesTheFinding_data()
     row("unknown window in a condition", scenario, "windowState,NewProject,open",
         "windowState,OldProject,open",
         IN_SCENARIO "36: item 3, \"condition\": no window has the key \"OldProject\"");
+    row("action that no window has", scenario, "action,fileOpen,open", "action,fileShut,open",
+        IN_SCENARIO "53: item 4, \"condition\": no window has the action \"fileShut\"");
+    row("action with another last word", scenario, "action,fileOpen,open", "action,fileOpen,",
+        IN_SCENARIO "53: item 4, \"condition\": the action fileOpen reports \"action,fileOpen,open\"");
     row("unknown condition", scenario, "action,fileOpen,open", "act,fileOpen,open",
         IN_SCENARIO "53: item 4, \"condition\": \"act\" is not a condition type");
     row("unknown icon", scenario, "\"icon\":\"eye\"", "\"icon\":\"ear\"",
@@ -348,6 +359,126 @@ void tst_LessonLibrary::namesTheFinding()
     };
     QVERIFY2(std::any_of(found.cbegin(), found.cend(), isIt),
              qPrintable(QStringLiteral("not among: ") + found.join(QLatin1Char('\n'))));
+}
+
+void tst_LessonLibrary::saysOneThingOfAWrongLine_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("finding");
+    const auto row = [](const char *name, const char *from, const char *to, const char *finding) {
+        QTest::newRow(name) << QByteArray(from) << QByteArray(to)
+                            << QStringLiteral("resource/qml/Tutorial/TutorialStep1.js:") +
+                                   QString::fromLatin1(finding);
+    };
+    row("blanks", "\"icon\":\"eye\",", "\"icon\" : \"eye\",",
+        "12: item 1, \"icon\": without blanks around its parts the field is \"icon\":\"eye\"");
+    row("blank before the comma", "\"icon\":\"eye\",", "\"icon\":\"eye\" ,",
+        "12: item 1, \"icon\": without blanks around its parts the field is \"icon\":\"eye\"");
+    row("name without quotes",
+        "\"icon\":", "icon:", "12: item 1: a field has the form \"key\":value; \"icon\" has to stand here");
+    row("name that is misspelt",
+        "\"icon\":", "\"icn\":", "12: item 1, \"icn\": no field has this name; \"icon\" has to stand here");
+    row("empty line for a field", "\"id\":5,", "",
+        "71: a field has the form \"key\":value; \"id\" has to stand here");
+    row("text without quotes", "\"icon\":\"eye\"", "\"icon\":eye",
+        "12: item 1, \"icon\": eye is not a text in double quotes");
+    row("semicolon for the comma", "\"icon\":\"eye\",", "\"icon\":\"eye\";",
+        "12: item 1: every field but the last ends with a comma");
+    row("comma behind the last field", "\"prohibited\":false    ", "\"prohibited\":false,",
+        "17: item 1: the last field ends with four blanks and no comma");
+    row("id in quotes", "\"id\":3,", "\"id\":\"3\",", "37: \"id\": \"3\" is not a whole number");
+    row("translationId in quotes", "\"translationId\":2,", "\"translationId\":\"2\",",
+        "23: item 2, \"translationId\": \"2\" is not a whole number");
+    row("hint that is no call", "qsTr(\"#1\")", "\"#1\"", "11: item 1, \"hint\": \"#1\" is not qsTr(\"#N\")");
+    row("position in quotes", "\"x\":0,", "\"x\":\"0\",", "41: item 3, \"x\": \"0\" is not a whole number");
+    row("window without quotes", "\"windowKey\":\"MainWindow\"", "\"windowKey\":MainWindow",
+        "26: item 2, \"windowKey\": MainWindow is not a text in double quotes");
+    row("condition without quotes", "\"condition\":\"yesNo\"", "\"condition\":yesNo",
+        "27: item 2, \"condition\": yesNo is not a text in double quotes");
+    row("command without quotes", "\"command\":\"presetData,step1\"", "\"command\":presetData",
+        "49: item 3, \"command\": presetData is not a text in double quotes");
+    row("jump in quotes", "\"jump\":5,", "\"jump\":\"5\",",
+        "47: item 3, \"jump\": \"5\" is not a whole number");
+    row("missing field", "\"condition\":\"yesNo\",\n", "", "19: item 2, \"condition\": the field is missing");
+}
+
+void tst_LessonLibrary::saysOneThingOfAWrongLine()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, finding);
+    replace(scenarioFile(), from, to);
+    QCOMPARE(errors(), QStringList(finding));
+}
+
+void tst_LessonLibrary::saysOnceWhatConcernsNoLanguage()
+{
+    replace(scenarioFile(), "\"translationId\":2,", "\"translationId\":3,");
+    QCOMPARE(errors().filter(QStringLiteral("the number 2 is left out")).size(), 1);
+}
+
+void tst_LessonLibrary::namesTheLanguageThatLacksAText_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::newRow("text of a lesson") << QStringLiteral("<source>#3</source>");
+    QTest::newRow("title") << QStringLiteral("<source>#2</source>");
+    QTest::newRow("other text") << QStringLiteral("<source>Next</source>");
+}
+
+void tst_LessonLibrary::namesTheLanguageThatLacksAText()
+{
+    QFETCH(QString, source);
+    const char *const locales[] = {"en_US", "ja_JP", "zh_CN"};
+    for (const char *locale : locales) {
+        init();
+        replace(catalogueFile(locale), source.toUtf8(), "<source>Other</source>");
+        const QStringList found = errors();
+        QVERIFY(!found.isEmpty());
+        // "Another language has this text" stands under the file of the language that lacks it.
+        for (const QString &line : found) {
+            const bool isOfTheOthers = line.contains(QStringLiteral("\"Other\": another language"));
+            QVERIFY2(isOfTheOthers != line.contains(QLatin1String(locale)), qPrintable(line));
+        }
+    }
+}
+
+void tst_LessonLibrary::namesAClickThatEndsTwoSteps_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::addColumn<bool>("isWrong");
+    const auto row = [](const char *name, const char *first, const char *second, bool isWrong) {
+        QTest::newRow(name) << QByteArray(first) << QByteArray(second) << isWrong;
+    };
+    row("pressed, then mouseEvent", "pressed,0,0", "mouseEvent,Map,click", true);
+    row("mouseEvent, then pressed", "mouseEvent,Map,click", "pressed,0,0", false);
+    row("pressed twice", "pressed,0,0", "pressed,0,0", false);
+    row("pressed, then menuEvent", "pressed,0,0", "menuEvent,Map,click", false);
+}
+
+void tst_LessonLibrary::namesAClickThatEndsTwoSteps()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    QFETCH(bool, isWrong);
+    const QString wrong =
+        QStringLiteral("resource/qml/Tutorial/TutorialStep1.js:70: item 5, \"condition\": the "
+                       "click that ends item %1 would end this step as well, when the "
+                       "button comes up");
+    // Item 3 jumps to item 5, item 4 stands right before it.
+    replace(scenarioFile(),
+            "\"condition\":\"click,\",\n\"hint\":qsTr(\"#1\"),\n\"icon\":\"eye\",\n\"jump\":-1,\n"
+            "\"jumpNo\":-1,\n\"command\":\"\",\n\"showArrow\":true,\n\"prohibited\":false    \n    }\n];",
+            "\"condition\":\"" + second +
+                "\",\n\"hint\":qsTr(\"#1\"),\n\"icon\":\"eye\",\n\"jump\":-1,\n\"jumpNo\":-1,\n\"command\":"
+                "\"\",\n"
+                "\"showArrow\":true,\n\"prohibited\":false    \n    }\n];");
+    replace(scenarioFile(), "windowState,NewProject,open", first);
+    QCOMPARE(errors().contains(wrong.arg(3)), isWrong);
+    QVERIFY(!errors().contains(wrong.arg(4)));
+    replace(scenarioFile(), "action,fileOpen,open", first);
+    QCOMPARE(errors().contains(wrong.arg(4)), isWrong);
 }
 
 void tst_LessonLibrary::namesAFileThatIsGone_data()
