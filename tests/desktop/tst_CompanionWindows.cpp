@@ -217,7 +217,7 @@ bool tst_CompanionWindows::waitForBeats(int count)
     }
     const int now = m_host->log().size();
     return FakeHost::waitFor([&] {
-        return m_host->log().mid(now).count(QStringLiteral("TutorialManager::send 1396 \"alive\"")) >= count;
+        return m_host->log().midRef(now).count(QStringLiteral("TutorialManager::send 1396 \"alive\"")) >= count;
     });
 }
 
@@ -323,7 +323,7 @@ void tst_CompanionWindows::clicksReachTheWindowBelow()
     m_host->send({QStringLiteral("showTooltip"), QStringLiteral("Through this one too"),
                   QStringLiteral("700"), QStringLiteral("650")});
     QTRY_COMPARE(overlays(kTooltip).size(), 1);
-    const QPoint tooltip = overlays(kTooltip).first().rect.topLeft();
+    const QPoint tooltip = overlays(kTooltip).constFirst().rect.topLeft();
     // The arrow, the icon, the hint, nothing in particular; and the tooltip's text and the rest of it.
     const QVector<QPoint> spots{{397 + 40, 297 + 80},  {397 + 150, 297 + 25},    {397 + 200, 297 + 66},
                                 {397 + 40, 297 + 400}, tooltip + QPoint(10, 10), tooltip + QPoint(200, 200)};
@@ -344,7 +344,7 @@ void tst_CompanionWindows::eachClickOnAButtonIsOneCommand()
     update(400, 300, QString(), kNext);
     QTRY_VERIFY_WITH_TIMEOUT(bubbleIsAt({397, 297}), 15000);
     QTRY_COMPARE(overlays(kButton).size(), 1);
-    const QPoint place = overlays(kButton).first().rect.topLeft();
+    const QPoint place = overlays(kButton).constFirst().rect.topLeft();
     XWindows::click(place + QPoint(20, 16));
     QVERIFY(m_host->waitForPayloads(1));
     QVERIFY(m_host->sync());
@@ -498,7 +498,7 @@ void tst_CompanionWindows::tooltipFadesStepByStep()
                            QStringLiteral("600")};
     m_host->send(show);
     QTRY_COMPARE(overlays(kTooltip).size(), 1);
-    const QString id = overlays(kTooltip).first().id;
+    const QString id = overlays(kTooltip).constFirst().id;
     QProcess spy;
     spy.start(QStringLiteral("xprop"),
               {QStringLiteral("-spy"), QStringLiteral("-id"), id, QStringLiteral("_NET_WM_WINDOW_OPACITY")});
