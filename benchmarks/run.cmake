@@ -1,0 +1,13 @@
+# Runs the programs in PROGRAMS one after the other and fails when one of them did.
+set(failed)
+foreach(program ${PROGRAMS})
+    get_filename_component(name "${program}" NAME)
+    message("== ${name}")
+    execute_process(COMMAND "${program}" RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+        list(APPEND failed ${name})
+    endif()
+endforeach()
+if(failed)
+    message(FATAL_ERROR "beyond a bound: ${failed}")
+endif()
