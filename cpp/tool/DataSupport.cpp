@@ -21,12 +21,13 @@ bool DataSupport::readFile(const QString &path, QByteArray &bytes)
 {
     QFile file(path);
     // Opening a pipe would wait for someone to write to it.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    const QFileInfo info(path);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         logWarning(kSource, "DataSupport::readFile", 133) << "Failed to open" << path;
         return false;
     }
     QDataStream stream(&file);
-    const qint64 size = file.size();
+    const qint64 size = info.size();
     logDebug(kSource, "DataSupport::readFile", 137) << size;
     bytes.resize(int(std::min(size, kMostBytes)));
     const int count = stream.readRawData(bytes.data(), bytes.size());

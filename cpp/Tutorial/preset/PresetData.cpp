@@ -43,18 +43,22 @@ QString choosePatchRoot(const QString &applicationDirectory)
 std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileTexts &previous)
 {
     FileTexts texts;
-    const QFileInfoList entries = QDir(dataDirectory).entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    const QDir directory(dataDirectory);
+    const QString absolutePath = directory.absolutePath();
+    const QFileInfoList entries = directory.entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    texts.reserve(entries.size());
     for (const QFileInfo &entry : entries) {
-        const QString path = QStringLiteral("%1/%2").arg(entry.absolutePath(), entry.fileName());
+        const QString fileName = entry.fileName();
+        const QString path = absolutePath + QLatin1Char('/') + fileName;
         QByteArray patch;
         if (!DataSupport::readFile(path, patch)) {
             logWarning(kSource, kFunction, 1024) << "Failed to read" << path;
             return std::nullopt;
         }
         static const std::string kNoBase;
-        const auto before = previous.constFind(entry.fileName());
+        const auto before = previous.constFind(fileName);
         const std::string &base = before == previous.constEnd() ? kNoBase : before.value();
-        std::string &text = texts[entry.fileName()];
+        std::string &text = texts[fileName];
         try {
             if (!StringPatch::ApplyStringPatch(base, patch, text)) {
                 logWarning(kSource, kFunction, 1033) << "Failed to ApplyStringPatch";
@@ -88,6 +92,19 @@ std::optional<FileTexts> replayChain(const QString &patchRoot, const QString &st
 class RowFinder
 {
 public:
+    /// The finder of @p table, made anew only for another table than the last one: compiling its expressions
+    /// costs more than using them.
+    static const RowFinder &of(const SampleTable &table)
+    {
+        static SampleTable lastTable;
+        static RowFinder finder(lastTable);
+        if (table != lastTable) {
+            finder = RowFinder(table);
+            lastTable = table;
+        }
+        return finder;
+    }
+
     explicit RowFinder(const SampleTable &table)
     {
         for (auto it = table.cbegin(); it != table.cend(); ++it) {
@@ -111,7 +128,7 @@ private:
 QString replyOf(const FileTexts &texts, const SampleTable &table, const TranslateText &translate)
 {
     static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
-    const RowFinder rowFinder(table);
+    const RowFinder &rowFinder = RowFinder::of(table);
     QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
     for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
         const QRegularExpressionMatch match = patchPattern.match(it.key());
