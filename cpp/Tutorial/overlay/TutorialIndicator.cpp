@@ -413,8 +413,13 @@ void TutorialIndicator::measureHint()
 {
     m_updateTextEditSize = false;
     if (m_tooltip != nullptr) {
-        m_hintHeight = truncateToInt(m_tooltip->m_textEdit->document()->size().height());
-        m_tooltip->m_textEdit->setFixedHeight(m_hintHeight);
+        QTextEdit *const textEdit = m_tooltip->m_textEdit;
+        if (textEdit->document()->textWidth() <= 0.0) {
+            // A bubble made on this very tick: nothing has given its text a width, and so a height, yet.
+            textEdit->document()->setTextWidth(textEdit->maximumViewportSize().width());
+        }
+        m_hintHeight = truncateToInt(textEdit->document()->size().height());
+        textEdit->setFixedHeight(m_hintHeight);
     }
 }
 

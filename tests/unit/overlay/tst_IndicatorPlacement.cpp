@@ -42,6 +42,7 @@ private Q_SLOTS:
     void measuringMovesTheButtonsAtRest();
     void measuringOneRowShortOfTheTargetMovesNothing();
     void measuringWorksBeforeTheBubbleWasEverShown();
+    void replacedBubbleIsAsHighAsItsHint();
     void restingWindowIsNotMoved();
     void eachTickRepaintsTheArrow_data();
     void eachTickRepaintsTheArrow();
@@ -197,6 +198,24 @@ void TestIndicatorPlacement::measuringWorksBeforeTheBubbleWasEverShown()
     m_indicator->setHint(hint);
     m_indicator->tick();
     QCOMPARE(hidden, m_indicator->state("hintHeight").toInt());
+}
+
+void TestIndicatorPlacement::replacedBubbleIsAsHighAsItsHint()
+{
+    m_host.isRunning = true;
+    m_indicator->showTooltip();
+    m_indicator->setHint(
+        QStringLiteral("A hint that is long enough to be broken into several lines at 256 pixels, "
+                       "so that its height depends on the width that it is laid out with."));
+    settleAt(300, 100);
+    m_indicator->tooltip()->close();
+    m_indicator->tick(); // makes the new one and measures what it holds, which nobody has seen yet
+    const int height = m_indicator->state("hintHeight").toInt();
+    QVERIFY(height > 64);
+    QCOMPARE(m_indicator->textEdit()->height(), height);
+    QCOMPARE(TestIndicator::next()->pos(), m_indicator->tooltip()->pos() + QPoint(128, height + 56));
+    m_indicator->showTooltip();
+    QCOMPARE(static_cast<int>(m_indicator->textEdit()->document()->size().height()), height);
 }
 
 void TestIndicatorPlacement::restingWindowIsNotMoved()
