@@ -54,6 +54,7 @@ private Q_SLOTS:
     void hintOfMegabytesDoesNotHoldUpTheLoop();
     void initShowsTheButtonsOfTheStep_data();
     void initShowsTheButtonsOfTheStep();
+    void initRestartsTheBounce();
     void showButtonsHidesNothing();
     void hideButtonsKeepsWhatTheStepWants();
     void tooltipIsShownAndHidden();
@@ -330,6 +331,23 @@ void TestTutorialIndicator::initShowsTheButtonsOfTheStep()
     QCOMPARE(TestIndicator::no()->isVisible(), yesNo);
     QCOMPARE(m_indicator->state("nextWindowEnabled").toBool(), next);
     QCOMPARE(m_indicator->state("yesNoWindowEnabled").toBool(), yesNo);
+}
+
+void TestTutorialIndicator::initRestartsTheBounce()
+{
+    class ClockReader : public TutorialIndicator
+    {
+    public:
+        using TutorialIndicator::elapsedMs;
+        using TutorialIndicator::TutorialIndicator;
+    };
+    ClockReader indicator(nullptr, &m_host);
+    QTRY_VERIFY(indicator.elapsedMs() >= 300);
+    indicator.setTargetWindowOffset(10, 10, QString(), true);
+    indicator.setHint(QStringLiteral("another step"));
+    QVERIFY(indicator.elapsedMs() >= 300);
+    indicator.init(false, false);
+    QVERIFY(indicator.elapsedMs() < 300);
 }
 
 void TestTutorialIndicator::showButtonsHidesNothing()
