@@ -46,6 +46,24 @@ private Q_SLOTS:
         }
     }
 
+    void arrowsOutlineClosesInAPoint()
+    {
+        const QImage arrow(QStringLiteral(":/resource/png/arrow.png"));
+        const auto solidPixels = [&arrow](int y) {
+            int count = 0;
+            for (int x = 0; x < arrow.width(); ++x) {
+                count += arrow.pixelColor(x, y).alpha() > 160 ? 1 : 0;
+            }
+            return count;
+        };
+        const int bottom = arrow.height() - 1;
+        QCOMPARE(solidPixels(bottom), 2);
+        for (int y = bottom; y > bottom - 8; --y) {
+            const int wider = solidPixels(y - 1) - solidPixels(y);
+            QVERIFY2(wider >= 0 && wider <= 2, qPrintable(QStringLiteral("%1 in row %2").arg(wider).arg(y)));
+        }
+    }
+
     void everyControlIconIs24Wide()
     {
         const QStringList icons = QDir(QStringLiteral(":/icon")).entryList(QDir::Files, QDir::Name);
