@@ -9,8 +9,14 @@
 #include <QLocale>
 #include <QPointer>
 
+#include <csignal>
+
 int main(int argc, char **argv)
 {
+#ifdef SIGPIPE
+    // Who reads the log may go away: a line that nobody takes must not end the process.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
     // Qt::AA_X11InitThreads: out of use since Qt 5.15, where naming it is warned about.
     QCoreApplication::setAttribute(static_cast<Qt::ApplicationAttribute>(10));
     QApplication application(argc, argv);

@@ -3,9 +3,14 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 /// The life of the process: how it starts, and the ways in which it ends.
 class tst_Process : public QObject
@@ -15,6 +20,7 @@ class tst_Process : public QObject
 private Q_SLOTS:
     void ends_with_status_0_when_the_link_goes_down();
     void ends_without_a_message_about_destroyed_objects();
+    void lives_on_when_nobody_reads_its_log();
     void registers_its_bundles_before_main();
     void builds_its_objects_in_order();
     void connects_under_the_default_key_without_arguments();
@@ -62,6 +68,25 @@ void tst_Process::ends_without_a_message_about_destroyed_objects()
     QCOMPARE(host.process().exitCode(), 0);
     const QString end = host.log().section(QStringLiteral("TutorialManager::requestClose 1535"), 1);
     QCOMPARE(end.trimmed(), QString());
+}
+
+void tst_Process::lives_on_when_nobody_reads_its_log()
+{
+    const QTemporaryDir folder;
+    const QByteArray pipe = QFile::encodeName(folder.filePath(QStringLiteral("log")));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    const int reader = open(pipe.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QVERIFY(reader >= 0);
+    FakeHost host;
+    host.process().setStandardErrorFile(QFile::decodeName(pipe));
+    QVERIFY(host.start());
+    close(reader);
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+    host.disconnectLink();
+    QVERIFY(host.waitForEnd());
+    QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host.process().exitCode(), 0);
 }
 
 void tst_Process::registers_its_bundles_before_main()
