@@ -46,6 +46,10 @@ private Q_SLOTS:
     void builds_the_overlays_anew_after_30_hidden_ticks();
     void stays_while_this_process_is_active();
     void blinks_once_within_ten_ticks();
+    void comes_back_at_once_within_ten_ticks();
+    void comes_back_without_an_indicator();
+    void follows_the_state_of_the_application();
+    void keeps_the_overlays_in_step_a_hundred_times_a_second();
     void ignores_other_states_of_the_application();
     void leaves_the_tooltip_alone_when_the_playback_stops();
     void ends_the_playback_with_bye();
@@ -210,6 +214,59 @@ void tst_HostVisibility::blinks_once_within_ten_ticks()
     show();
     QCOMPARE(bubble.hidden, 2);
     QVERIFY(allShown());
+}
+
+void tst_HostVisibility::comes_back_at_once_within_ten_ticks()
+{
+    show();
+    tick(2);
+    hide();
+    tick();
+    QVERIFY(!allShown());
+    const Blinks bubble(m_indicator->tooltip());
+    LogCapture log;
+    show();
+    QVERIFY(allShown());
+    tick();
+    QCOMPARE(bubble.shown, 1);
+    QCOMPARE(bubble.hidden, 0);
+    QVERIFY(!log.contains(QStringLiteral("TutorialManager::timerEvent 427")));
+    QVERIFY(!log.contains(QStringLiteral("m_logHideIgnoreTimeout set to 10")));
+}
+
+void tst_HostVisibility::comes_back_without_an_indicator()
+{
+    cleanup();
+    m_fixture = std::make_unique<ManagerFixture>();
+    QVERIFY(m_fixture->start());
+    m_fixture->receive({QStringLiteral("start")});
+    m_fixture->manager->onApplicationStateChanged(Qt::ApplicationInactive);
+    hide();
+    tick();
+    const TutorialLog *log = topLevels<TutorialLog>().constFirst();
+    QVERIFY(!log->isVisible());
+    show();
+    QVERIFY(log->isVisible());
+}
+
+void tst_HostVisibility::follows_the_state_of_the_application()
+{
+    hide();
+    tick();
+    QVERIFY(!allShown());
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    QVERIFY(allShown());
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QVERIFY(!allShown());
+}
+
+void tst_HostVisibility::keeps_the_overlays_in_step_a_hundred_times_a_second()
+{
+    const QTimer *timer = m_fixture->manager->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(timer && timer->isActive());
+    QCOMPARE(timer->interval(), 10);
+    m_log->hide();
+    QTRY_VERIFY(m_log->isVisible());
 }
 
 void tst_HostVisibility::ignores_other_states_of_the_application()

@@ -1,3 +1,4 @@
+#include "LogCapture.h"
 #include "ManagerFixture.h"
 
 #include "Tutorial/overlay/EditorTooltip.h"
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void lists_its_invokables_in_order();
     void lists_its_properties_in_order();
     void publishes_itself();
+    void takes_its_document_along();
+    void announces_each_command_of_a_payload();
 
     void answers_positions_of_both_kinds_from_one_table();
     void tells_the_current_window_key();
@@ -54,6 +57,7 @@ private Q_SLOTS:
     void takes_the_rectangle_while_running();
     void creates_only_the_log_when_started_before_the_greeting();
     void creates_the_overlays_once();
+    void shows_the_bubble_with_each_update();
     void moves_the_indicator_by_name();
     void shows_and_hides_the_editor_tooltip();
     void shows_the_editor_tooltip_again_while_a_playback_is_on();
@@ -145,6 +149,42 @@ void tst_TutorialManager::publishes_itself()
     QCOMPARE(TutorialManager::instance(), m_fixture->manager.get());
     m_fixture->manager.reset();
     QCOMPARE(TutorialManager::instance(), nullptr);
+}
+
+void tst_TutorialManager::takes_its_document_along()
+{
+    LogCapture log;
+    m_fixture->manager.reset();
+    const QStringList lines = log.lines();
+    QCOMPARE(lines.size(), 3);
+    QVERIFY(lines.at(0).contains(QStringLiteral("TutorialManager::~TutorialManager")));
+    QVERIFY(lines.at(1).contains(QStringLiteral("TutorialEditor::Manager::~Manager")));
+    QVERIFY(lines.at(2).contains(QStringLiteral("TutorialManager::~TutorialManager")));
+}
+
+void tst_TutorialManager::announces_each_command_of_a_payload()
+{
+    QSignalSpy spy(m_fixture->manager.get(), &TutorialManager::received);
+    m_fixture->write(QByteArray("00000000c\x02"
+                                "one\x01"
+                                "1\x02\x02two\x01\x02\0"
+                                "00000000c\x02"
+                                "three\x02"
+                                "bye\x02no\0",
+                                46));
+    QTRY_COMPARE(spy.size(), 5);
+    const QStringList expected = {QStringLiteral("one\x01"
+                                                 "1"),
+                                  QString(), QStringLiteral("two\x01"), QString(), QStringLiteral("three")};
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(spy.at(i).at(0).toString(), expected.at(i));
+    }
+    // The next read is whole again, and nothing of the one before comes late.
+    m_fixture->write(QByteArray("000000004\x02"
+                                "four\0",
+                                15));
+    QTRY_COMPARE(spy.size(), 6);
+    QCOMPARE(spy.at(5).at(0).toString(), QStringLiteral("four"));
 }
 
 void tst_TutorialManager::answers_positions_of_both_kinds_from_one_table()
@@ -244,6 +284,20 @@ void tst_TutorialManager::creates_the_overlays_once()
     m_fixture->receive({QStringLiteral("stop")});
     QVERIFY(!topLevels<TutorialTooltip>().constFirst()->isVisible());
     QVERIFY(!topLevels<TutorialLog>().constFirst()->isVisible());
+}
+
+void tst_TutorialManager::shows_the_bubble_with_each_update()
+{
+    m_fixture->receive({greeting(), QStringLiteral("en_US")});
+    const TutorialTooltip *bubble = topLevels<TutorialTooltip>().constFirst();
+    QVERIFY(!bubble->isVisible());
+    m_fixture->receive({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("1"),
+                        QStringLiteral("2"), QStringLiteral("MainWindow"), QStringLiteral("hint"),
+                        QStringLiteral("4"), QStringLiteral("0")});
+    QVERIFY(bubble->isVisible());
+    // Without a playback it does not stay.
+    m_fixture->manager->updateOverlayVisibility();
+    QVERIFY(!bubble->isVisible());
 }
 
 void tst_TutorialManager::moves_the_indicator_by_name()
