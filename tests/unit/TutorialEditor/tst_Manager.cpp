@@ -1,7 +1,10 @@
 #include "DocumentFixture.h"
 #include "LogCapture.h"
+#include "Unprivileged.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QMetaMethod>
 #include <QTest>
 
@@ -97,6 +100,7 @@ private Q_SLOTS:
     void savingWithoutAFileSaysSo();
     void aFailedSaveIsReportedAndStaysModified_data();
     void aFailedSaveIsReportedAndStaysModified();
+    void aReadOnlyFileIsNotSaved();
     void theLibraryIsInTheFormOfTheWriter();
     void clearDropsItemsAndHistory();
     void worksWithoutAHistory();
@@ -447,6 +451,33 @@ void tst_Manager::aFailedSaveIsReportedAndStaysModified()
     QCOMPARE(log.warnings().size(), 1);
     QVERIFY2(log.warnings().constFirst().contains(QStringLiteral("DataSupport::writeFile 1")),
              qPrintable(log.warnings().constFirst()));
+}
+
+void tst_Manager::aReadOnlyFileIsNotSaved()
+{
+    const QByteArray scenario = "[{\"id\":1,\"name\":\"a\"}]";
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(scenario), QStringList());
+    const QString file = fixture.document.fileName();
+    const QByteArray before = contentOf(file);
+    const QFileDevice::Permissions readable =
+        QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
+    QVERIFY(QFile::setPermissions(file, readable));
+    QVERIFY(QFile::setPermissions(QFileInfo(file).path(), readable | QFileDevice::WriteOwner |
+                                                              QFileDevice::ExeOwner | QFileDevice::ExeGroup |
+                                                              QFileDevice::ExeOther));
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    fixture.item(1)->setName(QStringLiteral("b"));
+    fixture.undoRedo().endSingle();
+    LogCapture log;
+    {
+        const Unprivileged nobody;
+        QVERIFY(QFileInfo(file).isReadable());
+        QCOMPARE(fixture.document.save(), QStringLiteral("Failed to save."));
+    }
+    QVERIFY(fixture.host.modified);
+    QCOMPARE(contentOf(file), before);
+    QVERIFY(log.contains(QStringLiteral("DataSupport::writeFile 153 Failed to open \"%1\"").arg(file)));
 }
 
 void tst_Manager::theLibraryIsInTheFormOfTheWriter()

@@ -13,6 +13,7 @@
 
 #include "LogCapture.h"
 #include "Tutorial/preset/PresetData.h"
+#include "Unprivileged.h"
 #include "tool/JsonWrapper.h"
 
 namespace {
@@ -153,6 +154,7 @@ private Q_SLOTS:
     void badPatchEndsTheRequest();
     void oversizedPatchEndsTheRequest();
     void unreadableFileEndsTheRequest();
+    void fileThatMayNotBeReadEndsTheRequest();
     void pipeEndsTheRequest();
     void badPatchNameEndsTheRequestBehindThePatches();
     void nothingIsSentForNoFiles();
@@ -162,6 +164,7 @@ private Q_SLOTS:
     void tableKeysAreRegularExpressions();
     void onlyRowsForLessonsRun();
     void fileOutsideTheTableIsNotTranslated();
+    void eachRequestUsesItsOwnTable();
     void textsThatAreNoJson_data();
     void textsThatAreNoJson();
     void lackOfMemoryEndsTheRequest();
@@ -397,6 +400,23 @@ void tst_PresetData::unreadableFileEndsTheRequest()
     QVERIFY(log.warnings().constLast().endsWith(QStringLiteral("Failed to read \"%1\"").arg(path)));
 }
 
+void tst_PresetData::fileThatMayNotBeReadEndsTheRequest()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), copyPatch(3));
+    QCOMPARE(chmod(qPrintable(program.path()), 0755), 0);
+    const QString path = program.dataPath(step(2)) + QStringLiteral("/A.json-patch");
+    QCOMPARE(chmod(qPrintable(path), 0), 0);
+    const Unprivileged nobody;
+    QVERIFY(!program.reply(step(1)).isNull());
+    LogCapture log;
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(warningTexts(log),
+             (QStringList{QStringLiteral("DataSupport::readFile 133 Failed to open \"%1\"").arg(path),
+                          source() + QStringLiteral("1024 Failed to read \"%1\"").arg(path)}));
+}
+
 void tst_PresetData::pipeEndsTheRequest()
 {
     const ProgramDirectory program;
@@ -527,6 +547,28 @@ void tst_PresetData::fileOutsideTheTableIsNotTranslated()
     program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"([{"name":"a"}])"));
     QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
              QStringLiteral(R"([{"name":"a"}])"));
+}
+
+void tst_PresetData::eachRequestUsesItsOwnTable()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"({"a":"x","b":"y"})"));
+    const auto textWith = [&program](const QString &file, const QString &key) {
+        const SampleTable table{
+            {file,
+             {{QStringLiteral("translateKeyText"), QStringLiteral("tutorial"), QStringLiteral("T"), key}}}};
+        const QString reply = presetDataReply(step(1), program.path(), table, translation);
+        return reply.section(QLatin1Char(':'), 1).remove(QLatin1Char('\\'));
+    };
+    const QString a = QStringLiteral(R"("{"a":"T:x","b":"y"}"})");
+    const QString b = QStringLiteral(R"("{"a":"x","b":"T:y"}"})");
+    const QString none = QStringLiteral(R"("{"a":"x","b":"y"}"})");
+    const QString file = QStringLiteral("Other.json");
+    for (int round = 0; round < 2; ++round) {
+        QCOMPARE(textWith(file, QStringLiteral("a")), a);
+        QCOMPARE(textWith(file, QStringLiteral("b")), b);
+        QCOMPARE(textWith(QStringLiteral("Items.json"), QStringLiteral("b")), none);
+    }
 }
 
 void tst_PresetData::textsThatAreNoJson_data()

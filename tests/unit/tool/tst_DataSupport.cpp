@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "Unprivileged.h"
 #include "tool/DataSupport.h"
 
 #include <QDir>
@@ -40,11 +41,13 @@ private Q_SLOTS:
     void writeIsSilentWhenItSucceeds();
     void readOfMissingFileLeavesBytesAlone();
     void readOfDirectoryFails();
+    void readOfUnreadableFileFails();
     void readOfAPipeDoesNotWait();
     void readThatEndsEarlyKeepsTheFilesSize();
     void readsResources();
     void writeToMissingDirectoryFails();
     void writeToReadOnlyPlaceFails();
+    void writeToReadOnlyFileFails();
     void writeToFullDeviceFails_data();
     void writeToFullDeviceFails();
     void writeTruncates();
@@ -119,6 +122,25 @@ void tst_DataSupport::readOfDirectoryFails()
     QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open")));
 }
 
+void tst_DataSupport::readOfUnreadableFileFails()
+{
+    const QString file = path(QStringLiteral("secret"));
+    QVERIFY(DataSupport::writeFile(file, "12345"));
+    QCOMPARE(chmod(qPrintable(file), 0), 0);
+    QCOMPARE(chmod(qPrintable(m_directory.path()), 0755), 0);
+    QByteArray bytes("as it was");
+    LogCapture log;
+    {
+        const Unprivileged nobody;
+        QVERIFY(!DataSupport::readFile(file, bytes));
+    }
+    QCOMPARE(bytes, QByteArray("as it was"));
+    QCOMPARE(
+        log.lines(),
+        QStringList{
+            QStringLiteral("%1 DataSupport::readFile 133 Failed to open \"%2\"").arg(messageSource(), file)});
+}
+
 void tst_DataSupport::readOfAPipeDoesNotWait()
 {
     const QString pipe = path(QStringLiteral("pipe"));
@@ -189,6 +211,25 @@ void tst_DataSupport::writeToReadOnlyPlaceFails()
     LogCapture log;
     QVERIFY(!DataSupport::writeFile(QStringLiteral(":/qml/Tutorial/TutorialList.js"), "12345"));
     QVERIFY(log.contains(QStringLiteral("DataSupport::writeFile 153 Failed to open")));
+}
+
+void tst_DataSupport::writeToReadOnlyFileFails()
+{
+    const QString file = path(QStringLiteral("read-only"));
+    QVERIFY(DataSupport::writeFile(file, "12345"));
+    QCOMPARE(chmod(qPrintable(file), 0444), 0);
+    QCOMPARE(chmod(qPrintable(m_directory.path()), 0755), 0);
+    QByteArray bytes;
+    LogCapture log;
+    {
+        const Unprivileged nobody;
+        QVERIFY(!DataSupport::writeFile(file, "67890"));
+        QCOMPARE(log.lines(),
+                 QStringList{QStringLiteral("%1 DataSupport::writeFile 153 Failed to open \"%2\"")
+                                 .arg(messageSource(), file)});
+        QVERIFY(DataSupport::readFile(file, bytes));
+    }
+    QCOMPARE(bytes, QByteArray("12345"));
 }
 
 void tst_DataSupport::writeToFullDeviceFails_data()
