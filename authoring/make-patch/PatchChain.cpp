@@ -16,6 +16,27 @@ namespace {
 
 const QDir::Filters kEverything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
+/// Where @p path really is, without links on the way to its last part, which need not exist.
+QString realPlace(const QString &path)
+{
+    QFileInfo place(QFileInfo(path).absoluteFilePath());
+    QString rest = QLatin1Char('/') + place.fileName();
+    while (!place.absoluteDir().exists()) {
+        place.setFile(place.absolutePath());
+        rest.prepend(QLatin1Char('/') + place.fileName());
+    }
+    return QDir::cleanPath(place.absoluteDir().canonicalPath() + rest);
+}
+
+bool isListable(const QString &directory, QString &error)
+{
+    // What cannot be listed looks empty.
+    if (QFileInfo(directory).isReadable())
+        return true;
+    error = QStringLiteral("%1 cannot be read").arg(directory);
+    return false;
+}
+
 } // namespace
 
 PatchChain::PatchChain(QString stepsDirectory, const QString &patchDirectory, QStringList mayVanish)
@@ -58,6 +79,8 @@ bool PatchChain::findSteps(QString &error)
         error = QStringLiteral("%1 is not a directory").arg(m_stepsDirectory);
         return false;
     }
+    if (!isListable(m_stepsDirectory, error))
+        return false;
     static const QRegularExpression stepName(QStringLiteral("^step(\\d+)$"));
     const QFileInfoList entries = root.entryInfoList(kEverything);
     for (const QFileInfo &entry : entries) {
@@ -98,7 +121,7 @@ bool PatchChain::checkPatchDirectory(QString &error) const
         return false;
     }
     const QString steps = QDir(m_stepsDirectory).canonicalPath();
-    const QString patches = info.absoluteFilePath();
+    const QString patches = realPlace(m_patchDirectory);
     if (patches.startsWith(steps + QLatin1Char('/')) || steps.startsWith(patches + QLatin1Char('/'))) {
         error = QStringLiteral("%1 and %2 lie inside one another").arg(m_patchDirectory, m_stepsDirectory);
         return false;
@@ -155,6 +178,8 @@ bool PatchChain::dataFiles(const QString &directory, QStringList &names, QString
         error = QStringLiteral("%1 is missing: a step has its data files there").arg(directory);
         return false;
     }
+    if (!isListable(directory, error))
+        return false;
     const QFileInfoList entries = QDir(directory).entryInfoList(kEverything, QDir::Name);
     for (const QFileInfo &entry : entries) {
         if (!entry.isFile() || !entry.fileName().endsWith(QStringLiteral(".json"))) {

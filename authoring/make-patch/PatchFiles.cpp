@@ -4,6 +4,23 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+namespace {
+
+/// A disk that fills up takes the beginning without complaint; the rest is tried again for the reason.
+bool writeAll(QSaveFile &file, const QByteArray &bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+} // namespace
+
 bool PatchFiles::read(const QString &path, std::string &text, QString &error)
 {
     QFile file(path);
@@ -30,8 +47,7 @@ bool PatchFiles::write(const QString &path, const QByteArray &bytes, QString &er
     }
     QSaveFile file(path);
     // Flushed by hand: commit() does not see that its own flush fails, and puts the empty file in place.
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || !writeAll(file, bytes) || !file.flush() || !file.commit()) {
         error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
         return false;
     }

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void failureIsStatusOneAndWritesNothing();
     void writeThatFailsLeavesNothing_data();
     void writeThatFailsLeavesNothing();
+    void diskThatFillsUpIsNamed();
     void deviceIsNotReplaced();
     void inputIsNotOverwritten();
     void helpNamesBothForms();
@@ -182,6 +183,26 @@ void tst_MakePatchTool::writeThatFailsLeavesNothing()
     QCOMPARE(m_scratch->entries(), before);
     QCOMPARE(m_scratch->get("old"), QByteArray("what was there"));
     QCOMPARE(m_scratch->get("chain/step1/data/A.json-patch"), QByteArray("what was there"));
+}
+
+void tst_MakePatchTool::diskThatFillsUpIsNamed()
+{
+    // More than any buffer holds, none of it twice, and room for the beginning.
+    QByteArray noise;
+    quint32 state = 1;
+    while (noise.size() < 200000) {
+        state = state * 1664525U + 1013904223U;
+        noise.append(char(state >> 24U));
+    }
+    m_scratch->put("noise", noise);
+    const QStringList before = m_scratch->entries();
+    const Run result = runProgram(
+        QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("trap '' XFSZ; ulimit -f 64; exec %1 base noise -o out")
+                                   .arg(QStringLiteral(MAKE_PATCH))});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors, QStringLiteral("make-patch: cannot write out: File too large\n"));
+    QCOMPARE(m_scratch->entries(), before);
 }
 
 void tst_MakePatchTool::deviceIsNotReplaced()

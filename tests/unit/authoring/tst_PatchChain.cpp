@@ -1,4 +1,5 @@
 #include "Scratch.h"
+#include "Unprivileged.h"
 #include "make-patch/PatchChain.h"
 #include "tool/StringPatch.h"
 
@@ -6,6 +7,8 @@
 #include <QObject>
 #include <QScopedPointer>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -36,6 +39,8 @@ private Q_SLOTS:
     void sourcesAreNeverReplaced();
     void fileInTheWayIsRefused();
     void nestedDirectoriesAreRefused();
+    void linkIntoTheSourcesIsRefused();
+    void stepsThatMayNotBeReadAreRefused();
     void directoryThatCannotBeWrittenIsRefused();
     void failureLeavesTheOldChain();
     void nothingIsLeftBeside();
@@ -271,12 +276,44 @@ void tst_PatchChain::fileInTheWayIsRefused()
 void tst_PatchChain::nestedDirectoriesAreRefused()
 {
     m_scratch->put("steps/step1/data/A.json", "a");
-    for (const QString &place : {m_scratch->path("steps/patches"), m_scratch->path()}) {
+    for (const QString &place :
+         {m_scratch->path("steps/patches"), m_scratch->path(), QDir().relativeFilePath(m_scratch->path())}) {
         const QString error = makeIn(place);
         QVERIFY2(error.contains(QStringLiteral("inside one another")), qPrintable(error));
     }
     QCOMPARE(m_scratch->entries(), QStringList{QStringLiteral("steps")});
     QCOMPARE(m_scratch->entries("steps"), QStringList{QStringLiteral("step1")});
+}
+
+void tst_PatchChain::linkIntoTheSourcesIsRefused()
+{
+    m_scratch->put("steps/step1/data/A.json", "a");
+    QVERIFY(QFile::link(m_scratch->path("steps"), m_scratch->path("link")));
+    for (const char *place : {"link/patches", "link/not/there/yet"}) {
+        const QString error = makeIn(m_scratch->path(place));
+        QVERIFY2(error.contains(QStringLiteral("inside one another")), qPrintable(error));
+    }
+    QCOMPARE(m_scratch->entries("steps"), QStringList{QStringLiteral("step1")});
+}
+
+void tst_PatchChain::stepsThatMayNotBeReadAreRefused()
+{
+    // A directory that cannot be listed looks like an empty one.
+    m_scratch->put("steps/step1/data/A.json", "a");
+    QVERIFY(QDir().mkpath(m_scratch->path("out")));
+    QCOMPARE(chmod(qPrintable(m_scratch->path()), 0755), 0);
+    QCOMPARE(chmod(qPrintable(m_scratch->path("out")), 0777), 0);
+    for (const char *closed : {"steps/step1/data", "steps"}) {
+        QCOMPARE(chmod(qPrintable(m_scratch->path(closed)), 0311), 0);
+        QString error;
+        {
+            const Unprivileged nobody;
+            error = makeIn(m_scratch->path("out/patches"));
+        }
+        QCOMPARE(chmod(qPrintable(m_scratch->path(closed)), 0755), 0);
+        QCOMPARE(error, QStringLiteral("%1 cannot be read").arg(m_scratch->path(closed)));
+        QVERIFY(!m_scratch->has("out/patches"));
+    }
 }
 
 void tst_PatchChain::directoryThatCannotBeWrittenIsRefused()
