@@ -2,6 +2,18 @@
 
 #include <utility>
 
+LessonProject::LessonProject(QObject *parent)
+    : QObject(parent)
+{
+    m_filesMissing.setSingleShot(true);
+    m_filesMissing.setInterval(kFilesMs);
+    connect(&m_filesMissing, &QTimer::timeout, this, [this] {
+        Q_EMIT failed(QStringLiteral("The data files of the lesson have not come, so \"%1\" is without them. "
+                                     "Start the lesson again.")
+                          .arg(m_place->name));
+    });
+}
+
 void LessonProject::begin()
 {
     drop();
@@ -10,6 +22,7 @@ void LessonProject::begin()
 
 void LessonProject::drop()
 {
+    m_filesMissing.stop();
     m_waits = false;
     m_files.reset();
     m_place.reset();
@@ -18,6 +31,7 @@ void LessonProject::drop()
 void LessonProject::takeFiles(const QMap<QString, QString> &files)
 {
     if (m_waits) {
+        m_filesMissing.stop();
         m_files = files;
         makeWhenComplete();
     }
@@ -27,6 +41,9 @@ void LessonProject::takePlace(const QString &location, const QString &name)
 {
     if (m_waits) {
         m_place = Place{location, name};
+        if (!m_files) {
+            m_filesMissing.start();
+        }
         makeWhenComplete();
     }
 }
@@ -36,13 +53,13 @@ void LessonProject::makeWhenComplete()
     if (!m_files || !m_place) {
         return;
     }
-    const QMap<QString, QString> files = *std::exchange(m_files, std::nullopt);
     const Place place = *std::exchange(m_place, std::nullopt);
-    m_waits = false;
     QString error;
-    if (m_store.create(place.location, place.name, files, &error)) {
-        Q_EMIT made(m_store.path(), files);
-    } else {
+    if (!m_store.create(place.location, place.name, *m_files, &error)) {
         Q_EMIT failed(error);
+        return;
     }
+    const QMap<QString, QString> files = *m_files;
+    drop();
+    Q_EMIT made(m_store.path(), files);
 }

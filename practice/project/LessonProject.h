@@ -3,6 +3,7 @@
 #include "project/ProjectStore.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <optional>
 
@@ -14,7 +15,11 @@ class LessonProject : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// How long after the person's part the files are waited for before the person is told that they are
+    /// missing.
+    static constexpr int kFilesMs = 5000;
+
+    explicit LessonProject(QObject *parent = nullptr);
 
     /// A lesson asks for its data files. What an earlier one left unfinished is dropped.
     void begin();
@@ -30,7 +35,8 @@ public:
 Q_SIGNALS:
     /// The project stands on disk, at @p path, with these files.
     void made(const QString &path, const QMap<QString, QString> &files);
-    /// It does not, and @p error tells the person why.
+    /// It does not, and @p error tells the person why. What there is of it waits for the rest: files for the
+    /// next project that the person makes, a project for files that come late.
     void failed(const QString &error);
 
 private:
@@ -43,6 +49,7 @@ private:
     void makeWhenComplete();
 
     ProjectStore m_store;
+    QTimer m_filesMissing;
     bool m_waits = false;
     std::optional<QMap<QString, QString>> m_files;
     std::optional<Place> m_place;

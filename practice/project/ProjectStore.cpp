@@ -14,6 +14,12 @@ bool staysInside(const QString &name)
            !clean.startsWith(QLatin1String("../")) && clean != QLatin1String(".");
 }
 
+bool isTaken(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink(); // a link to nowhere is there too
+}
+
 bool write(const QString &path, const QString &text, QString *error)
 {
     QFile file(path);
@@ -54,20 +60,22 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
                      .arg(location, room.errorString());
         return false;
     }
+    // A folder of its own in there: that of the room is closed to everybody else.
+    const QString made = room.filePath(QStringLiteral("project"));
+    QDir().mkpath(made);
     for (auto file = files.begin(); file != files.end(); ++file) {
-        if (!write(room.filePath(file.key()), file.value(), error)) {
+        if (!write(QDir(made).filePath(file.key()), file.value(), error)) {
             return false;
         }
     }
     QString path = QDir(location).filePath(name);
-    for (int number = 2; QFileInfo::exists(path); ++number) {
+    for (int number = 2; isTaken(path); ++number) {
         path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
     }
-    if (!QDir().rename(room.path(), path)) {
+    if (!QDir().rename(made, path)) {
         *error = QStringLiteral("The project's folder \"%1\" cannot be made.").arg(path);
         return false;
     }
-    room.setAutoRemove(false);
     m_path = path;
     Q_EMIT changed();
     return true;

@@ -71,6 +71,8 @@ private Q_SLOTS:
     void ignoresWhatNoLessonWaitsFor();
     void dropsWhatAnEarlierLessonLeft();
     void saysWhyThereIsNoFolder();
+    void waitsForAnotherPlaceAfterAFailure();
+    void saysWhenTheFilesDoNotCome();
 
 private:
     Files m_files;
@@ -223,6 +225,39 @@ void TestLessonProject::saysWhyThereIsNoFolder()
     QVERIFY(made.isEmpty());
     QCOMPARE(failed.size(), 1);
     QVERIFY(failed.constFirst().constFirst().toString().contains(inTheWay.fileName()));
+}
+
+void TestLessonProject::waitsForAnotherPlaceAfterAFailure()
+{
+    const QTemporaryDir room;
+    LessonProject project;
+    QSignalSpy made(&project, &LessonProject::made);
+    QSignalSpy failed(&project, &LessonProject::failed);
+    project.begin();
+    project.takeFiles(m_files);
+    project.takePlace(room.path(), QStringLiteral("a/b"));
+    QCOMPARE(failed.size(), 1);
+    project.takePlace(room.path(), kName);
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(made.size(), 1);
+    QCOMPARE(filesIn(room.filePath(kName)), m_files);
+}
+
+void TestLessonProject::saysWhenTheFilesDoNotCome()
+{
+    const QTemporaryDir room;
+    LessonProject project;
+    QSignalSpy made(&project, &LessonProject::made);
+    QSignalSpy failed(&project, &LessonProject::failed);
+    project.begin();
+    project.takePlace(room.path(), kName);
+    QVERIFY(failed.wait(LessonProject::kFilesMs + 3000));
+    QVERIFY(failed.constFirst().constFirst().toString().contains(kName));
+    QVERIFY(made.isEmpty());
+    // Late, and not too late.
+    project.takeFiles(m_files);
+    QCOMPARE(made.size(), 1);
+    QCOMPARE(filesIn(room.filePath(kName)), m_files);
 }
 
 QTEST_MAIN(TestLessonProject)

@@ -1,3 +1,4 @@
+#include "Unprivileged.h"
 #include "project/ProjectStore.h"
 
 #include <QDir>
@@ -6,13 +7,18 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 class TestProjectStore : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void writesTheFilesIntoANewFolder();
+    void givesTheFolderTheUsualPermissions();
     void touchesNothingThatIsThere();
+    void passesOverALinkToNowhere();
+    void saysWhereNothingCanBeWritten();
     void refusesNamesThatAreNoFolder_data();
     void refusesNamesThatAreNoFolder();
     void refusesPathsThatLeadOut_data();
@@ -40,6 +46,21 @@ void TestProjectStore::writesTheFilesIntoANewFolder()
     QVERIFY(store.file(QStringLiteral("data/none.json")).isNull());
 }
 
+void TestProjectStore::givesTheFolderTheUsualPermissions()
+{
+    const QTemporaryDir room;
+    QVERIFY(QDir(room.path()).mkdir(QStringLiteral("usual")));
+    ProjectStore store;
+    QString error;
+    QVERIFY(
+        store.create(room.path(), QStringLiteral("P"), {{QStringLiteral("data/a.json"), QString()}}, &error));
+    const auto usual = QFile::permissions(room.filePath(QStringLiteral("usual")));
+    QCOMPARE(QFile::permissions(room.filePath(QStringLiteral("P"))), usual);
+    QCOMPARE(QFile::permissions(room.filePath(QStringLiteral("P/data"))), usual);
+    QCOMPARE(QDir(room.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+             QStringList({QStringLiteral("P"), QStringLiteral("usual")}));
+}
+
 void TestProjectStore::touchesNothingThatIsThere()
 {
     const QTemporaryDir room;
@@ -54,6 +75,37 @@ void TestProjectStore::touchesNothingThatIsThere()
     QFile old(room.filePath(QStringLiteral("P/a.json")));
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("[1]"));
+}
+
+void TestProjectStore::passesOverALinkToNowhere()
+{
+    const QTemporaryDir room;
+    QVERIFY(QFile::link(QStringLiteral("nowhere"), room.filePath(QStringLiteral("P"))));
+    ProjectStore store;
+    QString error;
+    QVERIFY2(store.create(room.path(), QStringLiteral("P"),
+                          {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error),
+             qPrintable(error));
+    QCOMPARE(store.path(), room.filePath(QStringLiteral("P (2)")));
+    QVERIFY(QFileInfo(room.filePath(QStringLiteral("P"))).isSymLink());
+}
+
+void TestProjectStore::saysWhereNothingCanBeWritten()
+{
+    const QTemporaryDir room;
+    QCOMPARE(chmod(qPrintable(room.path()), 0555), 0);
+    ProjectStore store;
+    QString error;
+    {
+        const Unprivileged nobody;
+        QVERIFY(
+            !store.create(room.path(), QStringLiteral("P"), {{QStringLiteral("a.json"), QString()}}, &error));
+    }
+    QVERIFY2(error.contains(room.path()) && error.endsWith(QStringLiteral("Permission denied")),
+             qPrintable(error));
+    QVERIFY(store.path().isEmpty());
+    QVERIFY(QDir(room.path()).isEmpty());
+    QCOMPARE(chmod(qPrintable(room.path()), 0755), 0);
 }
 
 void TestProjectStore::refusesNamesThatAreNoFolder_data()
