@@ -71,7 +71,7 @@ TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const Scen
     auto data = std::make_unique<TutorialItemData>();
     try {
         const QString idKey = QStringLiteral("id");
-        if (!json.contains(idKey)) {
+        if (json.isObject() && !json.contains(idKey)) {
             JsonWrapper::errorHandler(QStringLiteral("m_object doesn't have key: %1").arg(idKey));
         }
         data->id = json[idKey].toInt();

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void followWindowStandsInForAMissingWindowKey();
     void hint2IsTheTranslationOfTheNumber_data();
     void hint2IsTheTranslationOfTheNumber();
+    void aFieldOfAnotherTypeReadsAsNothing();
+    void withoutAnIdThereIsNoItem_data();
     void withoutAnIdThereIsNoItem();
     void toJsonHasAllFieldsInTheirOrder();
     void toJsonReadsBack();
@@ -149,17 +151,59 @@ void tst_TutorialItemData::hint2IsTheTranslationOfTheNumber()
     QTEST(data->hint2, "hint2");
 }
 
+void tst_TutorialItemData::aFieldOfAnotherTypeReadsAsNothing()
+{
+    const auto data = read(R"({"id":1,"name":5,"translationId":"4","x":"3","y":1.5,"windowKey":null,"icon":[],
+        "jump":null,"showArrow":1,"prohibited":"true"})");
+    QVERIFY(data);
+    QCOMPARE(data->name, QString());
+    QCOMPARE(data->translationId, 0);
+    QCOMPARE(data->x, 0);
+    QCOMPARE(data->y, 0);
+    QCOMPARE(data->windowKey, QString());
+    QCOMPARE(data->icon, QString());
+    QCOMPARE(data->hint2, QStringLiteral("#0"));
+    QCOMPARE(data->jump, 0);
+    QVERIFY(!data->showArrow);
+    QVERIFY(!data->prohibited);
+    // What is not true is a step, whatever else it is.
+    QCOMPARE(read(R"({"id":1,"folder":"true","x":3})")->x, 3);
+}
+
+void tst_TutorialItemData::withoutAnIdThereIsNoItem_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char *name, const char *json, const char *reason) {
+        QTest::newRow(name) << QByteArray(json) << QString::fromLatin1(reason);
+    };
+    const char *missing = R"("m_object doesn't have key: id")";
+    const char *noObject = R"("[id] is applied for kValue.")";
+    row("object", R"([{"name":"n"}])", missing);
+    row("empty object", "[{}]", missing);
+    row("array", R"([["id"]])", noObject);
+    row("string", R"(["id"])", noObject);
+    row("number", "[12]", noObject);
+    row("null", "[null]", noObject);
+}
+
 void tst_TutorialItemData::withoutAnIdThereIsNoItem()
 {
+    QFETCH(QByteArray, json);
+    const JsonWrapper element = JsonWrapper(QString::fromUtf8(json))[0];
+    const ScenarioTexts texts;
     LogCapture log;
-    QVERIFY(!read(R"({"name":"n"})"));
-    QVERIFY(!read(R"(["id"])"));
-    QCOMPARE(log.warnings().size(), 2);
-    const QStringList warnings = log.warnings();
-    for (const QString &warning : warnings) {
-        QVERIFY(warning.startsWith(QStringLiteral("..\\..\\tutorial\\cpp\\")));
-        QVERIFY(warning.contains(QStringLiteral(" TutorialItemData::fromJson 329 \"")));
-    }
+    QVERIFY(TutorialItemData::fromJson(element, texts) == nullptr);
+    const QString source = QStringLiteral("..\\..\\tutorial\\cpp\\");
+    QFETCH(QString, reason);
+    QCOMPARE(log.debugs(),
+             QStringList{source + QStringLiteral("tool\\JsonWrapper.cpp JsonWrapper::errorHandler 1158 ") +
+                         reason});
+    QCOMPARE(
+        log.warnings(),
+        QStringList{source +
+                    QStringLiteral("TutorialEditor\\TutorialItemData.cpp TutorialItemData::fromJson 329 ") +
+                    reason});
 }
 
 void tst_TutorialItemData::toJsonHasAllFieldsInTheirOrder()
