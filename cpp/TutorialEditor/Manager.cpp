@@ -63,7 +63,9 @@ QStringList Manager::setContents(const QString &fileName)
         logWarning(kSource, function, 307) << "Failed to open" << fileName << file.errorString();
         return {};
     }
-    QString text = QString::fromUtf8(file.readAll());
+    const QByteArray bytes = file.readAll();
+    // With its size: without, the text would end at a zero byte, and what is behind it would be lost.
+    QString text = QString::fromUtf8(bytes.constData(), bytes.size());
     text = scenarioArray(withoutLineComments(withoutBlockComments(text)));
 
     QStringList errors;

@@ -150,6 +150,8 @@ void tst_Manager::loadsWhatTheFormAllows_data()
         << QByteArray("[{\"id\":1,\"children\":[{\"id\":2}]}]") << QStringLiteral("1[2]");
     QTest::newRow("comments") << QByteArray("/* a */\n// b\nvar scenario = [\n  // c\n \n{\"id\":1}\n];\n")
                               << QStringLiteral("1");
+    QTest::newRow("zero byte in a text")
+        << QByteArray("[{\"id\":1,\"name\":\"a\0b\"},{\"id\":2}]", 32) << QStringLiteral("1 2");
     QTest::newRow("the same id twice") << QByteArray("[{\"id\":1},{\"id\":1}]") << QStringLiteral("1 1");
 }
 
@@ -169,6 +171,7 @@ void tst_Manager::refusesWhatIsNoArray_data()
     QTest::newRow("object") << QByteArray("{\"id\":1}");
     QTest::newRow("number") << QByteArray("12");
     QTest::newRow("broken") << QByteArray("var scenario = [{\"id\":1}");
+    QTest::newRow("a zero byte and more behind the end") << QByteArray("[{\"id\":1}]\0more", 15);
     QTest::newRow("comment behind code") << QByteArray("[{\"id\":1} // first\n]");
     QTest::newRow("an end inside a text") << QByteArray("var scenario = [{\"id\":1,\"name\":\"a];\"}];");
     QTest::newRow("a comment begins inside a text")
