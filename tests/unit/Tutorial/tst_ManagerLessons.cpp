@@ -19,6 +19,8 @@ private Q_SLOTS:
     void keeps_the_base_name_of_a_lesson_data();
     void keeps_the_base_name_of_a_lesson();
     void announces_a_lesson_name_once();
+    void announces_a_lesson_name_before_the_lesson_is_there();
+    void gives_one_error_a_line();
     void unloads();
     void saves_nothing_without_a_file();
     void saves_no_translations_into_the_program();
@@ -95,6 +97,32 @@ void tst_ManagerLessons::announces_a_lesson_name_once()
         QCOMPARE(errors, QString());
     }
     QCOMPARE(spy.size(), 1);
+}
+
+void tst_ManagerLessons::announces_a_lesson_name_before_the_lesson_is_there()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    QString name;
+    connect(manager, &TutorialManager::tutorialNameChanged, manager, [manager, &name] {
+        name = manager->tutorialName();
+        manager->startFromId();
+    });
+    QCOMPARE(manager->loadTutorial(QStringLiteral(":/qml/Tutorial/TutorialStep1.js")), QString());
+    QCOMPARE(name, QStringLiteral("TutorialStep1"));
+    QCOMPARE(m_fixture->nextPayload(), QStringLiteral("start\x01var scenario = [\n\n];\x01-1"));
+}
+
+void tst_ManagerLessons::gives_one_error_a_line()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("own.js")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"(var scenario = [{"name":"a"},{"id":1},2];)");
+    file.close();
+    QCOMPARE(m_fixture->manager->loadTutorial(file.fileName()),
+             QStringLiteral("Item 1 is left out: it is no object with an \"id\"\n"
+                            "Item 3 is left out: it is no object with an \"id\""));
+    QCOMPARE(m_fixture->manager->tutorialName(), QStringLiteral("own"));
 }
 
 void tst_ManagerLessons::unloads()
