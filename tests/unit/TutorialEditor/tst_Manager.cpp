@@ -150,6 +150,12 @@ void tst_Manager::loadsWhatTheFormAllows_data()
         << QByteArray("[{\"id\":1,\"children\":[{\"id\":2}]}]") << QStringLiteral("1[2]");
     QTest::newRow("comments") << QByteArray("/* a */\n// b\nvar scenario = [\n  // c\n \n{\"id\":1}\n];\n")
                               << QStringLiteral("1");
+    QTest::newRow("a block comment ends in a line comment")
+        << QByteArray("/* a\n// b */\n[{\"id\":1}]") << QStringLiteral("1");
+    QTest::newRow("a block comment begins in a line comment")
+        << QByteArray("[{\"id\":1}\n// /*\n,{\"id\":2}\n// */\n]") << QStringLiteral("1");
+    QTest::newRow("the head and the end in comments")
+        << QByteArray("/* var scenario = [ */\n// ];\nvar scenario = [{\"id\":1}];") << QStringLiteral("1");
     QTest::newRow("zero byte in a text")
         << QByteArray("[{\"id\":1,\"name\":\"a\0b\"},{\"id\":2}]", 32) << QStringLiteral("1 2");
     QTest::newRow("the same id twice") << QByteArray("[{\"id\":1},{\"id\":1}]") << QStringLiteral("1 1");

@@ -113,6 +113,8 @@ void tst_TutorialItemData::followWindowStandsInForAMissingWindowKey_data()
                                 << QStringLiteral("W");
     QTest::newRow("with an empty key")
         << QByteArray(R"({"id":1,"followWindow":"F","windowKey":""})") << QString();
+    QTest::newRow("with a key that is no text")
+        << QByteArray(R"({"id":1,"followWindow":"F","windowKey":5})") << QString();
 }
 
 void tst_TutorialItemData::followWindowStandsInForAMissingWindowKey()
