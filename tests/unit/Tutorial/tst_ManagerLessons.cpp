@@ -1,9 +1,11 @@
 #include "LogCapture.h"
 #include "ManagerFixture.h"
+#include "tool/JsonWrapper.h"
 
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 /// Lessons in the whole manager: their names, how they are handed over, and how they go.
 class tst_ManagerLessons : public QObject
@@ -18,6 +20,8 @@ private Q_SLOTS:
     void hands_over_a_text_that_holds_an_end();
     void keeps_the_base_name_of_a_lesson_data();
     void keeps_the_base_name_of_a_lesson();
+    void takes_the_texts_by_the_base_name_data();
+    void takes_the_texts_by_the_base_name();
     void announces_a_lesson_name_once();
     void announces_a_lesson_name_before_the_lesson_is_there();
     void gives_one_error_a_line();
@@ -84,6 +88,35 @@ void tst_ManagerLessons::keeps_the_base_name_of_a_lesson()
     QFETCH(QString, filename);
     QCOMPARE(m_fixture->manager->loadTutorial(filename), QString());
     QCOMPARE(m_fixture->manager->tutorialName(), QStringLiteral("TutorialStep1"));
+}
+
+void tst_ManagerLessons::takes_the_texts_by_the_base_name_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("hint");
+    QTranslator english;
+    QVERIFY(english.load(QStringLiteral(":/translations/en_US.qm")));
+    const QString text = english.translate("TutorialStep1", "#2");
+    QVERIFY(text.size() > 2);
+    QTest::newRow("with ending") << QStringLiteral("TutorialStep1.js") << text;
+    QTest::newRow("without ending") << QStringLiteral("TutorialStep1") << text;
+    QTest::newRow("one ending is dropped") << QStringLiteral("TutorialStep1.js.js") << QStringLiteral("#2");
+}
+
+void tst_ManagerLessons::takes_the_texts_by_the_base_name()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, hint);
+    QTemporaryDir folder;
+    QFile file(folder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"([{"id":1,"translationId":2,"hint":qsTr("#2")}])");
+    file.close();
+    QCOMPARE(m_fixture->manager->loadTutorial(file.fileName()), QString());
+    m_fixture->manager->startFromId();
+    const QString payload = m_fixture->nextPayload();
+    QVERIFY2(payload.contains(QStringLiteral("\n\"hint\":%1,\n").arg(JsonWrapper::getJsonString(hint))),
+             qPrintable(payload));
 }
 
 void tst_ManagerLessons::announces_a_lesson_name_once()

@@ -90,6 +90,8 @@ void tst_ScenarioTexts::textThatNobodyHoldsComesBack()
     const ScenarioTexts texts;
     QCOMPARE(texts.applyTranslation(QStringLiteral("Ctx"), QStringLiteral("#77")), QStringLiteral("#77"));
     QCOMPARE(texts.applyTranslation(QStringLiteral("Ctx"), QString()), QString());
+    // There is no number, so the place of one stays.
+    QCOMPARE(texts.applyTranslation(QStringLiteral("Ctx"), QStringLiteral("%n")), QStringLiteral("%n"));
 }
 
 void tst_ScenarioTexts::contextAndTextAreUtf8()
