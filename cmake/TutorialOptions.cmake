@@ -19,21 +19,24 @@ if(TUTORIAL_SANITIZE)
     target_compile_options(tutorial_options INTERFACE ${sanitizers})
     target_link_options(tutorial_options INTERFACE ${sanitizers})
 endif()
+# tutorial_core counts its lines, and whoever links it writes the counts.
 if(TUTORIAL_COVERAGE)
-    target_compile_options(tutorial_options INTERFACE --coverage -fprofile-abs-path -O0)
     target_link_options(tutorial_options INTERFACE --coverage)
 endif()
 
 # clazy rides along in clang as a plugin, so that the build that checks its findings is one that is needed anyway.
+# It takes as long as the compiler itself, and looks at what is shipped only.
 if(TUTORIAL_CLAZY)
     find_file(CLAZY_PLUGIN ClazyPlugin.so PATHS "/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}" /usr/lib64)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang" OR NOT CLAZY_PLUGIN)
         message(FATAL_ERROR "TUTORIAL_CLAZY needs clang++ as the compiler and ClazyPlugin.so from the package clazy. "
             "Install clazy, or configure with -DTUTORIAL_CLAZY=OFF to go without its findings.")
     endif()
+    set(is_shipped $<NOT:$<BOOL:$<TARGET_PROPERTY:TUTORIAL_TEST>>>)
     target_compile_options(tutorial_options INTERFACE
-        "SHELL:-Xclang -load -Xclang ${CLAZY_PLUGIN}" "SHELL:-Xclang -add-plugin -Xclang clazy"
-        "SHELL:-Xclang -plugin-arg-clazy -Xclang level1")
+        "$<${is_shipped}:SHELL:-Xclang -load -Xclang ${CLAZY_PLUGIN}>"
+        "$<${is_shipped}:SHELL:-Xclang -add-plugin -Xclang clazy>"
+        "$<${is_shipped}:SHELL:-Xclang -plugin-arg-clazy -Xclang level1>")
 endif()
 
 # AUTOMOC looks for Q_OBJECT again when the target's own CMakeLists.txt changes, but not when a folder below adds sources
@@ -71,8 +74,8 @@ function(tutorial_links result target library)
 endfunction()
 
 # Qt's headers, compiled once for every target of ours that uses widgets (without them the macros differ, and the
-# compiler refuses). For whole builds: with it a file that lacks an include still compiles, so the
-# release build goes without. Call it when all targets are there.
+# compiler refuses). For whole builds: with it a file that lacks an include still compiles; clang-tidy, which goes
+# without, finds it. Call it when all targets are there.
 function(tutorial_precompile_headers)
     file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
     add_library(tutorial_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
