@@ -142,6 +142,7 @@ private Q_SLOTS:
     void longAbsenceRebuildsTheWindows();
     void hostThatWasNeverHiddenMayShowItself();
     void nothingIsShownBeforeTheStart();
+    void logWindowShowsNothing();
     void tooltipFadesStepByStep();
     void arrowIsPaintedAtBothEnds_data();
     void arrowIsPaintedAtBothEnds();
@@ -490,6 +491,20 @@ void tst_CompanionWindows::nothingIsShownBeforeTheStart()
     m_host->send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("1280"),
                   QStringLiteral("960")});
     QTRY_COMPARE(overlays().size(), 5);
+}
+
+void tst_CompanionWindows::logWindowShowsNothing()
+{
+    // Window managers that keep windows on the screen move it into the corner.
+    WindowBelow corner;
+    corner.setWindowFlag(Qt::FramelessWindowHint);
+    corner.setGeometry(0, 0, 60, 30);
+    corner.show();
+    QTRY_COMPARE(difference(corner.geometry(), QImage(), {}), QString());
+    m_host->send({QStringLiteral("start")});
+    QTRY_COMPARE(placesOf(overlays()), QStringList(QStringLiteral("1x1 at 0,0")));
+    QVERIFY(waitForBeats(2));
+    QCOMPARE(difference(corner.geometry(), QImage(), {}), QString());
 }
 
 void tst_CompanionWindows::tooltipFadesStepByStep()

@@ -12,6 +12,8 @@ TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
 {
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    // A window manager that keeps windows on the screen moves the pixel into its corner.
+    setAttribute(Qt::WA_TranslucentBackground);
     setGeometry(-1, -1, 1, 1);
     // From here on: the window is hidden again long before any window manager could activate it.
     new StayHidden(this);

@@ -4,8 +4,8 @@
 
 class OverlayHost;
 
-/// A window of one pixel at (-1, -1) that shows nothing: it tells the manager when the overlays become
-/// active.
+/// A transparent window of one pixel at (-1, -1), or where the window manager moves it: it shows nothing and
+/// tells the manager when the overlays become active.
 class TutorialLog : public QWidget
 {
     Q_OBJECT

@@ -24,6 +24,7 @@ void TestTutorialLog::isBuiltAsOneHiddenPixel()
     const TutorialLog log(nullptr, &host);
     QCOMPARE(log.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     QVERIFY(log.testAttribute(Qt::WA_ShowWithoutActivating));
+    QVERIFY(log.testAttribute(Qt::WA_TranslucentBackground));
     QCOMPARE(log.geometry(), QRect(-1, -1, 1, 1));
     QVERIFY(log.isHidden());
 }
