@@ -24,11 +24,30 @@ void tst_HostText::isShown_data()
     asWritten("plain with an angle", QStringLiteral("a < b, background"));
     asWritten("picture from a file", QStringLiteral("<img src=\"/dev/zero\">"));
     asWritten("picture, blank in front", QStringLiteral("<b>x</b>< IMG src=\"/dev/zero\">"));
-    asWritten("style sheet", QStringLiteral("<link rel=\"stylesheet\" href=\"/dev/zero\">x"));
+    asWritten("picture in entities", QStringLiteral("<b>x</b><&#105;mg src=\"/dev/zero\">"));
+    asWritten("picture of a given size",
+              QStringLiteral("<b>x</b><im&#103; width=5 height=5 src=\"/dev/zero\">"));
+    asWritten("style sheet",
+              QStringLiteral("<link rel=\"stylesheet\" type=\"text/css\" href=\"/dev/zero\">x"));
     asWritten("imported style", QStringLiteral("<style>@import \"/dev/zero\";</style>x"));
+    asWritten("imported style in escapes", QStringLiteral("<style>@\\69mport \"/dev/zero\";</style>x"));
     asWritten("picture of a style", QStringLiteral("<p style=\"background-image:url(/dev/zero)\">x</p>"));
+    asWritten("picture of a style in entities",
+              QStringLiteral("<p style=\"&#98;ackground-image:&#117;rl(/dev/zero)\">x</p>"));
+    asWritten("picture below the text", QStringLiteral("<body &#98;ackground=\"/dev/zero\">x"));
     asWritten("nine tables", QStringLiteral("<table><tr><td>").repeated(9));
+    asWritten("nine tables in entities", QStringLiteral("<b></b><&#116;able><tr><td>").repeated(9));
+    asWritten("wide cells", QStringLiteral("<table cellpadding=2000000000><tr><td>x</table>"));
+    asWritten("wide padding", QStringLiteral("<table><tr><td style=\"padding:2000000000px\">x</table>"));
+    asWritten("many tags", QStringLiteral("<b>").repeated(2667));
     QTest::newRow("rich") << QStringLiteral("<b>Save</b> the <i>map</i>") << QStringLiteral("Save the map");
+    QTest::newRow("words of files and styles")
+        << QStringLiteral("<b>Background</b>: url (1), img, @import, table table table table table table "
+                          "table table table")
+        << QStringLiteral(
+               "Background: url (1), img, @import, table table table table table table table table table");
+    QTest::newRow("a coloured background")
+        << QStringLiteral("<p style=\"background-color:#ffffff\">map</p>") << QStringLiteral("map");
     QTest::newRow("a table") << QStringLiteral("<table><tr><td>map</td></tr></table>")
                              << QStringLiteral("\nmap\n");
 }
