@@ -26,6 +26,7 @@ private Q_SLOTS:
     void announces_a_lesson_name_before_the_lesson_is_there();
     void gives_one_error_a_line();
     void unloads();
+    void tells_the_host_of_a_position_without_an_indicator();
     void saves_nothing_without_a_file();
     void saves_no_translations_into_the_program();
 
@@ -169,6 +170,14 @@ void tst_ManagerLessons::unloads()
     QCOMPARE(manager->tutorialName(), QString());
     manager->startFromId();
     QCOMPARE(m_fixture->nextPayload(), QStringLiteral("start\x01var scenario = [\n\n];\x01-1"));
+}
+
+void tst_ManagerLessons::tells_the_host_of_a_position_without_an_indicator()
+{
+    QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "updateIndicatorXyWindowKey",
+                                      Q_ARG(int, -9999), Q_ARG(int, 0), Q_ARG(QString, QString())));
+    QCOMPARE(m_fixture->nextPayload(), QStringLiteral("indicator\x01updateXYWindowKey\x01-9999\x01"
+                                                      "0\x01"));
 }
 
 void tst_ManagerLessons::saves_nothing_without_a_file()
