@@ -58,7 +58,7 @@ private:
 class PatchTarget
 {
 public:
-    PatchTarget(const std::string &base, std::size_t size)
+    PatchTarget(std::string_view base, std::size_t size)
         : m_base(base)
         , m_size(size)
     {
@@ -72,7 +72,7 @@ public:
         count = std::min(count, m_size - m_text.size());
         if (offset < m_base.size()) {
             const std::size_t fromBase = std::min(count, m_base.size() - offset);
-            m_text.append(m_base, offset, fromBase);
+            m_text.append(m_base.substr(offset, fromBase));
             offset = m_base.size();
             count -= fromBase;
         }
@@ -95,7 +95,7 @@ public:
     }
 
 private:
-    const std::string &m_base;
+    std::string_view m_base;
     std::size_t m_size;
     std::string m_text;
 };
@@ -154,7 +154,7 @@ bool applyOperations(PatchReader &patch, PatchTarget &target)
 
 } // namespace
 
-bool StringPatch::ApplyStringPatch(const std::string &base, const QByteArray &patch, std::string &result)
+bool StringPatch::ApplyStringPatch(std::string_view base, const QByteArray &patch, std::string &result)
 {
     PatchReader reader(patch);
     const std::size_t targetSize = reader.number(4).value_or(0);

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <string>
+#include <string_view>
 
 /// Applies the binary patches that preset data is stored in.
 ///
@@ -36,5 +37,5 @@ public:
     ///
     /// @throws std::out_of_range when base and result together exceed a signed 32-bit size, @p result as it
     /// was.
-    static bool ApplyStringPatch(const std::string &base, const QByteArray &patch, std::string &result);
+    static bool ApplyStringPatch(std::string_view base, const QByteArray &patch, std::string &result);
 };
