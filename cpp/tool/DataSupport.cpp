@@ -4,7 +4,6 @@
 
 #include <QDataStream>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -19,15 +18,20 @@ constexpr qint64 kMostBytes = std::numeric_limits<int>::max() - 64;
 
 bool DataSupport::readFile(const QString &path, QByteArray &bytes)
 {
+    return readFile(QFileInfo(path), bytes);
+}
+
+bool DataSupport::readFile(const QFileInfo &info, QByteArray &bytes)
+{
+    const QString path = info.filePath();
     QFile file(path);
     // Opening a pipe would wait for someone to write to it.
-    const QFileInfo info(path);
     if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         logWarning(kSource, "DataSupport::readFile", 133) << "Failed to open" << path;
         return false;
     }
     QDataStream stream(&file);
-    const qint64 size = info.size();
+    const qint64 size = file.size();
     logDebug(kSource, "DataSupport::readFile", 137) << size;
     bytes.resize(int(std::min(size, kMostBytes)));
     const int count = stream.readRawData(bytes.data(), bytes.size());

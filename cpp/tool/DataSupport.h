@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <QString>
 
 /// Whole-file access, and two small path functions. Failures are logged as warnings.
@@ -13,6 +14,10 @@ public:
     /// or @p path is no plain file, @p bytes is untouched; when it ends early, @p bytes holds what came,
     /// filled up with zero bytes to the file's size.
     static bool readFile(const QString &path, QByteArray &bytes);
+
+    /// As above, for the file that @p info names. An entry of a directory that was listed knows already what
+    /// kind of file it is, which spares looking at it by its path again.
+    static bool readFile(const QFileInfo &info, QByteArray &bytes);
 
     /// Creates or truncates the file at @p path and writes @p bytes; true if every byte reached the system.
     /// After a failure the file holds what was written up to then.

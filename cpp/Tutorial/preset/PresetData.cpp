@@ -43,16 +43,15 @@ QString choosePatchRoot(const QString &applicationDirectory)
 std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileTexts &previous)
 {
     FileTexts texts;
-    const QDir directory(dataDirectory);
-    const QString absolutePath = directory.absolutePath();
+    // Of its absolute path, so that the paths of its entries are absolute too.
+    const QDir directory(QDir(dataDirectory).absolutePath());
     const QFileInfoList entries = directory.entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
     texts.reserve(entries.size());
     for (const QFileInfo &entry : entries) {
         const QString fileName = entry.fileName();
-        const QString path = absolutePath + QLatin1Char('/') + fileName;
         QByteArray patch;
-        if (!DataSupport::readFile(path, patch)) {
-            logWarning(kSource, kFunction, 1024) << "Failed to read" << path;
+        if (!DataSupport::readFile(entry, patch)) {
+            logWarning(kSource, kFunction, 1024) << "Failed to read" << entry.filePath();
             return std::nullopt;
         }
         static const std::string kNoBase;
@@ -65,7 +64,8 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
                 return std::nullopt;
             }
         } catch (const std::exception &error) {
-            logWarning(kSource, kFunction, 1036) << "Failed to ApplyStringPatch" << path << error.what();
+            logWarning(kSource, kFunction, 1036)
+                << "Failed to ApplyStringPatch" << entry.filePath() << error.what();
             return std::nullopt;
         }
     }

@@ -43,6 +43,9 @@ private Q_SLOTS:
     void readOfDirectoryFails();
     void readOfUnreadableFileFails();
     void readOfAPipeDoesNotWait();
+    void readsAnEntryOfAListedDirectory();
+    void readOfAnEntryThatIsGoneFails();
+    void readOfAListedPipeDoesNotWait();
     void readThatEndsEarlyKeepsTheFilesSize();
     void readsResources();
     void writeToMissingDirectoryFails();
@@ -157,6 +160,57 @@ void tst_DataSupport::readOfAPipeDoesNotWait()
         QCOMPARE(bytes, QByteArray("as it was"));
         QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open \"%1\"").arg(file)));
     }
+    close(ends);
+}
+
+void tst_DataSupport::readsAnEntryOfAListedDirectory()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("listed"));
+    QVERIFY(DataSupport::writeFile(file, "1"));
+    const QFileInfo entry = QDir(directory.path()).entryInfoList(QDir::Files, QDir::NoSort).constFirst();
+    // The size is the one when it is read, not when it was listed.
+    QVERIFY(DataSupport::writeFile(file, "12345"));
+    QByteArray bytes;
+    LogCapture log;
+    QVERIFY(DataSupport::readFile(entry, bytes));
+    QCOMPARE(bytes, QByteArray("12345"));
+    const QStringList lines{QStringLiteral("%1 DataSupport::readFile 137 5").arg(messageSource()),
+                            QStringLiteral("%1 DataSupport::readFile 141 5 5").arg(messageSource())};
+    QCOMPARE(log.lines(), lines);
+}
+
+void tst_DataSupport::readOfAnEntryThatIsGoneFails()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("listed"));
+    QVERIFY(DataSupport::writeFile(file, "1"));
+    const QFileInfo entry = QDir(directory.path()).entryInfoList(QDir::Files, QDir::NoSort).constFirst();
+    QVERIFY(QFile::remove(file));
+    QByteArray bytes("as it was");
+    LogCapture log;
+    QVERIFY(!DataSupport::readFile(entry, bytes));
+    QCOMPARE(bytes, QByteArray("as it was"));
+    QCOMPARE(
+        log.lines(),
+        QStringList{
+            QStringLiteral("%1 DataSupport::readFile 133 Failed to open \"%2\"").arg(messageSource(), file)});
+}
+
+void tst_DataSupport::readOfAListedPipeDoesNotWait()
+{
+    const QTemporaryDir directory;
+    const QString pipe = directory.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    const int ends = open(qPrintable(pipe), O_RDWR | O_CLOEXEC);
+    QVERIFY(ends >= 0);
+    const QFileInfoList entries = QDir(directory.path()).entryInfoList(QDir::System, QDir::NoSort);
+    QCOMPARE(entries.size(), 1);
+    QByteArray bytes("as it was");
+    LogCapture log;
+    QVERIFY(!DataSupport::readFile(entries.constFirst(), bytes));
+    QCOMPARE(bytes, QByteArray("as it was"));
+    QVERIFY(log.contains(QStringLiteral("DataSupport::readFile 133 Failed to open \"%1\"").arg(pipe)));
     close(ends);
 }
 
