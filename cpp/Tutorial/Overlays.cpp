@@ -91,23 +91,35 @@ void Overlays::hideEditorTooltip() const
     hideWidget(m_editorTooltip);
 }
 
+void Overlays::retire(QWidget *old)
+{
+    m_retired.emplace_back(old);
+    old->close();
+}
+
 void Overlays::rebuild()
 {
+    // Seconds have passed since these were closed. Their windows take a megabyte.
+    for (const QPointer<QWidget> &retired : std::exchange(m_retired, {})) {
+        if (retired) {
+            retired->deleteLater();
+        }
+    }
     // A window that goes away changes what is active, and that brings the overlays into step from inside
     // close(): what is being closed is no longer ours then, or it would be shown again.
     if (TutorialLog *old = std::exchange(m_log, nullptr)) {
-        old->close();
+        retire(old);
         createLog();
     }
     if (TutorialIndicator *old = std::exchange(m_indicator, nullptr)) {
         const QVariantMap settings = old->getSettings();
-        old->close();
+        retire(old);
         createIndicator();
         m_indicator->setSettings(settings);
     }
     if (EditorTooltip *old = std::exchange(m_editorTooltip, nullptr)) {
         const QVariantMap settings = old->getSettings();
-        old->close();
+        retire(old);
         m_editorTooltip = new EditorTooltip(nullptr, &m_host);
         m_editorTooltip->setSettings(settings);
     }

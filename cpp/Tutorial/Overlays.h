@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
+#include <vector>
+
 class EditorTooltip;
 class OverlayHost;
 class TutorialIndicator;
@@ -7,8 +11,8 @@ class TutorialLog;
 
 /// The overlays of the process, each made when it is first needed, shown and hidden together.
 ///
-/// Overlays are top-level widgets without a parent and are held by plain pointers. Closing one releases what
-/// it holds; the closed object itself stays, since a socket command may still be running inside it.
+/// Overlays are top-level widgets without a parent and are held by plain pointers. A closed one stays, since
+/// a socket command may still be running inside it, until its successor is replaced too.
 class Overlays
 {
 public:
@@ -44,8 +48,12 @@ public:
     void rebuild();
 
 private:
+    /// Closes @p old and keeps it until the next rebuild.
+    void retire(QWidget *old);
+
     OverlayHost &m_host;
     TutorialIndicator *m_indicator = nullptr;
     EditorTooltip *m_editorTooltip = nullptr;
     TutorialLog *m_log = nullptr;
+    std::vector<QPointer<QWidget>> m_retired;
 };

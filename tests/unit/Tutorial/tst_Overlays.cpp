@@ -1,0 +1,75 @@
+#include <QApplication>
+#include <QObject>
+#include <QPointer>
+#include <QTest>
+
+#include "FakeOverlayHost.h"
+#include "Tutorial/Overlays.h"
+#include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/TutorialIndicator.h"
+
+class tst_Overlays : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_replaced_overlay_stays_until_the_next_rebuild();
+    void windows_do_not_pile_up();
+};
+
+namespace {
+
+void make(Overlays &overlays, FakeOverlayHost &host)
+{
+    overlays.createLog();
+    overlays.createIndicator();
+    overlays.indicator()->init(true, true);
+    overlays.setEditorTooltip(new EditorTooltip(nullptr, &host));
+}
+
+void deleteWhatIsDue()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+void tst_Overlays::a_replaced_overlay_stays_until_the_next_rebuild()
+{
+    FakeOverlayHost host;
+    Overlays overlays(host);
+    make(overlays, host);
+    const QPointer<TutorialIndicator> indicator = overlays.indicator();
+    const QPointer<EditorTooltip> tooltip = overlays.editorTooltip();
+
+    overlays.rebuild();
+    deleteWhatIsDue();
+    QVERIFY(indicator && indicator != overlays.indicator());
+    QVERIFY(tooltip && tooltip != overlays.editorTooltip());
+
+    overlays.rebuild();
+    QVERIFY(indicator && tooltip);
+    deleteWhatIsDue();
+    QVERIFY(!indicator && !tooltip);
+    QVERIFY(overlays.indicator() && overlays.editorTooltip());
+}
+
+void tst_Overlays::windows_do_not_pile_up()
+{
+    FakeOverlayHost host;
+    Overlays overlays(host);
+    make(overlays, host);
+    overlays.rebuild();
+    overlays.rebuild();
+    deleteWhatIsDue();
+    const int windows = QApplication::topLevelWidgets().size();
+    QVERIFY(windows > 0);
+    for (int i = 0; i < 5; ++i) {
+        overlays.rebuild();
+        deleteWhatIsDue();
+        QCOMPARE(QApplication::topLevelWidgets().size(), windows);
+    }
+}
+
+QTEST_MAIN(tst_Overlays)
+#include "tst_Overlays.moc"
