@@ -1,8 +1,6 @@
 #include "LogCapture.h"
-#include "RecordingCommand.h"
-#include "RecordingHost.h"
-#include "UndoRedo/UndoRedo.h"
 #include "UndoRedo/UnredoableCommand.h"
+#include "UndoRedoTest.h"
 
 #include <QDir>
 #include <QMetaMethod>
@@ -10,46 +8,20 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
-class tst_UndoRedo : public QObject
+/// The undo history as an object, and its steps apart from transactions.
+class tst_UndoRedo : public UndoRedoTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void constructionIsLoggedAsAWarning();
     void theInterfaceStandsInItsOrder();
     void theInvokablesWorkByName();
     void theInstanceIsPublishedAndGoesWithTheObject();
     void aSecondObjectLeavesTheInstanceAlone();
-
-    void transactionsOfOneNameMergeByTime_data();
-    void transactionsOfOneNameMergeByTime();
-    void aSteadyDragIsOneStep();
-    void anotherNameIsAnotherStep();
-    void theNamelessTransactionHasTheEmptyName();
-    void theVeryFirstTransactionMayMergeWhenItHasNoName();
-    void setUnmergeableKeepsTheNextTransactionApart();
-    void theFirstCommandIsPushedAndTheNextMerges();
-    void aFailedMergeIsTakenBackAndPushed();
-    void theLastCommandOfASequenceTakesMerges();
-    void nothingMergesIntoThePlainCommand();
-    void commandsOutsideATransactionMergeOnTheStack();
-
-    void aSequenceIsOneStep();
-    void sequencesNest();
-    void anEmptySequenceLeavesNothingToUndoOrRedo();
-    void anEmptySequenceClearsTheRedoSide();
-    void endingWhatNeverBeganIsHarmless();
-    void aTransactionInsideAnotherIsLogged();
     void theMarkerCannotBeRedone();
     void redoPassesTheMarkerWithoutAChange();
-
     void onlyTheLastTenStepsAreKept();
-    void anEmptySequenceOnAFullStackStays();
     void modifiedFollowsTheSavedPosition();
     void mergingIntoTheSavedStepDoesNotModify();
     void clearForgetsEverything();
@@ -57,46 +29,7 @@ private Q_SLOTS:
     void signalsForwardTheState();
     void theTemporaryDirectoryIsAvailable();
     void callsAreLoggedWithTheirNumbers();
-
-private:
-    void single(const QString &name, int value);
-    [[nodiscard]] static QString line(const char *function, int number, const QString &rest);
-
-    RecordingHost m_host;
-    std::unique_ptr<UndoRedo> m_undoRedo;
-    QTime m_now;
 };
-
-void tst_UndoRedo::init()
-{
-    m_host = RecordingHost();
-    m_now = QTime(12, 0);
-    m_undoRedo = std::make_unique<UndoRedo>(nullptr, &m_host);
-    m_undoRedo->setClock([this] { return m_now; });
-    UndoRedo::publish(m_undoRedo.get());
-    RecordingCommand::journal().clear();
-}
-
-void tst_UndoRedo::cleanup()
-{
-    m_undoRedo.reset();
-    RecordingCommand::deleteLeftovers();
-}
-
-void tst_UndoRedo::single(const QString &name, int value)
-{
-    m_undoRedo->beginSingle(name);
-    m_undoRedo->addCommand(new RecordingCommand(name, value));
-    m_undoRedo->endSingle();
-}
-
-QString tst_UndoRedo::line(const char *function, int number, const QString &rest)
-{
-    const QString start = QStringLiteral("..\\..\\tutorial\\cpp\\UndoRedo.cpp UndoRedo::%1 %2")
-                              .arg(QLatin1String(function))
-                              .arg(number);
-    return rest.isEmpty() ? start : start + QLatin1Char(' ') + rest;
-}
 
 void tst_UndoRedo::constructionIsLoggedAsAWarning()
 {
@@ -186,266 +119,6 @@ void tst_UndoRedo::aSecondObjectLeavesTheInstanceAlone()
     QCOMPARE(UndoRedo::instance(), m_undoRedo.get());
 }
 
-void tst_UndoRedo::transactionsOfOneNameMergeByTime_data()
-{
-    QTest::addColumn<QTime>("first");
-    QTest::addColumn<QTime>("second");
-    QTest::addColumn<bool>("merges");
-    QTest::newRow("at once") << QTime(12, 0) << QTime(12, 0) << true;
-    QTest::newRow("999 ms") << QTime(12, 0, 0, 0) << QTime(12, 0, 0, 999) << true;
-    QTest::newRow("1000 ms") << QTime(12, 0, 0, 0) << QTime(12, 0, 1, 0) << false;
-    QTest::newRow("an hour") << QTime(12, 0) << QTime(13, 0) << false;
-    QTest::newRow("999 ms over midnight") << QTime(23, 59, 59, 500) << QTime(0, 0, 0, 499) << true;
-    QTest::newRow("1000 ms over midnight") << QTime(23, 59, 59, 500) << QTime(0, 0, 0, 500) << false;
-    QTest::newRow("the clock was set back") << QTime(12, 0) << QTime(11, 0) << false;
-}
-
-void tst_UndoRedo::transactionsOfOneNameMergeByTime()
-{
-    QFETCH(QTime, first);
-    QFETCH(QTime, second);
-    QFETCH(bool, merges);
-    single(QStringLiteral("b"), 0);
-    m_now = first;
-    single(QStringLiteral("a"), 1);
-    m_now = second;
-    LogCapture log;
-    single(QStringLiteral("a"), 2);
-    QCOMPARE(log.contains(line("beginSingle", 245, QStringLiteral("may be merged"))), merges);
-
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(), QStringList{QStringLiteral("undo a=2")});
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(),
-             QStringList{merges ? QStringLiteral("undo b=0") : QStringLiteral("undo a=1")});
-}
-
-void tst_UndoRedo::aSteadyDragIsOneStep()
-{
-    single(QStringLiteral("drag"), 0);
-    for (int i = 1; i <= 10; ++i) {
-        m_now = m_now.addMSecs(900);
-        single(QStringLiteral("drag"), i);
-    }
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::anotherNameIsAnotherStep()
-{
-    single(QStringLiteral("a"), 1);
-    single(QStringLiteral("b"), 2);
-    single(QStringLiteral("a"), 3);
-    for (int i = 0; i < 3; ++i) {
-        QVERIFY(m_undoRedo->canUndo());
-        m_undoRedo->undo();
-    }
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::theNamelessTransactionHasTheEmptyName()
-{
-    single(QStringLiteral("a"), 1);
-    m_undoRedo->beginSingle();
-    m_undoRedo->endSingle();
-    QCOMPARE(m_undoRedo->lastTransactionName(), QString());
-    m_undoRedo->beginSingle();
-    QVERIFY(m_undoRedo->mergeable());
-    m_undoRedo->endSingle();
-}
-
-void tst_UndoRedo::theVeryFirstTransactionMayMergeWhenItHasNoName()
-{
-    // There was no transaction before: its name is empty too, and no time lies between.
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    LogCapture log;
-    m_undoRedo->beginSingle();
-    QVERIFY(log.contains(line("beginSingle", 245, QStringLiteral("may be merged"))));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
-    m_undoRedo->endSingle();
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::setUnmergeableKeepsTheNextTransactionApart()
-{
-    single(QStringLiteral("a"), 1);
-    m_undoRedo->setUnmergeable();
-    single(QStringLiteral("a"), 2);
-    m_undoRedo->undo();
-    QVERIFY(m_undoRedo->canUndo());
-    m_undoRedo->redo();
-    // The end of the transaction lifted it.
-    single(QStringLiteral("a"), 3);
-    m_undoRedo->undo();
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::theFirstCommandIsPushedAndTheNextMerges()
-{
-    m_undoRedo->beginSingle(QStringLiteral("a"));
-    QVERIFY(!m_undoRedo->mergeable());
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    QVERIFY(m_undoRedo->mergeable());
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("y"), 3));
-    m_undoRedo->endSingle();
-    QVERIFY(m_undoRedo->mergeable());
-    QCOMPARE(RecordingCommand::journal(), (QStringList{QStringLiteral("redo x=1"), QStringLiteral("redo x=2"),
-                                                       QStringLiteral("redo y=3")}));
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(),
-             (QStringList{QStringLiteral("undo y=3"), QStringLiteral("undo x=2")}));
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::aFailedMergeIsTakenBackAndPushed()
-{
-    auto *stubborn = new RecordingCommand(QStringLiteral("x"), 1);
-    stubborn->setMergeable(false);
-    m_undoRedo->beginSingle(QStringLiteral("a"));
-    m_undoRedo->addCommand(stubborn);
-    m_host.notes.clear();
-    RecordingCommand::journal().clear();
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
-    m_undoRedo->endSingle();
-    QCOMPARE(RecordingCommand::journal(), (QStringList{QStringLiteral("redo x=2"), QStringLiteral("undo x=2"),
-                                                       QStringLiteral("redo x=2")}));
-    QCOMPARE(m_host.notes, QStringList{QString()});
-    m_undoRedo->undo();
-    QVERIFY(m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::theLastCommandOfASequenceTakesMerges()
-{
-    m_undoRedo->beginSequence(QStringLiteral("a"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    m_undoRedo->endSequence();
-    single(QStringLiteral("a"), 2);
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(),
-             (QStringList{QStringLiteral("undo a=2"), QStringLiteral("undo x=1"), QStringLiteral("undo p")}));
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::nothingMergesIntoThePlainCommand()
-{
-    m_undoRedo->beginSingle(QStringLiteral("a"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("q")));
-    m_undoRedo->endSingle();
-    for (int i = 0; i < 3; ++i) {
-        QVERIFY(m_undoRedo->canUndo());
-        m_undoRedo->undo();
-    }
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::commandsOutsideATransactionMergeOnTheStack()
-{
-    // The stack asks its last command by itself when the ids are equal.
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::aSequenceIsOneStep()
-{
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    QVERIFY(m_undoRedo->inTransaction());
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
-    m_undoRedo->endSequence();
-    QVERIFY(!m_undoRedo->inTransaction());
-    QCOMPARE(m_undoRedo->lastTransactionName(), QStringLiteral("s"));
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(), (QStringList{QStringLiteral("undo b"), QStringLiteral("undo a")}));
-    QVERIFY(!m_undoRedo->canUndo());
-    QVERIFY(m_undoRedo->canRedo());
-}
-
-void tst_UndoRedo::sequencesNest()
-{
-    m_undoRedo->beginSequence(QStringLiteral("outer"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    LogCapture log;
-    m_undoRedo->beginSequence(QStringLiteral("inner"));
-    QVERIFY(log.contains(line("beginSequence", 182, QStringLiteral("Assertion failed: !m_inTransaction"))));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
-    m_undoRedo->endSequence();
-    QVERIFY(m_undoRedo->inTransaction());
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("c")));
-    QVERIFY(!log.contains(QStringLiteral("childCount")));
-    m_undoRedo->endSequence();
-    const QStringList counts = log.lines().filter(QStringLiteral(" UndoRedo::endSequence 211 0x"));
-    QCOMPARE(counts.size(), 1);
-    QVERIFY2(counts.constFirst().endsWith(QStringLiteral(" childCount 3")), qPrintable(counts.constFirst()));
-    QVERIFY(!m_undoRedo->inTransaction());
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
-void tst_UndoRedo::anEmptySequenceLeavesNothingToUndoOrRedo()
-{
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    m_undoRedo->endSequence();
-    QVERIFY(!m_undoRedo->canUndo());
-    QVERIFY(!m_undoRedo->canRedo());
-    QVERIFY(!m_host.modified);
-    QCOMPARE(m_host.notes, QStringList{QString()});
-
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    m_undoRedo->endSequence();
-    QVERIFY(m_undoRedo->canUndo());
-    QVERIFY(!m_undoRedo->canRedo());
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(), QStringList{QStringLiteral("undo a")});
-}
-
-void tst_UndoRedo::anEmptySequenceClearsTheRedoSide()
-{
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->undo();
-    QVERIFY(m_undoRedo->canRedo());
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    m_undoRedo->endSequence();
-    QVERIFY(!m_undoRedo->canRedo());
-}
-
-void tst_UndoRedo::endingWhatNeverBeganIsHarmless()
-{
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->endSequence();
-    m_undoRedo->endSingle();
-    QVERIFY(m_undoRedo->canUndo());
-    QVERIFY(!m_undoRedo->inTransaction());
-}
-
-void tst_UndoRedo::aTransactionInsideAnotherIsLogged()
-{
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    LogCapture log;
-    m_undoRedo->beginSingle(QStringLiteral("a"));
-    QVERIFY(log.contains(line("beginSingle", 237, QStringLiteral("Assertion failed: !m_inTransaction"))));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
-    m_undoRedo->endSingle();
-    QVERIFY(!m_undoRedo->inTransaction());
-    m_undoRedo->endSequence();
-    m_undoRedo->undo();
-    QVERIFY(!m_undoRedo->canUndo());
-}
-
 void tst_UndoRedo::theMarkerCannotBeRedone()
 {
     m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
@@ -487,21 +160,6 @@ void tst_UndoRedo::onlyTheLastTenStepsAreKept()
         ++steps;
     }
     QCOMPARE(steps, 10);
-}
-
-void tst_UndoRedo::anEmptySequenceOnAFullStackStays()
-{
-    for (int i = 0; i < 10; ++i) {
-        m_undoRedo->addCommand(new PlainCommand(QString::number(i)));
-    }
-    m_undoRedo->beginSequence(QStringLiteral("s"));
-    m_undoRedo->endSequence();
-    // The oldest step fell off, so the place where the sequence began is behind the last step.
-    RecordingCommand::journal().clear();
-    m_undoRedo->undo();
-    QVERIFY(RecordingCommand::journal().isEmpty());
-    m_undoRedo->undo();
-    QCOMPARE(RecordingCommand::journal(), QStringList{QStringLiteral("undo 9")});
 }
 
 void tst_UndoRedo::modifiedFollowsTheSavedPosition()
