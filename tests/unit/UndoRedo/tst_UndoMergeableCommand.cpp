@@ -24,10 +24,15 @@ private Q_SLOTS:
     void refusesWithoutAHistory();
     void refusesACommandOfAnotherKind();
     void anUnmergeableCloneBreaksTheSearch();
+    void theSearchBeginsAtTheNewestClone();
     void aCloneTakesNoClones();
 
 private:
     [[nodiscard]] static bool hasNumber(const LogCapture &log, int number);
+    /// As the log writes it.
+    [[nodiscard]] static QString address(const QUndoCommand &command);
+    /// Folds @p other in; the clone that came of it.
+    [[nodiscard]] static RecordingCommand *append(RecordingCommand *command, const RecordingCommand &other);
 
     std::unique_ptr<UndoRedo> m_undoRedo;
 };
@@ -52,6 +57,20 @@ bool tst_UndoMergeableCommand::hasNumber(const LogCapture &log, int number)
     return log.contains(QStringLiteral("UndoMergeableCommand::mergeWith %1 ").arg(number));
 }
 
+QString tst_UndoMergeableCommand::address(const QUndoCommand &command)
+{
+    return QStringLiteral("0x%1").arg(reinterpret_cast<quintptr>(&command), 0, 16);
+}
+
+RecordingCommand *tst_UndoMergeableCommand::append(RecordingCommand *command, const RecordingCommand &other)
+{
+    const QSet<RecordingCommand *> before = RecordingCommand::alive();
+    const bool merged = command->mergeWith(&other);
+    const QSet<RecordingCommand *> clones =
+        QSet<RecordingCommand *>(RecordingCommand::alive()).subtract(before);
+    return merged && clones.size() == 1 ? *clones.begin() : nullptr;
+}
+
 void tst_UndoMergeableCommand::startsMergeableWithIdZero()
 {
     const RecordingCommand command(QStringLiteral("x"), 1);
@@ -68,7 +87,7 @@ void tst_UndoMergeableCommand::theSameThingTakesTheNewValue()
     QVERIFY(command.mergeWith(&later));
     QCOMPARE(command.value(), QVariant(2));
     QCOMPARE(command.mergedCount(), 0);
-    QVERIFY(hasNumber(log, 351));
+    QVERIFY(log.contains(QStringLiteral("mergeWith 351 %1 0 %2 0").arg(address(command), address(later))));
     QVERIFY(log.contains(QStringLiteral("mergeWith 357 childCount 0")));
     QVERIFY(log.contains(QStringLiteral("mergeWith 376 merged(2)")));
 }
@@ -156,41 +175,44 @@ void tst_UndoMergeableCommand::refusesACommandOfAnotherKind()
     RecordingCommand command(QStringLiteral("x"), 1);
     QVERIFY(command.mergeWith(std::make_unique<RecordingCommand>(QStringLiteral("y"), 2).get()));
     const PlainCommand plain(QStringLiteral("p"));
+    LogCapture log;
     QVERIFY(!command.mergeWith(&plain));
     QCOMPARE(command.mergedCount(), 1);
+    QVERIFY(!hasNumber(log, 362)); // a clone with another id is not looked at
 }
 
 void tst_UndoMergeableCommand::anUnmergeableCloneBreaksTheSearch()
 {
     RecordingCommand command(QStringLiteral("x"), 1);
-    const QSet<RecordingCommand *> before = RecordingCommand::alive();
-    {
-        const RecordingCommand other(QStringLiteral("y"), 2);
-        QVERIFY(command.mergeWith(&other));
-    }
-    const QSet<RecordingCommand *> clones =
-        QSet<RecordingCommand *>(RecordingCommand::alive()).subtract(before);
-    QCOMPARE(clones.size(), 1);
-    (*clones.begin())->setMergeable(false);
+    RecordingCommand *clone = append(&command, RecordingCommand(QStringLiteral("y"), 2));
+    QVERIFY(clone);
+    clone->setMergeable(false);
     LogCapture log;
     const RecordingCommand same(QStringLiteral("x"), 3);
     QVERIFY(!command.mergeWith(&same));
+    QVERIFY(log.contains(QStringLiteral("mergeWith 362 %1 0").arg(address(*clone))));
     QVERIFY(log.contains(QStringLiteral("mergeWith 364 break unmergeable")));
     QCOMPARE(command.value(), QVariant(1));
+}
+
+void tst_UndoMergeableCommand::theSearchBeginsAtTheNewestClone()
+{
+    RecordingCommand command(QStringLiteral("x"), 1);
+    RecordingCommand *older = append(&command, RecordingCommand(QStringLiteral("y"), 2));
+    RecordingCommand *newer = append(&command, RecordingCommand(QStringLiteral("z"), 3));
+    QVERIFY(older && newer);
+    older->setMergeable(false);
+    QVERIFY(command.mergeWith(std::make_unique<RecordingCommand>(QStringLiteral("z"), 4).get()));
+    QCOMPARE(newer->value(), QVariant(4));
+    QVERIFY(!command.mergeWith(std::make_unique<RecordingCommand>(QStringLiteral("y"), 5).get()));
+    QCOMPARE(older->value(), QVariant(2));
 }
 
 void tst_UndoMergeableCommand::aCloneTakesNoClones()
 {
     RecordingCommand command(QStringLiteral("x"), 1);
-    const QSet<RecordingCommand *> before = RecordingCommand::alive();
-    {
-        const RecordingCommand other(QStringLiteral("y"), 2);
-        QVERIFY(command.mergeWith(&other));
-    }
-    const QSet<RecordingCommand *> clones =
-        QSet<RecordingCommand *>(RecordingCommand::alive()).subtract(before);
-    QCOMPARE(clones.size(), 1);
-    RecordingCommand *merged = *clones.begin();
+    RecordingCommand *merged = append(&command, RecordingCommand(QStringLiteral("y"), 2));
+    QVERIFY(merged);
     const RecordingCommand other(QStringLiteral("z"), 3);
     const RecordingCommand same(QStringLiteral("y"), 4);
     LogCapture log;
@@ -200,6 +222,9 @@ void tst_UndoMergeableCommand::aCloneTakesNoClones()
     QVERIFY(!hasNumber(log, 357));
     QCOMPARE(merged->mergedCount(), 0);
     QCOMPARE(merged->value(), QVariant(4));
+    merged->setMergeable(false);
+    QVERIFY(!merged->mergeWith(&same));
+    QVERIFY(!hasNumber(log, 388)); // only the command on the stack says so
 }
 
 QTEST_MAIN(tst_UndoMergeableCommand)

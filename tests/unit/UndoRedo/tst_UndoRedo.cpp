@@ -2,11 +2,30 @@
 #include "UndoRedo/UnredoableCommand.h"
 #include "UndoRedoTest.h"
 
+#include <QAction>
 #include <QDir>
+#include <QKeySequence>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
+
+namespace {
+
+/// Puts the context in front of every text.
+class ContextTranslator final : public QTranslator
+{
+public:
+    [[nodiscard]] QString translate(const char *context, const char *source, const char * /*disambiguation*/,
+                                    int /*n*/) const override
+    {
+        return QLatin1String(context) + QLatin1Char('|') + QLatin1String(source);
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+} // namespace
 
 /// The undo history as an object, and its steps apart from transactions.
 class tst_UndoRedo : public UndoRedoTest
@@ -15,6 +34,7 @@ class tst_UndoRedo : public UndoRedoTest
 
 private Q_SLOTS:
     void constructionIsLoggedAsAWarning();
+    void theActionsAreTranslatedAndHaveTheKeysOfTheSystem();
     void theInterfaceStandsInItsOrder();
     void theInvokablesWorkByName();
     void theInstanceIsPublishedAndGoesWithTheObject();
@@ -25,6 +45,7 @@ private Q_SLOTS:
     void modifiedFollowsTheSavedPosition();
     void mergingIntoTheSavedStepDoesNotModify();
     void clearForgetsEverything();
+    void clearCountsAsSavedWithNothingToForget();
     void worksWithoutAHost();
     void signalsForwardTheState();
     void theTemporaryDirectoryIsAvailable();
@@ -42,6 +63,21 @@ void tst_UndoRedo::constructionIsLoggedAsAWarning()
         warning.startsWith(line("UndoRedo", 34, QStringLiteral("\"Tutorial\" \"%1").arg(QDir::tempPath()))),
         qPrintable(warning));
     QVERIFY2(warning.endsWith(QStringLiteral("\"%1\" \"\"").arg(QDir::tempPath())), qPrintable(warning));
+}
+
+void tst_UndoRedo::theActionsAreTranslatedAndHaveTheKeysOfTheSystem()
+{
+    ContextTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const UndoRedo undoRedo;
+    const QList<QAction *> actions = undoRedo.findChildren<QAction *>();
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions.at(0)->text(), QStringLiteral("UndoRedo|&Undo"));
+    QCOMPARE(actions.at(1)->text(), QStringLiteral("UndoRedo|&Redo"));
+    QCOMPARE(actions.at(0)->shortcuts(), QKeySequence::keyBindings(QKeySequence::Undo));
+    QCOMPARE(actions.at(1)->shortcuts(), QKeySequence::keyBindings(QKeySequence::Redo));
+    QVERIFY(!actions.at(0)->shortcuts().isEmpty());
+    QVERIFY(actions.at(0)->shortcuts() != actions.at(1)->shortcuts());
 }
 
 void tst_UndoRedo::theInterfaceStandsInItsOrder()
@@ -198,6 +234,13 @@ void tst_UndoRedo::clearForgetsEverything()
     m_undoRedo->addCommand(new PlainCommand(QStringLiteral("c")));
     m_undoRedo->undo();
     QVERIFY(!m_host.modified); // the empty history is the saved position
+}
+
+void tst_UndoRedo::clearCountsAsSavedWithNothingToForget()
+{
+    m_host.modified = true; // by another than the history
+    m_undoRedo->clear();
+    QVERIFY(!m_host.modified);
 }
 
 void tst_UndoRedo::worksWithoutAHost()

@@ -1,6 +1,7 @@
 #include "LogCapture.h"
 #include "UndoRedoTest.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 /// Sequences of commands that are one step.
@@ -12,6 +13,8 @@ private Q_SLOTS:
     void aSequenceIsOneStep();
     void sequencesNest();
     void anEmptySequenceLeavesNothingToUndoOrRedo();
+    void anEmptySequenceIsUndoneForTheMarker();
+    void anEmptySequenceInsideAnotherIsACommandOfIt();
     void anEmptySequenceClearsTheRedoSide();
     void anEmptySequenceOnAFullStackStays();
     void endingWhatNeverBeganIsHarmless();
@@ -72,6 +75,35 @@ void tst_UndoSequences::anEmptySequenceLeavesNothingToUndoOrRedo()
     RecordingCommand::journal().clear();
     m_undoRedo->undo();
     QCOMPARE(RecordingCommand::journal(), QStringList{QStringLiteral("undo a")});
+}
+
+void tst_UndoSequences::anEmptySequenceIsUndoneForTheMarker()
+{
+    LogCapture log;
+    m_undoRedo->beginSequence(QStringLiteral("s"));
+    m_undoRedo->endSequence();
+    QStringList lines = log.lines();
+    lines.replaceInStrings(QRegularExpression(QStringLiteral("0x[0-9a-f]+")), QStringLiteral("address"));
+    QCOMPARE(lines, (QStringList{line("beginSequence", 181, QStringLiteral("\"s\" 0")),
+                                 line("endSequence", 199, QStringLiteral("\"s\" 1")),
+                                 line("onIndexChanged", 105, QStringLiteral("1")),
+                                 line("endSequence", 211, QStringLiteral("address childCount 0")),
+                                 line("onIndexChanged", 105, QStringLiteral("0")),
+                                 line("addCommand", 111, QStringLiteral("address false false 0")),
+                                 line("onIndexChanged", 105, QStringLiteral("1")),
+                                 line("onIndexChanged", 105, QStringLiteral("0"))}));
+}
+
+void tst_UndoSequences::anEmptySequenceInsideAnotherIsACommandOfIt()
+{
+    m_undoRedo->beginSequence(QStringLiteral("outer"));
+    m_undoRedo->beginSequence(QStringLiteral("inner"));
+    m_undoRedo->endSequence();
+    m_undoRedo->endSequence();
+    QVERIFY(m_undoRedo->canUndo()); // the outer one holds something, if only the inner one
+    m_undoRedo->undo();
+    QVERIFY(!m_undoRedo->canUndo());
+    QVERIFY(m_undoRedo->canRedo());
 }
 
 void tst_UndoSequences::anEmptySequenceClearsTheRedoSide()

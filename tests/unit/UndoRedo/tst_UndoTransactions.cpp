@@ -15,6 +15,8 @@ private Q_SLOTS:
     void anotherNameIsAnotherStep();
     void theNamelessTransactionHasTheEmptyName();
     void theVeryFirstTransactionMayMergeWhenItHasNoName();
+    void aSequenceIsATransactionToGoOnWith();
+    void anotherNameWithoutItsEndKeepsTheNextApart();
     void setUnmergeableKeepsTheNextTransactionApart();
     void theFirstCommandIsPushedAndTheNextMerges();
     void aFailedMergeIsTakenBackAndPushed();
@@ -104,6 +106,34 @@ void tst_UndoTransactions::theVeryFirstTransactionMayMergeWhenItHasNoName()
     m_undoRedo->endSingle();
     m_undoRedo->undo();
     QVERIFY(!m_undoRedo->canUndo());
+}
+
+void tst_UndoTransactions::aSequenceIsATransactionToGoOnWith()
+{
+    single(QStringLiteral("a"), 1);
+    m_now = m_now.addSecs(5);
+    m_undoRedo->beginSequence(QStringLiteral("a"));
+    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->endSequence();
+    m_now = m_now.addMSecs(999); // since the sequence began
+    single(QStringLiteral("a"), 3);
+    m_undoRedo->undo();
+    RecordingCommand::journal().clear();
+    m_undoRedo->undo();
+    QCOMPARE(RecordingCommand::journal(), QStringList{QStringLiteral("undo a=1")});
+    QVERIFY(!m_undoRedo->canUndo());
+}
+
+void tst_UndoTransactions::anotherNameWithoutItsEndKeepsTheNextApart()
+{
+    single(QStringLiteral("a"), 1);
+    m_undoRedo->beginSingle(QStringLiteral("b"));
+    m_undoRedo->beginSingle(QStringLiteral("a"));
+    QVERIFY(!m_undoRedo->mergeable());
+    m_undoRedo->endSingle();
+    m_undoRedo->beginSingle(QStringLiteral("a"));
+    QVERIFY(m_undoRedo->mergeable());
+    m_undoRedo->endSingle();
 }
 
 void tst_UndoTransactions::setUnmergeableKeepsTheNextTransactionApart()
