@@ -21,6 +21,14 @@ const char *const kItems =
     R"([{"id":1,"name":"a","folder":true,"children":[{"id":2,"name":"b"},{"id":3,"name":"c"}]},
                               {"id":4,"name":"d"}])";
 
+/// The same change under another id.
+class OtherId final : public ModifyTutorialItemDataCommand
+{
+public:
+    using ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand;
+    [[nodiscard]] int id() const override { return 7; }
+};
+
 } // namespace
 
 class tst_DocumentCommands : public QObject
@@ -31,8 +39,10 @@ private Q_SLOTS:
     void insertGoesWhereTheParentSays_data();
     void insertGoesWhereTheParentSays();
     void insertWithoutItsParentIsLogged();
+    void anItemBelowZeroTakesChildrenLikeAFolder();
     void anInsertedNodeIsNoFolder();
     void insertTellsItsNoteFromTheSecondRedoOn();
+    void insertWithoutANoteLeavesTheOneThatIsThere();
     void theCommandOwnsTheItemWhileItIsOut();
     void anItemThatTheDocumentStillHoldsIsNotDeleted();
     void theTextsNameWhatTheyDo();
@@ -42,9 +52,12 @@ private Q_SLOTS:
     void modifyReachesTheFieldsOfItsTable();
     void modifyOfAMissingItemChangesNothing();
     void modifyTellsItsNoteFromTheSecondRedoOn();
+    void modifyWithoutANoteLeavesTheOneThatIsThere();
+    void undoGivesBackWhatTheLastRedoFound();
     void modifyWithEqualPropertiesMergesWhateverTheItem();
     void otherPropertiesAreClonedAndReplayed();
     void mergeSameNeedsTheHistory();
+    void mergeSameNeedsTheSameId();
     void aCloneIsEqual();
 };
 
@@ -99,6 +112,18 @@ void tst_DocumentCommands::insertWithoutItsParentIsLogged()
     fixture.undoRedo().undo();
 }
 
+void tst_DocumentCommands::anItemBelowZeroTakesChildrenLikeAFolder()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":-5,\"name\":\"a\"},{\"id\":4,\"name\":\"b\"}]"), QStringList());
+    auto *data = new TutorialItemData;
+    data->setId(9);
+    insertTreeItem(-5, -1, 9, data, QString(), {});
+    QCOMPARE(fixture.shape(), QStringLiteral("-5[9] 4"));
+    fixture.undoRedo().undo();
+    QCOMPARE(fixture.shape(), QStringLiteral("-5 4"));
+}
+
 void tst_DocumentCommands::anInsertedNodeIsNoFolder()
 {
     DocumentFixture fixture;
@@ -121,6 +146,18 @@ void tst_DocumentCommands::insertTellsItsNoteFromTheSecondRedoOn()
     QCOMPARE(fixture.host.notes, QStringList{QStringLiteral("note")});
     fixture.undoRedo().redo();
     QCOMPARE(fixture.host.notes.size(), 2);
+    fixture.undoRedo().undo();
+}
+
+void tst_DocumentCommands::insertWithoutANoteLeavesTheOneThatIsThere()
+{
+    DocumentFixture fixture;
+    auto *data = new TutorialItemData;
+    data->setId(9);
+    insertTreeItem(-1, -1, 9, data, QString(), {});
+    fixture.undoRedo().undo();
+    fixture.undoRedo().redo();
+    QVERIFY(fixture.host.notes.isEmpty());
     fixture.undoRedo().undo();
 }
 
@@ -273,6 +310,30 @@ void tst_DocumentCommands::modifyTellsItsNoteFromTheSecondRedoOn()
     QCOMPARE(fixture.host.notes.size(), 2);
 }
 
+void tst_DocumentCommands::modifyWithoutANoteLeavesTheOneThatIsThere()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"a\"}]"), QStringList());
+    fixture.undoRedo().addCommand(new ModifyTutorialItemDataCommand(1, target("x"), 5, QString()));
+    fixture.undoRedo().undo();
+    fixture.undoRedo().redo();
+    QVERIFY(fixture.host.notes.isEmpty());
+}
+
+void tst_DocumentCommands::undoGivesBackWhatTheLastRedoFound()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"x\":1,\"name\":\"a\"}]"), QStringList());
+    fixture.undoRedo().addCommand(new ModifyTutorialItemDataCommand(1, target("x"), 5, QString()));
+    fixture.undoRedo().undo();
+    QCOMPARE(fixture.item(1)->x, 1);
+    fixture.item(1)->x = 7;
+    fixture.undoRedo().redo();
+    QCOMPARE(fixture.item(1)->x, 5);
+    fixture.undoRedo().undo();
+    QCOMPARE(fixture.item(1)->x, 7);
+}
+
 void tst_DocumentCommands::modifyWithEqualPropertiesMergesWhateverTheItem()
 {
     DocumentFixture fixture;
@@ -328,6 +389,19 @@ void tst_DocumentCommands::mergeSameNeedsTheHistory()
     UndoRedo::publish(nullptr);
     QVERIFY(!command.mergeSame(same));
     QCOMPARE(fixture.item(1)->x, 1);
+}
+
+void tst_DocumentCommands::mergeSameNeedsTheSameId()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"x\":1,\"name\":\"a\"}]"), QStringList());
+    fixture.undoRedo().addCommand(new ModifyTutorialItemDataCommand(1, target("y"), 0, QString()));
+    QVERIFY(fixture.undoRedo().mergeable());
+    ModifyTutorialItemDataCommand command(1, target("x"), 10, QString());
+    QVERIFY(!command.mergeSame(OtherId(1, target("x"), 20, QString())));
+    QCOMPARE(fixture.item(1)->x, 1);
+    QVERIFY(command.mergeSame(ModifyTutorialItemDataCommand(1, target("x"), 20, QString())));
+    QCOMPARE(fixture.item(1)->x, 20);
 }
 
 void tst_DocumentCommands::aCloneIsEqual()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void anUnknownIdCopiesNothing();
     void noIdsGiveTheEmptyList();
     void pastingTwiceGivesNewNumbersAndNames();
+    void textsOfAllLanguagesComeThrough();
     void pastesFromAnotherDocument();
     void pastesAFolderIntoAnotherDocument();
     void pasteInASequenceIsOneStep();
@@ -102,6 +103,21 @@ void tst_ItemClipboard::pastingTwiceGivesNewNumbersAndNames()
     QCOMPARE(fixture.item(1)->name, QStringLiteral("Intro"));
 }
 
+void tst_ItemClipboard::textsOfAllLanguagesComeThrough()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load("[{\"id\":1,\"name\":\"é日本😀\",\"hint\":\"\\\"%1\\\" \\\\ 选择\\n<b>\"}]"),
+             QStringList());
+    const QString hint = fixture.item(1)->hint;
+    QCOMPARE(hint, QStringLiteral("\"%1\" \\ 选择\n<b>"));
+    const auto payload = ItemClipboard::copy(fixture.tree(), {1});
+    QVERIFY(payload);
+    QVERIFY(payload->contains("\"name\":\"\xC3\xA9\xE6\x97\xA5\xE6\x9C\xAC\xF0\x9F\x98\x80\""));
+    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>{2});
+    QCOMPARE(fixture.item(2)->name, QStringLiteral("é日本😀(1)"));
+    QCOMPARE(fixture.item(2)->hint, hint);
+}
+
 void tst_ItemClipboard::pastesFromAnotherDocument()
 {
     DocumentFixture fixture;
@@ -167,8 +183,14 @@ void tst_ItemClipboard::nothingIsPastedFromNoList()
     QFETCH(QByteArray, payload);
     DocumentFixture fixture;
     QCOMPARE(fixture.load(kItems), QStringList());
+    LogCapture log;
     QCOMPARE(ItemClipboard::paste(payload, fixture.tree(), fixture.texts), QList<int>());
     QCOMPARE(fixture.ids(), QStringLiteral("1 2 3 4"));
+    QVERIFY(log.lines().constFirst().startsWith(QLatin1String(kManager) +
+                                                QStringLiteral("pasteTutorialItemList 1621")));
+    QVERIFY(!log.contains(QStringLiteral("pasteTutorialItemList 1649")));
+    // What is empty is not even read; only broken text is complained of.
+    QCOMPARE(log.warnings().isEmpty(), payload.isEmpty() || payload.startsWith('{'));
 }
 
 void tst_ItemClipboard::elementsThatCannotBeReadAreLeftOut()
