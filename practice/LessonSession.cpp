@@ -12,6 +12,7 @@ constexpr QChar kFieldSeparator(1);
 constexpr int kFlagNext = 1;
 constexpr int kFlagYesNo = 2;
 constexpr int kFlagArrow = 4;
+constexpr QPoint kBubbleToTip(38, 150);
 
 int flagsOf(const ScenarioStep &step)
 {
@@ -164,6 +165,7 @@ void LessonSession::begin(const QString &scenarioText, int id)
     Q_EMIT sends({QStringLiteral("start"), number(screen.x()), number(screen.y()), number(screen.width()),
                   number(screen.height())});
     sendWindows();
+    sendFirstPlace();
     Q_EMIT started();
     m_runner.start(scenario, id);
 }
@@ -270,6 +272,17 @@ void LessonSession::sendWindows()
     }
     m_applicationSize = QSize();
     sendApplicationSize();
+}
+
+void LessonSession::sendFirstPlace()
+{
+    const QStringList keys = m_windows->openWindows();
+    if (!keys.isEmpty()) {
+        const QRect contents(m_windows->origin(keys.constFirst()), m_windows->applicationSize());
+        const QPoint place = contents.center() - kBubbleToTip;
+        Q_EMIT sends(
+            {QStringLiteral("indicator"), QStringLiteral("updateXy"), number(place.x()), number(place.y())});
+    }
 }
 
 void LessonSession::sendApplicationSize()

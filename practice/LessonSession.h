@@ -81,6 +81,9 @@ private:
     void sendPush(const QString &windowKey);
     void sendPop();
     void sendWindows();
+    /// A step without a position leaves the bubble where it is, and before the first it is in the screen's
+    /// corner: the middle of the main window is where a person looks.
+    void sendFirstPlace();
     void sendApplicationSize();
     void sendStep();
 
