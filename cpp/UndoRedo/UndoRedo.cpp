@@ -11,6 +11,7 @@
 #include <QKeySequence>
 #include <QUndoStack>
 
+#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -65,6 +66,13 @@ UndoRedo *UndoRedo::instance()
 void UndoRedo::publish(UndoRedo *undoRedo)
 {
     theInstance = undoRedo;
+    // The process ends through exit(), which destroys no object of main: the folder would stay behind.
+    static const int removesFolder = std::atexit([] {
+        if (theInstance != nullptr) {
+            theInstance->m_temporaryDir.remove();
+        }
+    });
+    Q_UNUSED(removesFolder)
 }
 
 void UndoRedo::setHost(UndoHost *host)

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -20,6 +21,7 @@ class tst_Process : public QObject
 private Q_SLOTS:
     void ends_with_status_0_when_the_link_goes_down();
     void ends_without_a_message_about_destroyed_objects();
+    void leaves_no_temporary_folder_behind();
     void lives_on_when_nobody_reads_its_log();
     void registers_its_bundles_before_main();
     void builds_its_objects_in_order();
@@ -68,6 +70,19 @@ void tst_Process::ends_without_a_message_about_destroyed_objects()
     QCOMPARE(host.process().exitCode(), 0);
     const QString end = host.log().section(QStringLiteral("TutorialManager::requestClose 1535"), 1);
     QCOMPARE(end.trimmed(), QString());
+}
+
+void tst_Process::leaves_no_temporary_folder_behind()
+{
+    FakeHost host;
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const QRegularExpression line(QStringLiteral("UndoRedo::UndoRedo 34 \"Tutorial\" \"([^\"]+)\""));
+    const QString folder = line.match(host.log()).captured(1);
+    QVERIFY2(QDir(folder).isAbsolute() && QDir(folder).exists(), qPrintable(folder));
+    host.disconnectLink();
+    QVERIFY(host.waitForEnd());
+    QVERIFY(!QDir(folder).exists());
 }
 
 void tst_Process::lives_on_when_nobody_reads_its_log()
