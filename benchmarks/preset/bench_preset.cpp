@@ -1,8 +1,7 @@
-// The whole answer to a request for a lesson's data files, at most kBound times its floor. For a large
-// project the floor is to read the finished files, to parse them and to write them with QJsonDocument. The
-// sample project that the program ships is small, and its chain has sixteen times as many files as its last
-// step, so its floor is to read the files of the chain and to parse and write the final texts; the ratio to
-// the other floor is printed without a bound. And the growth with the number of steps and of bytes, which
+// The whole answer to a request for a lesson's data files, at most kBound times its floor: to read the files
+// of the chain, and to parse and write the final texts with QJsonDocument. Once for the sample project that
+// the program ships, which is small and has a chain of many files, once for a large project. The ratio to the
+// final texts alone is printed without a bound. And the growth with the number of steps and of bytes, which
 // must be linear: twice as much takes at most kDoubleWithin times as long.
 
 #include <algorithm>
@@ -207,8 +206,17 @@ public:
 
     [[nodiscard]] qint64 bytes() const { return m_bytes; }
 
-    /// Seconds for the whole answer, the best of some runs.
-    [[nodiscard]] double answer(const SampleTable &table, const TranslateText &translate) const
+    /// What one answer takes, and what the parts of its floor take, in seconds.
+    struct Times
+    {
+        double answer = std::numeric_limits<double>::max();
+        double reading = std::numeric_limits<double>::max();
+        double writing = std::numeric_limits<double>::max();
+    };
+
+    /// The best of some rounds. In each all three take their turn, so that a machine that slows down slows
+    /// all.
+    [[nodiscard]] Times measure(const SampleTable &table, const TranslateText &translate) const
     {
         const QString whole = presetDataReply(m_last, m_program, table, translate);
         for (const QString &name : m_files) {
@@ -216,58 +224,45 @@ public:
                 qFatal("the answer lacks %s", qPrintable(name));
             }
         }
-        return best([&] {
-            if (presetDataReply(m_last, m_program, table, translate).size() != whole.size()) {
-                qFatal("the answer is not whole");
-            }
-        });
-    }
-
-    /// Seconds to open and read every patch of the chain, the best of some runs.
-    [[nodiscard]] double reading() const
-    {
-        return best([this] {
-            QDirIterator patches(m_program + QStringLiteral("/resource/patch"), QDir::Files,
-                                 QDirIterator::Subdirectories);
-            qint64 bytes = 0;
-            while (patches.hasNext()) {
-                QFile patch(patches.next());
-                if (!patch.open(QIODevice::ReadOnly)) {
-                    qFatal("cannot read %s", qPrintable(patch.fileName()));
-                }
-                bytes += patch.readAll().size();
-            }
-            if (bytes == 0) {
-                qFatal("no patches in %s", qPrintable(m_program));
-            }
-        });
-    }
-
-    /// Seconds to parse the finished files' texts, which are in memory, and to write them, the best of some
-    /// runs.
-    [[nodiscard]] double writing() const
-    {
         const QList<QByteArray> texts = readFinished();
-        return best([&] { write(texts); });
-    }
-
-    /// Seconds to read, parse and write the finished files, the best of some runs.
-    [[nodiscard]] double floor() const
-    {
-        return best([this] { write(readFinished()); });
+        Times times;
+        for (int round = 0; round < 25; ++round) {
+            takeTurn(times.answer, [&] {
+                if (presetDataReply(m_last, m_program, table, translate).size() != whole.size()) {
+                    qFatal("the answer is not whole");
+                }
+            });
+            takeTurn(times.reading, [this] { readChain(); });
+            takeTurn(times.writing, [this, &texts] { write(texts); });
+        }
+        return times;
     }
 
 private:
     template<typename Work>
-    static double best(const Work &work)
+    static void takeTurn(double &best, const Work &work)
     {
-        double seconds = std::numeric_limits<double>::max();
-        for (int run = 0; run < 25; ++run) {
-            const std::clock_t begin = std::clock();
-            work();
-            seconds = std::min(seconds, cpuSeconds(begin));
+        const std::clock_t begin = std::clock();
+        work();
+        best = std::min(best, cpuSeconds(begin));
+    }
+
+    /// Opens and reads every patch of the chain.
+    void readChain() const
+    {
+        QDirIterator patches(m_program + QStringLiteral("/resource/patch"), QDir::Files,
+                             QDirIterator::Subdirectories);
+        qint64 bytes = 0;
+        while (patches.hasNext()) {
+            QFile patch(patches.next());
+            if (!patch.open(QIODevice::ReadOnly)) {
+                qFatal("cannot read %s", qPrintable(patch.fileName()));
+            }
+            bytes += patch.readAll().size();
         }
-        return seconds;
+        if (bytes == 0) {
+            qFatal("no patches in %s", qPrintable(m_program));
+        }
     }
 
     [[nodiscard]] QList<QByteArray> readFinished() const
@@ -322,6 +317,17 @@ bool within(const char *what, double value, double bound)
     return value <= bound;
 }
 
+bool holdToFloor(const char *what, const Chain &chain, const Chain::Times &times)
+{
+    std::printf("%s, %lld bytes: answer %.2f ms, reading the chain %.2f ms, the final texts %.2f ms\n", what,
+                static_cast<long long>(chain.bytes()), times.answer * 1000, times.reading * 1000,
+                times.writing * 1000);
+    const bool good =
+        within("answer to reading and final texts", times.answer / (times.reading + times.writing), kBound);
+    std::printf("%-46s %.2f, no bound\n", "answer to final texts alone", times.answer / times.writing);
+    return good;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -335,33 +341,18 @@ int main(int argc, char *argv[])
         return texts.sampleText(context, text);
     };
 
-    bool good = loaded;
     const Chain sample(QStringLiteral(PROGRAM_DIR), QStringLiteral(SAMPLE_DATA_DIR),
                        QStringLiteral("step19"));
-    const double sampleAnswer = sample.answer(table, translate);
-    const double sampleReading = sample.reading();
-    const double sampleTexts = sample.writing();
-    std::printf(
-        "sample project, step19, %lld bytes: answer %.2f ms, reading the chain %.2f ms, the final texts "
-        "%.2f ms\n",
-        static_cast<long long>(sample.bytes()), sampleAnswer * 1000, sampleReading * 1000,
-        sampleTexts * 1000);
-    good =
-        within("answer to reading and final texts", sampleAnswer / (sampleReading + sampleTexts), kBound) &&
-        good;
-    std::printf("%-46s %.2f, no bound\n", "answer to final texts alone", sampleAnswer / sampleTexts);
+    bool good = holdToFloor("sample project, step19", sample, sample.measure(table, translate)) && loaded;
 
     const Chain chain(makeProject(4), 19);
-    const double answer = chain.answer(table, translate);
-    const double floor = chain.floor();
-    std::printf("large project, 19 steps, %lld bytes: answer %.1f ms, floor %.1f ms\n",
-                static_cast<long long>(chain.bytes()), answer * 1000, floor * 1000);
-    good = within("answer to floor", answer / floor, kBound) && good;
+    const Chain::Times large = chain.measure(table, translate);
+    good = holdToFloor("large project, 19 steps", chain, large) && good;
 
-    const double fewSteps = Chain(makeProject(4), 40).answer(table, translate);
-    const double manySteps = Chain(makeProject(4), 80).answer(table, translate);
+    const double fewSteps = Chain(makeProject(4), 40).measure(table, translate).answer;
+    const double manySteps = Chain(makeProject(4), 80).measure(table, translate).answer;
     good = within("twice the steps", manySteps / fewSteps, kDoubleWithin) && good;
-    const double manyBytes = Chain(makeProject(8), 19).answer(table, translate);
-    good = within("twice the bytes", manyBytes / answer, kDoubleWithin) && good;
+    const double manyBytes = Chain(makeProject(8), 19).measure(table, translate).answer;
+    good = within("twice the bytes", manyBytes / large.answer, kDoubleWithin) && good;
     return good ? 0 : 1;
 }
