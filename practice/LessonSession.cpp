@@ -12,7 +12,6 @@ constexpr QChar kFieldSeparator(1);
 constexpr int kFlagNext = 1;
 constexpr int kFlagYesNo = 2;
 constexpr int kFlagArrow = 4;
-constexpr QPoint kBubbleToTip(38, 150);
 
 int flagsOf(const ScenarioStep &step)
 {
@@ -279,7 +278,7 @@ void LessonSession::sendFirstPlace()
     const QStringList keys = m_windows->openWindows();
     if (!keys.isEmpty()) {
         const QRect contents(m_windows->origin(keys.constFirst()), m_windows->applicationSize());
-        const QPoint place = contents.center() - kBubbleToTip;
+        const QPoint place = contents.center() - ScenarioStep::kTip;
         Q_EMIT sends(
             {QStringLiteral("indicator"), QStringLiteral("updateXy"), number(place.x()), number(place.y())});
     }

@@ -28,7 +28,8 @@ class StringPatch
 public:
     StringPatch() = delete;
 
-    /// Makes @p result from @p base and @p patch. Bytes that no operation writes are zero.
+    /// Makes @p result from @p base and @p patch. The base is read in place, wherever it lies (a mapped file,
+    /// or @p result itself), and is not needed afterwards. Bytes that no operation writes are zero.
     ///
     /// False, with a warning and @p result as it was, on a tag that is not in the table, or when there is no
     /// memory for the result. A corrupt patch is otherwise not an error, and harmless: an operation that the

@@ -1,9 +1,10 @@
 #include "pilot/Placement.h"
 
+#include "runner/Scenario.h"
+
 namespace {
 
-// From the top left corner of an upright, unmirrored bubble to the tip of its arrow.
-constexpr QPoint kTip(38, 150);
+// From a bubble that is mirrored or turned over to where it would stand upright and unmirrored.
 constexpr int kMirroredLeft = 308;
 constexpr int kUpsideDownBelow = 165;
 
@@ -20,7 +21,7 @@ std::optional<QPoint> arrowSpot(const QPoint &bubble, const QPoint &target)
         for (const int below : {0, kUpsideDownBelow}) {
             const QPoint upright = bubble + QPoint(left, -below);
             if (isClose(upright, target)) {
-                return upright + kTip;
+                return upright + ScenarioStep::kTip;
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include "runner/Condition.h"
 
+#include <QPoint>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -10,6 +11,8 @@
 struct ScenarioStep
 {
     static constexpr int kNoPosition = -9999;
+    /// Where the tip of the arrow lies, from the top left corner of the bubble's window, in pixels.
+    static constexpr QPoint kTip{38, 150};
     static constexpr int kNoJump = -1;
 
     int id = 0;
