@@ -28,6 +28,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_windows(std::move(windows))
     , m_session(m_windows.get())
     , m_panel(options.locale)
+    , m_lessonProject(options.locale)
     , m_link(options.companionProgram, options.key, options.locale)
 {
     if (options.lesson > 0) {

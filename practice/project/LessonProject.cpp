@@ -1,16 +1,25 @@
 #include "project/LessonProject.h"
 
+#include "LocaleText.h"
+
 #include <utility>
 
-LessonProject::LessonProject(QObject *parent)
+LessonProject::LessonProject(const QString &locale, QObject *parent)
     : QObject(parent)
+    , m_store(locale)
 {
     m_filesMissing.setSingleShot(true);
     m_filesMissing.setInterval(kFilesMs);
-    connect(&m_filesMissing, &QTimer::timeout, this, [this] {
-        Q_EMIT failed(QStringLiteral("The data files of the lesson have not come, so \"%1\" is without them. "
-                                     "Start the lesson again.")
-                          .arg(m_place->name));
+    connect(&m_filesMissing, &QTimer::timeout, this, [this, locale] {
+        Q_EMIT failed(
+            localeText(
+                locale,
+                QStringLiteral("The data files of the lesson have not come, so \"%1\" is without them. "
+                               "Start the lesson again."),
+                QStringLiteral("レッスンのデータファイルが届いていないため、「%1」には入っていません。"
+                               "レッスンを最初から始めてください。"),
+                QStringLiteral("课程的数据文件没有送达，所以“%1”里没有这些文件。请重新开始课程。"))
+                .arg(m_place->name));
     });
 }
 

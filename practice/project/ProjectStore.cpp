@@ -1,9 +1,13 @@
 #include "project/ProjectStore.h"
 
+#include "LocaleText.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <utility>
 
 namespace {
 
@@ -20,34 +24,37 @@ bool isTaken(const QString &path)
     return info.exists() || info.isSymLink(); // a link to nowhere is there too
 }
 
-bool write(const QString &path, const QString &text, QString *error)
-{
-    QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-        file.write(bytes) == bytes.size() && file.flush()) {
-        return true;
-    }
-    *error = QStringLiteral("The project's file \"%1\" cannot be written: %2").arg(path, file.errorString());
-    return false;
-}
-
 } // namespace
+
+ProjectStore::ProjectStore(QString locale, QObject *parent)
+    : QObject(parent)
+    , m_locale(std::move(locale))
+{
+}
 
 bool ProjectStore::create(const QString &location, const QString &name, const QMap<QString, QString> &files,
                           QString *error)
 {
     if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
-        *error =
-            QStringLiteral("A project cannot have the name \"%1\": its folder is named after it. Choose a "
-                           "name without \"/\".")
-                .arg(name);
+        *error = localeText(m_locale,
+                            QStringLiteral("A project cannot have the name \"%1\": its folder is named "
+                                           "after it. Choose another name, without \"/\"."),
+                            QStringLiteral("プロジェクトの名前を「%1」にはできません。フォルダーの名前にも"
+                                           "なるためです。「/」を含まない別の名前にしてください。"),
+                            QStringLiteral("项目不能叫“%1”，因为项目文件夹也用这个名称。请换一个不含“/”的"
+                                           "名称。"))
+                     .arg(name);
         return false;
     }
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (!staysInside(file.key())) {
             *error =
-                QStringLiteral("The project cannot hold the file \"%1\": it would lie outside of the folder.")
+                localeText(m_locale,
+                           QStringLiteral("The project cannot hold the file \"%1\": it would lie outside of "
+                                          "the project's folder."),
+                           QStringLiteral("ファイル「%1」はプロジェクトのフォルダーの外になるため、"
+                                          "プロジェクトに入れられません。"),
+                           QStringLiteral("项目不能包含文件“%1”，因为它会位于项目文件夹之外。"))
                     .arg(file.key());
             return false;
         }
@@ -56,7 +63,12 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
     QDir().mkpath(location);
     QTemporaryDir room(QDir(location).filePath(QStringLiteral(".new-XXXXXX")));
     if (!room.isValid()) {
-        *error = QStringLiteral("The project's folder cannot be made in \"%1\": %2")
+        *error = localeText(m_locale,
+                            QStringLiteral("The project's folder cannot be made in \"%1\" (%2). Choose "
+                                           "another place."),
+                            QStringLiteral("「%1」にプロジェクトのフォルダーを作れません（%2）。別の場所を"
+                                           "選んでください。"),
+                            QStringLiteral("无法在“%1”里建立项目文件夹（%2）。请换一个位置。"))
                      .arg(location, room.errorString());
         return false;
     }
@@ -73,12 +85,34 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
         path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
     }
     if (!QDir().rename(made, path)) {
-        *error = QStringLiteral("The project's folder \"%1\" cannot be made.").arg(path);
+        *error =
+            localeText(
+                m_locale,
+                QStringLiteral("The project's folder \"%1\" cannot be made. Choose another name or place."),
+                QStringLiteral(
+                    "プロジェクトのフォルダー「%1」を作れません。別の名前か場所を選んでください。"),
+                QStringLiteral("无法建立项目文件夹“%1”。请换一个名称或位置。"))
+                .arg(path);
         return false;
     }
     m_path = path;
     Q_EMIT changed();
     return true;
+}
+
+bool ProjectStore::write(const QString &path, const QString &text, QString *error) const
+{
+    QFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+        file.write(bytes) == bytes.size() && file.flush()) {
+        return true;
+    }
+    *error = localeText(m_locale, QStringLiteral("The project's file \"%1\" cannot be written (%2)."),
+                        QStringLiteral("プロジェクトのファイル「%1」に書き込めません（%2）。"),
+                        QStringLiteral("无法写入项目文件“%1”（%2）。"))
+                 .arg(path, file.errorString());
+    return false;
 }
 
 QJsonDocument ProjectStore::file(const QString &name) const

@@ -77,7 +77,7 @@ void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     windows->setProjectsFolder(room.path());
     EditorProject *const project = windows->project();
     LessonSession session(windows.get());
-    LessonProject lessonProject;
+    LessonProject lessonProject(locale);
     HostLink link(QStringLiteral(TUTORIAL_PROGRAM), QString(), locale);
     connect(&session, &LessonSession::sends, &link, &HostLink::send);
     connect(&link, &HostLink::received, &session, &LessonSession::receive);

@@ -14,6 +14,7 @@ namespace {
 using Files = QMap<QString, QString>;
 
 const QString kName = QStringLiteral("Quest");
+const QString kLocale = QStringLiteral("ja_JP");
 
 /// The data files of the sample project at a step, with texts of their own.
 Files sampleFiles()
@@ -95,7 +96,7 @@ void TestLessonProject::aReplyBecomesTheFolderAndTheLists()
     EditorProject *project = windows->project();
     QCOMPARE(project->field(QStringLiteral("newProject.location")).toString(), room.path());
     LessonSession session(windows.get());
-    LessonProject lessonProject;
+    LessonProject lessonProject(kLocale);
     connect(&session, &LessonSession::filesReceived, &lessonProject, &LessonProject::takeFiles);
     connect(windows.get(), &EditorWindows::projectCreated, &lessonProject, &LessonProject::takePlace);
     connect(&lessonProject, &LessonProject::made, windows.get(),
@@ -135,7 +136,7 @@ void TestLessonProject::writesOnceBothHalvesAreThere()
 {
     QFETCH(bool, filesFirst);
     const QTemporaryDir room;
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     if (filesFirst) {
@@ -170,7 +171,7 @@ void TestLessonProject::leavesAnExistingFolderAlone()
     file.write(own.toUtf8());
     file.close();
 
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     project.takeFiles(m_files);
@@ -184,7 +185,7 @@ void TestLessonProject::leavesAnExistingFolderAlone()
 void TestLessonProject::ignoresWhatNoLessonWaitsFor()
 {
     const QTemporaryDir room;
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     project.takePlace(room.path(), kName);
     project.takeFiles(m_files);
@@ -199,7 +200,7 @@ void TestLessonProject::ignoresWhatNoLessonWaitsFor()
 void TestLessonProject::dropsWhatAnEarlierLessonLeft()
 {
     const QTemporaryDir room;
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     project.takePlace(room.path(), QStringLiteral("Early"));
@@ -216,7 +217,7 @@ void TestLessonProject::saysWhyThereIsNoFolder()
     const QTemporaryDir room;
     QFile inTheWay(room.filePath(QStringLiteral("file")));
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();
@@ -230,7 +231,7 @@ void TestLessonProject::saysWhyThereIsNoFolder()
 void TestLessonProject::waitsForAnotherPlaceAfterAFailure()
 {
     const QTemporaryDir room;
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();
@@ -246,13 +247,15 @@ void TestLessonProject::waitsForAnotherPlaceAfterAFailure()
 void TestLessonProject::saysWhenTheFilesDoNotCome()
 {
     const QTemporaryDir room;
-    LessonProject project;
+    LessonProject project(kLocale);
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();
     project.takePlace(room.path(), kName);
     QVERIFY(failed.wait(LessonProject::kFilesMs + 3000));
-    QVERIFY(failed.constFirst().constFirst().toString().contains(kName));
+    const QString error = failed.constFirst().constFirst().toString();
+    QVERIFY2(error.startsWith(QStringLiteral("レッスンのデータファイルが届いていないため、「Quest」")),
+             qPrintable(error));
     QVERIFY(made.isEmpty());
     // Late, and not too late.
     project.takeFiles(m_files);

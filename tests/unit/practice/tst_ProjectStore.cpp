@@ -9,6 +9,12 @@
 
 #include <sys/stat.h>
 
+namespace {
+
+const QString kLocale = QStringLiteral("en_US");
+
+} // namespace
+
 class TestProjectStore : public QObject
 {
     Q_OBJECT
@@ -21,6 +27,8 @@ private Q_SLOTS:
     void saysWhereNothingCanBeWritten();
     void refusesNamesThatAreNoFolder_data();
     void refusesNamesThatAreNoFolder();
+    void refusesInTheLanguageOfThePerson_data();
+    void refusesInTheLanguageOfThePerson();
     void refusesPathsThatLeadOut_data();
     void refusesPathsThatLeadOut();
     void leavesNothingBehindWhenAFileCannotBeWritten();
@@ -30,7 +38,7 @@ private Q_SLOTS:
 void TestProjectStore::writesTheFilesIntoANewFolder()
 {
     const QTemporaryDir room;
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
     QVERIFY2(store.create(room.filePath(QStringLiteral("made/for/it")), QStringLiteral("Harbour"),
@@ -50,7 +58,7 @@ void TestProjectStore::givesTheFolderTheUsualPermissions()
 {
     const QTemporaryDir room;
     QVERIFY(QDir(room.path()).mkdir(QStringLiteral("usual")));
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     QVERIFY(
         store.create(room.path(), QStringLiteral("P"), {{QStringLiteral("data/a.json"), QString()}}, &error));
@@ -64,7 +72,7 @@ void TestProjectStore::givesTheFolderTheUsualPermissions()
 void TestProjectStore::touchesNothingThatIsThere()
 {
     const QTemporaryDir room;
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     const QMap<QString, QString> first = {{QStringLiteral("a.json"), QStringLiteral("[1]")}};
     QVERIFY(store.create(room.path(), QStringLiteral("P"), first, &error));
@@ -81,7 +89,7 @@ void TestProjectStore::passesOverALinkToNowhere()
 {
     const QTemporaryDir room;
     QVERIFY(QFile::link(QStringLiteral("nowhere"), room.filePath(QStringLiteral("P"))));
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     QVERIFY2(store.create(room.path(), QStringLiteral("P"),
                           {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error),
@@ -94,14 +102,14 @@ void TestProjectStore::saysWhereNothingCanBeWritten()
 {
     const QTemporaryDir room;
     QCOMPARE(chmod(qPrintable(room.path()), 0555), 0);
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     {
         const Unprivileged nobody;
         QVERIFY(
             !store.create(room.path(), QStringLiteral("P"), {{QStringLiteral("a.json"), QString()}}, &error));
     }
-    QVERIFY2(error.contains(room.path()) && error.endsWith(QStringLiteral("Permission denied")),
+    QVERIFY2(error.contains(room.path()) && error.contains(QStringLiteral("Permission denied")),
              qPrintable(error));
     QVERIFY(store.path().isEmpty());
     QVERIFY(QDir(room.path()).isEmpty());
@@ -120,12 +128,30 @@ void TestProjectStore::refusesNamesThatAreNoFolder()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     QVERIFY(!store.create(room.path(), name, {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error));
     QVERIFY(error.contains(QStringLiteral("name")));
     QVERIFY(store.path().isEmpty());
     QVERIFY(QDir(room.path()).isEmpty());
+}
+
+void TestProjectStore::refusesInTheLanguageOfThePerson_data()
+{
+    QTest::addColumn<QString>("refusal");
+    QTest::newRow("en_US") << QStringLiteral("A project cannot have the name \"a/b\"");
+    QTest::newRow("ja_JP") << QStringLiteral("プロジェクトの名前を「a/b」にはできません。");
+    QTest::newRow("zh_CN") << QStringLiteral("项目不能叫“a/b”");
+}
+
+void TestProjectStore::refusesInTheLanguageOfThePerson()
+{
+    QFETCH(QString, refusal);
+    const QTemporaryDir room;
+    ProjectStore store(QString::fromLatin1(QTest::currentDataTag()));
+    QString error;
+    QVERIFY(!store.create(room.path(), QStringLiteral("a/b"), {}, &error));
+    QVERIFY2(error.startsWith(refusal), qPrintable(error));
 }
 
 void TestProjectStore::refusesPathsThatLeadOut_data()
@@ -140,7 +166,7 @@ void TestProjectStore::refusesPathsThatLeadOut()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QString error;
     QVERIFY(!store.create(room.path(), QStringLiteral("P"), {{name, QStringLiteral("[]")}}, &error));
     QVERIFY(!error.isEmpty());
@@ -151,7 +177,7 @@ void TestProjectStore::refusesPathsThatLeadOut()
 void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 {
     const QTemporaryDir room;
-    ProjectStore store;
+    ProjectStore store(kLocale);
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
     // "a" cannot be a file and a folder.
@@ -166,7 +192,7 @@ void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 
 void TestProjectStore::hasNoFilesBeforeAProjectIsOpen()
 {
-    const ProjectStore store;
+    const ProjectStore store(kLocale);
     QVERIFY(store.file(QStringLiteral("data/Actors.json")).isNull());
 }
 
