@@ -1,0 +1,107 @@
+#pragma once
+
+#include "window/EditorWindowSet.h"
+#include "window/MapView.h"
+#include "window/RowList.h"
+
+#include <QAbstractButton>
+#include <QtTest>
+
+#include <utility>
+
+inline QString str(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+/// A set of windows and everything that it told, one line each and in order.
+class Editor
+{
+public:
+    explicit Editor(const char *locale = "en_US")
+        : m_set(EditorWindowSet::create(str(locale), &m_errors))
+    {
+        if (!m_set)
+            qFatal("%s", qPrintable(m_errors.join(QLatin1Char('\n'))));
+        QObject::connect(
+            m_set.get(), &EditorWindows::happened, m_set.get(), [this](const EditorEvent &event) {
+                told.append(QStringList{event.type, event.target, event.value}.join(QLatin1Char(',')) +
+                            str(" in ") + event.windowKey);
+            });
+        QObject::connect(m_set.get(), &EditorWindows::pushed, m_set.get(),
+                         [this](const QString &key) { told.append(str("push ") + key); });
+        QObject::connect(m_set.get(), &EditorWindows::popped, m_set.get(),
+                         [this](const QString &key) { told.append(str("pop ") + key); });
+        QObject::connect(m_set.get(), &EditorWindows::visibilityChanged, m_set.get(),
+                         [this](bool visible) { told.append(visible ? str("visible") : str("invisible")); });
+        QObject::connect(m_set.get(), &EditorWindows::popupAbandoned, m_set.get(),
+                         [this] { told.append(str("abandoned")); });
+        QObject::connect(m_set.get(), &EditorWindows::mainWindowClosed, m_set.get(),
+                         [this] { told.append(str("main window closed")); });
+    }
+
+    void openProject()
+    {
+        m_set->open(str("MainWindow"));
+        m_set->project()->run(str("newProject.create"));
+        told.clear();
+    }
+
+    EditorWindowSet *operator->() const { return m_set.get(); }
+
+    template<typename Widget>
+    Widget *find(const char *window, const char *name) const
+    {
+        auto *widget = m_set->window(str(window))->findChild<Widget *>(str(name));
+        if (widget == nullptr)
+            qFatal("no %s in %s", name, window);
+        return widget;
+    }
+
+    void click(const char *window, const char *name)
+    {
+        QTest::mouseClick(find<QAbstractButton>(window, name), Qt::LeftButton);
+    }
+
+    void clickRow(const char *window, const char *name, int row, Qt::MouseButton button = Qt::LeftButton)
+    {
+        auto *list = find<RowList>(window, name);
+        QTest::mouseClick(list->viewport(), button, {}, rowCentre(list, row));
+    }
+
+    void doubleClickRow(const char *window, const char *name, int row)
+    {
+        auto *list = find<RowList>(window, name);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, rowCentre(list, row));
+    }
+
+    [[nodiscard]] MapView *map() const
+    {
+        return m_set->window(str("MainWindowClient_mapEditorView"))->findChild<MapView *>();
+    }
+
+    /// What was told since the last call.
+    QStringList takeTold() { return std::exchange(told, {}); }
+
+    QStringList told;
+
+private:
+    static QPoint rowCentre(const RowList *list, int row)
+    {
+        return list->visualItemRect(list->item(row)).center();
+    }
+
+    QStringList m_errors;
+    std::unique_ptr<EditorWindowSet> m_set;
+};
+/// What is told when the window @p key opens.
+inline QStringList opened(const char *key)
+{
+    return {str("push %1").arg(str(key)), str("windowState,%1,open in %1").arg(str(key))};
+}
+
+/// What is told when the window @p key closes.
+inline QStringList closed(const char *key)
+{
+    return {str("pop %1").arg(str(key)), str("windowState,%1,close in %1").arg(str(key))};
+}
