@@ -1,136 +1,11 @@
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "ProgramDirectory.h"
+#include "Unprivileged.h"
 
 #include <fcntl.h>
-#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "LogCapture.h"
-#include "Tutorial/preset/PresetData.h"
-#include "Unprivileged.h"
-#include "tool/JsonWrapper.h"
-
-namespace {
-
-constexpr QChar kFieldSeparator(0x01);
-
-void appendNumber(QByteArray &bytes, quint32 number, int width)
-{
-    for (int i = 0; i < width; ++i) {
-        bytes.append(char(number >> (8 * i) & 0xFF));
-    }
-}
-
-/// The header of a patch to a text of @p size bytes.
-QByteArray header(int size)
-{
-    QByteArray patch;
-    appendNumber(patch, quint32(size), 4);
-    return patch;
-}
-
-/// A patch to @p text that needs no base.
-QByteArray insertPatch(const QByteArray &text)
-{
-    QByteArray patch = header(text.size());
-    for (int i = 0; i < text.size(); i += 65536) {
-        const QByteArray piece = text.mid(i, 65536);
-        patch.append(char(1));
-        appendNumber(patch, quint32(piece.size() - 1), 2);
-        patch.append(piece);
-    }
-    return patch;
-}
-
-/// A patch to the first @p size bytes of the base, up to 65,536.
-QByteArray copyPatch(int size)
-{
-    QByteArray patch = header(size);
-    patch.append(char(254));
-    appendNumber(patch, 0, 2);
-    appendNumber(patch, quint32(size - 1), 2);
-    return patch;
-}
-
-QString translation(const QString &context, const QString &text)
-{
-    return context + QLatin1Char(':') + text;
-}
-
-/// A program directory of its own, with patches in it.
-class ProgramDirectory
-{
-public:
-    explicit ProgramDirectory(const QString &patchRoot = QStringLiteral("resource/patch"))
-        : m_root(m_dir.filePath(patchRoot))
-    {
-    }
-
-    [[nodiscard]] QString path() const { return m_dir.path(); }
-    [[nodiscard]] QString root() const { return m_root; }
-    [[nodiscard]] QString dataPath(const QString &step) const
-    {
-        return m_root + QLatin1Char('/') + step + QStringLiteral("/data");
-    }
-
-    void addStep(const QString &step) const { QVERIFY(QDir().mkpath(dataPath(step))); }
-    void addFile(const QString &step, const QString &name, const QByteArray &bytes) const
-    {
-        addStep(step);
-        QFile file(dataPath(step) + QLatin1Char('/') + name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), qint64(bytes.size()));
-    }
-
-    [[nodiscard]] QString reply(const QString &step) const
-    {
-        return presetDataReply(step, path(), buildSampleTable(), translation);
-    }
-    /// The members of the reply, empty when there is none.
-    [[nodiscard]] QJsonObject replyObject(const QString &step) const
-    {
-        const QString text = reply(step);
-        const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
-        if (!text.startsWith(head)) {
-            return {};
-        }
-        return QJsonDocument::fromJson(text.mid(head.size()).toUtf8()).object();
-    }
-
-private:
-    QTemporaryDir m_dir;
-    QString m_root;
-};
-
-QString source()
-{
-    return QStringLiteral("TutorialManager::onReceived ");
-}
-
-/// The warnings without their source labels.
-QStringList warningTexts(const LogCapture &log)
-{
-    QStringList texts;
-    const QStringList warnings = log.warnings();
-    for (const QString &warning : warnings) {
-        texts.append(warning.section(QLatin1Char(' '), 1));
-    }
-    return texts;
-}
-
-QString step(int number)
-{
-    return QStringLiteral("step%1").arg(number);
-}
-
-} // namespace
-
+/// Which steps and files there are, how their patches are replayed, and what ends a request.
 class tst_PresetData : public QObject
 {
     Q_OBJECT
@@ -144,7 +19,6 @@ private Q_SLOTS:
     void missingStepIsReported();
     void secondRootIsUsedWithoutTheFirst();
     void firstRootHidesTheSecond();
-    void replyIsOneCommand();
     void chainIsReplayedUpToTheStep();
     void fileWithoutAPatchIsGone();
     void fileOfALaterStepStartsFromNothing();
@@ -161,16 +35,6 @@ private Q_SLOTS:
     void plainFileWithTheNameOfAStep();
     void rootMayBeALink();
     void stepWithoutDataForgetsEarlierFiles();
-    void tableKeysAreRegularExpressions();
-    void onlyRowsForLessonsRun();
-    void fileOutsideTheTableIsNotTranslated();
-    void eachRequestUsesItsOwnTable();
-    void textsThatAreNoJson_data();
-    void textsThatAreNoJson();
-    void lackOfMemoryEndsTheRequest();
-    void unwrittenBytesAreAText();
-    void textThatIsNotUtf8IsReplaced();
-    void textIsCompactAndEscaped();
 };
 
 void tst_PresetData::stepsAreSortedByNumber()
@@ -266,22 +130,6 @@ void tst_PresetData::firstRootHidesTheSecond()
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
     QVERIFY(log.contains(QStringLiteral("presetData not found")));
-}
-
-void tst_PresetData::replyIsOneCommand()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("{ \"a\" : \"x/y\" }\n"));
-    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
-                                         QStringLiteral(R"({"data/Other.json":"{\"a\":\"x/y\"}"})"));
-    program.addFile(step(1), QStringLiteral("Second.json-patch"), insertPatch("[]"));
-    const QString first = QStringLiteral(R"("data/Other.json":"{\"a\":\"x/y\"}")");
-    const QString second = QStringLiteral(R"("data/Second.json":"[]")");
-    const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
-    const QString reply = program.reply(step(1));
-    // The members stand in no order of their own.
-    QVERIFY(reply == head + QStringLiteral("{%1,%2}").arg(first, second) ||
-            reply == head + QStringLiteral("{%1,%2}").arg(second, first));
 }
 
 void tst_PresetData::chainIsReplayedUpToTheStep()
@@ -500,157 +348,6 @@ void tst_PresetData::stepWithoutDataForgetsEarlierFiles()
     QVERIFY(program.reply(step(2)).isNull());
     QCOMPARE(program.replyObject(step(3)).keys(), QStringList{QStringLiteral("data/B.json")});
     QCOMPARE(log.warnings(), QStringList());
-}
-
-void tst_PresetData::tableKeysAreRegularExpressions()
-{
-    const ProgramDirectory program;
-    const QByteArray map = R"({"events":[{"name":"inn","pages":[]}]})";
-    const QByteArray things = R"([{"name":"inn"}])";
-    program.addFile(step(1), QStringLiteral("Map001.json-patch"), insertPatch(map));
-    program.addFile(step(1), QStringLiteral("MapInfos.json-patch"), insertPatch(things));
-    program.addFile(step(1), QStringLiteral("Items.json-patch"),
-                    insertPatch(R"([{"name":"a","description":""}])"));
-    program.addFile(step(1), QStringLiteral("ItemsXjson-patch"),
-                    insertPatch(R"([{"name":"a","description":"b"}])"));
-    program.addFile(step(1), QStringLiteral("MyItems.json-patch"), insertPatch(R"([{"name":"a"}])"));
-    program.addFile(step(1), QStringLiteral("Items.json2-patch"), insertPatch(R"([{"name":"a"}])"));
-    LogCapture log;
-    const QJsonObject reply = program.replyObject(step(1));
-    const QJsonObject expected{
-        {QStringLiteral("data/Map001.json"),
-         QStringLiteral(R"({"events":[{"name":"Tutorial:inn","pages":[]}]})")},
-        {QStringLiteral("data/MapInfos.json"), QStringLiteral(R"([{"name":"Tutorial:inn"}])")},
-        {QStringLiteral("data/Items.json"), QStringLiteral(R"([{"description":"","name":"Tutorial:a"}])")},
-        {QStringLiteral("data/ItemsXjson"),
-         QStringLiteral(R"([{"description":"Tutorial:b","name":"Tutorial:a"}])")},
-        {QStringLiteral("data/MyItems.json"), QStringLiteral(R"([{"name":"a"}])")},
-        {QStringLiteral("data/Items.json2"), QStringLiteral(R"([{"name":"a"}])")}};
-    QCOMPARE(reply, expected);
-    QCOMPARE(log.warnings(), QStringList());
-}
-
-void tst_PresetData::onlyRowsForLessonsRun()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("System.json-patch"),
-                    insertPatch(R"({"currencyUnit":"G","switches":["door"]})"));
-    LogCapture log;
-    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/System.json")).toString(),
-             QStringLiteral(R"({"currencyUnit":"G","switches":["Tutorial:door"]})"));
-    QCOMPARE(log.warnings(), QStringList());
-}
-
-void tst_PresetData::fileOutsideTheTableIsNotTranslated()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"([{"name":"a"}])"));
-    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
-             QStringLiteral(R"([{"name":"a"}])"));
-}
-
-void tst_PresetData::eachRequestUsesItsOwnTable()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"({"a":"x","b":"y"})"));
-    const auto textWith = [&program](const QString &file, const QString &key) {
-        const SampleTable table{
-            {file,
-             {{QStringLiteral("translateKeyText"), QStringLiteral("tutorial"), QStringLiteral("T"), key}}}};
-        const QString reply = presetDataReply(step(1), program.path(), table, translation);
-        return reply.section(QLatin1Char(':'), 1).remove(QLatin1Char('\\'));
-    };
-    const QString a = QStringLiteral(R"("{"a":"T:x","b":"y"}"})");
-    const QString b = QStringLiteral(R"("{"a":"x","b":"T:y"}"})");
-    const QString none = QStringLiteral(R"("{"a":"x","b":"y"}"})");
-    const QString file = QStringLiteral("Other.json");
-    for (int round = 0; round < 2; ++round) {
-        QCOMPARE(textWith(file, QStringLiteral("a")), a);
-        QCOMPARE(textWith(file, QStringLiteral("b")), b);
-        QCOMPARE(textWith(QStringLiteral("Items.json"), QStringLiteral("b")), none);
-    }
-}
-
-void tst_PresetData::textsThatAreNoJson_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("no JSON") << QByteArray("{") << QString();
-    QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("number") << QByteArray("12") << QStringLiteral("12");
-    QTest::newRow("null") << QByteArray("null") << QStringLiteral("null");
-}
-
-void tst_PresetData::textsThatAreNoJson()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, text);
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch(bytes));
-    LogCapture log;
-    const QJsonObject reply = program.replyObject(step(1));
-    QCOMPARE(reply.keys(), QStringList{QStringLiteral("data/Items.json")});
-    QCOMPARE(reply.value(QStringLiteral("data/Items.json")), QJsonValue(text));
-    // Each of the two rows of the file complains.
-    QCOMPARE(
-        warningTexts(log).filter(QStringLiteral("translateArrayKeyText 574 wrapper is not array")).size(), 2);
-}
-
-void tst_PresetData::lackOfMemoryEndsTheRequest()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Items.json-patch"),
-                    insertPatch(R"([{"name":"a","description":"b"}])"));
-    LogCapture log;
-    const QString reply = presetDataReply(
-        step(1), program.path(), buildSampleTable(),
-        [](const QString & /*context*/, const QString & /*text*/) -> QString { throw std::bad_alloc(); });
-    QVERIFY(reply.isNull());
-    QCOMPARE(
-        warningTexts(log),
-        QStringList{source() + QStringLiteral("1072 Not enough memory for the data files of \"step1\"")});
-}
-
-void tst_PresetData::unwrittenBytesAreAText()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), header(5));
-    LogCapture log;
-    const QString zeroes(5, QChar(0));
-    const QString expected = JsonWrapper(zeroes).toJson();
-    log.clear();
-    const QJsonObject reply = program.replyObject(step(1));
-    QCOMPARE(reply.keys(), QStringList{QStringLiteral("data/Other.json")});
-    QCOMPARE(reply.value(QStringLiteral("data/Other.json")).toString(), expected);
-    QVERIFY(!log.contains(QStringLiteral("jsonStr is empty."))); // five characters came, not none
-}
-
-void tst_PresetData::textThatIsNotUtf8IsReplaced()
-{
-    const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"),
-                    insertPatch("[\"a\xff\xfe"
-                                "b\"]"));
-    LogCapture log;
-    const QString replaced =
-        QStringLiteral("[\"a") + QString(2, QChar(QChar::ReplacementCharacter)) + QStringLiteral("b\"]");
-    QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(), replaced);
-    QCOMPARE(log.warnings(), QStringList());
-}
-
-void tst_PresetData::textIsCompactAndEscaped()
-{
-    const ProgramDirectory program;
-    const QString text = QString::fromUtf8("{\n  \"b\": [ 1, 2.5 ],\n  \"a\": \"\\u6f22 \u5b57 \\\"q\\\" "
-                                           "\\\\ \\n \\u0001 \\u007f \U0001F600\"\n}\n");
-    program.addFile(step(1), QStringLiteral("O \"th\".json-patch"), insertPatch(text.toUtf8()));
-    const QString compact =
-        QString::fromUtf8(QJsonDocument::fromJson(text.toUtf8()).toJson(QJsonDocument::Compact));
-    const QString escaped =
-        QString::fromUtf8(QJsonDocument(QJsonArray{compact}).toJson(QJsonDocument::Compact));
-    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
-                                         QStringLiteral("{\"data/O \\\"th\\\".json\":") +
-                                         escaped.mid(1, escaped.size() - 2) + QLatin1Char('}'));
 }
 
 QTEST_GUILESS_MAIN(tst_PresetData)

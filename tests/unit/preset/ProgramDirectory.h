@@ -1,0 +1,122 @@
+#pragma once
+
+#include "LogCapture.h"
+#include "Tutorial/preset/PresetData.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+inline constexpr QChar kFieldSeparator(0x01);
+
+inline void appendNumber(QByteArray &bytes, quint32 number, int width)
+{
+    for (int i = 0; i < width; ++i) {
+        bytes.append(char(number >> (8 * i) & 0xFF));
+    }
+}
+
+/// The header of a patch to a text of @p size bytes.
+inline QByteArray header(int size)
+{
+    QByteArray patch;
+    appendNumber(patch, quint32(size), 4);
+    return patch;
+}
+
+/// A patch to @p text that needs no base.
+inline QByteArray insertPatch(const QByteArray &text)
+{
+    QByteArray patch = header(text.size());
+    for (int i = 0; i < text.size(); i += 65536) {
+        const QByteArray piece = text.mid(i, 65536);
+        patch.append(char(1));
+        appendNumber(patch, quint32(piece.size() - 1), 2);
+        patch.append(piece);
+    }
+    return patch;
+}
+
+/// A patch to the first @p size bytes of the base, up to 65,536.
+inline QByteArray copyPatch(int size)
+{
+    QByteArray patch = header(size);
+    patch.append(char(254));
+    appendNumber(patch, 0, 2);
+    appendNumber(patch, quint32(size - 1), 2);
+    return patch;
+}
+
+inline QString translation(const QString &context, const QString &text)
+{
+    return context + QLatin1Char(':') + text;
+}
+
+/// A program directory of its own, with patches in it.
+class ProgramDirectory
+{
+public:
+    explicit ProgramDirectory(const QString &patchRoot = QStringLiteral("resource/patch"))
+        : m_root(m_dir.filePath(patchRoot))
+    {
+    }
+
+    [[nodiscard]] QString path() const { return m_dir.path(); }
+    [[nodiscard]] QString root() const { return m_root; }
+    [[nodiscard]] QString dataPath(const QString &step) const
+    {
+        return m_root + QLatin1Char('/') + step + QStringLiteral("/data");
+    }
+
+    void addStep(const QString &step) const { QVERIFY(QDir().mkpath(dataPath(step))); }
+    void addFile(const QString &step, const QString &name, const QByteArray &bytes) const
+    {
+        addStep(step);
+        QFile file(dataPath(step) + QLatin1Char('/') + name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    }
+
+    [[nodiscard]] QString reply(const QString &step) const
+    {
+        return presetDataReply(step, path(), buildSampleTable(), translation);
+    }
+    /// The members of the reply, empty when there is none.
+    [[nodiscard]] QJsonObject replyObject(const QString &step) const
+    {
+        const QString text = reply(step);
+        const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
+        if (!text.startsWith(head)) {
+            return {};
+        }
+        return QJsonDocument::fromJson(text.mid(head.size()).toUtf8()).object();
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_root;
+};
+
+inline QString source()
+{
+    return QStringLiteral("TutorialManager::onReceived ");
+}
+
+/// The warnings without their source labels.
+inline QStringList warningTexts(const LogCapture &log)
+{
+    QStringList texts;
+    const QStringList warnings = log.warnings();
+    for (const QString &warning : warnings) {
+        texts.append(warning.section(QLatin1Char(' '), 1));
+    }
+    return texts;
+}
+
+inline QString step(int number)
+{
+    return QStringLiteral("step%1").arg(number);
+}
