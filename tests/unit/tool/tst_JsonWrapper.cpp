@@ -1,147 +1,29 @@
-#include "LogCapture.h"
-#include "tool/JsonWrapper.h"
+#include "JsonSamples.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTest>
 
-#include <functional>
-#include <optional>
 #include <utility>
 
 namespace {
 
 using Kind = JsonWrapper::Kind;
-using Call = std::function<void(JsonWrapper &)>;
-
-/// Makes the two kinds that no constructor gives.
-class BareWrapper : public JsonWrapper
-{
-public:
-    explicit BareWrapper(const QJsonArray &array)
-        : JsonWrapper(QJsonValue())
-    {
-        m_kind = Kind::kArray;
-        m_array = array;
-    }
-    explicit BareWrapper(const QJsonObject &object)
-        : JsonWrapper(QJsonValue())
-    {
-        m_kind = Kind::kObject;
-        m_object = object;
-    }
-};
-
-QString messageSource()
-{
-    return QStringLiteral("..\\..\\tutorial\\cpp\\tool\\JsonWrapper.cpp");
-}
-
-QJsonArray sampleArray()
-{
-    return {QStringLiteral("zero"), 1, true, QJsonValue::Null};
-}
-
-QJsonObject sampleObject()
-{
-    return {{QStringLiteral("3"), QStringLiteral("three")},
-            {QStringLiteral("b"), 2},
-            {QStringLiteral("a"), QJsonValue::Null}};
-}
-
-JsonWrapper parsed(const char *json)
-{
-    return JsonWrapper(QString::fromUtf8(json));
-}
-
-/// A wrapper of the kind and content that @p name says.
-JsonWrapper sample(const QString &name)
-{
-    static const QHash<QString, std::function<JsonWrapper()>> samples{
-        {QStringLiteral("doc array"),
-         [] {
-             return parsed(R"(["zero", 1, true, null])");
-         }},
-        {QStringLiteral("doc object"),
-         [] {
-             return parsed(R"({"3": "three", "b": 2, "a": null})");
-         }},
-        {QStringLiteral("array"),
-         [] {
-             return BareWrapper(sampleArray());
-         }},
-        {QStringLiteral("object"),
-         [] {
-             return BareWrapper(sampleObject());
-         }},
-        {QStringLiteral("value array"),
-         [] {
-             return JsonWrapper(QJsonValue(sampleArray()));
-         }},
-        {QStringLiteral("value object"),
-         [] {
-             return JsonWrapper(QJsonValue(sampleObject()));
-         }},
-        {QStringLiteral("value string"),
-         [] {
-             return JsonWrapper(QJsonValue(QStringLiteral("text")));
-         }},
-        {QStringLiteral("value null"),
-         [] {
-             return JsonWrapper(QJsonValue());
-         }},
-        {QStringLiteral("max"),
-         [] {
-             return JsonWrapper(QString());
-         }},
-    };
-    LogCapture quiet; // the empty text warns
-    return samples.value(name)();
-}
-
-/// The text that @p call throws on @p wrapper; null if it throws nothing.
-QString thrown(JsonWrapper &wrapper, const Call &call)
-{
-    try {
-        call(wrapper);
-    } catch (const QString &message) {
-        return message;
-    }
-    return QString();
-}
-
-/// Test data has to have an empty state.
-using Wrapper = std::optional<JsonWrapper>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(Wrapper)
-Q_DECLARE_METATYPE(Call)
 Q_DECLARE_METATYPE(JsonWrapper::Kind)
 
+/// What each kind of wrapper is made from, gives and takes.
 class tst_JsonWrapper : public QObject
 {
     Q_OBJECT
-
-private:
-    static void addRows(const char *operation, const Call &call,
-                        const QList<std::pair<const char *, const char *>> &messages)
-    {
-        for (const auto &[name, message] : messages)
-            QTest::addRow("%s on %s", operation, name)
-                << call << QString::fromLatin1(name) << QString::fromUtf8(message);
-    }
 
 private Q_SLOTS:
     void kindsHaveTheirNumbers();
     void textGivesKind_data();
     void textGivesKind();
-    void emptyTextWarns();
-    void brokenTextWarnsWithTheErrorOfTheSecondParse();
     void valueGivesKindValue();
-    void misuseThrows_data();
-    void misuseThrows();
-    void literalMessagesAreLoggedUnquoted();
     void indexReaches_data();
     void indexReaches();
     void indexOutsideAnArrayIsUndefined();
@@ -210,44 +92,6 @@ void tst_JsonWrapper::textGivesKind()
     QCOMPARE(log.warnings(), QStringList());
 }
 
-void tst_JsonWrapper::emptyTextWarns()
-{
-    LogCapture log;
-    const JsonWrapper wrapper{QString()};
-    QCOMPARE(int(wrapper.kind()), int(Kind::kMax));
-    QVERIFY(wrapper.parseFailed());
-    QCOMPARE(log.lines(),
-             QStringList{messageSource() + QStringLiteral(" JsonWrapper::JsonWrapper 44 jsonStr is empty.")});
-    QCOMPARE(wrapper.toJson(), QString());
-    QCOMPARE(wrapper.toString(), QString());
-}
-
-void tst_JsonWrapper::brokenTextWarnsWithTheErrorOfTheSecondParse()
-{
-    // "{" ends at offset 1, "[{]" fails at another place with another error.
-    const QString text = QStringLiteral("{");
-    QJsonParseError first;
-    QJsonParseError second;
-    QJsonDocument::fromJson("{", &first);
-    QJsonDocument::fromJson("[{]", &second);
-    QVERIFY(first.error != second.error || first.offset != second.offset);
-
-    LogCapture log;
-    const JsonWrapper wrapper(text);
-    QCOMPARE(int(wrapper.kind()), int(Kind::kDoc));
-    QVERIFY(wrapper.parseFailed());
-    QVERIFY(wrapper.isNull());
-    QVERIFY(!wrapper.isArray());
-    QVERIFY(!wrapper.isObject());
-    QCOMPARE(wrapper.toJson(), QString());
-    QCOMPARE(log.warnings(),
-             QStringList{QStringLiteral("%1 JsonWrapper::JsonWrapper 60 Json parse error %2 %3 \"%4\" \"{\"")
-                             .arg(messageSource())
-                             .arg(int(second.error))
-                             .arg(second.offset)
-                             .arg(second.errorString())});
-}
-
 void tst_JsonWrapper::valueGivesKindValue()
 {
     LogCapture log;
@@ -259,130 +103,6 @@ void tst_JsonWrapper::valueGivesKindValue()
         QCOMPARE(wrapper.toValue(), value);
     }
     QCOMPARE(log.lines(), QStringList());
-}
-
-void tst_JsonWrapper::misuseThrows_data()
-{
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("message");
-
-    addRows("[index]", [](JsonWrapper &wrapper) { wrapper[0]; },
-            {{"doc object", "[index] is applied for m_doc which is not Array."},
-             {"array", ""},
-             {"object", ""},
-             {"value array", ""},
-             {"value object", ""},
-             {"value string", "[index] is applied for kValue."},
-             {"value null", "[index] is applied for kValue."},
-             {"max", "[index] is applied for kMax."}});
-    addRows("constant [index]", [](JsonWrapper &wrapper) { std::as_const(wrapper)[0]; },
-            {{"doc object", "[index] is applied for m_doc which is not Array."},
-             {"object", ""},
-             {"value string", "[index] is applied for kValue."},
-             {"max", "[index] is applied for kMax."}});
-    addRows("[key]", [](JsonWrapper &wrapper) { wrapper[QStringLiteral("k")]; },
-            {{"doc array", "[k] is applied for m_doc which is not Object."},
-             {"array", "[k] is applied for kArray."},
-             {"object", "m_object doesn't have key: k"},
-             {"value array", "[k] is applied for kValue."},
-             {"value string", "[k] is applied for kValue."},
-             {"value null", "[k] is applied for kValue."},
-             {"max", "[k] is applied for kMax."}});
-    addRows("contains", [](JsonWrapper &wrapper) { (void)wrapper.contains(QStringLiteral("k")); },
-            {{"doc array", "contains() is called for m_doc which is not Object."},
-             {"array", "contains() is called for kArray."},
-             {"object", ""},
-             {"value array", "contains() is called for kValue."},
-             {"value string", "contains() is called for kValue."},
-             {"max", "contains() is called for kMax."}});
-    addRows("keys", [](JsonWrapper &wrapper) { (void)wrapper.keys(); },
-            {{"doc array", "keys() is called for m_doc which is not Object."},
-             {"array", "keys() is called for kArray"},
-             {"object", ""},
-             {"value array", "keys() is called for kValue."},
-             {"value string", "keys() is called for kValue."},
-             {"max", "keys() is called for kMax."}});
-    addRows("length", [](JsonWrapper &wrapper) { (void)wrapper.length(); },
-            {{"doc object", "length() is called for m_doc which is not Array."},
-             {"array", ""},
-             {"object", "length() is called for kObject."},
-             {"value object", "length() is called for kValue."},
-             {"value string", "length() is called for kValue."},
-             {"max", "length() is called for kMax."}});
-    addRows("toArray", [](JsonWrapper &wrapper) { (void)wrapper.toArray(); },
-            {{"doc object", "toArray() is called for kDoc."},
-             {"array", ""},
-             {"object", "toArray() is called for kObject."},
-             {"value object", "toArray() is called for kValue."},
-             {"value string", "toArray() is called for kValue."},
-             {"max", "toArray() is called for kMax."}});
-    addRows("toValue", [](JsonWrapper &wrapper) { (void)wrapper.toValue(); },
-            {{"doc array", "toValue() is called for kDoc."},
-             {"doc object", "toValue() is called for kDoc."},
-             {"array", "toValue() is called for kArray."},
-             {"object", "toValue() is called for kObject."},
-             {"value string", ""},
-             {"max", "toArray() is called for kMax."}});
-    const QString key = QStringLiteral("k");
-    const QList<std::pair<const char *, const char *>> keyMessages{
-        {"doc array", "set() is called for kDoc."},
-        {"doc object", ""},
-        {"array", "set() is called for kArray."},
-        {"object", ""},
-        {"value array", "set() is called for kValue."},
-        {"value null", "set() is called for kValue."},
-        {"max", "set() is called for kMax."}};
-    addRows(
-        "set key to text", [key](JsonWrapper &wrapper) { wrapper.set(key, key); }, keyMessages);
-    addRows(
-        "set key to array", [key](JsonWrapper &wrapper) { wrapper.set(key, QJsonArray()); }, keyMessages);
-    addRows(
-        "set key to value", [key](JsonWrapper &wrapper) { wrapper.set(key, QJsonValue(1)); }, keyMessages);
-    const QList<std::pair<const char *, const char *>> indexMessages{
-        {"doc array", ""},
-        {"doc object", "set() is called for kDoc."},
-        {"array", ""},
-        {"object", "set() is called for kObject."},
-        {"value object", "set() is called for kValue."},
-        {"value string", "set() is called for kValue."},
-        {"max", "set() is called for kMax."}};
-    addRows(
-        "set index to text", [key](JsonWrapper &wrapper) { wrapper.set(0, key); }, indexMessages);
-    addRows(
-        "set index to value", [](JsonWrapper &wrapper) { wrapper.set(0, QJsonValue(1)); }, indexMessages);
-}
-
-void tst_JsonWrapper::misuseThrows()
-{
-    QFETCH(Call, call);
-    QFETCH(QString, name);
-    QFETCH(QString, message);
-    JsonWrapper wrapper = sample(name);
-    const QString before = wrapper.toJson();
-    LogCapture log;
-    QCOMPARE(thrown(wrapper, call), message);
-    QCOMPARE(log.warnings(), QStringList());
-    if (message.isEmpty()) {
-        QCOMPARE(log.lines(), QStringList());
-        return;
-    }
-    QCOMPARE(log.lines().size(), 1);
-    QVERIFY(log.lines().constFirst().startsWith(messageSource() +
-                                                QStringLiteral(" JsonWrapper::errorHandler 1158 ")));
-    QVERIFY(log.contains(message));
-    QCOMPARE(wrapper.toJson(), before);
-}
-
-void tst_JsonWrapper::literalMessagesAreLoggedUnquoted()
-{
-    JsonWrapper wrapper = sample(QStringLiteral("array"));
-    LogCapture log;
-    thrown(wrapper, [](JsonWrapper &array) { (void)array.keys(); });
-    thrown(wrapper, [](JsonWrapper &array) { array[QStringLiteral("k")]; });
-    const QString start = messageSource() + QStringLiteral(" JsonWrapper::errorHandler 1158 ");
-    QCOMPARE(log.debugs(), QStringList({start + QStringLiteral("keys() is called for kArray"),
-                                        start + QStringLiteral("\"[k] is applied for kArray.\"")}));
 }
 
 void tst_JsonWrapper::indexReaches_data()

@@ -1,52 +1,21 @@
-#include "LogCapture.h"
-#include "tool/JsonWrapper.h"
+#include "JsonSamples.h"
 
 #include <QDate>
 #include <QObject>
 #include <QTest>
 
-#include <optional>
-
 namespace {
 
-QString messageSource()
-{
-    return QStringLiteral("..\\..\\tutorial\\cpp\\tool\\JsonWrapper.cpp");
-}
-
-/// Makes the two kinds that no constructor gives.
-class BareWrapper : public JsonWrapper
-{
-public:
-    explicit BareWrapper(const QJsonArray &array)
-        : JsonWrapper(QJsonValue())
-    {
-        m_kind = Kind::kArray;
-        m_array = array;
-    }
-    explicit BareWrapper(const QJsonObject &object)
-        : JsonWrapper(QJsonValue())
-    {
-        m_kind = Kind::kObject;
-        m_object = object;
-    }
-};
-
-QJsonArray sampleArray()
+QJsonArray smallArray()
 {
     return {1, QStringLiteral("two")};
 }
-QJsonObject sampleObject()
+QJsonObject smallObject()
 {
     return {{QStringLiteral("b"), 1}, {QStringLiteral("a"), QJsonArray()}};
 }
 
-/// Test data has to have an empty state.
-using Wrapper = std::optional<JsonWrapper>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Wrapper)
 
 class tst_JsonWrapperText : public QObject
 {
@@ -83,10 +52,10 @@ void tst_JsonWrapperText::toJson_data()
     const char *object = "{\n    \"a\": [\n    ],\n    \"b\": 1\n}\n";
     row("doc array", JsonWrapper(QStringLiteral("[1, \"two\"]")), "[1,\"two\"]", array);
     row("doc object", JsonWrapper(QStringLiteral("{\"b\": 1, \"a\": []}")), "{\"a\":[],\"b\":1}", object);
-    row("array", BareWrapper(sampleArray()), "[1,\"two\"]", array);
-    row("object", BareWrapper(sampleObject()), "{\"a\":[],\"b\":1}", object);
-    row("value array", JsonWrapper(QJsonValue(sampleArray())), "[1,\"two\"]", array);
-    row("value object", JsonWrapper(QJsonValue(sampleObject())), "{\"a\":[],\"b\":1}", object);
+    row("array", BareWrapper(smallArray()), "[1,\"two\"]", array);
+    row("object", BareWrapper(smallObject()), "{\"a\":[],\"b\":1}", object);
+    row("value array", JsonWrapper(QJsonValue(smallArray())), "[1,\"two\"]", array);
+    row("value object", JsonWrapper(QJsonValue(smallObject())), "{\"a\":[],\"b\":1}", object);
     row("value null", JsonWrapper(QJsonValue()), "null", "null");
     row("value true", JsonWrapper(QJsonValue(true)), "true", "\n    true\n]");
     row("value number", JsonWrapper(QJsonValue(12)), "12", "\n    12\n]");
@@ -116,8 +85,8 @@ void tst_JsonWrapperText::containersAndNullAreNotLogged()
 {
     LogCapture log;
     for (const JsonWrapper &wrapper :
-         {JsonWrapper(QJsonValue()), JsonWrapper(QJsonValue(sampleArray())),
-          JsonWrapper(QJsonValue(sampleObject())), JsonWrapper(QStringLiteral("[1]"))})
+         {JsonWrapper(QJsonValue()), JsonWrapper(QJsonValue(smallArray())),
+          JsonWrapper(QJsonValue(smallObject())), JsonWrapper(QStringLiteral("[1]"))})
         QVERIFY(!wrapper.toJson().isEmpty());
     QCOMPARE(log.lines(), QStringList());
 }
@@ -128,10 +97,10 @@ void tst_JsonWrapperText::toString_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("doc array") << Wrapper(JsonWrapper(QStringLiteral("[1]"))) << QStringLiteral("kDoc");
     QTest::newRow("doc object") << Wrapper(JsonWrapper(QStringLiteral("{}"))) << QStringLiteral("kDoc");
-    QTest::newRow("array") << Wrapper(JsonWrapper(BareWrapper(sampleArray()))) << QStringLiteral("kArray(2)");
+    QTest::newRow("array") << Wrapper(JsonWrapper(BareWrapper(smallArray()))) << QStringLiteral("kArray(2)");
     QTest::newRow("empty array") << Wrapper(JsonWrapper(BareWrapper(QJsonArray())))
                                  << QStringLiteral("kArray(0)");
-    QTest::newRow("object") << Wrapper(JsonWrapper(BareWrapper(sampleObject())))
+    QTest::newRow("object") << Wrapper(JsonWrapper(BareWrapper(smallObject())))
                             << QStringLiteral("kObject(a, b)");
     QTest::newRow("empty object") << Wrapper(JsonWrapper(BareWrapper(QJsonObject())))
                                   << QStringLiteral("kObject()");
@@ -139,7 +108,7 @@ void tst_JsonWrapperText::toString_data()
     QTest::newRow("value escapes") << Wrapper(JsonWrapper(QStringLiteral("\"a\\n\\u6751\"")))
                                    << QStringLiteral("a\n\u6751");
     QTest::newRow("value number") << Wrapper(JsonWrapper(QStringLiteral("12"))) << QString();
-    QTest::newRow("value array") << Wrapper(JsonWrapper(QJsonValue(sampleArray()))) << QString();
+    QTest::newRow("value array") << Wrapper(JsonWrapper(QJsonValue(smallArray()))) << QString();
     QTest::newRow("value null") << Wrapper(JsonWrapper(QJsonValue())) << QString();
 }
 
