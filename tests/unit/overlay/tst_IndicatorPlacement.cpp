@@ -1,5 +1,4 @@
-#include "FakeOverlayHost.h"
-#include "TestIndicator.h"
+#include "IndicatorTest.h"
 
 #include <QPaintEvent>
 #include <QTextDocument>
@@ -24,14 +23,11 @@ public:
 
 } // namespace
 
-class TestIndicatorPlacement : public QObject
+class TestIndicatorPlacement : public IndicatorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void windowsEaseTogether();
     void windowsComeToRestThreePixelsShort();
     void mirroringMovesTheTextAside();
@@ -50,21 +46,7 @@ private Q_SLOTS:
 
 private:
     void settleAt(int x, int y);
-
-    FakeOverlayHost m_host;
-    std::unique_ptr<TestIndicator> m_indicator;
 };
-
-void TestIndicatorPlacement::init()
-{
-    m_host = FakeOverlayHost();
-    m_indicator = std::make_unique<TestIndicator>(&m_host);
-}
-
-void TestIndicatorPlacement::cleanup()
-{
-    m_indicator.reset();
-}
 
 void TestIndicatorPlacement::settleAt(int x, int y)
 {
@@ -267,4 +249,5 @@ void TestIndicatorPlacement::flipRepaintsTheWholeWindow()
 }
 
 QTEST_MAIN(TestIndicatorPlacement)
+#include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorPlacement.moc"

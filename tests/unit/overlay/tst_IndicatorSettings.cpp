@@ -1,18 +1,14 @@
-#include "FakeOverlayHost.h"
+#include "IndicatorTest.h"
 #include "LogCapture.h"
-#include "TestIndicator.h"
 
 #include <QTextDocument>
 #include <QtTest>
 
-class TestIndicatorSettings : public QObject
+class TestIndicatorSettings : public IndicatorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void mapHoldsExactlyItsKeys();
     void rebuiltIndicatorTakesEverythingOver();
     void rebuiltIndicatorMeasuresItsHint();
@@ -22,22 +18,7 @@ private Q_SLOTS:
     void closedTooltipIsRebuiltFromTheMap();
     void emptyMapReadsAsZero();
     void mapIsLogged();
-
-private:
-    FakeOverlayHost m_host;
-    std::unique_ptr<TestIndicator> m_indicator;
 };
-
-void TestIndicatorSettings::init()
-{
-    m_host = FakeOverlayHost();
-    m_indicator = std::make_unique<TestIndicator>(&m_host);
-}
-
-void TestIndicatorSettings::cleanup()
-{
-    m_indicator.reset();
-}
 
 void TestIndicatorSettings::mapHoldsExactlyItsKeys()
 {
@@ -209,4 +190,5 @@ void TestIndicatorSettings::mapIsLogged()
 }
 
 QTEST_MAIN(TestIndicatorSettings)
+#include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorSettings.moc"

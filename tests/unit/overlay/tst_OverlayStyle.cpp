@@ -1,7 +1,6 @@
 #include "Tutorial/overlay/OverlayStyle.h"
 
-#include "FakeOverlayHost.h"
-#include "TestIndicator.h"
+#include "IndicatorTest.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include <QPainter>
@@ -33,14 +32,12 @@ QVector<int> inkedRows(const QImage &image)
 
 } // namespace
 
-class TestOverlayStyle : public QObject
+class TestOverlayStyle : public IndicatorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
-    void cleanup();
 
     void fontIsLargeEnough();
     void panelTakesNoHeight_data();
@@ -52,26 +49,11 @@ private Q_SLOTS:
     void captionsFitTheButtons_data();
     void captionsFitTheButtons();
     void otherWidgetsAreLeftAlone();
-
-private:
-    FakeOverlayHost m_host;
-    std::unique_ptr<TestIndicator> m_indicator;
 };
 
 void TestOverlayStyle::initTestCase()
 {
     OverlayStyle::apply();
-}
-
-void TestOverlayStyle::init()
-{
-    m_host = FakeOverlayHost();
-    m_indicator = std::make_unique<TestIndicator>(&m_host);
-}
-
-void TestOverlayStyle::cleanup()
-{
-    m_indicator.reset();
 }
 
 void TestOverlayStyle::fontIsLargeEnough()
@@ -224,4 +206,5 @@ void TestOverlayStyle::otherWidgetsAreLeftAlone()
 }
 
 QTEST_MAIN(TestOverlayStyle)
+#include "moc_IndicatorTest.cpp"
 #include "tst_OverlayStyle.moc"

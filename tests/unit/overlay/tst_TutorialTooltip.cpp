@@ -1,6 +1,5 @@
-#include "FakeOverlayHost.h"
+#include "IndicatorTest.h"
 #include "LogCapture.h"
-#include "TestIndicator.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -54,14 +53,11 @@ QVector<QRect> erasedRects(bool mirror)
 
 } // namespace
 
-class TestTutorialTooltip : public QObject
+class TestTutorialTooltip : public IndicatorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void windowIsBuiltAsOverlay();
     void textEditIsBuiltFixed();
     void hintAtConstructionIsTakenAsItStands();
@@ -80,21 +76,7 @@ private Q_SLOTS:
 
 private:
     void turn(bool upsideDown, bool mirror);
-
-    FakeOverlayHost m_host;
-    std::unique_ptr<TestIndicator> m_indicator;
 };
-
-void TestTutorialTooltip::init()
-{
-    m_host = FakeOverlayHost();
-    m_indicator = std::make_unique<TestIndicator>(&m_host);
-}
-
-void TestTutorialTooltip::cleanup()
-{
-    m_indicator.reset();
-}
 
 void TestTutorialTooltip::turn(bool upsideDown, bool mirror)
 {
@@ -302,4 +284,5 @@ void TestTutorialTooltip::closingForgetsTextAndWindow()
 }
 
 QTEST_MAIN(TestTutorialTooltip)
+#include "moc_IndicatorTest.cpp"
 #include "tst_TutorialTooltip.moc"
