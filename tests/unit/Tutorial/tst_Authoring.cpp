@@ -1,34 +1,14 @@
-#include "AuthoringFixture.h"
+#include "AuthoringTest.h"
 #include "LogCapture.h"
 
-#include <QDomDocument>
 #include <QSignalSpy>
 
-namespace {
-
-const QByteArray kLesson = QByteArrayLiteral(
-    "var scenario = [\n"
-    "{\"id\":1,\"name\":\"Intro\",\"translationId\":1,\"x\":10,\"y\":20,\"windowKey\":\"MainWindow\","
-    "\"hint\":qsTr(\"#1\")},\n"
-    "// a folder\n"
-    "{\"id\":2,\"name\":\"Part\",\"folder\":true,\"children\":[\n"
-    "{\"id\":3,\"name\":\"Inside\",\"translationId\":2,\"hint\":qsTr(\"#2\")}]},\n"
-    "{\"id\":4,\"translationId\":3}\n"
-    "];\n");
-
-const QString kSourceLabel = QStringLiteral("..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp ");
-
-} // namespace
-
-/// The document, driven by name as an author's tool drives it, on files on disk.
-class tst_Authoring : public QObject
+/// The document, driven by name as an author's tool drives it: changes, their history and the clipboard.
+class tst_Authoring : public AuthoringTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void a_lesson_goes_round();
     void a_rename_is_saved();
     void a_rename_in_a_transaction_is_a_step_that_leaves_the_name();
@@ -49,41 +29,7 @@ private Q_SLOTS:
     void a_cleared_clipboard_pastes_nothing();
 
     void unloading_drops_the_document_and_keeps_the_file();
-    void saving_before_a_load_says_so();
-    void a_failed_save_stays_modified_data();
-    void a_failed_save_stays_modified();
-    void a_save_goes_through_when_the_obstacle_is_gone();
-    void the_lessons_are_saved_as_they_are_committed();
-
-    void translations_and_lesson_are_saved();
-    void the_lesson_is_not_saved_without_the_first_translation();
-    void the_first_translation_stays_without_the_second();
-    void the_message_comes_in_the_language_of_the_author_data();
-    void the_message_comes_in_the_language_of_the_author();
-    void a_lesson_that_fails_behind_its_translations_says_so();
-    void saved_translations_follow_the_locales();
-
-private:
-    [[nodiscard]] QString lesson() const { return m_tool->path(QStringLiteral("Lesson.js")); }
-    [[nodiscard]] bool modifyAndBlock(const QString &blockedTranslation) const;
-
-    std::unique_ptr<AuthoringFixture> m_tool;
 };
-
-void tst_Authoring::init()
-{
-    m_tool = std::make_unique<AuthoringFixture>();
-    QVERIFY(m_tool->start());
-    QVERIFY(!m_tool->file(QStringLiteral("Lesson.js"), kLesson).isEmpty());
-}
-
-void tst_Authoring::cleanup()
-{
-    // A locale brings its translator along, and the latest one speaks.
-    m_tool->manager()->setProperty("locale", QStringLiteral("en_US"));
-    m_tool.reset();
-    deleteOverlays();
-}
 
 void tst_Authoring::a_lesson_goes_round()
 {
@@ -339,7 +285,7 @@ void tst_Authoring::the_clipboard_outlives_the_document()
     QCOMPARE(m_tool->item(1)->name, QStringLiteral("Inside(1)"));
     QCOMPARE(m_tool->text("save"), QString());
     QVERIFY(m_tool->contentOf(other).contains("Inside(1)"));
-    QCOMPARE(m_tool->contentOf(lesson()), kLesson);
+    QCOMPARE(m_tool->contentOf(lesson()), lessonText());
 }
 
 void tst_Authoring::an_unknown_id_leaves_the_clipboard()
@@ -352,7 +298,7 @@ void tst_Authoring::an_unknown_id_leaves_the_clipboard()
     LogCapture log;
     QVERIFY(m_tool->copy({1, 99, 3}));
     QCOMPARE(log.lines(),
-             QStringList{kSourceLabel +
+             QStringList{sourceLabel() +
                          QStringLiteral("TutorialManager::copyTutorialItemList 1573 treeItem not found 99")});
     QCOMPARE(changed.size(), 0);
     QCOMPARE(m_tool->paste(), QList<int>{5});
@@ -392,187 +338,9 @@ void tst_Authoring::unloading_drops_the_document_and_keeps_the_file()
     QVERIFY(!m_tool->canUndo());
     QVERIFY(!m_tool->modified());
     QCOMPARE(m_tool->manager()->property("tutorialName").toString(), QString());
-    QCOMPARE(m_tool->contentOf(lesson()), kLesson);
+    QCOMPARE(m_tool->contentOf(lesson()), lessonText());
     QCOMPARE(m_tool->text("save"), QString());
     QCOMPARE(m_tool->contentOf(lesson()), QByteArray("\xEF\xBB\xBFvar scenario = [\n\n];"));
-}
-
-void tst_Authoring::saving_before_a_load_says_so()
-{
-    QCOMPARE(m_tool->text("save"), QStringLiteral("Tutorial not loaded yet."));
-    m_tool->manager()->setProperty("locale", QStringLiteral("ja_JP"));
-    const QString translated = m_tool->text("save");
-    QVERIFY(!translated.isEmpty());
-    QVERIFY(translated != QStringLiteral("Tutorial not loaded yet."));
-    QCOMPARE(translated, QCoreApplication::translate("TutorialEditor::Manager", "Tutorial not loaded yet."));
-}
-
-void tst_Authoring::a_failed_save_stays_modified_data()
-{
-    QTest::addColumn<QString>("obstacle");
-    QTest::newRow("the directory is gone") << QStringLiteral("missing");
-    QTest::newRow("a directory stands in the way") << QStringLiteral("directory");
-    QTest::newRow("nothing can be written there") << QStringLiteral("read-only");
-    QTest::newRow("the disk is full") << QStringLiteral("full");
-}
-
-void tst_Authoring::a_failed_save_stays_modified()
-{
-    QFETCH(QString, obstacle);
-    if (obstacle == QLatin1String("read-only")) {
-        // The lessons inside the program: no right of the person who runs this opens them for writing.
-        QCOMPARE(m_tool->load(QStringLiteral(":/qml/Tutorial/TutorialStep1.js")), QString());
-    } else {
-        QVERIFY(QDir(m_tool->path(QString())).mkdir(QStringLiteral("lessons")));
-        const QString file = m_tool->file(QStringLiteral("lessons/Lesson.js"), kLesson);
-        QCOMPARE(m_tool->load(file), QString());
-        QVERIFY(QFile::remove(file));
-        if (obstacle == QLatin1String("missing")) {
-            QVERIFY(QDir().rmdir(m_tool->path(QStringLiteral("lessons"))));
-        } else if (obstacle == QLatin1String("directory")) {
-            QVERIFY(QDir().mkdir(file));
-        } else {
-            QVERIFY(QFile::exists(QStringLiteral("/dev/full")));
-            QVERIFY(QFile::link(QStringLiteral("/dev/full"), file));
-        }
-    }
-    const int id = TutorialEditor::Manager::instance()->tree()->items.constFirst()->id;
-    m_tool->change(QStringLiteral("move"), id, "y", 12345);
-    const QString before = m_tool->document();
-    QVERIFY(m_tool->modified());
-    QSignalSpy changed(m_tool->manager(), &TutorialManager::modifiedChanged);
-    LogCapture log;
-    QCOMPARE(m_tool->text("save"), QStringLiteral("Failed to save."));
-    QVERIFY(m_tool->modified());
-    QCOMPARE(changed.size(), 0);
-    QCOMPARE(m_tool->document(), before);
-    QCOMPARE(log.warnings().size(), 1);
-    QVERIFY2(log.warnings().constFirst().contains(QStringLiteral(" DataSupport::writeFile ")),
-             qPrintable(log.warnings().constFirst()));
-    QVERIFY(m_tool->undo());
-    QVERIFY(!m_tool->modified());
-}
-
-void tst_Authoring::a_save_goes_through_when_the_obstacle_is_gone()
-{
-    QCOMPARE(m_tool->load(lesson()), QString());
-    m_tool->change(QStringLiteral("move"), 1, "y", 12345);
-    QVERIFY(QFile::remove(lesson()));
-    QVERIFY(QDir().mkdir(lesson()));
-    QCOMPARE(m_tool->text("save"), QStringLiteral("Failed to save."));
-    QVERIFY(QDir().rmdir(lesson()));
-    QCOMPARE(m_tool->text("save"), QString());
-    QVERIFY(!m_tool->modified());
-    QCOMPARE(m_tool->load(lesson()), QString());
-    QCOMPARE(m_tool->item(1)->y, 12345);
-}
-
-void tst_Authoring::the_lessons_are_saved_as_they_are_committed()
-{
-    const QDir library(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/qml/Tutorial"));
-    const QStringList names = library.entryList({QStringLiteral("TutorialStep*.js")});
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names) {
-        const QByteArray committed = m_tool->contentOf(library.filePath(name));
-        const QString file = m_tool->file(name, committed);
-        QCOMPARE(m_tool->load(file), QString());
-        QCOMPARE(m_tool->manager()->property("tutorialName").toString(), QFileInfo(name).baseName());
-        const QString document = m_tool->document();
-        QCOMPARE(m_tool->text("save"), QString());
-        // A lesson may have carriage returns at its line ends. They do not survive, and all else does.
-        QVERIFY2(m_tool->contentOf(file) == QByteArray(committed).replace("\r\n", "\n"), qPrintable(name));
-        QCOMPARE(m_tool->load(file), QString());
-        QCOMPARE(m_tool->document(), document);
-    }
-}
-
-bool tst_Authoring::modifyAndBlock(const QString &blockedTranslation) const
-{
-    if (!m_tool->load(lesson()).isEmpty()) {
-        return false;
-    }
-    m_tool->change(QStringLiteral("move"), 1, "x", 77);
-    return blockedTranslation.isEmpty() || QDir().mkdir(m_tool->path(blockedTranslation));
-}
-
-void tst_Authoring::translations_and_lesson_are_saved()
-{
-    QVERIFY(modifyAndBlock(QString()));
-    LogCapture log;
-    QCOMPARE(m_tool->text("feedbackTranslation"), QString());
-    QVERIFY(log.contains(kSourceLabel + QStringLiteral("TutorialManager::feedbackTranslation 1779")));
-    QVERIFY(log.warnings().isEmpty());
-    const QByteArray empty = QDomDocument().toByteArray(4);
-    QCOMPARE(m_tool->contentOf(m_tool->path(QStringLiteral("translations/en_US.ts"))), empty);
-    QCOMPARE(m_tool->contentOf(m_tool->path(QStringLiteral("translations/ja_JP.ts"))), empty);
-    QVERIFY(m_tool->contentOf(lesson()).contains("\"x\":77"));
-    QVERIFY(!m_tool->modified());
-}
-
-void tst_Authoring::the_lesson_is_not_saved_without_the_first_translation()
-{
-    const QString first = QStringLiteral("translations/en_US.ts");
-    QVERIFY(modifyAndBlock(first));
-    LogCapture log;
-    QCOMPARE(m_tool->text("feedbackTranslation"), QStringLiteral("Failed to save translation."));
-    QCOMPARE(log.warnings().constLast(),
-             kSourceLabel + QStringLiteral("TutorialManager::saveTranslation 1857 Failed to save \"%1\"")
-                                .arg(m_tool->path(first)));
-    QVERIFY(!QFileInfo::exists(m_tool->path(QStringLiteral("translations/ja_JP.ts"))));
-    QCOMPARE(m_tool->contentOf(lesson()), kLesson);
-    QVERIFY(m_tool->modified());
-}
-
-void tst_Authoring::the_first_translation_stays_without_the_second()
-{
-    const QString second = QStringLiteral("translations/ja_JP.ts");
-    QVERIFY(modifyAndBlock(second));
-    LogCapture log;
-    QCOMPARE(m_tool->text("feedbackTranslation"), QStringLiteral("Failed to save translation."));
-    QCOMPARE(log.warnings().constLast(),
-             kSourceLabel + QStringLiteral("TutorialManager::saveTranslation 1863 Failed to save \"%1\"")
-                                .arg(m_tool->path(second)));
-    QVERIFY(QFileInfo(m_tool->path(QStringLiteral("translations/en_US.ts"))).isFile());
-    QCOMPARE(m_tool->contentOf(lesson()), kLesson);
-    QVERIFY(m_tool->modified());
-}
-
-void tst_Authoring::the_message_comes_in_the_language_of_the_author_data()
-{
-    QTest::addColumn<QString>("message");
-    QTest::newRow("en_US") << QStringLiteral("Failed to save translation.");
-    QTest::newRow("ja_JP") << QStringLiteral("翻訳を保存できませんでした。");
-    QTest::newRow("zh_CN") << QStringLiteral("无法保存翻译。");
-}
-
-void tst_Authoring::the_message_comes_in_the_language_of_the_author()
-{
-    QFETCH(QString, message);
-    const QString locale = QString::fromLatin1(QTest::currentDataTag());
-    m_tool->manager()->setProperty("locale", locale);
-    QVERIFY(modifyAndBlock(QStringLiteral("translations/%1.ts").arg(locale)));
-    QCOMPARE(m_tool->text("feedbackTranslation"), message);
-}
-
-void tst_Authoring::a_lesson_that_fails_behind_its_translations_says_so()
-{
-    QVERIFY(modifyAndBlock(QString()));
-    QVERIFY(QFile::remove(lesson()));
-    QVERIFY(QDir().mkdir(lesson()));
-    QCOMPARE(m_tool->text("feedbackTranslation"), QStringLiteral("Failed to save."));
-    QVERIFY(QFileInfo(m_tool->path(QStringLiteral("translations/en_US.ts"))).isFile());
-    QVERIFY(QFileInfo(m_tool->path(QStringLiteral("translations/ja_JP.ts"))).isFile());
-    QVERIFY(m_tool->modified());
-}
-
-void tst_Authoring::saved_translations_follow_the_locales()
-{
-    m_tool->manager()->setProperty("locale", QStringLiteral("zh_CN"));
-    m_tool->manager()->setProperty("locale2", QStringLiteral("ja_JP"));
-    QVERIFY(modifyAndBlock(QString()));
-    QCOMPARE(m_tool->text("feedbackTranslation"), QString());
-    QCOMPARE(QDir(m_tool->path(QStringLiteral("translations"))).entryList(QDir::Files),
-             (QStringList{QStringLiteral("ja_JP.ts"), QStringLiteral("zh_CN.ts")}));
 }
 
 int main(int argc, char **argv)
@@ -580,4 +348,5 @@ int main(int argc, char **argv)
     return runWithKey<tst_Authoring>(argc, argv);
 }
 
+#include "moc_AuthoringTest.cpp"
 #include "tst_Authoring.moc"
