@@ -5,11 +5,14 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -35,6 +38,25 @@ bool isListable(const QString &directory, QString &error)
         return true;
     error = QStringLiteral("%1 cannot be read").arg(directory);
     return false;
+}
+
+/// As above, and whether a listing has all of it: a name that is no text is left out of one.
+bool isListedWhole(const QString &directory, QString &error)
+{
+    if (!isListable(directory, error))
+        return false;
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(QFile::encodeName(directory).toStdString(), failure);
+    for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
+        const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
+        if (QFile::encodeName(QFile::decodeName(name)) != name) {
+            error = QStringLiteral("a name in %1 is no text").arg(directory);
+            return false;
+        }
+    }
+    if (failure)
+        error = QStringLiteral("%1 cannot be read").arg(directory);
+    return !failure;
 }
 
 } // namespace
@@ -126,11 +148,15 @@ bool PatchChain::checkPatchDirectory(QString &error) const
         error = QStringLiteral("%1 and %2 lie inside one another").arg(m_patchDirectory, m_stepsDirectory);
         return false;
     }
-    QDirIterator iterator(m_patchDirectory, QDir::Files | QDir::Hidden | QDir::System,
-                          QDirIterator::Subdirectories);
+    if (info.exists() && !isListedWhole(m_patchDirectory, error))
+        return false;
+    QDirIterator iterator(m_patchDirectory, kEverything, QDirIterator::Subdirectories);
     while (iterator.hasNext()) {
         const QString path = iterator.next();
-        if (!path.endsWith(QStringLiteral("-patch"))) {
+        if (iterator.fileInfo().isDir() && !iterator.fileInfo().isSymLink()) {
+            if (!isListedWhole(path, error))
+                return false;
+        } else if (!path.endsWith(QStringLiteral("-patch"))) {
             error = QStringLiteral("%1 is not replaced, because %2 in it is no patch: move it away, or name "
                                    "another directory")
                         .arg(m_patchDirectory, path);
@@ -178,7 +204,7 @@ bool PatchChain::dataFiles(const QString &directory, QStringList &names, QString
         error = QStringLiteral("%1 is missing: a step has its data files there").arg(directory);
         return false;
     }
-    if (!isListable(directory, error))
+    if (!isListedWhole(directory, error))
         return false;
     const QFileInfoList entries = QDir(directory).entryInfoList(kEverything, QDir::Name);
     for (const QFileInfo &entry : entries) {

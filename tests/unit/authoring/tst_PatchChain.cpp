@@ -8,11 +8,21 @@
 #include <QScopedPointer>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 using Texts = QHash<QString, QByteArray>;
+
+/// Makes a file whose name need not be text, which Qt's classes cannot.
+void putBytes(const QByteArray &path)
+{
+    const int file = open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    if (file < 0 || write(file, "b", 1) != 1 || close(file) != 0)
+        qFatal("cannot write a file whose name is no text");
+}
 
 } // namespace
 
@@ -36,6 +46,10 @@ private Q_SLOTS:
     void chainIsReplacedWhole();
     void missingParentIsMade();
     void foreignFilesAreNotReplaced();
+    void linkedDirectoryAmongThePatchesIsNotReplaced();
+    void patchesThatMayNotBeReadAreNotReplaced();
+    void nameThatIsNoTextAmongThePatchesIsNotReplaced();
+    void dataFileWhoseNameIsNoTextIsRefused();
     void sourcesAreNeverReplaced();
     void fileInTheWayIsRefused();
     void nestedDirectoriesAreRefused();
@@ -254,6 +268,58 @@ void tst_PatchChain::foreignFilesAreNotReplaced()
     const QString error = make();
     QVERIFY2(error.contains(QStringLiteral("diary.txt in it is no patch")), qPrintable(error));
     QCOMPARE(m_scratch->get("patches/.hidden/diary.txt"), QByteArray("dear diary"));
+}
+
+void tst_PatchChain::linkedDirectoryAmongThePatchesIsNotReplaced()
+{
+    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("patches/step1/data/A.json-patch", "old");
+    QVERIFY(QFile::link(m_scratch->path("steps"), m_scratch->path("patches/elsewhere")));
+    const QString error = make();
+    QVERIFY2(error.contains(QStringLiteral("patches/elsewhere in it is no patch")), qPrintable(error));
+    QCOMPARE(m_scratch->entries("patches"),
+             QStringList({QStringLiteral("elsewhere"), QStringLiteral("step1")}));
+}
+
+void tst_PatchChain::patchesThatMayNotBeReadAreNotReplaced()
+{
+    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("patches/step1/diary.txt", "dear diary");
+    for (const char *open : {"", "patches"})
+        QCOMPARE(chmod(qPrintable(m_scratch->path(open)), 0777), 0);
+    for (const char *closed : {"patches/step1", "patches"}) {
+        QCOMPARE(chmod(qPrintable(m_scratch->path(closed)), 0311), 0);
+        QString error;
+        {
+            const Unprivileged nobody;
+            error = make();
+        }
+        QCOMPARE(chmod(qPrintable(m_scratch->path(closed)), 0777), 0);
+        QCOMPARE(error, QStringLiteral("%1 cannot be read").arg(m_scratch->path(closed)));
+        QCOMPARE(m_scratch->get("patches/step1/diary.txt"), QByteArray("dear diary"));
+    }
+}
+
+void tst_PatchChain::nameThatIsNoTextAmongThePatchesIsNotReplaced()
+{
+    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("patches/step1/data/A.json-patch", "old");
+    const QByteArray path = QFile::encodeName(m_scratch->path("patches/step1/")) + '\xff';
+    putBytes(path);
+    QCOMPARE(make(), QStringLiteral("a name in %1 is no text").arg(m_scratch->path("patches/step1")));
+    QCOMPARE(m_scratch->get("patches/step1/data/A.json-patch"), QByteArray("old"));
+    QCOMPARE(unlink(path.constData()), 0);
+}
+
+void tst_PatchChain::dataFileWhoseNameIsNoTextIsRefused()
+{
+    // A listing leaves it out, so the chain would have lacked the file without a word.
+    m_scratch->put("steps/step1/data/A.json", "a");
+    const QByteArray path = QFile::encodeName(m_scratch->path("steps/step1/data/")) + "\xff.json";
+    putBytes(path);
+    QCOMPARE(make(), QStringLiteral("a name in %1 is no text").arg(m_scratch->path("steps/step1/data")));
+    QVERIFY(!m_scratch->has("patches"));
+    QCOMPARE(unlink(path.constData()), 0);
 }
 
 void tst_PatchChain::sourcesAreNeverReplaced()
