@@ -82,7 +82,7 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
     }
     QString path = QDir(location).filePath(name);
     for (int number = 2; isTaken(path); ++number) {
-        path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name).arg(number));
+        path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
     }
     if (!QDir().rename(made, path)) {
         *error =

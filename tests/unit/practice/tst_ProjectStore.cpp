@@ -23,6 +23,7 @@ private Q_SLOTS:
     void writesTheFilesIntoANewFolder();
     void givesTheFolderTheUsualPermissions();
     void touchesNothingThatIsThere();
+    void keepsTheNameThatGetsANumber();
     void passesOverALinkToNowhere();
     void saysWhereNothingCanBeWritten();
     void refusesNamesThatAreNoFolder_data();
@@ -83,6 +84,21 @@ void TestProjectStore::touchesNothingThatIsThere()
     QFile old(room.filePath(QStringLiteral("P/a.json")));
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("[1]"));
+}
+
+void TestProjectStore::keepsTheNameThatGetsANumber()
+{
+    const QTemporaryDir room;
+    ProjectStore store(kLocale);
+    QString error;
+    for (const QString &name : {QStringLiteral("100%1"), QStringLiteral("100%2")}) {
+        const QString taken = room.filePath(name);
+        QVERIFY(store.create(room.path(), name, {}, &error));
+        QCOMPARE(store.path(), taken);
+        QVERIFY(store.create(room.path(), name, {}, &error));
+        QCOMPARE(store.path(), taken + QStringLiteral(" (2)"));
+        QVERIFY(QFileInfo(store.path()).isDir());
+    }
 }
 
 void TestProjectStore::passesOverALinkToNowhere()
