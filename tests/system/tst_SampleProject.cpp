@@ -181,6 +181,42 @@ void addLocales()
     }
 }
 
+/// The place that a message names, for the one who has to mend it.
+QString where(int step, const QString &file)
+{
+    return stepName(step) + QLatin1Char(' ') + file;
+}
+
+/// The members of @p set in order, for a message.
+QString listed(const QSet<QString> &set)
+{
+    QStringList members(set.begin(), set.end());
+    members.sort();
+    return members.join(QLatin1Char(' '));
+}
+
+/// Where in it @p actual is first different from @p expected, and how.
+QString difference(const QJsonValue &actual, const QJsonValue &expected, const QString &path)
+{
+    const QJsonArray array = expected.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        if (actual.toArray().at(i) != array.at(i)) {
+            return difference(actual.toArray().at(i), array.at(i), QStringLiteral("%1[%2]").arg(path).arg(i));
+        }
+    }
+    const QJsonObject object = expected.toObject();
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        if (actual.toObject().value(it.key()) != it.value()) {
+            return difference(actual.toObject().value(it.key()), it.value(),
+                              path + QLatin1Char('.') + it.key());
+        }
+    }
+    const auto text = [](const QJsonValue &value) {
+        return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
+    };
+    return QStringLiteral("%1 is %2 and not %3").arg(path, text(actual), text(expected));
+}
+
 /// What the program answers to the request for a step.
 QString replyOf(FakeHost &host, int step)
 {
@@ -221,7 +257,7 @@ void tst_SampleProject::steps_only_grow()
         bool grows = files.size() > before.size();
         for (auto file = before.begin(); file != before.end(); ++file) {
             const QJsonDocument now = files.value(file.key());
-            QVERIFY2(now.array().size() >= file.value().array().size(), qPrintable(file.key()));
+            QVERIFY2(now.array().size() >= file.value().array().size(), qPrintable(where(step, file.key())));
             grows = grows || now != file.value();
         }
         QVERIFY2(grows, qPrintable(stepName(step)));
@@ -239,18 +275,21 @@ void tst_SampleProject::numbers_entries_by_their_places()
             if (file.key() == QLatin1String("System.json")) {
                 continue;
             }
-            QVERIFY2(!entries.isEmpty() && entries.at(0).isNull(), qPrintable(file.key()));
+            const QString place = where(step, file.key());
+            QVERIFY2(!entries.isEmpty() && entries.at(0).isNull(), qPrintable(place));
             for (int id = 1; id < entries.size(); ++id) {
-                QCOMPARE(entries.at(id).toObject().value(QStringLiteral("id")).toInt(), id);
+                QVERIFY2(entries.at(id).toObject().value(QStringLiteral("id")).toInt() == id,
+                         qPrintable(QStringLiteral("%1 entry %2").arg(place).arg(id)));
             }
         }
         const QJsonArray maps = files.value(QStringLiteral("MapInfos.json")).array();
         for (int id = 1; id < maps.size(); ++id) {
-            const QJsonObject map =
-                files.value(QStringLiteral("Map%1.json").arg(id, 3, 10, QLatin1Char('0'))).object();
-            QCOMPARE(map.value(QStringLiteral("data")).toArray().size(),
-                     3 * map.value(QStringLiteral("width")).toInt() *
-                         map.value(QStringLiteral("height")).toInt());
+            const QString name = QStringLiteral("Map%1.json").arg(id, 3, 10, QLatin1Char('0'));
+            const QJsonObject map = files.value(name).object();
+            const int cells =
+                map.value(QStringLiteral("width")).toInt() * map.value(QStringLiteral("height")).toInt();
+            QVERIFY2(cells > 0 && map.value(QStringLiteral("data")).toArray().size() == 3 * cells,
+                     qPrintable(where(step, name)));
         }
     }
 }
@@ -263,7 +302,8 @@ void tst_SampleProject::writes_texts_as_numbers_only()
         for (auto file = files.begin(); file != files.end(); ++file) {
             const QStringList texts = readableTexts(root(file.value()));
             for (const QString &text : texts) {
-                QVERIFY2(text.isEmpty() || isNumber(text), qPrintable(file.key() + QLatin1Char(' ') + text));
+                QVERIFY2(text.isEmpty() || isNumber(text),
+                         qPrintable(where(step, file.key()) + QLatin1Char(' ') + text));
                 count += int(!text.isEmpty());
             }
         }
@@ -290,12 +330,16 @@ void tst_SampleProject::uses_each_text_of_the_catalogues()
     for (int number = 1; number <= used.size(); ++number) {
         consecutive.insert(QStringLiteral("#%1").arg(number));
     }
-    QCOMPARE(used, consecutive);
+    QVERIFY2(used == consecutive, qPrintable(QStringLiteral("left out: ") + listed(consecutive - used)));
     const QMap<QString, QString> texts = catalogue(locale);
-    const QStringList numbers = texts.keys();
-    QCOMPARE(QSet<QString>(numbers.begin(), numbers.end()), used);
-    for (const QString &text : texts) {
-        QVERIFY(!text.isEmpty() && !text.contains(QLatin1Char('#')));
+    const QStringList keys = texts.keys();
+    const QSet<QString> numbers(keys.begin(), keys.end());
+    QVERIFY2(
+        numbers == used,
+        qPrintable(
+            QStringLiteral("unused: %1; missing: %2").arg(listed(numbers - used), listed(used - numbers))));
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        QVERIFY2(!text.value().isEmpty() && !text.value().contains(QLatin1Char('#')), qPrintable(text.key()));
     }
 }
 
@@ -321,14 +365,15 @@ void tst_SampleProject::reaches_the_host_whole_and_in_its_language()
         QVERIFY2(reply.startsWith(prefix), qPrintable(stepName(step)));
         const QJsonObject sent = QJsonDocument::fromJson(reply.mid(prefix.size()).toUtf8()).object();
         const Files files = readStep(step);
-        QCOMPARE(sent.size(), files.size());
+        QVERIFY2(sent.size() == files.size(), qPrintable(stepName(step)));
         for (auto file = files.begin(); file != files.end(); ++file) {
             const QJsonValue expected = changed(root(file.value()), [&texts](const QString &text) {
                 return isNumber(text) ? texts.value(text) : text;
             });
             const QString name = QStringLiteral("data/") + file.key();
-            QVERIFY2(sent.contains(name), qPrintable(name));
-            QCOMPARE(root(QJsonDocument::fromJson(sent.value(name).toString().toUtf8())), expected);
+            const QJsonValue actual = root(QJsonDocument::fromJson(sent.value(name).toString().toUtf8()));
+            QVERIFY2(sent.contains(name), qPrintable(where(step, file.key())));
+            QVERIFY2(actual == expected, qPrintable(difference(actual, expected, where(step, file.key()))));
         }
     }
     QVERIFY(host.sync());
