@@ -297,4 +297,5 @@ void tst_UndoRedo::callsAreLoggedWithTheirNumbers()
 }
 
 QTEST_MAIN(tst_UndoRedo)
+#include "moc_UndoRedoTest.cpp"
 #include "tst_UndoRedo.moc"
