@@ -1,6 +1,7 @@
 #include "Tutorial/preset/PresetData.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <exception>
 #include <new>
 #include <optional>
@@ -25,6 +26,9 @@ namespace {
 constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
 constexpr const char *kFunction = "TutorialManager::onReceived";
 constexpr QChar kFieldSeparator(0x01);
+// The most that the files of a step may have together. In a log line a byte becomes six characters, and these
+// three bytes each for a moment, all of which has to fit Qt's containers.
+constexpr std::size_t kMostBytes = std::size_t(1) << 26;
 
 /// The text of each data file at one step, by the name of its patch file.
 using FileTexts = QHash<QString, std::string>;
@@ -47,6 +51,7 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
     const QDir directory(QDir(dataDirectory).absolutePath());
     const QFileInfoList entries = directory.entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
     texts.reserve(entries.size());
+    std::size_t bytes = 0;
     for (const QFileInfo &entry : entries) {
         const QString fileName = entry.fileName();
         QByteArray patch;
@@ -66,6 +71,11 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
         } catch (const std::exception &error) {
             logWarning(kSource, kFunction, 1036)
                 << "Failed to ApplyStringPatch" << entry.filePath() << error.what();
+            return std::nullopt;
+        }
+        bytes += text.size();
+        if (bytes > kMostBytes) {
+            logWarning(kSource, kFunction, 1040) << "Too much data for an answer" << dataDirectory;
             return std::nullopt;
         }
     }
@@ -184,7 +194,7 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
         logWarning(kSource, kFunction, 1001) << "presetData not found" << stepPath << stepName;
         return {};
     }
-    // A patch of a few bytes may ask for more than any text can hold.
+    // A text becomes JSON and text again, in several copies.
     try {
         const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
         return texts ? replyOf(*texts, table, translate) : QString();

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void hiddenFilesBelongToTheStep();
     void badPatchEndsTheRequest();
     void oversizedPatchEndsTheRequest();
+    void moreThanAnAnswerHoldsEndsTheRequest();
     void unreadableFileEndsTheRequest();
     void fileThatMayNotBeReadEndsTheRequest();
     void pipeEndsTheRequest();
@@ -228,6 +229,20 @@ void tst_PresetData::oversizedPatchEndsTheRequest()
     QVERIFY(program.reply(step(2)).isNull());
     QCOMPARE(log.warnings().size(), 1);
     QVERIFY(log.warnings().constFirst().contains(QStringLiteral("Failed to ApplyStringPatch")));
+    QVERIFY(log.warnings().constFirst().contains(source()));
+}
+
+void tst_PresetData::moreThanAnAnswerHoldsEndsTheRequest()
+{
+    // A few bytes that ask for 40 MiB of zeros each.
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), QByteArray("\0\0\x80\x02", 4));
+    program.addFile(step(1), QStringLiteral("B.json-patch"), QByteArray("\0\0\x80\x02", 4));
+    LogCapture log;
+    QVERIFY(program.reply(step(1)).isNull());
+    QCOMPARE(log.warnings().size(), 1);
+    QVERIFY(log.warnings().constFirst().endsWith(
+        QStringLiteral("Too much data for an answer \"%1\"").arg(program.dataPath(step(1)))));
     QVERIFY(log.warnings().constFirst().contains(source()));
 }
 
