@@ -80,9 +80,9 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
             return false;
         }
     }
-    QString path = QDir(location).filePath(name);
+    QString path = QDir(location).absoluteFilePath(name);
     for (int number = 2; isTaken(path); ++number) {
-        path = QDir(location).filePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
+        path = QDir(location).absoluteFilePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
     }
     if (!QDir().rename(made, path)) {
         *error =

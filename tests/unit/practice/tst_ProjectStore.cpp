@@ -22,6 +22,7 @@ class TestProjectStore : public QObject
 private Q_SLOTS:
     void writesTheFilesIntoANewFolder();
     void givesTheFolderTheUsualPermissions();
+    void tellsTheFullPathOfARelativePlace();
     void touchesNothingThatIsThere();
     void keepsTheNameThatGetsANumber();
     void passesOverALinkToNowhere();
@@ -68,6 +69,21 @@ void TestProjectStore::givesTheFolderTheUsualPermissions()
     QCOMPARE(QFile::permissions(room.filePath(QStringLiteral("P/data"))), usual);
     QCOMPARE(QDir(room.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
              QStringList({QStringLiteral("P"), QStringLiteral("usual")}));
+}
+
+void TestProjectStore::tellsTheFullPathOfARelativePlace()
+{
+    const QTemporaryDir room;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(room.path()));
+    ProjectStore store(kLocale);
+    QString error;
+    const bool isMade = store.create(QStringLiteral("games"), QStringLiteral("P"),
+                                     {{QStringLiteral("data/a.json"), QStringLiteral("[1]")}}, &error);
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY2(isMade, qPrintable(error));
+    QCOMPARE(store.path(), QDir(room.path()).canonicalPath() + QStringLiteral("/games/P"));
+    QVERIFY(store.file(QStringLiteral("data/a.json")).isArray());
 }
 
 void TestProjectStore::touchesNothingThatIsThere()
