@@ -16,8 +16,9 @@
 class FrameReader
 {
 public:
-    /// The most bytes that wait. The texts and fields made of so many still fit Qt's containers.
-    static constexpr int kMostBytes = 1 << 27;
+    /// The most bytes that wait: a log line may hold them as six characters each, of three bytes for a
+    /// moment, and that still has to fit Qt's containers.
+    static constexpr int kMostBytes = 1 << 26;
 
     /// @p mostBytes is for tests.
     explicit FrameReader(int mostBytes = kMostBytes)
