@@ -1,14 +1,19 @@
 #include "FakeHost.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 #include <QUuid>
+
+#include <algorithm>
 
 #include <unistd.h>
 
 namespace {
 
-constexpr int kEndMs = 1000; // a program that a test has stopped does not end
+constexpr int kEndMs = 10000; // a program that hangs does not end
+const QString kHeartbeat = QStringLiteral("TutorialManager::send 1396 \"alive\"");
 
 } // namespace
 
@@ -68,6 +73,15 @@ bool FakeHost::waitForConnection()
 void FakeHost::disconnectLink()
 {
     m_socket->disconnectFromServer();
+}
+
+void FakeHost::answerHeartbeats()
+{
+    QObject::connect(m_socket, &QLocalSocket::readyRead, m_socket, [this] {
+        for (const int alive = aliveCount(); m_answered < alive; ++m_answered) {
+            send({QStringLiteral("alive")});
+        }
+    });
 }
 
 qint64 FakeHost::addressSpace() const
@@ -166,6 +180,45 @@ bool FakeHost::sync()
     send({QStringLiteral("applicationWindowSize"), QString::number(m_syncCount), QStringLiteral("77001")});
     return waitForLog(
         QStringLiteral("TutorialManager::setApplicationWindowSize 596 %1 77001").arg(m_syncCount));
+}
+
+bool FakeHost::syncBothWays()
+{
+    // Both ends keep the order: the first heartbeat after the answer in the log arrives behind all before it.
+    return sync() && waitFor([this, next = heartbeats() + 1] { return aliveCount() >= next; });
+}
+
+void FakeHost::stampLog()
+{
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.insert(QStringLiteral("QT_MESSAGE_PATTERN"), QStringLiteral("%{time process} %{message}"));
+    m_process.setProcessEnvironment(environment);
+}
+
+int FakeHost::heartbeats()
+{
+    QCoreApplication::processEvents(); // what has been written and not been read yet
+    return log().count(kHeartbeat);
+}
+
+QVector<qint64> FakeHost::sortedHeartbeatGaps()
+{
+    static const QRegularExpression line(QStringLiteral("^ *(\\d+\\.\\d+) .*") +
+                                             QRegularExpression::escape(kHeartbeat),
+                                         QRegularExpression::MultilineOption);
+    const QString logged = log();
+    QVector<qint64> gaps;
+    qint64 last = -1;
+    QRegularExpressionMatchIterator matches = line.globalMatch(logged);
+    while (matches.hasNext()) {
+        const qint64 time = qRound64(matches.next().captured(1).toDouble() * 1000.0);
+        if (last >= 0) {
+            gaps += time - last;
+        }
+        last = time;
+    }
+    std::sort(gaps.begin(), gaps.end());
+    return gaps;
 }
 
 bool FakeHost::waitForEnd(int limitMs)

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -18,7 +19,8 @@
 class FakeHost
 {
 public:
-    static constexpr int kLimitMs = 10000;
+    /// Only what never happens takes this long, so it allows for a machine that stands still for a while.
+    static constexpr int kLimitMs = 60000;
 
     FakeHost();
     ~FakeHost();
@@ -33,6 +35,9 @@ public:
     bool waitForConnection();
     /// The connection goes down.
     void disconnectLink();
+    /// Answers each "alive", as a host editor does: without it the program ends after 30 seconds in which
+    /// nothing else is sent.
+    void answerHeartbeats();
 
     /// Leaves what the program sends where it is, until the system takes no more of it; and takes it again.
     void stopReading();
@@ -67,6 +72,16 @@ public:
     bool waitForLog(const QString &text);
     /// Waits until the program has handled all that was sent: asks it something and waits for the answer.
     bool sync();
+    /// The same, and until all that it had sent by then has arrived: waits for the heartbeat behind it.
+    bool syncBothWays();
+
+    /// Has the program write its own time into each line of its log. To be called before it starts.
+    void stampLog();
+    /// Heartbeats in what the program has logged up to now.
+    [[nodiscard]] int heartbeats();
+    /// Milliseconds between one heartbeat and the next by the program's own clock, the shortest first: how
+    /// late the test comes to look makes no difference. Needs stampLog().
+    [[nodiscard]] QVector<qint64> sortedHeartbeatGaps();
 
     /// Waits for the end of the program.
     bool waitForEnd(int limitMs = kLimitMs);
@@ -85,4 +100,5 @@ private:
     QByteArray m_received;
     QByteArray m_log;
     int m_syncCount = 0;
+    int m_answered = 0;
 };

@@ -42,7 +42,7 @@ void tst_Dispatch::ignores_unknown_words_silently()
     host.send({QString()});
     host.send({QStringLiteral("state"), QStringLiteral("sideways")});
     host.send({QStringLiteral("windowStack"), QStringLiteral("pop")});
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QString after = host.log().mid(before.size());
     // Only the heartbeat and the answer that sync() waits for may stand there.
     const QStringList lines = after.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -61,7 +61,7 @@ void tst_Dispatch::compares_words_exactly()
     host.send({QStringLiteral("TutorialList")});
     host.send({QStringLiteral("tutorialList ")});
     host.send({QStringLiteral("alive")});
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QVERIFY(host.payloads().isEmpty());
 }
 
@@ -71,7 +71,7 @@ void tst_Dispatch::ignores_contents_and_log()
     QVERIFY(host.start());
     host.send({QStringLiteral("contents"), QString(100000, QLatin1Char('x'))});
     host.send({QStringLiteral("log"), QStringLiteral("append"), QStringLiteral("text")});
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QVERIFY(host.payloads().isEmpty());
 }
 
@@ -191,10 +191,8 @@ void tst_Dispatch::ignores_a_second_show_within_ten_ticks()
     FakeHost host;
     QVERIFY(host.start());
     host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
-    host.send({QStringLiteral("start")});
-    host.send({QStringLiteral("state"), QStringLiteral("hide")});
-    host.send({QStringLiteral("state"), QStringLiteral("show")});
-    host.send({QStringLiteral("state"), QStringLiteral("show")});
+    // In one piece, so that no ticks lie between.
+    host.write(FakeHost::frame("start\x02state\x01hide\x02state\x01show\x02state\x01show"));
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::timerEvent 460 m_logHideIgnoreTimeout now 0")));
     QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout set to 10")), 1);
     QCOMPARE(host.log().count(QStringLiteral("TutorialManager::timerEvent 427")), 1);
@@ -235,7 +233,7 @@ void tst_Dispatch::says_what_did_not_load_and_stays()
     host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialList")});
     QVERIFY(host.waitForLog(QStringLiteral(
         "TutorialManager::loadAndFeedback 1477 Failed to loadTutorial \"json is not array\"")));
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QVERIFY(host.payloads().isEmpty());
     host.send({QStringLiteral("tutorial"), QStringLiteral("TutorialStep1")});
     QVERIFY(host.waitForPayloads(1));
@@ -247,7 +245,7 @@ void tst_Dispatch::refuses_a_bad_step_name()
     QVERIFY(host.start());
     host.send({QStringLiteral("requestPresetData"), QStringLiteral("stepX")});
     QVERIFY(host.waitForLog(QStringLiteral("Failed to get stepNumber \"stepX\"")));
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QVERIFY(host.payloads().isEmpty());
 }
 
@@ -257,7 +255,7 @@ void tst_Dispatch::reports_preset_data_that_is_not_there()
     QVERIFY(host.start());
     host.send({QStringLiteral("requestPresetData"), QStringLiteral("step4711")});
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onReceived 1001 presetData not found")));
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QVERIFY(host.payloads().isEmpty());
 }
 
@@ -284,7 +282,7 @@ void tst_Dispatch::answers_with_the_preset_data_beside_the_program()
     host.send({QStringLiteral("requestPresetData"), QStringLiteral("step10")});
     host.send({QStringLiteral("requestPresetData"), QStringLiteral("step2")});
     QVERIFY(host.waitForPayloads(1));
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     const QString reply = QStringLiteral("feedbackPresetData\x01{\"data/Actors.json\":"
                                          "\"[{\\\"name\\\":\\\"\u52c7\u8005\\\"}]\"}");
     QCOMPARE(host.payloads(), QStringList{reply});

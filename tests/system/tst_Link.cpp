@@ -103,12 +103,15 @@ void tst_Link::runs_two_frames_of_one_read_in_order()
 void tst_Link::sends_alive_each_second()
 {
     FakeHost host;
+    host.stampLog();
     QVERIFY(host.start());
-    QVERIFY(FakeHost::waitFor([&host] { return host.aliveCount() >= 1; }));
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(FakeHost::waitFor([&host] { return host.aliveCount() >= 4; }));
-    QVERIFY2(clock.elapsed() > 2500 && clock.elapsed() < 4000, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY(FakeHost::waitFor([&host] { return host.aliveCount() >= 6 && host.heartbeats() >= 6; }));
+    const QVector<qint64> gaps = host.sortedHeartbeatGaps();
+    QVERIFY(gaps.size() >= 5);
+    // Ten ticks lie between two heartbeats. After one that came late the next two follow early.
+    QVERIFY2(gaps.constFirst() > 750, qPrintable(QString::number(gaps.constFirst())));
+    const qint64 usual = gaps.at(gaps.size() / 2);
+    QVERIFY2(usual > 850 && usual < 1300, qPrintable(QString::number(usual)));
 }
 
 void tst_Link::frames_its_answers()
@@ -143,7 +146,7 @@ void tst_Link::drops_what_stands_behind_bye_and_stays()
                FakeHost::frame("tutorialList"));
     // What follows must not come with the same read.
     QVERIFY(host.waitForPayloads(1));
-    QVERIFY(host.sync());
+    QVERIFY(host.syncBothWays());
     QCOMPARE(host.payloads().size(), 1);
     QCOMPARE(host.process().state(), QProcess::Running);
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kSoonMs = 15000;
+constexpr int kSoonMs = 25000; // what ends after 30 silent seconds has to end before
 
 /// Process ids of the children of @p parent.
 QVector<qint64> childrenOf(qint64 parent)
@@ -36,6 +36,12 @@ bool isAlive(qint64 pid)
 {
     QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
     return stat.open(QIODevice::ReadOnly) && !stat.readAll().contains(") Z ");
+}
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void end(qint64 pid, int signal)
@@ -125,21 +131,32 @@ void TestPracticeLife::closingTheEditorEndsTheCompanion()
 
 void TestPracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
 {
+    // The companion writes its log where it can be read when the editor is gone.
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("log"));
+    QFile wrapper(folder.filePath(QStringLiteral("Guide")));
+    QVERIFY(wrapper.open(QIODevice::WriteOnly));
+    wrapper.write(QStringLiteral("#!/bin/sh\nexec '" TUTORIAL_PROGRAM "' \"$@\" 2>'%1'\n").arg(log).toUtf8());
+    wrapper.close();
+    QVERIFY(wrapper.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+
     QProcess editor;
-    editor.start(QStringLiteral(PRACTICE_PROGRAM), {QStringLiteral("--lesson"), QStringLiteral("1")});
-    QVERIFY(editor.waitForStarted());
-    QVector<qint64> children;
-    QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(editor.processId())).isEmpty(), kSoonMs);
-    const qint64 companion = children.constFirst();
-    // Connected is what the companion is when it has an open socket beside its standard ones.
-    QTRY_VERIFY_WITH_TIMEOUT(
-        QProcess::execute(QStringLiteral("sh"),
-                          {QStringLiteral("-c"),
-                           QStringLiteral("ls -l /proc/%1/fd | grep -q socket:").arg(companion)}) == 0,
-        kSoonMs);
+    editor.start(QStringLiteral(PRACTICE_PROGRAM), {QStringLiteral("--lesson"), QStringLiteral("1"),
+                                                    QStringLiteral("--companion"), wrapper.fileName()});
+    QVERIFY(editor.waitForStarted(kSoonMs));
+    QTRY_VERIFY_WITH_TIMEOUT(contentsOf(log).contains("TutorialManager::onConnected 408"), kSoonMs);
+    const qint64 companion = childrenOf(editor.processId()).value(0);
+    QVERIFY(isAlive(companion));
     end(editor.processId(), SIGKILL);
-    QTRY_VERIFY_WITH_TIMEOUT(!isAlive(companion), 1000);
-    editor.waitForFinished();
+    QVERIFY(editor.waitForFinished(kSoonMs));
+    // Each second of the companion's own time is a heartbeat in its log, however late anyone is to look.
+    const auto heartbeats = [&log] {
+        return contentsOf(log).count("TutorialManager::send 1396 \"alive\"");
+    };
+    const int before = heartbeats();
+    QTRY_VERIFY_WITH_TIMEOUT(!isAlive(companion), kSoonMs);
+    QVERIFY(contentsOf(log).contains("TutorialManager::onDisconnected 414"));
+    QVERIFY2(heartbeats() <= before + 1, contentsOf(log).constData());
 }
 
 void TestPracticeLife::aTerminatedEditorLeavesNothingBehind()
@@ -220,7 +237,7 @@ void TestPracticeLife::aLossIsToldInThePersonsLanguage()
     QVERIFY2(details.contains(guide, Qt::CaseInsensitive), qPrintable(details));
     QVERIFY2(details.contains(inLanguage.companionProgram), qPrintable(details));
     acceptButton(*messageBox())->click();
-    QTRY_VERIFY(messageBox() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() == nullptr, kSoonMs);
 }
 
 void TestPracticeLife::startAgainBringsALostCompanionBack()
@@ -240,7 +257,7 @@ void TestPracticeLife::startAgainBringsALostCompanionBack()
     }
     QVERIFY(start != nullptr);
     start->click();
-    QTRY_VERIFY(messageBox() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() == nullptr, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
     QCOMPARE(childrenOf(QCoreApplication::applicationPid()).size(), 1);
 }

@@ -25,7 +25,7 @@ private:
 
 namespace {
 
-constexpr int kSoonMs = 15000;
+constexpr int kSoonMs = 60000;
 
 QStringList rowsOf(const EditorProject &project, const QString &source)
 {
