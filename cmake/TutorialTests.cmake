@@ -27,7 +27,7 @@ endforeach()
 function(tutorial_add_test name label)
     cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBRARIES;ENVIRONMENT;WINDOW_MANAGERS" ${ARGN})
     if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 120)
+        set(arg_TIMEOUT 300)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE tutorial_options tutorial_test_support Qt5::Test ${arg_LIBRARIES})
@@ -60,8 +60,8 @@ endfunction()
 #
 # Registers a command as desktop tests, one under each window manager. tutorial_add_test uses it for test programs.
 function(tutorial_add_desktop_run name window_managers timeout environment)
-    # The display ends before ctest loses patience, so that nothing of it stays behind.
-    math(EXPR limit "${timeout} - 10")
+    # The display ends before ctest loses patience, so that nothing of it stays behind, however long it took to begin.
+    math(EXPR limit "${timeout} - 60")
     if(NOT window_managers)
         set(window_managers xfwm4)
     endif()

@@ -8,14 +8,24 @@ namespace XWindows {
 
 namespace {
 
+constexpr int kLimitMs = 30000;
+constexpr int kLooks = 100;
+
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(10000)) {
-        return QStringLiteral("%1 did not end").arg(program).toUtf8();
+    // The tools end in the middle when any window of anyone goes away under their eyes: that look does not
+    // count.
+    for (int look = 0; look < kLooks; ++look) {
+        QProcess process;
+        process.start(program, arguments);
+        if (!process.waitForFinished(kLimitMs)) {
+            return QStringLiteral("%1 did not end").arg(program).toUtf8();
+        }
+        if (!process.readAllStandardError().contains("X Error of failed request")) {
+            return process.readAllStandardOutput();
+        }
     }
-    return process.readAllStandardOutput();
+    return QStringLiteral("%1 never came to its end").arg(program).toUtf8();
 }
 
 } // namespace
@@ -71,15 +81,51 @@ int opacitySteps(const QString &id)
     return opacity.isEmpty() ? 255 : static_cast<int>(opacity.toULongLong() / 0x01010101U);
 }
 
+quintptr idOf(const Window &window)
+{
+    return window.id.toULongLong(nullptr, 16);
+}
+
+QPoint positionOf(quintptr window)
+{
+    const QString info = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(window)});
+    const auto number = [&info](const QString &axis) {
+        const QRegularExpression line(QStringLiteral("Absolute upper-left %1: +(-?\\d+)").arg(axis));
+        return line.match(info).captured(1).toInt();
+    };
+    return {number(QStringLiteral("X")), number(QStringLiteral("Y"))};
+}
+
 quintptr activeWindow()
 {
     return run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed().toULongLong();
 }
 
-void click(const QPoint &at)
+bool takesClick(quintptr window, const QPoint &at)
 {
-    run(QStringLiteral("xdotool"), {QStringLiteral("mousemove"), QString::number(at.x()),
-                                    QString::number(at.y()), QStringLiteral("click"), QStringLiteral("1")});
+    const QString seen = run(QStringLiteral("xdotool"),
+                             {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
+                              QStringLiteral("getmouselocation"), QStringLiteral("--shell")});
+    const quintptr taker = seen.section(QStringLiteral("WINDOW="), 1).trimmed().toULongLong();
+    if (taker == window) {
+        return true;
+    }
+    // Some window managers' frames answer for the window in them.
+    const QString tree = run(QStringLiteral("xwininfo"),
+                             {QStringLiteral("-tree"), QStringLiteral("-id"), QString::number(window)});
+    const auto relative = [&tree](const QString &which) {
+        const QRegularExpression line(which + QStringLiteral(" window id: (0x[0-9a-f]+)"));
+        return line.match(tree).captured(1).toULongLong(nullptr, 16);
+    };
+    const quintptr frame = relative(QStringLiteral("Parent"));
+    return taker == frame && frame != 0 && frame != relative(QStringLiteral("Root"));
+}
+
+void click(const QPoint &at, int button)
+{
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
+         QStringLiteral("click"), QString::number(button)});
     QCoreApplication::processEvents();
 }
 

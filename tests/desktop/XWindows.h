@@ -31,11 +31,20 @@ QString property(const QString &id, const QString &name);
 /// The opacity that the window asks for, in 255 steps; 255 when it asks for none.
 int opacitySteps(const QString &id);
 
+quintptr idOf(const Window &window);
+
+/// Where the window itself is, without a frame.
+QPoint positionOf(quintptr window);
+
 /// The window that has the focus, as the window manager tells it; 0 for none.
 quintptr activeWindow();
 
-/// One click of the left button on the root window.
-void click(const QPoint &at);
+/// Moves the pointer to @p at, and tells whether a click there goes to @p window: the X server has it there,
+/// and whatever lies above lets the click through.
+bool takesClick(quintptr window, const QPoint &at);
+
+/// One click of a button of the mouse, the left one by default.
+void click(const QPoint &at, int button = 1);
 
 /// What a part of the screen shows, put together by the compositor.
 QImage screenshot(const QRect &area);

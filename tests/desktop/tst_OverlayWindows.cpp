@@ -2,14 +2,15 @@
 #include "TestIndicator.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/overlay/OverlayStyle.h"
+#include "XWindows.h"
 
 #include <QMouseEvent>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QtTest>
 
 namespace {
+
+constexpr int kSoonMs = 30000;
 
 // A window under the overlays that counts what the mouse does to it.
 class WindowBelow final : public QWidget
@@ -25,42 +26,22 @@ protected:
     }
 };
 
-QString run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(10000)) {
-        return QStringLiteral("%1 did not end").arg(program);
-    }
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
-
-QString idOf(const QWidget *widget)
-{
-    return QString::number(widget->winId());
-}
-
-void click(const QPoint &at)
-{
-    run(QStringLiteral("xdotool"), {QStringLiteral("mousemove"), QString::number(at.x()),
-                                    QString::number(at.y()), QStringLiteral("click"), QStringLiteral("1")});
-    QCoreApplication::processEvents();
-}
-
 // Where the X server has the window, in root coordinates: Qt's own idea of it may differ.
 QPoint positionOf(const QWidget *widget)
 {
-    const QString info = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), idOf(widget)});
-    const auto number = [&info](const QString &axis) {
-        const QRegularExpression line(QStringLiteral("Absolute upper-left %1: +(-?\\d+)").arg(axis));
-        return line.match(info).captured(1).toInt();
-    };
-    return {number(QStringLiteral("X")), number(QStringLiteral("Y"))};
+    return XWindows::positionOf(widget->winId());
 }
 
-QString activeWindowId()
+bool clickOn(const QWidget *button, const QPoint &spot)
 {
-    return run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed();
+    const auto isReady = [button, spot] {
+        return XWindows::takesClick(button->winId(), positionOf(button) + spot);
+    };
+    if (!QTest::qWaitFor(isReady, kSoonMs)) {
+        return false;
+    }
+    XWindows::click(positionOf(button) + spot);
+    return true;
 }
 
 } // namespace
@@ -103,7 +84,7 @@ void TestOverlayWindows::init()
     m_below->setGeometry(60, 60, 900, 700);
     m_below->show();
     m_below->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_below.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_below.get(), kSoonMs));
     m_indicator = std::make_unique<TestIndicator>(&m_host);
 }
 
@@ -114,21 +95,11 @@ void TestOverlayWindows::cleanup()
     m_below.reset();
 }
 
-// The window manager may be a moment behind; from the first click that arrives on, all must.
+// The window manager may be a moment behind; from then on, all clicks must arrive.
 void TestOverlayWindows::waitUntilClickThrough(QWidget *overlay, const QPoint &spot)
 {
-    QVERIFY(QTest::qWaitForWindowExposed(overlay));
-    m_below->presses = 0;
-    const auto arrived = [this] {
-        return m_below->presses > 0;
-    };
-    bool passed = false;
-    for (int attempt = 0; attempt < 20 && !passed; ++attempt) {
-        click(overlay->mapToGlobal(spot));
-        passed = QTest::qWaitFor(arrived, 250);
-    }
-    QVERIFY(passed);
-    m_below->presses = 0;
+    QVERIFY(QTest::qWaitForWindowExposed(overlay, kSoonMs));
+    QTRY_VERIFY_WITH_TIMEOUT(XWindows::takesClick(m_below->winId(), positionOf(overlay) + spot), kSoonMs);
 }
 
 void TestOverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots)
@@ -138,14 +109,15 @@ void TestOverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPo
         if (QTest::currentTestFailed()) {
             return;
         }
+        m_below->presses = 0;
         int clicks = 0;
         for (const QPoint &spot : spots) {
-            click(overlay->mapToGlobal(spot));
+            XWindows::click(positionOf(overlay) + spot);
             ++clicks;
-            QTRY_COMPARE(m_below->presses, clicks);
+            QTRY_COMPARE_WITH_TIMEOUT(m_below->presses, clicks, kSoonMs);
         }
         overlay->hide();
-        QTRY_VERIFY(!overlay->windowHandle()->isExposed());
+        QTRY_VERIFY_WITH_TIMEOUT(!overlay->windowHandle()->isExposed(), kSoonMs);
         overlay->show();
     }
 }
@@ -174,31 +146,32 @@ void TestOverlayWindows::buttonsTakeTheirClicks()
     m_indicator->init(false, true);
     m_indicator->showTooltip();
     m_indicator->tick(60);
-    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::yes()));
-    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no()));
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::yes(), kSoonMs));
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no(), kSoonMs));
     waitUntilClickThrough(m_indicator->tooltip(), {500, 400});
     if (QTest::currentTestFailed()) {
         return;
     }
     // No stands 56 pixels to the right and lies above the last 8 of Yes.
-    click(positionOf(TestIndicator::yes()) + QPoint(20, 16));
-    QTRY_COMPARE(m_host.sent, QStringList(QStringLiteral("yes")));
-    click(positionOf(TestIndicator::no()) + QPoint(40, 16));
-    QTRY_COMPARE(m_host.sent, QStringList({QStringLiteral("yes"), QStringLiteral("no")}));
+    QVERIFY(clickOn(TestIndicator::yes(), {20, 16}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_host.sent, QStringList(QStringLiteral("yes")), kSoonMs);
+    QVERIFY(clickOn(TestIndicator::no(), {40, 16}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_host.sent, QStringList({QStringLiteral("yes"), QStringLiteral("no")}),
+                              kSoonMs);
     QCOMPARE(m_below->presses, 0);
 }
 
 void TestOverlayWindows::focusStaysBelow()
 {
-    QTRY_COMPARE(activeWindowId(), idOf(m_below.get()));
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::activeWindow(), quintptr(m_below->winId()), kSoonMs);
     m_indicator->setHint(QStringLiteral("Here"));
     m_indicator->init(true, true);
     m_indicator->showTooltip();
     EditorTooltip::show(&m_host, QStringLiteral("There"), 400, 300);
-    QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip()));
-    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no()));
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
-    QCOMPARE(activeWindowId(), idOf(m_below.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip(), kSoonMs));
+    QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no(), kSoonMs));
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip, kSoonMs));
+    QCOMPARE(XWindows::activeWindow(), quintptr(m_below->winId()));
     QCOMPARE(QApplication::activeWindow(), m_below.get());
 }
 
@@ -221,12 +194,13 @@ void TestOverlayWindows::bubbleReachesBeyondTheScreen()
     QVERIFY((rest - target).manhattanLength() <= 6);
     for (int round = 0; round < 3; ++round) {
         m_indicator->showTooltip();
-        QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip()));
-        QTRY_COMPARE(positionOf(m_indicator->tooltip()), rest);
-        QCOMPARE(m_indicator->state("tooltipX").toInt(), rest.x());
-        QCOMPARE(m_indicator->state("tooltipY").toInt(), rest.y());
+        QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip(), kSoonMs));
+        QTRY_COMPARE_WITH_TIMEOUT(positionOf(m_indicator->tooltip()), rest, kSoonMs);
+        // Qt hears of it later than the X server.
+        QTRY_COMPARE_WITH_TIMEOUT(m_indicator->state("tooltipX").toInt(), rest.x(), kSoonMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_indicator->state("tooltipY").toInt(), rest.y(), kSoonMs);
         m_indicator->hideTooltip();
-        QTRY_VERIFY(!m_indicator->tooltip()->windowHandle()->isExposed());
+        QTRY_VERIFY_WITH_TIMEOUT(!m_indicator->tooltip()->windowHandle()->isExposed(), kSoonMs);
     }
 }
 
@@ -236,8 +210,9 @@ void TestOverlayWindows::tooltipReachesBeyondTheScreen()
     const QPoint point(screen.width() - 60, screen.height() - 40);
     EditorTooltip::show(&m_host, QStringLiteral("At the edge"), point.x(), point.y());
     const QWidget *const text = m_host.tooltip->findChild<QTextEdit *>();
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip));
-    QTRY_COMPARE(positionOf(m_host.tooltip), point - QPoint(text->width() / 2, text->height() / 2));
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip, kSoonMs));
+    QTRY_COMPARE_WITH_TIMEOUT(positionOf(m_host.tooltip),
+                              point - QPoint(text->width() / 2, text->height() / 2), kSoonMs);
 }
 
 QTEST_MAIN(TestOverlayWindows)

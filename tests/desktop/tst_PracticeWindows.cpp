@@ -1,4 +1,5 @@
 #include "PracticeEditor.h"
+#include "XWindows.h"
 #include "pilot/OverlayWatch.h"
 #include "pilot/Placement.h"
 #include "runner/Scenario.h"
@@ -14,27 +15,26 @@
 
 namespace {
 
-constexpr int kSoonMs = 15000;
+constexpr int kSoonMs = 30000;
 
-QByteArray outputOf(const QString &program, const QStringList &arguments)
+/// A click of the real mouse at a place in a widget, as soon as the X server would give it to the widget's
+/// window: one that is only just shown, or still lies below a window on its way out, gets none.
+bool clickOn(const QWidget *widget, const QPoint &place, int button = 1)
 {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return process.readAllStandardOutput();
+    const QWidget *window = widget->window();
+    const auto onScreen = [widget, window, place] {
+        return XWindows::positionOf(window->winId()) + widget->mapTo(window, place);
+    };
+    if (!QTest::qWaitFor([&] { return XWindows::takesClick(window->winId(), onScreen()); }, kSoonMs)) {
+        return false;
+    }
+    XWindows::click(onScreen(), button);
+    return true;
 }
 
-/// A click of the real mouse, at a place on the screen.
-void click(const QPoint &spot, int button = 1)
+bool clickOn(const QWidget *widget)
 {
-    outputOf(QStringLiteral("xdotool"),
-             {QStringLiteral("mousemove"), QString::number(spot.x()), QString::number(spot.y()),
-              QStringLiteral("click"), QString::number(button)});
-}
-
-void click(const QWidget *widget)
-{
-    click(widget->mapToGlobal(widget->rect().center()));
+    return clickOn(widget, widget->rect().center());
 }
 
 template<typename Widget>
@@ -76,7 +76,7 @@ private:
     /// Whether the arrow on the screen points at the spot of the present step.
     [[nodiscard]] bool isPointing() const;
     [[nodiscard]] int stepId() const;
-    [[nodiscard]] QPoint spot() const;
+    [[nodiscard]] bool clickSpot() const;
     [[nodiscard]] QWidget *mainWindow() const { return m_windows->window(QStringLiteral("MainWindow")); }
     void openNewProject();
 
@@ -99,11 +99,10 @@ void TestPracticeWindows::init()
     QString error;
     QVERIFY2(m_editor->start(&error), qPrintable(error));
     QTRY_VERIFY_WITH_TIMEOUT(m_editor->session().runner().isRunning(), kSoonMs);
-    m_companion = QString::fromLatin1(
-        outputOf(QStringLiteral("pgrep"),
-                 {QStringLiteral("-n"), QStringLiteral("-P"),
-                  QString::number(QCoreApplication::applicationPid()), QStringLiteral("Tutorial")})
-            .trimmed());
+    m_companion = XWindows::run(QStringLiteral("pgrep"), {QStringLiteral("-n"), QStringLiteral("-P"),
+                                                          QString::number(QCoreApplication::applicationPid()),
+                                                          QStringLiteral("Tutorial")})
+                      .trimmed();
     QVERIFY(!m_companion.isEmpty());
     // The first two steps are read; the third asks for a click on "New". Until it rests, the bubble takes its
     // button along, and a click would come too late for the place that was looked up.
@@ -118,10 +117,11 @@ void TestPracticeWindows::cleanup()
 OverlayWatch TestPracticeWindows::overlays() const
 {
     return OverlayWatch::parse(
-        outputOf(QStringLiteral("xdotool"),
-                 {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-                  QStringLiteral("--pid"), m_companion, QStringLiteral("--name"), QString(),
-                  QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")}));
+        XWindows::run(QStringLiteral("xdotool"),
+                      {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+                       QStringLiteral("--pid"), m_companion, QStringLiteral("--name"), QString(),
+                       QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")})
+            .toLatin1());
 }
 
 bool TestPracticeWindows::isReadable() const
@@ -144,36 +144,48 @@ int TestPracticeWindows::stepId() const
     return m_editor->session().runner().isRunning() ? m_editor->session().runner().step().id : -1;
 }
 
-QPoint TestPracticeWindows::spot() const
+/// Clicks what the arrow points at in the main window, once it does.
+bool TestPracticeWindows::clickSpot() const
 {
-    return arrowSpot(overlays().bubble->topLeft(), *m_editor->session().bubbleTarget()).value();
+    std::optional<QPoint> spot;
+    const auto isReady = [this, &spot] {
+        const OverlayWatch seen = overlays();
+        const std::optional<QPoint> target = m_editor->session().bubbleTarget();
+        spot = seen.bubble && target ? arrowSpot(seen.bubble->topLeft(), *target) : std::nullopt;
+        return spot && XWindows::takesClick(mainWindow()->winId(), *spot);
+    };
+    if (!QTest::qWaitFor(isReady, kSoonMs)) {
+        return false;
+    }
+    XWindows::click(*spot);
+    return true;
 }
 
 /// Skips to the step at "New", and does it.
 void TestPracticeWindows::openNewProject()
 {
-    click(find<QAbstractButton>("skipButton"));
-    QTRY_COMPARE(stepId(), 2);
-    click(find<QAbstractButton>("skipButton"));
-    QTRY_COMPARE(stepId(), 3);
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 3, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
-    click(spot());
-    QTRY_COMPARE(stepId(), 4);
+    QVERIFY(clickSpot());
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
 }
 
 void TestPracticeWindows::theArrowFollowsTheMainWindow()
 {
-    click(find<QAbstractButton>("skipButton"));
-    click(find<QAbstractButton>("skipButton"));
-    QTRY_COMPARE(stepId(), 3);
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 3, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
     const QPoint before = *m_editor->session().bubbleTarget();
     mainWindow()->move(mainWindow()->pos() + QPoint(60, 50));
-    QTRY_VERIFY(*m_editor->session().bubbleTarget() != before);
+    QTRY_VERIFY_WITH_TIMEOUT(*m_editor->session().bubbleTarget() != before, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
-    click(spot());
-    QTRY_COMPARE(stepId(), 4);
+    QVERIFY(clickSpot());
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
 }
 
 void TestPracticeWindows::theOverlaysGoAndComeWithTheEditor()
@@ -187,12 +199,12 @@ void TestPracticeWindows::theOverlaysGoAndComeWithTheEditor()
     QWidget elsewhere;
     elsewhere.setGeometry(1150, 850, 100, 80);
     elsewhere.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&elsewhere));
-    click(&elsewhere);
-    QTRY_VERIFY(elsewhere.isActiveWindow());
+    QVERIFY(QTest::qWaitForWindowExposed(&elsewhere, kSoonMs));
+    QVERIFY(clickOn(&elsewhere));
+    QTRY_VERIFY_WITH_TIMEOUT(elsewhere.isActiveWindow(), kSoonMs);
     mainWindow()->showMinimized();
     QTRY_VERIFY_WITH_TIMEOUT(!overlays().bubble, kSoonMs);
-    QVERIFY(overlays().buttons.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(overlays().buttons.isEmpty(), kSoonMs);
     QVERIFY(!strip->isVisible());
     mainWindow()->showNormal();
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
@@ -207,8 +219,8 @@ void TestPracticeWindows::aStepIsSkippedWhileADialogIsOpen()
     if (QTest::currentTestFailed()) {
         return;
     }
-    click(find<QAbstractButton>("skipButton"));
-    QTRY_COMPARE(stepId(), 5);
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 5, kSoonMs);
     QVERIFY(m_windows->openWindows().contains(QStringLiteral("NewProject")));
 }
 
@@ -220,12 +232,12 @@ void TestPracticeWindows::theArrowComesBackToADialogThatWasClosed()
     }
     const QLabel *status = find<QLabel>("statusLabel");
     const QString step = status->text();
-    click(m_windows->window(QStringLiteral("NewProject"))
-              ->findChild<QAbstractButton *>(QStringLiteral("cancel")));
-    QTRY_COMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
+    QVERIFY(clickOn(m_windows->window(QStringLiteral("NewProject"))
+                        ->findChild<QAbstractButton *>(QStringLiteral("cancel"))));
+    QTRY_COMPARE_WITH_TIMEOUT(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")}, kSoonMs);
     QCOMPARE(stepId(), 4);
     QVERIFY2(status->text().contains(QStringLiteral("\"New project\"")), qPrintable(status->text()));
-    click(mainWindow()->findChild<QAbstractButton *>(QStringLiteral("fileNew")));
+    QVERIFY(clickOn(mainWindow()->findChild<QAbstractButton *>(QStringLiteral("fileNew"))));
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
     QCOMPARE(status->text(), step);
 }
@@ -233,17 +245,17 @@ void TestPracticeWindows::theArrowComesBackToADialogThatWasClosed()
 void TestPracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
 {
     m_windows->project()->run(QStringLiteral("newProject.create"));
-    click(find<QAbstractButton>("skipButton"));
-    click(find<QAbstractButton>("skipButton"));
-    QTRY_COMPARE(stepId(), 3);
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 3, kSoonMs);
     m_windows->open(QStringLiteral("MapProperties"));
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
-    click(m_windows->window(QStringLiteral("MapProperties"))
-              ->findChild<QAbstractButton *>(QStringLiteral("cancel")));
-    QTRY_COMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
+    QVERIFY(clickOn(m_windows->window(QStringLiteral("MapProperties"))
+                        ->findChild<QAbstractButton *>(QStringLiteral("cancel"))));
+    QTRY_COMPARE_WITH_TIMEOUT(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")}, kSoonMs);
     QVERIFY(isPointing());
-    click(spot());
-    QTRY_COMPARE(stepId(), 4);
+    QVERIFY(clickSpot());
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
 }
 
 void TestPracticeWindows::startAgainClosesTheDialogs()
@@ -253,7 +265,7 @@ void TestPracticeWindows::startAgainClosesTheDialogs()
         return;
     }
     QSignalSpy started(&m_editor->session(), &LessonSession::started);
-    click(find<QAbstractButton>("startButton"));
+    QVERIFY(clickOn(find<QAbstractButton>("startButton")));
     QTRY_COMPARE_WITH_TIMEOUT(started.size(), 1, kSoonMs);
     QCOMPARE(stepId(), 1);
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
@@ -265,12 +277,12 @@ void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
     QSignalSpy abandoned(m_windows, &EditorWindows::popupAbandoned);
     QSignalSpy popped(m_windows, &EditorWindows::popped);
     auto *maps = find<QListWidget>("maps");
-    click(maps->viewport()->mapToGlobal(maps->visualItemRect(maps->item(1)).center()), 3);
-    QTRY_COMPARE(m_windows->openWindows().constLast(), QStringLiteral("Popup"));
+    QVERIFY(clickOn(maps->viewport(), maps->visualItemRect(maps->item(1)).center(), 3));
+    QTRY_COMPARE_WITH_TIMEOUT(m_windows->openWindows().constLast(), QStringLiteral("Popup"), kSoonMs);
     const QRect next = overlays().buttons.constFirst();
-    click(next.center());
-    QTRY_COMPARE(stepId(), 2);
-    QTRY_COMPARE(abandoned.size(), 1);
+    XWindows::click(next.center());
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(abandoned.size(), 1, kSoonMs);
     QCOMPARE(popped.size(), 0);
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
 }
