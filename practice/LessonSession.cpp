@@ -237,8 +237,7 @@ void LessonSession::onMoved(const QString &windowKey, const QPoint &origin)
     }
     const std::optional<QPoint> target = bubbleTarget();
     if (target && m_pointing) {
-        Q_EMIT sends({QStringLiteral("indicator"), QStringLiteral("updateXy"), number(target->x()),
-                      number(target->y())});
+        sendPlace(*target);
     } else if (target) {
         sendStep();
     }
@@ -278,10 +277,15 @@ void LessonSession::sendFirstPlace()
     const QStringList keys = m_windows->openWindows();
     if (!keys.isEmpty()) {
         const QRect contents(m_windows->origin(keys.constFirst()), m_windows->applicationSize());
-        const QPoint place = contents.center() - ScenarioStep::kTip;
-        Q_EMIT sends(
-            {QStringLiteral("indicator"), QStringLiteral("updateXy"), number(place.x()), number(place.y())});
+        sendPlace(contents.center() - ScenarioStep::kTip);
     }
+}
+
+void LessonSession::sendPlace(const QPoint &place)
+{
+    m_place = place;
+    Q_EMIT sends(
+        {QStringLiteral("indicator"), QStringLiteral("updateXy"), number(place.x()), number(place.y())});
 }
 
 void LessonSession::sendApplicationSize()
@@ -298,6 +302,9 @@ void LessonSession::sendStep()
     const ScenarioStep &step = m_runner.step();
     const std::optional<QPoint> target = bubbleTarget();
     m_pointing = target.has_value();
+    if (m_pointing) {
+        m_place = target;
+    }
     const QPoint position = target.value_or(QPoint(ScenarioStep::kNoPosition, ScenarioStep::kNoPosition));
     Q_EMIT sends({QStringLiteral("indicator"), QStringLiteral("update"), number(position.x()),
                   number(position.y()), step.windowKey, step.hint, number(flagsOf(step)),

@@ -47,6 +47,9 @@ public:
     /// Where the bubble's window was sent for the present step, in global screen pixels; nothing when the
     /// step points nowhere or its window is not open.
     [[nodiscard]] std::optional<QPoint> bubbleTarget() const;
+    /// Where the bubble's window was sent last: for the present step, or before it when that one has no
+    /// place; in global screen pixels. Nothing before the first lesson.
+    [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_place; }
     /// Whether the present step points into a window that is not open.
     [[nodiscard]] bool lacksWindow() const;
 
@@ -86,6 +89,7 @@ private:
     void sendFirstPlace();
     void sendApplicationSize();
     void sendStep();
+    void sendPlace(const QPoint &place);
 
     EditorWindows *m_windows;
     ScenarioRunner m_runner;
@@ -94,5 +98,6 @@ private:
     QString m_lessonName;
     /// What the companion was told last: it points at the window of the step, or nowhere.
     bool m_pointing = false;
+    std::optional<QPoint> m_place;
     QSize m_applicationSize;
 };

@@ -15,6 +15,7 @@ OverlayWatch OverlayWatch::parse(const QByteArray &geometries)
 {
     OverlayWatch overlays;
     QMap<QByteArray, int> values;
+    quint64 window = 0;
     const QList<QByteArray> lines = geometries.split('\n');
     for (const QByteArray &line : lines) {
         const int equals = line.indexOf('=');
@@ -22,6 +23,9 @@ OverlayWatch OverlayWatch::parse(const QByteArray &geometries)
             continue;
         }
         values.insert(line.left(equals), line.mid(equals + 1).toInt());
+        if (line.startsWith("WINDOW=")) {
+            window = line.mid(equals + 1).toULongLong();
+        }
         if (!line.startsWith("HEIGHT=")) {
             continue;
         }
@@ -29,10 +33,10 @@ OverlayWatch OverlayWatch::parse(const QByteArray &geometries)
         if (rect.size() == kBubbleSize) {
             overlays.bubble = rect;
         } else if (rect.size() == kButtonSize) {
-            overlays.buttons.append(rect);
+            overlays.buttons.append({rect, window});
         }
     }
     std::sort(overlays.buttons.begin(), overlays.buttons.end(),
-              [](const QRect &a, const QRect &b) { return a.x() < b.x(); });
+              [](const Button &a, const Button &b) { return a.rect.x() < b.rect.x(); });
     return overlays;
 }

@@ -9,10 +9,21 @@
 /// The companion's visible windows as the X server knows them, in global screen pixels.
 struct OverlayWatch
 {
+    struct Button
+    {
+        QRect rect;
+        quint64 window = 0; ///< its id
+
+        [[nodiscard]] bool operator==(const Button &other) const
+        {
+            return rect == other.rect && window == other.window;
+        }
+    };
+
     /// The window with the hint and the arrow.
     std::optional<QRect> bubble;
     /// The buttons, from left to right: Next alone, or Yes and No.
-    QVector<QRect> buttons;
+    QVector<Button> buttons;
 
     /// Reads what "xdotool getwindowgeometry --shell" says of each window.
     [[nodiscard]] static OverlayWatch parse(const QByteArray &geometries);

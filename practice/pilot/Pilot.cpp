@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
+#include <QStyleHints>
+#include <QWindow>
 
 namespace {
 
@@ -18,10 +20,11 @@ constexpr int kTickMs = 60;
 constexpr int kRestMs = 110;
 // Small enough, and fast: Qt takes 0 to 100 from smallest to uncompressed.
 constexpr int kFastPng = 75;
-constexpr int kToolMs = 10000;
-constexpr int kSettleMs = 10000;
-constexpr int kConditionMs = 6000;
-constexpr int kWaitMs = 20000;
+// Only what is broken takes this long, so that a machine with much else to do breaks no lesson.
+constexpr int kToolMs = 30000;
+constexpr int kSettleMs = 30000;
+constexpr int kConditionMs = 20000;
+constexpr int kWaitMs = 30000;
 // Two clicks that shall not be taken for one double click.
 constexpr int kBetweenClicksMs = 500;
 
@@ -126,8 +129,8 @@ void Pilot::onFinished()
 
 void Pilot::watchEnd()
 {
-    const OverlayWatch seen = look();
-    if (seen.bubble || !seen.buttons.isEmpty()) {
+    const std::optional<OverlayWatch> seen = look();
+    if (!seen || seen->bubble || !seen->buttons.isEmpty()) {
         if (m_sincePhase.hasExpired(kSettleMs)) {
             fail(QStringLiteral("the bubble or its buttons stay on the screen after the last step"));
         }
@@ -182,11 +185,14 @@ void Pilot::watch()
                  .arg(m_current));
         return;
     }
-    const OverlayWatch seen = look();
-    if (!(seen == m_seen)) {
+    const std::optional<OverlayWatch> seen = look();
+    if (!seen) {
+        return;
+    }
+    if (!(*seen == m_seen)) {
         m_sinceMoved.start();
     }
-    m_seen = seen;
+    m_seen = *seen;
     if (!m_sinceMoved.hasExpired(kRestMs) || !m_sincePhase.hasExpired(kRestMs) || !settled(step) ||
         (m_sinceClick.isValid() && !m_sinceClick.hasExpired(kBetweenClicksMs))) {
         return;
@@ -195,22 +201,31 @@ void Pilot::watch()
     if (const std::optional<QPoint> target = m_session->bubbleTarget()) {
         spot = arrowSpot(m_seen.bubble->topLeft(), *target);
     }
+    if (spot && !windowAt(*spot)) {
+        return;
+    }
     if (!m_settings.shotsFolder.isEmpty() && !takeShot(QStringLiteral("id%1").arg(step.id))) {
         return;
     }
     planAction(step, spot);
     m_phase = Phase::kActing;
+    m_sincePhase.start();
 }
 
-OverlayWatch Pilot::look()
+std::optional<OverlayWatch> Pilot::look()
 {
     QByteArray geometries;
+    QByteArray errors;
     // No window at all is no failure here: it may be still to come.
     run(QStringLiteral("xdotool"),
         {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
          QStringLiteral("--pid"), QString::number(m_pid), QStringLiteral("--name"), QString(),
          QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")},
-        &geometries);
+        &geometries, &errors);
+    // The search ends in the middle when any window goes away under it.
+    if (errors.contains("X Error")) {
+        return {};
+    }
     return OverlayWatch::parse(geometries);
 }
 
@@ -222,13 +237,28 @@ bool Pilot::settled(const ScenarioStep &step) const
         return false;
     }
     // A step that points into a window has to find that window open.
-    const std::optional<QPoint> target = m_session->bubbleTarget();
-    return target ? arrowSpot(m_seen.bubble->topLeft(), *target).has_value() : !step.hasPosition();
+    if (step.hasPosition() && !m_session->bubbleTarget()) {
+        return false;
+    }
+    const std::optional<QPoint> place = m_session->bubblePlace();
+    return !place || arrowSpot(m_seen.bubble->topLeft(), *place).has_value();
+}
+
+QWindow *Pilot::windowAt(const QPoint &spot)
+{
+    // As the X server has it: nothing while a window is still to be mapped or another program's is above.
+    QWindow *const window = QGuiApplication::topLevelAt(spot);
+    QWindow *const modal = QGuiApplication::modalWindow();
+    const bool isBlocked = modal != nullptr && window != modal && window == modal->transientParent();
+    return isBlocked ? nullptr : window;
 }
 
 void Pilot::planAction(const ScenarioStep &step, const std::optional<QPoint> &spot)
 {
     const QString mouse = mouseAction(step.icon);
+    m_actions.clear();
+    m_done.clear();
+    m_spot = spot.value_or(QPoint());
     if (spot && !mouse.isEmpty()) {
         m_done = QStringLiteral("a %1 at (%2, %3)").arg(step.icon).arg(spot->x()).arg(spot->y());
         m_actions.enqueue(moveTo(*spot) + mouse.split(QLatin1Char(' ')));
@@ -264,6 +294,14 @@ void Pilot::planKeys(const ScenarioStep &step)
 
 void Pilot::actOnce()
 {
+    const bool typesNext = !m_actions.isEmpty() && (m_actions.head().value(0) == QLatin1String("key") ||
+                                                    m_actions.head().value(0) == QLatin1String("type"));
+    if (typesNext && !hasFocus()) {
+        if (m_sincePhase.hasExpired(kSettleMs)) {
+            fail(QStringLiteral("%1: the window does not get the focus after %2").arg(m_current, m_done));
+        }
+        return;
+    }
     if (m_actions.size() <= 1) {
         m_phase = Phase::kAwaiting;
         m_sincePhase.start();
@@ -276,33 +314,51 @@ void Pilot::actOnce()
         pressButton();
         return;
     }
+    QElapsedTimer clock;
+    clock.start();
     if (!run(QStringLiteral("xdotool"), action)) {
         fail(QStringLiteral("%1: xdotool %2 failed").arg(m_current, action.join(QLatin1Char(' '))));
+        return;
     }
     if (action.contains(QStringLiteral("click"))) {
         m_sinceClick.start();
     }
+    if (action.contains(QStringLiteral("--repeat")) &&
+        clock.hasExpired(QGuiApplication::styleHints()->mouseDoubleClickInterval())) {
+        // It may have been two clicks. If it was a double click, the next step is reached before the next
+        // tick.
+        m_phase = Phase::kWatching;
+        m_sincePhase.start();
+    }
+}
+
+bool Pilot::hasFocus() const
+{
+    return QGuiApplication::focusWindow() != nullptr && QGuiApplication::focusWindow() == windowAt(m_spot);
 }
 
 void Pilot::pressButton()
 {
     // Next, or Yes on the left, whose right edge lies below No.
     const bool isYesNo = m_session->runner().step().condition.type() == Type::kYesNo;
-    const QRect button =
+    const OverlayWatch::Button button =
         isYesNo && !m_settings.answersYes ? m_seen.buttons.constLast() : m_seen.buttons.constFirst();
-    const QPoint spot(button.x() + button.width() / 3, button.center().y());
+    const QPoint inside(button.rect.width() / 3, button.rect.height() / 2);
+    const QPoint spot = button.rect.topLeft() + inside;
     m_done += QStringLiteral("%1 a click on the button at (%2, %3)")
                   .arg(m_done.isEmpty() ? QString() : QStringLiteral(" and"))
                   .arg(spot.x())
                   .arg(spot.y());
+    // A place inside of the window: it moves once more when its companion comes to lay out the hint only now.
     if (!run(QStringLiteral("xdotool"),
-             moveTo(spot) + QStringList{QStringLiteral("click"), QStringLiteral("1")})) {
+             {QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(button.window),
+              number(inside.x()), number(inside.y()), QStringLiteral("click"), QStringLiteral("1")})) {
         fail(QStringLiteral("%1: xdotool failed").arg(m_current));
     }
     m_sinceClick.start();
 }
 
-bool Pilot::run(const QString &program, const QStringList &arguments, QByteArray *output)
+bool Pilot::run(const QString &program, const QStringList &arguments, QByteArray *output, QByteArray *errors)
 {
     QProcess process;
     process.start(program, arguments, QIODevice::ReadOnly);
@@ -311,6 +367,9 @@ bool Pilot::run(const QString &program, const QStringList &arguments, QByteArray
     }
     if (output != nullptr) {
         *output = process.readAllStandardOutput();
+    }
+    if (errors != nullptr) {
+        *errors = process.readAllStandardError();
     }
     return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }

@@ -8,7 +8,10 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <optional>
+
 class LessonSession;
+class QWindow;
 struct ScenarioStep;
 
 /// Plays a lesson as a learner does: it looks where the companion's windows are on the screen, acts with real
@@ -55,13 +58,19 @@ private:
     void tick();
     void watch();
     void watchEnd();
-    OverlayWatch look();
+    /// What is on the screen; nothing when the look failed.
+    std::optional<OverlayWatch> look();
     void planAction(const ScenarioStep &step, const std::optional<QPoint> &spot);
     void planKeys(const ScenarioStep &step);
     void actOnce();
     void pressButton();
-    bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr);
+    bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr,
+             QByteArray *errors = nullptr);
     bool takeShot(const QString &name);
+    /// The editor's window that a click at @p spot would reach; nullptr when none would.
+    [[nodiscard]] static QWindow *windowAt(const QPoint &spot);
+    /// Whether keys go to the window at the spot.
+    [[nodiscard]] bool hasFocus() const;
     [[nodiscard]] bool settled(const ScenarioStep &step) const;
     [[nodiscard]] QString stepText() const;
 
@@ -81,4 +90,5 @@ private:
     /// What is left to do in this step: arguments of xdotool, one call a tick; an empty list is the button.
     QQueue<QStringList> m_actions;
     QString m_done;
+    QPoint m_spot;
 };

@@ -279,7 +279,7 @@ void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
     auto *maps = find<QListWidget>("maps");
     QVERIFY(clickOn(maps->viewport(), maps->visualItemRect(maps->item(1)).center(), 3));
     QTRY_COMPARE_WITH_TIMEOUT(m_windows->openWindows().constLast(), QStringLiteral("Popup"), kSoonMs);
-    const QRect next = overlays().buttons.constFirst();
+    const QRect next = overlays().buttons.constFirst().rect;
     XWindows::click(next.center());
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
     QTRY_COMPARE_WITH_TIMEOUT(abandoned.size(), 1, kSoonMs);

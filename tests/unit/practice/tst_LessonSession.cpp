@@ -133,6 +133,7 @@ void TestLessonSession::tellsTheWindowsBeforeTheFirstStep()
                           // the middle of the main window, less the way from the bubble to the arrow's tip
                           QStringLiteral("indicator|updateXy|601|399"),
                           QStringLiteral("indicator|update|-9999|-9999||Read|5|3")}));
+    QCOMPARE(m_session->bubblePlace(), QPoint(601, 399));
     QCOMPARE(m_problems, QStringList());
 }
 
@@ -203,9 +204,12 @@ void TestLessonSession::pointsIntoWindows()
 
 void TestLessonSession::followsTheWindowOfTheStep()
 {
+    QVERIFY(!m_session->bubblePlace());
     m_session->receive(startCommand(kPointing));
+    QCOMPARE(m_session->bubblePlace(), QPoint(100, 170));
     sent();
     m_windows->move(QStringLiteral("MainWindow"), QPoint(0, 50));
+    QCOMPARE(m_session->bubblePlace(), QPoint(10, 30));
     QCOMPARE(sent(), (QStringList{QStringLiteral("windowPosition|MainWindow|0|50"),
                                   QStringLiteral("indicator|updateXy|10|30")}));
     m_windows->move(QStringLiteral("Copying"), QPoint(7, 7));

@@ -57,7 +57,8 @@ void TestPilotSight::tellsBubbleAndButtonsFromTheRest()
                                                   "WINDOW=3\nX=-1\nY=-1\nWIDTH=1\nHEIGHT=1\nSCREEN=0\n"
                                                   "WINDOW=4\nX=400\nY=200\nWIDTH=64\nHEIGHT=32\nSCREEN=0\n");
     QCOMPARE(*seen.bubble, QRect(10, -40, 640, 480));
-    QCOMPARE(seen.buttons, (QVector<QRect>{QRect(400, 200, 64, 32), QRect(456, 200, 64, 32)}));
+    QCOMPARE(seen.buttons,
+             (QVector<OverlayWatch::Button>{{QRect(400, 200, 64, 32), 4}, {QRect(456, 200, 64, 32), 1}}));
 }
 
 void TestPilotSight::seesNothingWhereThereIsNothing()
