@@ -19,7 +19,7 @@
 class ManagerFixture
 {
 public:
-    static constexpr int kLimitMs = 5000;
+    static constexpr int kLimitMs = 30000;
 
     /// Listens, makes the manager and waits until the link is up on both sides. @p translationPath goes to
     /// the manager.

@@ -1,3 +1,4 @@
+#include "CpuTime.h"
 #include "IndicatorTest.h"
 #include "LogCapture.h"
 
@@ -165,12 +166,11 @@ void TestIndicatorStep::hintOfMegabytesDoesNotHoldUpTheLoop()
 {
     m_indicator->setTargetWindowOffset(300, 200, QString(), true);
     const QString front = QStringLiteral("the front ");
-    QElapsedTimer timer;
-    timer.start();
+    const CpuTime time;
     m_indicator->setHint(front + QString(1000000, QLatin1Char('x')));
     m_indicator->tooltip()->show();
     m_indicator->tick(3);
-    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(time.elapsedMs() < 10000, qPrintable(QString::number(time.elapsedMs())));
     QVERIFY(m_indicator->textEdit()->toPlainText().startsWith(front));
 }
 
@@ -225,8 +225,10 @@ void TestIndicatorStep::initRestartsTheBounce()
     indicator.setTargetWindowOffset(10, 10, QString(), true);
     indicator.setHint(QStringLiteral("another step"));
     QVERIFY(indicator.elapsedMs() >= 300);
+    QElapsedTimer sinceInit;
+    sinceInit.start();
     indicator.init(false, false);
-    QVERIFY(indicator.elapsedMs() < 300);
+    QVERIFY(indicator.elapsedMs() <= sinceInit.elapsed());
 }
 
 void TestIndicatorStep::showButtonsHidesNothing()

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kSoonMs = 5000;
+constexpr int kSoonMs = 30000;
 
 QByteArray frame(const QByteArray &payload)
 {
