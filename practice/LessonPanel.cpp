@@ -65,39 +65,47 @@ void LessonPanel::showStep(const QString &lessonName, int number, int count)
     m_start->setText(localeText(m_locale, QStringLiteral("Start again"), QStringLiteral("最初から"),
                                 QStringLiteral("重新开始")));
     m_skip->setEnabled(true);
-    m_status->setText(localeText(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
-                                 QStringLiteral("第 %1 步，共 %2 步"))
-                          .arg(number)
-                          .arg(count));
+    tell(localeText(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
+                    QStringLiteral("第 %1 步，共 %2 步"))
+             .arg(number)
+             .arg(count));
 }
 
 void LessonPanel::showClosed(const QString &windowTitle)
 {
-    m_status->setText(localeText(m_locale, QStringLiteral("Open \"%1\" again, or skip the step."),
-                                 QStringLiteral("「%1」をもう一度開くか、手順を飛ばしてください。"),
-                                 QStringLiteral("请重新打开“%1”，或跳过此步。"))
-                          .arg(windowTitle));
+    tell(localeText(m_locale, QStringLiteral("Open \"%1\" again, or skip the step."),
+                    QStringLiteral("「%1」をもう一度開くか、手順を飛ばしてください。"),
+                    QStringLiteral("请重新打开“%1”，或跳过此步。"))
+             .arg(windowTitle));
 }
 
 void LessonPanel::showFinished()
 {
     m_skip->setEnabled(false);
-    m_status->setText(localeText(m_locale, QStringLiteral("The lesson is finished."),
-                                 QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
+    tell(localeText(m_locale, QStringLiteral("The lesson is finished."),
+                    QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
 }
 
 void LessonPanel::showRefused(const QString &lessonName)
 {
     m_skip->setEnabled(false);
-    m_status->setText(localeText(m_locale, QStringLiteral("\"%1\" cannot be opened."),
-                                 QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
-                          .arg(titleOf(lessonName)));
+    tell(localeText(m_locale, QStringLiteral("\"%1\" cannot be opened."),
+                    QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
+             .arg(titleOf(lessonName)));
 }
 
-void LessonPanel::showSilent()
+void LessonPanel::setSilent(bool silent)
 {
-    m_status->setText(localeText(m_locale, QStringLiteral("The guide does not answer."),
-                                 QStringLiteral("ガイドが応答しません。"), QStringLiteral("向导没有响应。")));
+    m_status->setText(silent ? localeText(m_locale, QStringLiteral("The guide does not answer."),
+                                          QStringLiteral("ガイドが応答しません。"),
+                                          QStringLiteral("向导没有响应。"))
+                             : m_told);
+}
+
+void LessonPanel::tell(const QString &text)
+{
+    m_told = text;
+    m_status->setText(text);
 }
 
 QString LessonPanel::titleOf(const QString &lessonName) const

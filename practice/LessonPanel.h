@@ -23,7 +23,8 @@ public:
     void showClosed(const QString &windowTitle);
     void showFinished();
     void showRefused(const QString &lessonName);
-    void showSilent();
+    /// While the companion is silent this is said instead; afterwards what was said last stands there again.
+    void setSilent(bool silent);
 
 Q_SIGNALS:
     void lessonChosen(const QString &lessonName);
@@ -31,10 +32,12 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString titleOf(const QString &lessonName) const;
+    void tell(const QString &text);
 
     QString m_locale;
     QComboBox *m_lessons;
     QPushButton *m_start;
     QPushButton *m_skip;
     QLabel *m_status;
+    QString m_told;
 };

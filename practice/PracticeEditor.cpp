@@ -42,11 +42,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     connect(&m_link, &HostLink::received, &m_session, &LessonSession::receive);
     connect(&m_link, &HostLink::problemFound, &m_session, &LessonSession::problemFound);
     connect(&m_link, &HostLink::lost, this, &PracticeEditor::onLost);
-    connect(&m_link, &HostLink::silenceChanged, this, [this](bool silent) {
-        if (silent) {
-            m_panel.showSilent();
-        }
-    });
+    connect(&m_link, &HostLink::silenceChanged, &m_panel, &LessonPanel::setSilent);
     if (!options.projectsFolder.isEmpty()) {
         m_windows->setProjectsFolder(options.projectsFolder);
     }

@@ -10,6 +10,7 @@ class TestLessonPanel : public QObject
 private Q_SLOTS:
     void messagesFit_data();
     void messagesFit();
+    void silenceLeavesNothingBehind();
 };
 
 void TestLessonPanel::messagesFit_data()
@@ -43,10 +44,24 @@ void TestLessonPanel::messagesFit()
     QVERIFY2(status->text().contains(window) && fits(), qPrintable(status->text()));
     panel.showRefused(QStringLiteral("TutorialStep1"));
     QVERIFY2(status->text().contains(title) && fits(), qPrintable(status->text()));
-    panel.showSilent();
+    panel.setSilent(true);
     QVERIFY(fits());
     panel.showFinished();
     QVERIFY(fits());
+}
+
+void TestLessonPanel::silenceLeavesNothingBehind()
+{
+    LessonPanel panel(QStringLiteral("en_US"));
+    const QLabel *status = panel.findChild<QLabel *>(QStringLiteral("statusLabel"));
+    panel.showStep(QStringLiteral("TutorialStep1"), 4, 86);
+    panel.showClosed(QStringLiteral("New project"));
+    const QString told = status->text();
+    QVERIFY2(told.contains(QStringLiteral("New project")), qPrintable(told));
+    panel.setSilent(true);
+    QCOMPARE(status->text(), QStringLiteral("The guide does not answer."));
+    panel.setSilent(false);
+    QCOMPARE(status->text(), told);
 }
 
 QTEST_MAIN(TestLessonPanel)
