@@ -40,7 +40,7 @@ bool isListable(const QString &directory, QString &error)
     return false;
 }
 
-/// As above, and whether a listing has all of it: a name that is no text is left out of one.
+/// As above, and whether a listing has all of it: Qt leaves a name out that is not UTF-8.
 bool isListedWhole(const QString &directory, QString &error)
 {
     if (!isListable(directory, error))
@@ -50,7 +50,8 @@ bool isListedWhole(const QString &directory, QString &error)
     for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
         const QByteArray name = QByteArray::fromStdString(entry->path().filename().native());
         if (QFile::encodeName(QFile::decodeName(name)) != name) {
-            error = QStringLiteral("a name in %1 is no text").arg(directory);
+            error = QStringLiteral("%1 holds the name %2, which is not UTF-8: rename it")
+                        .arg(directory, QString::fromLatin1(name.toPercentEncoding()));
             return false;
         }
     }

@@ -306,7 +306,8 @@ void tst_PatchChain::nameThatIsNoTextAmongThePatchesIsNotReplaced()
     m_scratch->put("patches/step1/data/A.json-patch", "old");
     const QByteArray path = QFile::encodeName(m_scratch->path("patches/step1/")) + '\xff';
     putBytes(path);
-    QCOMPARE(make(), QStringLiteral("a name in %1 is no text").arg(m_scratch->path("patches/step1")));
+    QCOMPARE(make(), QStringLiteral("%1 holds the name %FF, which is not UTF-8: rename it")
+                         .arg(m_scratch->path("patches/step1")));
     QCOMPARE(m_scratch->get("patches/step1/data/A.json-patch"), QByteArray("old"));
     QCOMPARE(unlink(path.constData()), 0);
 }
@@ -317,7 +318,8 @@ void tst_PatchChain::dataFileWhoseNameIsNoTextIsRefused()
     m_scratch->put("steps/step1/data/A.json", "a");
     const QByteArray path = QFile::encodeName(m_scratch->path("steps/step1/data/")) + "\xff.json";
     putBytes(path);
-    QCOMPARE(make(), QStringLiteral("a name in %1 is no text").arg(m_scratch->path("steps/step1/data")));
+    QCOMPARE(make(), QStringLiteral("%1 holds the name %FF.json, which is not UTF-8: rename it")
+                         .arg(m_scratch->path("steps/step1/data")));
     QVERIFY(!m_scratch->has("patches"));
     QCOMPARE(unlink(path.constData()), 0);
 }
