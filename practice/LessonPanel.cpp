@@ -83,7 +83,7 @@ void LessonPanel::showFinished()
 {
     m_skip->setEnabled(false);
     tell(localeText(m_locale, QStringLiteral("The lesson is finished."),
-                    QStringLiteral("レッスンが終わりました。"), QStringLiteral("课程已完成。")));
+                    QStringLiteral("レッスンが終わりました。"), QStringLiteral("本课已完成。")));
 }
 
 void LessonPanel::showRefused(const QString &lessonName)

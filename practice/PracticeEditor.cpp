@@ -146,14 +146,14 @@ void PracticeEditor::onLost(const QString &lastWords)
                                "Restart it? The lesson begins again."),
                 QStringLiteral("ガイドが突然終了しました。プロジェクトには影響ありません。\n"
                                "もう一度起動しますか？レッスンは最初から始まります。"),
-                QStringLiteral("向导意外结束了。你的项目不受影响。\n要重新启动吗？课程会从头开始。")));
+                QStringLiteral("向导意外结束了。你的项目不受影响。\n要重新启动吗？本课会从头开始。")));
     box->setObjectName(QStringLiteral("lostMessageBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton *const restart = box->addButton(
         inWords(QStringLiteral("Restart"), QStringLiteral("もう一度起動"), QStringLiteral("重新启动")),
         QMessageBox::AcceptRole);
     box->addButton(inWords(QStringLiteral("Go on without"), QStringLiteral("ガイドなしで続ける"),
-                           QStringLiteral("不用向导，继续")),
+                           QStringLiteral("不使用向导继续")),
                    QMessageBox::RejectRole);
     connect(box, &QDialog::finished, this, [this, box, restart] {
         if (box->clickedButton() == restart) {

@@ -67,7 +67,8 @@ private:
     bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr,
              QByteArray *errors = nullptr);
     bool takeShot(const QString &name);
-    /// The editor's window that a click at @p spot would reach; nullptr when none would.
+    /// The editor's window that a click at @p spot, in global screen pixels, would reach; nullptr when none
+    /// would.
     [[nodiscard]] static QWindow *windowAt(const QPoint &spot);
     /// Whether keys go to the window at the spot.
     [[nodiscard]] bool hasFocus() const;
@@ -90,5 +91,6 @@ private:
     /// What is left to do in this step: arguments of xdotool, one call a tick; an empty list is the button.
     QQueue<QStringList> m_actions;
     QString m_done;
+    /// Where the step is done, in global screen pixels.
     QPoint m_spot;
 };

@@ -16,9 +16,9 @@ LessonProject::LessonProject(const QString &locale, QObject *parent)
                 locale,
                 QStringLiteral("The data files of the lesson have not come, so \"%1\" is without them. "
                                "Start the lesson again."),
-                QStringLiteral("レッスンのデータファイルが届いていないため、「%1」には入っていません。"
-                               "レッスンを最初から始めてください。"),
-                QStringLiteral("课程的数据文件没有送达，所以“%1”里没有这些文件。请重新开始课程。"))
+                QStringLiteral("レッスンのデータファイルが届いていないため、「%1」にはデータファイルが"
+                               "ありません。もう一度、レッスンを最初から始めてください。"),
+                QStringLiteral("没有收到本课的数据文件，所以项目“%1”里没有这些文件。请重新开始本课。"))
                 .arg(m_place->name));
     });
 }

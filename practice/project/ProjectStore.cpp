@@ -39,8 +39,9 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
         *error = localeText(m_locale,
                             QStringLiteral("A project cannot have the name \"%1\": its folder is named "
                                            "after it. Choose another name, without \"/\"."),
-                            QStringLiteral("プロジェクトの名前を「%1」にはできません。フォルダーの名前にも"
-                                           "なるためです。「/」を含まない別の名前にしてください。"),
+                            QStringLiteral("プロジェクトの名前を「%1」にはできません。プロジェクトの名前は、"
+                                           "フォルダーの名前にもなるためです。「/」を含まない別の名前に"
+                                           "してください。"),
                             QStringLiteral("项目不能叫“%1”，因为项目文件夹也用这个名称。请换一个不含“/”的"
                                            "名称。"))
                      .arg(name);
@@ -52,9 +53,9 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
                 localeText(m_locale,
                            QStringLiteral("The project cannot hold the file \"%1\": it would lie outside of "
                                           "the project's folder."),
-                           QStringLiteral("ファイル「%1」はプロジェクトのフォルダーの外になるため、"
-                                          "プロジェクトに入れられません。"),
-                           QStringLiteral("项目不能包含文件“%1”，因为它会位于项目文件夹之外。"))
+                           QStringLiteral("ファイル「%1」は、プロジェクトのフォルダーの外に置かれて"
+                                          "しまうため、プロジェクトに入れられません。"),
+                           QStringLiteral("项目不能包含文件“%1”，因为该文件会位于项目文件夹之外。"))
                     .arg(file.key());
             return false;
         }
@@ -89,8 +90,7 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
             localeText(
                 m_locale,
                 QStringLiteral("The project's folder \"%1\" cannot be made. Choose another name or place."),
-                QStringLiteral(
-                    "プロジェクトのフォルダー「%1」を作れません。別の名前か場所を選んでください。"),
+                QStringLiteral("プロジェクトのフォルダー「%1」を作れません。名前か場所を変えてください。"),
                 QStringLiteral("无法建立项目文件夹“%1”。请换一个名称或位置。"))
                 .arg(path);
         return false;
@@ -110,7 +110,7 @@ bool ProjectStore::write(const QString &path, const QString &text, QString *erro
     }
     *error = localeText(m_locale, QStringLiteral("The project's file \"%1\" cannot be written (%2)."),
                         QStringLiteral("プロジェクトのファイル「%1」に書き込めません（%2）。"),
-                        QStringLiteral("无法写入项目文件“%1”（%2）。"))
+                        QStringLiteral("无法写入项目中的文件“%1”（%2）。"))
                  .arg(path, file.errorString());
     return false;
 }
