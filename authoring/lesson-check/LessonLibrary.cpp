@@ -3,6 +3,7 @@
 #include "lesson-check/BubbleCheck.h"
 #include "lesson-check/Census.h"
 #include "lesson-check/FlowCheck.h"
+#include "lesson-check/LoadCheck.h"
 #include "lesson-check/ScenarioReader.h"
 #include "lesson-check/StepCheck.h"
 #include "lesson-check/TextCheck.h"
@@ -109,6 +110,9 @@ void LessonLibrary::readLessons(bool complete)
         const ScenarioSteps steps = reader.read(read(file));
         m_findings += reader.findings();
         m_lessons.append({entry.filename, file, steps});
+        // Where the form is wrong, the companion's complaints would only repeat it.
+        if (reader.findings().isEmpty())
+            m_findings += checkLoading(m_lessons.constLast(), QDir(m_root).filePath(file));
     }
 }
 

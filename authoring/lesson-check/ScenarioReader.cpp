@@ -122,6 +122,33 @@ QString close()
     return pad() + QLatin1Char('}');
 }
 
+struct Trap
+{
+    const char *sequence;
+    const char *meaning; ///< what the companion takes it for
+    const char *instead;
+};
+
+constexpr std::array<Trap, 3> kTraps = {{
+    {"];", "the end of the lesson", "] ;"},
+    {"/*", "the beginning of a comment", "/ *"},
+    {"*/", "the end of a comment", "* /"},
+}};
+
+/// What the companion reads wrongly in a field although its form is right, and how to mend it. Empty when it
+/// reads the field well, and for a field that is no text.
+QString trapIn(const QString &value)
+{
+    // Resolved, because a save writes the characters that an escape stands for.
+    const QString text = QJsonDocument::fromJson("[" + value.toUtf8() + "]").array().at(0).toString();
+    for (const Trap &trap : kTraps) {
+        if (text.contains(QLatin1String(trap.sequence)))
+            return QStringLiteral("the companion takes \"%1\" for %2, also inside a text; write \"%3\"")
+                .arg(QLatin1String(trap.sequence), QLatin1String(trap.meaning), QLatin1String(trap.instead));
+    }
+    return {};
+}
+
 bool closesItem(const QString &line)
 {
     return line == close() || line == close() + QLatin1Char(',');
@@ -234,7 +261,8 @@ void ScenarioReader::readField(int at, const QString &ending, Places &places, Sc
     }
 
     const bool fits = field(index).set(step, value);
-    if (!fits && step.isRead(qPrintable(name)))
+    const QString trap = trapIn(value);
+    if ((!fits || !trap.isEmpty()) && step.isRead(qPrintable(name)))
         step.unread.append(name);
     const QString form = QStringLiteral("\"%1\":%2").arg(name, value);
     if (!ends)
@@ -250,6 +278,8 @@ void ScenarioReader::readField(int at, const QString &ending, Places &places, Sc
                QStringLiteral("the field has to stand before \"%1\"").arg(field(places.latest).name));
     else if (!fits)
         report(at, &step, name, QStringLiteral("%1 is not %2").arg(value, field(index).kind));
+    else if (!trap.isEmpty())
+        report(at, &step, name, trap);
     places.seen.insert(index);
     places.latest = qMax(places.latest, index);
 }

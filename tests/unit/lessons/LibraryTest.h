@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -68,6 +69,7 @@ class LibraryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("default=false")); }
     void init() { copyLibrary(); }
 
 protected:

@@ -11,6 +11,10 @@ private Q_SLOTS:
     void namesTheFinding();
     void saysOneThingOfAWrongLine_data();
     void saysOneThingOfAWrongLine();
+    void refusesWhatTheCompanionReadsOtherwise_data();
+    void refusesWhatTheCompanionReadsOtherwise();
+    void refusesWhatTheCompanionCannotLoad_data();
+    void refusesWhatTheCompanionCannotLoad();
     void namesAClickThatEndsTwoSteps_data();
     void namesAClickThatEndsTwoSteps();
 };
@@ -177,6 +181,70 @@ void tst_LessonScenario::saysOneThingOfAWrongLine()
     QFETCH(QString, finding);
     replace(scenarioFile(), from, to);
     QCOMPARE(errors(), QStringList(finding));
+}
+
+void tst_LessonScenario::refusesWhatTheCompanionReadsOtherwise_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("finding");
+    const auto row = [](const char *name, const char *from, const char *to, const char *finding) {
+        QTest::newRow(name) << QByteArray(from) << QByteArray(to)
+                            << QStringLiteral("resource/qml/Tutorial/TutorialStep1.js:") +
+                                   QString::fromLatin1(finding);
+    };
+#define END "the companion takes \"];\" for the end of the lesson, also inside a text; write \"] ;\""
+#define OPEN "the companion takes \"/*\" for the beginning of a comment, also inside a text; write \"/ *\""
+#define CLOSE "the companion takes \"*/\" for the end of a comment, also inside a text; write \"* /\""
+    row("end in a name", "\"Welcome\"", "\"a[0]; b\"", "4: item 1, \"name\": " END);
+    row("end in a window", "\"windowKey\":\"MainWindow\"", "\"windowKey\":\"];\"",
+        "26: item 2, \"windowKey\": " END);
+    row("end in a condition", "\"condition\":\"yesNo\"", "\"condition\":\"yesNo];\"",
+        "27: item 2, \"condition\": " END);
+    row("end in an icon", "\"icon\":\"eye\"", "\"icon\":\"];eye\"", "12: item 1, \"icon\": " END);
+    row("end in a command", "presetData,step1", "presetData,step1];", "49: item 3, \"command\": " END);
+    row("end with an escape", "\"Welcome\"", "\"a]\\u003b\"", "4: item 1, \"name\": " END);
+    row("comment that begins", "\"Welcome\"", "\"a /* b\"", "4: item 1, \"name\": " OPEN);
+    row("comment that begins with an escape", "\"Welcome\"", "\"a \\/* b\"", "4: item 1, \"name\": " OPEN);
+    row("comment that ends", "\"Welcome\"", "\"a */ b\"", "4: item 1, \"name\": " CLOSE);
+    row("whole comment", "\"Welcome\"", "\"a /* b */ c\"", "4: item 1, \"name\": " OPEN);
+    row("comment in a command", "presetData,step1", "presetData,step1/*", "49: item 3, \"command\": " OPEN);
+#undef CLOSE
+#undef OPEN
+#undef END
+}
+
+void tst_LessonScenario::refusesWhatTheCompanionReadsOtherwise()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, finding);
+    replace(scenarioFile(), from, to);
+    QCOMPARE(errors(), QStringList(finding));
+}
+
+void tst_LessonScenario::refusesWhatTheCompanionCannotLoad_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QStringList>("findings");
+    const QString file = QStringLiteral("resource/qml/Tutorial/TutorialStep1.js: the companion ");
+    QTest::newRow("translation call")
+        << QByteArray("see qsTr(")
+        << QStringList{
+               file + QStringLiteral("cannot load it: json is not array"),
+               file + QStringLiteral("finds 0 of the 5 items: it takes a text for something else, such as "
+                                     "the end of a name for qsTr(; write that text in other words")};
+    QTest::newRow("translation call with a context")
+        << QByteArray("see QT_TRANSLATE_NOOP(")
+        << QStringList{file +
+                       QStringLiteral("cannot load it: not matched qsTr(\"...\"): QT_TRANSLATE_NOOP(\",")};
+}
+
+void tst_LessonScenario::refusesWhatTheCompanionCannotLoad()
+{
+    QFETCH(QByteArray, name);
+    replace(scenarioFile(), "Welcome", name);
+    QTEST(errors(), "findings");
 }
 
 void tst_LessonScenario::namesAClickThatEndsTwoSteps_data()
