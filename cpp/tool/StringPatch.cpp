@@ -14,6 +14,7 @@
 namespace {
 
 constexpr const char *kSource = "..\\..\\tutorial\\cpp\\tool\\StringPatch.cpp";
+constexpr std::size_t kSizeWidth = 4; // of the length of the result, in bytes
 
 /// Walks a patch from front to back; behind its end there is nothing.
 class PatchReader
@@ -157,20 +158,39 @@ bool applyOperations(PatchReader &patch, PatchTarget &target)
 bool StringPatch::ApplyStringPatch(std::string_view base, const QByteArray &patch, std::string &result)
 {
     PatchReader reader(patch);
-    const std::size_t targetSize = reader.number(4).value_or(0);
-    // Sizes are signed 32-bit values for all who read this format.
-    const bool overflows = targetSize + base.size() > std::size_t(std::numeric_limits<qint32>::max());
+    const std::size_t size = reader.number(kSizeWidth).value_or(0);
     try {
-        PatchTarget target(base, overflows ? 0 : targetSize);
-        if (!applyOperations(reader, target))
-            return false;
-        if (!overflows) {
+        if (isPossibleSize(base.size(), size)) {
+            PatchTarget target(base, size);
+            if (!applyOperations(reader, target))
+                return false;
             result = std::move(target).take();
             return true;
         }
     } catch (const std::bad_alloc &) {
-        logWarning(kSource, "StringPatch::ApplyStringPatch", 265) << "Not enough memory for" << targetSize;
+        logWarning(kSource, "StringPatch::ApplyStringPatch", 265) << "Not enough memory for" << size;
         return false;
     }
+    if (!checkTags(patch))
+        return false;
     throw std::out_of_range("invalid string position");
+}
+
+std::size_t StringPatch::targetSize(const QByteArray &patch)
+{
+    return PatchReader(patch).number(kSizeWidth).value_or(0);
+}
+
+bool StringPatch::isPossibleSize(std::size_t baseSize, std::size_t targetSize)
+{
+    // Sizes are signed 32-bit values for all who read this format.
+    return targetSize + baseSize <= std::size_t(std::numeric_limits<qint32>::max());
+}
+
+bool StringPatch::checkTags(const QByteArray &patch)
+{
+    PatchReader reader(patch);
+    reader.number(kSizeWidth);
+    PatchTarget nothing({}, 0);
+    return applyOperations(reader, nothing);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -39,4 +40,15 @@ public:
     /// @throws std::out_of_range when base and result together exceed a signed 32-bit size, @p result as it
     /// was.
     static bool ApplyStringPatch(std::string_view base, const QByteArray &patch, std::string &result);
+
+    /// The length in bytes that @p patch announces for its result; 0 when it ends within that number.
+    [[nodiscard]] static std::size_t targetSize(const QByteArray &patch);
+
+    /// Whether a base and a result of these sizes, in bytes, fit together into a signed 32-bit size: for
+    /// others ApplyStringPatch throws.
+    [[nodiscard]] static bool isPossibleSize(std::size_t baseSize, std::size_t targetSize);
+
+    /// False, with the warning of ApplyStringPatch, on a tag that is not in the table. Takes no memory for a
+    /// result.
+    static bool checkTags(const QByteArray &patch);
 };

@@ -26,12 +26,14 @@ namespace {
 constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
 constexpr const char *kFunction = "TutorialManager::onReceived";
 constexpr QChar kFieldSeparator(0x01);
-// The most that the files of a step may have together. In a log line a byte becomes six characters, and these
-// three bytes each for a moment, all of which has to fit Qt's containers.
-constexpr std::size_t kMostBytes = std::size_t(1) << 26;
 
 /// The text of each data file at one step, by the name of its patch file.
 using FileTexts = QHash<QString, std::string>;
+
+/// Thrown when the texts that are put in make the data files longer than an answer may be.
+struct TextsTooLong
+{
+};
 
 QString choosePatchRoot(const QString &applicationDirectory)
 {
@@ -40,6 +42,14 @@ QString choosePatchRoot(const QString &applicationDirectory)
         return root;
     }
     return QStringLiteral("%1/tutorial-win/resource/patch").arg(applicationDirectory);
+}
+
+/// Whether @p patch wants a text of more than @p room bytes. One of a size that no patch can have is left to
+/// be found when it is applied, which takes no memory.
+bool asksForTooMuch(const std::string &base, const QByteArray &patch, std::size_t room)
+{
+    const std::size_t size = StringPatch::targetSize(patch);
+    return size > room && StringPatch::isPossibleSize(base.size(), size);
 }
 
 /// The texts after the step in @p dataDirectory, made from the @p previous step's; none when it failed. A
@@ -63,8 +73,11 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
         const auto before = previous.constFind(fileName);
         const std::string &base = before == previous.constEnd() ? kNoBase : before.value();
         std::string &text = texts[fileName];
+        const bool tooMuch = asksForTooMuch(base, patch, kMostPresetBytes - bytes);
         try {
-            if (!StringPatch::ApplyStringPatch(base, patch, text)) {
+            // A bad tag is reported whatever the size.
+            if (tooMuch ? !StringPatch::checkTags(patch)
+                        : !StringPatch::ApplyStringPatch(base, patch, text)) {
                 logWarning(kSource, kFunction, 1033) << "Failed to ApplyStringPatch";
                 return std::nullopt;
             }
@@ -73,11 +86,11 @@ std::optional<FileTexts> replayStep(const QString &dataDirectory, const FileText
                 << "Failed to ApplyStringPatch" << entry.filePath() << error.what();
             return std::nullopt;
         }
-        bytes += text.size();
-        if (bytes > kMostBytes) {
+        if (tooMuch) {
             logWarning(kSource, kFunction, 1040) << "Too much data for an answer" << dataDirectory;
             return std::nullopt;
         }
+        bytes += text.size();
     }
     return texts;
 }
@@ -134,11 +147,27 @@ private:
     std::vector<std::pair<QRegularExpression, QList<QStringList>>> m_patterns;
 };
 
+/// @p translate, until it has made texts longer by more than @p room characters together: then it throws
+/// TextsTooLong. @p room has to live as long as the result and its copies, which share it.
+TranslateText limited(const TranslateText &translate, qint64 &room)
+{
+    return [&translate, &room](const QString &context, const QString &text) {
+        QString translation = translate(context, text);
+        room -= std::max(translation.size() - text.size(), 0);
+        if (room < 0) {
+            throw TextsTooLong();
+        }
+        return translation;
+    };
+}
+
 /// The command with all of @p texts, translated; null, with a warning, when a file is not named as a patch.
 QString replyOf(const FileTexts &texts, const SampleTable &table, const TranslateText &translate)
 {
     static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
     const RowFinder &rowFinder = RowFinder::of(table);
+    qint64 room = kMostPresetBytes;
+    const TranslateText translateLimited = limited(translate, room);
     QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
     for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
         const QRegularExpressionMatch match = patchPattern.match(it.key());
@@ -148,7 +177,7 @@ QString replyOf(const FileTexts &texts, const SampleTable &table, const Translat
         }
         const QString dataFile = match.captured(1);
         JsonWrapper wrapper(QString::fromStdString(it.value()));
-        runSampleRows(rowFinder.rowsFor(dataFile), translate, wrapper);
+        runSampleRows(rowFinder.rowsFor(dataFile), translateLimited, wrapper);
         if (it != texts.cbegin()) {
             reply += QLatin1Char(',');
         }
@@ -198,6 +227,9 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
     try {
         const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
         return texts ? replyOf(*texts, table, translate) : QString();
+    } catch (const TextsTooLong &) {
+        logWarning(kSource, kFunction, 1057) << "Too much data for an answer with the texts of" << stepName;
+        return {};
     } catch (const std::bad_alloc &) {
         logWarning(kSource, kFunction, 1072) << "Not enough memory for the data files of" << stepName;
         return {};

@@ -1,9 +1,24 @@
 #include "ProgramDirectory.h"
 #include "Unprivileged.h"
 
+#include <limits>
+
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+/// The most memory that this process has ever had at once.
+qint64 peakMemoryKiB()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+} // namespace
 
 /// Which steps and files there are, how their patches are replayed, and what ends a request.
 class tst_PresetData : public QObject
@@ -28,6 +43,8 @@ private Q_SLOTS:
     void badPatchEndsTheRequest();
     void oversizedPatchEndsTheRequest();
     void moreThanAnAnswerHoldsEndsTheRequest();
+    void hugeTargetTakesNoMemory();
+    void badTagOfAHugePatchIsReported();
     void unreadableFileEndsTheRequest();
     void fileThatMayNotBeReadEndsTheRequest();
     void pipeEndsTheRequest();
@@ -234,16 +251,47 @@ void tst_PresetData::oversizedPatchEndsTheRequest()
 
 void tst_PresetData::moreThanAnAnswerHoldsEndsTheRequest()
 {
-    // A few bytes that ask for 40 MiB of zeros each.
+    // A few bytes that ask for zeros: as many as an answer may hold, and one more.
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), QByteArray("\0\0\x80\x02", 4));
-    program.addFile(step(1), QStringLiteral("B.json-patch"), QByteArray("\0\0\x80\x02", 4));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), header(kMostPresetBytes - 4));
+    program.addFile(step(1), QStringLiteral("B.json-patch"), header(4));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), header(kMostPresetBytes - 4));
+    program.addFile(step(2), QStringLiteral("B.json-patch"), header(5));
+    LogCapture log;
+    QVERIFY(!program.reply(step(1)).isNull());
+    QVERIFY(!log.contains(QStringLiteral("Too much data")));
+    log.clear();
+    QVERIFY(program.reply(step(2)).isNull());
+    QCOMPARE(warningTexts(log),
+             QStringList{
+                 source() +
+                 QStringLiteral("1040 Too much data for an answer \"%1\"").arg(program.dataPath(step(2)))});
+}
+
+void tst_PresetData::hugeTargetTakesNoMemory()
+{
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("A.json-patch"), header(std::numeric_limits<qint32>::max()));
+    LogCapture log;
+    const qint64 before = peakMemoryKiB();
+    QVERIFY(program.reply(step(1)).isNull());
+    QVERIFY2(peakMemoryKiB() - before < 256 * 1024, qPrintable(QString::number(peakMemoryKiB() - before)));
+    QCOMPARE(warningTexts(log),
+             QStringList{
+                 source() +
+                 QStringLiteral("1040 Too much data for an answer \"%1\"").arg(program.dataPath(step(1)))});
+}
+
+void tst_PresetData::badTagOfAHugePatchIsReported()
+{
+    const ProgramDirectory program;
+    const QByteArray tooMuch = header(std::numeric_limits<qint32>::max());
+    program.addFile(step(1), QStringLiteral("A.json-patch"), tooMuch + QByteArray("\0\0A\2", 4));
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
-    QCOMPARE(log.warnings().size(), 1);
-    QVERIFY(log.warnings().constFirst().endsWith(
-        QStringLiteral("Too much data for an answer \"%1\"").arg(program.dataPath(step(1)))));
-    QVERIFY(log.warnings().constFirst().contains(source()));
+    QCOMPARE(warningTexts(log),
+             (QStringList{QStringLiteral("StringPatch::ApplyStringPatch 284 Invalid tag 2"),
+                          source() + QStringLiteral("1033 Failed to ApplyStringPatch")}));
 }
 
 void tst_PresetData::unreadableFileEndsTheRequest()

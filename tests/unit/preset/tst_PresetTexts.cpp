@@ -19,6 +19,7 @@ private Q_SLOTS:
     void textsThatAreNoJson_data();
     void textsThatAreNoJson();
     void lackOfMemoryEndsTheRequest();
+    void textsThatMakeTooMuchDataEndTheRequest();
     void unwrittenBytesAreAText();
     void textThatIsNotUtf8IsReplaced();
     void textIsCompactAndEscaped();
@@ -147,6 +148,34 @@ void tst_PresetTexts::lackOfMemoryEndsTheRequest()
     QCOMPARE(
         warningTexts(log),
         QStringList{source() + QStringLiteral("1072 Not enough memory for the data files of \"step1\"")});
+}
+
+void tst_PresetTexts::textsThatMakeTooMuchDataEndTheRequest()
+{
+    // Sixteen texts of one character, each of which becomes as many as all of them may be longer.
+    constexpr int kTexts = 16;
+    QByteArray switches = "a";
+    for (int i = 1; i < kTexts; ++i) {
+        switches += "\",\"a";
+    }
+    const ProgramDirectory program;
+    program.addFile(step(1), QStringLiteral("System.json-patch"),
+                    insertPatch("{\"switches\":[\"" + switches + "\"]}"));
+    const auto isAnswered = [&program](int length) {
+        return !presetDataReply(step(1), program.path(), buildSampleTable(),
+                                [length](const QString & /*context*/, const QString & /*text*/) {
+                                    return QString(length, QLatin1Char('b'));
+                                })
+                    .isNull();
+    };
+    constexpr int kMost = int(kMostPresetBytes) / kTexts + 1;
+    LogCapture log;
+    QVERIFY(isAnswered(kMost));
+    QCOMPARE(log.warnings(), QStringList());
+    QVERIFY(!isAnswered(kMost + 1));
+    QCOMPARE(warningTexts(log),
+             QStringList{source() +
+                         QStringLiteral("1057 Too much data for an answer with the texts of \"step1\"")});
 }
 
 void tst_PresetTexts::unwrittenBytesAreAText()
