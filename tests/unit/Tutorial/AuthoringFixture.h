@@ -54,6 +54,9 @@ public:
     bool undo() const { return call(history(), "undo"); }
     bool redo() const { return call(history(), "redo"); }
 
+    /// What the manager sends next.
+    [[nodiscard]] QString nextPayload() { return m_fixture.nextPayload(); }
+
     /// The text that a method of the manager returns.
     [[nodiscard]] QString text(const char *method) const
     {

@@ -1,6 +1,8 @@
 #include "AuthoringTest.h"
 #include "LogCapture.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSignalSpy>
 
 /// The document, driven by name as an author's tool drives it: changes, their history and the clipboard.
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void an_unknown_id_leaves_the_clipboard();
     void no_ids_are_a_list_too();
     void a_cleared_clipboard_pastes_nothing();
+    void the_clipboard_stays_inside_the_program();
 
     void unloading_drops_the_document_and_keeps_the_file();
 };
@@ -327,6 +330,24 @@ void tst_Authoring::a_cleared_clipboard_pastes_nothing()
     QCOMPARE(m_tool->manager()->property("mimeType").toString(), QStringLiteral("Empty"));
     QCOMPARE(m_tool->paste(), QList<int>());
     QCOMPARE(m_tool->shape(), QStringLiteral("1 2[3] 4"));
+}
+
+void tst_Authoring::the_clipboard_stays_inside_the_program()
+{
+    QClipboard *desktop = QGuiApplication::clipboard();
+    desktop->setText(QStringLiteral("mine"));
+    QCOMPARE(m_tool->load(lesson()), QString());
+    QCoreApplication::processEvents();
+    const QSignalSpy changed(desktop, &QClipboard::changed);
+    QVERIFY(m_tool->copy({1}));
+    QCOMPARE(m_tool->paste(), QList<int>{5});
+    QVERIFY(m_tool->call(m_tool->manager(), "clearMimeData"));
+    QCOMPARE(m_tool->paste(), QList<int>());
+    // The first thing that the host editor hears is what is sent now.
+    QVERIFY(m_tool->call(m_tool->manager(), "connected"));
+    QCOMPARE(m_tool->nextPayload(), QStringLiteral("tutorialReady"));
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(desktop->text(), QStringLiteral("mine"));
 }
 
 void tst_Authoring::unloading_drops_the_document_and_keeps_the_file()

@@ -1,4 +1,5 @@
 #include "DocumentFixture.h"
+#include "LiveObjects.h"
 #include "LogCapture.h"
 #include "TutorialEditor/ItemClipboard.h"
 
@@ -31,9 +32,13 @@ private Q_SLOTS:
     void pastesFromAnotherDocument();
     void pastesAFolderIntoAnotherDocument();
     void pasteInASequenceIsOneStep();
+    void aPasteLeavesTheNoteThatIsThere();
+    void pastesWithoutAHistory();
     void nothingIsPastedFromNoList_data();
     void nothingIsPastedFromNoList();
     void elementsThatCannotBeReadAreLeftOut();
+    void whatIsLeftOutIsDeleted_data();
+    void whatIsLeftOutIsDeleted();
     void callsAreLogged();
 };
 
@@ -170,6 +175,34 @@ void tst_ItemClipboard::pasteInASequenceIsOneStep()
     fixture.undoRedo().undo();
 }
 
+void tst_ItemClipboard::aPasteLeavesTheNoteThatIsThere()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(kItems), QStringList());
+    const auto payload = ItemClipboard::copy(fixture.tree(), {1, 2});
+    QVERIFY(payload);
+    fixture.undoRedo().beginSequence(QStringLiteral("paste"));
+    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{5, 6}));
+    fixture.undoRedo().endSequence();
+    fixture.undoRedo().undo();
+    fixture.undoRedo().redo();
+    fixture.undoRedo().undo();
+    QCOMPARE(fixture.host.notes, QStringList());
+}
+
+void tst_ItemClipboard::pastesWithoutAHistory()
+{
+    DocumentFixture fixture;
+    QCOMPARE(fixture.load(kItems), QStringList());
+    const auto payload = ItemClipboard::copy(fixture.tree(), {1, 2});
+    QVERIFY(payload);
+    UndoRedo::publish(nullptr);
+    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{5, 6}));
+    QCOMPARE(fixture.shape(), QStringLiteral("1 2F[3] 4 5 6F"));
+    QCOMPARE(fixture.ids(), QStringLiteral("1 2 3 4 5 6 7"));
+    QCOMPARE(fixture.item(5)->name, QStringLiteral("Intro(1)"));
+}
+
 void tst_ItemClipboard::nothingIsPastedFromNoList_data()
 {
     QTest::addColumn<QByteArray>("payload");
@@ -201,6 +234,28 @@ void tst_ItemClipboard::elementsThatCannotBeReadAreLeftOut()
              QList<int>{1});
     QCOMPARE(fixture.shape(), QStringLiteral("1"));
     QCOMPARE(fixture.ids(), QStringLiteral("1"));
+}
+
+void tst_ItemClipboard::whatIsLeftOutIsDeleted_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::addColumn<int>("kept");
+    QTest::newRow("all is pasted") << QByteArray(R"([ {"id":8,"folder":true,"children":[{"id":9}]} ])") << 2;
+    QTest::newRow("children of an item that is no folder")
+        << QByteArray(R"([ {"id":8,"children":[{"id":9,"children":[{"id":10}]}]} ])") << 1;
+    QTest::newRow("item with children that are no list")
+        << QByteArray(R"([ {"id":8,"children":[{"id":9},{"id":10,"children":3}]} ])") << 0;
+}
+
+void tst_ItemClipboard::whatIsLeftOutIsDeleted()
+{
+    QFETCH(QByteArray, payload);
+    QFETCH(int, kept);
+    DocumentFixture fixture;
+    const LiveObjects objects;
+    ItemClipboard::paste(payload, fixture.tree(), fixture.texts);
+    QCOMPARE(fixture.tree()->items.size(), kept);
+    QCOMPARE(objects.more(), kept);
 }
 
 void tst_ItemClipboard::callsAreLogged()

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void createFromJsonRefusesWhatItCannotRead();
     void toJsonPutsTheChildrenOfAFolderLast();
     void toJsonOfAnUnknownItemIsEmpty();
+    void toJsonLeavesOutAChildWithoutItsItem();
 
     void copySubtreeGivesNewNumbersAndANewName();
     void copySubtreeLeavesTheNodesOfChildrenBehind();
@@ -270,6 +271,20 @@ void tst_ItemTreeOperations::toJsonOfAnUnknownItemIsEmpty()
     node.children.append(Node(2, false));
     const ItemIndex one(QList<TutorialItemData *>{&folder});
     QVERIFY(toJson(node, one).endsWith(QStringLiteral("\"folder\":true,\"children\":[]}")));
+}
+
+void tst_ItemTreeOperations::toJsonLeavesOutAChildWithoutItsItem()
+{
+    TutorialItemData folder;
+    TutorialItemData child;
+    folder.setId(1);
+    child.setId(3);
+    const ItemIndex items(QList<TutorialItemData *>{&folder, &child});
+    Node node(1, true);
+    node.children << Node(2, false) << Node(3, false) << Node(4, false);
+    const QString text = toJson(node, items);
+    QVERIFY2(text.contains(QStringLiteral("\"folder\":true,\"children\":[{\"id\":3,")), qPrintable(text));
+    QVERIFY2(text.endsWith(QStringLiteral("\"folder\":false}]}")), qPrintable(text));
 }
 
 void tst_ItemTreeOperations::copySubtreeGivesNewNumbersAndANewName()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void withoutAnIdThereIsNoItem_data();
     void withoutAnIdThereIsNoItem();
     void toJsonHasAllFieldsInTheirOrder();
+    void toJsonOfANumberBelowZeroIsPlain();
     void toJsonReadsBack();
     void setNameOutsideATransactionAssigns();
     void setNameInATransactionLeavesTheNameAlone();
@@ -223,6 +224,19 @@ void tst_TutorialItemData::toJsonHasAllFieldsInTheirOrder()
     QCOMPARE(data.toJson(QString()), QString(expected).remove(QStringLiteral("%2")));
     QCOMPARE(data.toJson(QStringLiteral("\"folder\":true")),
              QString(expected).replace(QStringLiteral("%2"), QStringLiteral(",\"folder\":true")));
+}
+
+void tst_TutorialItemData::toJsonOfANumberBelowZeroIsPlain()
+{
+    TutorialItemData data;
+    data.setId(-5);
+    data.translationId = -2147483647 - 1;
+    const QString text = data.toJson(QString());
+    QVERIFY2(text.startsWith(QStringLiteral(R"({"id":-5,"name":"","translationId":-2147483648,)")),
+             qPrintable(text));
+    const auto again = read(text.toUtf8().constData());
+    QVERIFY(again);
+    QCOMPARE(again->id, -5);
 }
 
 void tst_TutorialItemData::toJsonReadsBack()
