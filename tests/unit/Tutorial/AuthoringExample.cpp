@@ -43,7 +43,9 @@ QString appendMovedCopy(QObject *manager, QObject *history, const QString &fileN
     QList<int> newIds;
     QMetaObject::invokeMethod(history, "beginSequence", Q_ARG(QString, QStringLiteral("append copy")));
     QMetaObject::invokeMethod(manager, "pasteTutorialItemList", Q_RETURN_ARG(QList<int>, newIds));
-    if (const TutorialItemData *copy = findData(&document->items, newIds.value(0))) {
+    const TutorialItemData *copy = findData(&document->items, newIds.value(0));
+    // A step that points at nothing has -9999 in both, and half a position is an error.
+    if (copy != nullptr && (copy->x != -9999 || copy->y != -9999)) {
         setField(*copy, "x", copy->x + offset.x());
         setField(*copy, "y", copy->y + offset.y());
     }

@@ -1,6 +1,8 @@
 #include "AuthoringExample.h"
 #include "AuthoringFixture.h"
 
+#include <QProcess>
+
 namespace {
 
 const QByteArray kLesson = QByteArrayLiteral("[{\"id\":1,\"name\":\"Intro\",\"x\":10,\"y\":20,\"windowKey\":"
@@ -17,12 +19,22 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void the_document_shows_this_code_data();
     void the_document_shows_this_code();
+    void the_program_appends_a_moved_copy();
+    void the_program_tells_what_went_wrong();
     void it_appends_a_moved_copy_and_saves();
+    void a_step_that_points_at_nothing_stays_so();
     void it_is_one_step();
     void it_tells_what_went_wrong();
 
 private:
+    struct Run
+    {
+        int status;
+        QString output;
+    };
+    [[nodiscard]] static Run runProgram(const QStringList &arguments);
     [[nodiscard]] QString run(const QString &fileName, int id) const
     {
         return appendMovedCopy(m_tool->manager(), m_tool->history(), fileName, id, QPoint(5, -3));
@@ -46,15 +58,60 @@ void tst_AuthoringExample::cleanup()
     deleteOverlays();
 }
 
+void tst_AuthoringExample::the_document_shows_this_code_data()
+{
+    QTest::addColumn<QByteArray>("shown");
+    const QString folder = QStringLiteral(TUTORIAL_SOURCE_DIR "/tests/unit/Tutorial/");
+    const QStringList names{QStringLiteral("AppendCopy.cpp"), QStringLiteral("AuthoringExample.cpp")};
+    for (const QString &name : names) {
+        QTest::newRow(qPrintable(name)) << "```cpp\n" + AuthoringFixture::contentOf(folder + name) + "```\n";
+    }
+    const QByteArray rules = AuthoringFixture::contentOf(folder + QStringLiteral("CMakeLists.txt"));
+    const int begin = rules.indexOf("add_executable(append-copy ");
+    const int end = rules.indexOf("set_target_properties(append-copy ", begin);
+    QTest::newRow("CMakeLists.txt") << "```cmake\n" + rules.mid(begin, end - begin) + "```\n";
+}
+
 void tst_AuthoringExample::the_document_shows_this_code()
 {
+    QFETCH(QByteArray, shown);
     const QByteArray document =
         AuthoringFixture::contentOf(QStringLiteral(TUTORIAL_SOURCE_DIR "/docs/authoring.md"));
-    const QByteArray code = AuthoringFixture::contentOf(
-        QStringLiteral(TUTORIAL_SOURCE_DIR "/tests/unit/Tutorial/AuthoringExample.cpp"));
-    const QByteArray first = "#include \"TutorialEditor/ItemTreeOperations.h\"";
-    QVERIFY(code.contains(first));
-    QVERIFY(document.contains("```cpp\n" + code.mid(code.indexOf(first)) + "```\n"));
+    QVERIFY2(document.contains(shown), shown.constData());
+}
+
+tst_AuthoringExample::Run tst_AuthoringExample::runProgram(const QStringList &arguments)
+{
+    QProcess program;
+    program.start(QStringLiteral(APPEND_COPY), arguments);
+    if (!program.waitForFinished(ManagerFixture::kLimitMs) || program.exitStatus() != QProcess::NormalExit) {
+        return {-1, program.errorString()};
+    }
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput())};
+}
+
+void tst_AuthoringExample::the_program_appends_a_moved_copy()
+{
+    const Run done = runProgram({QStringLiteral("no-host"), m_lesson, QStringLiteral("1"),
+                                 QStringLiteral("5"), QStringLiteral("-3")});
+    QCOMPARE(done.output, QString());
+    QCOMPARE(done.status, 0);
+    QCOMPARE(m_tool->load(m_lesson), QString());
+    QCOMPARE(m_tool->shape(), QStringLiteral("1 5 2"));
+    QCOMPARE(m_tool->item(2)->x, 15);
+    QCOMPARE(m_tool->item(2)->y, 17);
+}
+
+void tst_AuthoringExample::the_program_tells_what_went_wrong()
+{
+    const Run failed = runProgram({QStringLiteral("no-host"), m_lesson, QStringLiteral("9"),
+                                   QStringLiteral("5"), QStringLiteral("-3")});
+    QCOMPARE(failed.output, QStringLiteral("%1 has no step 9").arg(m_lesson));
+    QCOMPARE(failed.status, 1);
+    const Run usage = runProgram({QStringLiteral("no-host")});
+    QCOMPARE(usage.output, QStringLiteral("append-copy KEY FILE ID DX DY\n"));
+    QCOMPARE(usage.status, 2);
+    QCOMPARE(m_tool->contentOf(m_lesson), kLesson);
 }
 
 void tst_AuthoringExample::it_appends_a_moved_copy_and_saves()
@@ -67,6 +124,14 @@ void tst_AuthoringExample::it_appends_a_moved_copy_and_saves()
     QCOMPARE(m_tool->item(2)->x, 15);
     QCOMPARE(m_tool->item(2)->y, 17);
     QCOMPARE(m_tool->item(1)->x, 10);
+}
+
+void tst_AuthoringExample::a_step_that_points_at_nothing_stays_so()
+{
+    QCOMPARE(run(m_lesson, 5), QString());
+    QCOMPARE(m_tool->item(2)->name, QStringLiteral("End(1)"));
+    QCOMPARE(m_tool->item(2)->x, -9999);
+    QCOMPARE(m_tool->item(2)->y, -9999);
 }
 
 void tst_AuthoringExample::it_is_one_step()
