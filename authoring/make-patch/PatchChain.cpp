@@ -1,5 +1,7 @@
 #include "make-patch/PatchChain.h"
 
+#include "Tutorial/preset/PresetData.h"
+#include "make-patch/DataFile.h"
 #include "make-patch/PatchFiles.h"
 #include "make-patch/PatchMaker.h"
 
@@ -60,6 +62,13 @@ bool isListedWhole(const QString &directory, QString &error)
     return !failure;
 }
 
+/// Whether @p entry was probably meant as a step: a directory named nearly so, or with a step's "data".
+bool looksLikeStep(const QFileInfo &entry)
+{
+    return entry.isDir() && (entry.fileName().startsWith(QStringLiteral("step"), Qt::CaseInsensitive) ||
+                             QFileInfo(entry.filePath() + QStringLiteral("/data")).isDir());
+}
+
 } // namespace
 
 PatchChain::PatchChain(QString stepsDirectory, const QString &patchDirectory, QStringList mayVanish)
@@ -69,7 +78,7 @@ PatchChain::PatchChain(QString stepsDirectory, const QString &patchDirectory, QS
 {
 }
 
-bool PatchChain::make(QString &error)
+bool PatchChain::make(QString &error, const Progress &progress)
 {
     if (!findSteps(error) || !checkPatchDirectory(error))
         return false;
@@ -83,7 +92,7 @@ bool PatchChain::make(QString &error)
     }
     const QString made = scratch.filePath(QStringLiteral("new"));
     for (const Step &step : std::as_const(m_steps)) {
-        if (!makeStep(step, made, error))
+        if (!makeStep(step, made, progress, error))
             return false;
     }
     for (const QString &name : std::as_const(m_mayVanish)) {
@@ -104,25 +113,50 @@ bool PatchChain::findSteps(QString &error)
     }
     if (!isListable(m_stepsDirectory, error))
         return false;
-    static const QRegularExpression stepName(QStringLiteral("^step(\\d+)$"));
     const QFileInfoList entries = root.entryInfoList(kEverything);
-    for (const QFileInfo &entry : entries) {
-        const QRegularExpressionMatch match = stepName.match(entry.fileName());
-        if (!match.hasMatch())
-            continue; // a note on the steps, for one
-        bool isNumber = false;
-        const int number = match.captured(1).toInt(&isNumber);
-        if (!isNumber || !entry.isDir()) {
-            error = QStringLiteral("%1 is not a directory \"stepN\" with a number that fits 31 bits")
-                        .arg(entry.filePath());
-            return false;
-        }
-        m_steps.append({number, entry.fileName()});
-    }
-    if (m_steps.isEmpty()) {
+    const bool areGood =
+        std::all_of(entries.cbegin(), entries.cend(),
+                    [this, &error](const QFileInfo &entry) { return addStep(entry, error); });
+    if (areGood && m_steps.isEmpty()) {
         error = QStringLiteral("%1 has no directory \"stepN\"").arg(m_stepsDirectory);
         return false;
     }
+    return areGood && checkStepNumbers(error);
+}
+
+/// Takes @p entry for a step if it is one. False, with the reason, when it is none and looks like one.
+bool PatchChain::addStep(const QFileInfo &entry, QString &error)
+{
+    static const QRegularExpression stepName(QStringLiteral("^step(0*)([0-9]+)\\z"));
+    const QRegularExpressionMatch match = stepName.match(entry.fileName());
+    if (!match.hasMatch()) {
+        if (!looksLikeStep(entry))
+            return true; // a note on the steps, for one
+        error = QStringLiteral("%1 looks like a step, and the name of a step is \"step\" and a number, as in "
+                               "\"step2\": rename it, or move it elsewhere")
+                    .arg(entry.filePath());
+        return false;
+    }
+    bool isNumber = false;
+    const int number = match.captured(2).toInt(&isNumber);
+    if (!isNumber || !entry.isDir()) {
+        error = QStringLiteral("%1 is not a directory \"stepN\" with a number that fits 31 bits")
+                    .arg(entry.filePath());
+        return false;
+    }
+    m_steps.append({number, entry.fileName()});
+    if (match.capturedLength(1) > 0) {
+        m_warnings << QStringLiteral("%1 answers a request for \"%2\" and none for \"step%3\": rename it if "
+                                     "lessons ask for that")
+                          .arg(entry.filePath(), entry.fileName())
+                          .arg(number);
+    }
+    return true;
+}
+
+/// Puts the steps in order. False, with the reason, when two have one number.
+bool PatchChain::checkStepNumbers(QString &error)
+{
     std::sort(m_steps.begin(), m_steps.end(),
               [](const Step &left, const Step &right) { return left.number < right.number; });
     const auto same =
@@ -167,25 +201,28 @@ bool PatchChain::checkPatchDirectory(QString &error) const
     return true;
 }
 
-bool PatchChain::makeStep(const Step &step, const QString &directory, QString &error)
+bool PatchChain::makeStep(const Step &step, const QString &directory, const Progress &progress,
+                          QString &error)
 {
     const QString from = QStringLiteral("%1/%2/data").arg(m_stepsDirectory, step.name);
     const QString to = QStringLiteral("%1/%2/data").arg(directory, step.name);
     QStringList names;
-    if (!dataFiles(from, names, error) || !checkVanished(step, names, error))
+    QHash<QString, std::string> texts;
+    if (!dataFiles(from, names, error) || !checkVanished(step, names, error) ||
+        !readTexts(from, names, texts, error))
         return false;
     if (!QDir().mkpath(to)) {
         error = QStringLiteral("cannot make the directory %1").arg(to);
         return false;
     }
-    QHash<QString, std::string> texts;
     for (const QString &name : std::as_const(names)) {
         const QString path = QStringLiteral("%1/%2").arg(from, name);
-        std::string text;
-        if (!PatchFiles::read(path, text, error))
-            return false;
+        const auto report = [&progress, &path](std::size_t done, std::size_t size) {
+            if (progress)
+                progress(path, done, size);
+        };
         QByteArray patch;
-        if (!PatchMaker::makePatch(m_texts.value(name), text, patch, error)) {
+        if (!PatchMaker::makePatch(m_texts.value(name), texts.value(name), patch, error, report)) {
             error = QStringLiteral("%1: %2").arg(path, error);
             return false;
         }
@@ -193,9 +230,39 @@ bool PatchChain::makeStep(const Step &step, const QString &directory, QString &e
             return false;
         ++m_patchCount;
         m_patchBytes += patch.size();
-        texts.insert(name, text);
     }
     m_texts = std::move(texts);
+    return true;
+}
+
+/// Reads the data files of a step. False, with the reason, when the program has no good answer with them.
+bool PatchChain::readTexts(const QString &directory, const QStringList &names,
+                           QHash<QString, std::string> &texts, QString &error) const
+{
+    std::size_t bytes = 0;
+    for (const QString &name : names) {
+        const QString path = QStringLiteral("%1/%2").arg(directory, name);
+        std::string &text = texts[name];
+        if (!PatchFiles::read(path, text, error))
+            return false;
+        bytes += text.size();
+        if (bytes > kMostPresetBytes) {
+            error =
+                QStringLiteral("%1 has more than %2 bytes in its files up to %3, and the program answers no "
+                               "request for more: make the files smaller")
+                    .arg(directory)
+                    .arg(kMostPresetBytes)
+                    .arg(name);
+            return false;
+        }
+        QString place;
+        QString reason;
+        if (!DataFile::isJson(text, place, reason)) {
+            error =
+                QStringLiteral("%1, %2: this is no JSON: %3. Mend the file there").arg(path, place, reason);
+            return false;
+        }
+    }
     return true;
 }
 

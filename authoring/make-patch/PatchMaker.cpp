@@ -15,6 +15,12 @@ constexpr std::size_t kMostPerShortOperation = 256;
 constexpr std::size_t kMostTogether = std::size_t(1) << 30;
 // What a match of at least this length covers is not searched again: the place it came from is.
 constexpr std::size_t kLongMatch = 32;
+// After so many bytes without a match the search begins to leave places out, more of them the longer it finds
+// nothing: in bytes that never repeat each search is in vain and slow. A match begins before the place where
+// it is found all the same, since it is followed back.
+constexpr std::size_t kPatience = 4096;
+constexpr std::size_t kLongestStride = 64;
+constexpr std::size_t kBetweenReports = std::size_t(1) << 20;
 
 std::size_t offsetWidth(std::size_t offset)
 {
@@ -101,12 +107,18 @@ public:
     {
     }
 
-    QByteArray patch() &&
+    QByteArray patch(const PatchMaker::Progress &progress) &&
     {
         std::size_t place = m_baseSize;
+        std::size_t report = place;
         while (place < m_view.size()) {
-            const std::size_t next = std::max(copyTo(place), place + 1);
-            if (m_finder && next - place < kLongMatch)
+            if (progress && m_targetSize >= kBetweenReports && place >= report) {
+                progress(place - m_baseSize, m_targetSize);
+                report = place + kBetweenReports;
+            }
+            const std::size_t end = copyTo(place);
+            const std::size_t next = end > place ? end : std::min(place + stride(place), m_view.size());
+            if (m_finder && (end == place || end - place < kLongMatch))
                 m_finder->add(place, next);
             place = next;
         }
@@ -115,6 +127,12 @@ public:
     }
 
 private:
+    /// How far to go on from @p place, where no match is.
+    [[nodiscard]] std::size_t stride(std::size_t place) const
+    {
+        return std::clamp((place - m_literals) / kPatience, std::size_t(1), kLongestStride);
+    }
+
     /// The best match for @p place. The two likeliest are tried first: an edit leaves what follows it either
     /// at the distance that the last copy had, or as far from the end as it was.
     [[nodiscard]] MatchFinder::Match bestMatch(std::size_t place)
@@ -174,7 +192,7 @@ private:
 } // namespace
 
 bool PatchMaker::makePatch(const std::string &base, const std::string &target, QByteArray &patch,
-                           QString &error)
+                           QString &error, const Progress &progress)
 {
     if (base.size() + target.size() > kMostTogether) {
         error = QStringLiteral("base and target have %1 bytes together; more than %2 are not handled")
@@ -182,7 +200,7 @@ bool PatchMaker::makePatch(const std::string &base, const std::string &target, Q
                     .arg(kMostTogether);
         return false;
     }
-    const QByteArray made = Differ(base, target).patch();
+    const QByteArray made = Differ(base, target).patch(progress);
     std::string result;
     if (!StringPatch::ApplyStringPatch(base, made, result) || result != target) {
         error =

@@ -1,6 +1,7 @@
 #include "make-patch/PatchChain.h"
 #include "make-patch/PatchFiles.h"
 #include "make-patch/PatchMaker.h"
+#include "make-patch/ProgressLine.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -38,17 +39,30 @@ int makeOne(const QString &basePath, const QString &targetPath, const QString &p
     std::string base;
     std::string target;
     QByteArray patch;
-    if (!PatchFiles::read(basePath, base, error) || !PatchFiles::read(targetPath, target, error) ||
-        !PatchMaker::makePatch(base, target, patch, error) || !PatchFiles::write(patchPath, patch, error))
-        return fail(kFailed, error);
-    return 0;
+    ProgressLine line;
+    const auto progress = [&line, &targetPath](std::size_t done, std::size_t size) {
+        line.show(targetPath, done, size);
+    };
+    const bool isMade = PatchFiles::read(basePath, base, error) &&
+                        PatchFiles::read(targetPath, target, error) &&
+                        PatchMaker::makePatch(base, target, patch, error, progress) &&
+                        PatchFiles::write(patchPath, patch, error);
+    line.clear();
+    return isMade ? 0 : fail(kFailed, error);
 }
 
 int makeChain(const QString &stepsDirectory, const QString &patchDirectory, const QStringList &mayVanish)
 {
     PatchChain chain(stepsDirectory, patchDirectory, mayVanish);
     QString error;
-    if (!chain.make(error))
+    ProgressLine line;
+    const bool isMade = chain.make(error, [&line](const QString &path, std::size_t done, std::size_t size) {
+        line.show(path, done, size);
+    });
+    line.clear();
+    for (const QString &warning : chain.warnings())
+        QTextStream(stderr) << "make-patch: warning: " << warning << '\n';
+    if (!isMade)
         return fail(kFailed, error);
     QTextStream(stdout) << QStringLiteral("%1 patches in %2 steps, %3 bytes, in %4\n")
                                .arg(chain.patchCount())
@@ -85,7 +99,10 @@ int main(int argc, char *argv[])
             "This data file may be missing in a step though the one before has it. May be repeated."),
         QStringLiteral("NAME.json"));
     parser.addOptions({output, chain, allowVanish});
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Shows this."));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Shows the version."));
+    parser.addOptions({help, version});
     parser.addPositionalArgument(QStringLiteral("BASE"),
                                  QStringLiteral("The text that the patch is applied to."),
                                  QStringLiteral("[BASE"));
@@ -96,6 +113,10 @@ int main(int argc, char *argv[])
         return badUsage(parser.errorText());
     if (parser.isSet(help)) {
         QTextStream(stdout) << parser.helpText();
+        return 0;
+    }
+    if (parser.isSet(version)) {
+        QTextStream(stdout) << "make-patch " TUTORIAL_VERSION "\n";
         return 0;
     }
     const QStringList arguments = parser.positionalArguments();

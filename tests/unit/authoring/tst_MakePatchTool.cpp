@@ -5,6 +5,8 @@
 #include <QScopedPointer>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 struct Run
@@ -35,6 +37,8 @@ private Q_SLOTS:
     void deviceIsNotReplaced();
     void inputIsNotOverwritten();
     void helpNamesBothForms();
+    void warningIsNoFailure();
+    void progressIsShownInATerminalOnly();
 
 private:
     /// Runs the tool in the scratch directory; arguments are separated by blanks.
@@ -232,6 +236,39 @@ void tst_MakePatchTool::helpNamesBothForms()
     for (const char *part : {"make-patch BASE TARGET -o FILE", "make-patch --chain STEPS_DIR -o PATCH_DIR",
                              "make-patch [options] [BASE TARGET]\n", "--allow-vanish <NAME.json>"})
         QVERIFY2(result.output.contains(QString::fromLatin1(part)), qPrintable(result.output));
+}
+
+void tst_MakePatchTool::warningIsNoFailure()
+{
+    m_scratch->put("more/step02/data/A.json", "[]");
+    const Run result = run("--chain more -o chain");
+    QVERIFY2(result.errors.startsWith(QStringLiteral("make-patch: warning: more/step02 ")),
+             qPrintable(result.errors));
+    QCOMPARE(result.status, 0);
+    QVERIFY(m_scratch->has("chain/step02/data/A.json-patch"));
+}
+
+void tst_MakePatchTool::progressIsShownInATerminalOnly()
+{
+    m_scratch->put("large", QByteArray(2 << 20, ' ') + "[]");
+    m_scratch->put("more/step1/data/A.json", m_scratch->get("large"));
+    const Run piped = run("base large -o out");
+    QCOMPARE(piped.errors, QString());
+    QCOMPARE(piped.status, 0);
+    for (const auto &[arguments, file] : {std::pair("base large -o out", "large"),
+                                          std::pair("--chain more -o chain", "more/step1/data/A.json")}) {
+        // A terminal of its own for the program.
+        const Run shown =
+            runProgram(QStringLiteral("script"),
+                       {QStringLiteral("-qec"),
+                        QStringLiteral("%1 %2").arg(QStringLiteral(MAKE_PATCH), QString::fromUtf8(arguments)),
+                        QStringLiteral("/dev/null")});
+        QCOMPARE(shown.status, 0);
+        const QString erase = QStringLiteral("\r\033[K");
+        const QString line = QStringLiteral("%1make-patch: %2: 0 %").arg(erase, QString::fromUtf8(file));
+        QVERIFY2(shown.output.startsWith(line), qPrintable(shown.output));
+        QVERIFY2(shown.output.lastIndexOf(erase) > 0, qPrintable(shown.output)); // and it goes away again
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_MakePatchTool)

@@ -1,4 +1,5 @@
 #include "Scratch.h"
+#include "Tutorial/preset/PresetData.h"
 #include "Unprivileged.h"
 #include "make-patch/PatchChain.h"
 #include "tool/StringPatch.h"
@@ -43,6 +44,13 @@ private Q_SLOTS:
     void otherFilesBesideTheStepsAreIgnored();
     void badStepsAreRefused_data();
     void badStepsAreRefused();
+    void misspeltStepsAreRefused_data();
+    void misspeltStepsAreRefused();
+    void zeroBeforeTheNumberIsWarnedOf();
+    void fileThatIsNoJsonIsRefused_data();
+    void fileThatIsNoJsonIsRefused();
+    void everyKindOfJsonIsTaken();
+    void stepWithMoreThanAnAnswerHoldsIsRefused();
     void chainIsReplacedWhole();
     void missingParentIsMade();
     void foreignFilesAreNotReplaced();
@@ -108,7 +116,7 @@ void tst_PatchChain::replayGivesEachStepsFiles()
     m_scratch->put("steps/step2/data/System.json", "{}");
     m_scratch->put("steps/step3/data/Actors.json", "[null,{\"id\":1},{\"id\":2}]");
     m_scratch->put("steps/step3/data/System.json", "{}");
-    m_scratch->put("steps/step3/data/Map001.json", "");
+    m_scratch->put("steps/step3/data/Map001.json", "[]");
     PatchChain chain(m_scratch->path("steps"), m_scratch->path("patches"), {});
     QString error;
     QVERIFY2(chain.make(error), qPrintable(error));
@@ -124,26 +132,26 @@ void tst_PatchChain::replayGivesEachStepsFiles()
                                  {QStringLiteral("System.json"), "{}"}}));
     QCOMPARE(replay({2, 3}), Texts({{QStringLiteral("Actors.json"), "[null,{\"id\":1},{\"id\":2}]"},
                                     {QStringLiteral("System.json"), "{}"},
-                                    {QStringLiteral("Map001.json"), ""}}));
+                                    {QStringLiteral("Map001.json"), "[]"}}));
 }
 
 void tst_PatchChain::stepsAreOrderedByNumber()
 {
     // By their names, step10 would be the base of step9.
-    const QByteArray common("what all of the steps have in common");
+    const QByteArray common(",\"what all of the steps have in common\"]");
     for (const int step : {2, 9, 10, 19})
         m_scratch->put(("steps/step" + QByteArray::number(step) + "/data/A.json").constData(),
-                       QByteArray::number(step) + common);
+                       '[' + QByteArray::number(step) + common);
     QCOMPARE(make(), QString());
     for (const QList<int> &steps : {QList<int>{2}, QList<int>{2, 9}, QList<int>{2, 9, 10}})
         QCOMPARE(replay(steps).value(QStringLiteral("A.json")),
-                 QByteArray::number(steps.constLast()) + common);
+                 '[' + QByteArray::number(steps.constLast()) + common);
 }
 
 void tst_PatchChain::unchangedFileGetsAnIdentityPatch()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step2/data/A.json"})
-        m_scratch->put(file, "0123456789");
+        m_scratch->put(file, "[23456789]");
     QCOMPARE(make(), QString());
     QCOMPARE(m_scratch->get("patches/step2/data/A.json-patch"), QByteArray("\x0a\0\0\0\xff\0\0\x9", 8));
 }
@@ -151,9 +159,9 @@ void tst_PatchChain::unchangedFileGetsAnIdentityPatch()
 void tst_PatchChain::newFileHasAnEmptyBase()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step2/data/A.json", "steps/step2/data/B.json"})
-        m_scratch->put(file, "0123456789");
+        m_scratch->put(file, "[23456789]");
     QCOMPARE(make(), QString());
-    const QByteArray patch = QByteArray("\x0a\0\0\0\0\x9", 6) + "0123456789";
+    const QByteArray patch = QByteArray("\x0a\0\0\0\0\x9", 6) + "[23456789]";
     QCOMPARE(m_scratch->get("patches/step1/data/A.json-patch"), patch);
     QCOMPARE(m_scratch->get("patches/step2/data/B.json-patch"), patch);
 }
@@ -162,7 +170,7 @@ void tst_PatchChain::vanishedFileIsRefused()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step1/data/B.json", "steps/step1/data/C.json",
                              "steps/step2/data/B.json"})
-        m_scratch->put(file, "a");
+        m_scratch->put(file, "[]");
     const QString error = make();
     QVERIFY2(error.contains(QStringLiteral("step2/data lacks")) &&
                  error.contains(QStringLiteral(": A.json, C.json.")) &&
@@ -175,25 +183,25 @@ void tst_PatchChain::vanishedFileIsRefused()
 void tst_PatchChain::vanishedFileMayBeAllowed()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step1/data/B.json", "steps/step2/data/B.json"})
-        m_scratch->put(file, "a");
+        m_scratch->put(file, "[]");
     QCOMPARE(make({QStringLiteral("A.json")}), QString());
-    QCOMPARE(replay({1, 2}), Texts({{QStringLiteral("B.json"), "a"}}));
+    QCOMPARE(replay({1, 2}), Texts({{QStringLiteral("B.json"), "[]"}}));
 }
 
 void tst_PatchChain::fileThatComesBackHasAnEmptyBase()
 {
-    m_scratch->put("steps/step1/data/A.json", "0123456789");
+    m_scratch->put("steps/step1/data/A.json", "[23456789]");
     QVERIFY(QDir().mkpath(m_scratch->path("steps/step2/data")));
-    m_scratch->put("steps/step3/data/A.json", "0123456789");
+    m_scratch->put("steps/step3/data/A.json", "[23456789]");
     QCOMPARE(make({QStringLiteral("A.json")}), QString());
     QVERIFY(m_scratch->has("patches/step2/data"));
     QCOMPARE(replay({1, 2}), Texts());
-    QCOMPARE(replay({1, 2, 3}), Texts({{QStringLiteral("A.json"), "0123456789"}}));
+    QCOMPARE(replay({1, 2, 3}), Texts({{QStringLiteral("A.json"), "[23456789]"}}));
 }
 
 void tst_PatchChain::allowedFileThatStaysIsRefused()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QCOMPARE(make({QStringLiteral("a.json")}),
              QStringLiteral("a.json was allowed to vanish, and no step leaves it out"));
     QVERIFY(!m_scratch->has("patches"));
@@ -201,10 +209,9 @@ void tst_PatchChain::allowedFileThatStaysIsRefused()
 
 void tst_PatchChain::otherFilesBesideTheStepsAreIgnored()
 {
-    for (const char *file :
-         {"steps/step1/data/A.json", "steps/step1/notes.txt", "steps/README.md", "steps/xstep2/data/A.json",
-          "steps/step/data/A.json", "steps/step3x/data/A.json"})
-        m_scratch->put(file, "a");
+    for (const char *file : {"steps/step1/data/A.json", "steps/step1/notes.txt", "steps/README.md",
+                             "steps/step2.txt", "steps/data/A.json", "steps/pictures/step3.png"})
+        m_scratch->put(file, "[]");
     QCOMPARE(make(), QString());
     QCOMPARE(m_scratch->entries("patches"), QStringList{QStringLiteral("step1")});
     QCOMPARE(m_scratch->entries("patches/step1"), QStringList{QStringLiteral("data")});
@@ -237,15 +244,107 @@ void tst_PatchChain::badStepsAreRefused()
     QFETCH(QByteArrayList, files);
     QFETCH(QString, part);
     for (const QByteArray &file : files)
-        m_scratch->put(file.constData(), "a");
+        m_scratch->put(file.constData(), "[]");
     const QString error = make();
     QVERIFY2(error.contains(part), qPrintable(error));
     QVERIFY(!m_scratch->has("patches"));
 }
 
+void tst_PatchChain::misspeltStepsAreRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"stepp2", "Step3", "STEP3", "step 4", "step4 ", "step", "step3x", "step-5",
+                             "step5.bak", "xstep2", "setp6", "7", "step\xef\xbc\x91"})
+        QTest::newRow(name) << QString::fromUtf8(name);
+}
+
+void tst_PatchChain::misspeltStepsAreRefused()
+{
+    QFETCH(QString, name);
+    const QByteArray directory = "steps/" + name.toUtf8();
+    m_scratch->put("steps/step1/data/A.json", "[]");
+    m_scratch->put((directory + "/data/A.json").constData(), "[]");
+    QCOMPARE(make(),
+             QStringLiteral("%1 looks like a step, and the name of a step is \"step\" and a number, as "
+                            "in \"step2\": rename it, or move it elsewhere")
+                 .arg(m_scratch->path(directory.constData())));
+    QVERIFY(!m_scratch->has("patches"));
+}
+
+void tst_PatchChain::zeroBeforeTheNumberIsWarnedOf()
+{
+    // The program looks for the folder by the name that is asked for.
+    for (const char *file :
+         {"steps/step0/data/A.json", "steps/step02/data/A.json", "steps/step10/data/A.json"})
+        m_scratch->put(file, "[]");
+    PatchChain chain(m_scratch->path("steps"), m_scratch->path("patches"), {});
+    QString error;
+    QVERIFY2(chain.make(error), qPrintable(error));
+    QCOMPARE(
+        chain.warnings(),
+        QStringList{QStringLiteral("%1 answers a request for \"step02\" and none for \"step2\": rename it "
+                                   "if lessons ask for that")
+                        .arg(m_scratch->path("steps/step02"))});
+    QCOMPARE(m_scratch->entries("patches").size(), 3);
+}
+
+void tst_PatchChain::fileThatIsNoJsonIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("place");
+    const auto row = [](const char *name, const QByteArray &text, const char *place) {
+        QTest::newRow(name) << text << QString::fromLatin1(place);
+    };
+    row("empty", "", "line 1, column 1: this is no JSON: it is empty.");
+    row("blanks", " \n", "this is no JSON: it is empty.");
+    row("word", "abc", "line 1, column ");
+    row("comma too many", "[\n  1,\n  2,\n]", "line 4, column ");
+    row("cut short", "[\n1", "line 2, column ");
+    row("more behind", "[]\n[]", "line 2, column ");
+    row("two numbers", "1,2", "line 1, column ");
+    row("not UTF-8", "[\n\"\xff\"]", "line 2, column ");
+    row("columns are characters", "[\"\xe6\xbc\xa2\xe5\xad\x97\" x]", "line 1, column 8");
+}
+
+void tst_PatchChain::fileThatIsNoJsonIsRefused()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, place);
+    m_scratch->put("steps/step1/data/A.json", "[]");
+    m_scratch->put("steps/step1/data/B.json", text);
+    const QString error = make();
+    QVERIFY2(error.startsWith(m_scratch->path("steps/step1/data/B.json") + QStringLiteral(", line ")) &&
+                 error.contains(place) && error.endsWith(QStringLiteral("Mend the file there")),
+             qPrintable(error));
+    QVERIFY(!m_scratch->has("patches"));
+}
+
+void tst_PatchChain::everyKindOfJsonIsTaken()
+{
+    const QList<QByteArray> texts{"[]", " {}\n", "12", "\"a\"", "null", "\xef\xbb\xbf[]"};
+    for (int i = 0; i < texts.size(); ++i)
+        m_scratch->put(("steps/step1/data/" + QByteArray::number(i) + ".json").constData(), texts.at(i));
+    QCOMPARE(make(), QString());
+}
+
+void tst_PatchChain::stepWithMoreThanAnAnswerHoldsIsRefused()
+{
+    const QByteArray half = '[' + QByteArray(int(kMostPresetBytes) / 2 - 2, ' ') + ']';
+    m_scratch->put("steps/step1/data/A.json", half);
+    m_scratch->put("steps/step1/data/B.json", half);
+    QCOMPARE(make(), QString());
+    m_scratch->put("steps/step1/data/C.json", "[]");
+    QCOMPARE(make(),
+             QStringLiteral("%1 has more than %2 bytes in its files up to C.json, and the program answers "
+                            "no request for more: make the files smaller")
+                 .arg(m_scratch->path("steps/step1/data"))
+                 .arg(kMostPresetBytes));
+    QVERIFY(!m_scratch->has("patches/step1/data/C.json-patch"));
+}
+
 void tst_PatchChain::chainIsReplacedWhole()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/step1/data/Old.json-patch", "old");
     m_scratch->put("patches/step7/data/Old.json-patch", "old");
     QCOMPARE(make(), QString());
@@ -255,7 +354,7 @@ void tst_PatchChain::chainIsReplacedWhole()
 
 void tst_PatchChain::missingParentIsMade()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QCOMPARE(makeIn(m_scratch->path("a/b/patch/")), QString());
     QVERIFY(m_scratch->has("a/b/patch/step1/data/A.json-patch"));
     QCOMPARE(m_scratch->entries("a/b"), QStringList{QStringLiteral("patch")});
@@ -263,7 +362,7 @@ void tst_PatchChain::missingParentIsMade()
 
 void tst_PatchChain::foreignFilesAreNotReplaced()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/.hidden/diary.txt", "dear diary");
     const QString error = make();
     QVERIFY2(error.contains(QStringLiteral("diary.txt in it is no patch")), qPrintable(error));
@@ -272,7 +371,7 @@ void tst_PatchChain::foreignFilesAreNotReplaced()
 
 void tst_PatchChain::linkedDirectoryAmongThePatchesIsNotReplaced()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/step1/data/A.json-patch", "old");
     QVERIFY(QFile::link(m_scratch->path("steps"), m_scratch->path("patches/elsewhere")));
     const QString error = make();
@@ -283,7 +382,7 @@ void tst_PatchChain::linkedDirectoryAmongThePatchesIsNotReplaced()
 
 void tst_PatchChain::patchesThatMayNotBeReadAreNotReplaced()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/step1/diary.txt", "dear diary");
     for (const char *open : {"", "patches"})
         QCOMPARE(chmod(qPrintable(m_scratch->path(open)), 0777), 0);
@@ -302,7 +401,7 @@ void tst_PatchChain::patchesThatMayNotBeReadAreNotReplaced()
 
 void tst_PatchChain::nameThatIsNoTextAmongThePatchesIsNotReplaced()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/step1/data/A.json-patch", "old");
     const QByteArray path = QFile::encodeName(m_scratch->path("patches/step1/")) + '\xff';
     putBytes(path);
@@ -315,7 +414,7 @@ void tst_PatchChain::nameThatIsNoTextAmongThePatchesIsNotReplaced()
 void tst_PatchChain::dataFileWhoseNameIsNoTextIsRefused()
 {
     // A listing leaves it out, so the chain would have lacked the file without a word.
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     const QByteArray path = QFile::encodeName(m_scratch->path("steps/step1/data/")) + "\xff.json";
     putBytes(path);
     QCOMPARE(make(), QStringLiteral("%1 holds the name %FF.json, which is not UTF-8: rename it")
@@ -326,15 +425,15 @@ void tst_PatchChain::dataFileWhoseNameIsNoTextIsRefused()
 
 void tst_PatchChain::sourcesAreNeverReplaced()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     const QString error = makeIn(m_scratch->path("steps"));
     QVERIFY2(error.contains(QStringLiteral("A.json in it is no patch")), qPrintable(error));
-    QCOMPARE(m_scratch->get("steps/step1/data/A.json"), QByteArray("a"));
+    QCOMPARE(m_scratch->get("steps/step1/data/A.json"), QByteArray("[]"));
 }
 
 void tst_PatchChain::fileInTheWayIsRefused()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches", "a file");
     const QString error = make();
     QVERIFY2(error.contains(QStringLiteral("is in the way")), qPrintable(error));
@@ -343,7 +442,7 @@ void tst_PatchChain::fileInTheWayIsRefused()
 
 void tst_PatchChain::nestedDirectoriesAreRefused()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     for (const QString &place :
          {m_scratch->path("steps/patches"), m_scratch->path(), QDir().relativeFilePath(m_scratch->path())}) {
         const QString error = makeIn(place);
@@ -355,7 +454,7 @@ void tst_PatchChain::nestedDirectoriesAreRefused()
 
 void tst_PatchChain::linkIntoTheSourcesIsRefused()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QVERIFY(QFile::link(m_scratch->path("steps"), m_scratch->path("link")));
     for (const char *place : {"link/patches", "link/not/there/yet"}) {
         const QString error = makeIn(m_scratch->path(place));
@@ -367,7 +466,7 @@ void tst_PatchChain::linkIntoTheSourcesIsRefused()
 void tst_PatchChain::stepsThatMayNotBeReadAreRefused()
 {
     // A directory that cannot be listed looks like an empty one.
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QVERIFY(QDir().mkpath(m_scratch->path("out")));
     QCOMPARE(chmod(qPrintable(m_scratch->path()), 0755), 0);
     QCOMPARE(chmod(qPrintable(m_scratch->path("out")), 0777), 0);
@@ -387,18 +486,18 @@ void tst_PatchChain::stepsThatMayNotBeReadAreRefused()
 void tst_PatchChain::directoryThatCannotBeWrittenIsRefused()
 {
     // Not even root makes a directory in the kernel's own file system.
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     const QString error = makeIn(QStringLiteral("/proc/patches"));
     QVERIFY2(error.contains(QStringLiteral("cannot make a directory in /proc")), qPrintable(error));
 }
 
 void tst_PatchChain::failureLeavesTheOldChain()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QCOMPARE(make(), QString());
     const QByteArray before = m_scratch->get("patches/step1/data/A.json-patch");
-    m_scratch->put("steps/step1/data/A.json", "another");
-    m_scratch->put("steps/step2/data/B.json", "b");
+    m_scratch->put("steps/step1/data/A.json", "[1]");
+    m_scratch->put("steps/step2/data/B.json", "[]");
     QVERIFY(!make().isEmpty());
     QCOMPARE(m_scratch->get("patches/step1/data/A.json-patch"), before);
     QCOMPARE(m_scratch->entries("patches"), QStringList{QStringLiteral("step1")});
@@ -406,7 +505,7 @@ void tst_PatchChain::failureLeavesTheOldChain()
 
 void tst_PatchChain::nothingIsLeftBeside()
 {
-    m_scratch->put("steps/step1/data/A.json", "a");
+    m_scratch->put("steps/step1/data/A.json", "[]");
     QCOMPARE(make(), QString());
     QCOMPARE(make(), QString());
     QVERIFY(!make({QStringLiteral("A.json")}).isEmpty());

@@ -4,7 +4,9 @@
 #include <QObject>
 #include <QRandomGenerator>
 #include <QTest>
+#include <QVector>
 
+#include <algorithm>
 #include <ctime>
 
 namespace {
@@ -103,6 +105,8 @@ private Q_SLOTS:
     void manyEditsCostAFewBytesEach();
     void movedBlockIsCopied();
     void noiseCostsLittleMoreThanItself();
+    void matchesBehindLongNoiseAreFoundWhole();
+    void progressIsTold();
     void repetitionIsOverlappingCopy();
     void randomEditsRoundTrip();
     void unrelatedTextsRoundTrip();
@@ -214,6 +218,38 @@ void tst_PatchMaker::noiseCostsLittleMoreThanItself()
     QRandomGenerator random(3);
     const std::string target = randomBytes(random, 1 << 20);
     QVERIFY(patchFor(randomBytes(random, 1 << 20), target).size() < int(target.size()) + 100);
+}
+
+void tst_PatchMaker::matchesBehindLongNoiseAreFoundWhole()
+{
+    // The noise is long enough for the search to go on in its longest strides.
+    QRandomGenerator random(5);
+    const std::string noise = randomBytes(random, 1 << 20);
+    const std::string fromBase = randomBytes(random, 5001);
+    const QByteArray patch =
+        patchFor(fromBase, noise + fromBase + noise.substr(700001, 5003) + noise.substr(1001, 5003));
+    // Three copies, and the operations of the noise.
+    QVERIFY2(patch.size() < int(noise.size()) + 3 * 7 + 17 * 3 + 4,
+             qPrintable(QString::number(patch.size())));
+}
+
+void tst_PatchMaker::progressIsTold()
+{
+    QRandomGenerator random(6);
+    const std::size_t size = (3 << 20) + 4096;
+    QVector<std::size_t> told;
+    QByteArray patch;
+    QString error;
+    QVERIFY(PatchMaker::makePatch(
+        {}, randomBytes(random, size), patch, error,
+        [&told, size](std::size_t done, std::size_t all) { told << (all == size ? done : size + 1); }));
+    QCOMPARE(told.size(), 4);
+    QCOMPARE(told.constFirst(), std::size_t(0));
+    QVERIFY(std::is_sorted(told.cbegin(), told.cend()) && told.constLast() <= size);
+    told.clear();
+    QVERIFY(PatchMaker::makePatch({}, "short", patch, error,
+                                  [&told](std::size_t done, std::size_t /*size*/) { told << done; }));
+    QVERIFY(told.isEmpty());
 }
 
 void tst_PatchMaker::repetitionIsOverlappingCopy()
