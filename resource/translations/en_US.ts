@@ -379,7 +379,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>Thank you, Mila. Ask in the village first.</translation>
+      <translation>Thank you, Mila. Ask around the village first.</translation>
     </message>
     <message>
       <source>#51</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>You are leaving? Then I will come with you.</translation>
+      <translation>You want to find the lamp? Then I will come with you.</translation>
     </message>
     <message>
       <source>#59</source>
@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>A bed for the night? You need not pay.</translation>
+      <translation>A bed for the night? It's on the house.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>All quiet at the south gate.</translation>
+      <translation>All quiet on the forest road.</translation>
     </message>
     <message>
       <source>#98</source>
@@ -864,6 +864,22 @@
     <message>
       <source>#171</source>
       <translation>Lamp returned</translation>
+    </message>
+    <message>
+      <source>#172</source>
+      <translation>Beginning</translation>
+    </message>
+    <message>
+      <source>#173</source>
+      <translation>Mila found a tonic!</translation>
+    </message>
+    <message>
+      <source>#174</source>
+      <translation>You have it! Carry the lamp up the hill in the west.</translation>
+    </message>
+    <message>
+      <source>#175</source>
+      <translation>But last night I saw a light near the old mine.</translation>
     </message>
   </context>
   <context>

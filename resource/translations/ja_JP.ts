@@ -379,7 +379,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>ありがとう、ミラ。まず村で話を聞いておくれ。</translation>
+      <translation>ありがとう、ミラ。まず村のみんなに聞いておくれ。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>出かけるのか？なら、おれも行く。</translation>
+      <translation>ランプをさがすのか？なら、おれも行く。</translation>
     </message>
     <message>
       <source>#59</source>
@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>今夜はお泊まりですか？お代はいりませんよ。</translation>
+      <translation>今夜はお泊まりですか？お代はけっこうですよ。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>南の門、異常なし。</translation>
+      <translation>森への道、異常なし。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -864,6 +864,22 @@
     <message>
       <source>#171</source>
       <translation>ランプを返した</translation>
+    </message>
+    <message>
+      <source>#172</source>
+      <translation>はじまり</translation>
+    </message>
+    <message>
+      <source>#173</source>
+      <translation>ミラは気付け薬を見つけた！</translation>
+    </message>
+    <message>
+      <source>#174</source>
+      <translation>見つけたか！ランプを西の丘の上へ運んでおくれ。</translation>
+    </message>
+    <message>
+      <source>#175</source>
+      <translation>ただ、昨夜は古い鉱山のほうに光が見えた。</translation>
     </message>
   </context>
   <context>

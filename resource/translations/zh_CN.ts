@@ -379,7 +379,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>谢谢你，米拉。先在村里打听一下吧。</translation>
+      <translation>谢谢你，米拉。先在村里到处打听一下吧。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>你要出门？那我也一起去。</translation>
+      <translation>你要去找灯？那我也一起去。</translation>
     </message>
     <message>
       <source>#59</source>
@@ -443,7 +443,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>要住一晚吗？不收你钱。</translation>
+      <translation>今晚要住下吗？不用付钱。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>南门一切正常。</translation>
+      <translation>通往森林的路，一切正常。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -864,6 +864,22 @@
     <message>
       <source>#171</source>
       <translation>归还了灯</translation>
+    </message>
+    <message>
+      <source>#172</source>
+      <translation>开场</translation>
+    </message>
+    <message>
+      <source>#173</source>
+      <translation>米拉找到了提神药！</translation>
+    </message>
+    <message>
+      <source>#174</source>
+      <translation>找到了啊！把灯带到西边的山岗上去吧。</translation>
+    </message>
+    <message>
+      <source>#175</source>
+      <translation>不过昨晚，旧矿洞那边有光。</translation>
     </message>
   </context>
   <context>

@@ -1,4 +1,5 @@
 #include "FakeHost.h"
+#include "SampleFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,36 +31,12 @@ private Q_SLOTS:
 
 namespace {
 
-const QString kSource = QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset");
-constexpr int kFirstStep = 2;
-constexpr int kLastStep = 19;
-
-/// Data files by name.
-using Files = QMap<QString, QJsonDocument>;
-
-QString stepName(int step)
-{
-    return QStringLiteral("step%1").arg(step);
-}
-
-Files readStep(int step)
-{
-    Files files;
-    const QDir directory(QStringLiteral("%1/%2/data").arg(kSource, stepName(step)));
-    const QStringList names = directory.entryList(QDir::Files | QDir::Hidden);
-    for (const QString &name : names) {
-        QFile file(directory.filePath(name));
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(name, QJsonDocument::fromJson(file.readAll()));
-        }
-    }
-    return files;
-}
-
-QJsonValue root(const QJsonDocument &document)
-{
-    return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-}
+using sample::Files;
+using sample::kFirstStep;
+using sample::kLastStep;
+using sample::readStep;
+using sample::root;
+using sample::stepName;
 
 bool isNumber(const QString &text)
 {
@@ -230,7 +207,7 @@ QString replyOf(FakeHost &host, int step)
 void tst_SampleProject::has_a_step_for_each_lesson_from_the_second()
 {
     const QStringList found =
-        QDir(kSource).entryList({QStringLiteral("step*")}, QDir::Dirs | QDir::NoDotAndDotDot);
+        QDir(sample::folder()).entryList({QStringLiteral("step*")}, QDir::Dirs | QDir::NoDotAndDotDot);
     QCOMPARE(found.size(), kLastStep - kFirstStep + 1);
     const QStringList needed = {
         QStringLiteral("Actors.json"),   QStringLiteral("Animations.json"),   QStringLiteral("Armors.json"),
@@ -284,8 +261,8 @@ void tst_SampleProject::numbers_entries_by_their_places()
         }
         const QJsonArray maps = files.value(QStringLiteral("MapInfos.json")).array();
         for (int id = 1; id < maps.size(); ++id) {
-            const QString name = QStringLiteral("Map%1.json").arg(id, 3, 10, QLatin1Char('0'));
-            const QJsonObject map = files.value(name).object();
+            const QString name = sample::mapFile(id);
+            const QJsonObject map = sample::map(files, id);
             const int cells =
                 map.value(QStringLiteral("width")).toInt() * map.value(QStringLiteral("height")).toInt();
             QVERIFY2(cells > 0 && map.value(QStringLiteral("data")).toArray().size() == 3 * cells,

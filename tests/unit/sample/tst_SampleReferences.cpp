@@ -1,0 +1,281 @@
+#include "SampleEvents.h"
+#include "SampleReferences.h"
+
+#include <QTest>
+
+/// What the sample project's files say of one another holds in each step.
+class tst_SampleReferences : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void refers_to_what_is_there();
+    void finds_a_reference_that_leads_nowhere_data();
+    void finds_a_reference_that_leads_nowhere();
+    void finds_a_reference_in_a_list_of_commands_data();
+    void finds_a_reference_in_a_list_of_commands();
+    void finds_a_missing_map();
+    void turns_on_each_switch_that_a_page_waits_for();
+    void finds_a_switch_that_nothing_turns_on();
+    void lets_nobody_win_by_fleeing();
+    void finds_a_battle_won_by_fleeing();
+    void begins_with_mila_alone_and_lets_the_others_join();
+    void finds_somebody_who_does_not_join();
+    void ends_what_holds_for_a_number_of_turns();
+
+private:
+    sample::Files m_last;
+};
+
+using sample::changed;
+using sample::kFirstStep;
+using sample::kLastStep;
+using sample::readStep;
+using sample::stepName;
+
+namespace {
+
+/// The place of the page's commands of the first event called @p name on the map: "events/3/pages/0/list".
+QString commandsOf(const sample::Files &files, int map, const QString &name)
+{
+    const QJsonArray events = sample::objectsIn(sample::map(files, map), "events");
+    for (int id = 1; id < events.size(); ++id) {
+        if (events.at(id).toObject().value(QStringLiteral("name")).toString() == name) {
+            return QStringLiteral("events/%1/pages/0/list").arg(id);
+        }
+    }
+    return QString();
+}
+
+QJsonObject command(int code, const QJsonArray &parameters)
+{
+    return {{QStringLiteral("code"), code},
+            {QStringLiteral("indent"), 0},
+            {QStringLiteral("parameters"), parameters}};
+}
+
+/// The place of the first command with this code in the list at @p path.
+QString firstCommand(const sample::Files &files, int map, const QString &path, int code)
+{
+    const QStringList keys = path.split(QLatin1Char('/'));
+    const QJsonArray events = sample::objectsIn(sample::map(files, map), "events");
+    const QJsonArray list =
+        sample::objectsIn(sample::objectsIn(events.at(keys.at(1).toInt()), "pages").at(0), "list");
+    for (int i = 0; i < list.size(); ++i) {
+        if (sample::number(list.at(i), "code") == code) {
+            return QStringLiteral("%1/%2").arg(path).arg(i);
+        }
+    }
+    return QString();
+}
+
+const QString kToma = QStringLiteral("#54");
+const QString kWarden = QStringLiteral("#143");
+constexpr int kVillage = 1;
+constexpr int kMine = 8;
+constexpr int kProtected = 3;
+
+} // namespace
+
+void tst_SampleReferences::init()
+{
+    m_last = readStep(kLastStep);
+    QVERIFY(!m_last.isEmpty());
+}
+
+void tst_SampleReferences::refers_to_what_is_there()
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const QStringList findings = sample::danglingReferences(readStep(step));
+        QVERIFY2(findings.isEmpty(),
+                 qPrintable(stepName(step) + QLatin1Char(' ') + findings.join(QLatin1Char('\n'))));
+    }
+}
+
+void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QString>("finding");
+    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value,
+                        const char *finding) {
+        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value
+                            << QString::fromLatin1(finding);
+    };
+    row("class", "Actors.json", "2/classId", 9, "Actors.json entry 2: no entry 9 in Classes");
+    row("no class", "Actors.json", "2/classId", 0, "Actors.json entry 2: no entry 0 in Classes");
+    row("weapon", "Actors.json", "1/equips/0", 99, "Actors.json entry 1: no entry 99 in Weapons");
+    row("armor", "Actors.json", "1/equips/1", 99, "Actors.json entry 1: no entry 99 in Armors");
+    row("skill of a class", "Classes.json", "1/learnings/0/skillId", 99, "no entry 99 in Skills");
+    row("animation", "Skills.json", "1/animationId", 99, "no entry 99 in Animations");
+    row("state of a skill", "Skills.json", "4/effects/0/addState", 99, "no entry 99 in States");
+    row("state of an item", "Items.json", "2/effects/0/removeState", 99, "no entry 99 in States");
+    row("state of a trait", "Enemies.json", "6/traits/0/resistState", 99, "no entry 99 in States");
+    row("dropped item", "Enemies.json", "1/dropItems/0/itemId", 99, "no entry 99 in Items");
+    row("action", "Enemies.json", "6/actions/1/skillId", 99, "no entry 99 in Skills");
+    row("enemy", "Troops.json", "1/members/0/enemyId", 99, "no entry 99 in Enemies");
+    row("troop of a map", "Map002.json", "encounterList/0/troopId", 99, "no entry 99 in Troops");
+    row("tile set", "Map001.json", "tilesetId", 7, "Map001.json: no entry 7 in Tilesets");
+    row("parent", "MapInfos.json", "3/parentId", 99, "no entry 99 in MapInfos");
+    row("party", "System.json", "partyMembers/0", 99, "System.json: no entry 99 in Actors");
+    row("start map", "System.json", "startMapId", 99, "System.json: no map 99");
+    row("start cell", "System.json", "startX", 24, "System.json: no cell (24, 11) in map 1");
+    row("nameless switch", "System.json", "switches/2", QString(), "no name for switch 2");
+    row("variable", "System.json", "variables", QJsonArray{QJsonValue()}, "no variables 1 to 1");
+    row("event off the map", "Map001.json", "events/1/y", 16,
+        "Map001.json event 1: no cell (13, 16) in map 1");
+    row("switch of a page", "Map001.json", "events/1/pages/0/conditions/switchId", 99,
+        "no name for switch 99");
+    row("self switch of a page", "Map001.json", "events/1/pages/0/conditions/selfSwitch", QStringLiteral("E"),
+        "no self switch \"E\"");
+}
+
+void tst_SampleReferences::finds_a_reference_that_leads_nowhere()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    QFETCH(QString, finding);
+    const QString findings =
+        sample::danglingReferences(changed(m_last, file, path, value)).join(QLatin1Char('\n'));
+    QVERIFY2(findings.contains(finding), qPrintable(findings));
+}
+
+void tst_SampleReferences::finds_a_reference_in_a_list_of_commands_data()
+{
+    QTest::addColumn<QJsonObject>("command");
+    QTest::addColumn<QString>("finding");
+    const QJsonValue route = QJsonObject();
+    QTest::newRow("common event") << command(117, {9}) << "no entry 9 in CommonEvents";
+    QTest::newRow("switches") << command(121, {6, 7, 0}) << "no name for switch 7";
+    QTest::newRow("switch 0") << command(121, {0, 0, 0}) << "no name for switch 0";
+    QTest::newRow("variables") << command(122, {1, 2, 0, 0, 1}) << "no variables 1 to 2";
+    QTest::newRow("self switch") << command(123, {QStringLiteral("a"), 0}) << "no self switch \"a\"";
+    QTest::newRow("item") << command(126, {9, 0, 0, 1}) << "no entry 9 in Items";
+    QTest::newRow("actor") << command(129, {9, 0, false}) << "no entry 9 in Actors";
+    QTest::newRow("map") << command(201, {0, 9, 1, 1, 1, 0}) << "no map 9";
+    QTest::newRow("column") << command(201, {0, 3, 12, 1, 1, 0}) << "no cell (12, 1) in map 3";
+    QTest::newRow("row") << command(201, {0, 3, 1, 9, 1, 0}) << "no cell (1, 9) in map 3";
+    QTest::newRow("left of all") << command(201, {0, 3, -1, 1, 1, 0}) << "no cell (-1, 1) in map 3";
+    QTest::newRow("mover") << command(205, {99, route}) << "no event 99 on the map";
+    QTest::newRow("troop") << command(301, {0, 9, true, false}) << "no entry 9 in Troops";
+    QTest::newRow("goods") << command(302, {1, 9, 0, 0, false}) << "no entry 9 in Weapons";
+    QTest::newRow("further goods") << command(605, {2, 9, 0, 0}) << "no entry 9 in Armors";
+    QTest::newRow("kind of goods") << command(605, {3, 1, 0, 0}) << "no goods of kind 3";
+    QTest::newRow("recovered actor") << command(314, {0, 9}) << "no entry 9 in Actors";
+    QTest::newRow("enemy outside of a troop")
+        << command(331, {0, 0, 0, 30, false}) << "no enemy 0 in the troop";
+    QTest::newRow("state") << command(333, {-1, 0, 9}) << "no entry 9 in States";
+    QTest::newRow("unknown code") << command(999, {}) << "command 999 is not known here";
+}
+
+void tst_SampleReferences::finds_a_reference_in_a_list_of_commands()
+{
+    QFETCH(QJsonObject, command);
+    QFETCH(QString, finding);
+    const sample::Files files =
+        changed(m_last, sample::mapFile(kVillage), QStringLiteral("events/1/pages/0/list/0"), command);
+    QCOMPARE(sample::danglingReferences(files),
+             QStringList{QStringLiteral("Map001.json event 1: ") + finding});
+    const sample::Files common =
+        changed(m_last, QStringLiteral("CommonEvents.json"), QStringLiteral("1/list/0"), command);
+    const QString findings = sample::danglingReferences(common).join(QLatin1Char('\n'));
+    const bool isOfMap = finding.contains(QStringLiteral("on the map"));
+    QVERIFY2(isOfMap || findings == QStringLiteral("CommonEvents.json entry 1: ") + finding,
+             qPrintable(findings));
+}
+
+void tst_SampleReferences::finds_a_missing_map()
+{
+    sample::Files files = m_last;
+    files.remove(sample::mapFile(kMine));
+    const QStringList findings = sample::danglingReferences(files);
+    QVERIFY2(findings.contains(QStringLiteral("MapInfos.json entry 8: no map 8")),
+             qPrintable(findings.join(QLatin1Char('\n'))));
+    files = changed(m_last, QStringLiteral("MapInfos.json"), QStringLiteral("8"), QJsonValue());
+    QVERIFY(
+        sample::danglingReferences(files).contains(QStringLiteral("Map008.json: no entry 8 in MapInfos")));
+}
+
+void tst_SampleReferences::turns_on_each_switch_that_a_page_waits_for()
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        // The gate that stands ready waits for the lever, to which lesson 9 gives its switch.
+        const QStringList expected = step == 9 ? QStringList{QStringLiteral("4")} : QStringList();
+        QVERIFY2(sample::unsetSwitches(readStep(step)) == expected, qPrintable(stepName(step)));
+    }
+}
+
+void tst_SampleReferences::finds_a_switch_that_nothing_turns_on()
+{
+    const QString map = sample::mapFile(kMine);
+    const QString turnsOn = firstCommand(m_last, kMine, commandsOf(m_last, kMine, kWarden), 121);
+    QVERIFY(!turnsOn.isEmpty());
+    const sample::Files never = changed(m_last, map, turnsOn, command(0, {}));
+    QCOMPARE(sample::unsetSwitches(never), QStringList{QStringLiteral("5")});
+    const sample::Files off = changed(m_last, map, turnsOn + QStringLiteral("/parameters/2"), 1);
+    QCOMPARE(sample::unsetSwitches(off), QStringList{QStringLiteral("5")});
+}
+
+void tst_SampleReferences::lets_nobody_win_by_fleeing()
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        QVERIFY2(sample::battlesWonByFleeing(readStep(step)).isEmpty(), qPrintable(stepName(step)));
+    }
+}
+
+void tst_SampleReferences::finds_a_battle_won_by_fleeing()
+{
+    const QString battle = firstCommand(m_last, kMine, commandsOf(m_last, kMine, kWarden), 301);
+    QVERIFY(!battle.isEmpty());
+    for (const char *parameter : {"/parameters/2", "/parameters/3"}) {
+        const sample::Files files =
+            changed(m_last, sample::mapFile(kMine), battle + QLatin1String(parameter), true);
+        QCOMPARE(sample::battlesWonByFleeing(files), QStringList{QStringLiteral("Map008.json event 3")});
+    }
+}
+
+void tst_SampleReferences::begins_with_mila_alone_and_lets_the_others_join()
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const sample::Files files = readStep(step);
+        const QJsonObject system = files.value(QStringLiteral("System.json")).object();
+        QVERIFY2(system.value(QStringLiteral("partyMembers")).toArray() == QJsonArray{1},
+                 qPrintable(stepName(step)));
+        QList<int> expected;
+        expected += step >= 6 ? QList<int>{2} : QList<int>();
+        expected += step >= 17 ? QList<int>{3} : QList<int>();
+        QVERIFY2(sample::companions(files) == expected, qPrintable(stepName(step)));
+    }
+}
+
+void tst_SampleReferences::finds_somebody_who_does_not_join()
+{
+    const QString list = commandsOf(m_last, kVillage, kToma);
+    const QString map = sample::mapFile(kVillage);
+    for (int code : {129, 123}) {
+        const QString place = firstCommand(m_last, kVillage, list, code);
+        QVERIFY(!place.isEmpty());
+        QCOMPARE(sample::companions(changed(m_last, map, place, command(0, {}))), QList<int>{3});
+    }
+    const QString picture =
+        QString(list).replace(QStringLiteral("pages/0/list"), QStringLiteral("pages/1/image"));
+    QCOMPARE(sample::companions(changed(m_last, map, picture, QStringLiteral("toma"))), QList<int>{3});
+}
+
+void tst_SampleReferences::ends_what_holds_for_a_number_of_turns()
+{
+    constexpr int kEndOfTurn = 2;
+    for (int step = 16; step <= kLastStep; ++step) {
+        const QJsonObject state =
+            sample::entries(readStep(step), QStringLiteral("States.json")).at(kProtected).toObject();
+        QCOMPARE(sample::number(state, "autoRemovalTiming"), kEndOfTurn);
+        QCOMPARE(sample::number(state, "minTurns"), 1);
+        QCOMPARE(sample::number(state, "maxTurns"), 1);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_SampleReferences)
+#include "tst_SampleReferences.moc"
