@@ -58,10 +58,9 @@ QJsonObject command(int code, const QJsonArray &parameters)
 /// The place of the first command with this code in the list at @p path.
 QString firstCommand(const sample::Files &files, int map, const QString &path, int code)
 {
-    const QStringList keys = path.split(QLatin1Char('/'));
+    const int id = path.section(QLatin1Char('/'), 1, 1).toInt();
     const QJsonArray events = sample::objectsIn(sample::map(files, map), "events");
-    const QJsonArray list =
-        sample::objectsIn(sample::objectsIn(events.at(keys.at(1).toInt()), "pages").at(0), "list");
+    const QJsonArray list = sample::objectsIn(sample::objectsIn(events.at(id), "pages").at(0), "list");
     for (int i = 0; i < list.size(); ++i) {
         if (sample::number(list.at(i), "code") == code) {
             return QStringLiteral("%1/%2").arg(path).arg(i);
