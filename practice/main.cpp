@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
@@ -79,52 +80,94 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson,
     return {};
 }
 
+struct CommandLine
+{
+    QCommandLineOption lesson{QStringLiteral("lesson"), QStringLiteral("Play this lesson, 1 to 19."),
+                              QStringLiteral("N")};
+    QCommandLineOption locale{QStringLiteral("locale"),
+                              QStringLiteral("Language: en_US, ja_JP or zh_CN; by default the system's."),
+                              QStringLiteral("name"), defaultLocale()};
+    QCommandLineOption pilot{QStringLiteral("pilot"),
+                             QStringLiteral("Let the lesson play itself, with real mouse and key events.")};
+    QCommandLineOption answers{
+        QStringLiteral("answers"),
+        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default) or no."),
+        QStringLiteral("answer"), QStringLiteral("yes")};
+    QCommandLineOption shots{QStringLiteral("shots"),
+                             QStringLiteral("With --pilot: leave a picture of each step in this folder."),
+                             QStringLiteral("folder")};
+    QCommandLineOption companion{
+        QStringLiteral("companion"),
+        QStringLiteral("The companion program; by default Tutorial beside this one."), QStringLiteral("path"),
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("Tutorial"))};
+    QCommandLineOption key{QStringLiteral("key"), QStringLiteral("Key of the link; by default a random one."),
+                           QStringLiteral("key")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
+    QCommandLineParser parser;
+    bool isUnderstood;
+
+    /// Needs an application, whose arguments it reads.
+    CommandLine()
+    {
+        parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
+        parser.addOptions({lesson, locale, pilot, answers, shots, companion, key, help, version});
+        isUnderstood = parser.parse(QCoreApplication::arguments());
+    }
+};
+
+/// Prints what --help and --version ask for, without a display. False when neither is asked for.
+bool describe(int argc, char **argv)
+{
+    const auto asks = [](const char *word) {
+        return qstrcmp(word, "--help") == 0 || qstrcmp(word, "-h") == 0 || qstrcmp(word, "--version") == 0;
+    };
+    if (std::none_of(argv, argv + argc, asks)) {
+        return false;
+    }
+    const QCoreApplication application(argc, argv);
+    const CommandLine line;
+    if (line.parser.isSet(line.help)) {
+        std::fputs(qPrintable(line.parser.helpText()), stdout);
+        return true;
+    }
+    if (line.parser.isSet(line.version)) {
+        std::fputs("PracticeEditor " TUTORIAL_VERSION "\n", stdout);
+        return true;
+    }
+    return false; // the word is an option's value
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (describe(argc, argv)) {
+        return 0;
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("PracticeEditor"));
     // The frameless windows and hidden dialogs come and go; the main window alone decides.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const QCommandLineOption lesson(QStringLiteral("lesson"), QStringLiteral("Play this lesson, 1 to 19."),
-                                    QStringLiteral("N"));
-    const QCommandLineOption locale(
-        QStringLiteral("locale"), QStringLiteral("Language: en_US, ja_JP or zh_CN; by default the system's."),
-        QStringLiteral("name"), defaultLocale());
-    const QCommandLineOption pilot(
-        QStringLiteral("pilot"),
-        QStringLiteral("Let the lesson play itself, with real mouse and key events."));
-    const QCommandLineOption answers(
-        QStringLiteral("answers"),
-        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default) or no."),
-        QStringLiteral("answer"), QStringLiteral("yes"));
-    const QCommandLineOption shots(
-        QStringLiteral("shots"), QStringLiteral("With --pilot: leave a picture of each step in this folder."),
-        QStringLiteral("folder"));
-    const QCommandLineOption companion(
-        QStringLiteral("companion"),
-        QStringLiteral("The companion program; by default Tutorial beside this one."), QStringLiteral("path"),
-        QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("Tutorial")));
-    const QCommandLineOption key(QStringLiteral("key"),
-                                 QStringLiteral("Key of the link; by default a random one."),
-                                 QStringLiteral("key"));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
-    parser.addHelpOption();
-    parser.addOptions({lesson, locale, pilot, answers, shots, companion, key});
-    parser.process(application);
-
+    const CommandLine line;
+    const QCommandLineParser &parser = line.parser;
+    if (!line.isUnderstood) {
+        return complain(parser.errorText() + QStringLiteral(" --help tells what there is."));
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return complain(QStringLiteral("it takes options only, not \"%1\"; --help tells which")
+                            .arg(parser.positionalArguments().constFirst()));
+    }
     PracticeEditor::Options options;
-    options.lesson = parser.value(lesson).toInt();
-    options.locale = parser.value(locale);
-    options.pilot = parser.isSet(pilot);
-    options.pilotAnswersYes = parser.value(answers) != QLatin1String("no");
-    options.shotsFolder = parser.value(shots);
-    options.companionProgram = parser.value(companion);
-    options.key = parser.value(key);
-    if (const QString problem = problemOf(options, parser.value(lesson), parser.value(answers));
+    options.lesson = parser.value(line.lesson).toInt();
+    options.locale = parser.value(line.locale);
+    options.pilot = parser.isSet(line.pilot);
+    options.pilotAnswersYes = parser.value(line.answers) != QLatin1String("no");
+    options.shotsFolder = parser.value(line.shots);
+    options.companionProgram = parser.value(line.companion);
+    options.key = parser.value(line.key);
+    if (const QString problem = problemOf(options, parser.value(line.lesson), parser.value(line.answers));
         !problem.isEmpty()) {
         return complain(problem);
     }

@@ -33,8 +33,9 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[directory]"));
     const QCommandLineOption complete(QStringLiteral("complete"),
                                       QStringLiteral("every lesson of the list has to have its file"));
-    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("show this"));
-    parser.addOptions({complete, help});
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("show this"));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("show the version"));
+    parser.addOptions({complete, help, version});
     const bool understood = parser.parse(QCoreApplication::arguments());
     if (!understood || parser.positionalArguments().size() > 1) {
         err << "lesson-check: "
@@ -44,6 +45,10 @@ int main(int argc, char *argv[])
     }
     if (parser.isSet(help)) {
         out << parser.helpText();
+        return kClean;
+    }
+    if (parser.isSet(version)) {
+        out << "lesson-check " TUTORIAL_VERSION "\n";
         return kClean;
     }
 

@@ -31,8 +31,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption tree(QStringLiteral("tree"),
                                   QStringLiteral("the source tree, the current directory by default"),
                                   QStringLiteral("directory"), QStringLiteral("."));
-    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("show this"));
-    parser.addOptions({tree, help});
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("show this"));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("show the version"));
+    parser.addOptions({tree, help, version});
     parser.addPositionalArgument(QStringLiteral("window"), QStringLiteral("a window key"));
     parser.addPositionalArgument(QStringLiteral("control"),
                                  QStringLiteral("a control's name, and a place in it"),
@@ -45,6 +46,10 @@ int main(int argc, char *argv[])
         return complain(parser.errorText());
     if (parser.isSet(help)) {
         out << parser.helpText();
+        return kDone;
+    }
+    if (parser.isSet(version)) {
+        out << "lesson-position " TUTORIAL_VERSION "\n";
         return kDone;
     }
 
