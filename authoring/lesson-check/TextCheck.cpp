@@ -70,7 +70,16 @@ Findings checkNumbers(const Lesson &lesson)
 
 Findings checkTexts(const Lesson &lesson, const Catalogue &catalogue)
 {
-    return compare(lesson.file, lesson.name, usesOf(lesson), catalogue);
+    Findings findings = compare(lesson.file, lesson.name, usesOf(lesson), catalogue);
+    const Catalogue::Messages messages = catalogue.messages(lesson.name);
+    for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
+        if (message->translation.contains(QLatin1String("];")))
+            findings.append(
+                {Finding::Kind::kError, catalogue.file(), message->line, lesson.name, message.key(),
+                 QStringLiteral("the companion takes \"];\" for the end of the lesson and hands it "
+                                "over without the semicolon; write \"] ;\"")});
+    }
+    return findings;
 }
 
 Findings checkTitles(const QString &listFile, const QVector<LessonEntry> &entries, const Catalogue &catalogue)

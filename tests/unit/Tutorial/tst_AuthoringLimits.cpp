@@ -27,6 +27,7 @@ private Q_SLOTS:
     void a_nested_folder_loses_what_is_below_it();
     void a_name_that_is_taken_for_something_else_ruins_the_file_data();
     void a_name_that_is_taken_for_something_else_ruins_the_file();
+    void a_text_with_the_end_of_the_lesson_loses_its_semicolon_on_the_way();
 
 private:
     /// Whether the document differs from what was saved last.
@@ -309,6 +310,16 @@ void tst_AuthoringLimits::a_name_that_is_taken_for_something_else_ruins_the_file
     if (m_tool->item(1) != nullptr) {
         QCOMPARE(m_tool->item(1)->name, loadedName);
     }
+}
+
+void tst_AuthoringLimits::a_text_with_the_end_of_the_lesson_loses_its_semicolon_on_the_way()
+{
+    QCOMPARE(m_tool->load(lesson()), QString());
+    m_tool->item(1)->hint = QStringLiteral("a[0]; b[1];");
+    QVERIFY(m_tool->call(m_tool->manager(), "startFromId"));
+    const QString handedOver = m_tool->nextPayload();
+    QVERIFY2(handedOver.contains(QStringLiteral("\"hint\":\"a[0] b[1];\"")), qPrintable(handedOver));
+    QCOMPARE(handedOver.section(QChar(1), 1, 1).right(3), QStringLiteral("];;"));
 }
 
 int main(int argc, char **argv)

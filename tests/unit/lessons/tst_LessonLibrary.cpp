@@ -85,6 +85,10 @@ void tst_LessonLibrary::namesTheFinding_data()
         "resource/translations/en_US.ts:21: TutorialList, \"#22\": the text is never used");
     row("empty translation", english, "<translation>Welcome.</translation>", "<translation> </translation>",
         "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the translation is empty");
+    row("end of the lesson in a text", english, "<translation>Welcome.", "<translation>a[0]; Welcome.",
+        "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the companion takes \"];\" for the end of "
+        "the "
+        "lesson and hands it over without the semicolon; write \"] ;\"");
     row("unfinished translation", english, "<translation>Welcome.",
         "<translation type=\"unfinished\">Welcome.",
         "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the translation is marked unfinished");
