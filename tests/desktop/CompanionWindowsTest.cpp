@@ -30,6 +30,7 @@ void CompanionWindowsTest::init()
     QVERIFY(QTest::qWaitForWindowActive(m_below.get(), kSoonMs));
     QTRY_COMPARE_WITH_TIMEOUT(XWindows::activeWindow(), m_below->winId(), kSoonMs);
     m_host = std::make_unique<FakeHost>();
+    prepare(*m_host);
     QVERIFY(m_host->start());
     m_host->answerHeartbeats();
 }
@@ -154,6 +155,22 @@ void CompanionWindowsTest::verifyBubbleAt(const QPoint &place)
     const QString no = QStringLiteral("64x32 at %1,%2").arg(place.x() + 128 + 56).arg(place.y() + 64 + 56);
     QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays(kButton)), QStringList({next, next, no}), kSoonMs);
     QVERIFY(bubbleIsAt(place));
+}
+
+bool CompanionWindowsTest::clickButton(const QPoint &place, const QPoint &inside)
+{
+    const auto isReady = [this, place, inside] {
+        const QVector<XWindows::Window> buttons = overlays(kButton);
+        return std::any_of(buttons.cbegin(), buttons.cend(), [place, inside](const XWindows::Window &button) {
+            return button.rect.topLeft() == place &&
+                   XWindows::takesClick(XWindows::idOf(button), place + inside);
+        });
+    };
+    if (!FakeHost::waitFor(isReady)) {
+        return false;
+    }
+    XWindows::click(place + inside);
+    return true;
 }
 
 #include "moc_CompanionWindowsTest.cpp"

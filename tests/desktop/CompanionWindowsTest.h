@@ -37,6 +37,9 @@ protected:
     static constexpr QSize kLog{1, 1};
     static constexpr int kSoonMs = 30000;
 
+    /// What the host does before it starts the program.
+    virtual void prepare(FakeHost & /*host*/) {}
+
     /// What a step's flags and icon say.
     static constexpr int kNext = 1;
     static constexpr int kYesNo = 2;
@@ -59,6 +62,9 @@ protected:
     bool waitForBeats(int count);
     /// With 64 pixels of hint height, which is what stands until a hint is measured.
     void verifyBubbleAt(const QPoint &place);
+    /// Clicks at @p inside of the button whose window is at @p place, as soon as a click there goes to it.
+    /// False when it never does.
+    bool clickButton(const QPoint &place, const QPoint &inside);
     [[nodiscard]] qint64 pid() const { return m_host->process().processId(); }
     [[nodiscard]] QVector<XWindows::Window> overlays() const { return XWindows::mapped(pid()); }
     [[nodiscard]] QVector<XWindows::Window> overlays(const QSize &size) const

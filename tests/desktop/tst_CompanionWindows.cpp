@@ -21,7 +21,6 @@ private Q_SLOTS:
 
 private:
     void verifyClicksPass(const QVector<QPoint> &spots);
-    bool clickButton(const QPoint &place, const QPoint &inside);
 };
 
 void tst_CompanionWindows::windowsAreOverlays()
@@ -108,23 +107,6 @@ void tst_CompanionWindows::verifyClicksPass(const QVector<QPoint> &spots)
         XWindows::click(spot);
         QTRY_COMPARE_WITH_TIMEOUT(m_below->presses, before + 1, kSoonMs);
     }
-}
-
-// Clicks a spot inside of the button whose corner is at @p place, as soon as there is one to take it.
-bool tst_CompanionWindows::clickButton(const QPoint &place, const QPoint &inside)
-{
-    const auto isReady = [this, place, inside] {
-        const QVector<XWindows::Window> buttons = overlays(kButton);
-        return std::any_of(buttons.cbegin(), buttons.cend(), [place, inside](const XWindows::Window &button) {
-            return button.rect.topLeft() == place &&
-                   XWindows::takesClick(XWindows::idOf(button), place + inside);
-        });
-    };
-    if (!FakeHost::waitFor(isReady)) {
-        return false;
-    }
-    XWindows::click(place + inside);
-    return true;
 }
 
 void tst_CompanionWindows::clicksReachTheWindowBelow()

@@ -221,6 +221,26 @@ QVector<qint64> FakeHost::sortedHeartbeatGaps()
     return gaps;
 }
 
+void FakeHost::probe(const QString &specification)
+{
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(PROBE_FOLDER));
+    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
+                       QStringLiteral("tutorialprobe:") + specification);
+    environment.insert(QStringLiteral("TUTORIAL_PROBE_FILE"), m_folder.filePath(QStringLiteral("probe")));
+    m_process.setProcessEnvironment(environment);
+}
+
+QStringList FakeHost::probed() const
+{
+    QFile file(m_folder.filePath(QStringLiteral("probe")));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    // A line counts when it is whole.
+    return QString::fromUtf8(file.readAll()).section(QLatin1Char('\n'), 0, -2).split(QLatin1Char('\n'));
+}
+
 bool FakeHost::waitForEnd(int limitMs)
 {
     return waitFor([this] { return m_process.state() == QProcess::NotRunning; }, limitMs);

@@ -83,6 +83,11 @@ public:
     /// late the test comes to look makes no difference. Needs stampLog().
     [[nodiscard]] QVector<qint64> sortedHeartbeatGaps();
 
+    /// Loads the probe into the program, see ProgramProbe. To be called before it starts.
+    void probe(const QString &specification = QString());
+    /// What the probe has written up to now, a line each.
+    [[nodiscard]] QStringList probed() const;
+
     /// Waits for the end of the program.
     bool waitForEnd(int limitMs = kLimitMs);
 

@@ -98,6 +98,9 @@ TutorialIndicator::~TutorialIndicator()
     if (m_timerId != 0) {
         killTimer(m_timerId);
     }
+    for (const std::unique_ptr<QWidget> &window : m_windows) {
+        window->removeEventFilter(this); // an active one may tell of its end
+    }
 }
 
 void TutorialIndicator::setTargetWindowOffset(int x, int y, const QString &windowKey, bool arrowVisible)
@@ -278,6 +281,17 @@ void TutorialIndicator::noClicked()
     m_manager->send(QStringLiteral("no"));
 }
 
+bool TutorialIndicator::eventFilter(QObject *watched, QEvent *event)
+{
+    // What one button loses to another is no change of the whole: the other one tells of it.
+    if (event->type() == QEvent::ActivationChange &&
+        (QApplication::activeWindow() == watched || !isActive())) {
+        QEvent change(QEvent::ActivationChange);
+        QCoreApplication::sendEvent(this, &change);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void TutorialIndicator::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
@@ -355,6 +369,7 @@ QPushButton *TutorialIndicator::makeButton(const QString &name, const QString &c
     button->hide();
     new KeepPlace(button);
     new StayHidden(button);
+    button->installEventFilter(this);
     return button;
 }
 

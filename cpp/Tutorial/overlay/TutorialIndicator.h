@@ -67,6 +67,9 @@ public:
     [[nodiscard]] QVariantMap getSettings() const;
     void setSettings(const QVariantMap &settings);
 
+    /// Passes on to this widget, which no window manager knows, that a button became active or ceased to be.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 public Q_SLOTS:
     void nextClicked();
     void yesClicked();

@@ -50,6 +50,10 @@ private Q_SLOTS:
     void isActiveFollowsTheActiveWindow();
     void activationOfAnotherWindowIsPassedOn();
     void ownActivationEndsThePopup();
+    void activeButtonEndsThePopup();
+    void buttonThatTakesOverEndsThePopupOnce();
+    void buttonThatIsNoLongerActiveEndsNoPopup();
+    void indicatorThatIsNeverShownLeavesTheActivationAlone();
     void otherChangesAreNotPassedOn();
     void lostActivationIsTakenBackOnTheNextTick();
     void closeEndsTimerAndWindows();
@@ -201,6 +205,56 @@ void TestTutorialIndicator::ownActivationEndsThePopup()
     QEvent event(QEvent::ActivationChange);
     QCoreApplication::sendEvent(m_indicator.get(), &event);
     QCOMPARE(m_host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
+}
+
+void TestTutorialIndicator::activeButtonEndsThePopup()
+{
+    QWidget other;
+    activate(&other);
+    m_indicator->init(true, true);
+    QCoreApplication::processEvents(); // this platform makes active what is shown
+    for (QPushButton *button : {TestIndicator::next(), TestIndicator::yes(), TestIndicator::no()}) {
+        activate(&other);
+        m_host.calls.clear();
+        LogCapture log;
+        activate(button);
+        QCOMPARE(m_host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
+        QVERIFY(
+            log.debugs().constFirst().endsWith(QStringLiteral("TutorialIndicator::changeEvent 286 true")));
+    }
+}
+
+void TestTutorialIndicator::buttonThatTakesOverEndsThePopupOnce()
+{
+    m_indicator->init(false, true);
+    QCoreApplication::processEvents(); // this platform makes active what is shown
+    activate(TestIndicator::yes());
+    m_host.calls.clear();
+    activate(TestIndicator::no());
+    QCOMPARE(m_host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
+}
+
+void TestTutorialIndicator::buttonThatIsNoLongerActiveEndsNoPopup()
+{
+    m_indicator->init(true, false);
+    activate(TestIndicator::next());
+    m_host.calls.clear();
+    QWidget other;
+    activate(&other);
+    QCOMPARE(m_host.calls, QStringList(QStringLiteral("visibility")));
+}
+
+void TestTutorialIndicator::indicatorThatIsNeverShownLeavesTheActivationAlone()
+{
+    m_indicator->init(true, false);
+    activate(TestIndicator::next());
+    QWidget other;
+    activate(&other);
+    // The tick that takes the activation back finds no window to give it to.
+    m_indicator->tick();
+    QCoreApplication::processEvents();
+    QCOMPARE(QApplication::activeWindow(), &other);
+    QCOMPARE(m_indicator->windowHandle(), nullptr);
 }
 
 void TestTutorialIndicator::otherChangesAreNotPassedOn()
