@@ -3,6 +3,7 @@
 #include "Tutorial/localisation/Translators.h"
 #include "Tutorial/overlay/OverlayStyle.h"
 #include "UndoRedo/UndoRedo.h"
+#include "tool/EndSignals.h"
 #include "tool/LogLine.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ int main(int argc, char **argv)
     // Overlays are closed and made anew while nothing is shown; only the link ends the process.
     QApplication::setQuitOnLastWindowClosed(false);
     OverlayStyle::apply();
+    const EndSignals endSignals;
 
     const QStringList arguments = QCoreApplication::arguments();
     const QString locale = arguments.size() >= 3 ? arguments.at(2) : QStringLiteral("en_US");
@@ -41,6 +43,14 @@ int main(int argc, char **argv)
     UndoRedo undoRedo(&application, manager);
     UndoRedo::publish(&undoRedo);
     QLocale::setDefault(QLocale(QLocale::C, QLocale::AnyCountry));
+
+    QObject::connect(&endSignals, &EndSignals::received, &application, [manager] {
+        if (manager) {
+            manager->requestClose();
+        } else {
+            QCoreApplication::quit();
+        }
+    });
 
     const int status = QApplication::exec();
     delete manager;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "tool/TemporaryFolder.h"
+
 #include <QObject>
 #include <QString>
-#include <QTemporaryDir>
 #include <QTime>
 
 #include <functional>
@@ -103,7 +104,7 @@ private:
     QTime m_lastTime;
     bool m_mergeable = false;
     bool m_unmergeable = false;
-    QTemporaryDir m_temporaryDir;
+    TemporaryFolder m_temporaryDir;
     int m_savedIndex = 0;
 
     UndoHost *m_host = nullptr;
