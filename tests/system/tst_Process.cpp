@@ -24,6 +24,7 @@ private Q_SLOTS:
     void lives_on_when_nobody_reads_its_log();
     void registers_its_bundles_before_main();
     void builds_its_objects_in_order();
+    void joins_the_undo_history_to_the_manager();
     void connects_under_the_default_key_without_arguments();
     void stays_with_en_US_with_one_argument();
     void ignores_further_arguments();
@@ -143,6 +144,19 @@ void tst_Process::builds_its_objects_in_order()
         QVERIFY2(found >= 0, qPrintable(step + QStringLiteral("\nis not where it belongs in\n") + log));
         place = found;
     }
+}
+
+void tst_Process::joins_the_undo_history_to_the_manager()
+{
+    FakeHost host;
+    host.probe(QStringLiteral("history"));
+    QVERIFY(host.start());
+    QVERIFY(FakeHost::waitFor([&host] { return host.probed().contains(QStringLiteral("watching")); }));
+    // The history, cleared, tells the manager; the document finds the history, and its steps tell again.
+    QCOMPARE(host.probed(), QStringList({QStringLiteral("modified false"), QStringLiteral("errors "),
+                                         QStringLiteral("pasted 1"), QStringLiteral("canUndo true"),
+                                         QStringLiteral("modified true"), QStringLiteral("modified false"),
+                                         QStringLiteral("watching")}));
 }
 
 void tst_Process::connects_under_the_default_key_without_arguments()

@@ -1,0 +1,42 @@
+#include "ManagerFixture.h"
+
+#include "UndoRedo/UndoRedo.h"
+#include "UndoRedo/UnredoableCommand.h"
+
+#include <algorithm>
+#include <new>
+
+/// What the manager leaves behind when it goes.
+class tst_ManagerEnd : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void history_that_outlives_the_manager_tells_nobody();
+};
+
+void tst_ManagerEnd::history_that_outlives_the_manager_tells_nobody()
+{
+    // As with an empty key: the manager goes first, and main's history stays.
+    alignas(TutorialManager) static unsigned char room[sizeof(TutorialManager)];
+    auto *manager = new (room) TutorialManager;
+    UndoRedo history(nullptr, manager);
+    UndoRedo::publish(&history);
+    history.addCommand(new UnredoableCommand);
+    QVERIFY(manager->modified());
+    manager->~TutorialManager();
+    // Whoever calls anything on it now jumps to nowhere.
+    std::fill(std::begin(room), std::end(room), static_cast<unsigned char>(0xff));
+    history.addCommand(new UnredoableCommand);
+    history.undo();
+    history.undoAndMakeUnredoable();
+    history.markSaved();
+    history.clear();
+    QVERIFY(!history.canUndo());
+}
+
+int main(int argc, char **argv)
+{
+    return runWithKey<tst_ManagerEnd>(argc, argv);
+}
+#include "tst_ManagerEnd.moc"
