@@ -2,6 +2,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTest>
+#include <QVector>
 
 #include "FakeOverlayHost.h"
 #include "Tutorial/Overlays.h"
@@ -13,6 +14,7 @@ class tst_Overlays : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void a_replaced_overlay_stays_until_the_next_rebuild();
     void windows_do_not_pile_up();
 };
@@ -33,6 +35,21 @@ void deleteWhatIsDue()
 }
 
 } // namespace
+
+void tst_Overlays::cleanup()
+{
+    // They must not hear of anything any more: their host has just gone. An indicator owns its windows.
+    QVector<TutorialIndicator *> indicators;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *indicator = qobject_cast<TutorialIndicator *>(widget)) {
+            indicators.append(indicator);
+        }
+    }
+    qDeleteAll(indicators);
+    const QWidgetList others = QApplication::topLevelWidgets();
+    qDeleteAll(others);
+}
 
 void tst_Overlays::a_replaced_overlay_stays_until_the_next_rebuild()
 {
