@@ -1,13 +1,12 @@
 #include "lesson-check/BubbleCheck.h"
 
-#include "Tutorial/overlay/HintHtml.h"
+#include "Tutorial/overlay/HintDocument.h"
 
 #include <QTextDocument>
 
 namespace {
 
-/// The bubble's text is this wide, and the window below the icon that holds it is this high, in pixels.
-constexpr int kTextWidth = 256;
+/// How high the window is below the icon, where the text is, in pixels.
 constexpr int kTextHeight = 480 - 56;
 
 } // namespace
@@ -17,11 +16,11 @@ Findings BubbleCheck::check(const Catalogue &catalogue, const QString &context)
     Findings findings;
     m_font.setLocale(catalogue.locale());
     QTextDocument document;
-    document.setDefaultFont(m_font.getFont());
+    const QFont font = m_font.getFont();
     const Catalogue::Messages messages = catalogue.messages(context);
     for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
-        document.setHtml(hintToHtml(message->translation));
-        document.setTextWidth(kTextWidth);
+        fillHintDocument(&document, message->translation, font);
+        document.setTextWidth(kHintWidth);
         const int height = qRound(document.size().height());
         if (height > kTextHeight)
             findings.append(

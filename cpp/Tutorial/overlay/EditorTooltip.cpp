@@ -19,6 +19,7 @@ constexpr int kTickMs = 10;
 constexpr int kDelayTicks = 100;
 constexpr int kTimeoutTicks = 500;
 constexpr int kFadeTicks = 25;
+constexpr int kMargin = 9; // pixels around the text; the shadow of the panel lies in it
 
 double opacityOf(int step)
 {
@@ -40,6 +41,7 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
     m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
     // Without it a blinking cursor stands in the text while the window is active.
     m_textEdit->setFocusPolicy(Qt::NoFocus);
+    m_textEdit->document()->setDocumentMargin(kMargin);
 
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -73,7 +75,7 @@ void EditorTooltip::present(const QString &text, int x, int y)
 {
     m_text = text;
     if (!text.isEmpty()) {
-        setHostText(m_textEdit, text);
+        setText(text);
         m_textEdit->show();
         const QSizeF size = m_textEdit->document()->size();
         logDebug(kSource, "EditorTooltip::show", 74) << text << size.width() << size.height();
@@ -89,6 +91,12 @@ void EditorTooltip::present(const QString &text, int x, int y)
     m_timeout = kTimeoutTicks;
     m_fade = kFadeTicks;
     show();
+}
+
+void EditorTooltip::setText(const QString &text)
+{
+    m_textEdit->setFont(m_manager->overlayFont());
+    setHostText(m_textEdit, text);
 }
 
 QVariantMap EditorTooltip::getSettings() const
@@ -110,7 +118,7 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
     logDebug(kSource, "EditorTooltip::setSettings", 106) << settings;
     m_text = settings.value(QStringLiteral("text")).toString();
     if (!m_text.isEmpty()) {
-        setHostText(m_textEdit, m_text);
+        setText(m_text);
         m_textEdit->show();
         m_textEdit->resize(settings.value(QStringLiteral("width")).toInt(),
                            settings.value(QStringLiteral("height")).toInt());

@@ -39,6 +39,7 @@ protected:
 
 private:
     void present(const QString &text, int x, int y);
+    void setText(const QString &text);
     void applyOpacity(double opacity);
 
     QTextEdit *m_textEdit;

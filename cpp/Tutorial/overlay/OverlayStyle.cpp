@@ -1,28 +1,24 @@
 #include "Tutorial/overlay/OverlayStyle.h"
 
 #include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/OverlayButton.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QPushButton>
 #include <QStyleOption>
 #include <QTextEdit>
 
 namespace {
 
 constexpr qreal kPanelRadius = 6.0;
-constexpr int kPanelPadding = 6;
+constexpr qreal kShadow = 3.0;
 constexpr qreal kSmallestPointSize = 10.5;
 
 const QColor kPanelFill(255, 253, 244);
 const QColor kPanelLine(96, 82, 44);
+const QColor kShadowLayer(0, 0, 0, 34);
 const QColor kText(33, 30, 22);
-const QColor kButtonFill(38, 104, 178);
-const QColor kButtonHover(57, 128, 207);
-const QColor kButtonPressed(24, 74, 133);
-const QColor kButtonLine(255, 255, 255, 200);
-const QColor kButtonText(255, 255, 255);
 
 // The widget may still be under construction: only its parent is known for what it is then.
 bool isHintText(const QWidget *widget)
@@ -35,44 +31,22 @@ bool isTooltipText(const QWidget *widget)
     return widget != nullptr && qobject_cast<const EditorTooltip *>(widget->parentWidget()) != nullptr;
 }
 
-bool isFloatingButton(const QWidget *widget)
+// The shadow falls inside of @p rect, for nothing may be drawn beyond it.
+void drawPanel(QPainter *painter, const QRect &rect)
 {
-    return widget != nullptr && widget->windowType() == Qt::Tool &&
-           qobject_cast<const QPushButton *>(widget) != nullptr;
-}
-
-void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &line)
-{
+    const QRectF panel = QRectF(rect).adjusted(kShadow, kShadow - 1.0, -kShadow, -kShadow - 1.0);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setBrush(fill);
-    painter->setPen(QPen(line, 1.0));
-    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), kPanelRadius, kPanelRadius);
-    painter->restore();
-}
-
-// The window of No begins 8 pixels before that of Yes ends, and both begin where the hint's panel ends: the
-// body keeps clear of all of them.
-QRect buttonBody(const QRect &window)
-{
-    return window.adjusted(0, 4, -10, 0);
-}
-
-void drawButton(QPainter *painter, const QStyleOptionButton &option)
-{
-    const QRect body = buttonBody(option.rect);
-    const bool pressed = option.state.testFlag(QStyle::State_Sunken);
-    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    const bool reachedByKey = option.state.testFlag(QStyle::State_HasFocus) &&
-                              option.state.testFlag(QStyle::State_KeyboardFocusChange);
-    const QColor &fill = pressed ? kButtonPressed : hovered ? kButtonHover : kButtonFill;
-    drawPanel(painter, body, fill, kButtonLine);
-    if (reachedByKey) {
-        drawPanel(painter, body.adjusted(3, 3, -3, -3), fill, kButtonText);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(kShadowLayer);
+    for (qreal reach = kShadow; reach > 0.0; reach -= 1.0) {
+        const qreal radius = kPanelRadius + reach;
+        painter->drawRoundedRect(panel.adjusted(-reach, 1.0 - reach, reach, 1.0 + reach), radius, radius);
     }
-    painter->setPen(kButtonText);
-    painter->drawText(pressed ? body.translated(0, 1) : body, Qt::AlignCenter | Qt::TextShowMnemonic,
-                      option.text);
+    painter->setBrush(kPanelFill);
+    painter->setPen(QPen(kPanelLine, 1.0));
+    painter->drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), kPanelRadius, kPanelRadius);
+    painter->restore();
 }
 
 } // namespace
@@ -102,6 +76,9 @@ void OverlayStyle::polish(QWidget *widget)
         palette.setColor(QPalette::Base, kPanelFill);
         textEdit->setPalette(palette);
         textEdit->viewport()->setAutoFillBackground(false);
+    } else if (OverlayButton::isOne(widget)) {
+        // What is not drawn takes no clicks: the windows of Yes and No overlap.
+        widget->setMask(OverlayButton::body(widget));
     }
 }
 
@@ -110,9 +87,9 @@ void OverlayStyle::drawControl(ControlElement element, const QStyleOption *optio
 {
     const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
     if (element == CE_ShapedFrame && (isHintText(widget) || isTooltipText(widget))) {
-        drawPanel(painter, option->rect, kPanelFill, kPanelLine);
-    } else if (element == CE_PushButton && button != nullptr && isFloatingButton(widget)) {
-        drawButton(painter, *button);
+        drawPanel(painter, option->rect);
+    } else if (element == CE_PushButton && button != nullptr && OverlayButton::isOne(widget)) {
+        OverlayButton::draw(painter, *button, widget);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -121,11 +98,8 @@ void OverlayStyle::drawControl(ControlElement element, const QStyleOption *optio
 QRect OverlayStyle::subElementRect(SubElement element, const QStyleOption *option,
                                    const QWidget *widget) const
 {
-    if (element == SE_ShapedFrameContents && isHintText(widget)) {
-        return option->rect.adjusted(kPanelPadding, 0, -kPanelPadding, 0);
-    }
-    // The tooltip's text edit is exactly as wide as its document.
-    if (element == SE_ShapedFrameContents && isTooltipText(widget)) {
+    // The margin of the document keeps the text clear of the panel's line.
+    if (element == SE_ShapedFrameContents && (isHintText(widget) || isTooltipText(widget))) {
         return option->rect;
     }
     return QProxyStyle::subElementRect(element, option, widget);

@@ -6,7 +6,8 @@
 /// colours, so that they read the same above light and dark desktops. Everything else looks as the Fusion
 /// style has it.
 ///
-/// A panel takes no height of its own: a text edit as high as its document shows all lines.
+/// A panel takes no room of its own: a text edit as large as its document shows all of it. The document's
+/// margin holds the panel's line and shadow. A floating button is masked to what is drawn of it.
 class OverlayStyle : public QProxyStyle
 {
     Q_OBJECT

@@ -1,6 +1,6 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 
-#include "Tutorial/overlay/HintHtml.h"
+#include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/Placement.h"
@@ -56,12 +56,6 @@ void storePosition(QVariantMap &settings, const QString &name, const QWidget *wi
 QPoint storedPosition(const QVariantMap &settings, const QString &name)
 {
     return {settings.value(name + QLatin1Char('X')).toInt(), settings.value(name + QLatin1Char('Y')).toInt()};
-}
-
-void fillDocument(QTextDocument *document, const QString &hint, const QFont &font)
-{
-    document->setDefaultFont(font);
-    document->setHtml(hintToHtml(hint));
 }
 
 } // namespace
@@ -134,10 +128,19 @@ void TutorialIndicator::setHint(const QString &hint)
     }
     // Text edits go on using it, closed bubbles and new ones alike, so it lives as long as the process.
     static auto *const document = new QTextDocument;
-    fillDocument(document, m_hint, m_manager->overlayFont());
+    fillHintDocument(document, m_hint, m_manager->overlayFont());
     m_tooltip->m_textEdit->setDocument(document);
     m_tooltip->m_textEdit->show();
     m_updateTextEditSize = true;
+}
+
+void TutorialIndicator::setIconKind(int iconKind)
+{
+    m_iconKind = iconKind;
+    if (m_tooltip != nullptr) {
+        // Mirrored, the icon lies beside what a tick repaints.
+        m_tooltip->update(m_tooltip->iconRect());
+    }
 }
 
 void TutorialIndicator::init(bool next, bool yesNo)
@@ -244,7 +247,7 @@ void TutorialIndicator::setSettings(const QVariantMap &settings)
     m_yesNoWindowEnabled = settings.value(QStringLiteral("yesNoWindowEnabled")).toBool();
     setShown(m_yesButton, m_yesNoWindowEnabled);
     setShown(m_noButton, m_yesNoWindowEnabled);
-    m_iconKind = settings.value(QStringLiteral("iconKind")).toInt();
+    setIconKind(settings.value(QStringLiteral("iconKind")).toInt());
 }
 
 void TutorialIndicator::applyTooltipSettings(const QVariantMap &settings)
@@ -260,7 +263,7 @@ void TutorialIndicator::applyTooltipSettings(const QVariantMap &settings)
     }
     // Not the document of setHint: that one may still belong to a bubble that is on its way out.
     static auto *const document = new QTextDocument;
-    fillDocument(document, m_hint, m_manager->overlayFont());
+    fillHintDocument(document, m_hint, m_manager->overlayFont());
     textEdit->setDocument(document);
     textEdit->show();
     m_updateTextEditSize = true;

@@ -43,7 +43,7 @@ public:
     void init(bool next, bool yesNo);
 
     /// 0 click, 1 double click, 2 right click, 3 eye, 4 wait, 5 keyboard; anything else is no icon.
-    void setIconKind(int iconKind) { m_iconKind = iconKind; }
+    void setIconKind(int iconKind);
 
     /// Shows the buttons that the step wants. Allocates nothing when they are shown already.
     void showButtons();

@@ -2,6 +2,7 @@
 
 #include "Tutorial/overlay/Bounce.h"
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/StayHidden.h"
@@ -10,12 +11,12 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QTextEdit>
 
 namespace {
 
 constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialTooltip.cpp";
-constexpr int kTextWidth = 256;
 constexpr int kTextTop = 56;
 constexpr int kBounceRoom = 16;
 constexpr int kIconSide = 56;
@@ -28,9 +29,9 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
 {
     const int hintHeight = m_indicator->m_hintHeight;
     m_textEdit->setObjectName(QStringLiteral("hintTextEdit"));
-    m_textEdit->setMinimumSize(kTextWidth, hintHeight);
-    m_textEdit->setMaximumSize(kTextWidth, hintHeight);
-    m_textEdit->setGeometry(m_indicator->m_arrow.width(), kTextTop, kTextWidth, hintHeight);
+    m_textEdit->setMinimumSize(kHintWidth, hintHeight);
+    m_textEdit->setMaximumSize(kHintWidth, hintHeight);
+    m_textEdit->setGeometry(m_indicator->m_arrow.width(), kTextTop, kHintWidth, hintHeight);
     m_textEdit->setLineWrapMode(QTextEdit::WidgetWidth);
     m_textEdit->setAutoFormatting(QTextEdit::AutoAll);
     m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -39,6 +40,7 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
     // Without it a blinking cursor stands in the text while the window is active.
     m_textEdit->setFocusPolicy(Qt::NoFocus);
+    m_textEdit->document()->setDocumentMargin(kHintMargin);
     if (!m_indicator->m_hint.isEmpty()) {
         setHostText(m_textEdit, m_indicator->m_hint);
         m_textEdit->show();
@@ -77,6 +79,8 @@ void TutorialTooltip::paintEvent(QPaintEvent *event)
     painter.setCompositionMode(QPainter::CompositionMode_Clear);
     erase(painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    // On a scaled screen the pictures are enlarged; unscaled, smoothing would only blur the flipped arrow.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, painter.combinedTransform().m11() != 1.0);
     if (m_indicator->m_arrowVisible) {
         drawArrow(painter);
     }
@@ -103,8 +107,14 @@ void TutorialTooltip::erase(QPainter &painter)
     }
     const QSize arrow = m_indicator->m_arrow.size();
     const bool mirror = m_indicator->m_mirror;
-    painter.fillRect(mirror ? kTextWidth : 0, 0, arrow.width(), arrow.height() + kBounceRoom, nothing);
-    painter.fillRect(mirror ? kTextWidth - kIconSide : arrow.width(), 0, kIconSide, kIconSide, nothing);
+    painter.fillRect(mirror ? kHintWidth : 0, 0, arrow.width(), arrow.height() + kBounceRoom, nothing);
+    painter.fillRect(iconRect(), nothing);
+}
+
+QRect TutorialTooltip::iconRect() const
+{
+    const int left = m_indicator->m_mirror ? kHintWidth - kIconSide : m_indicator->m_arrow.width();
+    return {left, 0, kIconSide, kIconSide};
 }
 
 void TutorialTooltip::drawArrow(QPainter &painter) const
@@ -115,7 +125,7 @@ void TutorialTooltip::drawArrow(QPainter &painter) const
     const qint64 elapsedMs = m_indicator->elapsedMs();
     const float bounce = upsideDown ? upsideDownBounceOffset(elapsedMs) : bounceOffset(elapsedMs);
     painter.save();
-    painter.translate(mirror ? arrow.width() + kTextWidth : 0, upsideDown ? arrow.height() : 0);
+    painter.translate(mirror ? arrow.width() + kHintWidth : 0, upsideDown ? arrow.height() : 0);
     painter.scale(mirror ? -1 : 1, upsideDown ? -1 : 1);
     painter.drawPixmap(0, static_cast<int>(bounce), arrow);
     painter.restore();
@@ -125,7 +135,7 @@ void TutorialTooltip::drawIcon(QPainter &painter) const
 {
     const QPixmap *const icon = m_indicator->icon();
     if (icon != nullptr) {
-        painter.drawPixmap(m_indicator->m_mirror ? kTextWidth - icon->width() : m_indicator->m_arrow.width(),
+        painter.drawPixmap(m_indicator->m_mirror ? kHintWidth - icon->width() : m_indicator->m_arrow.width(),
                            0, *icon);
     }
 }

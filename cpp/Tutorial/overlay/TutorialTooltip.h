@@ -29,6 +29,8 @@ protected:
 private:
     friend class TutorialIndicator;
 
+    /// The place of the largest icon, on the side on which it is drawn, in pixels of the window.
+    [[nodiscard]] QRect iconRect() const;
     void erase(QPainter &painter);
     void drawArrow(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;

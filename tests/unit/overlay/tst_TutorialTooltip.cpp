@@ -70,6 +70,7 @@ private Q_SLOTS:
     void repaintAllErasesTheWindowOnce_data();
     void repaintAllErasesTheWindowOnce();
     void nothingRemainsOfThePaintBefore();
+    void picturesAreSmoothOnAScaledScreen();
     void activationIsLogged();
     void otherChangesAreNotLogged();
     void closingForgetsTextAndWindow();
@@ -249,6 +250,21 @@ void TestTutorialTooltip::nothingRemainsOfThePaintBefore()
     draw(&expected, picture(QStringLiteral("arrow")), {0, 0});
     const QImage shown = m_indicator->tooltip()->grab().toImage().convertToFormat(expected.format());
     QCOMPARE(shown, expected);
+}
+
+void TestTutorialTooltip::picturesAreSmoothOnAScaledScreen()
+{
+    m_indicator->clockMs = 1500;
+    QImage image(1280, 960, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2.0);
+    image.fill(Qt::transparent);
+    m_indicator->tooltip()->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    image.setDevicePixelRatio(1.0);
+    const QImage arrow = picture(QStringLiteral("arrow"));
+    const QImage large = image.copy(QRect(QPoint(0, 0), 2 * arrow.size()));
+    QVERIFY(large.pixelColor(110, 150).alpha() == 255);
+    // Enlarged without smoothing, each pixel would be a square of four.
+    QVERIFY(large.scaled(arrow.size()).scaled(large.size()) != large);
 }
 
 void TestTutorialTooltip::activationIsLogged()

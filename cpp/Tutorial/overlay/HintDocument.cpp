@@ -1,0 +1,13 @@
+#include "Tutorial/overlay/HintDocument.h"
+
+#include "Tutorial/overlay/HintHtml.h"
+
+#include <QFont>
+#include <QTextDocument>
+
+void fillHintDocument(QTextDocument *document, const QString &hint, const QFont &font)
+{
+    document->setDocumentMargin(kHintMargin);
+    document->setDefaultFont(font);
+    document->setHtml(hintToHtml(hint));
+}
