@@ -2,11 +2,8 @@
 
 #include "SampleEvents.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 
 namespace {
 
@@ -14,36 +11,9 @@ using sample::number;
 using sample::objectsIn;
 using sample::Place;
 
-constexpr int kLayers = 3;
 constexpr int kByAsking = 0;
 constexpr int kByTouch = 1;
 constexpr int kTransfer = 201;
-
-/// The drawings of the tiles in the order of their numbers, the first one being tile 1.
-QStringList drawings()
-{
-    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows/data/project.json"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    QStringList names;
-    const QJsonArray tabs = objectsIn(QJsonDocument::fromJson(file.readAll()).object(), "tileTabs");
-    for (const QJsonValue &tab : tabs) {
-        const QJsonArray tiles = objectsIn(tab, "tiles");
-        for (const QJsonValue &tile : tiles) {
-            names.append(tile.toObject().value(QLatin1String("drawing")).toString());
-        }
-    }
-    return names;
-}
-
-QVector<Place> besides(const Place &place)
-{
-    return {{place.map, place.x, place.y + 1},
-            {place.map, place.x - 1, place.y},
-            {place.map, place.x + 1, place.y},
-            {place.map, place.x, place.y - 1}};
-}
 
 QString text(const Place &place)
 {
@@ -65,17 +35,14 @@ bool hasPicture(const QJsonObject &page)
 
 namespace sample {
 
-bool operator<(const Place &left, const Place &right)
-{
-    return std::tie(left.map, left.x, left.y) < std::tie(right.map, right.x, right.y);
-}
-
 Ways::Ways(const Files &files)
+    : m_ground(files)
 {
     const QJsonObject system = files.value(QStringLiteral("System.json")).object();
     m_start = {number(system, "startMapId"), number(system, "startX"), number(system, "startY")};
     const QStringList names = mapFiles(files);
     for (const QString &name : names) {
+        m_maps.insert(mapNumber(name));
         readMap(files, mapNumber(name));
     }
     m_reached = reachedFrom(m_start);
@@ -83,11 +50,7 @@ Ways::Ways(const Files &files)
 
 QSet<int> Ways::unreachedMaps() const
 {
-    const QList<int> maps = m_boards.keys();
-    QSet<int> unreached;
-    for (int map : maps) {
-        unreached.insert(map);
-    }
+    QSet<int> unreached = m_maps;
     for (const Place &place : m_reached) {
         unreached.remove(place.map);
     }
@@ -113,38 +76,9 @@ QStringList Ways::findings() const
     return findings;
 }
 
-Ways::Ground Ways::groundOf(int tile)
-{
-    static const QStringList names = drawings();
-    static const QSet<QString> floors = {QStringLiteral("grass"),     QStringLiteral("tallGrass"),
-                                         QStringLiteral("path"),      QStringLiteral("sand"),
-                                         QStringLiteral("floor"),     QStringLiteral("snow"),
-                                         QStringLiteral("flowers"),   QStringLiteral("reeds"),
-                                         QStringLiteral("mushrooms"), QStringLiteral("bridge")};
-    const QString name = names.value(tile - 1);
-    if (name == QLatin1String("door")) {
-        return Ground::kDoor;
-    }
-    return floors.contains(name) ? Ground::kFloor : Ground::kWall;
-}
-
 void Ways::readMap(const Files &files, int id)
 {
     const QJsonObject object = map(files, id);
-    Board board;
-    board.width = number(object, "width");
-    board.height = number(object, "height");
-    const QJsonArray data = objectsIn(object, "data");
-    const int cells = board.width * board.height;
-    for (int cell = 0; cell < cells; ++cell) {
-        int uppermost = 0;
-        for (int layer = 0; layer < kLayers; ++layer) {
-            const int tile = data.at(layer * cells + cell).toInt();
-            uppermost = tile != 0 ? tile : uppermost;
-        }
-        board.ground.append(groundOf(uppermost));
-    }
-    m_boards.insert(id, board);
     const QJsonArray events = objectsIn(object, "events");
     for (const QJsonValue &event : events) {
         if (event.isObject()) {
@@ -185,25 +119,9 @@ void Ways::readEvent(int map, const QJsonObject &event)
     }
 }
 
-Ways::Ground Ways::ground(const Place &place) const
-{
-    const auto board = m_boards.constFind(place.map);
-    if (board == m_boards.constEnd() || place.x < 0 || place.y < 0 || place.x >= board->width ||
-        place.y >= board->height) {
-        return Ground::kWall;
-    }
-    return board->ground.at(place.y * board->width + place.x);
-}
-
 bool Ways::canStand(const Place &place) const
 {
-    return ground(place) != Ground::kWall && m_blocked.count(place) == 0;
-}
-
-bool Ways::isOnEdge(const Place &place) const
-{
-    const Board board = m_boards.value(place.map);
-    return place.x == 0 || place.y == 0 || place.x == board.width - 1 || place.y == board.height - 1;
+    return m_ground.canWalk(place) && m_blocked.count(place) == 0;
 }
 
 bool Ways::isReached(const Figure &figure) const
@@ -275,8 +193,8 @@ QStringList Ways::exitFindings(const Place &from, const Transfer &transfer) cons
     QStringList findings;
     const QVector<Place> around = besides(from);
     for (const Place &place : around) {
-        const bool isSameEdge = isOnEdge(from) && isOnEdge(place);
-        const bool isSameDoor = ground(from) == Ground::kDoor && ground(place) == Ground::kDoor;
+        const bool isSameEdge = m_ground.isOnEdge(from) && m_ground.isOnEdge(place);
+        const bool isSameDoor = m_ground.isDoor(from) && m_ground.isDoor(place);
         if ((isSameEdge || isSameDoor) && canStand(place) && m_transfers.count(place) == 0) {
             findings.append(
                 QStringLiteral("%1: the cell beside it %2 leads nowhere").arg(transfer.event, text(place)));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SampleFiles.h"
+#include "SampleGround.h"
 
 #include <QSet>
 #include <QStringList>
@@ -10,15 +10,6 @@
 #include <set>
 
 namespace sample {
-
-/// A cell of a map.
-struct Place
-{
-    int map = 0;
-    int x = 0;
-    int y = 0;
-};
-bool operator<(const Place &left, const Place &right);
 
 /// Where the player can walk in a step of the sample project. A cell can be walked on when its uppermost tile
 /// can, and no figure stands there. Figures are taken as they stand at the beginning, and pages as if each
@@ -43,16 +34,6 @@ private:
         Place to;
     };
 
-    enum class Ground { kWall, kFloor, kDoor };
-
-    struct Board
-    {
-        int width = 0;
-        int height = 0;
-        /// Row by row, what the uppermost tile of each cell is.
-        QVector<Ground> ground;
-    };
-
     struct Figure
     {
         QString event;
@@ -62,20 +43,18 @@ private:
         bool byTouch = false;
     };
 
-    static Ground groundOf(int tile);
     void readMap(const Files &files, int map);
     void readEvent(int map, const QJsonObject &event);
-    Ground ground(const Place &place) const;
     bool canStand(const Place &place) const;
-    bool isOnEdge(const Place &place) const;
     bool isReached(const Figure &figure) const;
     std::set<Place> reachedFrom(const Place &start) const;
     std::set<Place> leadingTo(const Place &end) const;
     QStringList targetFindings() const;
     QStringList exitFindings(const Place &from, const Transfer &transfer) const;
 
+    Ground m_ground;
     Place m_start;
-    QMap<int, Board> m_boards;
+    QSet<int> m_maps;
     std::set<Place> m_blocked;
     QVector<Figure> m_figures;
     /// By the cell that the player steps on.

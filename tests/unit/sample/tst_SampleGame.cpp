@@ -1,0 +1,115 @@
+#include "SampleEvents.h"
+#include "SampleGame.h"
+
+#include <QTest>
+
+/// The finished sample project can be played from its opening to its end.
+class tst_SampleGame : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void ends();
+    void plays_each_step_without_a_hitch();
+    void notices_what_keeps_it_from_its_end_data();
+    void notices_what_keeps_it_from_its_end();
+    void notices_what_goes_wrong_data();
+    void notices_what_goes_wrong();
+
+private:
+    sample::Files m_last;
+};
+
+namespace {
+
+sample::Game played(const sample::Files &files)
+{
+    sample::Game game(files);
+    game.play();
+    return game;
+}
+
+const QJsonArray kNothing = {QJsonObject{{QStringLiteral("code"), 0}}};
+
+} // namespace
+
+void tst_SampleGame::init()
+{
+    m_last = sample::readStep(sample::kLastStep);
+    QVERIFY(!m_last.isEmpty());
+}
+
+void tst_SampleGame::ends()
+{
+    constexpr int kWarden = 6;
+    constexpr int kLamp = 6;
+    const sample::Game game = played(m_last);
+    QCOMPARE(game.errors(), QStringList());
+    QVERIFY(game.hasEnded());
+    QCOMPARE(game.switches(), (QSet<int>{1, 2, 3, 4, 5, 6}));
+    QCOMPARE(game.party(), (QSet<int>{1, 2, 3}));
+    QCOMPARE(game.troopsFought(), QSet<int>{kWarden});
+    QCOMPARE(game.items(kLamp), 0);
+}
+
+void tst_SampleGame::plays_each_step_without_a_hitch()
+{
+    for (int step = sample::kFirstStep; step <= sample::kLastStep; ++step) {
+        const sample::Game game = played(sample::readStep(step));
+        QVERIFY2(game.errors().isEmpty(),
+                 qPrintable(sample::stepName(step) + game.errors().join(QLatin1Char(' '))));
+        QVERIFY2(game.switches().contains(1), qPrintable(sample::stepName(step)));
+        QVERIFY2(game.hasEnded() == (step == sample::kLastStep), qPrintable(sample::stepName(step)));
+    }
+}
+
+void tst_SampleGame::notices_what_keeps_it_from_its_end_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value) {
+        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value;
+    };
+    row("lever turns nothing on", "Map007.json", "events/6/pages/0/list", kNothing);
+    row("warden turns nothing on", "Map008.json", "events/3/pages/0/list", kNothing);
+    row("lever among rocks", "Map007.json", "events/6/y", 2);
+    row("scene waits for another switch", "Map006.json", "events/4/pages/0/conditions/switchId", 9);
+    row("scene without the ending", "Map006.json", "events/4/pages/0/list/12", kNothing.at(0));
+}
+
+void tst_SampleGame::notices_what_keeps_it_from_its_end()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    QVERIFY(!played(sample::changed(m_last, file, path, value)).hasEnded());
+}
+
+void tst_SampleGame::notices_what_goes_wrong_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QString>("error");
+    const QString scene = QStringLiteral("events/4/pages/0/list/");
+    QTest::newRow("scene that begins for ever")
+        << QStringLiteral("events/4/pages/0/list") << QJsonValue(kNothing)
+        << "Map006.json event 4: begins for ever";
+    QTest::newRow("route into the player")
+        << QStringLiteral("events/3/x") << QJsonValue(10) << "Map006.json event 4: walks into something";
+    QTest::newRow("lamp given twice")
+        << scene + QStringLiteral("10/parameters/3") << QJsonValue(2) << "item 6 is given and not there";
+}
+
+void tst_SampleGame::notices_what_goes_wrong()
+{
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    QFETCH(QString, error);
+    const sample::Files files = sample::changed(m_last, QStringLiteral("Map006.json"), path, value);
+    QCOMPARE(played(files).errors(), QStringList{error});
+}
+
+QTEST_GUILESS_MAIN(tst_SampleGame)
+#include "tst_SampleGame.moc"
