@@ -1,5 +1,7 @@
 #include "Tutorial/link/FrameReader.h"
 
+#include <utility>
+
 namespace {
 
 constexpr char kLead = '0';
@@ -13,23 +15,29 @@ constexpr QChar kCommandSeparator(2);
 
 void FrameReader::read(const QByteArray &bytes, Sink &sink)
 {
-    QByteArray data = bytes;
-    if (m_missing > 0) {
-        if (bytes.size() > m_mostBytes - m_buffer.size()) {
-            const QByteArray start = m_buffer.left(kPayloadOffset);
-            wait({}, 0);
-            sink.problem(Problem::kInvalidPayloadSize, start);
-            return;
+    if (m_unwanted > 0) {
+        const int dropped = int(qMin<qint64>(m_unwanted, bytes.size()));
+        m_unwanted -= dropped;
+        if (dropped < bytes.size()) {
+            parse(bytes.mid(dropped), sink);
         }
-        m_buffer.append(bytes);
-        if (bytes.size() < m_missing) {
-            m_missing -= bytes.size();
-            return;
-        }
-        data = m_buffer;
-        m_buffer.clear();
-        m_missing = 0;
+        return;
     }
+    if (m_missing == 0) {
+        parse(bytes, sink);
+        return;
+    }
+    m_buffer.append(bytes);
+    if (bytes.size() < m_missing) {
+        m_missing -= bytes.size();
+        return;
+    }
+    m_missing = 0;
+    parse(std::exchange(m_buffer, {}), sink);
+}
+
+void FrameReader::parse(const QByteArray &data, Sink &sink)
+{
     if (data.size() < 2) {
         wait(data, 1);
         return;
@@ -39,7 +47,8 @@ void FrameReader::read(const QByteArray &bytes, Sink &sink)
     while (data.size() - cursor >= kShortestHeader) {
         if (data.at(cursor) != kLead) {
             sink.problem(Problem::kInvalidHeader, data.mid(cursor));
-            break;
+            wait(data.mid(cursor, int(m_mostPayload + kFrameOverhead)), 1);
+            return;
         }
         bool isNumber = false;
         const int length =
@@ -50,6 +59,15 @@ void FrameReader::read(const QByteArray &bytes, Sink &sink)
         }
         const qint64 total = length + kFrameOverhead;
         const int left = data.size() - cursor;
+        if (length > m_mostPayload) {
+            sink.problem(Problem::kInvalidPayloadSize, data.mid(cursor, kPayloadOffset));
+            if (left <= total) {
+                m_unwanted = total - left;
+                return;
+            }
+            cursor += int(total);
+            continue;
+        }
         if (left < total) {
             wait(data.mid(cursor), total - left);
             return;

@@ -1,45 +1,9 @@
-#include "Tutorial/link/FrameReader.h"
+#include "FrameRecorder.h"
 
 #include <QRandomGenerator>
 #include <QTest>
 
 namespace {
-
-QByteArray frame(const QByteArray &payload, char separator = '\x02')
-{
-    return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';
-}
-
-/// Writes down what the reader hands over, in order.
-class Recorder final : public FrameReader::Sink
-{
-public:
-    bool command(const QString &text) override
-    {
-        events.append(text);
-        return text != stopAt;
-    }
-
-    void problem(FrameReader::Problem problem, const QByteArray &bytes) override
-    {
-        switch (problem) {
-        case FrameReader::Problem::kInvalidHeader:
-            events.append(QStringLiteral("<invalid header>"));
-            break;
-        case FrameReader::Problem::kInvalidPayloadSize:
-            events.append(QStringLiteral("<invalid size>"));
-            break;
-        case FrameReader::Problem::kTerminatorNotFound:
-            events.append(QStringLiteral("<no terminator>"));
-            break;
-        }
-        problemBytes = bytes;
-    }
-
-    QStringList events;
-    QByteArray problemBytes;
-    QString stopAt = QStringLiteral("bye");
-};
 
 QByteArray bytes(const char *text, int size)
 {
@@ -67,7 +31,6 @@ private Q_SLOTS:
     void accepts_what_the_number_parser_accepts_data();
     void accepts_what_the_number_parser_accepts();
     void delivers_the_text_before_it_misses_the_terminator();
-    void drops_more_bytes_than_may_wait();
     void survives_random_bytes();
 };
 
@@ -283,22 +246,6 @@ void tst_FrameReader::delivers_the_text_before_it_misses_the_terminator()
     QCOMPARE(recorder.problemBytes, data);
     reader.read(frame("d"), recorder);
     QCOMPARE(recorder.events.last(), QStringLiteral("d"));
-}
-
-void tst_FrameReader::drops_more_bytes_than_may_wait()
-{
-    FrameReader reader(20);
-    Recorder recorder;
-    const QByteArray header = "07fffffff\x02";
-    reader.read(header, recorder);
-    reader.read("0123456789", recorder);
-    QVERIFY(recorder.events.isEmpty());
-    reader.read("x", recorder);
-    QCOMPARE(recorder.events, QStringList{QStringLiteral("<invalid size>")});
-    QCOMPARE(recorder.problemBytes, header);
-    // What comes in whole is never too much.
-    reader.read(frame(QByteArray(100, 'x')), recorder);
-    QCOMPARE(recorder.events.last(), QString(100, QLatin1Char('x')));
 }
 
 void tst_FrameReader::survives_random_bytes()

@@ -1,0 +1,146 @@
+#include "FrameRecorder.h"
+
+#include <QTest>
+
+namespace {
+
+constexpr int kMostPayload = 20;
+
+} // namespace
+
+/// Frames at the limit of what is delivered, and beyond it.
+class tst_LongFrames : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void delivers_the_longest_payload();
+    void throws_exactly_a_frame_that_is_too_long_away_data();
+    void throws_exactly_a_frame_that_is_too_long_away();
+    void reports_a_frame_that_is_too_long_with_its_header();
+    void throws_more_bytes_away_than_a_number_of_32_bits_counts();
+    void goes_on_behind_a_frame_that_is_too_long_as_at_the_start();
+    void keeps_no_more_behind_an_invalid_header_than_a_frame_has();
+    void takes_time_in_proportion_to_what_comes();
+};
+
+void tst_LongFrames::delivers_the_longest_payload()
+{
+    FrameReader reader(kMostPayload);
+    Recorder recorder;
+    const QByteArray longest = frame(QByteArray(kMostPayload, 'x'));
+    for (const char byte : longest) {
+        reader.read(QByteArray(1, byte), recorder);
+    }
+    reader.read(longest + longest, recorder);
+    const QString text(kMostPayload, QLatin1Char('x'));
+    QCOMPARE(recorder.events, (QStringList{text, text, text}));
+}
+
+void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    // Neither a zero byte nor what looks like a frame ends it early.
+    QTest::newRow("one byte too long") << QByteArray(kMostPayload + 1, 'x');
+    QTest::newRow("zero bytes") << QByteArray(3 * kMostPayload, '\0');
+    QTest::newRow("frames") << frame("inner").repeated(5);
+}
+
+void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away()
+{
+    QFETCH(QByteArray, payload);
+    const QByteArray before = frame("a");
+    const QByteArray tooLong = frame(payload);
+    const QByteArray stream = before + tooLong +
+                              frame("b\x02"
+                                    "c") +
+                              tooLong + frame("d");
+    const QStringList events = {QStringLiteral("a"), QStringLiteral("<invalid size>"), QStringLiteral("b"),
+                                QStringLiteral("c"), QStringLiteral("<invalid size>"), QStringLiteral("d")};
+    for (int split = 0; split <= stream.size(); ++split) {
+        FrameReader reader(kMostPayload);
+        Recorder recorder;
+        reader.read(stream.left(split), recorder);
+        reader.read(stream.mid(split), recorder);
+        QVERIFY2(recorder.events == events, qPrintable(QStringLiteral("split at %1").arg(split)));
+    }
+    FrameReader reader(kMostPayload);
+    Recorder recorder;
+    for (const char byte : stream) {
+        reader.read(QByteArray(1, byte), recorder);
+    }
+    QCOMPARE(recorder.events, events);
+}
+
+void tst_LongFrames::reports_a_frame_that_is_too_long_with_its_header()
+{
+    FrameReader reader(kMostPayload);
+    Recorder recorder;
+    reader.read(frame("a") + frame(QByteArray(100, 'x'), '!') + frame("b"), recorder);
+    QCOMPARE(recorder.problemBytes, QByteArray("000000064!"));
+    // All that there is of it when its length has come.
+    reader.read("07fffffff", recorder);
+    QCOMPARE(recorder.problemBytes, QByteArray("07fffffff"));
+    QCOMPARE(recorder.events.count(QStringLiteral("<invalid size>")), 2);
+}
+
+void tst_LongFrames::throws_more_bytes_away_than_a_number_of_32_bits_counts()
+{
+    FrameReader reader;
+    Recorder recorder;
+    const QByteArray piece(1 << 27, 'x');
+    reader.read("07fffffff\x02", recorder);
+    // The payload, and the zero byte behind it.
+    constexpr qint64 kUnwanted = (qint64(1) << 31) - 1 + 1;
+    for (qint64 sent = 0; sent < kUnwanted; sent += piece.size()) {
+        reader.read(piece, recorder);
+    }
+    reader.read(frame("b"), recorder);
+    QCOMPARE(recorder.events, (QStringList{QStringLiteral("<invalid size>"), QStringLiteral("b")}));
+}
+
+void tst_LongFrames::goes_on_behind_a_frame_that_is_too_long_as_at_the_start()
+{
+    FrameReader reader(kMostPayload);
+    Recorder recorder;
+    const QByteArray tooLong = frame(QByteArray(kMostPayload + 1, 'x'));
+    reader.read(tooLong, recorder);
+    reader.read("0", recorder);
+    reader.read(frame("b").mid(1), recorder);
+    reader.read(tooLong + "X and more", recorder);
+    QCOMPARE(recorder.events,
+             (QStringList{QStringLiteral("<invalid size>"), QStringLiteral("b"),
+                          QStringLiteral("<invalid size>"), QStringLiteral("<invalid header>")}));
+    QCOMPARE(recorder.problemBytes, QByteArray("X and more"));
+}
+
+void tst_LongFrames::keeps_no_more_behind_an_invalid_header_than_a_frame_has()
+{
+    FrameReader reader(kMostPayload);
+    Recorder recorder;
+    const QByteArray start = "X" + QByteArray(kMostPayload + 10, 'x');
+    reader.read(start, recorder);
+    reader.read("abc", recorder);
+    QCOMPARE(recorder.problemBytes, start + "abc");
+    reader.read("def", recorder);
+    QCOMPARE(recorder.problemBytes, start + "def");
+    QCOMPARE(recorder.events,
+             (QStringList{QStringLiteral("<invalid header>"), QStringLiteral("<invalid header>"),
+                          QStringLiteral("<invalid header>")}));
+}
+
+void tst_LongFrames::takes_time_in_proportion_to_what_comes()
+{
+    // Were all of them copied with each of these reads, this would take some minutes.
+    const QByteArray payload(1 << 21, 'x');
+    const QByteArray stream = frame(payload);
+    FrameReader reader;
+    Recorder recorder;
+    for (const char byte : stream) {
+        reader.read(QByteArray(1, byte), recorder);
+    }
+    QVERIFY(recorder.events == QStringList{QString::fromLatin1(payload)});
+}
+
+QTEST_APPLESS_MAIN(tst_LongFrames)
+#include "tst_LongFrames.moc"
