@@ -57,11 +57,10 @@ void TutorialManager::onReceived(const QString &text)
         {CommandWords::kShowTooltip, &TutorialManager::showTooltip},
         {CommandWords::kHideTooltip, &TutorialManager::hideTooltip},
     };
-    const CommandFields fields(text);
-    const QString word = fields.text(0);
+    const QStringRef word = CommandFields::word(text);
     for (const Command &command : kCommands) {
         if (word == command.word) {
-            (this->*command.run)(fields);
+            (this->*command.run)(CommandFields(text));
             return;
         }
     }

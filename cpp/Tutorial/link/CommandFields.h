@@ -9,11 +9,11 @@ class CommandFields
 {
 public:
     static constexpr QChar kSeparator{1};
+    /// Far more than any command has. The last one holds all that follows it, separators included: a list of
+    /// Qt has no room for the fields of a command that consists of separators.
+    static constexpr int kMostFields = 1 << 16;
 
-    explicit CommandFields(const QString &command)
-        : m_fields(command.split(kSeparator))
-    {
-    }
+    explicit CommandFields(const QString &command);
 
     /// Number of fields, the command word included; at least 1.
     [[nodiscard]] int count() const { return m_fields.size(); }

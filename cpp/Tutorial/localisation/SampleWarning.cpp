@@ -3,7 +3,6 @@
 #include <QJsonValue>
 
 #include "tool/JsonWrapper.h"
-#include "tool/LogLine.h"
 
 namespace {
 
@@ -11,15 +10,15 @@ constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\localisation\\
 
 } // namespace
 
-QDebug warnSample(const char *function, int number, const char *message, const JsonWrapper &offending)
+LogLine warnSample(const char *function, int number, const char *message, const JsonWrapper &offending)
 {
     const QString json = offending.toJson().replace(QLatin1Char('%'), QChar(0xFF05));
-    QDebug line = logWarning(kSource, function, number);
+    LogLine line = logWarning(kSource, function, number);
     line << message << json;
     return line;
 }
 
-QDebug warnSample(const char *function, int number, const char *message, const QJsonValue &offending)
+LogLine warnSample(const char *function, int number, const char *message, const QJsonValue &offending)
 {
     return warnSample(function, number, message, JsonWrapper(offending));
 }

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void names_the_word_alone_data();
     void names_the_word_alone();
     void joins_what_it_splits();
+    void leaves_the_last_of_very_many_fields_whole();
 };
 
 void tst_CommandFields::keeps_empty_fields()
@@ -77,6 +78,17 @@ void tst_CommandFields::joins_what_it_splits()
     const QString command = QStringLiteral("indicator\x01update\x01\x01"
                                            "7");
     QCOMPARE(CommandFields::join(CommandFields(command).all()), command);
+}
+
+void tst_CommandFields::leaves_the_last_of_very_many_fields_whole()
+{
+    const QString most(CommandFields::kMostFields - 1, CommandFields::kSeparator);
+    QCOMPARE(CommandFields(most).count(), CommandFields::kMostFields);
+    const QString more = most + QStringLiteral("a\x01\x01") + QLatin1Char('b');
+    const CommandFields fields(more);
+    QCOMPARE(fields.count(), CommandFields::kMostFields);
+    QCOMPARE(fields.text(CommandFields::kMostFields - 1), QStringLiteral("a\x01\x01") + QLatin1Char('b'));
+    QCOMPARE(CommandFields::join(fields.all()), more);
 }
 
 QTEST_APPLESS_MAIN(tst_CommandFields)

@@ -1,0 +1,131 @@
+#include "LogCapture.h"
+#include "tool/LogLine.h"
+
+#include <QTest>
+
+#include <limits>
+
+/// Lines of the log: what stands in front, and what becomes of a text that is too long for one.
+class tst_LogLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void begins_with_source_function_and_number();
+    void writes_whole_what_fits();
+    void cuts_what_would_not_fit_data();
+    void cuts_what_would_not_fit();
+    void counts_escapes_as_they_are_written();
+    void shares_the_room_of_a_line();
+    void has_room_for_the_longest_printable_payload();
+};
+
+namespace {
+
+QString lineOf(int most, const QString &text)
+{
+    QString written;
+    LogLine(QDebug(&written).nospace(), most) << text;
+    return written;
+}
+
+} // namespace
+
+void tst_LogLine::begins_with_source_function_and_number()
+{
+    LogCapture log;
+    logDebug("source", "Class::function", 12) << QStringLiteral("text") << 3;
+    logWarning("source", "Class::function", 13) << QByteArray("\x80");
+    QCOMPARE(log.debugs(), QStringList{QStringLiteral("source Class::function 12 \"text\" 3")});
+    QCOMPARE(log.warnings(), QStringList{QStringLiteral("source Class::function 13 \"\\x80\"")});
+}
+
+void tst_LogLine::writes_whole_what_fits()
+{
+    LogCapture log;
+    const QStringList texts = {QStringLiteral("a\x01"), QString(), QStringLiteral("b")};
+    const QVariantMap map = {{QStringLiteral("number"), 1}, {QStringLiteral("text"), QStringLiteral("c")}};
+    logDebug("s", "f", 1) << QString()
+                          << QByteArray("\x01"
+                                        "a")
+                          << texts << map << "plain" << true;
+    QString expected;
+    QDebug(&expected) << "s"
+                      << "f" << 1 << QString()
+                      << QByteArray("\x01"
+                                    "a")
+                      << texts << map << "plain" << true;
+    QCOMPARE(log.lines(), QStringList{expected.trimmed()});
+}
+
+void tst_LogLine::cuts_what_would_not_fit_data()
+{
+    QTest::addColumn<QVariant>("value");
+    const QString text(1 << 20, QChar(3));
+    QTest::newRow("text") << QVariant(text);
+    QTest::newRow("bytes") << QVariant(QByteArray(1 << 20, '\x80'));
+    QTest::newRow("list") << QVariant(QStringList{QStringLiteral("first"), text, QStringLiteral("last")});
+    QTest::newRow("list of many") << QVariant(QStringList(QVector<QString>(1 << 19).toList()));
+    QTest::newRow("map") << QVariant(
+        QVariantMap{{QStringLiteral("first"), 1}, {QStringLiteral("key"), text}});
+}
+
+void tst_LogLine::cuts_what_would_not_fit()
+{
+    QFETCH(QVariant, value);
+    constexpr int kMost = 1 << 20;
+    QString written;
+    {
+        LogLine line(QDebug(&written).nospace(), kMost);
+        switch (value.userType()) {
+        case QMetaType::QString:
+            line << value.toString();
+            break;
+        case QMetaType::QByteArray:
+            line << value.toByteArray();
+            break;
+        case QMetaType::QStringList:
+            line << value.toStringList();
+            break;
+        default:
+            line << value.toMap();
+        }
+    }
+    // All that there is room for, but for a piece of the text that does not fit whole.
+    QVERIFY2(written.size() < kMost + 100, qPrintable(QString::number(written.size())));
+    QVERIFY2(written.size() > kMost / 2, qPrintable(QString::number(written.size())));
+    QVERIFY(written.endsWith(QLatin1String("(cut)")));
+    QVERIFY(!written.contains(QStringLiteral("last")));
+}
+
+void tst_LogLine::counts_escapes_as_they_are_written()
+{
+    // The same number of characters: printed as they are they fit, escaped they do not.
+    constexpr int kSize = 1 << 20;
+    constexpr int kMost = 2 * kSize;
+    const QString plain(kSize, QLatin1Char('x'));
+    QCOMPARE(lineOf(kMost, plain), QLatin1Char('"') + plain + QLatin1Char('"'));
+    QVERIFY(lineOf(kMost, QString(kSize, QChar(3))).endsWith(QLatin1String("(cut)")));
+}
+
+void tst_LogLine::shares_the_room_of_a_line()
+{
+    constexpr int kSize = 1 << 20;
+    const QString text(kSize, QLatin1Char('x'));
+    QString written;
+    LogLine(QDebug(&written).nospace(), 2 * kSize) << text << text << text;
+    QVERIFY(written.startsWith(QLatin1Char('"') + text + QLatin1Char('"')));
+    QVERIFY(written.size() < 2 * kSize + 100);
+    QCOMPARE(written.count(QStringLiteral("(cut)")), 2);
+}
+
+void tst_LogLine::has_room_for_the_longest_printable_payload()
+{
+    constexpr qint64 kMostPayload = qint64(1) << 28;
+    QVERIFY(LogLine::kMostCharacters > kMostPayload + 1000);
+    // Four bytes each, in a container of Qt.
+    QVERIFY(qint64(LogLine::kMostCharacters) * 4 < std::numeric_limits<int>::max() - 1000000);
+}
+
+QTEST_APPLESS_MAIN(tst_LogLine)
+#include "tst_LogLine.moc"
