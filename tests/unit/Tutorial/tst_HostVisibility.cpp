@@ -46,6 +46,8 @@ private Q_SLOTS:
     void builds_the_overlays_anew_after_30_hidden_ticks();
     void stays_while_this_process_is_active();
     void blinks_once_within_ten_ticks();
+    void hides_the_log_when_the_host_shows_itself();
+    void builds_anew_at_each_show_until_the_host_hides_again();
     void comes_back_at_once_within_ten_ticks();
     void comes_back_without_an_indicator();
     void follows_the_state_of_the_application();
@@ -214,6 +216,38 @@ void tst_HostVisibility::blinks_once_within_ten_ticks()
     show();
     QCOMPARE(bubble.hidden, 2);
     QVERIFY(allShown());
+}
+
+void tst_HostVisibility::hides_the_log_when_the_host_shows_itself()
+{
+    QVERIFY(m_log->isVisible());
+    const Blinks log(m_log);
+    const Blinks bubble(m_indicator->tooltip());
+    show();
+    QCOMPARE(log.hidden, 1);
+    QCOMPARE(log.shown, 1);
+    QCOMPARE(bubble.hidden, 1);
+    QVERIFY(allShown());
+}
+
+void tst_HostVisibility::builds_anew_at_each_show_until_the_host_hides_again()
+{
+    hide();
+    tick(30);
+    for (int rebuilt = 1; rebuilt <= 2; ++rebuilt) {
+        LogCapture log;
+        const EditorTooltip *const tooltip = m_fixture->manager->editorTooltip();
+        show();
+        tick();
+        QVERIFY(log.contains(QStringLiteral("TutorialManager::timerEvent 427 30")));
+        QVERIFY(m_fixture->manager->editorTooltip() != tooltip);
+        tick(10);
+    }
+    hide();
+    const EditorTooltip *const tooltip = m_fixture->manager->editorTooltip();
+    show();
+    tick();
+    QCOMPARE(m_fixture->manager->editorTooltip(), tooltip);
 }
 
 void tst_HostVisibility::comes_back_at_once_within_ten_ticks()

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void announces_a_lesson_name_once();
     void announces_a_lesson_name_before_the_lesson_is_there();
     void gives_one_error_a_line();
+    void takes_an_odd_name_from_the_host_data();
+    void takes_an_odd_name_from_the_host();
     void unloads();
     void tells_the_host_of_a_position_without_an_indicator();
     void saves_nothing_without_a_file();
@@ -157,6 +159,46 @@ void tst_ManagerLessons::gives_one_error_a_line()
              QStringLiteral("Item 1 is left out: it is no object with an \"id\"\n"
                             "Item 3 is left out: it is no object with an \"id\""));
     QCOMPARE(m_fixture->manager->tutorialName(), QStringLiteral("own"));
+}
+
+void tst_ManagerLessons::takes_an_odd_name_from_the_host_data()
+{
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("empty") << QString() << QString() << false;
+    QTest::newRow("slash") << QStringLiteral("/") << QString() << false;
+    QTest::newRow("up") << QStringLiteral("../") << QString() << false;
+    QTest::newRow("ending") << QStringLiteral(".js") << QStringLiteral(".js") << false;
+    QTest::newRow("with its ending") << QStringLiteral("TutorialStep1.js")
+                                     << QStringLiteral("TutorialStep1.js") << false;
+    QTest::newRow("out of the program")
+        << QStringLiteral("../../../etc/passwd") << QStringLiteral("passwd") << false;
+    QTest::newRow("up and down") << QStringLiteral("../Tutorial/TutorialStep1")
+                                 << QStringLiteral("TutorialStep1") << true;
+    QTest::newRow("from the root") << QStringLiteral("/TutorialStep1") << QStringLiteral("TutorialStep1")
+                                   << true;
+    QTest::newRow("placeholder") << QStringLiteral("%1") << QStringLiteral("%1") << false;
+}
+
+void tst_ManagerLessons::takes_an_odd_name_from_the_host()
+{
+    QFETCH(QString, asked);
+    QFETCH(QString, name);
+    QFETCH(bool, isThere);
+    LogCapture log;
+    m_fixture->receive({QStringLiteral("tutorial"), asked});
+    QCOMPARE(m_fixture->manager->tutorialName(), name);
+    const QString path = QStringLiteral("qml/Tutorial/") + asked + QStringLiteral(".js");
+    const QString start = QStringLiteral(
+        "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp TutorialManager::getExistsFilename ");
+    QCOMPARE(log.debugs().mid(0, 2),
+             (QStringList{start + QStringLiteral("1402 \"") + path + QLatin1Char('"'),
+                          start + QStringLiteral("1405 \":/") + path + QLatin1Char('"')}));
+    QCOMPARE(log.warnings().filter(QStringLiteral("Failed to open")).size(), isThere ? 0 : 1);
+    // What is not there leaves the document as it stands, which is empty here, and that is handed over.
+    const QString empty = QStringLiteral("start\x01var scenario = [\n\n];\x01-1");
+    QCOMPARE(m_fixture->nextPayload() == empty, !isThere);
 }
 
 void tst_ManagerLessons::unloads()

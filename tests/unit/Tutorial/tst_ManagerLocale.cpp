@@ -21,6 +21,7 @@ private Q_SLOTS:
     void looks_texts_up_in_the_newest_catalogue_first();
     void loads_nothing_for_the_second_locale();
     void hands_the_locale_to_the_font();
+    void hands_the_locale_of_a_greeting_to_the_font();
     void takes_a_locale_without_a_catalogue();
     void ignores_the_current_locale();
 
@@ -149,6 +150,28 @@ void tst_ManagerLocale::hands_the_locale_to_the_font()
     const QString latin = manager->overlayFont().family();
     manager->setLocale(QStringLiteral("zh_CN"));
     QVERIFY(manager->overlayFont().family() != latin);
+}
+
+void tst_ManagerLocale::hands_the_locale_of_a_greeting_to_the_font()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    const QString greeting = QStringLiteral("fromServer");
+    LogCapture log;
+    const QString latin = manager->overlayFont().family();
+    m_fixture->receive({greeting, QStringLiteral("zh_CN")});
+    const QString chinese = manager->overlayFont().family();
+    QVERIFY(chinese != latin);
+    // The greetings that name no locale leave the font as it is, though they load English texts.
+    m_fixture->receive({greeting, QStringLiteral("-")});
+    QCOMPARE(manager->overlayFont().family(), chinese);
+    m_fixture->receive({greeting, QString()});
+    QCOMPARE(manager->overlayFont().family(), chinese);
+    m_fixture->receive({greeting});
+    QCOMPARE(manager->overlayFont().family(), chinese);
+    m_fixture->receive({greeting, QStringLiteral("en_US")});
+    QCOMPARE(manager->overlayFont().family(), latin);
+    // The locale of the texts is another matter.
+    QCOMPARE(manager->locale(), QStringLiteral("en_US"));
 }
 
 void tst_ManagerLocale::takes_a_locale_without_a_catalogue()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void rebuilds_after_30_hidden_ticks_and_not_after_29();
     void ignores_a_second_show_for_ten_ticks();
     void counts_hidden_ticks_anew_at_every_hide();
+    void keeps_the_hidden_ticks_when_it_has_rebuilt();
 };
 
 void tst_PlaybackVisibility::shows_nothing_without_a_playback()
@@ -151,6 +152,31 @@ void tst_PlaybackVisibility::counts_hidden_ticks_anew_at_every_hide()
     visibility.beginShow();
     visibility.hostCameBack();
     QCOMPARE(visibility.tick().hiddenTicks, 1);
+}
+
+void tst_PlaybackVisibility::keeps_the_hidden_ticks_when_it_has_rebuilt()
+{
+    PlaybackVisibility visibility;
+    visibility.start();
+    visibility.hostHid();
+    for (int tick = 0; tick < 30; ++tick) {
+        (void)visibility.tick();
+    }
+    // The host editor shows itself twice, and hides only once: either time the overlays are built anew.
+    for (int shown = 0; shown < 2; ++shown) {
+        visibility.beginShow();
+        visibility.hostCameBack();
+        const PlaybackVisibility::Tick due = visibility.tick();
+        QVERIFY(due.rebuild);
+        QCOMPARE(due.hiddenTicks, 30);
+        while (!visibility.takesShow()) {
+            (void)visibility.tick();
+        }
+    }
+    visibility.hostHid();
+    visibility.beginShow();
+    visibility.hostCameBack();
+    QCOMPARE(visibility.tick().hiddenTicks, 0);
 }
 
 QTEST_APPLESS_MAIN(tst_PlaybackVisibility)
