@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -75,6 +76,11 @@ void FakeHost::disconnectLink()
     m_socket->disconnectFromServer();
 }
 
+bool FakeHost::closeWritingSide()
+{
+    return ::shutdown(int(m_socket->socketDescriptor()), SHUT_WR) == 0;
+}
+
 void FakeHost::answerHeartbeats()
 {
     QObject::connect(m_socket, &QLocalSocket::readyRead, m_socket, [this] {
@@ -82,6 +88,17 @@ void FakeHost::answerHeartbeats()
             send({QStringLiteral("alive")});
         }
     });
+}
+
+qint64 FakeHost::mostMemory() const
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(m_process.processId()));
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray status = file.readAll();
+        const int found = status.indexOf("VmHWM:");
+        return found < 0 ? -1 : status.mid(found + 6).simplified().split(' ').value(0).toLongLong() * 1024;
+    }
+    return -1;
 }
 
 qint64 FakeHost::addressSpace() const
@@ -118,6 +135,17 @@ void FakeHost::write(const QByteArray &bytes)
 {
     m_socket->write(bytes);
     m_socket->flush();
+}
+
+bool FakeHost::writeAll(const QByteArray &bytes)
+{
+    m_socket->write(bytes);
+    while (m_socket->bytesToWrite() > 0) {
+        if (!m_socket->waitForBytesWritten(kLimitMs)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void FakeHost::readPending()

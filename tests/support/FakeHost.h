@@ -35,6 +35,8 @@ public:
     bool waitForConnection();
     /// The connection goes down.
     void disconnectLink();
+    /// Nothing more will be written; what the program sends is still read.
+    bool closeWritingSide();
     /// Answers each "alive", as a host editor does: without it the program ends after 30 seconds in which
     /// nothing else is sent.
     void answerHeartbeats();
@@ -47,6 +49,8 @@ public:
     [[nodiscard]] QProcess &process() { return m_process; }
     /// Bytes of address space that the program has taken; below 0 when it cannot be told.
     [[nodiscard]] qint64 addressSpace() const;
+    /// The most bytes of memory that the program has held at a time; below 0 when it cannot be told.
+    [[nodiscard]] qint64 mostMemory() const;
     [[nodiscard]] QString settingsFolder() const { return m_folder.path(); }
 
     /// A frame around a payload.
@@ -54,8 +58,11 @@ public:
     /// Fields joined to a command.
     static QByteArray command(const QStringList &fields);
 
-    /// Writes bytes and has the operating system take them.
+    /// Writes bytes and has the operating system take them, as many as it does.
     void write(const QByteArray &bytes);
+    /// The same, and waits until it has taken them all. Meanwhile the program's log is not read: it must be
+    /// short. False when the limit is over.
+    bool writeAll(const QByteArray &bytes);
     /// Writes one command in a frame of its own.
     void send(const QStringList &fields) { write(frame(command(fields))); }
 

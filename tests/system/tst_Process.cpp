@@ -23,6 +23,7 @@ private Q_SLOTS:
     void leaves_no_temporary_folder_behind();
     void lives_on_when_nobody_reads_its_log();
     void registers_its_bundles_before_main();
+    void sets_the_application_up_before_its_loop();
     void builds_its_objects_in_order();
     void joins_the_undo_history_to_the_manager();
     void connects_under_the_default_key_without_arguments();
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void ends_by_itself_after_30_silent_seconds();
     void starts_although_nobody_listens();
     void reads_the_stored_locale();
+    void runs_without_a_home_folder();
 };
 
 void tst_Process::ends_with_status_0_when_the_link_goes_down()
@@ -125,6 +127,30 @@ void tst_Process::registers_its_bundles_before_main()
                                   QStringLiteral("Tutorial registers translations in format 2"),
                                   QStringLiteral("Tutorial registers qml in format 2")}));
     QCOMPARE(host.log().count(QStringLiteral("Tutorial registers")), 4);
+}
+
+void tst_Process::sets_the_application_up_before_its_loop()
+{
+    FakeHost host;
+    QProcessEnvironment environment = host.process().processEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(MAIN_SPY));
+    // Numbers that the locale of the system would write otherwise.
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    host.process().setProcessEnvironment(environment);
+    QVERIFY(host.start());
+    QVERIFY(host.sync());
+    const QStringList told = host.log()
+                                 .split(QLatin1Char('\n'))
+                                 .filter(QStringLiteral("main has set"))
+                                 .replaceInStrings(QStringLiteral("main has set "), QString());
+    QCOMPARE(
+        told,
+        (QStringList{QStringLiteral("the name to Tutorial"), QStringLiteral("the version to 0.1.0"),
+                     QStringLiteral("the organisation to VELMORAN"),
+                     QStringLiteral("the domain to velmoran.example"), QStringLiteral("the locale to C"),
+                     QStringLiteral("the number 1234.5 to 1234.5"), QStringLiteral("threads of X11 to true"),
+                     QStringLiteral("the end with the last window to false"),
+                     QStringLiteral("the host of the history to true")}));
 }
 
 void tst_Process::builds_its_objects_in_order()
@@ -268,6 +294,24 @@ void tst_Process::reads_the_stored_locale()
     settings.close();
     QVERIFY(host.start());
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::TutorialManager 210 \"ja_JP\" \"en_US\"")));
+}
+
+void tst_Process::runs_without_a_home_folder()
+{
+    FakeHost host;
+    QProcessEnvironment environment = host.process().processEnvironment();
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
+        environment.remove(QString::fromLatin1(name));
+    }
+    host.process().setProcessEnvironment(environment);
+    QVERIFY(host.start());
+    host.send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
+    host.send({QStringLiteral("tutorialList")});
+    QVERIFY(host.waitForPayloads(1));
+    QVERIFY(host.log().contains(QStringLiteral("TutorialManager::TutorialManager 210 \"en_US\" \"ja_JP\"")));
+    host.disconnectLink();
+    QVERIFY(host.waitForEnd());
+    QCOMPARE(host.process().exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_Process)
