@@ -1,6 +1,7 @@
 #include "FakeHost.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
@@ -139,13 +140,19 @@ void FakeHost::write(const QByteArray &bytes)
 
 bool FakeHost::writeAll(const QByteArray &bytes)
 {
+    constexpr int kAtATimeMs = 200; // the event loop alone sends too little each time it comes round
     m_socket->write(bytes);
-    while (m_socket->bytesToWrite() > 0) {
-        if (!m_socket->waitForBytesWritten(kLimitMs)) {
-            return false;
-        }
-    }
-    return true;
+    const bool taken = waitFor(
+        [this] {
+            QElapsedTimer clock;
+            clock.start();
+            while (m_socket->bytesToWrite() > 0 && clock.elapsed() < kAtATimeMs) {
+                m_socket->waitForBytesWritten(kAtATimeMs);
+            }
+            return m_socket->bytesToWrite() == 0;
+        },
+        3 * kLimitMs);
+    return taken && m_socket->state() == QLocalSocket::ConnectedState;
 }
 
 void FakeHost::readPending()

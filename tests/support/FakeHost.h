@@ -60,8 +60,7 @@ public:
 
     /// Writes bytes and has the operating system take them, as many as it does.
     void write(const QByteArray &bytes);
-    /// The same, and waits until it has taken them all. Meanwhile the program's log is not read: it must be
-    /// short. False when the limit is over.
+    /// The same, and waits until it has taken them all. False when the limit is over or the link is down.
     bool writeAll(const QByteArray &bytes);
     /// Writes one command in a frame of its own.
     void send(const QStringList &fields) { write(frame(command(fields))); }
