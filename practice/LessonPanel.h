@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LessonSession.h"
+#include "host/LessonSession.h"
 
 #include <QWidget>
 

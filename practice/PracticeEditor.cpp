@@ -68,7 +68,31 @@ bool PracticeEditor::start(QString *error)
     }
     m_panel.move(kPanelPlace);
     m_panel.show();
-    return m_link.start(error);
+    return startLink(error);
+}
+
+bool PracticeEditor::startLink(QString *error)
+{
+    HostLink::Failure failure;
+    if (m_link.start(&failure)) {
+        return true;
+    }
+    const QString words =
+        failure.what == HostLink::Failure::What::kListen
+            ? inWords(QStringLiteral("The editor cannot listen on \"%1\": %2. Start it again with "
+                                     "another --key, or without one."),
+                      QStringLiteral("「%1」で接続を待てません（%2）。別の --key を付けるか、--key を"
+                                     "付けずに、もう一度起動してください。"),
+                      QStringLiteral("无法在“%1”上等待连接（%2）。请换一个 --key，或不带 --key "
+                                     "重新启动。"))
+            : inWords(QStringLiteral("The guide \"%1\" does not start: %2. Build the target Tutorial, "
+                                     "or name the program with --companion."),
+                      QStringLiteral("ガイド「%1」を起動できません（%2）。ターゲット Tutorial を"
+                                     "ビルドするか、--companion でプログラムを指定してください。"),
+                      QStringLiteral("无法启动向导“%1”（%2）。请构建目标 Tutorial，或用 "
+                                     "--companion 指定程序。"));
+    *error = words.arg(failure.name, failure.reason);
+    return false;
 }
 
 void PracticeEditor::connectSession()
@@ -175,7 +199,7 @@ void PracticeEditor::closeDialogs()
 void PracticeEditor::restartCompanion()
 {
     QString error;
-    if (!m_link.start(&error)) {
+    if (!startLink(&error)) {
         tellPerson(error);
     }
 }

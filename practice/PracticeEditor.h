@@ -1,8 +1,8 @@
 #pragma once
 
 #include "LessonPanel.h"
-#include "LessonSession.h"
-#include "link/HostLink.h"
+#include "host/HostLink.h"
+#include "host/LessonSession.h"
 #include "project/LessonProject.h"
 
 #include <QObject>
@@ -54,6 +54,7 @@ Q_SIGNALS:
     void ended(int status);
 
 private:
+    [[nodiscard]] bool startLink(QString *error);
     void connectSession();
     void connectProject();
     void makePilot();

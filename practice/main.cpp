@@ -1,4 +1,5 @@
 #include "PracticeEditor.h"
+#include "lesson/LessonWords.h"
 #include "window/EditorWindowSet.h"
 
 #include <QApplication>
@@ -16,15 +17,10 @@
 
 namespace {
 
-QStringList locales()
-{
-    return {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
-}
-
 QString defaultLocale()
 {
     const QString name = QLocale::system().name();
-    return locales().contains(name) ? name : locales().constFirst();
+    return LessonWords::locales().contains(name) ? name : LessonWords::locales().constFirst();
 }
 
 int complain(const QString &text)
@@ -67,9 +63,9 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson,
     if (!lesson.isEmpty() && (options.lesson < 1 || options.lesson > 19)) {
         return QStringLiteral("there is no lesson %1; --lesson takes 1 to 19").arg(lesson);
     }
-    if (!locales().contains(options.locale)) {
+    if (!LessonWords::locales().contains(options.locale)) {
         return QStringLiteral("there is no locale %1; --locale takes %2")
-            .arg(options.locale, locales().join(QStringLiteral(", ")));
+            .arg(options.locale, LessonWords::locales().join(QStringLiteral(", ")));
     }
     if (options.pilot && options.lesson == 0) {
         return QStringLiteral("--pilot needs to know which lesson: add --lesson N");

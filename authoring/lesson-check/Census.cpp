@@ -1,6 +1,6 @@
 #include "lesson-check/Census.h"
 
-#include "lesson-check/Condition.h"
+#include "lesson/Condition.h"
 
 #include <QJsonDocument>
 #include <QMap>
@@ -58,9 +58,9 @@ QJsonObject Census::count(const Lesson &lesson)
     int jumpNos = 0;
     int maxTranslationId = 0;
     QStringList commands;
-    for (const ScenarioStep &step : lesson.steps) {
+    for (const ScenarioItem &step : lesson.steps) {
         ++windows[step.windowKey];
-        ++conditions[Condition(step.condition).type()];
+        ++conditions[Condition::wordOf(step.condition)];
         ++icons[step.icon];
         noPosition += step.hasNoPosition() ? 1 : 0;
         jumps += step.jump != -1 ? 1 : 0;

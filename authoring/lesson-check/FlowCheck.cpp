@@ -18,7 +18,7 @@ public:
     {
         for (int i = 0; i < m_lesson.steps.size(); ++i)
             index(i);
-        for (const ScenarioStep &step : m_lesson.steps) {
+        for (const ScenarioItem &step : m_lesson.steps) {
             checkTarget(step, QStringLiteral("jump"), step.jump);
             checkTarget(step, QStringLiteral("jumpNo"), step.jumpNo);
         }
@@ -36,7 +36,7 @@ public:
 private:
     void index(int at)
     {
-        const ScenarioStep &step = m_lesson.steps.at(at);
+        const ScenarioItem &step = m_lesson.steps.at(at);
         if (step.id < 0)
             report(step, QStringLiteral("id"), QStringLiteral("an id is 0 or more"));
         else if (m_indexById.contains(step.id))
@@ -47,7 +47,7 @@ private:
             m_indexById.insert(step.id, at);
     }
 
-    void checkTarget(const ScenarioStep &step, const QString &field, int target)
+    void checkTarget(const ScenarioItem &step, const QString &field, int target)
     {
         if (target != -1 && !m_indexById.contains(target))
             report(step, field, QStringLiteral("no item has the id %1").arg(target));
@@ -67,8 +67,8 @@ private:
         const int behind = next(at);
         if (behind < 0 || behind >= m_lesson.steps.size())
             return;
-        const ScenarioStep &step = m_lesson.steps.at(at);
-        const ScenarioStep &other = m_lesson.steps.at(behind);
+        const ScenarioItem &step = m_lesson.steps.at(at);
+        const ScenarioItem &other = m_lesson.steps.at(behind);
         if (step.condition.startsWith(QLatin1String("pressed,")) &&
             other.condition.startsWith(QLatin1String("mouseEvent,")))
             report(other, QStringLiteral("condition"),
@@ -90,14 +90,14 @@ private:
         visit(0);
         while (!open.isEmpty()) {
             const int at = open.takeLast();
-            const ScenarioStep &step = m_lesson.steps.at(at);
+            const ScenarioItem &step = m_lesson.steps.at(at);
             visit(next(at));
             if (step.condition == QLatin1String("yesNo"))
                 visit(step.jumpNo == -1 ? at + 1 : m_indexById.value(step.jumpNo, -1));
         }
     }
 
-    void report(const ScenarioStep &step, const QString &field, const QString &text)
+    void report(const ScenarioItem &step, const QString &field, const QString &text)
     {
         m_findings.append({Finding::Kind::kError, m_lesson.file, step.line,
                            QStringLiteral("item %1").arg(step.id), field, text});

@@ -7,7 +7,6 @@
 #include "lesson-check/ScenarioReader.h"
 #include "lesson-check/StepCheck.h"
 #include "lesson-check/TextCheck.h"
-#include "lesson-check/WindowPlaces.h"
 #include "tool/DataSupport.h"
 
 #include <QDir>
@@ -30,17 +29,13 @@ QString bundleFile()
 {
     return QStringLiteral("resource/scenarios.qrc");
 }
-QString windowFolder()
+QString descriptionFolder()
 {
-    return QStringLiteral("practice/windows");
+    return QStringLiteral("practice/descriptions");
 }
 QString censusFile()
 {
     return QStringLiteral("authoring/lesson-check/census.json");
-}
-QStringList locales()
-{
-    return {QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")};
 }
 
 } // namespace
@@ -90,7 +85,7 @@ void LessonLibrary::readList()
 
 void LessonLibrary::readCatalogues()
 {
-    const QStringList all = locales();
+    const QStringList all = LessonWords::locales();
     for (const QString &locale : all) {
         const QString file = QStringLiteral("resource/translations/%1.ts").arg(locale);
         m_catalogues.append(Catalogue(file, locale, read(file), m_findings));
@@ -107,7 +102,7 @@ void LessonLibrary::readLessons(bool complete)
             continue;
         }
         ScenarioReader reader(file);
-        const ScenarioSteps steps = reader.read(read(file));
+        const ScenarioItems steps = reader.read(read(file));
         m_findings += reader.findings();
         m_lessons.append({entry.filename, file, steps});
         // Where the form is wrong, the companion's complaints would only repeat it.
@@ -135,9 +130,22 @@ void LessonLibrary::checkShipped()
     }
 }
 
+DescriptionSet LessonLibrary::readDescriptions()
+{
+    QStringList errors;
+    DescriptionSet descriptions =
+        DescriptionSet::read(QDir(m_root).filePath(descriptionFolder()), nullptr, &errors);
+    const QString separator = QStringLiteral(": ");
+    for (const QString &error : qAsConst(errors)) {
+        const QString file = QDir(m_root).relativeFilePath(error.section(separator, 0, 0));
+        report(Finding::Kind::kError, file, 0, {}, error.section(separator, 1));
+    }
+    return descriptions;
+}
+
 void LessonLibrary::checkLessons()
 {
-    const WindowPlaces windows(QDir(m_root).filePath(windowFolder()), windowFolder(), m_findings);
+    const DescriptionSet windows = readDescriptions();
     const Census census(censusFile(), read(censusFile()), m_findings);
     BubbleCheck bubble;
     for (const Lesson &lesson : qAsConst(m_lessons)) {
@@ -145,7 +153,7 @@ void LessonLibrary::checkLessons()
         for (const Catalogue &catalogue : qAsConst(m_catalogues))
             m_findings += bubble.check(catalogue, lesson.name);
         // One field that cannot be read would be counted as missing once more by each of these.
-        const auto isWhole = [](const ScenarioStep &step) {
+        const auto isWhole = [](const ScenarioItem &step) {
             return step.unread.isEmpty();
         };
         if (!std::all_of(lesson.steps.cbegin(), lesson.steps.cend(), isWhole))

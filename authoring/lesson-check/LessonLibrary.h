@@ -4,6 +4,7 @@
 #include "lesson-check/Finding.h"
 #include "lesson-check/Lesson.h"
 #include "lesson-check/LessonList.h"
+#include "lesson/description/DescriptionSet.h"
 
 /// The lessons, catalogues and window descriptions of a source tree, and the check of all of them together.
 class LessonLibrary
@@ -24,6 +25,7 @@ private:
     [[nodiscard]] QByteArray read(const QString &file);
     void report(Finding::Kind kind, const QString &file, int line, const QString &item, const QString &text);
     void readList();
+    [[nodiscard]] DescriptionSet readDescriptions();
     void readCatalogues();
     void readLessons(bool complete);
     void checkShipped();

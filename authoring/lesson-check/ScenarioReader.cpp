@@ -13,7 +13,7 @@
 namespace {
 
 /// Puts a value into its member; false when the value is not of the member's kind.
-using Setter = std::function<bool(ScenarioStep &, const QString &)>;
+using Setter = std::function<bool(ScenarioItem &, const QString &)>;
 
 struct Field
 {
@@ -22,9 +22,9 @@ struct Field
     Setter set;
 };
 
-Setter integer(int ScenarioStep::*member)
+Setter integer(int ScenarioItem::*member)
 {
-    return [member](ScenarioStep &step, const QString &value) {
+    return [member](ScenarioItem &step, const QString &value) {
         static const QRegularExpression form(QStringLiteral("^-?(0|[1-9][0-9]*)$"));
         bool fits = false;
         const int number = value.toInt(&fits);
@@ -35,24 +35,24 @@ Setter integer(int ScenarioStep::*member)
     };
 }
 
-Setter boolean(bool ScenarioStep::*member)
+Setter boolean(bool ScenarioItem::*member)
 {
-    return [member](ScenarioStep &step, const QString &value) {
+    return [member](ScenarioItem &step, const QString &value) {
         step.*member = value == QLatin1String("true");
         return step.*member || value == QLatin1String("false");
     };
 }
 
-Setter text(QString ScenarioStep::*member)
+Setter text(QString ScenarioItem::*member)
 {
-    return [member](ScenarioStep &step, const QString &value) {
+    return [member](ScenarioItem &step, const QString &value) {
         const QJsonArray array = QJsonDocument::fromJson("[" + value.toUtf8() + "]").array();
         step.*member = array.at(0).toString();
         return array.size() == 1 && array.at(0).isString() && value == value.trimmed();
     };
 }
 
-bool setHint(ScenarioStep &step, const QString &value)
+bool setHint(ScenarioItem &step, const QString &value)
 {
     static const QRegularExpression form(QStringLiteral("^qsTr\\(\"#([1-9][0-9]*)\"\\)$"));
     const QRegularExpressionMatch match = form.match(value);
@@ -67,21 +67,21 @@ const std::array<Field, 15> &fields()
     const QString words = QStringLiteral("a text in double quotes");
     const QString truth = QStringLiteral("true or false");
     static const std::array<Field, 15> all = {{
-        {QStringLiteral("id"), number, integer(&ScenarioStep::id)},
-        {QStringLiteral("name"), words, text(&ScenarioStep::name)},
-        {QStringLiteral("folder"), truth, boolean(&ScenarioStep::folder)},
-        {QStringLiteral("translationId"), number, integer(&ScenarioStep::translationId)},
-        {QStringLiteral("x"), number, integer(&ScenarioStep::x)},
-        {QStringLiteral("y"), number, integer(&ScenarioStep::y)},
-        {QStringLiteral("windowKey"), words, text(&ScenarioStep::windowKey)},
-        {QStringLiteral("condition"), words, text(&ScenarioStep::condition)},
+        {QStringLiteral("id"), number, integer(&ScenarioItem::id)},
+        {QStringLiteral("name"), words, text(&ScenarioItem::name)},
+        {QStringLiteral("folder"), truth, boolean(&ScenarioItem::folder)},
+        {QStringLiteral("translationId"), number, integer(&ScenarioItem::translationId)},
+        {QStringLiteral("x"), number, integer(&ScenarioItem::x)},
+        {QStringLiteral("y"), number, integer(&ScenarioItem::y)},
+        {QStringLiteral("windowKey"), words, text(&ScenarioItem::windowKey)},
+        {QStringLiteral("condition"), words, text(&ScenarioItem::condition)},
         {QStringLiteral("hint"), QStringLiteral("qsTr(\"#N\")"), setHint},
-        {QStringLiteral("icon"), words, text(&ScenarioStep::icon)},
-        {QStringLiteral("jump"), number, integer(&ScenarioStep::jump)},
-        {QStringLiteral("jumpNo"), number, integer(&ScenarioStep::jumpNo)},
-        {QStringLiteral("command"), words, text(&ScenarioStep::command)},
-        {QStringLiteral("showArrow"), truth, boolean(&ScenarioStep::showArrow)},
-        {QStringLiteral("prohibited"), truth, boolean(&ScenarioStep::prohibited)},
+        {QStringLiteral("icon"), words, text(&ScenarioItem::icon)},
+        {QStringLiteral("jump"), number, integer(&ScenarioItem::jump)},
+        {QStringLiteral("jumpNo"), number, integer(&ScenarioItem::jumpNo)},
+        {QStringLiteral("command"), words, text(&ScenarioItem::command)},
+        {QStringLiteral("showArrow"), truth, boolean(&ScenarioItem::showArrow)},
+        {QStringLiteral("prohibited"), truth, boolean(&ScenarioItem::prohibited)},
     }};
     return all;
 }
@@ -169,13 +169,13 @@ ScenarioReader::ScenarioReader(QString file)
 {
 }
 
-ScenarioSteps ScenarioReader::read(const QByteArray &bytes)
+ScenarioItems ScenarioReader::read(const QByteArray &bytes)
 {
     m_at = 0;
     m_findings.clear();
     m_lines = SourceLines(m_file, bytes, SourceLines::LineEnd::kAny, m_findings).lines();
 
-    ScenarioSteps steps;
+    ScenarioItems steps;
     if (m_lines.constFirst() == head())
         ++m_at;
     else
@@ -198,7 +198,7 @@ ScenarioSteps ScenarioReader::read(const QByteArray &bytes)
     return steps;
 }
 
-void ScenarioReader::readItem(ScenarioSteps &steps)
+void ScenarioReader::readItem(ScenarioItems &steps)
 {
     const int first = m_at + 1;
     int end = first;
@@ -206,7 +206,7 @@ void ScenarioReader::readItem(ScenarioSteps &steps)
            m_lines.at(end) != tail())
         ++end;
 
-    ScenarioStep step;
+    ScenarioItem step;
     step.line = first;
     readFields(first, end - first, step);
     m_at = end;
@@ -225,7 +225,7 @@ void ScenarioReader::readItem(ScenarioSteps &steps)
     steps.append(step);
 }
 
-void ScenarioReader::readFields(int first, int count, ScenarioStep &step)
+void ScenarioReader::readFields(int first, int count, ScenarioItem &step)
 {
     Places places;
     for (int i = 0; i < count; ++i)
@@ -239,7 +239,7 @@ void ScenarioReader::readFields(int first, int count, ScenarioStep &step)
     }
 }
 
-void ScenarioReader::readField(int at, const QString &ending, Places &places, ScenarioStep &step)
+void ScenarioReader::readField(int at, const QString &ending, Places &places, ScenarioItem &step)
 {
     // Wider than the form, so that a blank too many does not count as a lost field as well.
     static const QRegularExpression wide(QStringLiteral("^\\s*\"([^\"]*)\"\\s*:\\s*(.*?)\\s*$"));
@@ -285,7 +285,7 @@ void ScenarioReader::readField(int at, const QString &ending, Places &places, Sc
 }
 
 void ScenarioReader::reportForeignLine(int at, const QString &name, const QString &text, Places &places,
-                                       const ScenarioStep &step)
+                                       const ScenarioItem &step)
 {
     const int next = places.latest + 1;
     if (next == static_cast<int>(fields().size())) {
@@ -296,7 +296,7 @@ void ScenarioReader::reportForeignLine(int at, const QString &name, const QStrin
     report(at, &step, name, QStringLiteral("%1; \"%2\" has to stand here").arg(text, field(next).name));
 }
 
-void ScenarioReader::report(int line, const ScenarioStep *step, const QString &name, const QString &text)
+void ScenarioReader::report(int line, const ScenarioItem *step, const QString &name, const QString &text)
 {
     const QString item =
         step != nullptr && step->id >= 0 ? QStringLiteral("item %1").arg(step->id) : QString();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lesson-check/Finding.h"
-#include "lesson-check/ScenarioStep.h"
+#include "lesson-check/ScenarioItem.h"
 
 #include <QStringList>
 
@@ -15,19 +15,19 @@ public:
 
     /// Returns the items that can be read. What deviates from the form is added to findings(), with one
     /// finding for a line at most: what else may be wrong with it shows when that is mended.
-    [[nodiscard]] ScenarioSteps read(const QByteArray &bytes);
+    [[nodiscard]] ScenarioItems read(const QByteArray &bytes);
 
     [[nodiscard]] const Findings &findings() const { return m_findings; }
 
 private:
-    void readItem(ScenarioSteps &steps);
+    void readItem(ScenarioItems &steps);
     struct Places;
 
-    void readFields(int first, int count, ScenarioStep &step);
-    void readField(int at, const QString &ending, Places &places, ScenarioStep &step);
+    void readFields(int first, int count, ScenarioItem &step);
+    void readField(int at, const QString &ending, Places &places, ScenarioItem &step);
     void reportForeignLine(int at, const QString &name, const QString &text, Places &places,
-                           const ScenarioStep &step);
-    void report(int line, const ScenarioStep *step, const QString &name, const QString &text);
+                           const ScenarioItem &step);
+    void report(int line, const ScenarioItem *step, const QString &name, const QString &text);
 
     QString m_file;
     QStringList m_lines;

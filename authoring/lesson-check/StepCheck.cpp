@@ -1,12 +1,8 @@
 #include "lesson-check/StepCheck.h"
 
-#include "lesson-check/Condition.h"
-#include "lesson-check/Spot.h"
-
-#include "Tutorial/ScenarioWords.h"
+#include "lesson/Condition.h"
 
 #include <QPoint>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -15,7 +11,7 @@ namespace {
 class StepChecker
 {
 public:
-    StepChecker(const Lesson &lesson, const WindowPlaces &windows)
+    StepChecker(const Lesson &lesson, const DescriptionSet &windows)
         : m_lesson(lesson)
         , m_windows(windows)
     {
@@ -23,7 +19,7 @@ public:
 
     Findings run()
     {
-        for (const ScenarioStep &step : m_lesson.steps) {
+        for (const ScenarioItem &step : m_lesson.steps) {
             m_step = &step;
             checkWindow();
             checkPosition();
@@ -45,7 +41,7 @@ private:
 
     void checkWindow()
     {
-        if (!m_windows.isKnown(m_step->windowKey))
+        if (!m_windows.contains(m_step->windowKey))
             report(QStringLiteral("windowKey"),
                    QStringLiteral("no window has the key \"%1\"").arg(m_step->windowKey));
     }
@@ -56,15 +52,15 @@ private:
         const QString y = QStringLiteral("y");
         if (m_step->hasNoPosition() || !m_step->isRead("x") || !m_step->isRead("y"))
             return;
-        if (m_step->x == ScenarioStep::kNowhere || m_step->y == ScenarioStep::kNowhere) {
-            report(m_step->x == ScenarioStep::kNowhere ? y : x,
+        if (m_step->x == LessonWords::kNoPosition || m_step->y == LessonWords::kNoPosition) {
+            report(m_step->x == LessonWords::kNoPosition ? y : x,
                    QStringLiteral("a step without position has -9999 in both x and y"));
             return;
         }
         const QSize size = m_windows.size(m_step->windowKey);
-        if (!m_windows.isKnown(m_step->windowKey) || size.isEmpty() || !m_step->isRead("windowKey"))
+        if (!m_windows.contains(m_step->windowKey) || size.isEmpty() || !m_step->isRead("windowKey"))
             return;
-        const QPoint tip = QPoint(m_step->x, m_step->y) + Spot::kTip;
+        const QPoint tip = QPoint(m_step->x, m_step->y) + LessonWords::kTip;
         if (tip.x() < 0 || tip.x() >= size.width()) {
             report(x, QStringLiteral("the arrow's tip would be at %1, outside the window's width of %2")
                           .arg(tip.x())
@@ -80,8 +76,8 @@ private:
 
     void checkTarget(const QPoint &tip)
     {
-        const QVector<ControlPlace> controls = m_windows.controls(m_step->windowKey);
-        const auto holds = [&](const ControlPlace &control) {
+        const QVector<ControlDescription> controls = m_windows.controlsIn(m_step->windowKey);
+        const auto holds = [&](const ControlDescription &control) {
             return control.geometry.contains(tip);
         };
         if (!controls.isEmpty() && std::none_of(controls.cbegin(), controls.cend(), holds))
@@ -93,19 +89,26 @@ private:
 
     void checkCondition()
     {
-        if (!m_step->isRead("condition"))
+        if (!m_step->isRead("condition")) {
             return;
-        const Condition condition(m_step->condition);
-        if (!condition.problem().isEmpty())
-            report(QStringLiteral("condition"), condition.problem());
-        else if (!condition.windowKey().isEmpty() && !m_windows.isKnown(condition.windowKey()))
+        }
+        QString problem = QStringLiteral("\"\" is not a condition type");
+        const std::optional<Condition> condition =
+            m_step->condition.isEmpty() ? std::nullopt : Condition::parse(m_step->condition, &problem);
+        if (!condition) {
+            report(QStringLiteral("condition"), problem);
+        } else if (condition->type() == Condition::Type::kWindowState &&
+                   !m_windows.contains(condition->target())) {
             report(QStringLiteral("condition"),
-                   QStringLiteral("no window has the key \"%1\"").arg(condition.windowKey()));
-        else if (!condition.action().isEmpty())
-            checkAction(condition.action(), condition.actionState());
-        if (condition.type() != QLatin1String("yesNo") && m_step->jumpNo != -1)
+                   QStringLiteral("no window has the key \"%1\"").arg(condition->target()));
+        } else if (condition->type() == Condition::Type::kAction) {
+            checkAction(condition->target(), condition->value());
+        }
+        if (Condition::wordOf(m_step->condition) != QLatin1String("yesNo") &&
+            m_step->jumpNo != LessonWords::kNoJump) {
             report(QStringLiteral("jumpNo"),
                    QStringLiteral("only a step with the condition yesNo has a way for no"));
+        }
     }
 
     void checkAction(const QString &action, const QString &state)
@@ -121,15 +124,13 @@ private:
 
     void checkRest()
     {
-        static const QRegularExpression command(
-            QStringLiteral("^(|%1,step[1-9][0-9]*)$").arg(QLatin1String(ScenarioWords::kPresetData)));
-        const auto &icons = ScenarioWords::kIconNames;
-        if (std::none_of(icons.begin(), icons.end(),
-                         [this](const char *icon) { return m_step->icon == QLatin1String(icon); }))
+        if (LessonWords::iconKind(m_step->icon) == static_cast<int>(LessonWords::kIcons.size())) {
             report(QStringLiteral("icon"), QStringLiteral("\"%1\" is not an icon").arg(m_step->icon));
-        if (!command.match(m_step->command).hasMatch())
+        }
+        if (!m_step->command.isEmpty() && LessonWords::presetStep(m_step->command).isEmpty()) {
             report(QStringLiteral("command"),
                    QStringLiteral("\"%1\" is not of the form presetData,stepN").arg(m_step->command));
+        }
         if (m_step->hint != m_step->translationId && m_step->isRead("translationId"))
             report(QStringLiteral("hint"), QStringLiteral("the hint shows text %1, the translationId says %2")
                                                .arg(m_step->hint)
@@ -141,14 +142,14 @@ private:
     }
 
     const Lesson &m_lesson;
-    const WindowPlaces &m_windows;
-    const ScenarioStep *m_step = nullptr;
+    const DescriptionSet &m_windows;
+    const ScenarioItem *m_step = nullptr;
     Findings m_findings;
 };
 
 } // namespace
 
-Findings checkSteps(const Lesson &lesson, const WindowPlaces &windows)
+Findings checkSteps(const Lesson &lesson, const DescriptionSet &windows)
 {
     return StepChecker(lesson, windows).run();
 }

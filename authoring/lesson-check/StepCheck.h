@@ -2,8 +2,8 @@
 
 #include "lesson-check/Finding.h"
 #include "lesson-check/Lesson.h"
-#include "lesson-check/WindowPlaces.h"
+#include "lesson/description/DescriptionSet.h"
 
 /// Looks at each step of @p lesson alone: window key, condition, icon, command, position, and the number of
 /// its text.
-[[nodiscard]] Findings checkSteps(const Lesson &lesson, const WindowPlaces &windows);
+[[nodiscard]] Findings checkSteps(const Lesson &lesson, const DescriptionSet &windows);

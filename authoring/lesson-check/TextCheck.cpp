@@ -41,7 +41,7 @@ Findings compare(const QString &file, const QString &context, const Uses &uses, 
 Uses usesOf(const Lesson &lesson)
 {
     Uses uses;
-    for (const ScenarioStep &step : lesson.steps) {
+    for (const ScenarioItem &step : lesson.steps) {
         if (!uses.contains(step.translationId))
             uses.insert(step.translationId,
                         {step.line, QStringLiteral("item %1").arg(step.id), QStringLiteral("translationId")});

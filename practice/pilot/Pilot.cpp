@@ -1,6 +1,6 @@
 #include "pilot/Pilot.h"
 
-#include "LessonSession.h"
+#include "host/LessonSession.h"
 #include "pilot/Placement.h"
 
 #include <QDir>
@@ -52,12 +52,12 @@ QString mouseAction(const QString &icon)
     return {};
 }
 
-bool endsWithButton(const ScenarioStep &step)
+bool endsWithButton(const Step &step)
 {
     return step.condition.type() == Type::kNext || step.condition.type() == Type::kYesNo;
 }
 
-int limitMs(const ScenarioStep &step)
+int limitMs(const Step &step)
 {
     if (step.condition.type() == Type::kWait) {
         return step.condition.waitMs() + kConditionMs;
@@ -178,7 +178,7 @@ void Pilot::tick()
 
 void Pilot::watch()
 {
-    const ScenarioStep &step = m_session->runner().step();
+    const Step &step = m_session->runner().step();
     if (m_sincePhase.hasExpired(kSettleMs)) {
         fail(QStringLiteral(
                  "%1: the bubble does not come to rest where the step points, or its buttons do not show")
@@ -229,7 +229,7 @@ std::optional<OverlayWatch> Pilot::look()
     return OverlayWatch::parse(geometries);
 }
 
-bool Pilot::settled(const ScenarioStep &step) const
+bool Pilot::settled(const Step &step) const
 {
     const int buttons =
         step.condition.type() == Type::kNext ? 1 : (step.condition.type() == Type::kYesNo ? 2 : 0);
@@ -253,7 +253,7 @@ QWindow *Pilot::windowAt(const QPoint &spot)
     return isBlocked ? nullptr : window;
 }
 
-void Pilot::planAction(const ScenarioStep &step, const std::optional<QPoint> &spot)
+void Pilot::planAction(const Step &step, const std::optional<QPoint> &spot)
 {
     const QString mouse = mouseAction(step.icon);
     m_actions.clear();
@@ -274,7 +274,7 @@ void Pilot::planAction(const ScenarioStep &step, const std::optional<QPoint> &sp
     }
 }
 
-void Pilot::planKeys(const ScenarioStep &step)
+void Pilot::planKeys(const Step &step)
 {
     QString text = QStringLiteral("Village");
     if (step.condition.type() == Type::kSpinBox) {
@@ -391,7 +391,7 @@ bool Pilot::takeShot(const QString &name)
 QString Pilot::stepText() const
 {
     const ScenarioRunner &runner = m_session->runner();
-    const ScenarioStep &step = runner.step();
+    const Step &step = runner.step();
     return QStringLiteral("step %1/%2 id %3 %4 %5")
         .arg(runner.index() + 1)
         .arg(runner.scenario().size())

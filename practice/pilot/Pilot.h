@@ -12,7 +12,7 @@
 
 class LessonSession;
 class QWindow;
-struct ScenarioStep;
+struct Step;
 
 /// Plays a lesson as a learner does: it looks where the companion's windows are on the screen, acts with real
 /// mouse and key events at the spot that the arrow points at, in the way that the icon says, and clicks the
@@ -60,8 +60,8 @@ private:
     void watchEnd();
     /// What is on the screen; nothing when the look failed.
     std::optional<OverlayWatch> look();
-    void planAction(const ScenarioStep &step, const std::optional<QPoint> &spot);
-    void planKeys(const ScenarioStep &step);
+    void planAction(const Step &step, const std::optional<QPoint> &spot);
+    void planKeys(const Step &step);
     void actOnce();
     void pressButton();
     bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr,
@@ -72,7 +72,7 @@ private:
     [[nodiscard]] static QWindow *windowAt(const QPoint &spot);
     /// Whether keys go to the window at the spot.
     [[nodiscard]] bool hasFocus() const;
-    [[nodiscard]] bool settled(const ScenarioStep &step) const;
+    [[nodiscard]] bool settled(const Step &step) const;
     [[nodiscard]] QString stepText() const;
 
     LessonSession *m_session;

@@ -1,6 +1,6 @@
 #include "pilot/Placement.h"
 
-#include "runner/Scenario.h"
+#include "lesson/Scenario.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ std::optional<QPoint> arrowSpot(const QPoint &bubble, const QPoint &target)
         for (const int below : {0, kUpsideDownBelow}) {
             const QPoint upright = bubble + QPoint(left, -below);
             if (isClose(upright, target)) {
-                return upright + ScenarioStep::kTip;
+                return upright + LessonWords::kTip;
             }
         }
     }

@@ -1,5 +1,7 @@
 #include "window/EditorProject.h"
 
+#include "window/ToolIcon.h"
+
 #include <QDir>
 
 #include <utility>
@@ -72,6 +74,11 @@ QStringList EditorProject::sources()
 QStringList EditorProject::pictures()
 {
     return {QStringLiteral("map.tileSet"), QStringLiteral("tileSet"), QStringLiteral("sampleMap")};
+}
+
+EditorNames EditorProject::names()
+{
+    return {commands(), fields(), sources(), pictures(), toolIcons()};
 }
 
 void EditorProject::run(const QString &command)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lesson/description/DescriptionSet.h"
 #include "window/GameMap.h"
 #include "window/ProjectContents.h"
 #include "window/ProjectData.h"
@@ -40,6 +41,8 @@ public:
     static QStringList fields();
     static QStringList sources();
     static QStringList pictures();
+    /// All of these, and the icons of tools: what window descriptions may name.
+    static EditorNames names();
 
     /// Runs one of commands(); does nothing where it makes no sense, such as undo with nothing to undo.
     void run(const QString &command);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/WindowDescription.h"
+#include "lesson/description/WindowDescription.h"
 
 #include <QWidget>
 

@@ -1,5 +1,7 @@
 #include "window/EditorWindowSet.h"
 
+#include "lesson/LessonWords.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
@@ -10,7 +12,7 @@
 // Outside of any namespace, as the macro needs it: the files are compiled into a static library.
 static void initWindowDescriptions()
 {
-    Q_INIT_RESOURCE(windows);
+    Q_INIT_RESOURCE(descriptions);
 }
 
 namespace {
@@ -41,8 +43,10 @@ std::unique_ptr<EditorWindowSet> EditorWindowSet::create(const QString &locale, 
                                                          const QString &folder)
 {
     initWindowDescriptions();
-    const QString known = JsonReader::locales().contains(locale) ? locale : JsonReader::locales().first();
-    DescriptionSet descriptions = DescriptionSet::read(folder, errors);
+    const QString known =
+        LessonWords::locales().contains(locale) ? locale : LessonWords::locales().constFirst();
+    const EditorNames names = EditorProject::names();
+    DescriptionSet descriptions = DescriptionSet::read(folder, &names, errors);
     ProjectData data = ProjectData::read(folder + QStringLiteral("/data/project.json"), known, errors);
     if (!errors->isEmpty())
         return nullptr;

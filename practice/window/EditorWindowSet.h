@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/DescriptionSet.h"
+#include "lesson/description/DescriptionSet.h"
 #include "window/EditorProject.h"
 #include "window/EditorWindow.h"
 #include "window/EditorWindows.h"
@@ -22,7 +22,7 @@ public:
     /// of the three. Gives nullptr and adds a line to @p errors for each thing that is wrong with a file;
     /// each names the file, the place and the mend.
     static std::unique_ptr<EditorWindowSet> create(const QString &locale, QStringList *errors,
-                                                   const QString &folder = QStringLiteral(":/windows"));
+                                                   const QString &folder = QStringLiteral(":/descriptions"));
     ~EditorWindowSet() override;
 
     bool open(const QString &windowKey) override;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "lesson/description/JsonReader.h"
 #include "window/GameMap.h"
-#include "window/JsonReader.h"
 
 #include <QColor>
 

@@ -2,7 +2,7 @@
 #include "XWindows.h"
 #include "pilot/OverlayWatch.h"
 #include "pilot/Placement.h"
-#include "runner/Scenario.h"
+#include "lesson/Scenario.h"
 #include "window/EditorWindowSet.h"
 
 #include <QAbstractButton>
@@ -129,7 +129,7 @@ bool TestPracticeWindows::isReadable() const
     const OverlayWatch seen = overlays();
     const QPoint middle = mainWindow()->mapToGlobal(mainWindow()->rect().center());
     return seen.buttons.size() == 1 && seen.bubble &&
-           arrowSpot(seen.bubble->topLeft(), middle - ScenarioStep::kTip);
+           arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
 }
 
 bool TestPracticeWindows::isPointing() const

@@ -36,7 +36,9 @@ class CheckIncludes(unittest.TestCase):
             "cpp/Tutorial/overlay/Arrow.h": '#include "TutorialFont/Font.h"\n',
             "cpp/TutorialFont/Font.h": "#include <QFont>\n",
             "cpp/tool/Log.h": "",
-            "practice/Editor.cpp": '#include "window/Window.h"\n',
+            "practice/Editor.cpp": '#include "lesson/Step.h"\n#include "window/Window.h"\n',
+            "lesson/Step.h": '#include "lesson/Words.h"\n',
+            "lesson/Words.h": "",
             "practice/window/Window.h": "",
             "authoring/check.cpp": '#include "tool/Log.h"\n',
         })
@@ -52,6 +54,13 @@ class CheckIncludes(unittest.TestCase):
             "cpp/Tutorial/link/Frame.cpp:1: cpp/Tutorial/link may not include cpp/Tutorial/overlay/Arrow.h"
             " (allowed: cpp/tool)")
 
+    def test_what_host_editors_know_of_lessons_and_the_companion_know_nothing_of_each_other(self):
+        self.assertBroken(
+            {"cpp/tool/Log.h": '#include "lesson/Step.h"\n', "lesson/Step.h": '#include "tool/Line.h"\n',
+             "cpp/tool/Line.h": ""},
+            "cpp/tool/Log.h:1: cpp/tool may not include lesson/Step.h (allowed: nothing but Qt)",
+            "lesson/Step.h:1: lesson may not include cpp/tool/Line.h (allowed: nothing but Qt)")
+
     def test_a_room_below_may_not_include_the_room_around_it(self):
         self.assertBroken(
             {"cpp/Tutorial/preset/Patch.h": '#include "Tutorial/Manager.h"\n', "cpp/Tutorial/Manager.h": ""},
@@ -61,7 +70,7 @@ class CheckIncludes(unittest.TestCase):
     def test_the_practice_editor_may_not_include_the_companion(self):
         self.assertBroken(
             {"practice/Host.cpp": "#include <tool/Log.h>\n", "cpp/tool/Log.h": ""},
-            "practice/Host.cpp:1: practice may not include cpp/tool/Log.h (allowed: nothing but Qt)")
+            "practice/Host.cpp:1: practice may not include cpp/tool/Log.h (allowed: host, lesson)")
 
     def test_a_circle_is_named_once(self):
         self.assertBroken(

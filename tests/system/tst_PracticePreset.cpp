@@ -1,5 +1,5 @@
-#include "LessonSession.h"
-#include "link/HostLink.h"
+#include "host/HostLink.h"
+#include "host/LessonSession.h"
 #include "project/LessonProject.h"
 #include "window/EditorWindowSet.h"
 
@@ -94,8 +94,8 @@ void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
                 path = made;
                 windows->showProject(files);
             });
-    QString error;
-    QVERIFY2(link.start(&error), qPrintable(error));
+    HostLink::Failure failure;
+    QVERIFY2(link.start(&failure), qPrintable(failure.reason));
     QTRY_VERIFY_WITH_TIMEOUT(link.isConnected(), kSoonMs);
 
     // A lesson of one step. What it asks for arrives while the person still names the project, or after.

@@ -63,12 +63,11 @@ void tst_LessonLibrary::namesTheFinding_data()
     const QString list = listFile();
     const QString english = catalogueFile("en_US");
     const QString chinese = catalogueFile("zh_CN");
-    const QString mainWindow = QStringLiteral("practice/windows/MainWindow.json");
+    const QString mainWindow = QStringLiteral("practice/descriptions/MainWindow.json");
 #define IN_LIST "resource/qml/Tutorial/TutorialList.js:"
 
     row("description without size", mainWindow, "\"size\"", "\"extent\"",
-        "practice/windows/MainWindow.json: a window's description is a JSON object with \"key\" and "
-        "\"size\"");
+        "practice/descriptions/MainWindow.json: size: must be a list of 2 whole numbers");
 
     row("text that a language lacks", chinese, "<source>#3</source>", "<source>#33</source>",
         "resource/qml/Tutorial/TutorialStep1.js:36: item 3, \"translationId\": the text #3 is missing in "

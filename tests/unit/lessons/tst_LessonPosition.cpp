@@ -34,7 +34,7 @@ void tst_LessonPosition::answers_data()
         << QStringLiteral("lesson-position: the window has no control \"knob\"\n");
     QTest::newRow("an unknown window")
         << QStringList({tree, fixture, QStringLiteral("Cellar")}) << 2 << QString()
-        << QStringLiteral("lesson-position: %1/practice/windows describes no window \"Cellar\", only "
+        << QStringLiteral("lesson-position: %1/practice/descriptions describes no window \"Cellar\", only "
                           "MainWindow MapView "
                           "Menu NewProject\n")
                .arg(fixture);

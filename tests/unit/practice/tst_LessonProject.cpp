@@ -1,4 +1,4 @@
-#include "LessonSession.h"
+#include "host/LessonSession.h"
 #include "project/LessonProject.h"
 #include "window/EditorWindowSet.h"
 

@@ -7,7 +7,7 @@ namespace {
 ProjectData data()
 {
     QStringList errors;
-    return ProjectData::read(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows/data/project.json"),
+    return ProjectData::read(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions/data/project.json"),
                              QStringLiteral("en_US"), &errors);
 }
 

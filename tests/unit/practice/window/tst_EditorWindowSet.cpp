@@ -50,7 +50,7 @@ void tst_EditorWindowSet::controlsStandWhereTheFilesSay()
 {
     const Editor editor;
     QStringList errors;
-    const auto descriptions = DescriptionSet::read(str(":/windows"), &errors);
+    const auto descriptions = DescriptionSet::read(str(":/descriptions"), nullptr, &errors);
     QCOMPARE(errors, QStringList());
     int checked = 0;
     const auto check = [&](const QString &window, const QSize &size,

@@ -5,7 +5,7 @@
 
 namespace {
 
-const QString kShipped = QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows/data/project.json");
+const QString kShipped = QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions/data/project.json");
 
 QByteArray shipped()
 {

@@ -1,0 +1,83 @@
+#include "host/ScenarioRunner.h"
+
+#include <utility>
+
+ScenarioRunner::ScenarioRunner(OpenWindows openWindows, QObject *parent)
+    : QObject(parent)
+    , m_openWindows(std::move(openWindows))
+{
+}
+
+void ScenarioRunner::start(const Scenario &scenario, int id)
+{
+    m_scenario = scenario;
+    reach(qMax(0, m_scenario.indexOf(id)));
+}
+
+void ScenarioRunner::stop()
+{
+    m_index = -1;
+}
+
+void ScenarioRunner::handle(const EditorEvent &event)
+{
+    if (isRunning() && step().condition.isMetBy(event, step().windowKey)) {
+        goOn(step().jump);
+    }
+}
+
+void ScenarioRunner::next()
+{
+    if (isRunning() && step().condition.type() == Condition::Type::kNext) {
+        goOn(step().jump);
+    }
+}
+
+void ScenarioRunner::answer(bool yes)
+{
+    if (isRunning() && step().condition.type() == Condition::Type::kYesNo) {
+        goOn(yes ? step().jump : step().jumpNo);
+    }
+}
+
+void ScenarioRunner::elapsed()
+{
+    if (isRunning() && step().condition.type() == Condition::Type::kWait) {
+        goOn(step().jump);
+    }
+}
+
+void ScenarioRunner::skip()
+{
+    if (isRunning()) {
+        goOn(step().jump);
+    }
+}
+
+void ScenarioRunner::goOn(int jump)
+{
+    const int target = jump == LessonWords::kNoJump ? -1 : m_scenario.indexOf(jump);
+    reach(target < 0 ? m_index + 1 : target);
+}
+
+void ScenarioRunner::reach(int index)
+{
+    // Steps that have nothing to wait for are passed; jumps among them could go round for ever.
+    for (int passed = 0; index < m_scenario.size(); ++passed) {
+        m_index = index;
+        if (!step().command.isEmpty()) {
+            Q_EMIT commandRequested(step().command);
+        }
+        if (!isRunning()) {
+            return;
+        }
+        if (passed >= m_scenario.size() || !step().condition.holds(m_openWindows())) {
+            Q_EMIT stepReached();
+            return;
+        }
+        const int target = step().jump == LessonWords::kNoJump ? -1 : m_scenario.indexOf(step().jump);
+        index = target < 0 ? m_index + 1 : target;
+    }
+    m_index = -1;
+    Q_EMIT finished();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPoint>
+#include <QStringList>
+
+#include <array>
+
+/// The words and numbers of lessons that are not conditions.
+namespace LessonWords {
+
+/// "x" and "y" of an item that points nowhere.
+constexpr int kNoPosition = -9999;
+
+/// "jump" and "jumpNo" of an item that goes on with the next.
+constexpr int kNoJump = -1;
+
+/// From the top left corner of the bubble's window to the tip of its arrow, in pixels: an item that points at
+/// a place in a window has that place less this as its position.
+constexpr QPoint kTip{38, 150};
+
+/// The names of icons; the number of an icon in the link is its place here.
+constexpr std::array<const char *, 6> kIcons = {"click", "doubleClick", "rightClick",
+                                                "eye",   "wait",        "keyboard"};
+
+/// The languages of a lesson, English first.
+QStringList locales();
+
+/// The number of the icon with this name in the link: 0 to 5, or 6, which shows none.
+int iconKind(const QString &name);
+
+/// The step of the sample data that an item's command asks for: "step2" for "presetData,step2". Empty for any
+/// other text; no command has another form.
+QString presetStep(const QString &command);
+
+} // namespace LessonWords

@@ -1,0 +1,98 @@
+#include "lesson/Scenario.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+namespace {
+
+QString textOf(const QJsonObject &object, QLatin1String key)
+{
+    return object.value(key).toString();
+}
+
+Step readStep(const QJsonObject &object, QStringList *problems)
+{
+    Step step;
+    step.id = object.value(QLatin1String("id")).toInt();
+    step.x = object.value(QLatin1String("x")).toInt();
+    step.y = object.value(QLatin1String("y")).toInt();
+    step.windowKey = textOf(object, QLatin1String("windowKey"));
+    step.conditionText = textOf(object, QLatin1String("condition"));
+    step.hint = textOf(object, QLatin1String("hint"));
+    step.icon = object.value(QLatin1String("icon")).toString(QStringLiteral("click"));
+    step.jump = object.value(QLatin1String("jump")).toInt(LessonWords::kNoJump);
+    step.jumpNo = object.value(QLatin1String("jumpNo")).toInt(LessonWords::kNoJump);
+    step.command = textOf(object, QLatin1String("command"));
+    step.showArrow = object.value(QLatin1String("showArrow")).toBool(true);
+    QString problem;
+    if (const std::optional<Condition> condition = Condition::parse(step.conditionText, &problem)) {
+        step.condition = *condition;
+    } else {
+        problems->append(
+            QStringLiteral("step %1: the condition %2; it waits for Next instead").arg(step.id).arg(problem));
+    }
+    return step;
+}
+
+void readSteps(const QJsonArray &items, QVector<Step> *steps, QStringList *problems)
+{
+    for (const QJsonValue &item : items) {
+        const QJsonObject object = item.toObject();
+        if (object.value(QLatin1String("folder")).toBool()) {
+            readSteps(object.value(QLatin1String("children")).toArray(), steps, problems);
+        } else if (object.value(QLatin1String("id")).isDouble()) {
+            steps->append(readStep(object, problems));
+        } else {
+            problems->append(
+                QStringLiteral("an item after %1 steps has no id and is left out").arg(steps->size()));
+        }
+    }
+}
+
+} // namespace
+
+Scenario Scenario::parse(const QString &text, QStringList *problems)
+{
+    const int begin = text.indexOf(QLatin1Char('['));
+    const int end = text.lastIndexOf(QLatin1Char(']'));
+    Scenario scenario;
+    QJsonParseError error = {};
+    const QJsonDocument document =
+        QJsonDocument::fromJson(begin < 0 ? QByteArray() : text.mid(begin, end - begin + 1).toUtf8(), &error);
+    if (!document.isArray()) {
+        problems->append(QStringLiteral("the scenario is no list of steps: %1").arg(error.errorString()));
+        return scenario;
+    }
+    readSteps(document.array(), &scenario.m_steps, problems);
+
+    QSet<int> ids;
+    for (const Step &step : qAsConst(scenario.m_steps)) {
+        if (ids.contains(step.id)) {
+            problems->append(QStringLiteral("step %1: the id stands twice").arg(step.id));
+        }
+        ids.insert(step.id);
+    }
+    for (const Step &step : qAsConst(scenario.m_steps)) {
+        for (const int target : {step.jump, step.jumpNo}) {
+            if (target != LessonWords::kNoJump && !ids.contains(target)) {
+                problems->append(
+                    QStringLiteral("step %1: no step has the id %2 that it jumps to; it goes on instead")
+                        .arg(step.id)
+                        .arg(target));
+            }
+        }
+    }
+    return scenario;
+}
+
+int Scenario::indexOf(int id) const
+{
+    for (int index = 0; index < m_steps.size(); ++index) {
+        if (m_steps.at(index).id == id) {
+            return index;
+        }
+    }
+    return -1;
+}

@@ -1,0 +1,178 @@
+#include "lesson/description/DescriptionSet.h"
+
+#include <QDir>
+
+namespace {
+
+/// Collects what is wrong with the references of one file.
+struct ReferenceCheck
+{
+    const DescriptionSet &set;
+    const EditorNames *names;
+    QString path;
+    QStringList *errors;
+
+    void fail(const QString &place, const QString &message) const
+    {
+        errors->append(QStringLiteral("%1: %2: %3").arg(path, place, message));
+    }
+
+    void oneOf(const QString &place, const QString &value, const QStringList &allowed) const
+    {
+        if (!value.isEmpty() && !allowed.contains(value)) {
+            fail(place, QStringLiteral("\"%1\" is unknown; use one of: %2")
+                            .arg(value, allowed.join(QStringLiteral(", "))));
+        }
+    }
+
+    void window(const QString &place, const QString &key) const
+    {
+        if (!key.isEmpty() && (!set.contains(key) || set[key].kind != WindowDescription::Kind::kWindow)) {
+            fail(place,
+                 QStringLiteral("no window is called \"%1\"; add \"%1.json\" or correct the name").arg(key));
+        }
+    }
+
+    void action(const QString &place, const ControlAction &action) const
+    {
+        if (names != nullptr) {
+            oneOf(place + QStringLiteral(".run"), action.run, names->commands);
+        }
+        window(place + QStringLiteral(".open"), action.open);
+        if (!action.popup.isEmpty() && set.popup(action.popup) == nullptr) {
+            fail(place + QStringLiteral(".popup"),
+                 QStringLiteral("no context menu is called \"%1\"; add it to \"Menu.json\"")
+                     .arg(action.popup));
+        }
+    }
+
+    void control(const ControlDescription &control) const
+    {
+        action(control.name + QStringLiteral(".click"), control.click);
+        action(control.name + QStringLiteral(".doubleClick"), control.doubleClick);
+        action(control.name + QStringLiteral(".contextMenu"), control.contextMenu);
+        oneOf(control.name + QStringLiteral(".needs"), control.needs, {QStringLiteral("project")});
+        if (names != nullptr) {
+            oneOf(control.name + QStringLiteral(".field"), control.field, names->fields);
+            oneOf(control.name + QStringLiteral(".source"), control.source, names->sources);
+            oneOf(control.name + QStringLiteral(".picture"), control.picture, names->pictures);
+            oneOf(control.name + QStringLiteral(".icon"), control.icon, names->icons);
+        }
+    }
+};
+
+} // namespace
+
+DescriptionSet DescriptionSet::read(const QString &folder, const EditorNames *names, QStringList *errors)
+{
+    DescriptionSet set;
+    const QDir directory(folder);
+    const QStringList files = directory.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    if (files.isEmpty()) {
+        errors->append(QStringLiteral("%1: holds no window descriptions (*.json)").arg(folder));
+    }
+    for (const QString &name : files) {
+        const QString path = directory.filePath(name);
+        const WindowDescription window = WindowDescription::read(path, errors);
+        set.m_windows.insert(window.key, window);
+        set.m_paths.insert(window.key, path);
+    }
+    if (errors->isEmpty()) {
+        set.check(names, errors);
+    }
+    return set;
+}
+
+bool DescriptionSet::contains(const QString &key) const
+{
+    return m_windows.contains(key);
+}
+
+QStringList DescriptionSet::keys() const
+{
+    return m_windows.keys();
+}
+
+const WindowDescription &DescriptionSet::operator[](const QString &key) const
+{
+    return *m_windows.constFind(key);
+}
+
+const PopupDescription *DescriptionSet::popup(const QString &name) const
+{
+    const auto menus = m_windows.constFind(popupKey());
+    if (menus == m_windows.constEnd())
+        return nullptr;
+    for (const PopupDescription &popup : menus->popups) {
+        if (popup.name == name)
+            return &popup;
+    }
+    return nullptr;
+}
+
+QString DescriptionSet::popupKey() const
+{
+    for (const WindowDescription &window : m_windows) {
+        if (window.kind == WindowDescription::Kind::kPopup)
+            return window.key;
+    }
+    return {};
+}
+
+QSize DescriptionSet::size(const QString &key) const
+{
+    return m_windows.value(key).size;
+}
+
+QVector<ControlDescription> DescriptionSet::controlsIn(const QString &key) const
+{
+    const WindowDescription window = m_windows.value(key);
+    QVector<ControlDescription> controls = window.controls;
+    for (const PopupDescription &popup : window.popups) {
+        for (ControlDescription entry : popup.controls) {
+            entry.name = popup.name + QLatin1Char('/') + entry.name;
+            controls.append(entry);
+        }
+    }
+    for (const WindowDescription &part : m_windows) {
+        if (part.kind != WindowDescription::Kind::kPart || part.owner != key) {
+            continue;
+        }
+        for (ControlDescription control : part.controls) {
+            control.geometry.translate(part.place);
+            controls.append(control);
+        }
+    }
+    return controls;
+}
+
+QStringList DescriptionSet::actionStates(const QString &name) const
+{
+    QStringList states;
+    for (const WindowDescription &window : m_windows) {
+        for (const ControlDescription &control : window.controls) {
+            if (control.actionName == name) {
+                states.append(control.actionState);
+            }
+        }
+    }
+    return states;
+}
+
+void DescriptionSet::check(const EditorNames *names, QStringList *errors) const
+{
+    for (const WindowDescription &window : m_windows) {
+        const ReferenceCheck check{*this, names, m_paths.value(window.key), errors};
+        if (window.kind == WindowDescription::Kind::kPart)
+            check.window(QStringLiteral("partOf"), window.owner);
+        if (window.kind == WindowDescription::Kind::kArea && window.owner != QLatin1String("screen"))
+            check.window(QStringLiteral("areaOf"), window.owner);
+        check.action(QStringLiteral("after"), window.after);
+        for (const ControlDescription &control : window.controls)
+            check.control(control);
+        for (const PopupDescription &popup : window.popups) {
+            for (const ControlDescription &control : popup.controls)
+                check.control(control);
+        }
+    }
+}

@@ -1,0 +1,209 @@
+#include "DescriptionFiles.h"
+#include "lesson/description/WindowDescription.h"
+
+#include <QtTest>
+
+namespace {
+
+const char *const kText = R"({"en_US": "a", "ja_JP": "b", "zh_CN": "c"})";
+
+/// A window "Box" of 200 x 100 with one button, in which one piece is replaced by another.
+QByteArray box(const QByteArray &piece = QByteArray(), const QByteArray &replacement = QByteArray())
+{
+    QByteArray text = R"({
+ "key": "Box", "kind": "window", "size": [200, 100], "place": [10, 20], "title": TEXT,
+ "controls": [
+  {"type": "button", "name": "ok", "geometry": [100, 60, 90, 30], "label": TEXT, "default": true,
+   "click": {"run": "map.undo", "close": true, "open": "Other"}}
+ ]
+})";
+    if (!piece.isEmpty()) {
+        Q_ASSERT(text.contains(piece));
+        text.replace(piece, replacement);
+    }
+    return text.replace("TEXT", kText);
+}
+
+} // namespace
+
+class tst_WindowDescription : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsAWindow();
+    void readsAListATabRowAndASpinBox();
+    void readsContextMenus();
+    void tellsWhatIsWrong_data();
+    void tellsWhatIsWrong();
+    void tellsTheLineOfASyntaxError();
+    void tellsAMissingFile();
+    void tellsAllErrorsAtOnce();
+};
+
+void tst_WindowDescription::readsAWindow()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const auto window = WindowDescription::read(files.write(QStringLiteral("Box.json"), box()), &errors);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(window.key, QStringLiteral("Box"));
+    QVERIFY(window.kind == WindowDescription::Kind::kWindow);
+    QCOMPARE(window.size, QSize(200, 100));
+    QCOMPARE(window.place, QPoint(10, 20));
+    QCOMPARE(window.title.value(QStringLiteral("ja_JP")), QStringLiteral("b"));
+    QCOMPARE(window.controls.size(), 1);
+    const ControlDescription &button = window.controls.first();
+    QCOMPARE(button.geometry, QRect(100, 60, 90, 30));
+    QCOMPARE(button.label.value(QStringLiteral("zh_CN")), QStringLiteral("c"));
+    QVERIFY(button.isDefault);
+    QCOMPARE(button.click.run, QStringLiteral("map.undo"));
+    QVERIFY(button.click.close);
+    QCOMPARE(button.click.open, QStringLiteral("Other"));
+    QVERIFY(button.doubleClick.isEmpty());
+}
+
+void tst_WindowDescription::readsAListATabRowAndASpinBox()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QByteArray text = QByteArray(R"({
+ "key": "Pane", "kind": "part", "partOf": "Box", "size": [200, 100], "place": [0, 0], "title": TEXT,
+ "controls": [
+  {"type": "list", "name": "rows", "geometry": [0, 0, 90, 50], "rowHeight": 24, "source": "maps",
+   "contextMenu": {"popup": "MapPopup"}},
+  {"type": "tabs", "name": "tabs", "geometry": [0, 50, 90, 24], "tabWidth": 45, "source": "tileTab",
+   "tabs": [TEXT, TEXT]},
+  {"type": "spinBox", "name": "part", "geometry": [90, 0, 90, 24], "field": "map.width", "range": [1, 99], "suffix": " %"}
+ ]
+})")
+                                .replace("TEXT", kText);
+    const auto part = WindowDescription::read(files.write(QStringLiteral("Pane.json"), text), &errors);
+    QCOMPARE(errors, QStringList());
+    QVERIFY(part.kind == WindowDescription::Kind::kPart);
+    QCOMPARE(part.owner, QStringLiteral("Box"));
+    QCOMPARE(part.controls[0].rowHeight, 24);
+    QCOMPARE(part.controls[0].contextMenu.popup, QStringLiteral("MapPopup"));
+    QCOMPARE(part.controls[1].tabs.size(), 2);
+    QCOMPARE(part.controls[1].tabWidth, 45);
+    QCOMPARE(part.controls[2].maximum, 99);
+    QCOMPARE(part.controls[2].suffix, QStringLiteral(" %"));
+}
+
+void tst_WindowDescription::readsContextMenus()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QByteArray text = QByteArray(R"({
+ "key": "Menu", "kind": "popup", "size": [100, 30], "title": TEXT,
+ "popups": [{"name": "Small", "size": [100, 30],
+   "controls": [{"type": "entry", "name": "first", "geometry": [0, 0, 100, 30], "label": TEXT}]}]
+})")
+                                .replace("TEXT", kText);
+    const auto menu = WindowDescription::read(files.write(QStringLiteral("Menu.json"), text), &errors);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(menu.popups.size(), 1);
+    QCOMPARE(menu.popups.first().name, QStringLiteral("Small"));
+    QCOMPARE(menu.popups.first().controls.first().name, QStringLiteral("first"));
+}
+
+void tst_WindowDescription::tellsWhatIsWrong_data()
+{
+    QTest::addColumn<QByteArray>("piece");
+    QTest::addColumn<QByteArray>("replacement");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const char *piece, const char *replacement, const char *error) {
+        QTest::newRow(name) << QByteArray(piece) << QByteArray(replacement) << QString::fromLatin1(error);
+    };
+    row("unknown control type", R"("type": "button")", R"("type": "buton")",
+        "controls[0].type: \"buton\" is unknown; use one of: button, checkBox, entry, label, "
+        "lineEdit, "
+        "list, map, picture, progress, spinBox, tabs, toolButton");
+    row("outside the window", "[100, 60, 90, 30]", "[120, 60, 90, 30]",
+        "controls[0].geometry: reaches out of the window; keep it inside its size");
+    row("three numbers for a rectangle", "[100, 60, 90, 30]", "[100, 60, 90]",
+        "controls[0].geometry: must be a list of 4 whole numbers");
+    row("misspelt field", R"("default": true)", R"("defualt": true)",
+        "controls[0].defualt: is not a field that is known here; remove it or correct its name");
+    row("text for a flag", R"("default": true)", R"("default": "yes")",
+        "controls[0].default: must be true or false");
+    row("missing language", R"("title": TEXT)", R"("title": {"en_US": "a", "ja_JP": "b"})",
+        "title: needs a text for \"zh_CN\"");
+    row("unknown kind", R"("kind": "window")", R"("kind": "windw")",
+        "kind: \"windw\" is unknown; use one of: window, part, popup, area");
+    row("file of another name", R"("key": "Box")", R"("key": "Bag")",
+        "key: the file of this key must be called \"Bag.json\"");
+    row("controls that are no list", R"("controls": [)", R"("controls": 3, "more": [)",
+        "controls: must be a list, [ ... ]");
+    row("a control that is no object", R"("controls": [)", R"("controls": [7,)",
+        "controls[0]: must be an object, { ... }");
+    row("an action that does nothing", R"({"run": "map.undo", "close": true, "open": "Other"})", "{}",
+        "controls[0].click: does nothing; give it a run, close, open or popup, or remove it");
+    row("an action that is no object", R"({"run": "map.undo", "close": true, "open": "Other"})", R"("close")",
+        "controls[0].click: must be an object, { ... }");
+    row("twice the same name", R"("controls": [)",
+        R"("controls": [{"type": "label", "name": "ok", "geometry": [0, 0, 9, 9], "label": TEXT},)",
+        "controls[1].name: \"ok\" stands here twice; give each control its own");
+    row("a state that no action has", R"("type": "button")",
+        R"("type": "toolButton", "icon": "pencil", "action": "x", "actionState": "shut")",
+        "controls[0].actionState: must be \"open\", \"close\" or empty");
+    row("a part of nothing", R"("kind": "window")", R"("kind": "part")", "partOf: must be a text");
+    row("half a pixel", R"("place": [10, 20])", R"("place": [10, 20], "closesAfterMs": 0.5)",
+        "closesAfterMs: must be a whole number");
+    row("rows without height", R"("type": "button")", R"("type": "list", "source": "maps", "rowHeight": 0)",
+        "controls[0].rowHeight: must be above 0");
+    row("a row of no tabs", R"("type": "button")",
+        R"("type": "tabs", "source": "tileTab", "tabWidth": 9, "tabs": [])",
+        "controls[0].tabs: must be a list of texts in the three languages");
+}
+
+void tst_WindowDescription::tellsWhatIsWrong()
+{
+    QFETCH(QByteArray, piece);
+    QFETCH(QByteArray, replacement);
+    QFETCH(QString, error);
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path = files.write(QStringLiteral("Box.json"), box(piece, replacement));
+    WindowDescription::read(path, &errors);
+    QVERIFY2(errors.contains(path + QStringLiteral(": ") + error),
+             qPrintable(errors.join(QLatin1Char('\n'))));
+}
+
+void tst_WindowDescription::tellsTheLineOfASyntaxError()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path =
+        files.write(QStringLiteral("Box.json"), "{\n \"key\": \"Box\",\n \"kind\" \"window\"\n}");
+    WindowDescription::read(path, &errors);
+    QCOMPARE(errors, QStringList{path + QStringLiteral(": line 3: missing name separator")});
+    errors.clear();
+    WindowDescription::read(files.write(QStringLiteral("Box.json"), "[]"), &errors);
+    QCOMPARE(errors, QStringList{path + QStringLiteral(": must hold one object, { ... }")});
+}
+
+void tst_WindowDescription::tellsAMissingFile()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path = files.path(QStringLiteral("Box.json"));
+    WindowDescription::read(path, &errors);
+    QCOMPARE(errors, QStringList{path + QStringLiteral(": cannot be read (No such file or directory)")});
+}
+
+void tst_WindowDescription::tellsAllErrorsAtOnce()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path = files.write(QStringLiteral("Box.json"), R"({"key": "Box", "kind": "window"})");
+    WindowDescription::read(path, &errors);
+    QCOMPARE(errors, (QStringList{path + QStringLiteral(": title: needs a text for \"en_US\""),
+                                  path + QStringLiteral(": title: needs a text for \"ja_JP\""),
+                                  path + QStringLiteral(": title: needs a text for \"zh_CN\""),
+                                  path + QStringLiteral(": size: must be a list of 2 whole numbers"),
+                                  path + QStringLiteral(": place: must be a list of 2 whole numbers")}));
+}
+
+QTEST_APPLESS_MAIN(tst_WindowDescription)
+#include "tst_WindowDescription.moc"
