@@ -3,6 +3,7 @@
 #include "Tutorial/localisation/Translators.h"
 #include "Tutorial/overlay/OverlayStyle.h"
 #include "UndoRedo/UndoRedo.h"
+#include "platform/Platform.h"
 #include "tool/EndSignals.h"
 #include "tool/LogLine.h"
 
@@ -20,6 +21,10 @@ int main(int argc, char **argv)
 #endif
     // Qt::AA_X11InitThreads: out of use since Qt 5.15, where naming it is warned about.
     QCoreApplication::setAttribute(static_cast<Qt::ApplicationAttribute>(10));
+    Platform::takeScreenPixels();
+    if (const QString reason = Platform::takeWindowSystem(); !reason.isEmpty()) {
+        logDebug(R"(..\..\tutorial\main)", "main", 98) << reason;
+    }
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Tutorial"));
     QCoreApplication::setApplicationVersion(QStringLiteral("0.1.0"));

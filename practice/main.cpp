@@ -1,5 +1,6 @@
 #include "PracticeEditor.h"
 #include "lesson/LessonWords.h"
+#include "platform/Platform.h"
 #include "window/EditorWindowSet.h"
 
 #include <QApplication>
@@ -23,9 +24,14 @@ QString defaultLocale()
     return LessonWords::locales().contains(name) ? name : LessonWords::locales().constFirst();
 }
 
-int complain(const QString &text)
+void say(const QString &text)
 {
     std::fprintf(stderr, "PracticeEditor: %s\n", qPrintable(text));
+}
+
+int complain(const QString &text)
+{
+    say(text);
     return 2;
 }
 
@@ -140,6 +146,11 @@ int main(int argc, char **argv)
 {
     if (describe(argc, argv)) {
         return 0;
+    }
+    // A host tells places in the screen's own pixels, and lessons point into windows of these.
+    Platform::takeScreenPixels();
+    if (const QString reason = Platform::takeWindowSystem(); !reason.isEmpty()) {
+        say(reason);
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("PracticeEditor"));

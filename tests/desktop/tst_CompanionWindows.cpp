@@ -44,6 +44,11 @@ void tst_CompanionWindows::windowsAreOverlays()
         // No decorations.
         const QString hints = XWindows::property(window.id, QStringLiteral("_MOTIF_WM_HINTS"));
         QCOMPARE(hints.section(QStringLiteral(", "), 2, 2), QStringLiteral("0x0"));
+        const QString group = XWindows::run(QStringLiteral("xprop"),
+                                            {QStringLiteral("-id"), window.id, QStringLiteral("WM_HINTS")})
+                                  .section(QStringLiteral("group leader: "), 1)
+                                  .trimmed();
+        QCOMPARE(group, window.id);
     }
 }
 

@@ -1,11 +1,11 @@
 #include "Tutorial/overlay/EditorTooltip.h"
 
-#include "Tutorial/overlay/ClickThrough.h"
 #include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
+#include "Tutorial/overlay/MayLeaveScreen.h"
 #include "Tutorial/overlay/OverlayHost.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 #include "Tutorial/overlay/Placement.h"
-#include "Tutorial/overlay/StayHidden.h"
 #include "tool/LogLine.h"
 
 #include <QEvent>
@@ -43,16 +43,12 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
     m_textEdit->setFocusPolicy(Qt::NoFocus);
     m_textEdit->document()->setDocumentMargin(kMargin);
 
-    setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                   Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+    prepareOverlay(this, Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
     setGeometry(0, 0, 320, 240);
     m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
     hide();
-    new ClickThrough(this);
     new KeepPlace(this);
-    new StayHidden(this);
+    m_mayLeaveScreen = new MayLeaveScreen(this, {});
 }
 
 EditorTooltip::~EditorTooltip()
@@ -85,7 +81,7 @@ void EditorTooltip::present(const QString &text, int x, int y)
     }
     const qint64 left = static_cast<qint64>(x) - m_textEdit->width() / 2;
     const qint64 top = static_cast<qint64>(y) - m_textEdit->height() / 2;
-    move(clampToReach({clampToInt(left), clampToInt(top)}));
+    moveTo({clampToInt(left), clampToInt(top)});
     applyOpacity(0.0);
     m_delay = kDelayTicks;
     m_timeout = kTimeoutTicks;
@@ -102,14 +98,11 @@ void EditorTooltip::setText(const QString &text)
 QVariantMap EditorTooltip::getSettings() const
 {
     const QSize size = m_textEdit != nullptr ? m_textEdit->size() : QSize(0, 0);
-    return {{QStringLiteral("text"), m_text},
-            {QStringLiteral("width"), size.width()},
-            {QStringLiteral("height"), size.height()},
-            {QStringLiteral("x"), x()},
-            {QStringLiteral("y"), y()},
-            {QStringLiteral("windowOpacity"), windowOpacity()},
-            {QStringLiteral("delay"), m_delay},
-            {QStringLiteral("timeout"), m_timeout},
+    const QPoint place = KeepPlace::placeOf(this);
+    return {{QStringLiteral("text"), m_text},          {QStringLiteral("width"), size.width()},
+            {QStringLiteral("height"), size.height()}, {QStringLiteral("x"), place.x()},
+            {QStringLiteral("y"), place.y()},          {QStringLiteral("windowOpacity"), windowOpacity()},
+            {QStringLiteral("delay"), m_delay},        {QStringLiteral("timeout"), m_timeout},
             {QStringLiteral("fade"), m_fade}};
 }
 
@@ -125,13 +118,18 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
     } else {
         m_textEdit->hide();
     }
-    move(clampToReach(
-        {settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt()}));
+    moveTo({settings.value(QStringLiteral("x")).toInt(), settings.value(QStringLiteral("y")).toInt()});
     // Not the name under which getSettings stores it: a rebuilt tooltip starts invisible.
     applyOpacity(settings.value(QStringLiteral("opacity")).toDouble());
     m_delay = settings.value(QStringLiteral("delay")).toInt();
     m_timeout = settings.value(QStringLiteral("timeout")).toInt();
     m_fade = settings.value(QStringLiteral("fade")).toInt();
+}
+
+void EditorTooltip::moveTo(const QPoint &place)
+{
+    m_mayLeaveScreen->setPixel(m_textEdit->rect().center());
+    KeepPlace::moveTo(this, clampToReach(place));
 }
 
 void EditorTooltip::changeEvent(QEvent *event)

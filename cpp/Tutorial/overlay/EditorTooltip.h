@@ -4,6 +4,7 @@
 #include <QVariantMap>
 #include <QWidget>
 
+class MayLeaveScreen;
 class OverlayHost;
 class QTextEdit;
 
@@ -40,10 +41,12 @@ protected:
 private:
     void present(const QString &text, int x, int y);
     void setText(const QString &text);
+    void moveTo(const QPoint &place);
     void applyOpacity(double opacity);
 
     QTextEdit *m_textEdit;
     OverlayHost *m_manager;
+    MayLeaveScreen *m_mayLeaveScreen = nullptr;
     int m_timerId = 0;
     int m_delay = 0;
     int m_timeout = 0;

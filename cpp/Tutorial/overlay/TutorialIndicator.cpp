@@ -3,8 +3,8 @@
 #include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 #include "Tutorial/overlay/Placement.h"
-#include "Tutorial/overlay/StayHidden.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 #include "tool/LogLine.h"
 
@@ -42,13 +42,13 @@ void setShown(QWidget *widget, bool shown)
 void moveTo(QWidget *widget, const QPoint &position)
 {
     if (widget != nullptr) {
-        widget->move(clampToReach(position));
+        KeepPlace::moveTo(widget, clampToReach(position));
     }
 }
 
 void storePosition(QVariantMap &settings, const QString &name, const QWidget *widget)
 {
-    const QPoint position = widget != nullptr ? widget->pos() : QPoint();
+    const QPoint position = widget != nullptr ? KeepPlace::placeOf(widget) : QPoint();
     settings.insert(name + QLatin1Char('X'), position.x());
     settings.insert(name + QLatin1Char('Y'), position.y());
 }
@@ -363,15 +363,12 @@ QPushButton *TutorialIndicator::makeButton(const QString &name, const QString &c
     QPushButton *const button = owned.get();
     m_windows.push_back(std::move(owned));
     button->setObjectName(name);
-    button->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    prepareOverlay(button);
     button->setMinimumSize(kButtonWidth, kButtonHeight);
     button->setMaximumSize(kButtonWidth, kButtonHeight);
-    button->setAttribute(Qt::WA_TranslucentBackground);
-    button->setAttribute(Qt::WA_ShowWithoutActivating);
     button->setFont(font);
     button->hide();
     new KeepPlace(button);
-    new StayHidden(button);
     button->installEventFilter(this);
     return button;
 }

@@ -1,7 +1,7 @@
 #include "Tutorial/overlay/TutorialLog.h"
 
 #include "Tutorial/overlay/OverlayHost.h"
-#include "Tutorial/overlay/StayHidden.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -10,13 +10,11 @@ TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
     : QWidget(parent)
     , m_manager(manager)
 {
-    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    // A window manager that keeps windows on the screen moves the pixel into its corner.
-    setAttribute(Qt::WA_TranslucentBackground);
+    // Translucent like the others: a window manager that keeps windows on the screen moves the pixel into its
+    // corner.
+    prepareOverlay(this);
     setGeometry(-1, -1, 1, 1);
-    // From here on: the window is hidden again long before any window manager could activate it.
-    new StayHidden(this);
+    // It is hidden again long before any window manager could activate it.
     show();
     activateWindow();
     hide();

@@ -1,11 +1,11 @@
 #include "Tutorial/overlay/TutorialTooltip.h"
 
 #include "Tutorial/overlay/Bounce.h"
-#include "Tutorial/overlay/ClickThrough.h"
 #include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
-#include "Tutorial/overlay/StayHidden.h"
+#include "Tutorial/overlay/MayLeaveScreen.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "tool/LogLine.h"
 
@@ -20,6 +20,8 @@ constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialTool
 constexpr int kTextTop = 56;
 constexpr int kBounceRoom = 16;
 constexpr int kIconSide = 56;
+// In the window's pixels, and on the screen wherever the arrow points at something on it.
+constexpr QPoint kOnScreen(200, 100);
 
 } // namespace
 
@@ -49,15 +51,11 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
         m_textEdit->hide();
     }
 
-    setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                   Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+    prepareOverlay(this, Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
     setGeometry(0, 0, 640, 480);
     hide();
-    new ClickThrough(this);
     new KeepPlace(this);
-    new StayHidden(this);
+    new MayLeaveScreen(this, kOnScreen);
 }
 
 TutorialTooltip::~TutorialTooltip()

@@ -16,8 +16,12 @@ private Q_SLOTS:
     void cleanup();
 
     void answersAPushAfterShowing();
-    void answersOncePerShow();
+    void answersALatePushAndASecondOne();
+    void givesWayToOneThatInsists();
+    void eachShowAndEachMoveIsKeptAnew();
+    void showsWhereItWasAskedForWhateverQtHas();
     void answersToTheLatestPlace();
+    void knowsThePlaceThatWasAskedFor();
     void belongsToTheOverlays();
 
 private:
@@ -34,8 +38,8 @@ private:
 void TestKeepPlace::init()
 {
     m_overlay = std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint);
-    new KeepPlace(m_overlay.get());
     m_overlay->setGeometry(700, 500, 640, 480);
+    new KeepPlace(m_overlay.get());
     m_overlay->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_overlay.get()));
 }
@@ -52,25 +56,73 @@ void TestKeepPlace::answersAPushAfterShowing()
     QCOMPARE(m_overlay->windowHandle()->position(), QPoint(700, 500));
 }
 
-void TestKeepPlace::answersOncePerShow()
+void TestKeepPlace::answersALatePushAndASecondOne()
 {
+    push({0, 0});
+    QCOMPARE(m_overlay->pos(), QPoint(700, 500));
     push({160, 120});
-    push({160, 120});
-    QCOMPARE(m_overlay->pos(), QPoint(160, 120));
-    m_overlay->hide();
-    m_overlay->move(600, 400);
-    m_overlay->show();
-    push({160, 120});
-    QCOMPARE(m_overlay->pos(), QPoint(600, 400));
+    QCOMPARE(m_overlay->pos(), QPoint(700, 500));
+}
+
+void TestKeepPlace::givesWayToOneThatInsists()
+{
+    for (int round = 0; round < KeepPlace::kAnswers; ++round) {
+        push({160, 120});
+        QCOMPARE(m_overlay->pos(), QPoint(700, 500));
+    }
     push({160, 120});
     QCOMPARE(m_overlay->pos(), QPoint(160, 120));
 }
 
+void TestKeepPlace::eachShowAndEachMoveIsKeptAnew()
+{
+    for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
+        push({160, 120});
+    }
+    QCOMPARE(m_overlay->pos(), QPoint(160, 120));
+    KeepPlace::moveTo(m_overlay.get(), {600, 400});
+    push({160, 120});
+    QCOMPARE(m_overlay->pos(), QPoint(600, 400));
+    for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
+        push({160, 120});
+    }
+    m_overlay->hide();
+    m_overlay->show();
+    push({160, 120});
+    QCOMPARE(m_overlay->pos(), QPoint(600, 400));
+}
+
+void TestKeepPlace::showsWhereItWasAskedForWhateverQtHas()
+{
+    for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
+        push({0, 0});
+    }
+    m_overlay->hide();
+    QCOMPARE(m_overlay->pos(), QPoint(0, 0));
+    m_overlay->show();
+    QCOMPARE(m_overlay->pos(), QPoint(700, 500));
+    QCOMPARE(m_overlay->windowHandle()->position(), QPoint(700, 500));
+}
+
 void TestKeepPlace::answersToTheLatestPlace()
 {
-    m_overlay->move(650, 450);
+    KeepPlace::moveTo(m_overlay.get(), {650, 450});
     push({160, 120});
     QCOMPARE(m_overlay->pos(), QPoint(650, 450));
+}
+
+void TestKeepPlace::knowsThePlaceThatWasAskedFor()
+{
+    KeepPlace::moveTo(m_overlay.get(), {650, 450});
+    for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
+        push({0, 0});
+    }
+    QCOMPARE(m_overlay->pos(), QPoint(0, 0));
+    QCOMPARE(KeepPlace::placeOf(m_overlay.get()), QPoint(650, 450));
+    QWidget other;
+    KeepPlace::moveTo(&other, {30, 40});
+    QCOMPARE(other.pos(), QPoint(30, 40));
+    QCOMPARE(KeepPlace::placeOf(&other), QPoint(30, 40));
 }
 
 void TestKeepPlace::belongsToTheOverlays()

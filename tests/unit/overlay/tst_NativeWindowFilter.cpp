@@ -1,0 +1,112 @@
+#include "Tutorial/overlay/NativeWindowFilter.h"
+
+#include "FakeOverlayHost.h"
+#include "TestIndicator.h"
+#include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/MayLeaveScreen.h"
+#include "Tutorial/overlay/OwnWindowGroup.h"
+#include "Tutorial/overlay/StayHidden.h"
+#include "Tutorial/overlay/TutorialLog.h"
+
+#include <QWindow>
+#include <QtTest>
+
+namespace {
+
+constexpr auto kFlags = Qt::Tool | Qt::FramelessWindowHint;
+
+class CountingFilter final : public NativeWindowFilter
+{
+public:
+    using NativeWindowFilter::NativeWindowFilter;
+    QVector<WId> created;
+    bool wasTooLate = false;
+
+protected:
+    void onWindowCreated(QWindow *window) override
+    {
+        created += window->winId();
+        wasTooLate = wasTooLate || window->isVisible();
+    }
+};
+
+} // namespace
+
+class TestNativeWindowFilter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsOfAWindowBeforeItIsShown();
+    void tellsOfEachNativeWindow();
+    void followsARecreatedWidget();
+    void makesNoNativeWindow();
+    void itsKindsBelongToTheOverlays();
+};
+
+void TestNativeWindowFilter::tellsOfAWindowBeforeItIsShown()
+{
+    QWidget overlay(nullptr, kFlags);
+    auto *const filter = new CountingFilter(&overlay);
+    overlay.show();
+    QCOMPARE(filter->created, QVector<WId>{overlay.windowHandle()->winId()});
+    QVERIFY(!filter->wasTooLate);
+}
+
+void TestNativeWindowFilter::tellsOfEachNativeWindow()
+{
+    QWidget overlay(nullptr, kFlags);
+    auto *const filter = new CountingFilter(&overlay);
+    new StayHidden(&overlay);
+    for (int round = 1; round <= 3; ++round) {
+        filter->created.clear();
+        overlay.show();
+        QVERIFY(filter->created.contains(overlay.windowHandle()->winId()));
+        overlay.hide(); // which takes the native window away
+        QCOMPARE(overlay.windowHandle()->handle(), nullptr);
+    }
+}
+
+void TestNativeWindowFilter::followsARecreatedWidget()
+{
+    QWidget overlay(nullptr, kFlags);
+    auto *const filter = new CountingFilter(&overlay);
+    overlay.show();
+    QWidget parent;
+    overlay.setParent(&parent);
+    overlay.setParent(nullptr, kFlags);
+    filter->created.clear();
+    overlay.show();
+    QVERIFY(filter->created.contains(overlay.windowHandle()->winId()));
+    QVERIFY(!filter->wasTooLate);
+}
+
+void TestNativeWindowFilter::makesNoNativeWindow()
+{
+    QWidget overlay(nullptr, kFlags);
+    const auto *const filter = new CountingFilter(&overlay);
+    QVERIFY(filter->created.isEmpty());
+    QVERIFY(overlay.windowHandle() == nullptr || overlay.windowHandle()->handle() == nullptr);
+}
+
+void TestNativeWindowFilter::itsKindsBelongToTheOverlays()
+{
+    FakeOverlayHost host;
+    const TestIndicator indicator(&host);
+    const EditorTooltip tooltip(nullptr, &host);
+    const TutorialLog log(nullptr, &host);
+    const QList<const QWidget *> overlays{indicator.tooltip(),
+                                          TestIndicator::next(),
+                                          TestIndicator::yes(),
+                                          TestIndicator::no(),
+                                          &tooltip,
+                                          &log};
+    for (const QWidget *overlay : overlays) {
+        QCOMPARE(overlay->findChildren<OwnWindowGroup *>().size(), 1);
+    }
+    QCOMPARE(indicator.tooltip()->findChildren<MayLeaveScreen *>().size(), 1);
+    QCOMPARE(tooltip.findChildren<MayLeaveScreen *>().size(), 1);
+}
+
+QTEST_MAIN(TestNativeWindowFilter)
+#include "tst_NativeWindowFilter.moc"
