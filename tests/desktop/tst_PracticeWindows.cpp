@@ -1,8 +1,8 @@
 #include "PracticeEditor.h"
 #include "XWindows.h"
+#include "lesson/Scenario.h"
 #include "pilot/OverlayWatch.h"
 #include "pilot/Placement.h"
-#include "lesson/Scenario.h"
 #include "window/EditorWindowSet.h"
 
 #include <QAbstractButton>
