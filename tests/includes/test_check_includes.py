@@ -1,5 +1,7 @@
 """What scripts/check-includes finds in small projects made here, sound ones and broken ones."""
 
+import importlib.machinery
+import importlib.util
 import subprocess
 import sys
 import tempfile
@@ -9,13 +11,25 @@ from pathlib import Path
 SCRIPT = Path(__file__).resolve().parents[2] / "scripts" / "check-includes"
 
 
-class CheckIncludes(unittest.TestCase):
+def load_script():
+    sys.dont_write_bytecode = True
+    loader = importlib.machinery.SourceFileLoader("check_includes", str(SCRIPT))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader(loader.name, loader))
+    loader.exec_module(module)
+    return module
+
+
+def write_project(folder, files):
+    for name, text in files.items():
+        path = Path(folder, name)
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+
+class Project(unittest.TestCase):
     def check(self, files):
         with tempfile.TemporaryDirectory() as folder:
-            for name, text in files.items():
-                path = Path(folder, name)
-                path.parent.mkdir(parents=True, exist_ok=True)
-                path.write_text(text, encoding="utf-8")
+            write_project(folder, files)
             run = subprocess.run([sys.executable, SCRIPT, folder], capture_output=True, text=True, check=False)
         self.assertEqual(run.stderr, "")
         return run.returncode, run.stdout.splitlines()
@@ -28,6 +42,8 @@ class CheckIncludes(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertEqual(lines, list(complaints))
 
+
+class CheckIncludes(Project):
     def test_downward_includes_and_qt_are_sound(self):
         self.assertSound({
             "main.cpp": '#include "Tutorial/Manager.h"\n#include <QApplication>\n',
@@ -99,6 +115,77 @@ class CheckIncludes(unittest.TestCase):
         status, lines = self.check({})
         self.assertEqual(status, 1)
         self.assertEqual(len(lines), 1)
+
+
+# Two units that need each other, though no file comes round to itself.
+PAIR = {
+    "cpp/tool/A.h": "",
+    "cpp/tool/A.cpp": '#include "tool/A.h"\n#include "tool/B.h"\n',
+    "cpp/tool/B.h": "#include <QString>\n#include \"tool/A.h\"\n",
+}
+PAIR_COMPLAINT = ("cpp/tool/A.cpp:2: 2 units in a knot: cpp/tool/A, cpp/tool/B"
+                  " (by cpp/tool/A.cpp:2, cpp/tool/B.h:2)")
+
+
+class Knots(Project):
+    def complaints(self, files, known):
+        with tempfile.TemporaryDirectory() as folder:
+            write_project(folder, files)
+            return load_script().complaints_of(Path(folder).resolve(), known)
+
+    def test_a_header_and_its_source_are_one_unit(self):
+        self.assertBroken(PAIR, PAIR_COMPLAINT)
+
+    def test_two_sources_that_need_each_others_header_are_a_knot(self):
+        self.assertBroken(
+            {"cpp/tool/A.h": "", "cpp/tool/A.cpp": '#include "tool/B.h"\n',
+             "cpp/tool/B.h": "", "cpp/tool/B.cpp": '#include "tool/A.h"\n'},
+            "cpp/tool/A.cpp:1: 2 units in a knot: cpp/tool/A, cpp/tool/B (by cpp/tool/A.cpp:1, cpp/tool/B.cpp:1)")
+
+    def test_a_knot_of_many_is_told_once_without_what_it_rests_on(self):
+        self.assertBroken(
+            {"cpp/tool/A.h": '#include "tool/Base.h"\n', "cpp/tool/A.cpp": '#include "tool/B.h"\n',
+             "cpp/tool/B.h": '#include "tool/Base.h"\n', "cpp/tool/B.cpp": '#include "tool/C.h"\n',
+             "cpp/tool/C.h": '#include "tool/A.h"\n', "cpp/tool/Base.h": "",
+             "cpp/tool/User.cpp": '#include "tool/A.h"\n'},
+            "cpp/tool/A.cpp:1: 3 units in a knot: cpp/tool/A, cpp/tool/B, cpp/tool/C"
+            " (by cpp/tool/A.cpp:1, cpp/tool/B.cpp:1, cpp/tool/C.h:1)")
+
+    def test_two_knots_are_told_apart(self):
+        other = {name.replace("tool/", "TutorialFont/"): text.replace("tool/", "TutorialFont/")
+                 for name, text in PAIR.items()}
+        self.assertBroken({**PAIR, **other}, PAIR_COMPLAINT.replace("tool/", "TutorialFont/"), PAIR_COMPLAINT)
+
+    def test_a_source_without_a_header_may_include_what_another_one_needs(self):
+        self.assertSound({
+            "cpp/tool/A.h": '#include "tool/B.h"\n', "cpp/tool/A.cpp": '#include "tool/A.h"\n',
+            "cpp/tool/AMore.cpp": '#include "tool/A.h"\n', "cpp/tool/B.h": "",
+            "cpp/tool/B.cpp": '#include "tool/B.h"\n',
+        })
+
+    def test_a_knot_that_is_known_is_sound(self):
+        self.assertEqual(self.complaints(PAIR, [["cpp/tool/B", "cpp/tool/A"]]), [])
+
+    def test_a_known_knot_that_is_gone_is_named(self):
+        self.assertEqual(
+            self.complaints({"cpp/tool/A.h": ""}, [["cpp/tool/A", "cpp/tool/B"]]),
+            ["scripts/check-includes: a knot that is known is gone, take it out: cpp/tool/A, cpp/tool/B"])
+
+    def test_a_known_knot_that_became_smaller_is_named(self):
+        self.assertEqual(
+            self.complaints(PAIR, [["cpp/tool/A", "cpp/tool/B", "cpp/tool/C"]]),
+            [PAIR_COMPLAINT,
+             "scripts/check-includes: a knot that is known is gone, take it out: cpp/tool/A, cpp/tool/B, cpp/tool/C"])
+
+    def test_a_known_knot_that_grew_is_named(self):
+        grown = {**PAIR, "cpp/tool/C.h": '#include "tool/A.h"\n', "cpp/tool/B.cpp": '#include "tool/C.h"\n'}
+        self.assertEqual(len(self.complaints(grown, [["cpp/tool/A", "cpp/tool/B"]])), 2)
+
+    def test_another_project_has_no_known_knots(self):
+        module = load_script()
+        self.assertTrue(all(len(knot) > 1 for knot in module.KNOWN_KNOTS))
+        unit = module.KNOWN_KNOTS[0][0]
+        self.assertSound({unit + ".h": ""})
 
 
 if __name__ == "__main__":
