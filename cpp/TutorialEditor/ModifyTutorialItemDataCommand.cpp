@@ -1,5 +1,6 @@
 #include "TutorialEditor/ModifyTutorialItemDataCommand.h"
 
+#include "TutorialEditor/ItemFields.h"
 #include "TutorialEditor/ItemTreeOperations.h"
 #include "TutorialEditor/Manager.h"
 #include "TutorialEditor/TutorialItemData.h"
@@ -9,45 +10,11 @@
 #include <QStringList>
 
 #include <memory>
-#include <type_traits>
 #include <utility>
-#include <variant>
 
 namespace {
 
 constexpr const char *kSource = R"(..\..\tutorial\cpp\TutorialEditor\ModifyTutorialItemDataCommand.cpp)";
-
-struct Target
-{
-    const char *name;
-    std::variant<int TutorialItemData::*, QString TutorialItemData::*, bool TutorialItemData::*> field;
-};
-
-const Target kTargets[] = {
-    {"translationId", &TutorialItemData::translationId},
-    {"x", &TutorialItemData::x},
-    {"y", &TutorialItemData::y},
-    {"windowKey", &TutorialItemData::windowKey},
-    {"condition", &TutorialItemData::condition},
-    {"hint", &TutorialItemData::hint},
-    {"hint2", &TutorialItemData::hint2},
-    {"icon", &TutorialItemData::icon},
-    {"jump", &TutorialItemData::jump},
-    {"jumpNo", &TutorialItemData::jumpNo},
-    {"command", &TutorialItemData::command},
-    {"showArrow", &TutorialItemData::showArrow},
-    {"prohibited", &TutorialItemData::prohibited},
-};
-
-const Target *findTarget(const QString &name)
-{
-    for (const Target &target : kTargets) {
-        if (name == QLatin1String(target.name)) {
-            return &target;
-        }
-    }
-    return nullptr;
-}
 
 QString commandText(int id, const PropertyHash &properties, const QVariant &value)
 {
@@ -114,21 +81,16 @@ bool ModifyTutorialItemDataCommand::apply(const QVariant &value, bool saveOld,
                                           const UndoMergeableCommand *source)
 {
     TutorialEditor::Manager *document = TutorialEditor::Manager::instance();
-    const Target *target = findTarget(m_properties.value(QStringLiteral("target"), QString()));
+    const ItemField *field = findItemField(m_properties.value(QStringLiteral("target"), QString()));
     TutorialItemData *data =
         document == nullptr ? nullptr : findData(&document->tree()->items, m_tutorialItemId);
-    if (target == nullptr || data == nullptr) {
+    if (field == nullptr || data == nullptr) {
         return false;
     }
-    std::visit(
-        [&](auto field) {
-            using Value = std::decay_t<decltype(data->*field)>;
-            if (saveOld) {
-                m_oldValue = QVariant::fromValue(data->*field);
-            }
-            data->*field = value.value<Value>();
-        },
-        target->field);
+    if (saveOld) {
+        m_oldValue = field->value(*data);
+    }
+    field->setValue(data, value);
     if (source == nullptr) {
         return false;
     }

@@ -6,9 +6,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Changes one field of one item of the document. The property "target" names the field: translationId, x, y,
-/// windowKey, condition, hint, hint2, icon, jump, jumpNo, command, showArrow or prohibited. Any other target,
-/// the name among them, and an item that is gone change nothing.
+/// Changes one field of one item of the document. The property "target" is the key of the field in
+/// itemFields. Any other target, the name among them, and an item that is gone change nothing.
 ///
 /// Commands with equal properties are folded into one whatever their items are: the item is not a property.
 class ModifyTutorialItemDataCommand : public UndoMergeableCommand

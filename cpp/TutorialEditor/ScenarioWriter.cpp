@@ -66,15 +66,13 @@ QString ScenarioWriter::fields(int level, const TreeItem<TutorialItemData> &node
         write(level + 1, node, &children);
         texts << field("children", children);
     } else {
-        texts << field("translationId", QVariant(data.translationId)) << field("x", QVariant(data.x))
-              << field("y", QVariant(data.y)) << field("windowKey", QVariant(data.windowKey))
-              << field("condition", QVariant(data.condition));
-        texts << (m_translated ? field("hint", QStringLiteral("qsTr(\"#%1\")").arg(data.translationId))
-                               : field("hint", QVariant(data.hint)));
-        texts << field("icon", QVariant(data.icon)) << field("jump", QVariant(data.jump))
-              << field("jumpNo", QVariant(data.jumpNo)) << field("command", QVariant(data.command))
-              << field("showArrow", QVariant(data.showArrow))
-              << field("prohibited", QVariant(data.prohibited));
+        for (const ItemField &row : itemFields()) {
+            if (row.is(&ItemValues::hint) && m_translated) {
+                texts << field(row.key, QStringLiteral("qsTr(\"#%1\")").arg(data.translationId));
+            } else if (!row.is(&ItemValues::hint2)) {
+                texts << field(row.key, row.value(data));
+            }
+        }
     }
     return texts.join(m_compact ? QStringLiteral(",") : QStringLiteral(",\n"));
 }

@@ -16,50 +16,26 @@ namespace {
 
 constexpr const char *kSource = R"(..\..\tutorial\cpp\TutorialEditor\TutorialItemData.cpp)";
 
-void read(const JsonWrapper &json, const QString &key, int &field)
+/// What hint2 holds: the text with this number in the language of the lesson, or "#N".
+QString translatedHint(const ScenarioTexts &texts, int translationId)
 {
-    if (json.contains(key)) {
-        field = json[key].toInt();
-    }
-}
-
-void read(const JsonWrapper &json, const QString &key, bool &field)
-{
-    if (json.contains(key)) {
-        field = json[key].toBool();
-    }
-}
-
-void read(const JsonWrapper &json, const QString &key, QString &field)
-{
-    if (json.contains(key)) {
-        field = json[key].toString();
-    }
-}
-
-/// The fields that only a step has.
-void readStep(const JsonWrapper &json, const ScenarioTexts &texts, TutorialItemData &data)
-{
-    read(json, QStringLiteral("translationId"), data.translationId);
-    read(json, QStringLiteral("x"), data.x);
-    read(json, QStringLiteral("y"), data.y);
-    const QString windowKey = QStringLiteral("windowKey");
-    read(json, json.contains(windowKey) ? windowKey : QStringLiteral("followWindow"), data.windowKey);
-    read(json, QStringLiteral("condition"), data.condition);
-    read(json, QStringLiteral("hint"), data.hint);
-
-    const QString identifier = QLatin1Char('#') + QString::number(data.translationId);
+    const QString identifier = QLatin1Char('#') + QString::number(translationId);
     const QString translated = texts.applyTranslation(identifier);
-    data.hint2 = translated.isEmpty() ? identifier : translated;
-
-    read(json, QStringLiteral("icon"), data.icon);
-    read(json, QStringLiteral("jump"), data.jump);
-    read(json, QStringLiteral("jumpNo"), data.jumpNo);
-    read(json, QStringLiteral("command"), data.command);
-    read(json, QStringLiteral("showArrow"), data.showArrow);
+    return translated.isEmpty() ? identifier : translated;
 }
 
-QString field(const char *key, const QVariant &value)
+void readField(const JsonWrapper &json, const ItemField &field, ItemValues *values)
+{
+    QString key = QLatin1String(field.key);
+    if (field.formerKey != nullptr && !json.contains(key)) {
+        key = QLatin1String(field.formerKey);
+    }
+    if (json.contains(key)) {
+        field.read(json[key], values);
+    }
+}
+
+QString jsonField(const char *key, const QVariant &value)
 {
     return QLatin1Char('"') + QLatin1String(key) + QLatin1String("\":") + JsonWrapper::getJsonString(value);
 }
@@ -75,13 +51,22 @@ TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const Scen
             JsonWrapper::errorHandler(QStringLiteral("m_object doesn't have key: %1").arg(idKey));
         }
         data->id = json[idKey].toInt();
-        read(json, QStringLiteral("name"), data->name);
-        bool folder = false;
-        read(json, QStringLiteral("folder"), folder);
-        if (!folder) {
-            readStep(json, texts, *data);
+        const QString nameKey = QStringLiteral("name");
+        if (json.contains(nameKey)) {
+            data->name = json[nameKey].toString();
         }
-        read(json, QStringLiteral("prohibited"), data->prohibited);
+        const QString folderKey = QStringLiteral("folder");
+        const bool folder = json.contains(folderKey) && json[folderKey].toBool();
+        for (const ItemField &field : itemFields()) {
+            if (folder && !field.inFolders) {
+                continue;
+            }
+            if (field.is(&ItemValues::hint2)) {
+                data->hint2 = translatedHint(texts, data->translationId);
+            } else {
+                readField(json, field, data.get());
+            }
+        }
     } catch (const QString &reason) {
         logWarning(kSource, "TutorialItemData::fromJson", 329) << reason;
         return nullptr;
@@ -91,23 +76,10 @@ TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const Scen
 
 QString TutorialItemData::toJson(const QString &extra) const
 {
-    QStringList fields{
-        QStringLiteral("\"id\":") + QString::number(id),
-        field("name", name),
-        field("translationId", translationId),
-        field("x", x),
-        field("y", y),
-        field("windowKey", windowKey),
-        field("condition", condition),
-        field("hint", hint),
-        field("hint2", hint2),
-        field("icon", icon),
-        field("jump", jump),
-        field("jumpNo", jumpNo),
-        field("command", command),
-        field("showArrow", showArrow),
-        field("prohibited", prohibited),
-    };
+    QStringList fields{QStringLiteral("\"id\":") + QString::number(id), jsonField("name", name)};
+    for (const ItemField &field : itemFields()) {
+        fields << jsonField(field.key, field.value(*this));
+    }
     if (!extra.isEmpty()) {
         fields << extra;
     }

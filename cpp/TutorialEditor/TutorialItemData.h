@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TutorialEditor/ItemFields.h"
 #include "TutorialEditor/NameData.h"
 
 #include <QObject>
@@ -8,9 +9,8 @@
 class JsonWrapper;
 class ScenarioTexts;
 
-/// What one item of a scenario holds, be it a step or a folder. x and y are pixels relative to the window of
-/// windowKey; -9999 in both points at nothing.
-class TutorialItemData : public QObject, public NameData
+/// What one item of a scenario holds, be it a step or a folder.
+class TutorialItemData : public QObject, public NameData, public ItemValues
 {
     Q_OBJECT
 
@@ -30,18 +30,4 @@ public:
     void setTranslationId(int value);
     /// What an author's tool shows with an undo of a change to this item.
     [[nodiscard]] QString changeNote() const;
-
-    int translationId = -1;
-    int x = -9999;
-    int y = -9999;
-    QString windowKey;
-    QString condition;
-    QString icon = QStringLiteral("click");
-    QString hint;
-    QString hint2;
-    int jump = -1;
-    int jumpNo = -1;
-    QString command;
-    bool showArrow = true;
-    bool prohibited = false;
 };
