@@ -16,7 +16,7 @@ constexpr int kLayers = 3;
 /// The drawings of the tiles in the order of their numbers, the first one being tile 1.
 QStringList drawings()
 {
-    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/windows/data/project.json"));
+    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions/data/project.json"));
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
