@@ -12,6 +12,8 @@ private Q_SLOTS:
     void restsThreePixelsShort();
     void mirrorsAndReturns();
     void turnsUpsideDownAndBack();
+    void reachesBeyondTheScreen_data();
+    void reachesBeyondTheScreen();
     void noTargetKeepsTheBubbleInPlace();
     void clicksReachTheWindowBelow();
     void eachClickOnAButtonIsOneCommand();
@@ -90,6 +92,49 @@ void tst_CompanionWindows::turnsUpsideDownAndBack()
     verifyBubbleAt({597, 64 + 165 - 3});
     update(597, 65, QString(), kNext | kYesNo | kArrow);
     verifyBubbleAt({597, 65});
+}
+
+void tst_CompanionWindows::reachesBeyondTheScreen_data()
+{
+    QTest::addColumn<QPoint>("target");
+    QTest::addColumn<QPoint>("bubble");
+    QTest::addColumn<QPoint>("spot");
+    QTest::newRow("left") << QPoint(-100, 300) << QPoint(-97, 297) << QPoint(2, 300);
+    QTest::newRow("below") << QPoint(400, 800) << QPoint(397, 797) << QPoint(700, 958);
+    QTest::newRow("right") << QPoint(1270, 300) << QPoint(962, 297) << QPoint(1278, 300);
+    QTest::newRow("below and right") << QPoint(1270, 800) << QPoint(962, 797) << QPoint(1278, 958);
+}
+
+// The buttons are not asked for here: some window managers keep these on the screen whole.
+void tst_CompanionWindows::reachesBeyondTheScreen()
+{
+    QFETCH(QPoint, target);
+    QFETCH(QPoint, bubble);
+    QFETCH(QPoint, spot);
+    play();
+    update(target.x(), target.y(), QString(), kArrow);
+    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(bubble), qPrintable(placesOf(overlays()).join(QStringLiteral("; "))),
+                              kSoonMs);
+    m_host->send({QStringLiteral("showTooltip"), QStringLiteral("Centred on the spot"),
+                  QString::number(spot.x()), QString::number(spot.y())});
+    // The text is in the top left part of the window, and the spot in the middle of the text.
+    const auto tooltipIsAtTheSpot = [this, spot] {
+        const QVector<XWindows::Window> tooltips = overlays(kTooltip);
+        const QPoint middle = spot - tooltips.value(0).rect.topLeft();
+        return tooltips.size() == 1 && QRect(40, 10, 100, 30).contains(middle);
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(tooltipIsAtTheSpot(),
+                              qPrintable(placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
+    const QStringList places = placesOf(overlays());
+    // Also when it comes back.
+    m_host->send({QStringLiteral("state"), QStringLiteral("hide")});
+    QTRY_COMPARE_WITH_TIMEOUT(overlays().size(), 0, kSoonMs);
+    m_host->send({QStringLiteral("state"), QStringLiteral("show")});
+    QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays()), places, kSoonMs);
+    // Whoever wanted them elsewhere has had a second for it.
+    QVERIFY(waitForBeats(2));
+    QCOMPARE(placesOf(overlays()), places);
+    QCOMPARE(XWindows::activeWindow(), m_below->winId());
 }
 
 void tst_CompanionWindows::noTargetKeepsTheBubbleInPlace()

@@ -59,6 +59,15 @@ void tst_WaylandSession::bubbleStandsWhereItShould()
     m_host->send({QStringLiteral("indicator"), QStringLiteral("updateXy"), QStringLiteral("300"),
                   QStringLiteral("200")});
     QTRY_COMPARE_WITH_TIMEOUT(windows().value(0).rect.topLeft(), QPoint(300, 200), kSoonMs);
+    // Also where most of it is beyond the screen, and when it comes back.
+    m_host->send({QStringLiteral("indicator"), QStringLiteral("updateXy"), QStringLiteral("400"),
+                  QStringLiteral("800")});
+    QTRY_COMPARE_WITH_TIMEOUT(windows().value(0).rect.topLeft(), QPoint(397, 797), kSoonMs);
+    m_host->send({QStringLiteral("state"), QStringLiteral("hide")});
+    QTRY_COMPARE_WITH_TIMEOUT(windows().size(), 0, kSoonMs);
+    m_host->send({QStringLiteral("state"), QStringLiteral("show")});
+    QTRY_COMPARE_WITH_TIMEOUT(windows().size(), 1, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(windows().value(0).rect.topLeft(), QPoint(397, 797), kSoonMs);
 }
 
 void tst_WaylandSession::logSaysSoInOneLine()
