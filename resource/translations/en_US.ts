@@ -203,7 +203,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>The lamp of Amberfield has burned for a hundred years.</translation>
+      <translation>The lamp of Amberfield has burned for a century.</translation>
     </message>
     <message>
       <source>#7</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>You want to find the lamp? Then I will come with you.</translation>
+      <translation>Looking for the lamp? Then I'm coming with you.</translation>
     </message>
     <message>
       <source>#59</source>
@@ -459,7 +459,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>See you another time.</translation>
+      <translation>Come back any time.</translation>
     </message>
     <message>
       <source>#71</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>All quiet on the forest road.</translation>
+      <translation>All quiet on the forest path.</translation>
     </message>
     <message>
       <source>#98</source>
@@ -875,7 +875,7 @@
     </message>
     <message>
       <source>#174</source>
-      <translation>You have it! Carry the lamp up the hill in the west.</translation>
+      <translation>You found it! Take it up the hill in the west.</translation>
     </message>
     <message>
       <source>#175</source>

@@ -203,11 +203,11 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>アンバー村のランプは、百年のあいだともり続けてきた。</translation>
+      <translation>アンバー村のランプは、百年間ともり続けてきました。</translation>
     </message>
     <message>
       <source>#7</source>
-      <translation>それが昨夜、消えてしまった。</translation>
+      <translation>それが昨夜、消えてしまったのです。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>けいこ用の剣。ないよりはいい。</translation>
+      <translation>けいこ用の剣。ないよりはまし。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -315,7 +315,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>ランプが消えちゃった。昨夜はまっくらだったよ！</translation>
+      <translation>ランプが消えちゃった。ゆうべはまっくらだったよ！</translation>
     </message>
     <message>
       <source>#35</source>
@@ -339,7 +339,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>ミラは薬草を見つけた！</translation>
+      <translation>ミラは薬草を見つけました！</translation>
     </message>
     <message>
       <source>#41</source>
@@ -351,7 +351,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>宝箱は空っぽだ。</translation>
+      <translation>宝箱は空っぽです。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -375,11 +375,11 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>まだ無理</translation>
+      <translation>まだ行けない</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>ありがとう、ミラ。まず村のみんなに聞いておくれ。</translation>
+      <translation>ありがとう、ミラ。まず村で聞いて回っておくれ。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -471,7 +471,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>狩りのナイフ</translation>
+      <translation>狩猟ナイフ</translation>
     </message>
     <message>
       <source>#74</source>
@@ -507,11 +507,11 @@
     </message>
     <message>
       <source>#82</source>
-      <translation>さびたレバーがある。</translation>
+      <translation>さびたレバーがあります。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>引いてみる？</translation>
+      <translation>引いてみますか？</translation>
     </message>
     <message>
       <source>#84</source>
@@ -523,11 +523,11 @@
     </message>
     <message>
       <source>#86</source>
-      <translation>どこかで門の開く音がした。</translation>
+      <translation>どこかで門の開く音がしました。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>レバーはもう動かない。</translation>
+      <translation>レバーはもう動きません。</translation>
     </message>
     <message>
       <source>#88</source>
@@ -535,7 +535,7 @@
     </message>
     <message>
       <source>#89</source>
-      <translation>門は閉まっている。</translation>
+      <translation>門は閉まっています。</translation>
     </message>
     <message>
       <source>#90</source>
@@ -555,7 +555,7 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>水の音と鳥の声が聞こえる。</translation>
+      <translation>水の音と鳥の声が聞こえます。</translation>
     </message>
     <message>
       <source>#95</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>森への道、異常なし。</translation>
+      <translation>森の小道、異常なし。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -771,11 +771,11 @@
     </message>
     <message>
       <source>#148</source>
-      <translation>暁のランプがふたたび輝いた！</translation>
+      <translation>暁のランプが再び輝きました！</translation>
     </message>
     <message>
       <source>#149</source>
-      <translation>岩だけが残っている。</translation>
+      <translation>岩だけが残っています。</translation>
     </message>
     <message>
       <source>#150</source>
@@ -827,11 +827,11 @@
     </message>
     <message>
       <source>#162</source>
-      <translation>こうして、アンバー村のランプにまた明かりがともった。</translation>
+      <translation>こうして、アンバー村のランプは再びともりました。</translation>
     </message>
     <message>
       <source>#163</source>
-      <translation>おわり。遊んでくれてありがとう！</translation>
+      <translation>おわり。遊んでくださり、ありがとうございました！</translation>
     </message>
     <message>
       <source>#164</source>
@@ -855,7 +855,7 @@
     </message>
     <message>
       <source>#169</source>
-      <translation>光を村に取りもどしてくれたな。</translation>
+      <translation>村に光を取りもどしてくれて、ありがとう。</translation>
     </message>
     <message>
       <source>#170</source>
@@ -871,7 +871,7 @@
     </message>
     <message>
       <source>#173</source>
-      <translation>ミラは気付け薬を見つけた！</translation>
+      <translation>ミラは気付け薬を見つけました！</translation>
     </message>
     <message>
       <source>#174</source>

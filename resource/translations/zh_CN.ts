@@ -315,7 +315,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>灯灭了。昨晚可黑了！</translation>
+      <translation>灯灭了，昨晚到处黑漆漆的！</translation>
     </message>
     <message>
       <source>#35</source>
@@ -459,7 +459,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>下次再来。</translation>
+      <translation>欢迎下次再来。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -495,7 +495,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>旧矿洞。已关闭，禁止入内！</translation>
+      <translation>旧矿洞已封闭，禁止入内！</translation>
     </message>
     <message>
       <source>#80</source>
@@ -555,7 +555,7 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>听得到水声和鸟鸣。</translation>
+      <translation>能听到水声和鸟鸣。</translation>
     </message>
     <message>
       <source>#95</source>
@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>通往森林的路，一切正常。</translation>
+      <translation>林间小路，一切正常。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -635,7 +635,7 @@
     </message>
     <message>
       <source>#114</source>
-      <translation>因中毒而痛苦。</translation>
+      <translation>正受到毒的折磨。</translation>
     </message>
     <message>
       <source>#115</source>
@@ -875,11 +875,11 @@
     </message>
     <message>
       <source>#174</source>
-      <translation>找到了啊！把灯带到西边的山岗上去吧。</translation>
+      <translation>灯找到了！把它带到西边的山岗上去吧。</translation>
     </message>
     <message>
       <source>#175</source>
-      <translation>不过昨晚，旧矿洞那边有光。</translation>
+      <translation>不过昨晚我看到旧矿洞那边有光。</translation>
     </message>
   </context>
   <context>

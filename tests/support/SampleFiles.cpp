@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QStringList>
+#include <QXmlStreamReader>
 
 namespace {
 
@@ -80,6 +81,32 @@ Files changed(Files files, const QString &file, const QString &path, const QJson
     const QJsonValue now = changedValue(root(files.value(file)), path.split(QLatin1Char('/')), value);
     files.insert(file, now.isArray() ? QJsonDocument(now.toArray()) : QJsonDocument(now.toObject()));
     return files;
+}
+
+QMap<QString, QString> catalogue(const QString &locale)
+{
+    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/translations/%1.ts").arg(locale));
+    QMap<QString, QString> texts;
+    if (!file.open(QIODevice::ReadOnly)) {
+        return texts;
+    }
+    QXmlStreamReader xml(&file);
+    QString context;
+    QString source;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement()) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("source")) {
+            source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation") && context == QLatin1String("Tutorial")) {
+            texts.insert(source, xml.readElementText());
+        }
+    }
+    return texts;
 }
 
 } // namespace sample

@@ -31,4 +31,7 @@ QJsonValue root(const QJsonDocument &document);
 /// not exist yet is made.
 Files changed(Files files, const QString &file, const QString &path, const QJsonValue &value);
 
+/// The sample project's texts in the catalogue of this locale, by their numbers.
+QMap<QString, QString> catalogue(const QString &locale);
+
 } // namespace sample

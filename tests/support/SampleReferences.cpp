@@ -155,6 +155,14 @@ private:
             for (const QJsonValue &member : members) {
                 need(place, "Enemies", number(member, "enemyId"));
             }
+            const QJsonArray pages = objectsIn(troop, "pages");
+            for (const QJsonValue &page : pages) {
+                const QJsonObject conditions = page.toObject().value(QLatin1String("conditions")).toObject();
+                if (conditions.contains(QLatin1String("enemyHp"))) {
+                    const int index = conditions.value(QLatin1String("enemyIndex")).toInt(-1);
+                    needEnemy({place, {}, 0, members.size()}, index);
+                }
+            }
         });
     }
 

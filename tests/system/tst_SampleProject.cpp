@@ -9,7 +9,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -31,6 +30,7 @@ private Q_SLOTS:
 
 namespace {
 
+using sample::catalogue;
 using sample::Files;
 using sample::kFirstStep;
 using sample::kLastStep;
@@ -119,33 +119,6 @@ QStringList readableTexts(const QJsonValue &value)
         break;
     default:
         break;
-    }
-    return texts;
-}
-
-/// The sample project's texts in the catalogue, by their numbers.
-QMap<QString, QString> catalogue(const QString &locale)
-{
-    QFile file(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/translations/%1.ts").arg(locale));
-    QMap<QString, QString> texts;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return texts;
-    }
-    QXmlStreamReader xml(&file);
-    QString context;
-    QString source;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement()) {
-            continue;
-        }
-        if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("source")) {
-            source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation") && context == QLatin1String("Tutorial")) {
-            texts.insert(source, xml.readElementText());
-        }
     }
     return texts;
 }

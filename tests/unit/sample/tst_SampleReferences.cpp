@@ -115,6 +115,10 @@ void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
     row("dropped item", "Enemies.json", "1/dropItems/0/itemId", 99, "no entry 99 in Items");
     row("action", "Enemies.json", "6/actions/1/skillId", 99, "no entry 99 in Skills");
     row("enemy", "Troops.json", "1/members/0/enemyId", 99, "no entry 99 in Enemies");
+    row("enemy that a battle waits for", "Troops.json", "6/pages/0/conditions/enemyIndex", 3,
+        "Troops.json entry 6: no enemy 3 in the troop");
+    row("no enemy to wait for", "Troops.json", "6/pages/0/conditions/enemyIndex", QJsonValue(),
+        "Troops.json entry 6: no enemy -1 in the troop");
     row("troop of a map", "Map002.json", "encounterList/0/troopId", 99, "no entry 99 in Troops");
     row("tile set", "Map001.json", "tilesetId", 7, "Map001.json: no entry 7 in Tilesets");
     row("parent", "MapInfos.json", "3/parentId", 99, "no entry 99 in MapInfos");

@@ -1,0 +1,195 @@
+#include "SampleEvents.h"
+#include "SampleWording.h"
+
+#include <QTest>
+
+/// What the sample project says goes through its numbered texts, and fits where it is said.
+class tst_SampleWording : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void says_nothing_past_its_translators();
+    void finds_what_no_translator_gets_to_data();
+    void finds_what_no_translator_gets_to();
+    void writes_each_command_in_one_form();
+    void finds_a_misshapen_command_data();
+    void finds_a_misshapen_command();
+    void has_a_branch_for_each_choice();
+    void finds_a_branch_that_is_not_its_choice_s_data();
+    void finds_a_branch_that_is_not_its_choice_s();
+    void fits_into_the_message_window_data();
+    void fits_into_the_message_window();
+    void finds_a_message_that_is_too_long();
+
+private:
+    sample::Files m_last;
+};
+
+using sample::changed;
+using sample::kFirstStep;
+using sample::kLastStep;
+using sample::readStep;
+using sample::stepName;
+
+namespace {
+
+/// @p check finds nothing in any step; otherwise what it found first.
+QString firstFinding(QStringList (*check)(const sample::Files &))
+{
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        const QStringList findings = check(readStep(step));
+        if (!findings.isEmpty()) {
+            return stepName(step) + QLatin1Char(' ') + findings.first();
+        }
+    }
+    return QString();
+}
+
+const QString kVillage = QStringLiteral("Map001.json");
+const QString kElder = QStringLiteral("events/7/pages/0/list/");
+
+} // namespace
+
+void tst_SampleWording::init()
+{
+    m_last = readStep(kLastStep);
+    QVERIFY(!m_last.isEmpty());
+}
+
+void tst_SampleWording::says_nothing_past_its_translators()
+{
+    QCOMPARE(firstFinding(sample::strayTexts), QString());
+}
+
+void tst_SampleWording::finds_what_no_translator_gets_to_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value) {
+        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value;
+    };
+    const QJsonValue text = QStringLiteral("Amberfield");
+    const QJsonValue textNumber = QStringLiteral("#12");
+    row("text as it is", "Items.json", "1/name", text);
+    row("name over a map", "Map001.json", "displayName", textNumber);
+    row("note of an item", "Items.json", "1/note", textNumber);
+    row("description of an enemy", "Enemies.json", "1/description", textNumber);
+    row("name of a common event", "CommonEvents.json", "1/name", textNumber);
+    row("title of the game", "System.json", "gameTitle", text);
+    row("variable", "System.json", "variables/1", textNumber);
+    row("unit of the money", "System.json", "currencyUnit", text);
+    row("words of the host editor", "System.json", "terms/basic", QJsonArray{textNumber});
+    row("line in a battle", "Troops.json", "6/pages/0/list/0",
+        QJsonObject{{QStringLiteral("code"), 401},
+                    {QStringLiteral("indent"), 0},
+                    {QStringLiteral("parameters"), QJsonArray{textNumber}}});
+    row("line as it is", "Map001.json", "events/1/pages/0/list/1/parameters/0", text);
+    row("choice as it is", "Map001.json", "events/7/pages/0/list/3/parameters/0/1", text);
+    row("text in another parameter", "Map001.json", "events/1/pages/0/list/0/parameters/0", textNumber);
+}
+
+void tst_SampleWording::finds_what_no_translator_gets_to()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    const QStringList findings = sample::strayTexts(changed(m_last, file, path, value));
+    QCOMPARE(findings.size(), 1);
+    QVERIFY2(findings.first().startsWith(file + QLatin1Char('/') + path), qPrintable(findings.first()));
+}
+
+void tst_SampleWording::writes_each_command_in_one_form()
+{
+    QCOMPARE(firstFinding(sample::misshapenCommands), QString());
+}
+
+void tst_SampleWording::finds_a_misshapen_command_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QString>("finding");
+    const QString sign = QStringLiteral("events/1/pages/0/list");
+    QTest::newRow("too few") << sign + QStringLiteral("/0/parameters")
+                             << QJsonValue(QJsonArray{QString(), 0, 0})
+                             << "Map001.json event 1: command 101 with snn";
+    QTest::newRow("of another type") << sign + QStringLiteral("/1/parameters/0") << QJsonValue(12)
+                                     << "Map001.json event 1: command 401 with n";
+    QTest::newRow("of no form") << sign + QStringLiteral("/1/code") << QJsonValue(402)
+                                << "Map001.json event 1: command 402 with s";
+    QTest::newRow("without an end") << sign << QJsonValue(QJsonArray()) << "Map001.json event 1: no end";
+}
+
+void tst_SampleWording::finds_a_misshapen_command()
+{
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    QFETCH(QString, finding);
+    QCOMPARE(sample::misshapenCommands(changed(m_last, kVillage, path, value)), QStringList{finding});
+}
+
+void tst_SampleWording::has_a_branch_for_each_choice()
+{
+    QCOMPARE(firstFinding(sample::mismatchedBranches), QString());
+}
+
+void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::newRow("another text") << QStringLiteral("4/parameters/1") << QJsonValue(QStringLiteral("#67"));
+    QTest::newRow("another number") << QStringLiteral("9/parameters/0") << QJsonValue(0);
+    QTest::newRow("no end") << QStringLiteral("13/code") << QJsonValue(0);
+    QTest::newRow("one choice more") << QStringLiteral("3/parameters/0/2")
+                                     << QJsonValue(QStringLiteral("#67"));
+    QTest::newRow("one branch fewer") << QStringLiteral("9/code") << QJsonValue(0);
+}
+
+void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s()
+{
+    QFETCH(QString, path);
+    QFETCH(QJsonValue, value);
+    QCOMPARE(sample::mismatchedBranches(changed(m_last, kVillage, kElder + path, value)),
+             QStringList{QStringLiteral("Map001.json event 7")});
+}
+
+void tst_SampleWording::fits_into_the_message_window_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("letters");
+    QTest::newRow("en_US") << QStringLiteral("en_US") << 50;
+    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << 25;
+    QTest::newRow("zh_CN") << QStringLiteral("zh_CN") << 25;
+}
+
+void tst_SampleWording::fits_into_the_message_window()
+{
+    QFETCH(QString, locale);
+    QFETCH(int, letters);
+    const QMap<QString, QString> texts = sample::catalogue(locale);
+    QVERIFY(!texts.isEmpty());
+    for (int step = kFirstStep; step <= kLastStep; ++step) {
+        QCOMPARE(sample::overlongMessages(readStep(step), texts, letters), QStringList());
+    }
+}
+
+void tst_SampleWording::finds_a_message_that_is_too_long()
+{
+    const QString sign = QStringLiteral("#12");
+    const QString text(51, QLatin1Char('x'));
+    QCOMPARE(sample::overlongMessages(m_last, {{sign, text}}, 50),
+             QStringList{QStringLiteral("Map001.json event 1: ") + text});
+    QCOMPARE(sample::overlongMessages(m_last, {{sign, text}}, 51), QStringList());
+    QJsonArray list = {QJsonObject{{QStringLiteral("code"), 101}}};
+    for (int i = 0; i < 5; ++i) {
+        list.append(QJsonObject{{QStringLiteral("code"), 401}});
+    }
+    const sample::Files files = changed(m_last, kVillage, QStringLiteral("events/1/pages/0/list"), list);
+    QCOMPARE(sample::overlongMessages(files, {}, 50),
+             QStringList{QStringLiteral("Map001.json event 1: 5 lines")});
+}
+
+QTEST_GUILESS_MAIN(tst_SampleWording)
+#include "tst_SampleWording.moc"
