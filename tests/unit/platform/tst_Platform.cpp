@@ -26,6 +26,8 @@ private Q_SLOTS:
     void x11IsChosenInAWaylandSession();
     void aSessionWithoutX11IsLeftToQtAndComplainedOf();
     void whatIsOrdinaryIsNotLogged();
+    void findsEachVariableThatScales_data();
+    void findsEachVariableThatScales();
     void findsTheVariablesThatScale();
     void takesScreenPixels();
     void takesTheWindowSystem();
@@ -86,6 +88,22 @@ void TestPlatform::whatIsOrdinaryIsNotLogged()
                                              {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland")}}))
                  .reason,
              QString());
+}
+
+void TestPlatform::findsEachVariableThatScales_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *const name :
+         {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+          "QT_ENABLE_HIGHDPI_SCALING", "QT_USE_PHYSICAL_DPI", "QT_DEVICE_PIXEL_RATIO"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void TestPlatform::findsEachVariableThatScales()
+{
+    QFETCH(QString, name);
+    QCOMPARE(Platform::scalingIn(environmentOf({{name, QStringLiteral("1")}})), QStringList(name));
 }
 
 void TestPlatform::findsTheVariablesThatScale()
