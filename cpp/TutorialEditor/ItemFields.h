@@ -48,7 +48,7 @@ struct ItemField
     /// A value of another kind is converted as QVariant does it.
     void setValue(ItemValues *values, const QVariant &value) const;
     void setToStart(ItemValues *values) const;
-    /// Throws as JsonWrapper does when @p json is of another kind.
+    /// A value of another kind is converted as JsonWrapper does it.
     void read(const JsonWrapper &json, ItemValues *values) const;
     [[nodiscard]] bool is(QString ItemValues::*member) const;
 
