@@ -156,7 +156,7 @@ bool authorsSteps(TutorialEditor::Manager *document, UndoRedo *undoRedo, const Q
         fast = fast && seconds <= kInteractiveSeconds;
     };
     const auto paste = [&](const QString &text) {
-        ItemClipboard::paste(text.toUtf8(), document->tree(), document->texts());
+        ItemClipboard::paste(text.toUtf8(), document, document->texts());
     };
     ItemTree *tree = document->tree();
     std::printf("%d items, depth %d\n", kItems, kDepth);
@@ -208,9 +208,8 @@ int main(int argc, char *argv[])
         return 1;
     }
     texts.setContext(QStringLiteral("TutorialStep1"));
-    TutorialEditor::Manager document(&texts);
     UndoRedo undoRedo;
-    UndoRedo::publish(&undoRedo);
+    TutorialEditor::Manager document(&texts, [&undoRedo] { return &undoRedo; });
     const bool flat = growingLessons(&document, texts, path);
     const bool fast = authorsSteps(&document, &undoRedo, path);
     return flat && fast ? 0 : 1;

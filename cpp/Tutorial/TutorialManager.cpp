@@ -33,7 +33,7 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
     : QObject(parent)
     , m_overlays(*this)
     , m_timer(this)
-    , m_document(std::make_unique<TutorialEditor::Manager>(&m_texts))
+    , m_document(std::make_unique<TutorialEditor::Manager>(&m_texts, &UndoRedo::instance))
     , m_translationOutput(translationPath ? std::move(translationPath) : &TutorialManager::getExistsFilename)
 {
     theInstance = this;
@@ -122,7 +122,7 @@ void TutorialManager::copyTutorialItemList(const QList<int> &idList)
 
 QList<int> TutorialManager::pasteTutorialItemList()
 {
-    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document->tree(), m_texts);
+    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document.get(), m_texts);
 }
 
 QString TutorialManager::save()

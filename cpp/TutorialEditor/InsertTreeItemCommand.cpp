@@ -1,9 +1,7 @@
 #include "TutorialEditor/InsertTreeItemCommand.h"
 
 #include "TutorialEditor/ItemTreeOperations.h"
-#include "TutorialEditor/Manager.h"
 #include "TutorialEditor/TutorialItemData.h"
-#include "UndoRedo/UndoRedo.h"
 #include "tool/LogLine.h"
 
 #include <utility>
@@ -12,41 +10,31 @@ namespace {
 
 constexpr const char *kSource = R"(..\..\tutorial\cpp\TutorialEditor\InsertTreeItemCommand.cpp)";
 
-void setUndoNote(const QString &note)
-{
-    if (!note.isEmpty() && UndoRedo::instance() != nullptr) {
-        UndoRedo::instance()->setUndoNote(note);
-    }
-}
-
 } // namespace
 
-InsertTreeItemCommand::InsertTreeItemCommand(int parentId, int index, int itemId, TutorialItemData *data,
-                                             QString note, QVariantMap map)
-    : m_parentId(parentId)
+InsertTreeItemCommand::InsertTreeItemCommand(ScenarioDocument *document, int parentId, int index, int itemId,
+                                             std::unique_ptr<TutorialItemData> data, QString note,
+                                             QVariantMap map)
+    : m_document(document)
+    , m_parentId(parentId)
     , m_index(index)
     , m_itemId(itemId)
     , m_note(std::move(note))
     , m_map(std::move(map))
-    , m_data(data)
+    , m_data(data.get())
+    , m_owned(std::move(data))
 {
     setText(QStringLiteral("InsertTreeItemCommand(%1, %2, %3)").arg(parentId).arg(index).arg(itemId));
 }
 
-InsertTreeItemCommand::~InsertTreeItemCommand()
-{
-    if (m_ownsData) {
-        delete m_data;
-    }
-}
+InsertTreeItemCommand::~InsertTreeItemCommand() = default;
 
 void InsertTreeItemCommand::redo()
 {
-    TutorialEditor::Manager *document = TutorialEditor::Manager::instance();
-    if (document == nullptr) {
+    if (!m_document) {
         return;
     }
-    ItemTree *tree = document->tree();
+    ItemTree *tree = m_document->tree();
     TreeItem<TutorialItemData> *target = findItem(tree, m_parentId);
     int index = m_index;
     if (target == nullptr) {
@@ -61,36 +49,40 @@ void InsertTreeItemCommand::redo()
     }
     const int end = target->children.size();
     target->children.insert(index < 0 ? end : qMin(index, end), TreeItem<TutorialItemData>(m_itemId, false));
-    tree->items.append(m_data);
-    m_ownsData = false;
+    static_cast<void>(m_owned.release());
+    m_document->addItem(m_data);
 
     if (m_firstRedo) {
         m_firstRedo = false;
         return;
     }
-    setUndoNote(m_note);
+    tellUndoNote(m_document->historySource(), m_note);
 }
 
 void InsertTreeItemCommand::undo()
 {
-    TutorialEditor::Manager *document = TutorialEditor::Manager::instance();
-    if (document == nullptr) {
+    if (!m_document) {
         return;
     }
-    ItemTree *tree = document->tree();
+    ItemTree *tree = m_document->tree();
     removeItem(tree, m_itemId);
     const int index = indexOfData(tree->items, m_itemId);
     if (index >= 0) {
         tree->items.removeAt(index);
     }
-    setUndoNote(m_note);
+    tellUndoNote(m_document->historySource(), m_note);
     // Another item with the same id may have gone instead; what the document still holds is not ours to
     // delete.
-    m_ownsData = !tree->items.contains(m_data);
+    if (!m_owned && !tree->items.contains(m_data)) {
+        m_owned.reset(m_data);
+    }
 }
 
-void insertTreeItem(int parentId, int index, int itemId, TutorialItemData *data, const QString &note,
-                    const QVariantMap &map)
+void insertTreeItem(ScenarioDocument *document, int parentId, int index, int itemId,
+                    std::unique_ptr<TutorialItemData> data, const QString &note, const QVariantMap &map)
 {
-    UndoRedo::instance()->addCommand(new InsertTreeItemCommand(parentId, index, itemId, data, note, map));
+    if (UndoHistory *history = document->history()) {
+        history->addCommand(std::make_unique<InsertTreeItemCommand>(document, parentId, index, itemId,
+                                                                    std::move(data), note, map));
+    }
 }

@@ -1,7 +1,9 @@
 #include "TutorialEditor/ItemClipboard.h"
 
+#include "TutorialEditor/CopySubtree.h"
 #include "TutorialEditor/ItemIndex.h"
 #include "TutorialEditor/ItemTreeOperations.h"
+#include "TutorialEditor/ScenarioDocument.h"
 #include "TutorialEditor/TutorialItemData.h"
 #include "TutorialEditor/UsedValues.h"
 #include "tool/JsonWrapper.h"
@@ -50,7 +52,8 @@ std::optional<QByteArray> ItemClipboard::copy(ItemTree *document, const QList<in
     return payload;
 }
 
-QList<int> ItemClipboard::paste(const QByteArray &payload, ItemTree *document, const ScenarioTexts &texts)
+QList<int> ItemClipboard::paste(const QByteArray &payload, ScenarioDocument *document,
+                                const ScenarioTexts &texts)
 {
     logDebug(kSource, "TutorialManager::pasteTutorialItemList", 1621) << payload.size();
     if (payload.isEmpty()) {
@@ -60,20 +63,20 @@ QList<int> ItemClipboard::paste(const QByteArray &payload, ItemTree *document, c
     if (!array.isArray()) {
         return {};
     }
-    UsedValues used(document->items);
+    UsedValues used(document->tree()->items);
     QList<int> newIds;
     const QJsonArray elements = array.toArray();
     for (int i = 0; i < elements.size(); ++i) {
         ItemTree source;
-        std::unique_ptr<Node> node(createFromJson(JsonWrapper(elements.at(i)), &source.items, texts, nullptr,
-                                                  QStringLiteral("Item %1").arg(i + 1)));
+        std::unique_ptr<Node> node = createFromJson(JsonWrapper(elements.at(i)), &source.items, texts,
+                                                    nullptr, QStringLiteral("Item %1").arg(i + 1));
         if (!node) {
             continue;
         }
         const int oldId = node->id;
         source.root.children.append(*node);
         node.reset();
-        newIds << copySubtree(&document->items, &used, &source, &document->root, oldId, {});
+        newIds << copySubtree(document, &used, &source, &document->tree()->root, oldId, {});
         // Children of an item that is no folder have no place to go.
         qDeleteAll(source.items);
     }

@@ -7,6 +7,7 @@
 #include <optional>
 
 class ScenarioTexts;
+class ScenarioDocument;
 struct ItemTree;
 
 /// What travels through the item clipboard: UTF-8 JSON, an array of items with all below them.
@@ -26,5 +27,6 @@ public:
     /// Adds the items of @p payload at the end of the top level of @p document, as steps of the undo history
     /// when a transaction is on. Returns the new ids of the items that are not inside another one, in order.
     /// Elements that cannot be read are left out; a payload that is no array gives nothing.
-    static QList<int> paste(const QByteArray &payload, ItemTree *document, const ScenarioTexts &texts);
+    static QList<int> paste(const QByteArray &payload, ScenarioDocument *document,
+                            const ScenarioTexts &texts);
 };

@@ -1,11 +1,8 @@
 #include "TutorialEditor/ItemTreeOperations.h"
 
-#include "TutorialEditor/InsertTreeItemCommand.h"
 #include "TutorialEditor/ItemIndex.h"
 #include "TutorialEditor/NameNumbers.h"
 #include "TutorialEditor/TutorialItemData.h"
-#include "TutorialEditor/UsedValues.h"
-#include "UndoRedo/UndoRedo.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
 
@@ -88,8 +85,8 @@ int indexOfData(const QList<TutorialItemData *> &items, int id)
     return -1;
 }
 
-Node *createFromJson(const JsonWrapper &json, QList<TutorialItemData *> *items, const ScenarioTexts &texts,
-                     QStringList *errors, const QString &place)
+std::unique_ptr<Node> createFromJson(const JsonWrapper &json, QList<TutorialItemData *> *items,
+                                     const ScenarioTexts &texts, QStringList *errors, const QString &place)
 {
     const auto report = [errors](const QString &where, const QString &reason) {
         if (errors != nullptr) {
@@ -98,13 +95,13 @@ Node *createFromJson(const JsonWrapper &json, QList<TutorialItemData *> *items, 
     };
     using Builder = std::function<std::unique_ptr<Node>(const JsonWrapper &, const QString &)>;
     const Builder build = [&](const JsonWrapper &value, const QString &where) -> std::unique_ptr<Node> {
-        TutorialItemData *data = TutorialItemData::fromJson(value, texts);
-        if (data == nullptr) {
+        std::unique_ptr<TutorialItemData> data = TutorialItemData::fromJson(value, texts);
+        if (!data) {
             report(where, QStringLiteral("it is no object with an \"id\""));
             return nullptr;
         }
-        items->append(data);
         auto node = std::make_unique<Node>(data->id, false);
+        items->append(data.release());
         const QString folder = QStringLiteral("folder");
         if (value.contains(folder)) {
             node->folder = value[folder].toBool();
@@ -127,7 +124,7 @@ Node *createFromJson(const JsonWrapper &json, QList<TutorialItemData *> *items, 
 
     const int before = items->size();
     try {
-        return build(json, place).release();
+        return build(json, place);
     } catch (const QString &reason) {
         logWarning(kSource, "TreeItem<class TutorialItemData>::createFromJson", 58) << reason;
         report(place, reason);
@@ -191,35 +188,4 @@ QString uniqueName(const QStringList &names, const QString &base, int digits)
         return numberedName(base, highest, digits);
     }
     return found || digits == kAlwaysBracket ? bracketedName(base, highest) : base;
-}
-
-int copySubtree(QList<TutorialItemData *> *target, UsedValues *used, ItemTree *source, Node *parent,
-                int sourceId, const QVariantMap &map)
-{
-    const Node *node = findItem(source, sourceId);
-    const int place = indexOfData(source->items, sourceId);
-    if (node == nullptr || place < 0) {
-        return -1;
-    }
-    TutorialItemData *data = source->items.takeAt(place);
-    data->id = used->ids.take();
-    data->name = used->names.unique(data->name, -1);
-    data->translationId = used->translationIds.take();
-    used->names.add(data->name);
-
-    const int newId = data->id;
-    const bool folder = node->folder;
-    const QList<Node> children = node->children;
-    if (UndoRedo::instance() != nullptr && UndoRedo::instance()->inTransaction()) {
-        insertTreeItem(parent->id, -1, newId, data, QString(), map);
-    } else {
-        parent->children.append(Node(newId, folder));
-        target->append(data);
-    }
-    if (folder) {
-        for (const Node &child : children) {
-            copySubtree(target, used, source, findItem(source, sourceId), child.id, map);
-        }
-    }
-    return newId;
 }

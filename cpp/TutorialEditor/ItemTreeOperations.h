@@ -5,13 +5,13 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
-#include <QVariantMap>
+
+#include <memory>
 
 class ItemIndex;
 class JsonWrapper;
 class ScenarioTexts;
 class TutorialItemData;
-struct UsedValues;
 
 // Walks over the tree and the list of items. A node or an item that is not there is a normal result.
 
@@ -30,15 +30,14 @@ void removeChildAt(QList<TreeItem<TutorialItemData>> *children, int index);
 [[nodiscard]] int indexOfData(const QList<TutorialItemData *> &items, int id);
 
 /// Reads an item with all below it. Appends what the nodes hold to @p items, parents before children, and
-/// returns the node, which the caller owns.
+/// returns the node.
 ///
 /// An item below that cannot be read is left out, and @p errors gets a line that names its place, beginning
 /// with @p place. When the item itself cannot be read the result is null, @p items is as before, and @p
 /// errors has its line. @p errors may be null.
-[[nodiscard]] TreeItem<TutorialItemData> *createFromJson(const JsonWrapper &json,
-                                                         QList<TutorialItemData *> *items,
-                                                         const ScenarioTexts &texts, QStringList *errors,
-                                                         const QString &place);
+[[nodiscard]] std::unique_ptr<TreeItem<TutorialItemData>>
+createFromJson(const JsonWrapper &json, QList<TutorialItemData *> *items, const ScenarioTexts &texts,
+               QStringList *errors, const QString &place);
 
 /// One line of JSON of @p node, with its children when it is a folder; empty when its item is missing.
 [[nodiscard]] QString toJson(const TreeItem<TutorialItemData> &node, const ItemIndex &items);
@@ -51,14 +50,3 @@ void removeChildAt(QList<TreeItem<TutorialItemData>> *children, int index);
 /// highest in use, filled up with zeros to @p digits places. With -2, @p base and such a number in brackets;
 /// with any other negative @p digits only if @p base is taken.
 [[nodiscard]] QString uniqueName(const QStringList &names, const QString &base, int digits);
-
-/// Moves the item @p sourceId with its node and all below it from @p source to @p target, below @p parent, as
-/// new items: ids, translation ids and names that @p used does not know. Returns the new id, or -1 when the
-/// source has no such item.
-///
-/// In a transaction each item is a step of the undo history, and goes into the document; otherwise the node
-/// is appended to @p parent and the item to @p target. The children of a folder are given the source's folder
-/// as parent: outside a transaction their nodes stay behind in @p source, and in one they go where the
-/// document has an item with that folder's old id.
-int copySubtree(QList<TutorialItemData *> *target, UsedValues *used, ItemTree *source,
-                TreeItem<TutorialItemData> *parent, int sourceId, const QVariantMap &map);

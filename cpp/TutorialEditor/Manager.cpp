@@ -3,11 +3,11 @@
 #include "Tutorial/localisation/ScenarioTexts.h"
 #include "TutorialEditor/ItemIndex.h"
 #include "TutorialEditor/ItemTreeOperations.h"
+#include "TutorialEditor/ModifyTutorialItemDataCommand.h"
 #include "TutorialEditor/ScenarioSource.h"
 #include "TutorialEditor/ScenarioWriter.h"
 #include "TutorialEditor/TutorialItemData.h"
 #include "TutorialEditor/UsedNames.h"
-#include "UndoRedo/UndoRedo.h"
 #include "tool/DataSupport.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
@@ -32,12 +32,11 @@ Manager *theInstance = nullptr;
 
 } // namespace
 
-Manager::Manager(const ScenarioTexts *texts)
-    : m_texts(texts)
+Manager::Manager(const ScenarioTexts *texts, HistorySource history)
+    : ScenarioDocument(std::move(history))
+    , m_texts(texts)
 {
     logDebug(kSource, "TutorialEditor::Manager::Manager", 276);
-    m_tree.root.id = -1;
-    m_tree.root.folder = true;
     theInstance = this;
 }
 
@@ -91,7 +90,7 @@ void Manager::getJsonText(int level, TreeItem<TutorialItemData> *parent, QList<T
 QString Manager::getScenario(bool translated)
 {
     QString text;
-    getJsonText(0, &m_tree.root, &m_tree.items, &text, false, translated);
+    getJsonText(0, &tree()->root, &tree()->items, &text, false, translated);
     logDebug(kSource, "TutorialEditor::Manager::getScenario", 414) << translated << text.size();
     while (text.endsWith(QLatin1Char('\r')) || text.endsWith(QLatin1Char('\n'))) {
         text.chop(1);
@@ -109,20 +108,33 @@ QString Manager::save()
     if (!DataSupport::writeFile(m_fileName, QByteArrayLiteral("\xEF\xBB\xBF") + text.toUtf8())) {
         return tr("Failed to save.");
     }
-    if (UndoRedo::instance() != nullptr) {
-        UndoRedo::instance()->markSaved();
+    if (UndoHistory *present = history()) {
+        present->markSaved();
     }
     return {};
 }
 
 void Manager::clear()
 {
-    if (UndoRedo::instance() != nullptr) {
-        UndoRedo::instance()->clear();
+    if (UndoHistory *present = history()) {
+        present->clear();
     }
     dropItems();
-    m_tree.root.id = -1;
-    m_tree.root.folder = true;
+    tree()->root.id = -1;
+    tree()->root.folder = true;
+}
+
+bool Manager::recordName(const TutorialItemData &item, const QString &name)
+{
+    UndoHistory *present = history();
+    if (present == nullptr || !present->inTransaction()) {
+        return false;
+    }
+    PropertyHash properties;
+    properties.insert(QStringLiteral("target"), QStringLiteral("name"));
+    present->addCommand(
+        std::make_unique<ModifyTutorialItemDataCommand>(this, item.id, properties, name, item.changeNote()));
+    return true;
 }
 
 void Manager::readItems(const QString &json, QStringList *errors)
@@ -133,24 +145,28 @@ void Manager::readItems(const QString &json, QStringList *errors)
         return;
     }
     const QJsonArray elements = array.toArray();
+    QList<TutorialItemData *> items;
     for (int i = 0; i < elements.size(); ++i) {
-        const std::unique_ptr<Node> node(createFromJson(JsonWrapper(elements.at(i)), &m_tree.items, *m_texts,
-                                                        errors, QStringLiteral("Item %1").arg(i + 1)));
+        const std::unique_ptr<Node> node = createFromJson(JsonWrapper(elements.at(i)), &items, *m_texts,
+                                                          errors, QStringLiteral("Item %1").arg(i + 1));
         if (node) {
-            m_tree.root.children.append(*node);
+            tree()->root.children.append(*node);
         }
+    }
+    for (TutorialItemData *data : std::as_const(items)) {
+        addItem(data);
     }
 }
 
 void Manager::nameItems()
 {
     UsedNames names;
-    for (const TutorialItemData *data : std::as_const(m_tree.items)) {
+    for (const TutorialItemData *data : std::as_const(tree()->items)) {
         if (!data->name.isEmpty()) {
             names.add(data->name);
         }
     }
-    const ItemIndex items(m_tree.items);
+    const ItemIndex items(tree()->items);
     const QString folderWord = tr("folder");
     const QString itemWord = tr("item");
     const std::function<void(const Node &)> visit = [&](const Node &node) {
@@ -163,13 +179,13 @@ void Manager::nameItems()
             visit(child);
         }
     };
-    visit(m_tree.root);
+    visit(tree()->root);
 }
 
 void Manager::dropItems()
 {
-    m_tree.root.children.clear();
-    m_tree.items.clear();
+    tree()->root.children.clear();
+    tree()->items.clear();
 }
 
 } // namespace TutorialEditor

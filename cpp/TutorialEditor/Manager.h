@@ -1,9 +1,8 @@
 #pragma once
 
-#include "TutorialEditor/ItemTree.h"
+#include "TutorialEditor/ScenarioDocument.h"
 
 #include <QList>
-#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -12,16 +11,15 @@ class ScenarioTexts;
 namespace TutorialEditor {
 
 /// The scenario document: the file that it came from, and its items.
-///
-/// The commands of the undo history reach the one document through instance().
-class Manager : public QObject
+class Manager : public ScenarioDocument
 {
     Q_OBJECT
 
 public:
     /// @p texts translates what is loaded and is used as long as this object lives. It is not owned, and must
-    /// not be null. This object becomes the instance.
-    explicit Manager(const ScenarioTexts *texts);
+    /// not be null. @p history is asked for the undo history; without it there is none. This object becomes
+    /// the instance.
+    explicit Manager(const ScenarioTexts *texts, HistorySource history = {});
     ~Manager() override;
 
     /// The document, or null.
@@ -52,8 +50,10 @@ public:
     void clear();
 
     [[nodiscard]] QString fileName() const { return m_fileName; }
-    [[nodiscard]] ItemTree *tree() { return &m_tree; }
     [[nodiscard]] const ScenarioTexts &texts() const { return *m_texts; }
+
+    /// In a transaction of the undo history, a step of it that changes nothing.
+    [[nodiscard]] bool recordName(const TutorialItemData &item, const QString &name) override;
 
 private:
     void readItems(const QString &json, QStringList *errors);
@@ -61,7 +61,6 @@ private:
     void dropItems();
 
     QString m_fileName;
-    ItemTree m_tree;
     const ScenarioTexts *m_texts;
 };
 

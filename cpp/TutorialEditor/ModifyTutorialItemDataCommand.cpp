@@ -2,9 +2,7 @@
 
 #include "TutorialEditor/ItemFields.h"
 #include "TutorialEditor/ItemTreeOperations.h"
-#include "TutorialEditor/Manager.h"
 #include "TutorialEditor/TutorialItemData.h"
-#include "UndoRedo/UndoRedo.h"
 #include "tool/LogLine.h"
 
 #include <QStringList>
@@ -26,18 +24,13 @@ QString commandText(int id, const PropertyHash &properties, const QVariant &valu
         .arg(QString::number(id), texts.join(QLatin1Char(',')), value.toString());
 }
 
-void setUndoNote(const QString &note)
-{
-    if (!note.isEmpty() && UndoRedo::instance() != nullptr) {
-        UndoRedo::instance()->setUndoNote(note);
-    }
-}
-
 } // namespace
 
-ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand(int id, const PropertyHash &properties,
+ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand(ScenarioDocument *document, int id,
+                                                             const PropertyHash &properties,
                                                              const QVariant &value, QString note)
-    : UndoMergeableCommand(value)
+    : UndoMergeableCommand(value, document == nullptr ? HistorySource() : document->historySource())
+    , m_document(document)
     , m_tutorialItemId(id)
     , m_properties(properties)
     , m_note(std::move(note))
@@ -48,7 +41,7 @@ ModifyTutorialItemDataCommand::ModifyTutorialItemDataCommand(int id, const Prope
 void ModifyTutorialItemDataCommand::doUndo()
 {
     apply(m_oldValue, false, nullptr);
-    setUndoNote(m_note);
+    tellUndoNote(history(), m_note);
 }
 
 void ModifyTutorialItemDataCommand::doRedo()
@@ -58,7 +51,7 @@ void ModifyTutorialItemDataCommand::doRedo()
         m_firstRedo = false;
         return;
     }
-    setUndoNote(m_note);
+    tellUndoNote(history(), m_note);
 }
 
 int ModifyTutorialItemDataCommand::commandType() const
@@ -70,8 +63,8 @@ bool ModifyTutorialItemDataCommand::mergeSame(const UndoMergeableCommand &other)
 {
     logDebug(kSource, "ModifyTutorialItemDataCommand::mergeWith", 545) << text() << other.text();
     const auto *modify = dynamic_cast<const ModifyTutorialItemDataCommand *>(&other);
-    if (UndoRedo::instance() == nullptr || !UndoRedo::instance()->mergeable() || id() != other.id() ||
-        modify == nullptr || m_properties != modify->m_properties) {
+    if (!mergingAllowed() || id() != other.id() || modify == nullptr ||
+        m_properties != modify->m_properties) {
         return false;
     }
     return apply(other.value(), false, &other);
@@ -80,10 +73,8 @@ bool ModifyTutorialItemDataCommand::mergeSame(const UndoMergeableCommand &other)
 bool ModifyTutorialItemDataCommand::apply(const QVariant &value, bool saveOld,
                                           const UndoMergeableCommand *source)
 {
-    TutorialEditor::Manager *document = TutorialEditor::Manager::instance();
     const ItemField *field = findItemField(m_properties.value(QStringLiteral("target"), QString()));
-    TutorialItemData *data =
-        document == nullptr ? nullptr : findData(&document->tree()->items, m_tutorialItemId);
+    TutorialItemData *data = !m_document ? nullptr : findData(&m_document->tree()->items, m_tutorialItemId);
     if (field == nullptr || data == nullptr) {
         return false;
     }
@@ -98,12 +89,26 @@ bool ModifyTutorialItemDataCommand::apply(const QVariant &value, bool saveOld,
     return true;
 }
 
-UndoMergeableCommand *ModifyTutorialItemDataCommand::clone() const
+std::unique_ptr<UndoMergeableCommand> ModifyTutorialItemDataCommand::clone() const
 {
-    auto copy =
-        std::make_unique<ModifyTutorialItemDataCommand>(m_tutorialItemId, m_properties, value(), m_note);
+    auto copy = std::make_unique<ModifyTutorialItemDataCommand>(m_document, m_tutorialItemId, m_properties,
+                                                                value(), m_note);
     copy->m_oldValue = m_oldValue;
     copy->m_firstRedo = m_firstRedo;
     copy->setText(text());
-    return copy.release();
+    return copy;
+}
+
+bool changeItem(ScenarioDocument *document, int id, const QString &field, const QVariant &value)
+{
+    UndoHistory *history = document->history();
+    const TutorialItemData *data = findData(&document->tree()->items, id);
+    if (history == nullptr || data == nullptr || findItemField(field) == nullptr) {
+        return false;
+    }
+    PropertyHash properties;
+    properties.insert(QStringLiteral("target"), field);
+    history->addCommand(
+        std::make_unique<ModifyTutorialItemDataCommand>(document, id, properties, value, data->changeNote()));
+    return true;
 }

@@ -1,9 +1,6 @@
 #include "TutorialEditor/TutorialItemData.h"
 
 #include "Tutorial/localisation/ScenarioTexts.h"
-#include "TutorialEditor/ModifyTutorialItemDataCommand.h"
-#include "TutorialEditor/PropertyHash.h"
-#include "UndoRedo/UndoRedo.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
 
@@ -42,7 +39,8 @@ QString jsonField(const char *key, const QVariant &value)
 
 } // namespace
 
-TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const ScenarioTexts &texts)
+std::unique_ptr<TutorialItemData> TutorialItemData::fromJson(const JsonWrapper &json,
+                                                             const ScenarioTexts &texts)
 {
     auto data = std::make_unique<TutorialItemData>();
     try {
@@ -71,7 +69,7 @@ TutorialItemData *TutorialItemData::fromJson(const JsonWrapper &json, const Scen
         logWarning(kSource, "TutorialItemData::fromJson", 329) << reason;
         return nullptr;
     }
-    return data.release();
+    return data;
 }
 
 QString TutorialItemData::toJson(const QString &extra) const
@@ -88,17 +86,10 @@ QString TutorialItemData::toJson(const QString &extra) const
 
 void TutorialItemData::setName(const QString &value)
 {
-    if (value == name) {
+    if (value == name || (m_changes && m_changes->recordName(*this, value))) {
         return;
     }
-    UndoRedo *undoRedo = UndoRedo::instance();
-    if (undoRedo == nullptr || !undoRedo->inTransaction()) {
-        name = value;
-        return;
-    }
-    PropertyHash properties;
-    properties.insert(QStringLiteral("target"), QStringLiteral("name"));
-    undoRedo->addCommand(new ModifyTutorialItemDataCommand(id, properties, value, changeNote()));
+    name = value;
 }
 
 void TutorialItemData::setTranslationId(int value)

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "TutorialEditor/ItemChanges.h"
 #include "TutorialEditor/ItemFields.h"
 #include "TutorialEditor/NameData.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+
+#include <memory>
 
 class JsonWrapper;
 class ScenarioTexts;
@@ -17,17 +21,23 @@ class TutorialItemData : public QObject, public NameData, public ItemValues
 public:
     TutorialItemData() = default;
 
-    /// A new item that the caller owns, or null when @p json is no object with an "id"; the reason is logged.
+    /// A new item, or null when @p json is no object with an "id"; the reason is logged.
     /// hint2 is looked up in @p texts. A folder has no fields beyond the id, the name and prohibited.
-    [[nodiscard]] static TutorialItemData *fromJson(const JsonWrapper &json, const ScenarioTexts &texts);
+    [[nodiscard]] static std::unique_ptr<TutorialItemData> fromJson(const JsonWrapper &json,
+                                                                    const ScenarioTexts &texts);
     /// One line of JSON with all fields; @p extra, fields that are text already, comes last unless it is
     /// empty.
     [[nodiscard]] QString toJson(const QString &extra) const;
 
-    /// Outside a transaction, assigns. In one, adds a step to the undo history and leaves the name alone: no
-    /// step can reach the name.
+    /// @p changes is asked before the name changes, as long as it lives; null asks nobody. Not owned.
+    void setChanges(ItemChanges *changes) { m_changes = changes; }
+    /// Outside a transaction of its document, assigns. In one, a step is added to the undo history, and the
+    /// name is left alone: no step can reach the name.
     void setName(const QString &value) override;
     void setTranslationId(int value);
     /// What an author's tool shows with an undo of a change to this item.
     [[nodiscard]] QString changeNote() const;
+
+private:
+    QPointer<ItemChanges> m_changes;
 };

@@ -1,6 +1,5 @@
 #include "UndoRedo/UndoMergeableCommand.h"
 
-#include "UndoRedo/UndoRedo.h"
 #include "tool/LogLine.h"
 
 #include <utility>
@@ -16,8 +15,9 @@ const void *address(const QUndoCommand *command)
 
 } // namespace
 
-UndoMergeableCommand::UndoMergeableCommand(QVariant value)
+UndoMergeableCommand::UndoMergeableCommand(QVariant value, HistorySource history)
     : m_value(std::move(value))
+    , m_history(std::move(history))
 {
 }
 
@@ -51,7 +51,7 @@ int UndoMergeableCommand::id() const
 bool UndoMergeableCommand::mergeWith(const QUndoCommand *other)
 {
     const char *function = "UndoMergeableCommand::mergeWith";
-    const bool mergeable = UndoRedo::instance() != nullptr && UndoRedo::instance()->mergeable();
+    const bool mergeable = mergingAllowed();
     const auto *command = dynamic_cast<const UndoMergeableCommand *>(other);
 
     if (m_topLevel) {
@@ -93,8 +93,14 @@ bool UndoMergeableCommand::mergeWith(const QUndoCommand *other)
         return false;
     }
     logDebug(kSource, function, 380) << "append newCommand to list";
-    UndoMergeableCommand *merged = command->clone();
+    std::unique_ptr<UndoMergeableCommand> merged = command->clone();
     merged->m_topLevel = false;
-    m_mergedCommands.append(merged);
+    m_mergedCommands.append(merged.release());
     return true;
+}
+
+bool UndoMergeableCommand::mergingAllowed() const
+{
+    const UndoHistory *present = historyOf(m_history);
+    return present != nullptr && present->mergeable();
 }

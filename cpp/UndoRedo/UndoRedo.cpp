@@ -224,21 +224,23 @@ bool UndoRedo::canRedo() const
     return m_undoStack->canRedo() && (next == nullptr || next->id() != UnredoableCommand::kId);
 }
 
-void UndoRedo::addCommand(QUndoCommand *command)
+void UndoRedo::addCommand(std::unique_ptr<QUndoCommand> command)
 {
     logDebug(kSource, "UndoRedo::addCommand", 111)
-        << static_cast<const void *>(command) << m_mergeable << m_inTransaction << m_sequenceDepth;
+        << static_cast<const void *>(command.get()) << m_mergeable << m_inTransaction << m_sequenceDepth;
     if (UndoMergeableCommand *last = mergeTarget()) {
         command->redo();
-        if (last->mergeWith(command)) {
+        if (last->mergeWith(command.get())) {
             m_mergeable = true;
+            // It stays alive, and belongs to nobody.
+            static_cast<void>(command.release());
             return;
         }
         command->undo();
-        m_undoStack->push(command);
+        m_undoStack->push(command.release());
         setUndoNote(QString());
     } else {
-        m_undoStack->push(command);
+        m_undoStack->push(command.release());
     }
     m_mergeable = true;
 }
@@ -291,7 +293,7 @@ void UndoRedo::onIndexChanged(int idx)
 
 void UndoRedo::pushMarkerAndUndo()
 {
-    addCommand(new UnredoableCommand);
+    addCommand(std::make_unique<UnredoableCommand>());
     m_undoStack->undo();
     setUndoNote(QString());
 }

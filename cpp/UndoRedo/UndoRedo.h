@@ -1,5 +1,6 @@
 #pragma once
 
+#include "UndoRedo/UndoHistory.h"
 #include "tool/TemporaryFolder.h"
 
 #include <QObject>
@@ -7,9 +8,9 @@
 #include <QTime>
 
 #include <functional>
+#include <memory>
 
 class QAction;
-class QUndoCommand;
 class QUndoStack;
 class UndoHost;
 class UndoMergeableCommand;
@@ -20,9 +21,9 @@ class UndoMergeableCommand;
 /// began less than a second earlier. A sequence is one step that holds all the commands given between its
 /// begin and its end; sequences nest. A command given outside a transaction is a step too.
 ///
-/// main publishes the one instance. The document and its commands reach it through instance() and do without
-/// a history where there is none.
-class UndoRedo : public QObject
+/// main publishes the one instance. The document is told to look for it there, and does without a history
+/// where there is none.
+class UndoRedo : public QObject, public UndoHistory
 {
     Q_OBJECT
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY canUndoChanged)
@@ -41,7 +42,7 @@ public:
     /// Where the time of day comes from, for tests.
     void setClock(std::function<QTime()> clock);
 
-    Q_INVOKABLE bool inTransaction() const;
+    Q_INVOKABLE bool inTransaction() const override;
     Q_INVOKABLE void beginSequence(const QString &name);
     /// Ends the innermost sequence. An outermost one that held no command leaves nothing to undo, and nothing
     /// to redo either.
@@ -54,8 +55,7 @@ public:
     Q_INVOKABLE void setUnmergeable();
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
-    /// Forgets all steps. The document as it stands counts as saved.
-    Q_INVOKABLE void clear();
+    Q_INVOKABLE void clear() override;
     /// Undoes the last step for good: it cannot be redone.
     Q_INVOKABLE void undoAndMakeUnredoable();
     /// Does nothing: this program shows no list of steps.
@@ -67,15 +67,11 @@ public:
     /// False also when only the marker of an undone step could be redone.
     [[nodiscard]] bool canRedo() const;
 
-    /// Runs @p command and puts it on the stack, which then owns it, or folds it into the step before. A
-    /// command that was folded in stays alive and belongs to nobody.
-    void addCommand(QUndoCommand *command);
-    /// The present position of the history is what the saved file holds.
-    void markSaved();
-    /// Whether the next command may be folded into the step before.
-    [[nodiscard]] bool mergeable() const { return m_mergeable; }
+    void addCommand(std::unique_ptr<QUndoCommand> command) override;
+    void markSaved() override;
+    [[nodiscard]] bool mergeable() const override { return m_mergeable; }
     /// Hands @p note on to the host.
-    void setUndoNote(const QString &note);
+    void setUndoNote(const QString &note) override;
 
 Q_SIGNALS:
     /// The value of canRedo, whenever the stack says that its own may have changed.

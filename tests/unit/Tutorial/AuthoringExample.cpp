@@ -4,21 +4,8 @@
 #include "TutorialEditor/Manager.h"
 #include "TutorialEditor/ModifyTutorialItemDataCommand.h"
 #include "TutorialEditor/TutorialItemData.h"
-#include "UndoRedo/UndoRedo.h"
 
 #include <QMetaObject>
-
-namespace {
-
-void setField(const TutorialItemData &item, const char *field, int value)
-{
-    PropertyHash properties;
-    properties.insert(QStringLiteral("target"), QLatin1String(field));
-    UndoRedo::instance()->addCommand(
-        new ModifyTutorialItemDataCommand(item.id, properties, value, item.changeNote()));
-}
-
-} // namespace
 
 // Adds a copy of one step at the end of a lesson, with the bubble moved by offset, as one step of the undo
 // history, and saves the lesson. Returns empty text, or what to tell the author.
@@ -34,8 +21,8 @@ QString appendMovedCopy(QObject *manager, QObject *history, const QString &fileN
         return message; // something is missing in the document now, so it must not be saved
     }
     // A file that does not open gives no message, and copying an unknown id leaves the old clipboard.
-    ItemTree *document = TutorialEditor::Manager::instance()->tree();
-    if (findData(&document->items, id) == nullptr) {
+    TutorialEditor::Manager *document = TutorialEditor::Manager::instance();
+    if (findData(&document->tree()->items, id) == nullptr) {
         return QStringLiteral("%1 has no step %2").arg(fileName).arg(id);
     }
     QMetaObject::invokeMethod(manager, "copyTutorialItemList", Q_ARG(QList<int>, QList<int>{id}));
@@ -43,11 +30,11 @@ QString appendMovedCopy(QObject *manager, QObject *history, const QString &fileN
     QList<int> newIds;
     QMetaObject::invokeMethod(history, "beginSequence", Q_ARG(QString, QStringLiteral("append copy")));
     QMetaObject::invokeMethod(manager, "pasteTutorialItemList", Q_RETURN_ARG(QList<int>, newIds));
-    const TutorialItemData *copy = findData(&document->items, newIds.value(0));
+    const TutorialItemData *copy = findData(&document->tree()->items, newIds.value(0));
     // A step that points at nothing has -9999 in both, and half a position is an error.
     if (copy != nullptr && (copy->x != -9999 || copy->y != -9999)) {
-        setField(*copy, "x", copy->x + offset.x());
-        setField(*copy, "y", copy->y + offset.y());
+        changeItem(document, copy->id, QStringLiteral("x"), copy->x + offset.x());
+        changeItem(document, copy->id, QStringLiteral("y"), copy->y + offset.y());
     }
     QMetaObject::invokeMethod(history, "endSequence");
 

@@ -89,12 +89,8 @@ public:
     /// Changes a field of an item in a step of its own.
     void change(const QString &step, int id, const char *field, const QVariant &value) const
     {
-        PropertyHash properties;
-        properties.insert(QStringLiteral("target"), QLatin1String(field));
         call(history(), "beginSingle", step);
-        // A command that is folded in belongs to nobody. As a clone, the leak check knows it by name.
-        history()->addCommand(
-            ModifyTutorialItemDataCommand(id, properties, value, item(id)->changeNote()).clone());
+        changeItem(TutorialEditor::Manager::instance(), id, QLatin1String(field), value);
         call(history(), "endSingle");
     }
     /// The whole document.

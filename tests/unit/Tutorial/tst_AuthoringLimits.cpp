@@ -59,9 +59,10 @@ private:
     {
         PropertyHash properties;
         properties.insert(QStringLiteral("target"), QStringLiteral("x"));
-        auto *command = new ModifyTutorialItemDataCommand(id, properties, x, QString());
+        auto command = std::make_unique<ModifyTutorialItemDataCommand>(TutorialEditor::Manager::instance(),
+                                                                       id, properties, x, QString());
         command->setMergeable(mergeable);
-        m_tool->history()->addCommand(command);
+        m_tool->history()->addCommand(std::move(command));
     }
 
     QString m_saved;

@@ -4,6 +4,7 @@
 #include "UndoRedo/UnredoableCommand.h"
 
 #include <algorithm>
+#include <memory>
 #include <new>
 
 /// What the manager leaves behind when it goes.
@@ -22,12 +23,12 @@ void tst_ManagerEnd::history_that_outlives_the_manager_tells_nobody()
     auto *manager = new (room) TutorialManager;
     UndoRedo history(nullptr, manager);
     UndoRedo::publish(&history);
-    history.addCommand(new UnredoableCommand);
+    history.addCommand(std::make_unique<UnredoableCommand>());
     QVERIFY(manager->modified());
     manager->~TutorialManager();
     // Whoever calls anything on it now jumps to nowhere.
     std::fill(std::begin(room), std::end(room), static_cast<unsigned char>(0xff));
-    history.addCommand(new UnredoableCommand);
+    history.addCommand(std::make_unique<UnredoableCommand>());
     history.undo();
     history.undoAndMakeUnredoable();
     history.markSaved();

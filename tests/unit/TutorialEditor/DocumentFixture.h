@@ -38,7 +38,7 @@ class DocumentFixture
 public:
     DocumentFixture()
         : m_undoRedo(nullptr, &host)
-        , document(&texts)
+        , document(&texts, &UndoRedo::instance)
     {
         UndoRedo::publish(&m_undoRedo);
         texts.setContext(QStringLiteral("Lesson"));

@@ -168,7 +168,8 @@ void Machine::insert()
     item->id = id;
     item->name = QStringLiteral("new");
     item->hint2 = QStringLiteral("#-1");
-    insertTreeItem(parent, index, id, TutorialItemData::fromJson(json, m_fixture.texts), QString(), {});
+    insertTreeItem(&m_fixture.document, parent, index, id, TutorialItemData::fromJson(json, m_fixture.texts),
+                   QString(), {});
     m_model.insert(parent, index, item);
 }
 
@@ -184,7 +185,8 @@ void Machine::modify()
     PropertyHash properties;
     properties.insert(QStringLiteral("target"), target);
     m_fixture.undoRedo().addCommand(
-        ModifyTutorialItemDataCommand(id, properties, value, QStringLiteral("note")).clone());
+        ModifyTutorialItemDataCommand(&m_fixture.document, id, properties, value, QStringLiteral("note"))
+            .clone());
     m_model.modify(id, target, value);
 }
 
@@ -220,7 +222,7 @@ void Machine::paste()
 {
     note(QStringLiteral("paste"));
     const QList<int> ids =
-        ItemClipboard::paste(m_clipboard.value_or(QByteArray()), m_fixture.tree(), m_fixture.texts);
+        ItemClipboard::paste(m_clipboard.value_or(QByteArray()), &m_fixture.document, m_fixture.texts);
     if (m_model.paste() != ids) {
         m_failure = QStringLiteral("other ids were given");
     }

@@ -87,7 +87,7 @@ void tst_ItemClipboard::noIdsGiveTheEmptyList()
     const auto payload = ItemClipboard::copy(fixture.tree(), {});
     QVERIFY(payload);
     QCOMPARE(*payload, QByteArray("[  ]"));
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>());
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), QList<int>());
 }
 
 void tst_ItemClipboard::pastingTwiceGivesNewNumbersAndNames()
@@ -96,8 +96,8 @@ void tst_ItemClipboard::pastingTwiceGivesNewNumbersAndNames()
     QCOMPARE(fixture.load(kItems), QStringList());
     const auto payload = ItemClipboard::copy(fixture.tree(), {1});
     QVERIFY(payload);
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>{5});
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>{6});
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), QList<int>{5});
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), QList<int>{6});
     QCOMPARE(fixture.shape(), QStringLiteral("1 2F[3] 4 5 6"));
     QCOMPARE(fixture.item(5)->name, QStringLiteral("Intro(1)"));
     QCOMPARE(fixture.item(6)->name, QStringLiteral("Intro(2)"));
@@ -118,7 +118,7 @@ void tst_ItemClipboard::textsOfAllLanguagesComeThrough()
     const auto payload = ItemClipboard::copy(fixture.tree(), {1});
     QVERIFY(payload);
     QVERIFY(payload->contains("\"name\":\"\xC3\xA9\xE6\x97\xA5\xE6\x9C\xAC\xF0\x9F\x98\x80\""));
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>{2});
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), QList<int>{2});
     QCOMPARE(fixture.item(2)->name, QStringLiteral("é日本😀(1)"));
     QCOMPARE(fixture.item(2)->hint, hint);
 }
@@ -130,7 +130,7 @@ void tst_ItemClipboard::pastesFromAnotherDocument()
     const auto payload = ItemClipboard::copy(fixture.tree(), {1, 4});
     QVERIFY(payload);
     QCOMPARE(fixture.load(R"([{"id":2,"name":"Intro","translationId":2}])"), QStringList());
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{1, 3}));
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), (QList<int>{1, 3}));
     QCOMPARE(fixture.shape(), QStringLiteral("2 1 3"));
     QCOMPARE(fixture.item(1)->name, QStringLiteral("Intro(1)"));
     QCOMPARE(fixture.item(3)->name, QStringLiteral("End"));
@@ -148,7 +148,7 @@ void tst_ItemClipboard::pastesAFolderIntoAnotherDocument()
     QVERIFY(payload);
     QCOMPARE(fixture.load("[]"), QStringList());
     // The new numbers are numbers of the copied items too; each still gets its own.
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), QList<int>{1});
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), QList<int>{1});
     QCOMPARE(fixture.shape(), QStringLiteral("1F"));
     QCOMPARE(fixture.ids(), QStringLiteral("1 2 3"));
     QCOMPARE(fixture.item(1)->name, QStringLiteral("Part"));
@@ -163,7 +163,7 @@ void tst_ItemClipboard::pasteInASequenceIsOneStep()
     const auto payload = ItemClipboard::copy(fixture.tree(), {2, 4});
     QVERIFY(payload);
     fixture.undoRedo().beginSequence(QStringLiteral("paste"));
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{5, 7}));
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), (QList<int>{5, 7}));
     fixture.undoRedo().endSequence();
     QCOMPARE(fixture.shape(), QStringLiteral("1 2F[3 6] 4 5 7"));
     QVERIFY(fixture.host.modified);
@@ -182,7 +182,7 @@ void tst_ItemClipboard::aPasteLeavesTheNoteThatIsThere()
     const auto payload = ItemClipboard::copy(fixture.tree(), {1, 2});
     QVERIFY(payload);
     fixture.undoRedo().beginSequence(QStringLiteral("paste"));
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{5, 6}));
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), (QList<int>{5, 6}));
     fixture.undoRedo().endSequence();
     fixture.undoRedo().undo();
     fixture.undoRedo().redo();
@@ -197,7 +197,7 @@ void tst_ItemClipboard::pastesWithoutAHistory()
     const auto payload = ItemClipboard::copy(fixture.tree(), {1, 2});
     QVERIFY(payload);
     UndoRedo::publish(nullptr);
-    QCOMPARE(ItemClipboard::paste(*payload, fixture.tree(), fixture.texts), (QList<int>{5, 6}));
+    QCOMPARE(ItemClipboard::paste(*payload, &fixture.document, fixture.texts), (QList<int>{5, 6}));
     QCOMPARE(fixture.shape(), QStringLiteral("1 2F[3] 4 5 6F"));
     QCOMPARE(fixture.ids(), QStringLiteral("1 2 3 4 5 6 7"));
     QCOMPARE(fixture.item(5)->name, QStringLiteral("Intro(1)"));
@@ -217,7 +217,7 @@ void tst_ItemClipboard::nothingIsPastedFromNoList()
     DocumentFixture fixture;
     QCOMPARE(fixture.load(kItems), QStringList());
     LogCapture log;
-    QCOMPARE(ItemClipboard::paste(payload, fixture.tree(), fixture.texts), QList<int>());
+    QCOMPARE(ItemClipboard::paste(payload, &fixture.document, fixture.texts), QList<int>());
     QCOMPARE(fixture.ids(), QStringLiteral("1 2 3 4"));
     QVERIFY(log.lines().constFirst().startsWith(QLatin1String(kManager) +
                                                 QStringLiteral("pasteTutorialItemList 1621")));
@@ -230,7 +230,7 @@ void tst_ItemClipboard::elementsThatCannotBeReadAreLeftOut()
 {
     DocumentFixture fixture;
     QCOMPARE(ItemClipboard::paste(R"([ 5, {"id":8,"name":"a","children":[{"id":9}]}, {"name":"lost"} ])",
-                                  fixture.tree(), fixture.texts),
+                                  &fixture.document, fixture.texts),
              QList<int>{1});
     QCOMPARE(fixture.shape(), QStringLiteral("1"));
     QCOMPARE(fixture.ids(), QStringLiteral("1"));
@@ -253,7 +253,7 @@ void tst_ItemClipboard::whatIsLeftOutIsDeleted()
     QFETCH(int, kept);
     DocumentFixture fixture;
     const LiveObjects objects;
-    ItemClipboard::paste(payload, fixture.tree(), fixture.texts);
+    ItemClipboard::paste(payload, &fixture.document, fixture.texts);
     QCOMPARE(fixture.tree()->items.size(), kept);
     QCOMPARE(objects.more(), kept);
 }
@@ -266,7 +266,7 @@ void tst_ItemClipboard::callsAreLogged()
     const auto payload = ItemClipboard::copy(fixture.tree(), {1});
     QVERIFY(payload);
     QVERIFY(log.contains(QLatin1String(kManager) + QStringLiteral("setMimeData 1673")));
-    ItemClipboard::paste(*payload, fixture.tree(), fixture.texts);
+    ItemClipboard::paste(*payload, &fixture.document, fixture.texts);
     QVERIFY(log.contains(QLatin1String(kManager) + QStringLiteral("pasteTutorialItemList 1621")));
     QVERIFY(log.contains(QLatin1String(kManager) + QStringLiteral("pasteTutorialItemList 1649 (5)")));
 }

@@ -1,5 +1,6 @@
 #include "DocumentFixture.h"
 #include "LogCapture.h"
+#include "TutorialEditor/CopySubtree.h"
 #include "TutorialEditor/ItemIndex.h"
 #include "TutorialEditor/UsedValues.h"
 #include "tool/JsonWrapper.h"
@@ -303,7 +304,7 @@ void tst_ItemTreeOperations::copySubtreeGivesNewNumbersAndANewName()
         source.items << data.get();
         source.root.children << Node(3, false);
         const TutorialItemData *moved = data.release();
-        const int newId = copySubtree(&fixture.tree()->items, &used, &source, &fixture.tree()->root, 3, {});
+        const int newId = copySubtree(&fixture.document, &used, &source, &fixture.tree()->root, 3, {});
         QCOMPARE(newId, copy == 1 ? 2 : 4);
         QCOMPARE(fixture.tree()->items.last(), moved);
         QCOMPARE(moved->id, newId);
@@ -329,7 +330,7 @@ void tst_ItemTreeOperations::copySubtreeLeavesTheNodesOfChildrenBehind()
         &source.items, fixture.texts, nullptr, {}));
     source.root.children << *node;
     UsedValues used(fixture.tree()->items);
-    QCOMPARE(copySubtree(&fixture.tree()->items, &used, &source, &fixture.tree()->root, 9, {}), 2);
+    QCOMPARE(copySubtree(&fixture.document, &used, &source, &fixture.tree()->root, 9, {}), 2);
     QCOMPARE(fixture.shape(), QStringLiteral("1 2F"));
     QCOMPARE(fixture.ids(), QStringLiteral("1 2 3 4"));
     QCOMPARE(fixture.item(3)->name, QStringLiteral("a"));
@@ -349,7 +350,7 @@ void tst_ItemTreeOperations::copySubtreeInATransactionGoesThroughTheHistory()
     source.root.children << *node;
     UsedValues used(fixture.tree()->items);
     fixture.undoRedo().beginSequence(QStringLiteral("paste"));
-    QCOMPARE(copySubtree(&fixture.tree()->items, &used, &source, &fixture.tree()->root, 9, {}), 1);
+    QCOMPARE(copySubtree(&fixture.document, &used, &source, &fixture.tree()->root, 9, {}), 1);
     fixture.undoRedo().endSequence();
     // The copied child goes to the folder whose id the copied folder had, and the new node is no folder.
     QCOMPARE(fixture.shape(), QStringLiteral("9F[2 3] 1"));
@@ -364,9 +365,9 @@ void tst_ItemTreeOperations::copySubtreeOfAnUnknownItemIsNothing()
     DocumentFixture fixture;
     ItemTree source;
     UsedValues used(fixture.tree()->items);
-    QCOMPARE(copySubtree(&fixture.tree()->items, &used, &source, &fixture.tree()->root, 9, {}), -1);
+    QCOMPARE(copySubtree(&fixture.document, &used, &source, &fixture.tree()->root, 9, {}), -1);
     source.root.children << Node(9, false);
-    QCOMPARE(copySubtree(&fixture.tree()->items, &used, &source, &fixture.tree()->root, 9, {}), -1);
+    QCOMPARE(copySubtree(&fixture.document, &used, &source, &fixture.tree()->root, 9, {}), -1);
     QVERIFY(fixture.tree()->items.isEmpty());
     QCOMPARE(used.ids.take(), 1);
 }

@@ -1,5 +1,6 @@
 #include "DocumentFixture.h"
 #include "LogCapture.h"
+#include "TutorialEditor/ItemClipboard.h"
 #include "TutorialEditor/PropertyHash.h"
 #include "tool/JsonWrapper.h"
 
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void toJsonReadsBack();
     void setNameOutsideATransactionAssigns();
     void setNameInATransactionLeavesTheNameAlone();
+    void setNameInATransactionAssignsWithoutADocument();
+    void setNameAsksTheDocumentHoweverTheItemCame();
     void setTranslationIdAssigns();
     void theChangeNoteNamesTheItem();
 
@@ -278,6 +281,38 @@ void tst_TutorialItemData::setNameInATransactionLeavesTheNameAlone()
     QCOMPARE(fixture.host.notes.last(), QStringLiteral("{ \"tutorialItemId\": 1 }"));
     fixture.undoRedo().redo();
     QCOMPARE(fixture.item(1)->name, QStringLiteral("old"));
+}
+
+void tst_TutorialItemData::setNameInATransactionAssignsWithoutADocument()
+{
+    DocumentFixture fixture;
+    fixture.undoRedo().beginSingle(QStringLiteral("rename"));
+    TutorialItemData data;
+    data.setName(QStringLiteral("n"));
+    fixture.undoRedo().endSingle();
+    QCOMPARE(data.name, QStringLiteral("n"));
+    QVERIFY(!fixture.undoRedo().canUndo());
+}
+
+void tst_TutorialItemData::setNameAsksTheDocumentHoweverTheItemCame()
+{
+    DocumentFixture fixture;
+    QVERIFY(fixture.load(R"([{"id":1,"name":"old","folder":true,"children":[{"id":2,"name":"old"}]}])")
+                .isEmpty());
+    QCOMPARE(ItemClipboard::paste(R"([ {"id":1,"name":"pasted"} ])", &fixture.document, fixture.texts),
+             QList<int>{3});
+    fixture.undoRedo().beginSequence(QStringLiteral("rename"));
+    QCOMPARE(ItemClipboard::paste(R"([ {"id":1,"name":"inserted"} ])", &fixture.document, fixture.texts),
+             QList<int>{4});
+    for (int id = 1; id <= 4; ++id) {
+        const QString name = fixture.item(id)->name;
+        fixture.item(id)->setName(QStringLiteral("new"));
+        QCOMPARE(fixture.item(id)->name, name);
+    }
+    fixture.undoRedo().endSequence();
+    fixture.item(4)->setName(QStringLiteral("new"));
+    QCOMPARE(fixture.item(4)->name, QStringLiteral("new"));
+    fixture.undoRedo().undo();
 }
 
 void tst_TutorialItemData::setTranslationIdAssigns()

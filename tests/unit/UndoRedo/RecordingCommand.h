@@ -1,9 +1,12 @@
 #pragma once
 
 #include "UndoRedo/UndoMergeableCommand.h"
+#include "UndoRedo/UndoRedo.h"
 
 #include <QSet>
 #include <QStringList>
+
+#include <memory>
 
 /// A mergeable command that writes into a journal what is asked of it. What the commands under test leave
 /// behind is deleted with deleteLeftovers.
@@ -11,7 +14,7 @@ class RecordingCommand : public UndoMergeableCommand
 {
 public:
     RecordingCommand(const QString &name, int value, int type = 1)
-        : UndoMergeableCommand(value)
+        : UndoMergeableCommand(value, &UndoRedo::instance)
         , m_name(name)
         , m_type(type)
     {
@@ -37,9 +40,9 @@ public:
         setValue(newValue);
         return true;
     }
-    [[nodiscard]] UndoMergeableCommand *clone() const override
+    [[nodiscard]] std::unique_ptr<UndoMergeableCommand> clone() const override
     {
-        return new RecordingCommand(m_name, value().toInt(), m_type);
+        return std::make_unique<RecordingCommand>(m_name, value().toInt(), m_type);
     }
 
     static QStringList &journal()

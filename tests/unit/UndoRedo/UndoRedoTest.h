@@ -36,7 +36,7 @@ protected:
     void single(const QString &name, int value)
     {
         m_undoRedo->beginSingle(name);
-        m_undoRedo->addCommand(new RecordingCommand(name, value));
+        m_undoRedo->addCommand(std::make_unique<RecordingCommand>(name, value));
         m_undoRedo->endSingle();
     }
 

@@ -41,7 +41,7 @@ void tst_UndoMergeableCommand::init()
 {
     m_undoRedo = std::make_unique<UndoRedo>();
     UndoRedo::publish(m_undoRedo.get());
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("any")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("any")));
     QVERIFY(m_undoRedo->mergeable());
     RecordingCommand::journal().clear();
 }

@@ -125,7 +125,7 @@ void tst_UndoRedo::theInvokablesWorkByName()
     QVERIFY(QMetaObject::invokeMethod(object, "beginSingle", Q_ARG(QString, QStringLiteral("move"))));
     QVERIFY(QMetaObject::invokeMethod(object, "inTransaction", Q_RETURN_ARG(bool, inTransaction)));
     QVERIFY(inTransaction);
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     QVERIFY(QMetaObject::invokeMethod(object, "endSingle"));
     QString last;
     QVERIFY(QMetaObject::invokeMethod(object, "lastTransactionName", Q_RETURN_ARG(QString, last)));
@@ -157,8 +157,8 @@ void tst_UndoRedo::aSecondObjectLeavesTheInstanceAlone()
 
 void tst_UndoRedo::theMarkerCannotBeRedone()
 {
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("b")));
     QSignalSpy canRedoChanged(m_undoRedo.get(), &UndoRedo::canRedoChanged);
     m_undoRedo->undoAndMakeUnredoable();
     QVERIFY(m_undoRedo->canUndo());
@@ -175,7 +175,7 @@ void tst_UndoRedo::theMarkerCannotBeRedone()
 
 void tst_UndoRedo::redoPassesTheMarkerWithoutAChange()
 {
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->undoAndMakeUnredoable();
     RecordingCommand::journal().clear();
     m_undoRedo->redo();
@@ -188,7 +188,7 @@ void tst_UndoRedo::redoPassesTheMarkerWithoutAChange()
 void tst_UndoRedo::onlyTheLastTenStepsAreKept()
 {
     for (int i = 0; i < 12; ++i) {
-        m_undoRedo->addCommand(new PlainCommand(QString::number(i)));
+        m_undoRedo->addCommand(std::make_unique<PlainCommand>(QString::number(i)));
     }
     int steps = 0;
     while (m_undoRedo->canUndo()) {
@@ -201,7 +201,7 @@ void tst_UndoRedo::onlyTheLastTenStepsAreKept()
 void tst_UndoRedo::modifiedFollowsTheSavedPosition()
 {
     QVERIFY(!m_host.modified);
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     QVERIFY(m_host.modified);
     m_undoRedo->markSaved();
     QVERIFY(!m_host.modified);
@@ -209,7 +209,7 @@ void tst_UndoRedo::modifiedFollowsTheSavedPosition()
     QVERIFY(m_host.modified);
     m_undoRedo->redo();
     QVERIFY(!m_host.modified);
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("b")));
     QVERIFY(m_host.modified);
 }
 
@@ -223,15 +223,15 @@ void tst_UndoRedo::mergingIntoTheSavedStepDoesNotModify()
 
 void tst_UndoRedo::clearForgetsEverything()
 {
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->markSaved();
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("b")));
     m_undoRedo->undo();
     m_undoRedo->clear();
     QVERIFY(!m_undoRedo->canUndo());
     QVERIFY(!m_undoRedo->canRedo());
     QVERIFY(!m_host.modified);
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("c")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("c")));
     m_undoRedo->undo();
     QVERIFY(!m_host.modified); // the empty history is the saved position
 }
@@ -248,7 +248,7 @@ void tst_UndoRedo::worksWithoutAHost()
     m_undoRedo->setHost(nullptr);
     m_undoRedo->beginSequence(QStringLiteral("s"));
     m_undoRedo->endSequence();
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->undoAndMakeUnredoable();
     m_undoRedo->markSaved();
     m_undoRedo->clear();
@@ -260,7 +260,7 @@ void tst_UndoRedo::signalsForwardTheState()
 {
     QSignalSpy canUndoChanged(m_undoRedo.get(), &UndoRedo::canUndoChanged);
     QSignalSpy canRedoChanged(m_undoRedo.get(), &UndoRedo::canRedoChanged);
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     QCOMPARE(canUndoChanged.last().first().toBool(), true);
     m_undoRedo->undo();
     QCOMPARE(canUndoChanged.last().first().toBool(), false);
@@ -278,7 +278,7 @@ void tst_UndoRedo::callsAreLoggedWithTheirNumbers()
 {
     LogCapture log;
     m_undoRedo->beginSequence(QStringLiteral("s"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->endSequence();
     m_undoRedo->beginSingle(QStringLiteral("t"));
     m_undoRedo->endSingle();

@@ -25,8 +25,8 @@ void tst_UndoSequences::aSequenceIsOneStep()
 {
     m_undoRedo->beginSequence(QStringLiteral("s"));
     QVERIFY(m_undoRedo->inTransaction());
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("b")));
     m_undoRedo->endSequence();
     QVERIFY(!m_undoRedo->inTransaction());
     QCOMPARE(m_undoRedo->lastTransactionName(), QStringLiteral("s"));
@@ -40,14 +40,14 @@ void tst_UndoSequences::aSequenceIsOneStep()
 void tst_UndoSequences::sequencesNest()
 {
     m_undoRedo->beginSequence(QStringLiteral("outer"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     LogCapture log;
     m_undoRedo->beginSequence(QStringLiteral("inner"));
     QVERIFY(log.contains(line("beginSequence", 182, QStringLiteral("Assertion failed: !m_inTransaction"))));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("b")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("b")));
     m_undoRedo->endSequence();
     QVERIFY(m_undoRedo->inTransaction());
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("c")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("c")));
     QVERIFY(!log.contains(QStringLiteral("childCount")));
     m_undoRedo->endSequence();
     const QStringList counts = log.lines().filter(QStringLiteral(" UndoRedo::endSequence 211 0x"));
@@ -67,7 +67,7 @@ void tst_UndoSequences::anEmptySequenceLeavesNothingToUndoOrRedo()
     QVERIFY(!m_host.modified);
     QCOMPARE(m_host.notes, QStringList{QString()});
 
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->beginSequence(QStringLiteral("s"));
     m_undoRedo->endSequence();
     QVERIFY(m_undoRedo->canUndo());
@@ -108,7 +108,7 @@ void tst_UndoSequences::anEmptySequenceInsideAnotherIsACommandOfIt()
 
 void tst_UndoSequences::anEmptySequenceClearsTheRedoSide()
 {
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->undo();
     QVERIFY(m_undoRedo->canRedo());
     m_undoRedo->beginSequence(QStringLiteral("s"));
@@ -119,7 +119,7 @@ void tst_UndoSequences::anEmptySequenceClearsTheRedoSide()
 void tst_UndoSequences::anEmptySequenceOnAFullStackStays()
 {
     for (int i = 0; i < 10; ++i) {
-        m_undoRedo->addCommand(new PlainCommand(QString::number(i)));
+        m_undoRedo->addCommand(std::make_unique<PlainCommand>(QString::number(i)));
     }
     m_undoRedo->beginSequence(QStringLiteral("s"));
     m_undoRedo->endSequence();
@@ -133,7 +133,7 @@ void tst_UndoSequences::anEmptySequenceOnAFullStackStays()
 
 void tst_UndoSequences::endingWhatNeverBeganIsHarmless()
 {
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("a")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("a")));
     m_undoRedo->endSequence();
     m_undoRedo->endSingle();
     QVERIFY(m_undoRedo->canUndo());
@@ -146,7 +146,7 @@ void tst_UndoSequences::aTransactionInsideAnotherIsLogged()
     LogCapture log;
     m_undoRedo->beginSingle(QStringLiteral("a"));
     QVERIFY(log.contains(line("beginSingle", 237, QStringLiteral("Assertion failed: !m_inTransaction"))));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("p")));
     m_undoRedo->endSingle();
     QVERIFY(!m_undoRedo->inTransaction());
     m_undoRedo->endSequence();

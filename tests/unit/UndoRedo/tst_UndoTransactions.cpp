@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+#include <utility>
+
 /// Single transactions, and what is folded into the step before.
 class tst_UndoTransactions : public UndoRedoTest
 {
@@ -98,11 +100,11 @@ void tst_UndoTransactions::theNamelessTransactionHasTheEmptyName()
 void tst_UndoTransactions::theVeryFirstTransactionMayMergeWhenItHasNoName()
 {
     // There was no transaction before: its name is empty too, and no time lies between.
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 1));
     LogCapture log;
     m_undoRedo->beginSingle();
     QVERIFY(log.contains(line("beginSingle", 245, QStringLiteral("may be merged"))));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 2));
     m_undoRedo->endSingle();
     m_undoRedo->undo();
     QVERIFY(!m_undoRedo->canUndo());
@@ -113,7 +115,7 @@ void tst_UndoTransactions::aSequenceIsATransactionToGoOnWith()
     single(QStringLiteral("a"), 1);
     m_now = m_now.addSecs(5);
     m_undoRedo->beginSequence(QStringLiteral("a"));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 2));
     m_undoRedo->endSequence();
     m_now = m_now.addMSecs(999); // since the sequence began
     single(QStringLiteral("a"), 3);
@@ -155,10 +157,10 @@ void tst_UndoTransactions::theFirstCommandIsPushedAndTheNextMerges()
 {
     m_undoRedo->beginSingle(QStringLiteral("a"));
     QVERIFY(!m_undoRedo->mergeable());
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 1));
     QVERIFY(m_undoRedo->mergeable());
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("y"), 3));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 2));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("y"), 3));
     m_undoRedo->endSingle();
     QVERIFY(m_undoRedo->mergeable());
     QCOMPARE(RecordingCommand::journal(), (QStringList{QStringLiteral("redo x=1"), QStringLiteral("redo x=2"),
@@ -172,13 +174,13 @@ void tst_UndoTransactions::theFirstCommandIsPushedAndTheNextMerges()
 
 void tst_UndoTransactions::aFailedMergeIsTakenBackAndPushed()
 {
-    auto *stubborn = new RecordingCommand(QStringLiteral("x"), 1);
+    auto stubborn = std::make_unique<RecordingCommand>(QStringLiteral("x"), 1);
     stubborn->setMergeable(false);
     m_undoRedo->beginSingle(QStringLiteral("a"));
-    m_undoRedo->addCommand(stubborn);
+    m_undoRedo->addCommand(std::move(stubborn));
     m_host.notes.clear();
     RecordingCommand::journal().clear();
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 2));
     m_undoRedo->endSingle();
     QCOMPARE(RecordingCommand::journal(), (QStringList{QStringLiteral("redo x=2"), QStringLiteral("undo x=2"),
                                                        QStringLiteral("redo x=2")}));
@@ -190,8 +192,8 @@ void tst_UndoTransactions::aFailedMergeIsTakenBackAndPushed()
 void tst_UndoTransactions::theLastCommandOfASequenceTakesMerges()
 {
     m_undoRedo->beginSequence(QStringLiteral("a"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("p")));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 1));
     m_undoRedo->endSequence();
     single(QStringLiteral("a"), 2);
     RecordingCommand::journal().clear();
@@ -204,9 +206,9 @@ void tst_UndoTransactions::theLastCommandOfASequenceTakesMerges()
 void tst_UndoTransactions::nothingMergesIntoThePlainCommand()
 {
     m_undoRedo->beginSingle(QStringLiteral("a"));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("p")));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    m_undoRedo->addCommand(new PlainCommand(QStringLiteral("q")));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("p")));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 1));
+    m_undoRedo->addCommand(std::make_unique<PlainCommand>(QStringLiteral("q")));
     m_undoRedo->endSingle();
     for (int i = 0; i < 3; ++i) {
         QVERIFY(m_undoRedo->canUndo());
@@ -218,8 +220,8 @@ void tst_UndoTransactions::nothingMergesIntoThePlainCommand()
 void tst_UndoTransactions::commandsOutsideATransactionMergeOnTheStack()
 {
     // The stack asks its last command by itself when the ids are equal.
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 1));
-    m_undoRedo->addCommand(new RecordingCommand(QStringLiteral("x"), 2));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 1));
+    m_undoRedo->addCommand(std::make_unique<RecordingCommand>(QStringLiteral("x"), 2));
     m_undoRedo->undo();
     QVERIFY(!m_undoRedo->canUndo());
 }
