@@ -210,6 +210,7 @@ private:
             needSwitch(page.place, id);
         }
         needSelfSwitch(page.place, conditions.value(QLatin1String("selfSwitch")).toString(), Zero::kAllowed);
+        needRoute(page.place, page.page.value(QLatin1String("moveRoute")));
     }
 
     void needSelfSwitch(const QString &place, const QString &letter, Zero none = Zero::kNobody)
@@ -245,6 +246,23 @@ private:
         const QJsonArray events = objectsIn(sample::map(m_files, list.map), "events");
         if (target > 0 && !events.at(target).isObject()) {
             add(list.place, QStringLiteral("no event %1 on the map").arg(target));
+        }
+    }
+
+    void needDirection(const QString &place, int direction)
+    {
+        if (direction < 1 || direction > 4) {
+            add(place, QStringLiteral("no direction %1").arg(direction));
+        }
+    }
+
+    void needRoute(const QString &place, const QJsonValue &route)
+    {
+        const QJsonArray steps = objectsIn(route, "list");
+        for (const QJsonValue &step : steps) {
+            if (number(step, "code") != 0) {
+                needDirection(place, number(step, "code"));
+            }
         }
     }
 
@@ -284,9 +302,11 @@ private:
             break;
         case 201:
             needCell(list.place, parameter(1), parameter(2), parameter(3));
+            needDirection(list.place, parameter(4));
             break;
         case 205:
             needMover(list, parameter(0));
+            needRoute(list.place, parameters.at(1));
             break;
         case 301:
             need(list.place, "Troops", parameter(1));

@@ -131,6 +131,8 @@ void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
         "Map001.json event 1: no cell (13, 16) in map 1");
     row("switch of a page", "Map001.json", "events/1/pages/0/conditions/switchId", 99,
         "no name for switch 99");
+    row("direction of a patrol", "Map001.json", "events/11/pages/0/moveRoute/list/0/code", 5,
+        "Map001.json event 11: no direction 5");
     row("self switch of a page", "Map001.json", "events/1/pages/0/conditions/selfSwitch", QStringLiteral("E"),
         "no self switch \"E\"");
 }
@@ -163,6 +165,10 @@ void tst_SampleReferences::finds_a_reference_in_a_list_of_commands_data()
     QTest::newRow("row") << command(201, {0, 3, 1, 9, 1, 0}) << "no cell (1, 9) in map 3";
     QTest::newRow("left of all") << command(201, {0, 3, -1, 1, 1, 0}) << "no cell (-1, 1) in map 3";
     QTest::newRow("mover") << command(205, {99, route}) << "no event 99 on the map";
+    QTest::newRow("direction") << command(201, {0, 3, 1, 1, 9, 0}) << "no direction 9";
+    const QJsonValue sideways =
+        QJsonObject{{QStringLiteral("list"), QJsonArray{QJsonObject{{QStringLiteral("code"), 5}}}}};
+    QTest::newRow("direction of a route") << command(205, {-1, sideways}) << "no direction 5";
     QTest::newRow("troop") << command(301, {0, 9, true, false}) << "no entry 9 in Troops";
     QTest::newRow("goods") << command(302, {1, 9, 0, 0, false}) << "no entry 9 in Weapons";
     QTest::newRow("further goods") << command(605, {2, 9, 0, 0}) << "no entry 9 in Armors";
