@@ -56,6 +56,9 @@ void tst_LogLevels::of_the_link_and_its_commands()
     };
     send("fromServer ja_JP");
     send("start 0 0 800 600");
+    send("indicator update 1 2 MainWindow hint 7 0");
+    send("showTooltip text 100 100");
+    send("tutorialList");
     send("state show");
     send("tutorial TutorialStep1");
     send("tutorial TutorialList");
@@ -74,23 +77,39 @@ void tst_LogLevels::of_the_link_and_its_commands()
     QVERIFY(host.waitForEnd());
 
     const QString manager = QStringLiteral("TutorialManager::");
-    compareLevels(
-        host, QStringLiteral("debug"),
-        {QStringLiteral("main 122"), manager + QStringLiteral("TutorialManager 210"),
-         manager + QStringLiteral("TutorialManager 247"), manager + QStringLiteral("onStateChanged 527"),
-         manager + QStringLiteral("onConnected 408"), manager + QStringLiteral("send 1396"),
-         manager + QStringLiteral("onReceived 905"), manager + QStringLiteral("onReceived 921"),
-         manager + QStringLiteral("onReceived 672"), manager + QStringLiteral("onReceived 971"),
-         manager + QStringLiteral("timerEvent 427"), manager + QStringLiteral("timerEvent 460"),
-         manager + QStringLiteral("setApplicationWindowSize 596"),
-         manager + QStringLiteral("getExistsFilename 1402"),
-         manager + QStringLiteral("getExistsFilename 1405"), manager + QStringLiteral("onDisconnected 414"),
-         manager + QStringLiteral("requestClose 1535")});
+    compareLevels(host, QStringLiteral("debug"),
+                  {QStringLiteral("main 122"),
+                   manager + QStringLiteral("TutorialManager 210"),
+                   manager + QStringLiteral("TutorialManager 247"),
+                   manager + QStringLiteral("onStateChanged 527"),
+                   manager + QStringLiteral("onConnected 408"),
+                   manager + QStringLiteral("send 1396"),
+                   manager + QStringLiteral("onReceived 905"),
+                   manager + QStringLiteral("onReceived 921"),
+                   manager + QStringLiteral("onReceived 672"),
+                   manager + QStringLiteral("onReceived 971"),
+                   manager + QStringLiteral("timerEvent 427"),
+                   manager + QStringLiteral("timerEvent 460"),
+                   manager + QStringLiteral("setApplicationWindowSize 596"),
+                   manager + QStringLiteral("getExistsFilename 1402"),
+                   manager + QStringLiteral("getExistsFilename 1405"),
+                   manager + QStringLiteral("onDisconnected 414"),
+                   manager + QStringLiteral("requestClose 1535"),
+                   manager + QStringLiteral("applyTranslation 1885"),
+                   manager + QStringLiteral("applyTranslation 1928"),
+                   QStringLiteral("TutorialEditor::Manager::Manager 276"),
+                   QStringLiteral("TutorialEditor::Manager::getScenario 414"),
+                   QStringLiteral("TutorialIndicator::setTargetWindowOffset 102"),
+                   QStringLiteral("TutorialIndicator::init 139"),
+                   QStringLiteral("EditorTooltip::show 74"),
+                   QStringLiteral("DataSupport::readFile 137"),
+                   QStringLiteral("DataSupport::readFile 141")});
     compareLevels(host, QStringLiteral("warning"),
                   {manager + QStringLiteral("onReadyRead 368"), manager + QStringLiteral("onReadyRead 390"),
                    manager + QStringLiteral("onReadyRead 396"),
                    manager + QStringLiteral("loadAndFeedback 1477"),
-                   manager + QStringLiteral("onReceived 989"), manager + QStringLiteral("onReceived 1001")});
+                   manager + QStringLiteral("onReceived 989"), manager + QStringLiteral("onReceived 1001"),
+                   QStringLiteral("UndoRedo::UndoRedo 34")});
 }
 
 void tst_LogLevels::without_a_host()
