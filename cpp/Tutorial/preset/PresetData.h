@@ -11,10 +11,9 @@
 /// The most bytes that the data files of one step may have together, and the most characters by which
 /// translating may make them longer.
 ///
-/// A log line is what sets it: it may hold a text twice, where a byte that is no UTF-8 becomes three bytes
-/// and each of these four characters, "\\xEF". These 24 characters take up to four bytes each in the system's
-/// encoding, and all of them have to fit a byte array, which ends below 2 GiB.
-inline constexpr std::size_t kMostPresetBytes = std::size_t(1) << 24;
+/// An answer holds up to seven characters for one of these, as "\\u0001", and they take three bytes each
+/// for a moment, which has to fit a byte array of less than 2 GiB. Log lines that would not fit are cut.
+inline constexpr std::size_t kMostPresetBytes = std::size_t(1) << 25;
 
 /// The step directories ("step1", "step2", ...) directly under @p patchRoot, in ascending order of their
 /// numbers. The order of directories with equal numbers is open.
