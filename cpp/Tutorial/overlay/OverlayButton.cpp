@@ -102,8 +102,9 @@ void draw(QPainter *painter, const QStyleOptionButton &option, const QWidget *bu
     painter->setFont(fitted(painter->font(), option.text, room.size()));
     painter->setPen(colors.caption);
     const bool pressed = option.state.testFlag(QStyle::State_Sunken);
-    painter->drawText(pressed ? room.translated(0, 1) : room, Qt::AlignCenter | Qt::TextShowMnemonic,
-                      option.text);
+    // Clipped at the room, a caption that is too large would look like one that fits.
+    painter->drawText(pressed ? room.translated(0, 1) : room,
+                      Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, option.text);
     painter->restore();
 }
 
