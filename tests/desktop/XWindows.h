@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BoundedTries.h"
+
 #include <QImage>
 #include <QPoint>
 #include <QRect>
