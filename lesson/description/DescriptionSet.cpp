@@ -129,18 +129,18 @@ QVector<ControlDescription> DescriptionSet::controlsIn(const QString &key) const
     const WindowDescription window = m_windows.value(key);
     QVector<ControlDescription> controls = window.controls;
     for (const PopupDescription &popup : window.popups) {
-        for (ControlDescription entry : popup.controls) {
-            entry.name = popup.name + QLatin1Char('/') + entry.name;
+        for (const ControlDescription &entry : popup.controls) {
             controls.append(entry);
+            controls.last().name = popup.name + QLatin1Char('/') + entry.name;
         }
     }
     for (const WindowDescription &part : m_windows) {
         if (part.kind != WindowDescription::Kind::kPart || part.owner != key) {
             continue;
         }
-        for (ControlDescription control : part.controls) {
-            control.geometry.translate(part.place);
+        for (const ControlDescription &control : part.controls) {
             controls.append(control);
+            controls.last().geometry.translate(part.place);
         }
     }
     return controls;
