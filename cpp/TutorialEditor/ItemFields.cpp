@@ -11,6 +11,7 @@ using Number = ItemField::Number;
 using Text = ItemField::Text;
 using Flag = ItemField::Flag;
 
+// The length is given as only g++ can count it while it compiles.
 constexpr ItemFields kFields{{
     {"translationId", Number{&ItemValues::translationId, -1}},
     {"x", Number{&ItemValues::x, -9999}},
@@ -19,7 +20,7 @@ constexpr ItemFields kFields{{
     {"condition", Text{&ItemValues::condition, {}}},
     {"hint", Text{&ItemValues::hint, {}}},
     {"hint2", Text{&ItemValues::hint2, {}}},
-    {"icon", Text{&ItemValues::icon, QLatin1String("click")}},
+    {"icon", Text{&ItemValues::icon, QLatin1String("click", 5)}},
     {"jump", Number{&ItemValues::jump, -1}},
     {"jumpNo", Number{&ItemValues::jumpNo, -1}},
     {"command", Text{&ItemValues::command, {}}},
