@@ -242,7 +242,7 @@ void tst_PatchMaker::progressIsTold()
     QString error;
     QVERIFY(PatchMaker::makePatch(
         {}, randomBytes(random, size), patch, error,
-        [&told, size](std::size_t done, std::size_t all) { told << (all == size ? done : size + 1); }));
+        [&told](std::size_t done, std::size_t all) { told << (all == size ? done : size + 1); }));
     QCOMPARE(told.size(), 4);
     QCOMPARE(told.constFirst(), std::size_t(0));
     QVERIFY(std::is_sorted(told.cbegin(), told.cend()) && told.constLast() <= size);
