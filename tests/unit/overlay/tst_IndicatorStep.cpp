@@ -201,10 +201,11 @@ void TestIndicatorStep::initShowsTheButtonsOfTheStep()
     m_indicator->init(!next, !yesNo);
     LogCapture log;
     m_indicator->init(next, yesNo);
-    QCOMPARE(log.debugs().size(), 1);
-    QVERIFY(
-        log.debugs().constFirst().endsWith(QStringLiteral("TutorialIndicator::init 139 %1 %2")
-                                               .arg(QVariant(next).toString(), QVariant(yesNo).toString())));
+    // Some platforms make a window active when it is shown, which has a line of its own.
+    const QStringList lines = log.debugs().filter(QStringLiteral("TutorialIndicator::init "));
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(lines.constFirst().endsWith(QStringLiteral("TutorialIndicator::init 139 %1 %2")
+                                            .arg(QVariant(next).toString(), QVariant(yesNo).toString())));
     QCOMPARE(TestIndicator::next()->isVisible(), next);
     QCOMPARE(TestIndicator::yes()->isVisible(), yesNo);
     QCOMPARE(TestIndicator::no()->isVisible(), yesNo);
