@@ -256,12 +256,11 @@ QVector<qint64> FakeHost::sortedHeartbeatGaps()
     return gaps;
 }
 
-void FakeHost::probe(const QString &specification)
+void FakeHost::probe(const QString &argument)
 {
     QProcessEnvironment environment = m_process.processEnvironment();
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(PROBE_FOLDER));
-    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
-                       QStringLiteral("tutorialprobe:") + specification);
+    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("tutorialprobe:") + argument);
     environment.insert(QStringLiteral("TUTORIAL_PROBE_FILE"), m_folder.filePath(QStringLiteral("probe")));
     m_process.setProcessEnvironment(environment);
 }

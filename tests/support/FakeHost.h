@@ -90,7 +90,7 @@ public:
     [[nodiscard]] QVector<qint64> sortedHeartbeatGaps();
 
     /// Loads the probe into the program, see ProgramProbe. To be called before it starts.
-    void probe(const QString &specification = QString());
+    void probe(const QString &argument = QString());
     /// What the probe has written up to now, a line each.
     [[nodiscard]] QStringList probed() const;
 

@@ -32,8 +32,8 @@ QString truth(const QVariant &value)
 
 } // namespace
 
-ProgramProbe::ProgramProbe(const QString &specification)
-    : m_specification(specification)
+ProgramProbe::ProgramProbe(const QString &argument)
+    : m_argument(argument)
 {
     // The program makes its objects before it enters the event loop.
     QTimer::singleShot(0, this, &ProgramProbe::watch);
@@ -48,7 +48,7 @@ void ProgramProbe::watch()
     }
     connect(m_manager, methodOf(m_manager, "currentWindowKeyChanged()"), this,
             methodOf(this, "writeWindowKey()"));
-    if (m_specification == QLatin1String("history")) {
+    if (m_argument == QLatin1String("history")) {
         tryHistory();
     }
     write(QStringLiteral("watching"));
@@ -96,8 +96,8 @@ void ProgramProbe::write(const QString &line) const
     }
 }
 
-QObject *ProgramProbePlugin::create(const QString &key, const QString &specification)
+QObject *ProgramProbePlugin::create(const QString &key, const QString &argument)
 {
     Q_UNUSED(key)
-    return new ProgramProbe(specification);
+    return new ProgramProbe(argument);
 }

@@ -7,13 +7,13 @@
 /// loads it into the program when the environment asks for it; the test reads what it writes to a file.
 ///
 /// It says "watching", then a line for each change of the window stack: the key that is on top. With the
-/// specification "history" it first tries what the undo history does to the manager, see its definition.
+/// argument "history" it first tries what the undo history does to the manager, see its definition.
 class ProgramProbe : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ProgramProbe(const QString &specification);
+    explicit ProgramProbe(const QString &argument);
 
 private Q_SLOTS:
     void writeWindowKey();
@@ -23,7 +23,7 @@ private:
     void tryHistory();
     void write(const QString &line) const;
 
-    QString m_specification;
+    QString m_argument;
     QObject *m_manager = nullptr;
 };
 
@@ -33,5 +33,5 @@ class ProgramProbePlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "ProgramProbe.json")
 
 public:
-    QObject *create(const QString &key, const QString &specification) override;
+    QObject *create(const QString &key, const QString &argument) override;
 };
