@@ -48,10 +48,24 @@ void Overlays::createOrShowLog()
     }
 }
 
-void Overlays::showBubble() const
+void Overlays::showStep(const IndicatorUpdate &update) const
 {
     if (m_indicator) {
-        m_indicator->showTooltip();
+        m_indicator->showStep(update);
+    }
+}
+
+void Overlays::moveTarget(const QPoint &target) const
+{
+    if (m_indicator) {
+        m_indicator->setNewXy(target.x(), target.y());
+    }
+}
+
+void Overlays::aim(const QPoint &target, const QString &windowKey) const
+{
+    if (m_indicator) {
+        m_indicator->setTargetWindowOffset(target.x(), target.y(), windowKey, m_indicator->arrowVisible());
     }
 }
 

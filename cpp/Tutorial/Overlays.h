@@ -6,6 +6,7 @@
 
 class EditorTooltip;
 class OverlayHost;
+struct IndicatorUpdate;
 class TutorialIndicator;
 class TutorialLog;
 
@@ -34,8 +35,15 @@ public:
     /// Makes the log overlay, or shows the one there is.
     void createOrShowLog();
 
+    /// Nothing happens below while there is no indicator.
+    /// Shows a step, also without a playback.
+    void showStep(const IndicatorUpdate &update) const;
+    /// Moves the target, screen pixels, and nothing else.
+    void moveTarget(const QPoint &target) const;
+    /// Moves the target of the step, screen pixels, to another window or place; the arrow stays on or off.
+    void aim(const QPoint &target, const QString &windowKey) const;
+
     /// The functions below skip what does not exist, and allocate nothing when nothing changes.
-    void showBubble() const;
     void showIndicator() const;
     void showLog() const;
     void showEditorTooltip() const;

@@ -3,7 +3,6 @@
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
 #include "Tutorial/localisation/Translators.h"
-#include "Tutorial/overlay/TutorialIndicator.h"
 #include "TutorialEditor/ItemClipboard.h"
 #include "TutorialEditor/ScenarioSource.h"
 #include "UndoRedo/UndoRedo.h"
@@ -206,9 +205,7 @@ void TutorialManager::updateIndicatorXyWindowKey(int x, int y, const QString &wi
 {
     send(CommandFields::join({CommandWords::kIndicator, CommandWords::kUpdateXyWindowKey, QString::number(x),
                               QString::number(y), windowKey}));
-    if (TutorialIndicator *indicator = m_overlays.indicator()) {
-        indicator->setTargetWindowOffset(x, y, windowKey, indicator->arrowVisible());
-    }
+    m_overlays.aim(QPoint(x, y), windowKey);
 }
 
 void TutorialManager::setModified(bool modified)

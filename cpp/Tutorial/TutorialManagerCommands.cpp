@@ -2,11 +2,11 @@
 
 #include "Tutorial/TutorialManager.h"
 
+#include "Tutorial/IndicatorFields.h"
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
 #include "Tutorial/localisation/Translators.h"
 #include "Tutorial/overlay/EditorTooltip.h"
-#include "Tutorial/overlay/TutorialIndicator.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/LogLine.h"
 
@@ -15,11 +15,6 @@
 namespace {
 
 constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
-
-// Bits of the flags of an indicator update.
-constexpr int kNextFlag = 1;
-constexpr int kYesNoFlag = 2;
-constexpr int kArrowFlag = 4;
 
 // Far beyond any screen, and small enough that sums of two stay numbers.
 constexpr int kFarthest = 1 << 29;
@@ -108,21 +103,11 @@ void TutorialManager::tutorialList(const CommandFields & /*fields*/)
 
 void TutorialManager::indicator(const CommandFields &fields)
 {
-    TutorialIndicator *indicator = m_overlays.indicator();
-    if (!indicator) {
-        return;
-    }
     const QString subCommand = fields.text(1);
     if (subCommand == CommandWords::kUpdate) {
-        const int flags = fields.number(6);
-        indicator->setTargetWindowOffset(fields.number(2), fields.number(3), fields.text(4),
-                                         (flags & kArrowFlag) != 0);
-        indicator->setHint(fields.text(5));
-        indicator->init((flags & kNextFlag) != 0, (flags & kYesNoFlag) != 0);
-        indicator->setIconKind(fields.number(7));
-        m_overlays.showBubble();
+        m_overlays.showStep(indicatorUpdate(fields));
     } else if (subCommand == CommandWords::kUpdateXy) {
-        indicator->setNewXy(fields.number(2), fields.number(3));
+        m_overlays.moveTarget(QPoint(fields.number(2), fields.number(3)));
     }
 }
 

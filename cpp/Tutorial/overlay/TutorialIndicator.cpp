@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 
 #include "Tutorial/overlay/HintDocument.h"
+#include "Tutorial/overlay/IndicatorUpdate.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/OverlayWindow.h"
@@ -17,7 +18,6 @@ namespace {
 
 constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialIndicator.cpp";
 constexpr int kTickMs = 100;
-constexpr int kNoTarget = -9999;
 constexpr int kTextTop = 56;
 constexpr int kMirroredArrowLeft = 256;
 constexpr int kButtonWidth = 64;
@@ -97,6 +97,15 @@ TutorialIndicator::~TutorialIndicator()
     }
 }
 
+void TutorialIndicator::showStep(const IndicatorUpdate &update)
+{
+    setTargetWindowOffset(update.target.x(), update.target.y(), update.windowKey, update.arrow);
+    setHint(update.hint);
+    init(update.next, update.yesNo);
+    setIconKind(update.iconKind);
+    showTooltip();
+}
+
 void TutorialIndicator::setTargetWindowOffset(int x, int y, const QString &windowKey, bool arrowVisible)
 {
     logDebug(kSource, "TutorialIndicator::setTargetWindowOffset", 102) << x << y << windowKey << arrowVisible;
@@ -104,7 +113,7 @@ void TutorialIndicator::setTargetWindowOffset(int x, int y, const QString &windo
     m_windowKey = windowKey;
     m_offsetX = x;
     m_offsetY = y;
-    if (x == kNoTarget && y == kNoTarget) {
+    if (x == IndicatorUpdate::kNoTarget && y == IndicatorUpdate::kNoTarget) {
         m_arrowVisible = false;
         return;
     }

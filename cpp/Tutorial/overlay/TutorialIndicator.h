@@ -11,6 +11,7 @@
 class OverlayHost;
 class QPushButton;
 class TutorialTooltip;
+struct IndicatorUpdate;
 
 /// Marks the present step on the screen: moves the bubble's window with its arrow, icon and hint, and the
 /// buttons Next, Yes and No. The widget itself is never shown; it exists for its timer, its state and its
@@ -27,6 +28,9 @@ public:
     /// @p manager must outlive the indicator; it is not owned.
     TutorialIndicator(QWidget *parent, OverlayHost *manager);
     ~TutorialIndicator() override;
+
+    /// Shows @p update: its target, hint, buttons and icon, and the bubble's window.
+    void showStep(const IndicatorUpdate &update);
 
     /// Sets where the bubble goes; x and y both -9999 turn the arrow off and leave the target as it was.
     /// @p windowKey is recorded only.
