@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// What a lesson has to know of the editor that plays it: which windows are open, where they are, and what
 /// happens in them. The editor implements it once; LessonSession does the rest. All positions are global
 /// screen pixels as the windowing system counts them, without any scaling of the toolkit.
@@ -22,9 +24,10 @@ public:
     /// Keys of the open windows, last on top; an open popup is the key "Popup" on top.
     [[nodiscard]] virtual QStringList openWindows() const = 0;
 
-    /// Top left corner of the window's contents (without frame); the origin of the positions in a lesson. (0,
-    /// 0) for a window that is not open.
-    [[nodiscard]] virtual QPoint origin(const QString &windowKey) const = 0;
+    /// Top left corner of the window's contents (without frame); the origin of the positions in a lesson.
+    /// Nothing for a window that is not open. "ApplicationWindow" is the editor as a whole, and the empty key
+    /// the screen.
+    [[nodiscard]] virtual std::optional<QPoint> origin(const QString &windowKey) const = 0;
 
     /// Rectangle of the whole screen area of the editor.
     [[nodiscard]] virtual QRect screenRect() const = 0;

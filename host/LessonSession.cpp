@@ -113,12 +113,8 @@ std::optional<QPoint> LessonSession::bubbleTarget() const
         return {};
     }
     const Step &step = m_runner.step();
-    const QPoint origin = m_editor->origin(step.windowKey);
-    // (0, 0) is the answer for a window that is not open; only the screen has its origin there.
-    if (origin.isNull() && !step.windowKey.isEmpty()) {
-        return {};
-    }
-    return origin + QPoint(step.x, step.y);
+    const std::optional<QPoint> origin = m_editor->origin(step.windowKey);
+    return origin ? std::optional(*origin + QPoint(step.x, step.y)) : std::nullopt;
 }
 
 bool LessonSession::lacksWindow() const
@@ -212,7 +208,7 @@ void LessonSession::sendWindows()
     const QStringList keys = m_editor->openWindows();
     for (const QString &key : keys) {
         sendPush(key);
-        Q_EMIT sends(HostCommands::windowPosition(key, m_editor->origin(key)));
+        Q_EMIT sends(HostCommands::windowPosition(key, m_editor->origin(key).value_or(QPoint())));
     }
     m_applicationSize = QSize();
     sendApplicationSize();
@@ -222,7 +218,8 @@ void LessonSession::sendFirstPlace()
 {
     const QStringList keys = m_editor->openWindows();
     if (!keys.isEmpty()) {
-        const QRect contents(m_editor->origin(keys.constFirst()), m_editor->applicationSize());
+        const QPoint origin = m_editor->origin(keys.constFirst()).value_or(QPoint());
+        const QRect contents(origin, m_editor->applicationSize());
         sendPlace(contents.center() - LessonWords::kTip);
     }
 }

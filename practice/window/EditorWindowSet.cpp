@@ -193,10 +193,10 @@ QStringList EditorWindowSet::openWindows() const
     return m_popup != nullptr ? m_stack + QStringList{popupEntry()} : m_stack;
 }
 
-QPoint EditorWindowSet::origin(const QString &windowKey) const
+std::optional<QPoint> EditorWindowSet::origin(const QString &windowKey) const
 {
     if (windowKey == popupEntry() || windowKey == m_descriptions.popupKey())
-        return m_popup != nullptr ? m_popup->mapToGlobal(QPoint()) : QPoint();
+        return m_popup != nullptr ? std::optional(m_popup->mapToGlobal(QPoint())) : std::nullopt;
     if (!m_descriptions.contains(windowKey))
         return {};
     const WindowDescription &description = m_descriptions[windowKey];
@@ -204,7 +204,7 @@ QPoint EditorWindowSet::origin(const QString &windowKey) const
         return m_descriptions.contains(description.owner) ? origin(description.owner)
                                                           : screenRect().topLeft();
     const EditorWindow *window = m_windows[windowKey];
-    return window->isVisible() ? window->mapToGlobal(QPoint()) : QPoint();
+    return window->isVisible() ? std::optional(window->mapToGlobal(QPoint())) : std::nullopt;
 }
 
 QString EditorWindowSet::title(const QString &windowKey) const
@@ -281,7 +281,7 @@ void EditorWindowSet::hidePopup()
 
 void EditorWindowSet::tellPlace(const QString &key)
 {
-    Q_EMIT moved(key, origin(key));
+    Q_EMIT moved(key, origin(key).value_or(QPoint()));
 }
 
 void EditorWindowSet::tellPlaces(EditorWindow *window)

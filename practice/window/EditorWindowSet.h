@@ -28,7 +28,7 @@ public:
     bool open(const QString &windowKey) override;
     void close(const QString &windowKey) override;
     [[nodiscard]] QStringList openWindows() const override;
-    [[nodiscard]] QPoint origin(const QString &windowKey) const override;
+    [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override;
     [[nodiscard]] QString title(const QString &windowKey) const override;
     [[nodiscard]] QRect screenRect() const override;
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }

@@ -13,14 +13,15 @@ public:
     using HostEditor::HostEditor;
 
     QStringList m_stack = {QStringLiteral("MainWindow")};
-    QHash<QString, QPoint> m_origins = {{QStringLiteral("MainWindow"), QPoint(90, 190)}};
+    QHash<QString, QPoint> m_origins = {{QString(), QPoint()},
+                                        {QStringLiteral("MainWindow"), QPoint(90, 190)}};
 
     void open(const QString &windowKey)
     {
         m_stack.append(windowKey);
         m_origins.insert(windowKey, QPoint(300, 400));
         Q_EMIT pushed(windowKey);
-        Q_EMIT moved(windowKey, origin(windowKey));
+        Q_EMIT moved(windowKey, m_origins.value(windowKey));
         Q_EMIT happened({QStringLiteral("windowState"), windowKey, QStringLiteral("open"), windowKey});
     }
 
@@ -44,9 +45,10 @@ public:
     }
 
     [[nodiscard]] QStringList openWindows() const override { return m_stack; }
-    [[nodiscard]] QPoint origin(const QString &windowKey) const override
+    [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override
     {
-        return m_origins.value(windowKey);
+        const auto found = m_origins.constFind(windowKey);
+        return found == m_origins.constEnd() ? std::nullopt : std::optional(*found);
     }
     [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
     [[nodiscard]] QSize applicationSize() const override { return {1100, 720}; }

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void tellsEachStepWithItsFlagsAndIcon();
     void pointsIntoWindows_data();
     void pointsIntoWindows();
+    void pointsIntoAWindowAtTheCornerOfTheScreen();
     void followsTheWindowOfTheStep();
     void pointsAgainWhenTheWindowComesBack();
     void passesOnWhatTheWindowsDo();
@@ -200,6 +201,14 @@ void tst_LessonSession::pointsIntoWindows()
                          .arg(y)
                          .arg(key)));
     QCOMPARE(sent().constLast(), QStringLiteral("indicator|update|%1|%2||4|0").arg(position, key));
+}
+
+void tst_LessonSession::pointsIntoAWindowAtTheCornerOfTheScreen()
+{
+    m_windows->move(QStringLiteral("MainWindow"), QPoint(0, 0));
+    m_session->receive(startCommand(kPointing));
+    QCOMPARE(m_session->bubbleTarget(), QPoint(10, -20));
+    QVERIFY(!m_session->lacksWindow());
 }
 
 void tst_LessonSession::followsTheWindowOfTheStep()
