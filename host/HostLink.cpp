@@ -25,6 +25,9 @@ HostLink::HostLink(const QString &companionProgram, const QString &key, const QS
     m_process.setStandardOutputFile(QProcess::nullDevice());
     connect(&m_process, &QProcess::readyReadStandardError, this, &HostLink::onLogged);
     connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, &HostLink::lose);
+    // By the clock: the companion's own "alive" comes late behind an answer of many megabytes.
+    m_keepAlive.setInterval(kKeepAliveMs);
+    connect(&m_keepAlive, &QTimer::timeout, this, [this] { send(HostCommands::alive()); });
     m_silence.setSingleShot(true);
     m_silence.setInterval(kSilenceMs);
     connect(&m_silence, &QTimer::timeout, this, [this] {
@@ -70,6 +73,7 @@ bool HostLink::start(Failure *failure)
 void HostLink::stop()
 {
     m_expected = false;
+    m_keepAlive.stop();
     m_silence.stop();
     m_server.close();
     if (m_socket == nullptr) {
@@ -102,6 +106,7 @@ void HostLink::onNewConnection()
     socket->setParent(this);
     connect(socket, &QLocalSocket::readyRead, this, &HostLink::onReadyRead);
     connect(socket, &QLocalSocket::disconnected, this, &HostLink::lose);
+    m_keepAlive.start();
     m_silence.start();
     Q_EMIT connected();
     onReadyRead();
@@ -122,9 +127,7 @@ void HostLink::onReadyRead()
         Q_EMIT problemFound(problem);
     }
     for (const QString &command : result.commands) {
-        if (command == HostCommands::alive()) {
-            send(HostCommands::alive());
-        } else {
+        if (command != HostCommands::alive()) {
             Q_EMIT received(command);
         }
     }
@@ -145,6 +148,7 @@ void HostLink::lose()
         return;
     }
     m_expected = false;
+    m_keepAlive.stop();
     m_silence.stop();
     if (m_socket != nullptr) {
         m_socket->disconnect(this);

@@ -12,7 +12,8 @@
 /// The editor's end of the link: a local server of its own, the companion as a child process, and the one
 /// connection between them.
 ///
-/// start() may be called again after lost(). The destructor says goodbye and waits a moment for the
+/// While it is connected it keeps the companion alive, as long as the event loop of its thread runs. start()
+/// may be called again after lost() or stop(). The destructor says goodbye and waits a moment for the
 /// companion to end. When this process dies, the companion sees the connection break and ends too.
 class HostLink : public QObject
 {
@@ -41,7 +42,8 @@ public:
         QString reason;
     };
 
-    /// Listens and starts the companion. False, with @p failure filled, when one of the two fails.
+    /// Listens and starts the companion, and returns when it runs; connected() follows. False, with @p
+    /// failure filled, when one of the two fails.
     [[nodiscard]] bool start(Failure *failure);
 
     /// Sends "bye" and ends the connection; the companion ends by itself. No lost() follows.
@@ -54,12 +56,13 @@ public:
     void send(const QString &command);
 
     static constexpr int kSilenceMs = 5000;
+    /// How often the companion hears "alive"; it ends when it has heard nothing for 30 seconds.
+    static constexpr int kKeepAliveMs = 5000;
 
 Q_SIGNALS:
     /// The companion connected: greet it.
     void connected();
-    /// One command of the companion, fields separated by the byte 0x01. "alive" is answered here and not
-    /// passed on.
+    /// One command of the companion, fields separated by the byte 0x01; "alive" is not passed on.
     void received(const QString &command);
     /// The companion sent something that is no frame, or not a command.
     void problemFound(const QString &problem);
@@ -81,6 +84,7 @@ private:
     QProcess m_process;
     QPointer<QLocalSocket> m_socket;
     CompanionFrameReader m_reader;
+    QTimer m_keepAlive;
     QTimer m_silence;
     bool m_silent = false;
     /// Between start() and lost() or stop().
