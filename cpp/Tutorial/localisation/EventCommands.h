@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "Tutorial/localisation/TranslateText.h"
 
-#include "Tutorial/localisation/SampleTranslators.h"
+#include <QString>
 
 class QJsonArray;
 

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <functional>
+#include "Tutorial/localisation/TranslateText.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 class JsonWrapper;
-
-/// Gives the translation of a text in a context.
-using TranslateText = std::function<QString(const QString &context, const QString &text)>;
 
 // Each translator walks the JSON in `wrapper` in index order and replaces the texts that its name tells of. A
 // text is replaced when it is not empty and its translation is neither empty nor equal to it; null values are
