@@ -218,7 +218,7 @@ public:
     /// all.
     [[nodiscard]] Times measure(const SampleTable &table, const TranslateText &translate) const
     {
-        const QString whole = presetDataReply(m_last, m_program, table, translate);
+        const QString whole = presetData(m_last, m_program, table, translate);
         for (const QString &name : m_files) {
             if (!whole.contains(QStringLiteral("\"data/%1\":").arg(name))) {
                 qFatal("the answer lacks %s", qPrintable(name));
@@ -228,7 +228,7 @@ public:
         Times times;
         for (int round = 0; round < 25; ++round) {
             takeTurn(times.answer, [&] {
-                if (presetDataReply(m_last, m_program, table, translate).size() != whole.size()) {
+                if (presetData(m_last, m_program, table, translate).size() != whole.size()) {
                     qFatal("the answer is not whole");
                 }
             });

@@ -182,11 +182,13 @@ void TutorialManager::fromServer(const CommandFields &fields)
 void TutorialManager::requestPresetData(const CommandFields &fields)
 {
     logDebug(kSource, "TutorialManager::onReceived", 971) << fields.all();
-    const QString reply = presetDataReply(
+    QString answer = presetData(
         fields.text(1), QCoreApplication::applicationDirPath(), m_presetTranslations,
         [this](const QString &context, const QString &text) { return m_texts.sampleText(context, text); });
-    if (!reply.isNull()) {
-        send(reply);
+    if (!answer.isNull()) {
+        // In place: an answer may take a gigabyte.
+        answer.prepend(CommandFields::join({CommandWords::kFeedbackPresetData, QString()}));
+        send(answer);
     }
 }
 

@@ -42,6 +42,11 @@ inline constexpr QLatin1String kPop = word("pop");
 
 // To the host editor, beside "start", "tutorialList" and "indicator".
 inline constexpr QLatin1String kAlive = word("alive");
+inline constexpr QLatin1String kFeedbackPresetData = word("feedbackPresetData");
+/// The learner's answers, by the button that was clicked.
+inline constexpr QLatin1String kNext = word("next");
+inline constexpr QLatin1String kYes = word("yes");
+inline constexpr QLatin1String kNo = word("no");
 inline constexpr QLatin1String kTutorialReady = word("tutorialReady");
 inline constexpr QLatin1String kUpdateXyWindowKey = word("updateXYWindowKey");
 

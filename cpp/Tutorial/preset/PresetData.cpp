@@ -15,6 +15,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include "Tutorial/localisation/SampleTranslators.h"
 #include "Tutorial/preset/JsonString.h"
 #include "tool/DataSupport.h"
 #include "tool/JsonWrapper.h"
@@ -25,7 +26,6 @@ namespace {
 
 constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
 constexpr const char *kFunction = "TutorialManager::onReceived";
-constexpr QChar kFieldSeparator(0x01);
 
 /// The text of each data file at one step, by the name of its patch file.
 using FileTexts = QHash<QString, std::string>;
@@ -161,14 +161,14 @@ TranslateText limited(const TranslateText &translate, qint64 &room)
     };
 }
 
-/// The command with all of @p texts, translated; null, with a warning, when a file is not named as a patch.
-QString replyOf(const FileTexts &texts, const SampleTable &table, const TranslateText &translate)
+/// All of @p texts, translated, as JSON; null, with a warning, when a file is not named as a patch.
+QString jsonOf(const FileTexts &texts, const SampleTable &table, const TranslateText &translate)
 {
     static const QRegularExpression patchPattern(QStringLiteral("^(.*)-patch$"));
     const RowFinder &rowFinder = RowFinder::of(table);
     qint64 room = kMostPresetBytes;
     const TranslateText translateLimited = limited(translate, room);
-    QString reply = QStringLiteral("feedbackPresetData") + kFieldSeparator + QLatin1Char('{');
+    QString json = QStringLiteral("{");
     for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
         const QRegularExpressionMatch match = patchPattern.match(it.key());
         if (!match.hasMatch()) {
@@ -179,14 +179,14 @@ QString replyOf(const FileTexts &texts, const SampleTable &table, const Translat
         JsonWrapper wrapper(QString::fromStdString(it.value()));
         runSampleRows(rowFinder.rowsFor(dataFile), translateLimited, wrapper);
         if (it != texts.cbegin()) {
-            reply += QLatin1Char(',');
+            json += QLatin1Char(',');
         }
-        appendJsonString(reply, QStringLiteral("data/%1").arg(dataFile));
-        reply += QLatin1Char(':');
-        appendJsonString(reply, wrapper.toJson(false));
+        appendJsonString(json, QStringLiteral("data/%1").arg(dataFile));
+        json += QLatin1Char(':');
+        appendJsonString(json, wrapper.toJson(false));
     }
-    reply += QLatin1Char('}');
-    return texts.isEmpty() ? QString() : reply;
+    json += QLatin1Char('}');
+    return texts.isEmpty() ? QString() : json;
 }
 
 } // namespace
@@ -208,8 +208,8 @@ QStringList listPresetSteps(const QString &patchRoot)
     return steps;
 }
 
-QString presetDataReply(const QString &stepName, const QString &applicationDirectory,
-                        const SampleTable &table, const TranslateText &translate)
+QString presetData(const QString &stepName, const QString &applicationDirectory, const SampleTable &table,
+                   const TranslateText &translate)
 {
     static const QRegularExpression stepPattern(QStringLiteral("^step(\\d+)$"));
 
@@ -226,7 +226,7 @@ QString presetDataReply(const QString &stepName, const QString &applicationDirec
     // A text becomes JSON and text again, in several copies.
     try {
         const std::optional<FileTexts> texts = replayChain(patchRoot, stepName);
-        return texts ? replyOf(*texts, table, translate) : QString();
+        return texts ? jsonOf(*texts, table, translate) : QString();
     } catch (const TextsTooLong &) {
         logWarning(kSource, kFunction, 1057) << "Too much data for an answer with the texts of" << stepName;
         return {};

@@ -6,7 +6,7 @@
 #include <QStringList>
 
 #include "Tutorial/localisation/SampleTable.h"
-#include "Tutorial/localisation/SampleTranslators.h"
+#include "Tutorial/localisation/TranslateText.h"
 
 /// The most bytes that the data files of one step may have together, and the most characters by which
 /// translating may make them longer.
@@ -19,12 +19,11 @@ inline constexpr std::size_t kMostPresetBytes = std::size_t(1) << 25;
 /// numbers. The order of directories with equal numbers is open.
 [[nodiscard]] QStringList listPresetSteps(const QString &patchRoot);
 
-/// The game project's data files as they stand at the step @p stepName, translated, as one complete command
-/// for the host: "feedbackPresetData", the field separator, and a JSON object of "data/NAME" to the file's
-/// text.
+/// The game project's data files as they stand at the step @p stepName, translated: a JSON object of
+/// "data/NAME" to the file's text.
 ///
 /// The files come from the chain of patches under "resource/patch" (or else "tutorial-win/resource/patch") in
 /// @p applicationDirectory. Null when nothing is to be sent: there is no file at that step, or something
 /// failed, which is logged as a warning.
-[[nodiscard]] QString presetDataReply(const QString &stepName, const QString &applicationDirectory,
-                                      const SampleTable &table, const TranslateText &translate);
+[[nodiscard]] QString presetData(const QString &stepName, const QString &applicationDirectory,
+                                 const SampleTable &table, const TranslateText &translate);

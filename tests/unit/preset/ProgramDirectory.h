@@ -10,8 +10,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-inline constexpr QChar kFieldSeparator(0x01);
-
 inline void appendNumber(QByteArray &bytes, quint32 number, int width)
 {
     for (int i = 0; i < width; ++i) {
@@ -82,17 +80,12 @@ public:
 
     [[nodiscard]] QString reply(const QString &step) const
     {
-        return presetDataReply(step, path(), buildSampleTable(), translation);
+        return presetData(step, path(), buildSampleTable(), translation);
     }
     /// The members of the reply, empty when there is none.
     [[nodiscard]] QJsonObject replyObject(const QString &step) const
     {
-        const QString text = reply(step);
-        const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
-        if (!text.startsWith(head)) {
-            return {};
-        }
-        return QJsonDocument::fromJson(text.mid(head.size()).toUtf8()).object();
+        return QJsonDocument::fromJson(reply(step).toUtf8()).object();
     }
 
 private:

@@ -11,7 +11,7 @@ class tst_PresetTexts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void replyIsOneCommand();
+    void replyIsOneJsonObject();
     void tableKeysAreRegularExpressions();
     void onlyRowsForLessonsRun();
     void fileOutsideTheTableIsNotTranslated();
@@ -25,20 +25,18 @@ private Q_SLOTS:
     void textIsCompactAndEscaped();
 };
 
-void tst_PresetTexts::replyIsOneCommand()
+void tst_PresetTexts::replyIsOneJsonObject()
 {
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("{ \"a\" : \"x/y\" }\n"));
-    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
-                                         QStringLiteral(R"({"data/Other.json":"{\"a\":\"x/y\"}"})"));
+    QCOMPARE(program.reply(step(1)), QStringLiteral(R"({"data/Other.json":"{\"a\":\"x/y\"}"})"));
     program.addFile(step(1), QStringLiteral("Second.json-patch"), insertPatch("[]"));
     const QString first = QStringLiteral(R"("data/Other.json":"{\"a\":\"x/y\"}")");
     const QString second = QStringLiteral(R"("data/Second.json":"[]")");
-    const QString head = QStringLiteral("feedbackPresetData") + kFieldSeparator;
     const QString reply = program.reply(step(1));
     // The members stand in no order of their own.
-    QVERIFY(reply == head + QStringLiteral("{%1,%2}").arg(first, second) ||
-            reply == head + QStringLiteral("{%1,%2}").arg(second, first));
+    QVERIFY(reply == QStringLiteral("{%1,%2}").arg(first, second) ||
+            reply == QStringLiteral("{%1,%2}").arg(second, first));
 }
 
 void tst_PresetTexts::tableKeysAreRegularExpressions()
@@ -96,7 +94,7 @@ void tst_PresetTexts::eachRequestUsesItsOwnTable()
         const SampleTable table{
             {file,
              {{QStringLiteral("translateKeyText"), QStringLiteral("tutorial"), QStringLiteral("T"), key}}}};
-        const QString reply = presetDataReply(step(1), program.path(), table, translation);
+        const QString reply = presetData(step(1), program.path(), table, translation);
         return reply.section(QLatin1Char(':'), 1).remove(QLatin1Char('\\'));
     };
     const QString a = QStringLiteral(R"("{"a":"T:x","b":"y"}"})");
@@ -141,7 +139,7 @@ void tst_PresetTexts::lackOfMemoryEndsTheRequest()
     program.addFile(step(1), QStringLiteral("Items.json-patch"),
                     insertPatch(R"([{"name":"a","description":"b"}])"));
     LogCapture log;
-    const QString reply = presetDataReply(
+    const QString reply = presetData(
         step(1), program.path(), buildSampleTable(),
         [](const QString & /*context*/, const QString & /*text*/) -> QString { throw std::bad_alloc(); });
     QVERIFY(reply.isNull());
@@ -162,10 +160,10 @@ void tst_PresetTexts::textsThatMakeTooMuchDataEndTheRequest()
     program.addFile(step(1), QStringLiteral("System.json-patch"),
                     insertPatch("{\"switches\":[\"" + switches + "\"]}"));
     const auto isAnswered = [&program](int length) {
-        return !presetDataReply(step(1), program.path(), buildSampleTable(),
-                                [length](const QString & /*context*/, const QString & /*text*/) {
-                                    return QString(length, QLatin1Char('b'));
-                                })
+        return !presetData(step(1), program.path(), buildSampleTable(),
+                           [length](const QString & /*context*/, const QString & /*text*/) {
+                               return QString(length, QLatin1Char('b'));
+                           })
                     .isNull();
     };
     constexpr int kMost = int(kMostPresetBytes) / kTexts + 1;
@@ -215,8 +213,7 @@ void tst_PresetTexts::textIsCompactAndEscaped()
         QString::fromUtf8(QJsonDocument::fromJson(text.toUtf8()).toJson(QJsonDocument::Compact));
     const QString escaped =
         QString::fromUtf8(QJsonDocument(QJsonArray{compact}).toJson(QJsonDocument::Compact));
-    QCOMPARE(program.reply(step(1)), QStringLiteral("feedbackPresetData") + kFieldSeparator +
-                                         QStringLiteral("{\"data/O \\\"th\\\".json\":") +
+    QCOMPARE(program.reply(step(1)), QStringLiteral("{\"data/O \\\"th\\\".json\":") +
                                          escaped.mid(1, escaped.size() - 2) + QLatin1Char('}'));
 }
 
