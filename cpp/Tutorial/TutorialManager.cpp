@@ -8,6 +8,7 @@
 #include "UndoRedo/UndoRedo.h"
 #include "tool/DataSupport.h"
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -15,7 +16,7 @@
 
 namespace {
 
-constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr const char *kSource = LogSource::kTutorialManager;
 constexpr int kTickMs = 100;
 constexpr int kVisibilityIntervalMs = 10;
 

@@ -9,12 +9,13 @@
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 #include <QCoreApplication>
 
 namespace {
 
-constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr const char *kSource = LogSource::kTutorialManager;
 
 // Far beyond any screen, and small enough that sums of two stay numbers.
 constexpr int kFarthest = 1 << 29;

@@ -6,12 +6,13 @@
 #include "Tutorial/link/CommandWords.h"
 #include "Tutorial/link/Frame.h"
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 #include <cstdlib>
 
 namespace {
 
-constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr const char *kSource = LogSource::kTutorialManager;
 constexpr int kLoggedCharacters = 128;
 
 } // namespace

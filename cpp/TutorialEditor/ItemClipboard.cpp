@@ -8,6 +8,7 @@
 #include "TutorialEditor/UsedValues.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 #include <QJsonArray>
 #include <QStringList>
@@ -16,8 +17,7 @@
 
 namespace {
 
-// The clipboard is part of the manager to the outside, and so are its lines in the log.
-constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr const char *kSource = LogSource::kTutorialManager;
 
 using Node = TreeItem<TutorialItemData>;
 

@@ -3,10 +3,11 @@
 #include <QCoreApplication>
 
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
+constexpr const char *kSource = LogSource::kTutorialManager;
 
 } // namespace
 

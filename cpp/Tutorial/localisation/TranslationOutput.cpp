@@ -1,13 +1,13 @@
 #include "Tutorial/localisation/TranslationOutput.h"
 
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 
 #include <utility>
 
 namespace {
 
-// Saving translations is part of the manager to the outside, and so are its lines in the log.
-constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\TutorialManager.cpp)";
+constexpr const char *kSource = LogSource::kTutorialManager;
 constexpr int kIndent = 4;
 
 } // namespace

@@ -20,11 +20,12 @@
 #include "tool/DataSupport.h"
 #include "tool/JsonWrapper.h"
 #include "tool/LogLine.h"
+#include "tool/LogSource.h"
 #include "tool/StringPatch.h"
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp";
+constexpr const char *kSource = LogSource::kTutorialManager;
 constexpr const char *kFunction = "TutorialManager::onReceived";
 
 /// The text of each data file at one step, by the name of its patch file.
