@@ -14,6 +14,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include <cstdlib>
+
 namespace {
 
 constexpr const char *kSource = LogSource::kTutorialManager;
@@ -31,6 +33,7 @@ QString defaultLocale()
 
 TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve translationPath)
     : QObject(parent)
+    , m_connection(std::make_unique<HostConnection>())
     , m_overlays(*this)
     , m_timer(this)
     , m_document(std::make_unique<TutorialEditor::Manager>(&m_texts, &UndoRedo::instance))
@@ -47,11 +50,15 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
         deleteLater();
         return;
     }
-    connectToHost(key);
+    connect(m_connection.get(), &HostConnection::received, this, &TutorialManager::received);
+    connect(m_connection.get(), &HostConnection::bye, this, &TutorialManager::stopPlayback);
+    connect(m_connection.get(), &HostConnection::ended, this, &TutorialManager::requestClose);
+    connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);
+    m_connection->connectToHost(key);
 
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &TutorialManager::onApplicationStateChanged);
-    m_aliveTimerId = startTimer(kTickMs, Qt::CoarseTimer);
+    startTimer(kTickMs, Qt::CoarseTimer);
     const bool loaded = m_texts.loadSecond();
     logDebug(kSource, "TutorialManager::TutorialManager", 247) << loaded;
 
@@ -64,14 +71,7 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
 TutorialManager::~TutorialManager()
 {
     logDebug(kSource, "TutorialManager::~TutorialManager", 268);
-    if (m_socket) {
-        // A socket that goes down while it is deleted must not end the process from in here.
-        m_socket->disconnect(this);
-        delete m_socket;
-    }
-    if (m_aliveTimerId != 0) {
-        killTimer(m_aliveTimerId);
-    }
+    m_connection.reset();
     m_document.reset();
     if (UndoRedo::instance()) {
         UndoRedo::instance()->setHost(nullptr);
@@ -104,7 +104,13 @@ void TutorialManager::clearMimeData()
 bool TutorialManager::connected()
 {
     send(CommandWords::kTutorialReady);
-    return m_connected;
+    return m_connection->connected();
+}
+
+void TutorialManager::requestClose()
+{
+    logDebug(kSource, "TutorialManager::requestClose", 1535);
+    std::exit(EXIT_SUCCESS);
 }
 
 bool TutorialManager::isMakingSupported()
@@ -285,18 +291,7 @@ void TutorialManager::timerEvent(QTimerEvent * /*event*/)
         logDebug(kSource, "TutorialManager::timerEvent", 460)
             << "m_logHideIgnoreTimeout now" << due.ignoreShowTicks;
     }
-    if (m_socket) {
-        switch (m_keepAlive.tick()) {
-        case KeepAlive::Due::kClose:
-            requestClose();
-            break;
-        case KeepAlive::Due::kSendAlive:
-            send(CommandWords::kAlive);
-            break;
-        case KeepAlive::Due::kNothing:
-            break;
-        }
-    }
+    m_connection->tick();
 }
 
 void TutorialManager::onTimerTimeout()

@@ -4,8 +4,7 @@
 #include "Tutorial/HostWindows.h"
 #include "Tutorial/Overlays.h"
 #include "Tutorial/PlaybackVisibility.h"
-#include "Tutorial/link/FrameReader.h"
-#include "Tutorial/link/KeepAlive.h"
+#include "Tutorial/link/HostConnection.h"
 #include "Tutorial/localisation/SampleTable.h"
 #include "Tutorial/localisation/ScenarioTexts.h"
 #include "Tutorial/localisation/TranslationOutput.h"
@@ -34,7 +33,7 @@ class CommandFields;
 /// their work without it and are tested without it.
 ///
 /// Everything here runs in the main thread. Positions are global screen pixels.
-class TutorialManager final : public QObject, public OverlayHost, public UndoHost, private FrameReader::Sink
+class TutorialManager final : public QObject, public OverlayHost, public UndoHost
 {
     Q_OBJECT
     Q_PROPERTY(bool modified READ modified WRITE setModified NOTIFY modifiedChanged)
@@ -106,7 +105,7 @@ public:
     [[nodiscard]] QString undoNote() const { return m_undoNote; }
     void setUndoNote(const QString &note) override { m_undoNote = note; }
 
-    void send(const QString &text) override;
+    void send(const QString &text) override { m_connection->send(text); }
     void onOverlayActivated() override;
     void updateOverlayVisibility() override;
     [[nodiscard]] bool running() const override { return m_visibility.running(); }
@@ -132,21 +131,20 @@ public Q_SLOTS:
     void onApplicationStateChanged(Qt::ApplicationState state);
     /// Runs one command of the host editor; an unknown word is ignored.
     void onReceived(const QString &text);
-    void onReadyRead();
-    void onConnected();
-    void onDisconnected();
+    void onReadyRead() { m_connection->onReadyRead(); }
+    void onConnected() { m_connection->onConnected(); }
+    void onDisconnected() { m_connection->onDisconnected(); }
     void onTimerTimeout();
-    void onStateChanged(QLocalSocket::LocalSocketState socketState);
+    void onStateChanged(QLocalSocket::LocalSocketState socketState)
+    {
+        m_connection->onStateChanged(socketState);
+    }
 
 protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
     struct Command;
-
-    void connectToHost(const QString &key);
-    bool command(const QString &text) override;
-    void problem(FrameReader::Problem problem, const QByteArray &bytes) override;
 
     void startPlayback();
     void stopPlayback();
@@ -169,13 +167,10 @@ private:
     void showTooltip(const CommandFields &fields);
     void hideTooltip(const CommandFields &fields);
 
+    std::unique_ptr<HostConnection> m_connection;
     Overlays m_overlays;
     HostWindows m_windows;
-    QLocalSocket *m_socket = nullptr;
     PlaybackVisibility m_visibility;
-    int m_aliveTimerId = 0;
-    KeepAlive m_keepAlive;
-    bool m_connected = false;
     QRect m_hostRect;
     bool m_modified = false;
     QString m_undoNote;
@@ -189,7 +184,6 @@ private:
     QString m_tutorialName;
     QString m_locale;
     QString m_locale2;
-    FrameReader m_frames;
     SampleTable m_presetTranslations;
     TutorialFont m_font;
 };
