@@ -2,7 +2,6 @@
 
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
-#include "Tutorial/localisation/Translators.h"
 #include "TutorialEditor/ItemClipboard.h"
 #include "TutorialEditor/ScenarioSource.h"
 #include "UndoRedo/UndoRedo.h"
@@ -24,11 +23,6 @@ constexpr int kVisibilityIntervalMs = 10;
 
 TutorialManager *theInstance = nullptr;
 
-QString defaultLocale()
-{
-    return QStringLiteral("en_US");
-}
-
 } // namespace
 
 TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve translationPath)
@@ -36,13 +30,15 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
     , m_connection(std::make_unique<HostConnection>())
     , m_overlays(*this)
     , m_timer(this)
-    , m_document(std::make_unique<TutorialEditor::Manager>(&m_texts, &UndoRedo::instance))
+    , m_document(std::make_unique<TutorialEditor::Manager>(&m_languages.texts(), &UndoRedo::instance))
     , m_translationOutput(translationPath ? std::move(translationPath) : &TutorialManager::getExistsFilename)
 {
     theInstance = this;
-    m_locale = SystemService::getDebugLocale();
-    m_locale2 = m_locale == QLatin1String("ja_JP") ? defaultLocale() : QStringLiteral("ja_JP");
-    logDebug(kSource, "TutorialManager::TutorialManager", 210) << m_locale << m_locale2;
+    logDebug(kSource, "TutorialManager::TutorialManager", 210) << locale() << locale2();
+    connect(&m_languages, &Languages::localeChanged, this, &TutorialManager::localeChanged);
+    connect(&m_languages, &Languages::locale2Changed, this, &TutorialManager::locale2Changed);
+    connect(&m_languages, &Languages::fontLocaleChanged, this,
+            [this](const QString &locale) { m_font.setLocale(locale); });
 
     const QStringList arguments = QCoreApplication::arguments();
     const QString key = arguments.size() >= 2 ? arguments.at(1) : QStringLiteral("20200318-0017");
@@ -59,7 +55,7 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &TutorialManager::onApplicationStateChanged);
     startTimer(kTickMs, Qt::CoarseTimer);
-    const bool loaded = m_texts.loadSecond();
+    const bool loaded = m_languages.texts().loadSecond();
     logDebug(kSource, "TutorialManager::TutorialManager", 247) << loaded;
 
     m_timer.setInterval(kVisibilityIntervalMs);
@@ -128,7 +124,8 @@ void TutorialManager::copyTutorialItemList(const QList<int> &idList)
 
 QList<int> TutorialManager::pasteTutorialItemList()
 {
-    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document.get(), m_texts);
+    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document.get(),
+                                m_languages.texts());
 }
 
 QString TutorialManager::save()
@@ -145,7 +142,7 @@ QString TutorialManager::getTutorialJson()
         return {};
     }
     QStringList errors;
-    QString list = m_texts.translateList(QString::fromUtf8(bytes), &errors);
+    QString list = m_languages.texts().translateList(QString::fromUtf8(bytes), &errors);
     if (!errors.isEmpty()) {
         logWarning(kSource, "TutorialManager::getTutorialJson", 1447) << errors;
     }
@@ -164,7 +161,8 @@ void TutorialManager::unload()
 void TutorialManager::startFromId(int id)
 {
     QStringList errors;
-    const QString text = m_texts.translateScript(scenarioArray(m_document->getScenario(false)), &errors);
+    const QString text =
+        m_languages.texts().translateScript(scenarioArray(m_document->getScenario(false)), &errors);
     send(
         CommandFields::join({CommandWords::kStart, QLatin1String("var scenario = ") + text + QLatin1Char(';'),
                              QString::number(id)}));
@@ -181,7 +179,7 @@ QString TutorialManager::loadTutorial(const QString &filename)
     if (baseName.endsWith(QLatin1String(".js"))) {
         baseName.chop(3);
     }
-    m_texts.setContext(baseName);
+    m_languages.texts().setContext(baseName);
     if (m_tutorialName != baseName) {
         m_tutorialName = baseName;
         Q_EMIT tutorialNameChanged();
@@ -200,7 +198,7 @@ QString TutorialManager::feedbackTranslation()
 
 bool TutorialManager::saveTranslation() const
 {
-    return m_translationOutput.save(m_locale, m_locale2);
+    return m_translationOutput.save(locale(), locale2());
 }
 
 QPoint TutorialManager::getCursorPos()
@@ -235,33 +233,6 @@ void TutorialManager::setMimeType(const QString &mimeType)
     if (m_mimeType != mimeType) {
         m_mimeType = mimeType;
         Q_EMIT mimeTypeChanged();
-    }
-}
-
-void TutorialManager::setLocale(const QString &locale)
-{
-    if (m_locale == locale) {
-        return;
-    }
-    logDebug(kSource, "TutorialManager::setLocale", 2204) << locale;
-    SystemService::setDebugLocale(locale);
-    const QString oldLocale = m_locale;
-    m_locale = locale;
-    m_font.setLocale(locale);
-    setLocale2(oldLocale);
-    const LoadedTranslator loaded = loadTranslator(locale, qApp);
-    logDebug(kSource, "TutorialManager::setLocale", 2215)
-        << QLatin1String(":/translations/") + locale << loaded.loaded;
-    QCoreApplication::installTranslator(loaded.translator);
-    Q_EMIT localeChanged();
-}
-
-void TutorialManager::setLocale2(const QString &locale)
-{
-    if (m_locale2 != locale) {
-        logDebug(kSource, "TutorialManager::setLocale2", 2226) << locale;
-        m_locale2 = locale;
-        Q_EMIT locale2Changed();
     }
 }
 

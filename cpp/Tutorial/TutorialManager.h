@@ -1,12 +1,11 @@
 #pragma once
 
-#include "SystemService/SystemService.h"
 #include "Tutorial/HostWindows.h"
 #include "Tutorial/Overlays.h"
 #include "Tutorial/PlaybackVisibility.h"
 #include "Tutorial/link/HostConnection.h"
+#include "Tutorial/localisation/Languages.h"
 #include "Tutorial/localisation/SampleTable.h"
-#include "Tutorial/localisation/ScenarioTexts.h"
 #include "Tutorial/localisation/TranslationOutput.h"
 #include "Tutorial/overlay/OverlayHost.h"
 #include "TutorialEditor/Manager.h"
@@ -95,11 +94,11 @@ public:
     void setModified(bool modified) override;
     [[nodiscard]] QString mimeType() const { return m_mimeType; }
     [[nodiscard]] QString tutorialName() const { return m_tutorialName; }
-    [[nodiscard]] QString locale() const { return m_locale; }
+    [[nodiscard]] QString locale() const { return m_languages.locale(); }
     /// Changes the language of all texts and stores it for later runs; the old one becomes locale2.
-    void setLocale(const QString &locale);
-    [[nodiscard]] QString locale2() const { return m_locale2; }
-    void setLocale2(const QString &locale);
+    void setLocale(const QString &locale) { m_languages.setLocale(locale); }
+    [[nodiscard]] QString locale2() const { return m_languages.locale2(); }
+    void setLocale2(const QString &locale) { m_languages.setLocale2(locale); }
 
     /// What the last undo or redo was about, for an author's tool; empty for nothing.
     [[nodiscard]] QString undoNote() const { return m_undoNote; }
@@ -168,6 +167,7 @@ private:
     void hideTooltip(const CommandFields &fields);
 
     std::unique_ptr<HostConnection> m_connection;
+    Languages m_languages;
     Overlays m_overlays;
     HostWindows m_windows;
     PlaybackVisibility m_visibility;
@@ -176,14 +176,11 @@ private:
     QString m_undoNote;
     QString m_pendingJumpLink;
     QTimer m_timer;
-    ScenarioTexts m_texts;
     std::unique_ptr<TutorialEditor::Manager> m_document;
     TranslationOutput m_translationOutput;
     QMimeData m_mimeData;
     QString m_mimeType;
     QString m_tutorialName;
-    QString m_locale;
-    QString m_locale2;
     SampleTable m_presetTranslations;
     TutorialFont m_font;
 };

@@ -5,7 +5,6 @@
 #include "Tutorial/IndicatorFields.h"
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
-#include "Tutorial/localisation/Translators.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/LogLine.h"
@@ -166,16 +165,7 @@ void TutorialManager::loadAndFeedback(const CommandFields &fields)
 void TutorialManager::fromServer(const CommandFields &fields)
 {
     logDebug(kSource, "TutorialManager::onReceived", 905) << fields.all();
-    QString locale = fields.text(1);
-    if (locale.isEmpty() || locale == QLatin1String("-")) {
-        locale = QStringLiteral("en_US");
-    } else {
-        m_font.setLocale(locale);
-    }
-    const LoadedTranslator loaded = loadTranslator(locale, qApp);
-    logDebug(kSource, "TutorialManager::onReceived", 921)
-        << QLatin1String(":/translations/") + locale << loaded.loaded;
-    QCoreApplication::installTranslator(loaded.translator);
+    m_languages.greet(fields.text(1));
     m_overlays.createLog();
     m_overlays.createIndicator();
 }
@@ -183,9 +173,10 @@ void TutorialManager::fromServer(const CommandFields &fields)
 void TutorialManager::requestPresetData(const CommandFields &fields)
 {
     logDebug(kSource, "TutorialManager::onReceived", 971) << fields.all();
-    QString answer = presetData(
-        fields.text(1), QCoreApplication::applicationDirPath(), m_presetTranslations,
-        [this](const QString &context, const QString &text) { return m_texts.sampleText(context, text); });
+    QString answer = presetData(fields.text(1), QCoreApplication::applicationDirPath(), m_presetTranslations,
+                                [this](const QString &context, const QString &text) {
+                                    return m_languages.texts().sampleText(context, text);
+                                });
     if (!answer.isNull()) {
         // In place: an answer may take a gigabyte.
         answer.prepend(CommandFields::join({CommandWords::kFeedbackPresetData, QString()}));

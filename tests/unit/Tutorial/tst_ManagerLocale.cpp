@@ -17,13 +17,8 @@ private Q_SLOTS:
     void starts_with_the_locale_that_was_chosen_last_data();
     void starts_with_the_locale_that_was_chosen_last();
     void changes_the_locale();
-    void announces_no_second_locale_that_stays();
-    void looks_texts_up_in_the_newest_catalogue_first();
-    void loads_nothing_for_the_second_locale();
     void hands_the_locale_to_the_font();
     void hands_the_locale_of_a_greeting_to_the_font();
-    void takes_a_locale_without_a_catalogue();
-    void ignores_the_current_locale();
 
 private:
     std::unique_ptr<ManagerFixture> m_fixture;
@@ -101,49 +96,6 @@ void tst_ManagerLocale::changes_the_locale()
                           source + QStringLiteral("setLocale 2215 \":/translations/ja_JP\" true")}));
 }
 
-void tst_ManagerLocale::announces_no_second_locale_that_stays()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    manager->setLocale2(QStringLiteral("en_US"));
-    QSignalSpy locale(manager, &TutorialManager::localeChanged);
-    QSignalSpy locale2(manager, &TutorialManager::locale2Changed);
-    manager->setLocale(QStringLiteral("ja_JP"));
-    QCOMPARE(manager->locale2(), QStringLiteral("en_US"));
-    QCOMPARE(locale.size(), 1);
-    QCOMPARE(locale2.size(), 0);
-}
-
-void tst_ManagerLocale::looks_texts_up_in_the_newest_catalogue_first()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    const auto next = [] {
-        return QCoreApplication::translate("TutorialIndicator", "Next");
-    };
-    manager->setLocale(QStringLiteral("ja_JP"));
-    const QString japanese = next();
-    QCOMPARE(japanese, QStringLiteral("\u6b21\u3078"));
-    manager->setLocale(QStringLiteral("zh_CN"));
-    const QString chinese = next();
-    QVERIFY(chinese != japanese && chinese != QLatin1String("Next"));
-    // A locale without a catalogue leaves the word to those before it.
-    manager->setLocale(QStringLiteral("Raw"));
-    QCOMPARE(next(), chinese);
-}
-
-void tst_ManagerLocale::loads_nothing_for_the_second_locale()
-{
-    const auto translators = [] {
-        return qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly).size();
-    };
-    const int before = translators();
-    LogCapture log;
-    m_fixture->manager->setProperty("locale2", QStringLiteral("zh_CN"));
-    QCOMPARE(m_fixture->manager->locale2(), QStringLiteral("zh_CN"));
-    QCOMPARE(translators(), before);
-    QCOMPARE(QCoreApplication::translate("TutorialIndicator", "Next"), QStringLiteral("Next"));
-    QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale2 2226 \"zh_CN\"")));
-}
-
 void tst_ManagerLocale::hands_the_locale_to_the_font()
 {
     TutorialManager *manager = m_fixture->manager.get();
@@ -173,26 +125,6 @@ void tst_ManagerLocale::hands_the_locale_of_a_greeting_to_the_font()
     QCOMPARE(manager->overlayFont().family(), latin);
     // The locale of the texts is another matter.
     QCOMPARE(manager->locale(), QStringLiteral("en_US"));
-}
-
-void tst_ManagerLocale::takes_a_locale_without_a_catalogue()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    LogCapture log;
-    manager->setLocale(QStringLiteral("Raw"));
-    QCOMPARE(manager->locale(), QStringLiteral("Raw"));
-    QVERIFY(log.contains(QStringLiteral("TutorialManager::setLocale 2215 \":/translations/Raw\" false")));
-}
-
-void tst_ManagerLocale::ignores_the_current_locale()
-{
-    TutorialManager *manager = m_fixture->manager.get();
-    QSignalSpy locale(manager, &TutorialManager::localeChanged);
-    QSignalSpy locale2(manager, &TutorialManager::locale2Changed);
-    manager->setLocale(QStringLiteral("en_US"));
-    manager->setLocale2(QStringLiteral("ja_JP"));
-    QCOMPARE(locale.size() + locale2.size(), 0);
-    QCOMPARE(manager->locale2(), QStringLiteral("ja_JP"));
 }
 
 int main(int argc, char **argv)
