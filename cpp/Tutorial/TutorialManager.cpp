@@ -2,10 +2,7 @@
 
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
-#include "TutorialEditor/ItemClipboard.h"
-#include "TutorialEditor/ScenarioSource.h"
 #include "UndoRedo/UndoRedo.h"
-#include "tool/DataSupport.h"
 #include "tool/LogLine.h"
 #include "tool/LogSource.h"
 
@@ -14,6 +11,7 @@
 #include <QGuiApplication>
 
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -28,13 +26,17 @@ TutorialManager *theInstance = nullptr;
 TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve translationPath)
     : QObject(parent)
     , m_connection(std::make_unique<HostConnection>())
+    , m_authoring(
+          std::make_unique<AuthoringCalls>(m_languages, &UndoRedo::instance, std::move(translationPath)))
     , m_overlays(*this)
     , m_timer(this)
-    , m_document(std::make_unique<TutorialEditor::Manager>(&m_languages.texts(), &UndoRedo::instance))
-    , m_translationOutput(translationPath ? std::move(translationPath) : &TutorialManager::getExistsFilename)
 {
     theInstance = this;
     logDebug(kSource, "TutorialManager::TutorialManager", 210) << locale() << locale2();
+    connect(m_authoring.get(), &AuthoringCalls::modifiedChanged, this, &TutorialManager::modifiedChanged);
+    connect(m_authoring.get(), &AuthoringCalls::mimeTypeChanged, this, &TutorialManager::mimeTypeChanged);
+    connect(m_authoring.get(), &AuthoringCalls::tutorialNameChanged, this,
+            &TutorialManager::tutorialNameChanged);
     connect(&m_languages, &Languages::localeChanged, this, &TutorialManager::localeChanged);
     connect(&m_languages, &Languages::locale2Changed, this, &TutorialManager::locale2Changed);
     connect(&m_languages, &Languages::fontLocaleChanged, this,
@@ -68,7 +70,7 @@ TutorialManager::~TutorialManager()
 {
     logDebug(kSource, "TutorialManager::~TutorialManager", 268);
     m_connection.reset();
-    m_document.reset();
+    m_authoring.reset();
     if (UndoRedo::instance()) {
         UndoRedo::instance()->setHost(nullptr);
     }
@@ -91,12 +93,6 @@ QString TutorialManager::getCurrentWindowKey()
     return m_windows.current();
 }
 
-void TutorialManager::clearMimeData()
-{
-    m_mimeData.clear();
-    setMimeType(ItemClipboard::emptyMimeType());
-}
-
 bool TutorialManager::connected()
 {
     send(CommandWords::kTutorialReady);
@@ -114,93 +110,6 @@ bool TutorialManager::isMakingSupported()
     return false;
 }
 
-void TutorialManager::copyTutorialItemList(const QList<int> &idList)
-{
-    const std::optional<QByteArray> payload = ItemClipboard::copy(m_document->tree(), idList);
-    if (payload) {
-        setMimeData(ItemClipboard::mimeType(), *payload);
-    }
-}
-
-QList<int> TutorialManager::pasteTutorialItemList()
-{
-    return ItemClipboard::paste(m_mimeData.data(ItemClipboard::mimeType()), m_document.get(),
-                                m_languages.texts());
-}
-
-QString TutorialManager::save()
-{
-    return m_document->save();
-}
-
-QString TutorialManager::getTutorialJson()
-{
-    const QString path = getExistsFilename(QStringLiteral("qml/Tutorial/TutorialList.js"));
-    QByteArray bytes;
-    if (!DataSupport::readFile(path, bytes)) {
-        logWarning(kSource, "TutorialManager::getTutorialJson", 1421) << "Failed to load" << path;
-        return {};
-    }
-    QStringList errors;
-    QString list = m_languages.texts().translateList(QString::fromUtf8(bytes), &errors);
-    if (!errors.isEmpty()) {
-        logWarning(kSource, "TutorialManager::getTutorialJson", 1447) << errors;
-    }
-    return list;
-}
-
-void TutorialManager::unload()
-{
-    m_document->clear();
-    if (!m_tutorialName.isEmpty()) {
-        m_tutorialName.clear();
-        Q_EMIT tutorialNameChanged();
-    }
-}
-
-void TutorialManager::startFromId(int id)
-{
-    QStringList errors;
-    const QString text =
-        m_languages.texts().translateScript(scenarioArray(m_document->getScenario(false)), &errors);
-    send(
-        CommandFields::join({CommandWords::kStart, QLatin1String("var scenario = ") + text + QLatin1Char(';'),
-                             QString::number(id)}));
-}
-
-void TutorialManager::startFromId()
-{
-    startFromId(-1);
-}
-
-QString TutorialManager::loadTutorial(const QString &filename)
-{
-    QString baseName = filename.mid(filename.lastIndexOf(QLatin1Char('/')) + 1);
-    if (baseName.endsWith(QLatin1String(".js"))) {
-        baseName.chop(3);
-    }
-    m_languages.texts().setContext(baseName);
-    if (m_tutorialName != baseName) {
-        m_tutorialName = baseName;
-        Q_EMIT tutorialNameChanged();
-    }
-    return m_document->setContents(filename).join(QLatin1Char('\n'));
-}
-
-QString TutorialManager::feedbackTranslation()
-{
-    logDebug(kSource, "TutorialManager::feedbackTranslation", 1779);
-    if (!saveTranslation()) {
-        return tr("Failed to save translation.");
-    }
-    return m_document->save();
-}
-
-bool TutorialManager::saveTranslation() const
-{
-    return m_translationOutput.save(locale(), locale2());
-}
-
 QPoint TutorialManager::getCursorPos()
 {
     return QCursor::pos();
@@ -211,37 +120,6 @@ void TutorialManager::updateIndicatorXyWindowKey(int x, int y, const QString &wi
     send(CommandFields::join({CommandWords::kIndicator, CommandWords::kUpdateXyWindowKey, QString::number(x),
                               QString::number(y), windowKey}));
     m_overlays.aim(QPoint(x, y), windowKey);
-}
-
-void TutorialManager::setModified(bool modified)
-{
-    if (m_modified != modified) {
-        m_modified = modified;
-        Q_EMIT modifiedChanged();
-    }
-}
-
-void TutorialManager::setMimeData(const QString &mimeType, const QByteArray &data)
-{
-    m_mimeData.clear();
-    m_mimeData.setData(mimeType, data);
-    setMimeType(mimeType);
-}
-
-void TutorialManager::setMimeType(const QString &mimeType)
-{
-    if (m_mimeType != mimeType) {
-        m_mimeType = mimeType;
-        Q_EMIT mimeTypeChanged();
-    }
-}
-
-QString TutorialManager::getExistsFilename(const QString &relativeName)
-{
-    logDebug(kSource, "TutorialManager::getExistsFilename", 1402) << relativeName;
-    QString path = DataSupport::resourcePath(relativeName);
-    logDebug(kSource, "TutorialManager::getExistsFilename", 1405) << path;
-    return path;
 }
 
 void TutorialManager::timerEvent(QTimerEvent * /*event*/)

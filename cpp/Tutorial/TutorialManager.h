@@ -1,20 +1,18 @@
 #pragma once
 
+#include "Tutorial/AuthoringCalls.h"
 #include "Tutorial/HostWindows.h"
 #include "Tutorial/Overlays.h"
 #include "Tutorial/PlaybackVisibility.h"
 #include "Tutorial/link/HostConnection.h"
 #include "Tutorial/localisation/Languages.h"
 #include "Tutorial/localisation/SampleTable.h"
-#include "Tutorial/localisation/TranslationOutput.h"
 #include "Tutorial/overlay/OverlayHost.h"
-#include "TutorialEditor/Manager.h"
 #include "TutorialFont/TutorialFont.h"
 #include "UndoRedo/UndoHost.h"
 
 #include <QList>
 #include <QLocalSocket>
-#include <QMimeData>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -59,41 +57,41 @@ public:
     /// Key of the host editor's topmost window; "ApplicationWindow" when none is open.
     Q_INVOKABLE QString getCurrentWindowKey();
     /// Empties the item clipboard; mimeType becomes "Empty".
-    Q_INVOKABLE void clearMimeData();
+    Q_INVOKABLE void clearMimeData() { m_authoring->emptyClipboard(); }
     /// Tells the host editor that an author's tool is there. Whether the link has ever been up.
     Q_INVOKABLE bool connected();
     /// Always false: this build plays lessons.
     Q_INVOKABLE bool isMakingSupported();
     /// Copies items, folders with their children, to the item clipboard. An unknown id leaves it as it was.
-    Q_INVOKABLE void copyTutorialItemList(const QList<int> &idList);
+    Q_INVOKABLE void copyTutorialItemList(const QList<int> &idList) { m_authoring->copyItems(idList); }
     /// Adds the items of the clipboard at the end of the document. Their new ids, in order.
-    Q_INVOKABLE QList<int> pasteTutorialItemList();
+    Q_INVOKABLE QList<int> pasteTutorialItemList() { return m_authoring->pasteItems(); }
     /// Ends the process with exit status 0, at once.
     Q_INVOKABLE void requestClose();
     /// Writes the document to the file that it was loaded from. Empty, or a message for the author.
-    Q_INVOKABLE QString save();
+    Q_INVOKABLE QString save() { return m_authoring->save(); }
     /// The list of lessons as a JSON array with translated titles; empty when it cannot be read.
-    Q_INVOKABLE QString getTutorialJson();
+    Q_INVOKABLE QString getTutorialJson() { return m_authoring->lessonList(); }
     /// Drops the document and the undo history.
-    Q_INVOKABLE void unload();
+    Q_INVOKABLE void unload() { m_authoring->unload(); }
     /// Hands the document over to the host editor, to be played from the item with this id; -1 is the first.
-    Q_INVOKABLE void startFromId(int id);
-    Q_INVOKABLE void startFromId();
+    Q_INVOKABLE void startFromId(int id) { send(m_authoring->startCommand(id)); }
+    Q_INVOKABLE void startFromId() { startFromId(-1); }
     /// Loads a scenario file into the document. Empty, or one error a line.
-    Q_INVOKABLE QString loadTutorial(const QString &filename);
+    Q_INVOKABLE QString loadTutorial(const QString &filename) { return m_authoring->load(filename); }
     /// The mouse pointer.
     Q_INVOKABLE QPoint getCursorPos();
     /// Moves the indicator, here and in the host editor's record of the step.
     Q_INVOKABLE void updateIndicatorXyWindowKey(int x, int y, const QString &windowKey);
     /// Writes the translation sources of both locales, then the scenario. Empty, or a message for the author.
-    Q_INVOKABLE QString feedbackTranslation();
+    Q_INVOKABLE QString feedbackTranslation() { return m_authoring->saveWithTranslations(); }
     /// Writes the translation sources of both locales; true if both were written.
-    [[nodiscard]] bool saveTranslation() const;
+    [[nodiscard]] bool saveTranslation() const { return m_authoring->saveTranslations(); }
 
-    [[nodiscard]] bool modified() const { return m_modified; }
-    void setModified(bool modified) override;
-    [[nodiscard]] QString mimeType() const { return m_mimeType; }
-    [[nodiscard]] QString tutorialName() const { return m_tutorialName; }
+    [[nodiscard]] bool modified() const { return m_authoring->modified(); }
+    void setModified(bool modified) override { m_authoring->setModified(modified); }
+    [[nodiscard]] QString mimeType() const { return m_authoring->mimeType(); }
+    [[nodiscard]] QString tutorialName() const { return m_authoring->tutorialName(); }
     [[nodiscard]] QString locale() const { return m_languages.locale(); }
     /// Changes the language of all texts and stores it for later runs; the old one becomes locale2.
     void setLocale(const QString &locale) { m_languages.setLocale(locale); }
@@ -101,8 +99,8 @@ public:
     void setLocale2(const QString &locale) { m_languages.setLocale2(locale); }
 
     /// What the last undo or redo was about, for an author's tool; empty for nothing.
-    [[nodiscard]] QString undoNote() const { return m_undoNote; }
-    void setUndoNote(const QString &note) override { m_undoNote = note; }
+    [[nodiscard]] QString undoNote() const { return m_authoring->undoNote(); }
+    void setUndoNote(const QString &note) override { m_authoring->setUndoNote(note); }
 
     void send(const QString &text) override { m_connection->send(text); }
     void onOverlayActivated() override;
@@ -147,9 +145,6 @@ private:
 
     void startPlayback();
     void stopPlayback();
-    void setMimeData(const QString &mimeType, const QByteArray &data);
-    void setMimeType(const QString &mimeType);
-    static QString getExistsFilename(const QString &relativeName);
 
     void start(const CommandFields &fields);
     void stop(const CommandFields &fields);
@@ -168,19 +163,13 @@ private:
 
     std::unique_ptr<HostConnection> m_connection;
     Languages m_languages;
+    std::unique_ptr<AuthoringCalls> m_authoring;
     Overlays m_overlays;
     HostWindows m_windows;
     PlaybackVisibility m_visibility;
     QRect m_hostRect;
-    bool m_modified = false;
-    QString m_undoNote;
     QString m_pendingJumpLink;
     QTimer m_timer;
-    std::unique_ptr<TutorialEditor::Manager> m_document;
-    TranslationOutput m_translationOutput;
-    QMimeData m_mimeData;
-    QString m_mimeType;
-    QString m_tutorialName;
     SampleTable m_presetTranslations;
     TutorialFont m_font;
 };

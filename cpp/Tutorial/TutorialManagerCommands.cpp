@@ -153,8 +153,7 @@ void TutorialManager::applicationWindowSize(const CommandFields &fields)
 
 void TutorialManager::loadAndFeedback(const CommandFields &fields)
 {
-    const QString path = getExistsFilename(QStringLiteral("qml/Tutorial/%1.js").arg(fields.text(1)));
-    const QString errors = loadTutorial(path);
+    const QString errors = m_authoring->loadLesson(fields.text(1));
     if (errors.isEmpty()) {
         startFromId(-1);
     } else {
