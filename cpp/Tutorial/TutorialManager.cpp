@@ -7,7 +7,6 @@
 #include "tool/LogSource.h"
 
 #include <QCoreApplication>
-#include <QCursor>
 #include <QGuiApplication>
 
 #include <cstdlib>
@@ -25,22 +24,16 @@ TutorialManager *theInstance = nullptr;
 
 TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve translationPath)
     : QObject(parent)
-    , m_connection(std::make_unique<HostConnection>())
     , m_authoring(
           std::make_unique<AuthoringCalls>(m_languages, &UndoRedo::instance, std::move(translationPath)))
-    , m_overlays(*this)
+    , m_connection(std::make_unique<HostConnection>())
+    , m_commands({m_playback, *m_authoring, m_languages, [this](const QString &text) { send(text); },
+                  QCoreApplication::applicationDirPath()})
     , m_timer(this)
 {
     theInstance = this;
     logDebug(kSource, "TutorialManager::TutorialManager", 210) << locale() << locale2();
-    connect(m_authoring.get(), &AuthoringCalls::modifiedChanged, this, &TutorialManager::modifiedChanged);
-    connect(m_authoring.get(), &AuthoringCalls::mimeTypeChanged, this, &TutorialManager::mimeTypeChanged);
-    connect(m_authoring.get(), &AuthoringCalls::tutorialNameChanged, this,
-            &TutorialManager::tutorialNameChanged);
-    connect(&m_languages, &Languages::localeChanged, this, &TutorialManager::localeChanged);
-    connect(&m_languages, &Languages::locale2Changed, this, &TutorialManager::locale2Changed);
-    connect(&m_languages, &Languages::fontLocaleChanged, this,
-            [this](const QString &locale) { m_font.setLocale(locale); });
+    connectParts();
 
     const QStringList arguments = QCoreApplication::arguments();
     const QString key = arguments.size() >= 2 ? arguments.at(1) : QStringLiteral("20200318-0017");
@@ -48,10 +41,6 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
         deleteLater();
         return;
     }
-    connect(m_connection.get(), &HostConnection::received, this, &TutorialManager::received);
-    connect(m_connection.get(), &HostConnection::bye, this, &TutorialManager::stopPlayback);
-    connect(m_connection.get(), &HostConnection::ended, this, &TutorialManager::requestClose);
-    connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);
     m_connection->connectToHost(key);
 
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -63,7 +52,6 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
     m_timer.setInterval(kVisibilityIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, &TutorialManager::onTimerTimeout);
     m_timer.start();
-    m_presetTranslations = buildSampleTable();
 }
 
 TutorialManager::~TutorialManager()
@@ -71,26 +59,34 @@ TutorialManager::~TutorialManager()
     logDebug(kSource, "TutorialManager::~TutorialManager", 268);
     m_connection.reset();
     m_authoring.reset();
-    if (UndoRedo::instance()) {
+    if (UndoRedo::instance() != nullptr) {
         UndoRedo::instance()->setHost(nullptr);
     }
     theInstance = nullptr;
     logDebug(kSource, "TutorialManager::~TutorialManager", 276);
 }
 
+void TutorialManager::connectParts()
+{
+    HostConnection *const link = m_connection.get();
+    connect(link, &HostConnection::received, this, &TutorialManager::received);
+    connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);
+    connect(link, &HostConnection::bye, &m_playback, &Playback::stop);
+    connect(link, &HostConnection::ended, this, &TutorialManager::requestClose);
+    connect(&m_playback, &Playback::answered, link, &HostConnection::send);
+    connect(&m_playback, &Playback::currentWindowKeyChanged, this, &TutorialManager::currentWindowKeyChanged);
+    connect(&m_languages, &Languages::fontLocaleChanged, &m_playback, &Playback::setFontLocale);
+    connect(&m_languages, &Languages::localeChanged, this, &TutorialManager::localeChanged);
+    connect(&m_languages, &Languages::locale2Changed, this, &TutorialManager::locale2Changed);
+    AuthoringCalls *const authoring = m_authoring.get();
+    connect(authoring, &AuthoringCalls::modifiedChanged, this, &TutorialManager::modifiedChanged);
+    connect(authoring, &AuthoringCalls::mimeTypeChanged, this, &TutorialManager::mimeTypeChanged);
+    connect(authoring, &AuthoringCalls::tutorialNameChanged, this, &TutorialManager::tutorialNameChanged);
+}
+
 TutorialManager *TutorialManager::instance()
 {
     return theInstance;
-}
-
-QPoint TutorialManager::getXy(const QString &windowKey)
-{
-    return m_windows.position(windowKey);
-}
-
-QString TutorialManager::getCurrentWindowKey()
-{
-    return m_windows.current();
 }
 
 bool TutorialManager::connected()
@@ -105,85 +101,24 @@ void TutorialManager::requestClose()
     std::exit(EXIT_SUCCESS);
 }
 
-bool TutorialManager::isMakingSupported()
-{
-    return false;
-}
-
-QPoint TutorialManager::getCursorPos()
-{
-    return QCursor::pos();
-}
-
 void TutorialManager::updateIndicatorXyWindowKey(int x, int y, const QString &windowKey)
 {
     send(CommandFields::join({CommandWords::kIndicator, CommandWords::kUpdateXyWindowKey, QString::number(x),
                               QString::number(y), windowKey}));
-    m_overlays.aim(QPoint(x, y), windowKey);
+    m_playback.aim({x, y}, windowKey);
 }
 
 void TutorialManager::timerEvent(QTimerEvent * /*event*/)
 {
-    const PlaybackVisibility::Tick due = m_visibility.tick();
-    if (due.showAgain) {
-        logDebug(kSource, "TutorialManager::timerEvent", 427) << due.hiddenTicks;
-        if (due.rebuild) {
-            m_overlays.rebuild();
-        }
-        m_overlays.showLog();
-        updateOverlayVisibility();
-    }
-    if (due.hide) {
-        updateOverlayVisibility();
-    }
-    if (due.ignoringShow) {
-        logDebug(kSource, "TutorialManager::timerEvent", 460)
-            << "m_logHideIgnoreTimeout now" << due.ignoreShowTicks;
-    }
+    m_playback.tick();
     m_connection->tick();
 }
 
 void TutorialManager::onTimerTimeout()
 {
     if (!m_pendingJumpLink.isEmpty()) {
-        const QString link = m_pendingJumpLink;
-        m_pendingJumpLink.clear();
+        const QString link = std::exchange(m_pendingJumpLink, {});
         Q_EMIT jumpLinkChanged(link);
     }
-    updateOverlayVisibility();
-}
-
-void TutorialManager::updateOverlayVisibility()
-{
-    switch (m_visibility.showing()) {
-    case PlaybackVisibility::Showing::kNoPlayback:
-        m_overlays.hideIndicator();
-        m_overlays.hideLog();
-        break;
-    case PlaybackVisibility::Showing::kHostHidden:
-        m_overlays.hideIndicator();
-        m_overlays.hideLog();
-        m_overlays.hideEditorTooltip();
-        break;
-    case PlaybackVisibility::Showing::kShown:
-        m_overlays.showIndicator();
-        m_overlays.showLog();
-        m_overlays.showEditorTooltip();
-        break;
-    }
-}
-
-void TutorialManager::onApplicationStateChanged(Qt::ApplicationState state)
-{
-    if (state == Qt::ApplicationActive || state == Qt::ApplicationInactive) {
-        m_visibility.setApplicationActive(state == Qt::ApplicationActive);
-        updateOverlayVisibility();
-    }
-}
-
-void TutorialManager::onOverlayActivated()
-{
-    if (m_windows.popPopup()) {
-        Q_EMIT currentWindowKeyChanged();
-    }
+    m_playback.updateOverlayVisibility();
 }

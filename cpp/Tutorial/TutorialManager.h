@@ -1,36 +1,30 @@
 #pragma once
 
 #include "Tutorial/AuthoringCalls.h"
-#include "Tutorial/HostWindows.h"
-#include "Tutorial/Overlays.h"
-#include "Tutorial/PlaybackVisibility.h"
+#include "Tutorial/CommandTable.h"
 #include "Tutorial/link/HostConnection.h"
 #include "Tutorial/localisation/Languages.h"
-#include "Tutorial/localisation/SampleTable.h"
-#include "Tutorial/overlay/OverlayHost.h"
-#include "TutorialFont/TutorialFont.h"
+#include "Tutorial/playback/Playback.h"
 #include "UndoRedo/UndoHost.h"
 
+#include <QCursor>
 #include <QList>
 #include <QLocalSocket>
 #include <QObject>
 #include <QPoint>
-#include <QRect>
 #include <QString>
 #include <QTimer>
 
 #include <memory>
 
-class CommandFields;
-
-/// Joins the link to the host editor, the overlays, the scenario document and the authoring calls.
+/// The companion as a host editor, main and an author's tool see it: one object with the calls, properties
+/// and signals that they reach by name. What it does is done by its parts, each of which works without it.
 ///
 /// There is one instance, made by main and reached through instance(). It connects to the host editor in its
-/// constructor and ends the process when the link goes down or stays silent for 30 s. The parts it joins do
-/// their work without it and are tested without it.
+/// constructor and ends the process when the link goes down or stays silent for 30 s.
 ///
 /// Everything here runs in the main thread. Positions are global screen pixels.
-class TutorialManager final : public QObject, public OverlayHost, public UndoHost
+class TutorialManager final : public QObject, public UndoHost
 {
     Q_OBJECT
     Q_PROPERTY(bool modified READ modified WRITE setModified NOTIFY modifiedChanged)
@@ -53,15 +47,15 @@ public:
     [[nodiscard]] static TutorialManager *instance();
 
     /// Position of a window or control as the host editor told it; (0, 0) when it has not.
-    Q_INVOKABLE QPoint getXy(const QString &windowKey);
+    Q_INVOKABLE QPoint getXy(const QString &windowKey) { return m_playback.windows().position(windowKey); }
     /// Key of the host editor's topmost window; "ApplicationWindow" when none is open.
-    Q_INVOKABLE QString getCurrentWindowKey();
+    Q_INVOKABLE QString getCurrentWindowKey() { return m_playback.windows().current(); }
     /// Empties the item clipboard; mimeType becomes "Empty".
     Q_INVOKABLE void clearMimeData() { m_authoring->emptyClipboard(); }
     /// Tells the host editor that an author's tool is there. Whether the link has ever been up.
     Q_INVOKABLE bool connected();
     /// Always false: this build plays lessons.
-    Q_INVOKABLE bool isMakingSupported();
+    Q_INVOKABLE bool isMakingSupported() { return false; }
     /// Copies items, folders with their children, to the item clipboard. An unknown id leaves it as it was.
     Q_INVOKABLE void copyTutorialItemList(const QList<int> &idList) { m_authoring->copyItems(idList); }
     /// Adds the items of the clipboard at the end of the document. Their new ids, in order.
@@ -80,7 +74,7 @@ public:
     /// Loads a scenario file into the document. Empty, or one error a line.
     Q_INVOKABLE QString loadTutorial(const QString &filename) { return m_authoring->load(filename); }
     /// The mouse pointer.
-    Q_INVOKABLE QPoint getCursorPos();
+    Q_INVOKABLE QPoint getCursorPos() { return QCursor::pos(); }
     /// Moves the indicator, here and in the host editor's record of the step.
     Q_INVOKABLE void updateIndicatorXyWindowKey(int x, int y, const QString &windowKey);
     /// Writes the translation sources of both locales, then the scenario. Empty, or a message for the author.
@@ -102,14 +96,8 @@ public:
     [[nodiscard]] QString undoNote() const { return m_authoring->undoNote(); }
     void setUndoNote(const QString &note) override { m_authoring->setUndoNote(note); }
 
-    void send(const QString &text) override { m_connection->send(text); }
-    void onOverlayActivated() override;
-    void updateOverlayVisibility() override;
-    [[nodiscard]] bool running() const override { return m_visibility.running(); }
-    [[nodiscard]] QRect hostRect() const override { return m_hostRect; }
-    [[nodiscard]] QFont overlayFont() override { return m_font.getFont(); }
-    [[nodiscard]] EditorTooltip *editorTooltip() const override { return m_overlays.editorTooltip(); }
-    void setEditorTooltip(EditorTooltip *tooltip) override { m_overlays.setEditorTooltip(tooltip); }
+    /// Sends one command to the host editor; dropped without a connection.
+    void send(const QString &text) { m_connection->send(text); }
 
 Q_SIGNALS:
     /// One command of the host editor, out of its frame.
@@ -125,9 +113,9 @@ Q_SIGNALS:
     void currentWindowKeyChanged();
 
 public Q_SLOTS:
-    void onApplicationStateChanged(Qt::ApplicationState state);
+    void onApplicationStateChanged(Qt::ApplicationState state) { m_playback.setApplicationState(state); }
     /// Runs one command of the host editor; an unknown word is ignored.
-    void onReceived(const QString &text);
+    void onReceived(const QString &text) { m_commands.run(text); }
     void onReadyRead() { m_connection->onReadyRead(); }
     void onConnected() { m_connection->onConnected(); }
     void onDisconnected() { m_connection->onDisconnected(); }
@@ -141,35 +129,13 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    struct Command;
+    void connectParts();
 
-    void startPlayback();
-    void stopPlayback();
-
-    void start(const CommandFields &fields);
-    void stop(const CommandFields &fields);
-    void ignore(const CommandFields &fields);
-    void tutorialList(const CommandFields &fields);
-    void indicator(const CommandFields &fields);
-    void state(const CommandFields &fields);
-    void windowStack(const CommandFields &fields);
-    void position(const CommandFields &fields);
-    void applicationWindowSize(const CommandFields &fields);
-    void loadAndFeedback(const CommandFields &fields);
-    void fromServer(const CommandFields &fields);
-    void requestPresetData(const CommandFields &fields);
-    void showTooltip(const CommandFields &fields);
-    void hideTooltip(const CommandFields &fields);
-
-    std::unique_ptr<HostConnection> m_connection;
+    Playback m_playback;
     Languages m_languages;
     std::unique_ptr<AuthoringCalls> m_authoring;
-    Overlays m_overlays;
-    HostWindows m_windows;
-    PlaybackVisibility m_visibility;
-    QRect m_hostRect;
+    std::unique_ptr<HostConnection> m_connection;
+    CommandTable m_commands;
     QString m_pendingJumpLink;
     QTimer m_timer;
-    SampleTable m_presetTranslations;
-    TutorialFont m_font;
 };

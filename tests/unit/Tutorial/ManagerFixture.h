@@ -1,7 +1,7 @@
 #pragma once
 
+#include "../playback/OverlayWindows.h"
 #include "Tutorial/TutorialManager.h"
-#include "Tutorial/overlay/TutorialIndicator.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -81,29 +81,6 @@ private:
     QLocalSocket *m_socket = nullptr;
     QByteArray m_bytes;
 };
-
-/// The top-level widgets of one class.
-template<typename Widget>
-QList<Widget *> topLevels()
-{
-    QList<Widget *> found;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *match = qobject_cast<Widget *>(widget)) {
-            found.append(match);
-        }
-    }
-    return found;
-}
-
-/// Deletes the overlays that a manager left behind, which it does not own. Call it when the manager is gone.
-inline void deleteOverlays()
-{
-    // An indicator owns its windows, so the indicators go first.
-    qDeleteAll(topLevels<TutorialIndicator>());
-    const QWidgetList others = QApplication::topLevelWidgets();
-    qDeleteAll(others);
-}
 
 /// Runs a test class in an application whose first argument is a key that no other test uses, with settings
 /// in a folder that goes away.

@@ -103,15 +103,15 @@ void tst_Allocations::allocates_nothing_to_keep_the_overlays_in_step()
         fixture.manager->onReceived(command);
     }
     fixture.manager->onApplicationStateChanged(Qt::ApplicationInactive);
-    fixture.manager->updateOverlayVisibility();
+    fixture.manager->onTimerTimeout();
     QCoreApplication::processEvents();
     fixture.manager->onApplicationStateChanged(Qt::ApplicationInactive);
-    fixture.manager->updateOverlayVisibility();
+    fixture.manager->onTimerTimeout();
 
     allocations = 0;
     counting = true;
     for (int run = 0; run < 1000; ++run) {
-        fixture.manager->updateOverlayVisibility();
+        fixture.manager->onTimerTimeout();
     }
     counting = false;
     QCOMPARE(allocations.load(), 0);

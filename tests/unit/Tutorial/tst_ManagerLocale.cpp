@@ -1,8 +1,10 @@
 #include "LogCapture.h"
 #include "ManagerFixture.h"
 
+#include "Tutorial/overlay/EditorTooltip.h"
+
 #include <QSettings>
-#include <QSignalSpy>
+#include <QTextEdit>
 #include <QTranslator>
 
 /// The two locales of the manager, and what a change of them brings about.
@@ -14,13 +16,16 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void starts_with_the_locale_that_was_chosen_last_data();
-    void starts_with_the_locale_that_was_chosen_last();
-    void changes_the_locale();
-    void hands_the_locale_to_the_font();
-    void hands_the_locale_of_a_greeting_to_the_font();
+    void startsWithTheLocaleThatWasChosenLast_data();
+    void startsWithTheLocaleThatWasChosenLast();
+    void changesTheLocale();
+    void handsTheLocaleToTheFont();
+    void handsTheLocaleOfAGreetingToTheFont();
 
 private:
+    /// The font that an overlay takes now.
+    [[nodiscard]] QString overlayFamily() const;
+
     std::unique_ptr<ManagerFixture> m_fixture;
     QStringList m_order; // of signals
 };
@@ -40,7 +45,7 @@ void tst_ManagerLocale::cleanup()
     qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last_data()
+void tst_ManagerLocale::startsWithTheLocaleThatWasChosenLast_data()
 {
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("locale");
@@ -53,7 +58,7 @@ void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last_data()
     QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("en_US");
 }
 
-void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last()
+void tst_ManagerLocale::startsWithTheLocaleThatWasChosenLast()
 {
     QFETCH(QString, chosen);
     QFETCH(QString, locale);
@@ -72,7 +77,7 @@ void tst_ManagerLocale::starts_with_the_locale_that_was_chosen_last()
     QVERIFY(log.contains(QStringLiteral("TutorialManager::TutorialManager 247 true")));
 }
 
-void tst_ManagerLocale::changes_the_locale()
+void tst_ManagerLocale::changesTheLocale()
 {
     TutorialManager *manager = m_fixture->manager.get();
     QCOMPARE(manager->locale(), QStringLiteral("en_US"));
@@ -96,35 +101,39 @@ void tst_ManagerLocale::changes_the_locale()
                           source + QStringLiteral("setLocale 2215 \":/translations/ja_JP\" true")}));
 }
 
-void tst_ManagerLocale::hands_the_locale_to_the_font()
+QString tst_ManagerLocale::overlayFamily() const
 {
-    TutorialManager *manager = m_fixture->manager.get();
-    LogCapture log;
-    const QString latin = manager->overlayFont().family();
-    manager->setLocale(QStringLiteral("zh_CN"));
-    QVERIFY(manager->overlayFont().family() != latin);
+    m_fixture->receive({QStringLiteral("showTooltip"), QStringLiteral("text")});
+    return topLevels<EditorTooltip>().constFirst()->findChild<QTextEdit *>()->font().family();
 }
 
-void tst_ManagerLocale::hands_the_locale_of_a_greeting_to_the_font()
+void tst_ManagerLocale::handsTheLocaleToTheFont()
 {
-    TutorialManager *manager = m_fixture->manager.get();
+    LogCapture log;
+    const QString latin = overlayFamily();
+    m_fixture->manager->setLocale(QStringLiteral("zh_CN"));
+    QVERIFY(overlayFamily() != latin);
+}
+
+void tst_ManagerLocale::handsTheLocaleOfAGreetingToTheFont()
+{
     const QString greeting = QStringLiteral("fromServer");
     LogCapture log;
-    const QString latin = manager->overlayFont().family();
+    const QString latin = overlayFamily();
     m_fixture->receive({greeting, QStringLiteral("zh_CN")});
-    const QString chinese = manager->overlayFont().family();
+    const QString chinese = overlayFamily();
     QVERIFY(chinese != latin);
     // The greetings that name no locale leave the font as it is, though they load English texts.
     m_fixture->receive({greeting, QStringLiteral("-")});
-    QCOMPARE(manager->overlayFont().family(), chinese);
+    QCOMPARE(overlayFamily(), chinese);
     m_fixture->receive({greeting, QString()});
-    QCOMPARE(manager->overlayFont().family(), chinese);
+    QCOMPARE(overlayFamily(), chinese);
     m_fixture->receive({greeting});
-    QCOMPARE(manager->overlayFont().family(), chinese);
+    QCOMPARE(overlayFamily(), chinese);
     m_fixture->receive({greeting, QStringLiteral("en_US")});
-    QCOMPARE(manager->overlayFont().family(), latin);
+    QCOMPARE(overlayFamily(), latin);
     // The locale of the texts is another matter.
-    QCOMPARE(manager->locale(), QStringLiteral("en_US"));
+    QCOMPARE(m_fixture->manager->locale(), QStringLiteral("en_US"));
 }
 
 int main(int argc, char **argv)

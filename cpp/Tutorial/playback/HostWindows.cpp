@@ -1,4 +1,4 @@
-#include "Tutorial/HostWindows.h"
+#include "Tutorial/playback/HostWindows.h"
 
 QString HostWindows::current() const
 {

@@ -1,4 +1,4 @@
-#include "Tutorial/Overlays.h"
+#include "Tutorial/playback/Overlays.h"
 
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/overlay/TutorialIndicator.h"

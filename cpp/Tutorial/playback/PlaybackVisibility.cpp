@@ -1,4 +1,4 @@
-#include "Tutorial/PlaybackVisibility.h"
+#include "Tutorial/playback/PlaybackVisibility.h"
 
 bool PlaybackVisibility::start()
 {

@@ -2,12 +2,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QTest>
-#include <QVector>
 
 #include "FakeOverlayHost.h"
-#include "Tutorial/Overlays.h"
+#include "OverlayWindows.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
+#include "Tutorial/playback/Overlays.h"
 
 class tst_Overlays : public QObject
 {
@@ -38,17 +38,8 @@ void deleteWhatIsDue()
 
 void tst_Overlays::cleanup()
 {
-    // They must not hear of anything any more: their host has just gone. An indicator owns its windows.
-    QVector<TutorialIndicator *> indicators;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *indicator = qobject_cast<TutorialIndicator *>(widget)) {
-            indicators.append(indicator);
-        }
-    }
-    qDeleteAll(indicators);
-    const QWidgetList others = QApplication::topLevelWidgets();
-    qDeleteAll(others);
+    // They must not hear of anything any more: their host has just gone.
+    deleteOverlays();
 }
 
 void tst_Overlays::a_replaced_overlay_stays_until_the_next_rebuild()
