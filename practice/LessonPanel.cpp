@@ -1,20 +1,15 @@
 #include "LessonPanel.h"
 
-#include "LocaleText.h"
-
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
-LessonPanel::LessonPanel(const QString &locale)
+LessonPanel::LessonPanel()
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
-    , m_locale(locale)
     , m_lessons(new QComboBox)
-    , m_start(new QPushButton(
-          localeText(locale, QStringLiteral("Start"), QStringLiteral("始める"), QStringLiteral("开始"))))
-    , m_skip(new QPushButton(localeText(locale, QStringLiteral("Skip step"),
-                                        QStringLiteral("この手順を飛ばす"), QStringLiteral("跳过此步"))))
+    , m_start(new QPushButton(tr("Start")))
+    , m_skip(new QPushButton(tr("Skip step")))
     , m_status(new QLabel)
 {
     // As the editor's windows have it, so that the strip is as wide on every desktop.
@@ -23,8 +18,7 @@ LessonPanel::LessonPanel(const QString &locale)
     setFont(pixelFont);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowTitle(
-        localeText(locale, QStringLiteral("Lessons"), QStringLiteral("レッスン"), QStringLiteral("课程")));
+    setWindowTitle(tr("Lessons"));
     m_lessons->setObjectName(QStringLiteral("lessonsComboBox"));
     m_start->setObjectName(QStringLiteral("startButton"));
     m_skip->setObjectName(QStringLiteral("skipButton"));
@@ -62,44 +56,34 @@ void LessonPanel::showStep(const QString &lessonName, int number, int count)
     if (row >= 0) {
         m_lessons->setCurrentIndex(row);
     }
-    m_start->setText(localeText(m_locale, QStringLiteral("Start again"), QStringLiteral("最初から"),
-                                QStringLiteral("重新开始")));
+    m_start->setText(tr("Start again"));
     m_skip->setEnabled(true);
-    tell(localeText(m_locale, QStringLiteral("Step %1 of %2"), QStringLiteral("手順 %1 / %2"),
-                    QStringLiteral("第 %1 步，共 %2 步"))
-             .arg(number)
-             .arg(count));
+    //: How far the lesson is: %1 is the number of the step, %2 how many there are.
+    tell(tr("Step %1 of %2").arg(number).arg(count));
 }
 
 void LessonPanel::showClosed(const QString &windowTitle)
 {
-    tell(localeText(m_locale, QStringLiteral("Open \"%1\" again, or skip the step."),
-                    QStringLiteral("「%1」をもう一度開くか、手順を飛ばしてください。"),
-                    QStringLiteral("请重新打开“%1”，或跳过此步。"))
-             .arg(windowTitle));
+    //: %1 is the title of a window that the person has closed.
+    tell(tr("Open \"%1\" again, or skip the step.").arg(windowTitle));
 }
 
 void LessonPanel::showFinished()
 {
     m_skip->setEnabled(false);
-    tell(localeText(m_locale, QStringLiteral("The lesson is finished."),
-                    QStringLiteral("レッスンが終わりました。"), QStringLiteral("本课已完成。")));
+    tell(tr("The lesson is finished."));
 }
 
 void LessonPanel::showRefused(const QString &lessonName)
 {
     m_skip->setEnabled(false);
-    tell(localeText(m_locale, QStringLiteral("\"%1\" cannot be opened."),
-                    QStringLiteral("「%1」を開けません。"), QStringLiteral("无法打开“%1”。"))
-             .arg(titleOf(lessonName)));
+    //: %1 is the title of a lesson.
+    tell(tr("\"%1\" cannot be opened.").arg(titleOf(lessonName)));
 }
 
 void LessonPanel::setSilent(bool silent)
 {
-    m_status->setText(silent ? localeText(m_locale, QStringLiteral("The guide does not answer."),
-                                          QStringLiteral("ガイドが応答しません。"),
-                                          QStringLiteral("向导没有响应。"))
-                             : m_told);
+    m_status->setText(silent ? tr("The guide does not answer.") : m_told);
 }
 
 void LessonPanel::tell(const QString &text)

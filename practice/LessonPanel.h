@@ -14,8 +14,7 @@ class LessonPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// Texts are those of @p locale, in English where there are none.
-    explicit LessonPanel(const QString &locale);
+    LessonPanel();
 
     void setLessons(const QVector<LessonSession::Lesson> &lessons);
     void showStep(const QString &lessonName, int number, int count);
@@ -34,7 +33,6 @@ private:
     [[nodiscard]] QString titleOf(const QString &lessonName) const;
     void tell(const QString &text);
 
-    QString m_locale;
     QComboBox *m_lessons;
     QPushButton *m_start;
     QPushButton *m_skip;

@@ -1,6 +1,5 @@
 #include "PracticeEditor.h"
 
-#include "LocaleText.h"
 #include "pilot/Pilot.h"
 #include "window/EditorWindows.h"
 
@@ -27,8 +26,6 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     : m_options(options)
     , m_windows(std::move(windows))
     , m_session(m_windows.get())
-    , m_panel(options.locale)
-    , m_lessonProject(options.locale)
     , m_link(options.companionProgram, options.key, options.locale)
 {
     if (options.lesson > 0) {
@@ -77,21 +74,17 @@ bool PracticeEditor::startLink(QString *error)
     if (m_link.start(&failure)) {
         return true;
     }
-    const QString words =
-        failure.what == HostLink::Failure::What::kListen
-            ? inWords(QStringLiteral("The editor cannot listen on \"%1\": %2. Start it again with "
-                                     "another --key, or without one."),
-                      QStringLiteral("「%1」で接続を待てません（%2）。別の --key を付けるか、--key を"
-                                     "付けずに、もう一度起動してください。"),
-                      QStringLiteral("无法在“%1”上等待连接（%2）。请换一个 --key，或不带 --key "
-                                     "重新启动。"))
-            : inWords(QStringLiteral("The guide \"%1\" does not start: %2. Build the target Tutorial, "
-                                     "or name the program with --companion."),
-                      QStringLiteral("ガイド「%1」を起動できません（%2）。ターゲット Tutorial を"
-                                     "ビルドするか、--companion でプログラムを指定してください。"),
-                      QStringLiteral("无法启动向导“%1”（%2）。请构建目标 Tutorial，或用 "
-                                     "--companion 指定程序。"));
-    *error = words.arg(failure.name, failure.reason);
+    if (failure.what == HostLink::Failure::What::kListen) {
+        //: %1 is the name of a local server, %2 the system's reason.
+        *error = tr("The editor cannot listen on \"%1\": %2. Start it again with another --key, or without "
+                    "one.")
+                     .arg(failure.name, failure.reason);
+    } else {
+        //: The guide is the companion program; %1 is its path, %2 the system's reason.
+        *error = tr("The guide \"%1\" does not start: %2. Build the target Tutorial, or name the program "
+                    "with --companion.")
+                     .arg(failure.name, failure.reason);
+    }
     return false;
 }
 
@@ -164,21 +157,16 @@ void PracticeEditor::onLost(const QString &lastWords)
         m_pilot->fail(QStringLiteral("the companion ended"));
         return;
     }
-    auto *box = new QMessageBox(
-        QMessageBox::Warning, practiceEditorText(),
-        inWords(QStringLiteral("The guide ended unexpectedly. Your project is not affected.\n"
-                               "Restart it? The lesson begins again."),
-                QStringLiteral("ガイドが突然終了しました。プロジェクトには影響ありません。\n"
-                               "もう一度起動しますか？レッスンは最初から始まります。"),
-                QStringLiteral("向导意外结束了。你的项目不受影响。\n要重新启动吗？本课会从头开始。")));
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"),
+                                //: Asks whether the guide is to be started again.
+                                tr("The guide ended unexpectedly. Your project is not affected.\n"
+                                   "Restart it? The lesson begins again."));
     box->setObjectName(QStringLiteral("lostMessageBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QPushButton *const restart = box->addButton(
-        inWords(QStringLiteral("Restart"), QStringLiteral("もう一度起動"), QStringLiteral("重新启动")),
-        QMessageBox::AcceptRole);
-    box->addButton(inWords(QStringLiteral("Go on without"), QStringLiteral("ガイドなしで続ける"),
-                           QStringLiteral("不使用向导继续")),
-                   QMessageBox::RejectRole);
+    //: A button: start the guide again.
+    QPushButton *const restart = box->addButton(tr("Restart"), QMessageBox::AcceptRole);
+    //: A button: go on without the guide.
+    box->addButton(tr("Go on without"), QMessageBox::RejectRole);
     connect(box, &QDialog::finished, this, [this, box, restart] {
         if (box->clickedButton() == restart) {
             restartCompanion();
@@ -211,24 +199,11 @@ void PracticeEditor::tellPerson(const QString &text)
         m_pilot->fail(text);
         return;
     }
-    auto *box = new QMessageBox(QMessageBox::Warning, practiceEditorText(),
-                                inWords(QStringLiteral("Something went wrong."),
-                                        QStringLiteral("問題が起きました。"), QStringLiteral("出错了。")),
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"), tr("Something went wrong."),
                                 QMessageBox::Ok);
     box->setInformativeText(text);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
-}
-
-QString PracticeEditor::inWords(const QString &en, const QString &ja, const QString &zh) const
-{
-    return localeText(m_options.locale, en, ja, zh);
-}
-
-QString PracticeEditor::practiceEditorText() const
-{
-    return inWords(QStringLiteral("Practice editor"), QStringLiteral("練習用エディター"),
-                   QStringLiteral("练习编辑器"));
 }
 
 void PracticeEditor::play(const QString &lessonName)

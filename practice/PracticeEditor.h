@@ -63,8 +63,6 @@ private:
     void restartCompanion();
     void tellPerson(const QString &text);
     void closeDialogs();
-    [[nodiscard]] QString inWords(const QString &en, const QString &ja, const QString &zh) const;
-    [[nodiscard]] QString practiceEditorText() const;
     void play(const QString &lessonName);
 
     Options m_options;

@@ -1,4 +1,5 @@
 #include "PracticeEditor.h"
+#include "PracticeTranslator.h"
 #include "lesson/LessonWords.h"
 #include "platform/Platform.h"
 #include "window/EditorWindowSet.h"
@@ -178,6 +179,7 @@ int main(int argc, char **argv)
         !problem.isEmpty()) {
         return complain(problem);
     }
+    const PracticeTranslator translator(options.locale);
     // The pilot's projects are nobody's.
     const QTemporaryDir pilotProjects;
     options.projectsFolder = options.pilot

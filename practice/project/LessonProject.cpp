@@ -1,25 +1,17 @@
 #include "project/LessonProject.h"
 
-#include "LocaleText.h"
-
 #include <utility>
 
-LessonProject::LessonProject(const QString &locale, QObject *parent)
+LessonProject::LessonProject(QObject *parent)
     : QObject(parent)
-    , m_store(locale)
 {
     m_filesMissing.setSingleShot(true);
     m_filesMissing.setInterval(kFilesMs);
-    connect(&m_filesMissing, &QTimer::timeout, this, [this, locale] {
-        Q_EMIT failed(
-            localeText(
-                locale,
-                QStringLiteral("The data files of the lesson have not come, so \"%1\" is without them. "
-                               "Start the lesson again."),
-                QStringLiteral("レッスンのデータファイルが届いていないため、「%1」にはデータファイルが"
-                               "ありません。もう一度、レッスンを最初から始めてください。"),
-                QStringLiteral("没有收到本课的数据文件，所以项目“%1”里没有这些文件。请重新开始本课。"))
-                .arg(m_place->name));
+    connect(&m_filesMissing, &QTimer::timeout, this, [this] {
+        //: %1 is the name of the project.
+        Q_EMIT failed(tr("The data files of the lesson have not come, so \"%1\" is without them. "
+                         "Start the lesson again.")
+                          .arg(m_place->name));
     });
 }
 

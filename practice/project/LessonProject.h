@@ -19,8 +19,7 @@ public:
     /// missing.
     static constexpr int kFilesMs = 5000;
 
-    /// @p locale is the one of the texts for the person.
-    explicit LessonProject(const QString &locale, QObject *parent = nullptr);
+    explicit LessonProject(QObject *parent = nullptr);
 
     /// A lesson asks for its data files. What an earlier one left unfinished is dropped.
     void begin();

@@ -1,13 +1,9 @@
 #include "project/ProjectStore.h"
 
-#include "LocaleText.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <utility>
 
 namespace {
 
@@ -26,9 +22,8 @@ bool isTaken(const QString &path)
 
 } // namespace
 
-ProjectStore::ProjectStore(QString locale, QObject *parent)
+ProjectStore::ProjectStore(QObject *parent)
     : QObject(parent)
-    , m_locale(std::move(locale))
 {
 }
 
@@ -36,27 +31,18 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
                           QString *error)
 {
     if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
-        *error = localeText(m_locale,
-                            QStringLiteral("A project cannot have the name \"%1\": its folder is named "
-                                           "after it. Choose another name, without \"/\"."),
-                            QStringLiteral("プロジェクトの名前を「%1」にはできません。プロジェクトの名前は、"
-                                           "フォルダーの名前にもなるためです。「/」を含まない別の名前に"
-                                           "してください。"),
-                            QStringLiteral("项目不能叫“%1”，因为项目文件夹也用这个名称。请换一个不含“/”的"
-                                           "名称。"))
+        //: %1 is the name that the person gave a new project.
+        *error = tr("A project cannot have the name \"%1\": its folder is named "
+                    "after it. Choose another name, without \"/\".")
                      .arg(name);
         return false;
     }
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (!staysInside(file.key())) {
-            *error =
-                localeText(m_locale,
-                           QStringLiteral("The project cannot hold the file \"%1\": it would lie outside of "
-                                          "the project's folder."),
-                           QStringLiteral("ファイル「%1」は、プロジェクトのフォルダーの外に置かれて"
-                                          "しまうため、プロジェクトに入れられません。"),
-                           QStringLiteral("项目不能包含文件“%1”，因为该文件会位于项目文件夹之外。"))
-                    .arg(file.key());
+            //: %1 is a path inside the project.
+            *error = tr("The project cannot hold the file \"%1\": it would lie outside of "
+                        "the project's folder.")
+                         .arg(file.key());
             return false;
         }
     }
@@ -64,12 +50,9 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
     QDir().mkpath(location);
     QTemporaryDir room(QDir(location).filePath(QStringLiteral(".new-XXXXXX")));
     if (!room.isValid()) {
-        *error = localeText(m_locale,
-                            QStringLiteral("The project's folder cannot be made in \"%1\" (%2). Choose "
-                                           "another place."),
-                            QStringLiteral("「%1」にプロジェクトのフォルダーを作れません（%2）。別の場所を"
-                                           "選んでください。"),
-                            QStringLiteral("无法在“%1”里建立项目文件夹（%2）。请换一个位置。"))
+        //: %1 is a folder, %2 the system's reason.
+        *error = tr("The project's folder cannot be made in \"%1\" (%2). Choose "
+                    "another place.")
                      .arg(location, room.errorString());
         return false;
     }
@@ -86,13 +69,8 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
         path = QDir(location).absoluteFilePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
     }
     if (!QDir().rename(made, path)) {
-        *error =
-            localeText(
-                m_locale,
-                QStringLiteral("The project's folder \"%1\" cannot be made. Choose another name or place."),
-                QStringLiteral("プロジェクトのフォルダー「%1」を作れません。名前か場所を変えてください。"),
-                QStringLiteral("无法建立项目文件夹“%1”。请换一个名称或位置。"))
-                .arg(path);
+        //: %1 is the folder's path.
+        *error = tr("The project's folder \"%1\" cannot be made. Choose another name or place.").arg(path);
         return false;
     }
     m_path = path;
@@ -100,7 +78,7 @@ bool ProjectStore::create(const QString &location, const QString &name, const QM
     return true;
 }
 
-bool ProjectStore::write(const QString &path, const QString &text, QString *error) const
+bool ProjectStore::write(const QString &path, const QString &text, QString *error)
 {
     QFile file(path);
     const QByteArray bytes = text.toUtf8();
@@ -108,10 +86,8 @@ bool ProjectStore::write(const QString &path, const QString &text, QString *erro
         file.write(bytes) == bytes.size() && file.flush()) {
         return true;
     }
-    *error = localeText(m_locale, QStringLiteral("The project's file \"%1\" cannot be written (%2)."),
-                        QStringLiteral("プロジェクトのファイル「%1」に書き込めません（%2）。"),
-                        QStringLiteral("无法写入项目中的文件“%1”（%2）。"))
-                 .arg(path, file.errorString());
+    //: %1 is the file's path, %2 the system's reason.
+    *error = tr("The project's file \"%1\" cannot be written (%2).").arg(path, file.errorString());
     return false;
 }
 

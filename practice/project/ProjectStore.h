@@ -10,8 +10,7 @@ class ProjectStore : public QObject
     Q_OBJECT
 
 public:
-    /// @p locale is the one of the texts for the person.
-    explicit ProjectStore(QString locale, QObject *parent = nullptr);
+    explicit ProjectStore(QObject *parent = nullptr);
 
     /// Writes @p files, path inside the project to text, into a new folder @p name inside of @p location,
     /// which need not exist yet; where there is such a folder already, a number is added: nothing that exists
@@ -32,8 +31,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] bool write(const QString &path, const QString &text, QString *error) const;
+    [[nodiscard]] static bool write(const QString &path, const QString &text, QString *error);
 
-    QString m_locale;
     QString m_path;
 };

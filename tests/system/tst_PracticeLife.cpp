@@ -1,4 +1,5 @@
 #include "PracticeEditor.h"
+#include "PracticeTranslator.h"
 #include "window/EditorWindowSet.h"
 
 #include <QDir>
@@ -220,6 +221,7 @@ void TestPracticeLife::aLossIsToldInThePersonsLanguage()
     inLanguage.locale = locale;
     inLanguage.companionProgram = folder.filePath(QStringLiteral("Guide"));
     QVERIFY(QFile::link(QStringLiteral(TUTORIAL_PROGRAM), inLanguage.companionProgram));
+    const PracticeTranslator translator(locale);
     PracticeEditor editor(inLanguage, windows());
     QString error;
     QVERIFY2(editor.start(&error), qPrintable(error));

@@ -80,7 +80,7 @@ void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     windows->setProjectsFolder(room.path());
     EditorProject *const project = windows->project();
     LessonSession session(windows.get());
-    LessonProject lessonProject(locale);
+    LessonProject lessonProject;
     HostLink link(QStringLiteral(TUTORIAL_PROGRAM), QString(), locale);
     connect(&session, &LessonSession::sends, &link, &HostLink::send);
     connect(&link, &HostLink::received, &session, &LessonSession::receive);

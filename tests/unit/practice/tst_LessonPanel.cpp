@@ -1,4 +1,5 @@
 #include "LessonPanel.h"
+#include "PracticeTranslator.h"
 
 #include <QLabel>
 #include <QTest>
@@ -31,7 +32,8 @@ void TestLessonPanel::messagesFit()
     QFETCH(QString, locale);
     QFETCH(QString, window);
     QFETCH(QString, title);
-    LessonPanel panel(locale);
+    const PracticeTranslator translator(locale);
+    LessonPanel panel;
     panel.setLessons({{QStringLiteral("TutorialStep1"), title}});
     panel.show();
     const QLabel *status = panel.findChild<QLabel *>(QStringLiteral("statusLabel"));
@@ -52,7 +54,7 @@ void TestLessonPanel::messagesFit()
 
 void TestLessonPanel::silenceLeavesNothingBehind()
 {
-    LessonPanel panel(QStringLiteral("en_US"));
+    LessonPanel panel;
     const QLabel *status = panel.findChild<QLabel *>(QStringLiteral("statusLabel"));
     panel.showStep(QStringLiteral("TutorialStep1"), 4, 86);
     panel.showClosed(QStringLiteral("New project"));

@@ -1,3 +1,4 @@
+#include "PracticeTranslator.h"
 #include "host/LessonSession.h"
 #include "project/LessonProject.h"
 #include "window/EditorWindowSet.h"
@@ -14,7 +15,6 @@ namespace {
 using Files = QMap<QString, QString>;
 
 const QString kName = QStringLiteral("Quest");
-const QString kLocale = QStringLiteral("ja_JP");
 
 /// The data files of the sample project at a step, with texts of their own.
 Files sampleFiles()
@@ -96,7 +96,7 @@ void TestLessonProject::aReplyBecomesTheFolderAndTheLists()
     EditorProject *project = windows->project();
     QCOMPARE(project->field(QStringLiteral("newProject.location")).toString(), room.path());
     LessonSession session(windows.get());
-    LessonProject lessonProject(kLocale);
+    LessonProject lessonProject;
     connect(&session, &LessonSession::filesReceived, &lessonProject, &LessonProject::takeFiles);
     connect(windows.get(), &EditorWindows::projectCreated, &lessonProject, &LessonProject::takePlace);
     connect(&lessonProject, &LessonProject::made, windows.get(),
@@ -136,7 +136,7 @@ void TestLessonProject::writesOnceBothHalvesAreThere()
 {
     QFETCH(bool, filesFirst);
     const QTemporaryDir room;
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     if (filesFirst) {
@@ -171,7 +171,7 @@ void TestLessonProject::leavesAnExistingFolderAlone()
     file.write(own.toUtf8());
     file.close();
 
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     project.takeFiles(m_files);
@@ -185,7 +185,7 @@ void TestLessonProject::leavesAnExistingFolderAlone()
 void TestLessonProject::ignoresWhatNoLessonWaitsFor()
 {
     const QTemporaryDir room;
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     project.takePlace(room.path(), kName);
     project.takeFiles(m_files);
@@ -200,7 +200,7 @@ void TestLessonProject::ignoresWhatNoLessonWaitsFor()
 void TestLessonProject::dropsWhatAnEarlierLessonLeft()
 {
     const QTemporaryDir room;
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     project.begin();
     project.takePlace(room.path(), QStringLiteral("Early"));
@@ -217,7 +217,7 @@ void TestLessonProject::saysWhyThereIsNoFolder()
     const QTemporaryDir room;
     QFile inTheWay(room.filePath(QStringLiteral("file")));
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();
@@ -231,7 +231,7 @@ void TestLessonProject::saysWhyThereIsNoFolder()
 void TestLessonProject::waitsForAnotherPlaceAfterAFailure()
 {
     const QTemporaryDir room;
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();
@@ -246,8 +246,9 @@ void TestLessonProject::waitsForAnotherPlaceAfterAFailure()
 
 void TestLessonProject::saysWhenTheFilesDoNotCome()
 {
+    const PracticeTranslator translator(QStringLiteral("ja_JP"));
     const QTemporaryDir room;
-    LessonProject project(kLocale);
+    LessonProject project;
     QSignalSpy made(&project, &LessonProject::made);
     QSignalSpy failed(&project, &LessonProject::failed);
     project.begin();

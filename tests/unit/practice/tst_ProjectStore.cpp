@@ -1,3 +1,4 @@
+#include "PracticeTranslator.h"
 #include "Unprivileged.h"
 #include "project/ProjectStore.h"
 
@@ -8,12 +9,6 @@
 #include <QTest>
 
 #include <sys/stat.h>
-
-namespace {
-
-const QString kLocale = QStringLiteral("en_US");
-
-} // namespace
 
 class TestProjectStore : public QObject
 {
@@ -40,7 +35,7 @@ private Q_SLOTS:
 void TestProjectStore::writesTheFilesIntoANewFolder()
 {
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
     QVERIFY2(store.create(room.filePath(QStringLiteral("made/for/it")), QStringLiteral("Harbour"),
@@ -60,7 +55,7 @@ void TestProjectStore::givesTheFolderTheUsualPermissions()
 {
     const QTemporaryDir room;
     QVERIFY(QDir(room.path()).mkdir(QStringLiteral("usual")));
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     QVERIFY(
         store.create(room.path(), QStringLiteral("P"), {{QStringLiteral("data/a.json"), QString()}}, &error));
@@ -76,7 +71,7 @@ void TestProjectStore::tellsTheFullPathOfARelativePlace()
     const QTemporaryDir room;
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(room.path()));
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     const bool isMade = store.create(QStringLiteral("games"), QStringLiteral("P"),
                                      {{QStringLiteral("data/a.json"), QStringLiteral("[1]")}}, &error);
@@ -89,7 +84,7 @@ void TestProjectStore::tellsTheFullPathOfARelativePlace()
 void TestProjectStore::touchesNothingThatIsThere()
 {
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     const QMap<QString, QString> first = {{QStringLiteral("a.json"), QStringLiteral("[1]")}};
     QVERIFY(store.create(room.path(), QStringLiteral("P"), first, &error));
@@ -105,7 +100,7 @@ void TestProjectStore::touchesNothingThatIsThere()
 void TestProjectStore::keepsTheNameThatGetsANumber()
 {
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     for (const QString &name : {QStringLiteral("100%1"), QStringLiteral("100%2")}) {
         const QString taken = room.filePath(name);
@@ -121,7 +116,7 @@ void TestProjectStore::passesOverALinkToNowhere()
 {
     const QTemporaryDir room;
     QVERIFY(QFile::link(QStringLiteral("nowhere"), room.filePath(QStringLiteral("P"))));
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     QVERIFY2(store.create(room.path(), QStringLiteral("P"),
                           {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error),
@@ -134,7 +129,7 @@ void TestProjectStore::saysWhereNothingCanBeWritten()
 {
     const QTemporaryDir room;
     QCOMPARE(chmod(qPrintable(room.path()), 0555), 0);
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     {
         const Unprivileged nobody;
@@ -160,7 +155,7 @@ void TestProjectStore::refusesNamesThatAreNoFolder()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     QVERIFY(!store.create(room.path(), name, {{QStringLiteral("a.json"), QStringLiteral("[]")}}, &error));
     QVERIFY(error.contains(QStringLiteral("name")));
@@ -180,7 +175,8 @@ void TestProjectStore::refusesInTheLanguageOfThePerson()
 {
     QFETCH(QString, refusal);
     const QTemporaryDir room;
-    ProjectStore store(QString::fromLatin1(QTest::currentDataTag()));
+    const PracticeTranslator translator(QString::fromLatin1(QTest::currentDataTag()));
+    ProjectStore store;
     QString error;
     QVERIFY(!store.create(room.path(), QStringLiteral("a/b"), {}, &error));
     QVERIFY2(error.startsWith(refusal), qPrintable(error));
@@ -198,7 +194,7 @@ void TestProjectStore::refusesPathsThatLeadOut()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QString error;
     QVERIFY(!store.create(room.path(), QStringLiteral("P"), {{name, QStringLiteral("[]")}}, &error));
     QVERIFY(!error.isEmpty());
@@ -209,7 +205,7 @@ void TestProjectStore::refusesPathsThatLeadOut()
 void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 {
     const QTemporaryDir room;
-    ProjectStore store(kLocale);
+    ProjectStore store;
     QSignalSpy changed(&store, &ProjectStore::changed);
     QString error;
     // "a" cannot be a file and a folder.
@@ -224,9 +220,9 @@ void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 
 void TestProjectStore::hasNoFilesBeforeAProjectIsOpen()
 {
-    const ProjectStore store(kLocale);
+    const ProjectStore store;
     QVERIFY(store.file(QStringLiteral("data/Actors.json")).isNull());
 }
 
-QTEST_APPLESS_MAIN(TestProjectStore)
+QTEST_GUILESS_MAIN(TestProjectStore)
 #include "tst_ProjectStore.moc"

@@ -1,0 +1,149 @@
+#include "CatalogueTexts.h"
+#include "PracticeTranslator.h"
+#include "lesson/LessonWords.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+
+namespace {
+
+QString cataloguePath(const QString &locale)
+{
+    return QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/translations/%1.ts").arg(locale);
+}
+
+/// What is wrong with a catalogue when it is held against the sources, one line each.
+QStringList problemsOf(const QByteArray &catalogue)
+{
+    const QVector<CatalogueText> texts = textsOf(updatedCatalogue(
+        catalogue, QStringLiteral(LUPDATE), QStringLiteral(TUTORIAL_SOURCE_DIR "/practice")));
+    if (texts.isEmpty()) {
+        return {QStringLiteral("no texts")};
+    }
+    QStringList problems;
+    for (const CatalogueText &text : texts) {
+        if (!text.state.isEmpty()) {
+            problems.append(text.state + QLatin1Char(' ') + text.name());
+        } else if (text.translation.isEmpty()) {
+            problems.append(QStringLiteral("empty ") + text.name());
+        } else if (placesForValues(text.translation) != placesForValues(text.source)) {
+            problems.append(QStringLiteral("other values in ") + text.name());
+        }
+    }
+    return problems;
+}
+
+QByteArray catalogueWith(const QString &source, const QString &translation)
+{
+    return QStringLiteral("<context><name>LessonPanel</name><message><source>%1</source>"
+                          "<translation>%2</translation></message></context></TS>")
+        .arg(source, translation)
+        .toUtf8();
+}
+
+} // namespace
+
+class TestPracticeTexts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyLanguageButEnglishHasACatalogue();
+    void aCatalogueHasJustTheTextsOfTheSources_data();
+    void aCatalogueHasJustTheTextsOfTheSources();
+    void aMistakeInACatalogueIsFound_data();
+    void aMistakeInACatalogueIsFound();
+    void theTextsAreShownInTheirLanguage_data();
+    void theTextsAreShownInTheirLanguage();
+    void englishIsWhatTheSourcesSay();
+};
+
+void TestPracticeTexts::everyLanguageButEnglishHasACatalogue()
+{
+    QStringList catalogues;
+    for (const QString &locale : LessonWords::locales().mid(1)) {
+        catalogues.append(locale + QStringLiteral(".ts"));
+    }
+    QCOMPARE(QDir(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/translations")).entryList(QDir::Files),
+             catalogues);
+}
+
+void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources_data()
+{
+    QTest::addColumn<QString>("locale");
+    for (const QString &locale : LessonWords::locales().mid(1)) {
+        QTest::newRow(qPrintable(locale)) << locale;
+    }
+}
+
+void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources()
+{
+    QFETCH(QString, locale);
+    const QByteArray catalogue = catalogueBytes(cataloguePath(locale));
+    QVERIFY(textsOf(catalogue).size() > 20);
+    QCOMPARE(problemsOf(catalogue), QStringList());
+}
+
+void TestPracticeTexts::aMistakeInACatalogueIsFound_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("a text that is gone from the sources")
+        << catalogueWith(QStringLiteral("Nobody says this."), QStringLiteral("x"))
+        << QStringLiteral("vanished LessonPanel: Nobody says this.");
+    QTest::newRow("a text without a translation")
+        << catalogueWith(QStringLiteral("Start"), QString()) << QStringLiteral("empty LessonPanel: Start");
+    QTest::newRow("a text that leaves a value out")
+        << catalogueWith(QStringLiteral("Step %1 of %2"), QStringLiteral("%2"))
+        << QStringLiteral("other values in LessonPanel: Step %1 of %2");
+    QTest::newRow("a text that is missing") << catalogueWith(QStringLiteral("Start"), QStringLiteral("x"))
+                                            << QStringLiteral("unfinished LessonPanel: Lessons");
+}
+
+void TestPracticeTexts::aMistakeInACatalogueIsFound()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, problem);
+    const QStringList problems = problemsOf(
+        "<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS><TS version=\"2.1\" language=\"ja_JP\">" +
+        text);
+    QVERIFY2(problems.contains(problem), qPrintable(problems.join(QLatin1Char('\n'))));
+}
+
+void TestPracticeTexts::theTextsAreShownInTheirLanguage_data()
+{
+    aCatalogueHasJustTheTextsOfTheSources_data();
+}
+
+void TestPracticeTexts::theTextsAreShownInTheirLanguage()
+{
+    QFETCH(QString, locale);
+    const QVector<CatalogueText> texts = textsOf(catalogueBytes(cataloguePath(locale)));
+    const auto shown = [](const CatalogueText &text) {
+        return QCoreApplication::translate(qPrintable(text.context), qPrintable(text.source));
+    };
+    {
+        const PracticeTranslator translator(locale);
+        for (const CatalogueText &text : texts) {
+            QCOMPARE(shown(text), text.translation);
+        }
+    }
+    for (const CatalogueText &text : texts) {
+        QCOMPARE(shown(text), text.source);
+    }
+}
+
+void TestPracticeTexts::englishIsWhatTheSourcesSay()
+{
+    const PracticeTranslator translator(QStringLiteral("en_US"));
+    QVERIFY(translator.isEmpty());
+    const QVector<CatalogueText> texts = textsOf(catalogueBytes(cataloguePath(QStringLiteral("ja_JP"))));
+    QVERIFY(!texts.isEmpty());
+    for (const CatalogueText &text : texts) {
+        QCOMPARE(QCoreApplication::translate(qPrintable(text.context), qPrintable(text.source)), text.source);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestPracticeTexts)
+#include "tst_PracticeTexts.moc"
