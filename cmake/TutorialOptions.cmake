@@ -1,7 +1,12 @@
 # What every target of ours is compiled with. Link a target to tutorial_options to get it.
 
-# The program looks for its fonts and patches beside itself, so everything installs into one folder.
-set(TUTORIAL_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/tutorial" CACHE STRING "Folder of the program and what it looks for beside itself")
+# The program looks for its fonts and patches beside itself, so everything that is run installs into one folder. Only a
+# choice is kept: the default follows the prefix.
+set(TUTORIAL_INSTALL_DIR "" CACHE STRING
+    "Folder of the program and what it looks for beside itself; empty: tutorial in CMAKE_INSTALL_LIBDIR")
+if(NOT TUTORIAL_INSTALL_DIR)
+    set(TUTORIAL_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/tutorial")
+endif()
 
 # The system's python3 first: it is the one that Debian's packages for Python serve.
 find_program(TUTORIAL_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
