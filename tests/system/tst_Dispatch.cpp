@@ -12,27 +12,27 @@ class tst_Dispatch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ignores_unknown_words_silently();
-    void compares_words_exactly();
-    void ignores_contents_and_log();
-    void greets_with_the_locale_data();
-    void greets_with_the_locale();
-    void greets_again_without_new_overlays();
-    void keeps_little_of_a_greeting();
-    void drops_an_indicator_update_before_the_greeting();
-    void hands_an_indicator_update_to_the_indicator();
-    void takes_a_command_without_its_fields();
-    void ignores_a_second_show_within_ten_ticks();
-    void ignores_show_before_the_greeting();
-    void plays_the_document_as_it_stands_after_an_unknown_name();
-    void says_what_did_not_load_and_stays();
-    void refuses_a_bad_step_name();
-    void reports_preset_data_that_is_not_there();
-    void answers_with_the_preset_data_beside_the_program();
-    void survives_hostile_locales();
+    void ignoresUnknownWordsSilently();
+    void comparesWordsExactly();
+    void ignoresContentsAndLog();
+    void greetsWithTheLocale_data();
+    void greetsWithTheLocale();
+    void greetsAgainWithoutNewOverlays();
+    void keepsLittleOfAGreeting();
+    void dropsAnIndicatorUpdateBeforeTheGreeting();
+    void handsAnIndicatorUpdateToTheIndicator();
+    void takesACommandWithoutItsFields();
+    void ignoresASecondShowWithinTenTicks();
+    void ignoresShowBeforeTheGreeting();
+    void playsTheDocumentAsItStandsAfterAnUnknownName();
+    void saysWhatDidNotLoadAndStays();
+    void refusesABadStepName();
+    void reportsPresetDataThatIsNotThere();
+    void answersWithThePresetDataBesideTheProgram();
+    void survivesHostileLocales();
 };
 
-void tst_Dispatch::ignores_unknown_words_silently()
+void tst_Dispatch::ignoresUnknownWordsSilently()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -54,7 +54,7 @@ void tst_Dispatch::ignores_unknown_words_silently()
     QVERIFY(host.payloads().isEmpty());
 }
 
-void tst_Dispatch::compares_words_exactly()
+void tst_Dispatch::comparesWordsExactly()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -65,7 +65,7 @@ void tst_Dispatch::compares_words_exactly()
     QVERIFY(host.payloads().isEmpty());
 }
 
-void tst_Dispatch::ignores_contents_and_log()
+void tst_Dispatch::ignoresContentsAndLog()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -75,7 +75,7 @@ void tst_Dispatch::ignores_contents_and_log()
     QVERIFY(host.payloads().isEmpty());
 }
 
-void tst_Dispatch::greets_with_the_locale_data()
+void tst_Dispatch::greetsWithTheLocale_data()
 {
     QTest::addColumn<QStringList>("command");
     QTest::addColumn<QString>("locale");
@@ -89,7 +89,7 @@ void tst_Dispatch::greets_with_the_locale_data()
     QTest::newRow("unknown") << QStringList{word, QStringLiteral("xx")} << QStringLiteral("xx") << false;
 }
 
-void tst_Dispatch::greets_with_the_locale()
+void tst_Dispatch::greetsWithTheLocale()
 {
     QFETCH(QStringList, command);
     QFETCH(QString, locale);
@@ -106,7 +106,7 @@ void tst_Dispatch::greets_with_the_locale()
     }));
 }
 
-void tst_Dispatch::greets_again_without_new_overlays()
+void tst_Dispatch::greetsAgainWithoutNewOverlays()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -121,7 +121,7 @@ void tst_Dispatch::greets_again_without_new_overlays()
     QVERIFY(!host.log().contains(QStringLiteral("TutorialIndicator::~TutorialIndicator")));
 }
 
-void tst_Dispatch::keeps_little_of_a_greeting()
+void tst_Dispatch::keepsLittleOfAGreeting()
 {
     constexpr int kGreetings = 500;
     FakeHost host;
@@ -138,7 +138,7 @@ void tst_Dispatch::keeps_little_of_a_greeting()
     QVERIFY2(before > 0 && each < 8192, qPrintable(QString::number(each)));
 }
 
-void tst_Dispatch::drops_an_indicator_update_before_the_greeting()
+void tst_Dispatch::dropsAnIndicatorUpdateBeforeTheGreeting()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -149,7 +149,7 @@ void tst_Dispatch::drops_an_indicator_update_before_the_greeting()
     QVERIFY(!host.log().contains(QStringLiteral("TutorialIndicator::")));
 }
 
-void tst_Dispatch::hands_an_indicator_update_to_the_indicator()
+void tst_Dispatch::handsAnIndicatorUpdateToTheIndicator()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -166,7 +166,7 @@ void tst_Dispatch::hands_an_indicator_update_to_the_indicator()
         qPrintable(host.log()));
 }
 
-void tst_Dispatch::takes_a_command_without_its_fields()
+void tst_Dispatch::takesACommandWithoutItsFields()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -186,7 +186,7 @@ void tst_Dispatch::takes_a_command_without_its_fields()
              qPrintable(host.log()));
 }
 
-void tst_Dispatch::ignores_a_second_show_within_ten_ticks()
+void tst_Dispatch::ignoresASecondShowWithinTenTicks()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -202,7 +202,7 @@ void tst_Dispatch::ignores_a_second_show_within_ten_ticks()
     QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout set to 10")), 2);
 }
 
-void tst_Dispatch::ignores_show_before_the_greeting()
+void tst_Dispatch::ignoresShowBeforeTheGreeting()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -211,7 +211,7 @@ void tst_Dispatch::ignores_show_before_the_greeting()
     QVERIFY(!host.log().contains(QStringLiteral("m_logHideIgnoreTimeout")));
 }
 
-void tst_Dispatch::plays_the_document_as_it_stands_after_an_unknown_name()
+void tst_Dispatch::playsTheDocumentAsItStandsAfterAnUnknownName()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -225,7 +225,7 @@ void tst_Dispatch::plays_the_document_as_it_stands_after_an_unknown_name()
         qPrintable(host.log()));
 }
 
-void tst_Dispatch::says_what_did_not_load_and_stays()
+void tst_Dispatch::saysWhatDidNotLoadAndStays()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -239,7 +239,7 @@ void tst_Dispatch::says_what_did_not_load_and_stays()
     QVERIFY(host.waitForPayloads(1));
 }
 
-void tst_Dispatch::refuses_a_bad_step_name()
+void tst_Dispatch::refusesABadStepName()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -249,7 +249,7 @@ void tst_Dispatch::refuses_a_bad_step_name()
     QVERIFY(host.payloads().isEmpty());
 }
 
-void tst_Dispatch::reports_preset_data_that_is_not_there()
+void tst_Dispatch::reportsPresetDataThatIsNotThere()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -259,7 +259,7 @@ void tst_Dispatch::reports_preset_data_that_is_not_there()
     QVERIFY(host.payloads().isEmpty());
 }
 
-void tst_Dispatch::answers_with_the_preset_data_beside_the_program()
+void tst_Dispatch::answersWithThePresetDataBesideTheProgram()
 {
     FakeHost host;
     const QTemporaryDir folder;
@@ -297,7 +297,7 @@ void tst_Dispatch::answers_with_the_preset_data_beside_the_program()
              qPrintable(log));
 }
 
-void tst_Dispatch::survives_hostile_locales()
+void tst_Dispatch::survivesHostileLocales()
 {
     FakeHost host;
     QVERIFY(host.start());

@@ -11,13 +11,13 @@ class tst_HandOver : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void lists_19_lessons_with_titles_data();
-    void lists_19_lessons_with_titles();
-    void hands_over_a_complete_script_data();
-    void hands_over_a_complete_script();
-    void differs_between_languages_in_the_hints_only();
-    void sends_no_byte_order_mark();
-    void falls_back_to_English_for_a_language_without_catalogue();
+    void lists19LessonsWithTitles_data();
+    void lists19LessonsWithTitles();
+    void handsOverACompleteScript_data();
+    void handsOverACompleteScript();
+    void differsBetweenLanguagesInTheHintsOnly();
+    void sendsNoByteOrderMark();
+    void fallsBackToEnglishForALanguageWithoutCatalogue();
 
 private:
     static QJsonArray scenario(const QString &locale);
@@ -62,12 +62,12 @@ QJsonArray tst_HandOver::scenario(const QString &locale)
     return QJsonDocument::fromJson(script.toUtf8()).array();
 }
 
-void tst_HandOver::lists_19_lessons_with_titles_data()
+void tst_HandOver::lists19LessonsWithTitles_data()
 {
     addLocales();
 }
 
-void tst_HandOver::lists_19_lessons_with_titles()
+void tst_HandOver::lists19LessonsWithTitles()
 {
     QFETCH(QString, locale);
     FakeHost host;
@@ -89,12 +89,12 @@ void tst_HandOver::lists_19_lessons_with_titles()
     }
 }
 
-void tst_HandOver::hands_over_a_complete_script_data()
+void tst_HandOver::handsOverACompleteScript_data()
 {
     addLocales();
 }
 
-void tst_HandOver::hands_over_a_complete_script()
+void tst_HandOver::handsOverACompleteScript()
 {
     QFETCH(QString, locale);
     const QJsonArray items = scenario(locale);
@@ -115,7 +115,7 @@ void tst_HandOver::hands_over_a_complete_script()
     }
 }
 
-void tst_HandOver::differs_between_languages_in_the_hints_only()
+void tst_HandOver::differsBetweenLanguagesInTheHintsOnly()
 {
     QList<QJsonArray> scenarios;
     const QStringList locales = allLocales();
@@ -133,7 +133,7 @@ void tst_HandOver::differs_between_languages_in_the_hints_only()
     QCOMPARE(scenarios.at(2), scenarios.at(0));
 }
 
-void tst_HandOver::sends_no_byte_order_mark()
+void tst_HandOver::sendsNoByteOrderMark()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -147,7 +147,7 @@ void tst_HandOver::sends_no_byte_order_mark()
     QVERIFY(!host.receivedBytes().contains("\xEF\xBB\xBF"));
 }
 
-void tst_HandOver::falls_back_to_English_for_a_language_without_catalogue()
+void tst_HandOver::fallsBackToEnglishForALanguageWithoutCatalogue()
 {
     QCOMPARE(scenario(QStringLiteral("xx_YY")), scenario(QStringLiteral("en_US")));
 }

@@ -9,22 +9,22 @@ class tst_Link : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void runs_the_commands_of_one_payload_in_order();
-    void runs_two_frames_of_one_read_in_order();
-    void sends_alive_each_second();
-    void frames_its_answers();
-    void counts_bytes_in_the_length_of_an_answer();
-    void drops_what_stands_behind_bye_and_stays();
-    void keeps_reporting_an_invalid_header();
-    void recovers_after_an_invalid_payload_size();
-    void recovers_after_a_missing_terminator();
-    void logs_128_characters_of_what_it_sends_and_sends_all();
-    void waits_for_no_host_that_stops_reading();
-    void takes_no_memory_ahead_of_a_huge_length();
-    void ends_when_the_host_closes_its_writing_side();
-    void survives_every_field_in_every_place();
-    void survives_hostile_bytes();
-    void survives_hostile_commands();
+    void runsTheCommandsOfOnePayloadInOrder();
+    void runsTwoFramesOfOneReadInOrder();
+    void sendsAliveEachSecond();
+    void framesItsAnswers();
+    void countsBytesInTheLengthOfAnAnswer();
+    void dropsWhatStandsBehindByeAndStays();
+    void keepsReportingAnInvalidHeader();
+    void recoversAfterAnInvalidPayloadSize();
+    void recoversAfterAMissingTerminator();
+    void logs128CharactersOfWhatItSendsAndSendsAll();
+    void waitsForNoHostThatStopsReading();
+    void takesNoMemoryAheadOfAHugeLength();
+    void endsWhenTheHostClosesItsWritingSide();
+    void survivesEveryFieldInEveryPlace();
+    void survivesHostileBytes();
+    void survivesHostileCommands();
 };
 
 namespace {
@@ -64,7 +64,7 @@ QByteArrayList hostileFields()
 
 } // namespace
 
-void tst_Link::runs_the_commands_of_one_payload_in_order()
+void tst_Link::runsTheCommandsOfOnePayloadInOrder()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -76,7 +76,7 @@ void tst_Link::runs_the_commands_of_one_payload_in_order()
     QVERIFY(payloads.at(2).startsWith(QStringLiteral("tutorialList\x01")));
 }
 
-void tst_Link::runs_two_frames_of_one_read_in_order()
+void tst_Link::runsTwoFramesOfOneReadInOrder()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -87,7 +87,7 @@ void tst_Link::runs_two_frames_of_one_read_in_order()
     QVERIFY(host.payloads().at(1).startsWith(QStringLiteral("tutorialList\x01")));
 }
 
-void tst_Link::sends_alive_each_second()
+void tst_Link::sendsAliveEachSecond()
 {
     FakeHost host;
     host.stampLog();
@@ -101,7 +101,7 @@ void tst_Link::sends_alive_each_second()
     QVERIFY2(usual > 850 && usual < 1300, qPrintable(QString::number(usual)));
 }
 
-void tst_Link::frames_its_answers()
+void tst_Link::framesItsAnswers()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -111,7 +111,7 @@ void tst_Link::frames_its_answers()
                                                        16)));
 }
 
-void tst_Link::counts_bytes_in_the_length_of_an_answer()
+void tst_Link::countsBytesInTheLengthOfAnAnswer()
 {
     FakeHost host;
     QVERIFY(host.start(QStringLiteral("ja_JP")));
@@ -124,7 +124,7 @@ void tst_Link::counts_bytes_in_the_length_of_an_answer()
     QVERIFY(host.receivedBytes().contains(header + utf8 + '\0'));
 }
 
-void tst_Link::drops_what_stands_behind_bye_and_stays()
+void tst_Link::dropsWhatStandsBehindByeAndStays()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -138,7 +138,7 @@ void tst_Link::drops_what_stands_behind_bye_and_stays()
     QCOMPARE(host.process().state(), QProcess::Running);
 }
 
-void tst_Link::keeps_reporting_an_invalid_header()
+void tst_Link::keepsReportingAnInvalidHeader()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -151,7 +151,7 @@ void tst_Link::keeps_reporting_an_invalid_header()
     QCOMPARE(host.process().state(), QProcess::Running);
 }
 
-void tst_Link::recovers_after_an_invalid_payload_size()
+void tst_Link::recoversAfterAnInvalidPayloadSize()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -161,7 +161,7 @@ void tst_Link::recovers_after_an_invalid_payload_size()
     QVERIFY(host.waitForPayloads(1));
 }
 
-void tst_Link::recovers_after_a_missing_terminator()
+void tst_Link::recoversAfterAMissingTerminator()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -172,7 +172,7 @@ void tst_Link::recovers_after_a_missing_terminator()
     QVERIFY(host.waitForPayloads(1));
 }
 
-void tst_Link::logs_128_characters_of_what_it_sends_and_sends_all()
+void tst_Link::logs128CharactersOfWhatItSendsAndSendsAll()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -187,7 +187,7 @@ void tst_Link::logs_128_characters_of_what_it_sends_and_sends_all()
              qPrintable(host.log()));
 }
 
-void tst_Link::waits_for_no_host_that_stops_reading()
+void tst_Link::waitsForNoHostThatStopsReading()
 {
     constexpr int kLessons = 20;
     FakeHost host;
@@ -210,7 +210,7 @@ void tst_Link::waits_for_no_host_that_stops_reading()
     }
 }
 
-void tst_Link::takes_no_memory_ahead_of_a_huge_length()
+void tst_Link::takesNoMemoryAheadOfAHugeLength()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -226,7 +226,7 @@ void tst_Link::takes_no_memory_ahead_of_a_huge_length()
     QVERIFY2(grown < 128 * 1024 * 1024, qPrintable(QString::number(grown)));
 }
 
-void tst_Link::ends_when_the_host_closes_its_writing_side()
+void tst_Link::endsWhenTheHostClosesItsWritingSide()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -244,7 +244,7 @@ void tst_Link::ends_when_the_host_closes_its_writing_side()
              qPrintable(host.log()));
 }
 
-void tst_Link::survives_every_field_in_every_place()
+void tst_Link::survivesEveryFieldInEveryPlace()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -263,7 +263,7 @@ void tst_Link::survives_every_field_in_every_place()
     QCOMPARE(host.process().state(), QProcess::Running);
 }
 
-void tst_Link::survives_hostile_bytes()
+void tst_Link::survivesHostileBytes()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
@@ -287,7 +287,7 @@ void tst_Link::survives_hostile_bytes()
     }
 }
 
-void tst_Link::survives_hostile_commands()
+void tst_Link::survivesHostileCommands()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);

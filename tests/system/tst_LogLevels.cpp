@@ -8,9 +8,9 @@ class tst_LogLevels : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void of_the_link_and_its_commands();
-    void without_a_host();
-    void without_a_key();
+    void ofTheLinkAndItsCommands();
+    void withoutAHost();
+    void withoutAKey();
 };
 
 namespace {
@@ -46,7 +46,7 @@ void compareLevels(FakeHost &host, const QString &level, const QStringList &part
 
 } // namespace
 
-void tst_LogLevels::of_the_link_and_its_commands()
+void tst_LogLevels::ofTheLinkAndItsCommands()
 {
     FakeHost host;
     showLevels(host);
@@ -112,7 +112,7 @@ void tst_LogLevels::of_the_link_and_its_commands()
                    QStringLiteral("UndoRedo::UndoRedo 34")});
 }
 
-void tst_LogLevels::without_a_host()
+void tst_LogLevels::withoutAHost()
 {
     FakeHost host;
     showLevels(host);
@@ -123,7 +123,7 @@ void tst_LogLevels::without_a_host()
                    QStringLiteral("TutorialManager::send 1396")});
 }
 
-void tst_LogLevels::without_a_key()
+void tst_LogLevels::withoutAKey()
 {
     FakeHost host;
     showLevels(host);

@@ -8,9 +8,9 @@ class tst_LongFrame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void delivers_a_payload_of_256_MiB();
-    void passes_over_a_longer_one();
-    void survives_a_command_of_separators();
+    void deliversAPayloadOf256MiB();
+    void passesOverALongerOne();
+    void survivesACommandOfSeparators();
 };
 
 namespace {
@@ -26,7 +26,7 @@ QByteArray filled(const QByteArray &start, char character, const QByteArray &end
 
 } // namespace
 
-void tst_LongFrame::delivers_a_payload_of_256_MiB()
+void tst_LongFrame::deliversAPayloadOf256MiB()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -37,7 +37,7 @@ void tst_LongFrame::delivers_a_payload_of_256_MiB()
     QVERIFY(!host.log().contains(QStringLiteral("TutorialManager::onReadyRead")));
 }
 
-void tst_LongFrame::passes_over_a_longer_one()
+void tst_LongFrame::passesOverALongerOne()
 {
     FakeHost host;
     // A sanitizer holds back what has been freed.
@@ -62,7 +62,7 @@ void tst_LongFrame::passes_over_a_longer_one()
     QVERIFY2(grown < kMostPayload / 8, qPrintable(QString::number(grown)));
 }
 
-void tst_LongFrame::survives_a_command_of_separators()
+void tst_LongFrame::survivesACommandOfSeparators()
 {
     // A list of Qt has no room for so many fields.
     FakeHost host;

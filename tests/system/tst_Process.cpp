@@ -18,26 +18,26 @@ class tst_Process : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ends_with_status_0_when_the_link_goes_down();
-    void ends_without_a_message_about_destroyed_objects();
-    void leaves_no_temporary_folder_behind();
-    void lives_on_when_nobody_reads_its_log();
-    void registers_its_bundles_before_main();
-    void sets_the_application_up_before_its_loop();
-    void builds_its_objects_in_order();
-    void joins_the_undo_history_to_the_manager();
-    void connects_under_the_default_key_without_arguments();
-    void stays_with_en_US_with_one_argument();
-    void ignores_further_arguments();
-    void logs_a_locale_without_a_catalogue_and_runs_on();
-    void stays_without_a_socket_under_an_empty_key();
-    void ends_by_itself_after_30_silent_seconds();
-    void starts_although_nobody_listens();
-    void reads_the_stored_locale();
-    void runs_without_a_home_folder();
+    void endsWithStatus0WhenTheLinkGoesDown();
+    void endsWithoutAMessageAboutDestroyedObjects();
+    void leavesNoTemporaryFolderBehind();
+    void livesOnWhenNobodyReadsItsLog();
+    void registersItsBundlesBeforeMain();
+    void setsTheApplicationUpBeforeItsLoop();
+    void buildsItsObjectsInOrder();
+    void joinsTheUndoHistoryToTheManager();
+    void connectsUnderTheDefaultKeyWithoutArguments();
+    void staysWithEnUSWithOneArgument();
+    void ignoresFurtherArguments();
+    void logsALocaleWithoutACatalogueAndRunsOn();
+    void staysWithoutASocketUnderAnEmptyKey();
+    void endsByItselfAfter30SilentSeconds();
+    void startsAlthoughNobodyListens();
+    void readsTheStoredLocale();
+    void runsWithoutAHomeFolder();
 };
 
-void tst_Process::ends_with_status_0_when_the_link_goes_down()
+void tst_Process::endsWithStatus0WhenTheLinkGoesDown()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -57,7 +57,7 @@ void tst_Process::ends_with_status_0_when_the_link_goes_down()
              qPrintable(end.constFirst()));
 }
 
-void tst_Process::ends_without_a_message_about_destroyed_objects()
+void tst_Process::endsWithoutAMessageAboutDestroyedObjects()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -78,7 +78,7 @@ void tst_Process::ends_without_a_message_about_destroyed_objects()
     QCOMPARE(end.trimmed(), QString());
 }
 
-void tst_Process::leaves_no_temporary_folder_behind()
+void tst_Process::leavesNoTemporaryFolderBehind()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -91,7 +91,7 @@ void tst_Process::leaves_no_temporary_folder_behind()
     QVERIFY(!QDir(folder).exists());
 }
 
-void tst_Process::lives_on_when_nobody_reads_its_log()
+void tst_Process::livesOnWhenNobodyReadsItsLog()
 {
     const QTemporaryDir folder;
     const QByteArray pipe = QFile::encodeName(folder.filePath(QStringLiteral("log")));
@@ -110,7 +110,7 @@ void tst_Process::lives_on_when_nobody_reads_its_log()
     QCOMPARE(host.process().exitCode(), 0);
 }
 
-void tst_Process::registers_its_bundles_before_main()
+void tst_Process::registersItsBundlesBeforeMain()
 {
     FakeHost host;
     QProcessEnvironment environment = host.process().processEnvironment();
@@ -129,7 +129,7 @@ void tst_Process::registers_its_bundles_before_main()
     QCOMPARE(host.log().count(QStringLiteral("Tutorial registers")), 4);
 }
 
-void tst_Process::sets_the_application_up_before_its_loop()
+void tst_Process::setsTheApplicationUpBeforeItsLoop()
 {
     FakeHost host;
     QProcessEnvironment environment = host.process().processEnvironment();
@@ -153,7 +153,7 @@ void tst_Process::sets_the_application_up_before_its_loop()
                      QStringLiteral("the host of the history to true")}));
 }
 
-void tst_Process::builds_its_objects_in_order()
+void tst_Process::buildsItsObjectsInOrder()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -172,7 +172,7 @@ void tst_Process::builds_its_objects_in_order()
     }
 }
 
-void tst_Process::joins_the_undo_history_to_the_manager()
+void tst_Process::joinsTheUndoHistoryToTheManager()
 {
     FakeHost host;
     host.probe(QStringLiteral("history"));
@@ -185,7 +185,7 @@ void tst_Process::joins_the_undo_history_to_the_manager()
                                          QStringLiteral("watching")}));
 }
 
-void tst_Process::connects_under_the_default_key_without_arguments()
+void tst_Process::connectsUnderTheDefaultKeyWithoutArguments()
 {
     // In a folder of temporary files of their own: the key is the same for everyone on this machine.
     const QTemporaryDir folder;
@@ -200,7 +200,7 @@ void tst_Process::connects_under_the_default_key_without_arguments()
     QVERIFY(host.waitForLog(QStringLiteral("\\main main 122 \":/translations/en_US\" true")));
 }
 
-void tst_Process::stays_with_en_US_with_one_argument()
+void tst_Process::staysWithEnUSWithOneArgument()
 {
     FakeHost host;
     QVERIFY(host.listen(QStringLiteral("one-argument-%1").arg(QCoreApplication::applicationPid())));
@@ -211,7 +211,7 @@ void tst_Process::stays_with_en_US_with_one_argument()
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::onConnected 408")));
 }
 
-void tst_Process::ignores_further_arguments()
+void tst_Process::ignoresFurtherArguments()
 {
     FakeHost host;
     QVERIFY(host.listen(QStringLiteral("more-arguments-%1").arg(QCoreApplication::applicationPid())));
@@ -221,7 +221,7 @@ void tst_Process::ignores_further_arguments()
     QVERIFY(host.waitForLog(QStringLiteral("main 122 \":/translations/zh_CN\" true")));
 }
 
-void tst_Process::logs_a_locale_without_a_catalogue_and_runs_on()
+void tst_Process::logsALocaleWithoutACatalogueAndRunsOn()
 {
     FakeHost host;
     QVERIFY(host.start(QStringLiteral("xx_YY")));
@@ -231,7 +231,7 @@ void tst_Process::logs_a_locale_without_a_catalogue_and_runs_on()
     QVERIFY(host.waitForPayloads(1));
 }
 
-void tst_Process::stays_without_a_socket_under_an_empty_key()
+void tst_Process::staysWithoutASocketUnderAnEmptyKey()
 {
     FakeHost host;
     QVERIFY(host.startProgram({QString()}));
@@ -245,7 +245,7 @@ void tst_Process::stays_without_a_socket_under_an_empty_key()
     QCOMPARE(host.process().exitCode(), 0);
 }
 
-void tst_Process::starts_although_nobody_listens()
+void tst_Process::startsAlthoughNobodyListens()
 {
     FakeHost host;
     QVERIFY(host.startProgram({QStringLiteral("nobody-%1").arg(QCoreApplication::applicationPid())}));
@@ -254,7 +254,7 @@ void tst_Process::starts_although_nobody_listens()
     QCOMPARE(host.process().state(), QProcess::Running);
 }
 
-void tst_Process::ends_by_itself_after_30_silent_seconds()
+void tst_Process::endsByItselfAfter30SilentSeconds()
 {
     // One whose host editor says nothing, and one whose host editor is not there.
     FakeHost silent;
@@ -284,7 +284,7 @@ void tst_Process::ends_by_itself_after_30_silent_seconds()
     QVERIFY(absent.log().contains(QStringLiteral("QLocalSocket::ServerNotFoundError")));
 }
 
-void tst_Process::reads_the_stored_locale()
+void tst_Process::readsTheStoredLocale()
 {
     FakeHost host;
     QDir(host.settingsFolder()).mkpath(QStringLiteral("VELMORAN"));
@@ -296,7 +296,7 @@ void tst_Process::reads_the_stored_locale()
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::TutorialManager 210 \"ja_JP\" \"en_US\"")));
 }
 
-void tst_Process::runs_without_a_home_folder()
+void tst_Process::runsWithoutAHomeFolder()
 {
     FakeHost host;
     QProcessEnvironment environment = host.process().processEnvironment();

@@ -27,16 +27,16 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void a_signal_ends_it_as_a_lost_link_does_data() { addSignals(); }
-    void a_signal_ends_it_as_a_lost_link_does();
-    void a_signal_ends_it_under_an_empty_key_data() { addSignals(); }
-    void a_signal_ends_it_under_an_empty_key();
-    void a_signal_ends_it_although_nobody_listens();
-    void many_signals_end_it_once();
-    void a_signal_that_was_ignored_stays_ignored();
-    void a_lost_link_removes_the_folder();
-    void a_killed_process_leaves_its_folder_to_the_next_one();
-    void processes_side_by_side_keep_their_folders();
+    void aSignalEndsItAsALostLinkDoes_data() { addSignals(); }
+    void aSignalEndsItAsALostLinkDoes();
+    void aSignalEndsItUnderAnEmptyKey_data() { addSignals(); }
+    void aSignalEndsItUnderAnEmptyKey();
+    void aSignalEndsItAlthoughNobodyListens();
+    void manySignalsEndItOnce();
+    void aSignalThatWasIgnoredStaysIgnored();
+    void aLostLinkRemovesTheFolder();
+    void aKilledProcessLeavesItsFolderToTheNextOne();
+    void processesSideBySideKeepTheirFolders();
 
 private:
     static void addSignals();
@@ -107,7 +107,7 @@ bool tst_ProcessEnd::startWithoutKey(FakeHost &host)
            host.waitForLog(QStringLiteral("TutorialManager::~TutorialManager 276"));
 }
 
-void tst_ProcessEnd::a_signal_ends_it_as_a_lost_link_does()
+void tst_ProcessEnd::aSignalEndsItAsALostLinkDoes()
 {
     QFETCH(int, signal);
     FakeHost host;
@@ -130,7 +130,7 @@ void tst_ProcessEnd::a_signal_ends_it_as_a_lost_link_does()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::a_signal_ends_it_under_an_empty_key()
+void tst_ProcessEnd::aSignalEndsItUnderAnEmptyKey()
 {
     QFETCH(int, signal);
     FakeHost host;
@@ -145,7 +145,7 @@ void tst_ProcessEnd::a_signal_ends_it_under_an_empty_key()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::a_signal_ends_it_although_nobody_listens()
+void tst_ProcessEnd::aSignalEndsItAlthoughNobodyListens()
 {
     FakeHost host;
     QVERIFY(host.startProgram({QStringLiteral("nobody-%1").arg(QCoreApplication::applicationPid())}));
@@ -157,7 +157,7 @@ void tst_ProcessEnd::a_signal_ends_it_although_nobody_listens()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::many_signals_end_it_once()
+void tst_ProcessEnd::manySignalsEndItOnce()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -177,7 +177,7 @@ void tst_ProcessEnd::many_signals_end_it_once()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::a_signal_that_was_ignored_stays_ignored()
+void tst_ProcessEnd::aSignalThatWasIgnoredStaysIgnored()
 {
     FakeHost host;
     std::signal(SIGHUP, SIG_IGN); // for the program to find, as under nohup
@@ -203,7 +203,7 @@ void tst_ProcessEnd::a_signal_that_was_ignored_stays_ignored()
     QCOMPARE(host.process().exitCode(), 0);
 }
 
-void tst_ProcessEnd::a_lost_link_removes_the_folder()
+void tst_ProcessEnd::aLostLinkRemovesTheFolder()
 {
     FakeHost host;
     QVERIFY(host.start());
@@ -216,7 +216,7 @@ void tst_ProcessEnd::a_lost_link_removes_the_folder()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::a_killed_process_leaves_its_folder_to_the_next_one()
+void tst_ProcessEnd::aKilledProcessLeavesItsFolderToTheNextOne()
 {
     FakeHost living;
     QVERIFY(startWithoutKey(living));
@@ -246,7 +246,7 @@ void tst_ProcessEnd::a_killed_process_leaves_its_folder_to_the_next_one()
     QCOMPARE(left(), QStringList());
 }
 
-void tst_ProcessEnd::processes_side_by_side_keep_their_folders()
+void tst_ProcessEnd::processesSideBySideKeepTheirFolders()
 {
     constexpr int kCount = 6;
     // All find the same leftovers at the same time.

@@ -18,14 +18,14 @@ class tst_SampleProject : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void has_a_step_for_each_lesson_from_the_second();
-    void steps_only_grow();
-    void numbers_entries_by_their_places();
-    void writes_texts_as_numbers_only();
-    void uses_each_text_of_the_catalogues_data();
-    void uses_each_text_of_the_catalogues();
-    void reaches_the_host_whole_and_in_its_language_data();
-    void reaches_the_host_whole_and_in_its_language();
+    void hasAStepForEachLessonFromTheSecond();
+    void stepsOnlyGrow();
+    void numbersEntriesByTheirPlaces();
+    void writesTextsAsNumbersOnly();
+    void usesEachTextOfTheCatalogues_data();
+    void usesEachTextOfTheCatalogues();
+    void reachesTheHostWholeAndInItsLanguage_data();
+    void reachesTheHostWholeAndInItsLanguage();
 };
 
 namespace {
@@ -177,7 +177,7 @@ QString replyOf(FakeHost &host, int step)
 
 } // namespace
 
-void tst_SampleProject::has_a_step_for_each_lesson_from_the_second()
+void tst_SampleProject::hasAStepForEachLessonFromTheSecond()
 {
     const QStringList found =
         QDir(sample::folder()).entryList({QStringLiteral("step*")}, QDir::Dirs | QDir::NoDotAndDotDot);
@@ -199,7 +199,7 @@ void tst_SampleProject::has_a_step_for_each_lesson_from_the_second()
     }
 }
 
-void tst_SampleProject::steps_only_grow()
+void tst_SampleProject::stepsOnlyGrow()
 {
     for (int step = kFirstStep + 1; step <= kLastStep; ++step) {
         const Files before = readStep(step - 1);
@@ -214,7 +214,7 @@ void tst_SampleProject::steps_only_grow()
     }
 }
 
-void tst_SampleProject::numbers_entries_by_their_places()
+void tst_SampleProject::numbersEntriesByTheirPlaces()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         const Files files = readStep(step);
@@ -244,7 +244,7 @@ void tst_SampleProject::numbers_entries_by_their_places()
     }
 }
 
-void tst_SampleProject::writes_texts_as_numbers_only()
+void tst_SampleProject::writesTextsAsNumbersOnly()
 {
     int count = 0;
     for (int step = kFirstStep; step <= kLastStep; ++step) {
@@ -261,12 +261,12 @@ void tst_SampleProject::writes_texts_as_numbers_only()
     QVERIFY(count > 0);
 }
 
-void tst_SampleProject::uses_each_text_of_the_catalogues_data()
+void tst_SampleProject::usesEachTextOfTheCatalogues_data()
 {
     addLocales();
 }
 
-void tst_SampleProject::uses_each_text_of_the_catalogues()
+void tst_SampleProject::usesEachTextOfTheCatalogues()
 {
     QFETCH(QString, locale);
     QSet<QString> used;
@@ -293,12 +293,12 @@ void tst_SampleProject::uses_each_text_of_the_catalogues()
     }
 }
 
-void tst_SampleProject::reaches_the_host_whole_and_in_its_language_data()
+void tst_SampleProject::reachesTheHostWholeAndInItsLanguage_data()
 {
     addLocales();
 }
 
-void tst_SampleProject::reaches_the_host_whole_and_in_its_language()
+void tst_SampleProject::reachesTheHostWholeAndInItsLanguage()
 {
     QFETCH(QString, locale);
     const QMap<QString, QString> texts = catalogue(locale);

@@ -47,12 +47,12 @@ class tst_Allocations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void counts_what_is_allocated();
-    void allocates_nothing_to_keep_the_overlays_in_step_data();
-    void allocates_nothing_to_keep_the_overlays_in_step();
+    void countsWhatIsAllocated();
+    void allocatesNothingToKeepTheOverlaysInStep_data();
+    void allocatesNothingToKeepTheOverlaysInStep();
 };
 
-void tst_Allocations::counts_what_is_allocated()
+void tst_Allocations::countsWhatIsAllocated()
 {
     allocations = 0;
     counting = true;
@@ -62,7 +62,7 @@ void tst_Allocations::counts_what_is_allocated()
     QVERIFY(allocations >= 2);
 }
 
-void tst_Allocations::allocates_nothing_to_keep_the_overlays_in_step_data()
+void tst_Allocations::allocatesNothingToKeepTheOverlaysInStep_data()
 {
     QTest::addColumn<QStringList>("commands");
     const QString greeting = QStringLiteral("fromServer\x01"
@@ -94,7 +94,7 @@ void tst_Allocations::allocates_nothing_to_keep_the_overlays_in_step_data()
     QTest::newRow("host hidden") << QStringList{greeting, start, next, tooltip, hide};
 }
 
-void tst_Allocations::allocates_nothing_to_keep_the_overlays_in_step()
+void tst_Allocations::allocatesNothingToKeepTheOverlaysInStep()
 {
     QFETCH(QStringList, commands);
     ManagerFixture fixture;

@@ -11,30 +11,30 @@ class tst_Authoring : public AuthoringTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_lesson_goes_round();
-    void a_rename_is_saved();
-    void a_rename_in_a_transaction_is_a_step_that_leaves_the_name();
-    void a_rename_in_a_transaction_is_undone_with_its_note();
-    void a_drag_is_one_step();
-    void changes_of_two_items_are_two_steps();
-    void modified_follows_the_saved_position();
-    void loading_leaves_the_history_and_modified();
+    void aLessonGoesRound();
+    void aRenameIsSaved();
+    void aRenameInATransactionIsAStepThatLeavesTheName();
+    void aRenameInATransactionIsUndoneWithItsNote();
+    void aDragIsOneStep();
+    void changesOfTwoItemsAreTwoSteps();
+    void modifiedFollowsTheSavedPosition();
+    void loadingLeavesTheHistoryAndModified();
 
-    void a_paste_without_a_transaction_leaves_the_history();
-    void a_paste_in_a_single_transaction_is_a_step_for_each_item();
-    void a_paste_in_a_sequence_is_one_step();
-    void a_pasted_folder_is_saved_without_its_children();
-    void pasting_twice_gives_names_with_numbers();
-    void the_clipboard_outlives_the_document();
-    void an_unknown_id_leaves_the_clipboard();
-    void no_ids_are_a_list_too();
-    void a_cleared_clipboard_pastes_nothing();
-    void the_clipboard_stays_inside_the_program();
+    void aPasteWithoutATransactionLeavesTheHistory();
+    void aPasteInASingleTransactionIsAStepForEachItem();
+    void aPasteInASequenceIsOneStep();
+    void aPastedFolderIsSavedWithoutItsChildren();
+    void pastingTwiceGivesNamesWithNumbers();
+    void theClipboardOutlivesTheDocument();
+    void anUnknownIdLeavesTheClipboard();
+    void noIdsAreAListToo();
+    void aClearedClipboardPastesNothing();
+    void theClipboardStaysInsideTheProgram();
 
-    void unloading_drops_the_document_and_keeps_the_file();
+    void unloadingDropsTheDocumentAndKeepsTheFile();
 };
 
-void tst_Authoring::a_lesson_goes_round()
+void tst_Authoring::aLessonGoesRound()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QCOMPARE(m_tool->manager()->property("tutorialName").toString(), QStringLiteral("Lesson"));
@@ -84,7 +84,7 @@ void tst_Authoring::a_lesson_goes_round()
     QCOMPARE(m_tool->contentOf(lesson()), saved);
 }
 
-void tst_Authoring::a_rename_is_saved()
+void tst_Authoring::aRenameIsSaved()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->item(3)->setName(QStringLiteral("Renamed \"here\""));
@@ -95,7 +95,7 @@ void tst_Authoring::a_rename_is_saved()
     QCOMPARE(m_tool->item(3)->name, QStringLiteral("Renamed \"here\""));
 }
 
-void tst_Authoring::a_rename_in_a_transaction_is_a_step_that_leaves_the_name()
+void tst_Authoring::aRenameInATransactionIsAStepThatLeavesTheName()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     const QString before = m_tool->document();
@@ -111,7 +111,7 @@ void tst_Authoring::a_rename_in_a_transaction_is_a_step_that_leaves_the_name()
     QCOMPARE(m_tool->item(1)->name, QStringLiteral("Intro"));
 }
 
-void tst_Authoring::a_rename_in_a_transaction_is_undone_with_its_note()
+void tst_Authoring::aRenameInATransactionIsUndoneWithItsNote()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->call(m_tool->history(), "beginSingle", QStringLiteral("rename")));
@@ -129,7 +129,7 @@ void tst_Authoring::a_rename_in_a_transaction_is_undone_with_its_note()
     QVERIFY(!m_tool->canRedo());
 }
 
-void tst_Authoring::a_drag_is_one_step()
+void tst_Authoring::aDragIsOneStep()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     const QString before = m_tool->document();
@@ -149,7 +149,7 @@ void tst_Authoring::a_drag_is_one_step()
     QCOMPARE(m_tool->item(1)->x, 105);
 }
 
-void tst_Authoring::changes_of_two_items_are_two_steps()
+void tst_Authoring::changesOfTwoItemsAreTwoSteps()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("move 1"), 1, "x", 11);
@@ -163,7 +163,7 @@ void tst_Authoring::changes_of_two_items_are_two_steps()
     QCOMPARE(m_tool->item(1)->x, 10);
 }
 
-void tst_Authoring::modified_follows_the_saved_position()
+void tst_Authoring::modifiedFollowsTheSavedPosition()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QSignalSpy changed(m_tool->manager(), &TutorialManager::modifiedChanged);
@@ -185,7 +185,7 @@ void tst_Authoring::modified_follows_the_saved_position()
     QCOMPARE(changed.size(), 6);
 }
 
-void tst_Authoring::loading_leaves_the_history_and_modified()
+void tst_Authoring::loadingLeavesTheHistoryAndModified()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("move"), 1, "y", 1);
@@ -199,7 +199,7 @@ void tst_Authoring::loading_leaves_the_history_and_modified()
     QCOMPARE(m_tool->shape(), QStringLiteral("1 2[3] 4"));
 }
 
-void tst_Authoring::a_paste_without_a_transaction_leaves_the_history()
+void tst_Authoring::aPasteWithoutATransactionLeavesTheHistory()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({4, 1}));
@@ -214,7 +214,7 @@ void tst_Authoring::a_paste_without_a_transaction_leaves_the_history()
     QCOMPARE(m_tool->item(6)->windowKey, QStringLiteral("MainWindow"));
 }
 
-void tst_Authoring::a_paste_in_a_single_transaction_is_a_step_for_each_item()
+void tst_Authoring::aPasteInASingleTransactionIsAStepForEachItem()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({4, 1}));
@@ -230,7 +230,7 @@ void tst_Authoring::a_paste_in_a_single_transaction_is_a_step_for_each_item()
     QCOMPARE(m_tool->paste(), (QList<int>{5, 6}));
 }
 
-void tst_Authoring::a_paste_in_a_sequence_is_one_step()
+void tst_Authoring::aPasteInASequenceIsOneStep()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({2, 4}));
@@ -251,7 +251,7 @@ void tst_Authoring::a_paste_in_a_sequence_is_one_step()
     QCOMPARE(m_tool->shape(), shape);
 }
 
-void tst_Authoring::a_pasted_folder_is_saved_without_its_children()
+void tst_Authoring::aPastedFolderIsSavedWithoutItsChildren()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({2}));
@@ -264,7 +264,7 @@ void tst_Authoring::a_pasted_folder_is_saved_without_its_children()
     QVERIFY(!m_tool->item(6));
 }
 
-void tst_Authoring::pasting_twice_gives_names_with_numbers()
+void tst_Authoring::pastingTwiceGivesNamesWithNumbers()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({1}));
@@ -276,7 +276,7 @@ void tst_Authoring::pasting_twice_gives_names_with_numbers()
     QCOMPARE(m_tool->item(6)->translationId, 5);
 }
 
-void tst_Authoring::the_clipboard_outlives_the_document()
+void tst_Authoring::theClipboardOutlivesTheDocument()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({3}));
@@ -291,7 +291,7 @@ void tst_Authoring::the_clipboard_outlives_the_document()
     QCOMPARE(m_tool->contentOf(lesson()), lessonText());
 }
 
-void tst_Authoring::an_unknown_id_leaves_the_clipboard()
+void tst_Authoring::anUnknownIdLeavesTheClipboard()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->copy({99}));
@@ -308,7 +308,7 @@ void tst_Authoring::an_unknown_id_leaves_the_clipboard()
     QCOMPARE(m_tool->item(5)->name, QStringLiteral("item001(1)"));
 }
 
-void tst_Authoring::no_ids_are_a_list_too()
+void tst_Authoring::noIdsAreAListToo()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QSignalSpy changed(m_tool->manager(), &TutorialManager::mimeTypeChanged);
@@ -321,7 +321,7 @@ void tst_Authoring::no_ids_are_a_list_too()
     QCOMPARE(m_tool->shape(), QStringLiteral("1 2[3] 4"));
 }
 
-void tst_Authoring::a_cleared_clipboard_pastes_nothing()
+void tst_Authoring::aClearedClipboardPastesNothing()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QCOMPARE(m_tool->paste(), QList<int>());
@@ -332,7 +332,7 @@ void tst_Authoring::a_cleared_clipboard_pastes_nothing()
     QCOMPARE(m_tool->shape(), QStringLiteral("1 2[3] 4"));
 }
 
-void tst_Authoring::the_clipboard_stays_inside_the_program()
+void tst_Authoring::theClipboardStaysInsideTheProgram()
 {
     QClipboard *desktop = QGuiApplication::clipboard();
     desktop->setText(QStringLiteral("mine"));
@@ -350,7 +350,7 @@ void tst_Authoring::the_clipboard_stays_inside_the_program()
     QCOMPARE(desktop->text(), QStringLiteral("mine"));
 }
 
-void tst_Authoring::unloading_drops_the_document_and_keeps_the_file()
+void tst_Authoring::unloadingDropsTheDocumentAndKeepsTheFile()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("move"), 1, "y", 1);

@@ -19,14 +19,14 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void the_document_shows_this_code_data();
-    void the_document_shows_this_code();
-    void the_program_appends_a_moved_copy();
-    void the_program_tells_what_went_wrong();
-    void it_appends_a_moved_copy_and_saves();
-    void a_step_that_points_at_nothing_stays_so();
-    void it_is_one_step();
-    void it_tells_what_went_wrong();
+    void theDocumentShowsThisCode_data();
+    void theDocumentShowsThisCode();
+    void theProgramAppendsAMovedCopy();
+    void theProgramTellsWhatWentWrong();
+    void itAppendsAMovedCopyAndSaves();
+    void aStepThatPointsAtNothingStaysSo();
+    void itIsOneStep();
+    void itTellsWhatWentWrong();
 
 private:
     struct Run
@@ -58,7 +58,7 @@ void tst_AuthoringExample::cleanup()
     deleteOverlays();
 }
 
-void tst_AuthoringExample::the_document_shows_this_code_data()
+void tst_AuthoringExample::theDocumentShowsThisCode_data()
 {
     QTest::addColumn<QByteArray>("shown");
     const QString folder = QStringLiteral(TUTORIAL_SOURCE_DIR "/tests/unit/Tutorial/");
@@ -72,7 +72,7 @@ void tst_AuthoringExample::the_document_shows_this_code_data()
     QTest::newRow("CMakeLists.txt") << "```cmake\n" + rules.mid(begin, end - begin) + "```\n";
 }
 
-void tst_AuthoringExample::the_document_shows_this_code()
+void tst_AuthoringExample::theDocumentShowsThisCode()
 {
     QFETCH(QByteArray, shown);
     const QByteArray document =
@@ -90,7 +90,7 @@ tst_AuthoringExample::Run tst_AuthoringExample::runProgram(const QStringList &ar
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput())};
 }
 
-void tst_AuthoringExample::the_program_appends_a_moved_copy()
+void tst_AuthoringExample::theProgramAppendsAMovedCopy()
 {
     const Run done = runProgram({QStringLiteral("no-host"), m_lesson, QStringLiteral("1"),
                                  QStringLiteral("5"), QStringLiteral("-3")});
@@ -102,7 +102,7 @@ void tst_AuthoringExample::the_program_appends_a_moved_copy()
     QCOMPARE(m_tool->item(2)->y, 17);
 }
 
-void tst_AuthoringExample::the_program_tells_what_went_wrong()
+void tst_AuthoringExample::theProgramTellsWhatWentWrong()
 {
     const Run failed = runProgram({QStringLiteral("no-host"), m_lesson, QStringLiteral("9"),
                                    QStringLiteral("5"), QStringLiteral("-3")});
@@ -114,7 +114,7 @@ void tst_AuthoringExample::the_program_tells_what_went_wrong()
     QCOMPARE(m_tool->contentOf(m_lesson), kLesson);
 }
 
-void tst_AuthoringExample::it_appends_a_moved_copy_and_saves()
+void tst_AuthoringExample::itAppendsAMovedCopyAndSaves()
 {
     QCOMPARE(run(m_lesson, 1), QString());
     QVERIFY(!m_tool->modified());
@@ -126,7 +126,7 @@ void tst_AuthoringExample::it_appends_a_moved_copy_and_saves()
     QCOMPARE(m_tool->item(1)->x, 10);
 }
 
-void tst_AuthoringExample::a_step_that_points_at_nothing_stays_so()
+void tst_AuthoringExample::aStepThatPointsAtNothingStaysSo()
 {
     QCOMPARE(run(m_lesson, 5), QString());
     QCOMPARE(m_tool->item(2)->name, QStringLiteral("End(1)"));
@@ -134,7 +134,7 @@ void tst_AuthoringExample::a_step_that_points_at_nothing_stays_so()
     QCOMPARE(m_tool->item(2)->y, -9999);
 }
 
-void tst_AuthoringExample::it_is_one_step()
+void tst_AuthoringExample::itIsOneStep()
 {
     QCOMPARE(run(m_lesson, 1), QString());
     const QString after = m_tool->document();
@@ -147,7 +147,7 @@ void tst_AuthoringExample::it_is_one_step()
     QVERIFY(!m_tool->modified());
 }
 
-void tst_AuthoringExample::it_tells_what_went_wrong()
+void tst_AuthoringExample::itTellsWhatWentWrong()
 {
     QCOMPARE(m_tool->load(m_lesson), QString());
     const QString missing = m_tool->path(QStringLiteral("None.js"));

@@ -6,28 +6,28 @@ class tst_AuthoringLimits : public AuthoringTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void steps_behind_ten_and_a_save_do_not_modify();
-    void a_step_in_the_place_of_the_saved_one_does_not_modify();
-    void a_drag_that_goes_on_behind_a_save_does_not_modify();
-    void a_drag_that_is_kept_apart_from_the_save_modifies();
-    void a_step_back_forgets_that_the_tool_set_modified();
+    void stepsBehindTenAndASaveDoNotModify();
+    void aStepInThePlaceOfTheSavedOneDoesNotModify();
+    void aDragThatGoesOnBehindASaveDoesNotModify();
+    void aDragThatIsKeptApartFromTheSaveModifies();
+    void aStepBackForgetsThatTheToolSetModified();
 
-    void a_drag_behind_an_undo_joins_the_step_before();
-    void a_drag_that_is_kept_apart_from_the_undo_is_a_step();
-    void a_drag_behind_a_redo_joins_the_step_of_the_redo_data();
-    void a_drag_behind_a_redo_joins_the_step_of_the_redo();
+    void aDragBehindAnUndoJoinsTheStepBefore();
+    void aDragThatIsKeptApartFromTheUndoIsAStep();
+    void aDragBehindARedoJoinsTheStepOfTheRedo_data();
+    void aDragBehindARedoJoinsTheStepOfTheRedo();
 
-    void a_step_back_does_nothing_in_a_sequence();
-    void an_empty_sequence_leaves_no_step();
-    void an_empty_sequence_on_a_full_history_costs_a_step();
-    void a_field_of_two_items_in_a_sequence_is_taken_for_one();
-    void changes_that_are_not_mergeable_stay_apart_in_a_sequence();
+    void aStepBackDoesNothingInASequence();
+    void anEmptySequenceLeavesNoStep();
+    void anEmptySequenceOnAFullHistoryCostsAStep();
+    void aFieldOfTwoItemsInASequenceIsTakenForOne();
+    void changesThatAreNotMergeableStayApartInASequence();
 
-    void translations_that_are_there_are_emptied();
-    void a_nested_folder_loses_what_is_below_it();
-    void a_name_that_is_taken_for_something_else_ruins_the_file_data();
-    void a_name_that_is_taken_for_something_else_ruins_the_file();
-    void a_text_with_the_end_of_the_lesson_loses_its_semicolon_on_the_way();
+    void translationsThatAreThereAreEmptied();
+    void aNestedFolderLosesWhatIsBelowIt();
+    void aNameThatIsTakenForSomethingElseRuinsTheFile_data();
+    void aNameThatIsTakenForSomethingElseRuinsTheFile();
+    void aTextWithTheEndOfTheLessonLosesItsSemicolonOnTheWay();
 
 private:
     /// Whether the document differs from what was saved last.
@@ -68,7 +68,7 @@ private:
     QString m_saved;
 };
 
-void tst_AuthoringLimits::steps_behind_ten_and_a_save_do_not_modify()
+void tst_AuthoringLimits::stepsBehindTenAndASaveDoNotModify()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     makeSteps(10);
@@ -80,7 +80,7 @@ void tst_AuthoringLimits::steps_behind_ten_and_a_save_do_not_modify()
     }
 }
 
-void tst_AuthoringLimits::a_step_in_the_place_of_the_saved_one_does_not_modify()
+void tst_AuthoringLimits::aStepInThePlaceOfTheSavedOneDoesNotModify()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     makeSteps(1);
@@ -92,7 +92,7 @@ void tst_AuthoringLimits::a_step_in_the_place_of_the_saved_one_does_not_modify()
     QVERIFY(differs());
 }
 
-void tst_AuthoringLimits::a_drag_that_goes_on_behind_a_save_does_not_modify()
+void tst_AuthoringLimits::aDragThatGoesOnBehindASaveDoesNotModify()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("drag"), 1, "x", 100);
@@ -102,7 +102,7 @@ void tst_AuthoringLimits::a_drag_that_goes_on_behind_a_save_does_not_modify()
     QVERIFY(differs());
 }
 
-void tst_AuthoringLimits::a_drag_that_is_kept_apart_from_the_save_modifies()
+void tst_AuthoringLimits::aDragThatIsKeptApartFromTheSaveModifies()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("drag"), 1, "x", 100);
@@ -115,7 +115,7 @@ void tst_AuthoringLimits::a_drag_that_is_kept_apart_from_the_save_modifies()
     QVERIFY(!differs());
 }
 
-void tst_AuthoringLimits::a_step_back_forgets_that_the_tool_set_modified()
+void tst_AuthoringLimits::aStepBackForgetsThatTheToolSetModified()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(save());
@@ -127,7 +127,7 @@ void tst_AuthoringLimits::a_step_back_forgets_that_the_tool_set_modified()
     QVERIFY(differs());
 }
 
-void tst_AuthoringLimits::a_drag_behind_an_undo_joins_the_step_before()
+void tst_AuthoringLimits::aDragBehindAnUndoJoinsTheStepBefore()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("other"), 1, "y", 50);
@@ -139,7 +139,7 @@ void tst_AuthoringLimits::a_drag_behind_an_undo_joins_the_step_before()
     QCOMPARE(m_tool->item(1)->y, 20);
 }
 
-void tst_AuthoringLimits::a_drag_that_is_kept_apart_from_the_undo_is_a_step()
+void tst_AuthoringLimits::aDragThatIsKeptApartFromTheUndoIsAStep()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("other"), 1, "y", 50);
@@ -151,14 +151,14 @@ void tst_AuthoringLimits::a_drag_that_is_kept_apart_from_the_undo_is_a_step()
     QCOMPARE(stepsToUndo(), 2);
 }
 
-void tst_AuthoringLimits::a_drag_behind_a_redo_joins_the_step_of_the_redo_data()
+void tst_AuthoringLimits::aDragBehindARedoJoinsTheStepOfTheRedo_data()
 {
     QTest::addColumn<bool>("apart");
     QTest::newRow("joins") << false;
     QTest::newRow("kept apart") << true;
 }
 
-void tst_AuthoringLimits::a_drag_behind_a_redo_joins_the_step_of_the_redo()
+void tst_AuthoringLimits::aDragBehindARedoJoinsTheStepOfTheRedo()
 {
     QFETCH(bool, apart);
     QCOMPARE(m_tool->load(lesson()), QString());
@@ -176,7 +176,7 @@ void tst_AuthoringLimits::a_drag_behind_a_redo_joins_the_step_of_the_redo()
     QCOMPARE(stepsToUndo(), apart ? 2 : 1);
 }
 
-void tst_AuthoringLimits::a_step_back_does_nothing_in_a_sequence()
+void tst_AuthoringLimits::aStepBackDoesNothingInASequence()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     makeSteps(2);
@@ -191,7 +191,7 @@ void tst_AuthoringLimits::a_step_back_does_nothing_in_a_sequence()
     QCOMPARE(stepsToUndo(), 2);
 }
 
-void tst_AuthoringLimits::an_empty_sequence_leaves_no_step()
+void tst_AuthoringLimits::anEmptySequenceLeavesNoStep()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     makeSteps(9);
@@ -201,7 +201,7 @@ void tst_AuthoringLimits::an_empty_sequence_leaves_no_step()
     QCOMPARE(m_tool->item(1)->x, 10);
 }
 
-void tst_AuthoringLimits::an_empty_sequence_on_a_full_history_costs_a_step()
+void tst_AuthoringLimits::anEmptySequenceOnAFullHistoryCostsAStep()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     makeSteps(10);
@@ -215,7 +215,7 @@ void tst_AuthoringLimits::an_empty_sequence_on_a_full_history_costs_a_step()
     QCOMPARE(m_tool->item(1)->x, 101); // the first step is gone
 }
 
-void tst_AuthoringLimits::a_field_of_two_items_in_a_sequence_is_taken_for_one()
+void tst_AuthoringLimits::aFieldOfTwoItemsInASequenceIsTakenForOne()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     QVERIFY(m_tool->call(m_tool->history(), "beginSequence", QStringLiteral("move both")));
@@ -229,7 +229,7 @@ void tst_AuthoringLimits::a_field_of_two_items_in_a_sequence_is_taken_for_one()
     QCOMPARE(m_tool->item(3)->x, 33); // not undone
 }
 
-void tst_AuthoringLimits::changes_that_are_not_mergeable_stay_apart_in_a_sequence()
+void tst_AuthoringLimits::changesThatAreNotMergeableStayApartInASequence()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     const QString before = m_tool->document();
@@ -247,7 +247,7 @@ void tst_AuthoringLimits::changes_that_are_not_mergeable_stay_apart_in_a_sequenc
     QCOMPARE(m_tool->item(3)->x, 33);
 }
 
-void tst_AuthoringLimits::translations_that_are_there_are_emptied()
+void tst_AuthoringLimits::translationsThatAreThereAreEmptied()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     const QStringList files{QStringLiteral("translations/en_US.ts"), QStringLiteral("translations/ja_JP.ts")};
@@ -260,7 +260,7 @@ void tst_AuthoringLimits::translations_that_are_there_are_emptied()
     }
 }
 
-void tst_AuthoringLimits::a_nested_folder_loses_what_is_below_it()
+void tst_AuthoringLimits::aNestedFolderLosesWhatIsBelowIt()
 {
     // The folder 4 gets the id 1 in the empty lesson, 5 gets 2, and 6 gets 3: a number that a folder has.
     const QString nested =
@@ -283,7 +283,7 @@ void tst_AuthoringLimits::a_nested_folder_loses_what_is_below_it()
     QCOMPARE(TutorialEditor::Manager::instance()->tree()->items.size(), 5);
 }
 
-void tst_AuthoringLimits::a_name_that_is_taken_for_something_else_ruins_the_file_data()
+void tst_AuthoringLimits::aNameThatIsTakenForSomethingElseRuinsTheFile_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("message");
@@ -299,7 +299,7 @@ void tst_AuthoringLimits::a_name_that_is_taken_for_something_else_ruins_the_file
         << QStringLiteral("see qsTr(") << QStringLiteral("json is not array") << QString() << QString();
 }
 
-void tst_AuthoringLimits::a_name_that_is_taken_for_something_else_ruins_the_file()
+void tst_AuthoringLimits::aNameThatIsTakenForSomethingElseRuinsTheFile()
 {
     QFETCH(QString, name);
     QCOMPARE(m_tool->load(lesson()), QString());
@@ -313,7 +313,7 @@ void tst_AuthoringLimits::a_name_that_is_taken_for_something_else_ruins_the_file
     }
 }
 
-void tst_AuthoringLimits::a_text_with_the_end_of_the_lesson_loses_its_semicolon_on_the_way()
+void tst_AuthoringLimits::aTextWithTheEndOfTheLessonLosesItsSemicolonOnTheWay()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->item(1)->hint = QStringLiteral("a[0]; b[1];");

@@ -10,25 +10,25 @@ class tst_AuthoringSave : public AuthoringTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void saving_before_a_load_says_so();
-    void a_failed_save_stays_modified_data();
-    void a_failed_save_stays_modified();
-    void a_save_goes_through_when_the_obstacle_is_gone();
-    void the_lessons_are_saved_as_they_are_committed();
+    void savingBeforeALoadSaysSo();
+    void aFailedSaveStaysModified_data();
+    void aFailedSaveStaysModified();
+    void aSaveGoesThroughWhenTheObstacleIsGone();
+    void theLessonsAreSavedAsTheyAreCommitted();
 
-    void translations_and_lesson_are_saved();
-    void the_lesson_is_not_saved_without_the_first_translation();
-    void the_first_translation_stays_without_the_second();
-    void the_message_comes_in_the_language_of_the_author_data();
-    void the_message_comes_in_the_language_of_the_author();
-    void a_lesson_that_fails_behind_its_translations_says_so();
-    void saved_translations_follow_the_locales();
+    void translationsAndLessonAreSaved();
+    void theLessonIsNotSavedWithoutTheFirstTranslation();
+    void theFirstTranslationStaysWithoutTheSecond();
+    void theMessageComesInTheLanguageOfTheAuthor_data();
+    void theMessageComesInTheLanguageOfTheAuthor();
+    void aLessonThatFailsBehindItsTranslationsSaysSo();
+    void savedTranslationsFollowTheLocales();
 
 private:
     [[nodiscard]] bool modifyAndBlock(const QString &blockedTranslation) const;
 };
 
-void tst_AuthoringSave::saving_before_a_load_says_so()
+void tst_AuthoringSave::savingBeforeALoadSaysSo()
 {
     QCOMPARE(m_tool->text("save"), QStringLiteral("Tutorial not loaded yet."));
     m_tool->manager()->setProperty("locale", QStringLiteral("ja_JP"));
@@ -38,7 +38,7 @@ void tst_AuthoringSave::saving_before_a_load_says_so()
     QCOMPARE(translated, QCoreApplication::translate("TutorialEditor::Manager", "Tutorial not loaded yet."));
 }
 
-void tst_AuthoringSave::a_failed_save_stays_modified_data()
+void tst_AuthoringSave::aFailedSaveStaysModified_data()
 {
     QTest::addColumn<QString>("obstacle");
     QTest::newRow("the directory is gone") << QStringLiteral("missing");
@@ -47,7 +47,7 @@ void tst_AuthoringSave::a_failed_save_stays_modified_data()
     QTest::newRow("the disk is full") << QStringLiteral("full");
 }
 
-void tst_AuthoringSave::a_failed_save_stays_modified()
+void tst_AuthoringSave::aFailedSaveStaysModified()
 {
     QFETCH(QString, obstacle);
     if (obstacle == QLatin1String("read-only")) {
@@ -84,7 +84,7 @@ void tst_AuthoringSave::a_failed_save_stays_modified()
     QVERIFY(!m_tool->modified());
 }
 
-void tst_AuthoringSave::a_save_goes_through_when_the_obstacle_is_gone()
+void tst_AuthoringSave::aSaveGoesThroughWhenTheObstacleIsGone()
 {
     QCOMPARE(m_tool->load(lesson()), QString());
     m_tool->change(QStringLiteral("move"), 1, "y", 12345);
@@ -98,7 +98,7 @@ void tst_AuthoringSave::a_save_goes_through_when_the_obstacle_is_gone()
     QCOMPARE(m_tool->item(1)->y, 12345);
 }
 
-void tst_AuthoringSave::the_lessons_are_saved_as_they_are_committed()
+void tst_AuthoringSave::theLessonsAreSavedAsTheyAreCommitted()
 {
     const QDir library(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/qml/Tutorial"));
     const QStringList names = library.entryList({QStringLiteral("TutorialStep*.js")});
@@ -126,7 +126,7 @@ bool tst_AuthoringSave::modifyAndBlock(const QString &blockedTranslation) const
     return blockedTranslation.isEmpty() || QDir().mkdir(m_tool->path(blockedTranslation));
 }
 
-void tst_AuthoringSave::translations_and_lesson_are_saved()
+void tst_AuthoringSave::translationsAndLessonAreSaved()
 {
     QVERIFY(modifyAndBlock(QString()));
     LogCapture log;
@@ -140,7 +140,7 @@ void tst_AuthoringSave::translations_and_lesson_are_saved()
     QVERIFY(!m_tool->modified());
 }
 
-void tst_AuthoringSave::the_lesson_is_not_saved_without_the_first_translation()
+void tst_AuthoringSave::theLessonIsNotSavedWithoutTheFirstTranslation()
 {
     const QString first = QStringLiteral("translations/en_US.ts");
     QVERIFY(modifyAndBlock(first));
@@ -154,7 +154,7 @@ void tst_AuthoringSave::the_lesson_is_not_saved_without_the_first_translation()
     QVERIFY(m_tool->modified());
 }
 
-void tst_AuthoringSave::the_first_translation_stays_without_the_second()
+void tst_AuthoringSave::theFirstTranslationStaysWithoutTheSecond()
 {
     const QString second = QStringLiteral("translations/ja_JP.ts");
     QVERIFY(modifyAndBlock(second));
@@ -168,7 +168,7 @@ void tst_AuthoringSave::the_first_translation_stays_without_the_second()
     QVERIFY(m_tool->modified());
 }
 
-void tst_AuthoringSave::the_message_comes_in_the_language_of_the_author_data()
+void tst_AuthoringSave::theMessageComesInTheLanguageOfTheAuthor_data()
 {
     QTest::addColumn<QString>("message");
     QTest::newRow("en_US") << QStringLiteral("Failed to save translation.");
@@ -176,7 +176,7 @@ void tst_AuthoringSave::the_message_comes_in_the_language_of_the_author_data()
     QTest::newRow("zh_CN") << QStringLiteral("无法保存翻译。");
 }
 
-void tst_AuthoringSave::the_message_comes_in_the_language_of_the_author()
+void tst_AuthoringSave::theMessageComesInTheLanguageOfTheAuthor()
 {
     QFETCH(QString, message);
     const QString locale = QString::fromLatin1(QTest::currentDataTag());
@@ -185,7 +185,7 @@ void tst_AuthoringSave::the_message_comes_in_the_language_of_the_author()
     QCOMPARE(m_tool->text("feedbackTranslation"), message);
 }
 
-void tst_AuthoringSave::a_lesson_that_fails_behind_its_translations_says_so()
+void tst_AuthoringSave::aLessonThatFailsBehindItsTranslationsSaysSo()
 {
     QVERIFY(modifyAndBlock(QString()));
     QVERIFY(QFile::remove(lesson()));
@@ -196,7 +196,7 @@ void tst_AuthoringSave::a_lesson_that_fails_behind_its_translations_says_so()
     QVERIFY(m_tool->modified());
 }
 
-void tst_AuthoringSave::saved_translations_follow_the_locales()
+void tst_AuthoringSave::savedTranslationsFollowTheLocales()
 {
     m_tool->manager()->setProperty("locale", QStringLiteral("zh_CN"));
     m_tool->manager()->setProperty("locale2", QStringLiteral("ja_JP"));

@@ -20,8 +20,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void a_list_that_is_not_there_is_empty();
-    void a_list_that_cannot_be_read_on_is_given_as_it_stands();
+    void aListThatIsNotThereIsEmpty();
+    void aListThatCannotBeReadOnIsGivenAsItStands();
 
 private:
     std::unique_ptr<ManagerFixture> m_fixture;
@@ -44,7 +44,7 @@ void tst_LessonList::cleanup()
     Q_INIT_RESOURCE(scenarios);
 }
 
-void tst_LessonList::a_list_that_is_not_there_is_empty()
+void tst_LessonList::aListThatIsNotThereIsEmpty()
 {
     LogCapture log;
     QString list = QStringLiteral("not called");
@@ -61,7 +61,7 @@ void tst_LessonList::a_list_that_is_not_there_is_empty()
     QCOMPARE(m_fixture->nextPayload(), QStringLiteral("tutorialList\x01"));
 }
 
-void tst_LessonList::a_list_that_cannot_be_read_on_is_given_as_it_stands()
+void tst_LessonList::aListThatCannotBeReadOnIsGivenAsItStands()
 {
     Q_INIT_RESOURCE(broken_list);
     const QString unread = QStringLiteral("qsTr(\"#2}\n]\n");

@@ -13,10 +13,10 @@ class tst_ManagerEnd : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void history_that_outlives_the_manager_tells_nobody();
+    void historyThatOutlivesTheManagerTellsNobody();
 };
 
-void tst_ManagerEnd::history_that_outlives_the_manager_tells_nobody()
+void tst_ManagerEnd::historyThatOutlivesTheManagerTellsNobody()
 {
     // As with an empty key: the manager goes first, and main's history stays.
     alignas(TutorialManager) static unsigned char room[sizeof(TutorialManager)];

@@ -40,11 +40,11 @@ class tst_Silence : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ends_the_process_at_the_300th_silent_tick_data();
-    void ends_the_process_at_the_300th_silent_tick();
+    void endsTheProcessAtThe300thSilentTick_data();
+    void endsTheProcessAtThe300thSilentTick();
 };
 
-void tst_Silence::ends_the_process_at_the_300th_silent_tick_data()
+void tst_Silence::endsTheProcessAtThe300thSilentTick_data()
 {
     QTest::addColumn<QStringList>("happenings");
     QTest::addColumn<int>("status");
@@ -62,7 +62,7 @@ void tst_Silence::ends_the_process_at_the_300th_silent_tick_data()
     QTest::newRow("bytes, and 300 ticks") << QStringList{ticks(299), heard, ticks(300)} << 0 << 59;
 }
 
-void tst_Silence::ends_the_process_at_the_300th_silent_tick()
+void tst_Silence::endsTheProcessAtThe300thSilentTick()
 {
     QFETCH(QStringList, happenings);
     QFETCH(int, status);

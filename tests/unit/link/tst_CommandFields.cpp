@@ -7,17 +7,17 @@ class tst_CommandFields : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keeps_empty_fields();
-    void reads_a_missing_field_as_empty_and_zero();
-    void reads_decimal_numbers_only_data();
-    void reads_decimal_numbers_only();
-    void names_the_word_alone_data();
-    void names_the_word_alone();
-    void joins_what_it_splits();
-    void leaves_the_last_of_very_many_fields_whole();
+    void keepsEmptyFields();
+    void readsAMissingFieldAsEmptyAndZero();
+    void readsDecimalNumbersOnly_data();
+    void readsDecimalNumbersOnly();
+    void namesTheWordAlone_data();
+    void namesTheWordAlone();
+    void joinsWhatItSplits();
+    void leavesTheLastOfVeryManyFieldsWhole();
 };
 
-void tst_CommandFields::keeps_empty_fields()
+void tst_CommandFields::keepsEmptyFields()
 {
     const CommandFields fields(QStringLiteral("a\x01\x01"
                                               "b\x01"));
@@ -26,7 +26,7 @@ void tst_CommandFields::keeps_empty_fields()
     QCOMPARE(fields.text(2), QStringLiteral("b"));
 }
 
-void tst_CommandFields::reads_a_missing_field_as_empty_and_zero()
+void tst_CommandFields::readsAMissingFieldAsEmptyAndZero()
 {
     const CommandFields fields{QString()};
     QCOMPARE(fields.count(), 1);
@@ -34,7 +34,7 @@ void tst_CommandFields::reads_a_missing_field_as_empty_and_zero()
     QCOMPARE(fields.number(5), 0);
 }
 
-void tst_CommandFields::reads_decimal_numbers_only_data()
+void tst_CommandFields::readsDecimalNumbersOnly_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("number");
@@ -46,14 +46,14 @@ void tst_CommandFields::reads_decimal_numbers_only_data()
     QTest::newRow("word") << QStringLiteral("left") << 0;
 }
 
-void tst_CommandFields::reads_decimal_numbers_only()
+void tst_CommandFields::readsDecimalNumbersOnly()
 {
     QFETCH(QString, text);
     QFETCH(int, number);
     QCOMPARE(CommandFields(QStringLiteral("word\x01") + text).number(1), number);
 }
 
-void tst_CommandFields::names_the_word_alone_data()
+void tst_CommandFields::namesTheWordAlone_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("word");
@@ -65,7 +65,7 @@ void tst_CommandFields::names_the_word_alone_data()
     QTest::newRow("empty") << QString() << QString();
 }
 
-void tst_CommandFields::names_the_word_alone()
+void tst_CommandFields::namesTheWordAlone()
 {
     QFETCH(QString, command);
     QFETCH(QString, word);
@@ -73,14 +73,14 @@ void tst_CommandFields::names_the_word_alone()
     QCOMPARE(CommandFields(command).text(0), word);
 }
 
-void tst_CommandFields::joins_what_it_splits()
+void tst_CommandFields::joinsWhatItSplits()
 {
     const QString command = QStringLiteral("indicator\x01update\x01\x01"
                                            "7");
     QCOMPARE(CommandFields::join(CommandFields(command).all()), command);
 }
 
-void tst_CommandFields::leaves_the_last_of_very_many_fields_whole()
+void tst_CommandFields::leavesTheLastOfVeryManyFieldsWhole()
 {
     const QString most(CommandFields::kMostFields - 1, CommandFields::kSeparator);
     QCOMPARE(CommandFields(most).count(), CommandFields::kMostFields);

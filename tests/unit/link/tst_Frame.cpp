@@ -7,11 +7,11 @@ class tst_Frame : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void frames_one_command_data();
-    void frames_one_command();
+    void framesOneCommand_data();
+    void framesOneCommand();
 };
 
-void tst_Frame::frames_one_command_data()
+void tst_Frame::framesOneCommand_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QByteArray>("frame");
@@ -24,7 +24,7 @@ void tst_Frame::frames_one_command_data()
         << QByteArray("1000000ab\x02") + QByteArray(171, 'x') + QByteArray(1, '\0');
 }
 
-void tst_Frame::frames_one_command()
+void tst_Frame::framesOneCommand()
 {
     QFETCH(QString, command);
     QFETCH(QByteArray, frame);

@@ -17,24 +17,24 @@ class tst_FrameReader : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void hands_over_the_commands_of_one_read_data();
-    void hands_over_the_commands_of_one_read();
-    void reassembles_a_stream_that_is_split_at_every_byte();
-    void joins_single_bytes();
-    void waits_for_the_whole_frame_without_parsing();
-    void takes_any_separator_byte();
-    void drops_what_came_with_a_command_that_ends_the_read();
-    void keeps_an_invalid_header_and_reports_it_at_every_read();
-    void says_nothing_of_a_bad_lead_byte_in_a_short_read();
-    void loses_the_read_at_an_invalid_size_data();
-    void loses_the_read_at_an_invalid_size();
-    void accepts_what_the_number_parser_accepts_data();
-    void accepts_what_the_number_parser_accepts();
-    void delivers_the_text_before_it_misses_the_terminator();
-    void survives_random_bytes();
+    void handsOverTheCommandsOfOneRead_data();
+    void handsOverTheCommandsOfOneRead();
+    void reassemblesAStreamThatIsSplitAtEveryByte();
+    void joinsSingleBytes();
+    void waitsForTheWholeFrameWithoutParsing();
+    void takesAnySeparatorByte();
+    void dropsWhatCameWithACommandThatEndsTheRead();
+    void keepsAnInvalidHeaderAndReportsItAtEveryRead();
+    void saysNothingOfABadLeadByteInAShortRead();
+    void losesTheReadAtAnInvalidSize_data();
+    void losesTheReadAtAnInvalidSize();
+    void acceptsWhatTheNumberParserAccepts_data();
+    void acceptsWhatTheNumberParserAccepts();
+    void deliversTheTextBeforeItMissesTheTerminator();
+    void survivesRandomBytes();
 };
 
-void tst_FrameReader::hands_over_the_commands_of_one_read_data()
+void tst_FrameReader::handsOverTheCommandsOfOneRead_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<QStringList>("events");
@@ -85,7 +85,7 @@ void tst_FrameReader::hands_over_the_commands_of_one_read_data()
     row("a zero byte as separator ends the frame in its header", frame("0", '\0'), {QStringLiteral("0")});
 }
 
-void tst_FrameReader::hands_over_the_commands_of_one_read()
+void tst_FrameReader::handsOverTheCommandsOfOneRead()
 {
     QFETCH(QByteArray, data);
     QFETCH(QStringList, events);
@@ -95,7 +95,7 @@ void tst_FrameReader::hands_over_the_commands_of_one_read()
     QCOMPARE(recorder.events, events);
 }
 
-void tst_FrameReader::reassembles_a_stream_that_is_split_at_every_byte()
+void tst_FrameReader::reassemblesAStreamThatIsSplitAtEveryByte()
 {
     const QByteArray stream = frame("start\x01"
                                     "1") +
@@ -114,7 +114,7 @@ void tst_FrameReader::reassembles_a_stream_that_is_split_at_every_byte()
     }
 }
 
-void tst_FrameReader::joins_single_bytes()
+void tst_FrameReader::joinsSingleBytes()
 {
     const QByteArray stream = frame("a") + frame("b\x02"
                                                  "c");
@@ -126,7 +126,7 @@ void tst_FrameReader::joins_single_bytes()
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
 }
 
-void tst_FrameReader::waits_for_the_whole_frame_without_parsing()
+void tst_FrameReader::waitsForTheWholeFrameWithoutParsing()
 {
     const QByteArray whole = frame(QByteArray(100, 'x'));
     FrameReader reader;
@@ -138,7 +138,7 @@ void tst_FrameReader::waits_for_the_whole_frame_without_parsing()
     QCOMPARE(recorder.events, QStringList{QString(100, QLatin1Char('x'))});
 }
 
-void tst_FrameReader::takes_any_separator_byte()
+void tst_FrameReader::takesAnySeparatorByte()
 {
     for (int separator = 1; separator < 256; ++separator) {
         FrameReader reader;
@@ -148,7 +148,7 @@ void tst_FrameReader::takes_any_separator_byte()
     }
 }
 
-void tst_FrameReader::drops_what_came_with_a_command_that_ends_the_read()
+void tst_FrameReader::dropsWhatCameWithACommandThatEndsTheRead()
 {
     FrameReader reader;
     Recorder recorder;
@@ -162,7 +162,7 @@ void tst_FrameReader::drops_what_came_with_a_command_that_ends_the_read()
     QCOMPARE(recorder.events.last(), QStringLiteral("d"));
 }
 
-void tst_FrameReader::keeps_an_invalid_header_and_reports_it_at_every_read()
+void tst_FrameReader::keepsAnInvalidHeaderAndReportsItAtEveryRead()
 {
     FrameReader reader;
     Recorder recorder;
@@ -175,7 +175,7 @@ void tst_FrameReader::keeps_an_invalid_header_and_reports_it_at_every_read()
     QCOMPARE(recorder.events.size(), 3);
 }
 
-void tst_FrameReader::says_nothing_of_a_bad_lead_byte_in_a_short_read()
+void tst_FrameReader::saysNothingOfABadLeadByteInAShortRead()
 {
     FrameReader reader;
     Recorder recorder;
@@ -185,7 +185,7 @@ void tst_FrameReader::says_nothing_of_a_bad_lead_byte_in_a_short_read()
     QCOMPARE(recorder.events, QStringList{QStringLiteral("<invalid header>")});
 }
 
-void tst_FrameReader::loses_the_read_at_an_invalid_size_data()
+void tst_FrameReader::losesTheReadAtAnInvalidSize_data()
 {
     QTest::addColumn<QByteArray>("digits");
     QTest::newRow("letters") << QByteArray("0000000g");
@@ -195,7 +195,7 @@ void tst_FrameReader::loses_the_read_at_an_invalid_size_data()
     QTest::newRow("not UTF-8") << QByteArray("\xff\xff\xff\xff\xff\xff\xff\xff");
 }
 
-void tst_FrameReader::loses_the_read_at_an_invalid_size()
+void tst_FrameReader::losesTheReadAtAnInvalidSize()
 {
     QFETCH(QByteArray, digits);
     FrameReader reader;
@@ -211,7 +211,7 @@ void tst_FrameReader::loses_the_read_at_an_invalid_size()
     QCOMPARE(recorder.events.last(), QStringLiteral("c"));
 }
 
-void tst_FrameReader::accepts_what_the_number_parser_accepts_data()
+void tst_FrameReader::acceptsWhatTheNumberParserAccepts_data()
 {
     QTest::addColumn<QByteArray>("digits");
     QTest::newRow("leading blanks") << QByteArray("       1");
@@ -220,7 +220,7 @@ void tst_FrameReader::accepts_what_the_number_parser_accepts_data()
     QTest::newRow("prefix") << QByteArray("0x000001");
 }
 
-void tst_FrameReader::accepts_what_the_number_parser_accepts()
+void tst_FrameReader::acceptsWhatTheNumberParserAccepts()
 {
     QFETCH(QByteArray, digits);
     FrameReader reader;
@@ -233,7 +233,7 @@ void tst_FrameReader::accepts_what_the_number_parser_accepts()
     QCOMPARE(recorder.events, QStringList{QStringLiteral("a")});
 }
 
-void tst_FrameReader::delivers_the_text_before_it_misses_the_terminator()
+void tst_FrameReader::deliversTheTextBeforeItMissesTheTerminator()
 {
     FrameReader reader;
     Recorder recorder;
@@ -248,7 +248,7 @@ void tst_FrameReader::delivers_the_text_before_it_misses_the_terminator()
     QCOMPARE(recorder.events.last(), QStringLiteral("d"));
 }
 
-void tst_FrameReader::survives_random_bytes()
+void tst_FrameReader::survivesRandomBytes()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);

@@ -7,12 +7,12 @@ class tst_KeepAlive : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sends_at_every_tenth_tick();
-    void lives_for_299_silent_ticks_and_closes_at_the_300th();
-    void starts_counting_again_at_any_byte();
+    void sendsAtEveryTenthTick();
+    void livesFor299SilentTicksAndClosesAtThe300th();
+    void startsCountingAgainAtAnyByte();
 };
 
-void tst_KeepAlive::sends_at_every_tenth_tick()
+void tst_KeepAlive::sendsAtEveryTenthTick()
 {
     KeepAlive keepAlive;
     for (int tick = 1; tick <= 100; ++tick) {
@@ -21,7 +21,7 @@ void tst_KeepAlive::sends_at_every_tenth_tick()
     }
 }
 
-void tst_KeepAlive::lives_for_299_silent_ticks_and_closes_at_the_300th()
+void tst_KeepAlive::livesFor299SilentTicksAndClosesAtThe300th()
 {
     KeepAlive keepAlive;
     for (int tick = 1; tick <= 299; ++tick) {
@@ -30,7 +30,7 @@ void tst_KeepAlive::lives_for_299_silent_ticks_and_closes_at_the_300th()
     QCOMPARE(keepAlive.tick(), KeepAlive::Due::kClose);
 }
 
-void tst_KeepAlive::starts_counting_again_at_any_byte()
+void tst_KeepAlive::startsCountingAgainAtAnyByte()
 {
     KeepAlive keepAlive;
     for (int tick = 1; tick <= 299; ++tick) {

@@ -14,17 +14,17 @@ class tst_LongFrames : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void delivers_the_longest_payload();
-    void throws_exactly_a_frame_that_is_too_long_away_data();
-    void throws_exactly_a_frame_that_is_too_long_away();
-    void reports_a_frame_that_is_too_long_with_its_header();
-    void throws_more_bytes_away_than_a_number_of_32_bits_counts();
-    void goes_on_behind_a_frame_that_is_too_long_as_at_the_start();
-    void keeps_no_more_behind_an_invalid_header_than_a_frame_has();
-    void takes_time_in_proportion_to_what_comes();
+    void deliversTheLongestPayload();
+    void throwsExactlyAFrameThatIsTooLongAway_data();
+    void throwsExactlyAFrameThatIsTooLongAway();
+    void reportsAFrameThatIsTooLongWithItsHeader();
+    void throwsMoreBytesAwayThanANumberOf32BitsCounts();
+    void goesOnBehindAFrameThatIsTooLongAsAtTheStart();
+    void keepsNoMoreBehindAnInvalidHeaderThanAFrameHas();
+    void takesTimeInProportionToWhatComes();
 };
 
-void tst_LongFrames::delivers_the_longest_payload()
+void tst_LongFrames::deliversTheLongestPayload()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
@@ -37,7 +37,7 @@ void tst_LongFrames::delivers_the_longest_payload()
     QCOMPARE(recorder.events, (QStringList{text, text, text}));
 }
 
-void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away_data()
+void tst_LongFrames::throwsExactlyAFrameThatIsTooLongAway_data()
 {
     QTest::addColumn<QByteArray>("payload");
     // Neither a zero byte nor what looks like a frame ends it early.
@@ -46,7 +46,7 @@ void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away_data()
     QTest::newRow("frames") << frame("inner").repeated(5);
 }
 
-void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away()
+void tst_LongFrames::throwsExactlyAFrameThatIsTooLongAway()
 {
     QFETCH(QByteArray, payload);
     const QByteArray before = frame("a");
@@ -72,7 +72,7 @@ void tst_LongFrames::throws_exactly_a_frame_that_is_too_long_away()
     QCOMPARE(recorder.events, events);
 }
 
-void tst_LongFrames::reports_a_frame_that_is_too_long_with_its_header()
+void tst_LongFrames::reportsAFrameThatIsTooLongWithItsHeader()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
@@ -84,7 +84,7 @@ void tst_LongFrames::reports_a_frame_that_is_too_long_with_its_header()
     QCOMPARE(recorder.events.count(QStringLiteral("<invalid size>")), 2);
 }
 
-void tst_LongFrames::throws_more_bytes_away_than_a_number_of_32_bits_counts()
+void tst_LongFrames::throwsMoreBytesAwayThanANumberOf32BitsCounts()
 {
     FrameReader reader;
     Recorder recorder;
@@ -99,7 +99,7 @@ void tst_LongFrames::throws_more_bytes_away_than_a_number_of_32_bits_counts()
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("<invalid size>"), QStringLiteral("b")}));
 }
 
-void tst_LongFrames::goes_on_behind_a_frame_that_is_too_long_as_at_the_start()
+void tst_LongFrames::goesOnBehindAFrameThatIsTooLongAsAtTheStart()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
@@ -114,7 +114,7 @@ void tst_LongFrames::goes_on_behind_a_frame_that_is_too_long_as_at_the_start()
     QCOMPARE(recorder.problemBytes, QByteArray("X and more"));
 }
 
-void tst_LongFrames::keeps_no_more_behind_an_invalid_header_than_a_frame_has()
+void tst_LongFrames::keepsNoMoreBehindAnInvalidHeaderThanAFrameHas()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
@@ -129,7 +129,7 @@ void tst_LongFrames::keeps_no_more_behind_an_invalid_header_than_a_frame_has()
                           QStringLiteral("<invalid header>")}));
 }
 
-void tst_LongFrames::takes_time_in_proportion_to_what_comes()
+void tst_LongFrames::takesTimeInProportionToWhatComes()
 {
     // Were all of them copied with each of these reads, this would take some minutes.
     const QByteArray payload(1 << 21, 'x');

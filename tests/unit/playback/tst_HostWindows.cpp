@@ -7,16 +7,16 @@ class tst_HostWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void names_the_application_window_when_none_is_open();
-    void names_the_window_on_top();
-    void pops_nothing_from_an_empty_stack();
-    void pops_only_an_open_popup_as_popup();
-    void keeps_the_latest_position_of_a_key();
-    void remembers_no_position_under_an_empty_key();
-    void keeps_the_application_size();
+    void namesTheApplicationWindowWhenNoneIsOpen();
+    void namesTheWindowOnTop();
+    void popsNothingFromAnEmptyStack();
+    void popsOnlyAnOpenPopupAsPopup();
+    void keepsTheLatestPositionOfAKey();
+    void remembersNoPositionUnderAnEmptyKey();
+    void keepsTheApplicationSize();
 };
 
-void tst_HostWindows::names_the_application_window_when_none_is_open()
+void tst_HostWindows::namesTheApplicationWindowWhenNoneIsOpen()
 {
     HostWindows windows;
     QCOMPARE(windows.current(), QStringLiteral("ApplicationWindow"));
@@ -25,7 +25,7 @@ void tst_HostWindows::names_the_application_window_when_none_is_open()
     QCOMPARE(windows.current(), QStringLiteral("ApplicationWindow"));
 }
 
-void tst_HostWindows::names_the_window_on_top()
+void tst_HostWindows::namesTheWindowOnTop()
 {
     HostWindows windows;
     windows.push(QStringLiteral("MainWindow"));
@@ -35,14 +35,14 @@ void tst_HostWindows::names_the_window_on_top()
     QCOMPARE(windows.current(), QStringLiteral("MainWindow"));
 }
 
-void tst_HostWindows::pops_nothing_from_an_empty_stack()
+void tst_HostWindows::popsNothingFromAnEmptyStack()
 {
     HostWindows windows;
     QVERIFY(!windows.pop());
     QVERIFY(!windows.popPopup());
 }
 
-void tst_HostWindows::pops_only_an_open_popup_as_popup()
+void tst_HostWindows::popsOnlyAnOpenPopupAsPopup()
 {
     HostWindows windows;
     windows.push(QStringLiteral("Popup"));
@@ -54,7 +54,7 @@ void tst_HostWindows::pops_only_an_open_popup_as_popup()
     QCOMPARE(windows.current(), QStringLiteral("ApplicationWindow"));
 }
 
-void tst_HostWindows::keeps_the_latest_position_of_a_key()
+void tst_HostWindows::keepsTheLatestPositionOfAKey()
 {
     HostWindows windows;
     QCOMPARE(windows.position(QStringLiteral("MainWindow")), QPoint(0, 0));
@@ -63,14 +63,14 @@ void tst_HostWindows::keeps_the_latest_position_of_a_key()
     QCOMPARE(windows.position(QStringLiteral("MainWindow")), QPoint(5, 6));
 }
 
-void tst_HostWindows::remembers_no_position_under_an_empty_key()
+void tst_HostWindows::remembersNoPositionUnderAnEmptyKey()
 {
     HostWindows windows;
     windows.setPosition(QString(), QPoint(3, 4));
     QCOMPARE(windows.position(QString()), QPoint(0, 0));
 }
 
-void tst_HostWindows::keeps_the_application_size()
+void tst_HostWindows::keepsTheApplicationSize()
 {
     HostWindows windows;
     QCOMPARE(windows.applicationSize(), QSize(0, 0));

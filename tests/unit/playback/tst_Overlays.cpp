@@ -15,8 +15,8 @@ class tst_Overlays : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void a_replaced_overlay_stays_until_the_next_rebuild();
-    void windows_do_not_pile_up();
+    void aReplacedOverlayStaysUntilTheNextRebuild();
+    void windowsDoNotPileUp();
 };
 
 namespace {
@@ -42,7 +42,7 @@ void tst_Overlays::cleanup()
     deleteOverlays();
 }
 
-void tst_Overlays::a_replaced_overlay_stays_until_the_next_rebuild()
+void tst_Overlays::aReplacedOverlayStaysUntilTheNextRebuild()
 {
     FakeOverlayHost host;
     Overlays overlays(host);
@@ -62,7 +62,7 @@ void tst_Overlays::a_replaced_overlay_stays_until_the_next_rebuild()
     QVERIFY(overlays.indicator() && overlays.editorTooltip());
 }
 
-void tst_Overlays::windows_do_not_pile_up()
+void tst_Overlays::windowsDoNotPileUp()
 {
     FakeOverlayHost host;
     Overlays overlays(host);

@@ -9,20 +9,20 @@ class tst_PlaybackVisibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shows_nothing_without_a_playback();
-    void starts_and_stops_once();
-    void asks_to_hide_one_tick_after_the_host_hid();
-    void stays_visible_while_this_process_is_active();
-    void counts_no_hidden_ticks_while_this_process_is_active();
-    void shows_again_one_tick_after_the_host_came_back();
-    void rebuilds_after_30_hidden_ticks_and_not_after_29_data();
-    void rebuilds_after_30_hidden_ticks_and_not_after_29();
-    void ignores_a_second_show_for_ten_ticks();
-    void counts_hidden_ticks_anew_at_every_hide();
-    void keeps_the_hidden_ticks_when_it_has_rebuilt();
+    void showsNothingWithoutAPlayback();
+    void startsAndStopsOnce();
+    void asksToHideOneTickAfterTheHostHid();
+    void staysVisibleWhileThisProcessIsActive();
+    void countsNoHiddenTicksWhileThisProcessIsActive();
+    void showsAgainOneTickAfterTheHostCameBack();
+    void rebuildsAfter30HiddenTicksAndNotAfter29_data();
+    void rebuildsAfter30HiddenTicksAndNotAfter29();
+    void ignoresASecondShowForTenTicks();
+    void countsHiddenTicksAnewAtEveryHide();
+    void keepsTheHiddenTicksWhenItHasRebuilt();
 };
 
-void tst_PlaybackVisibility::shows_nothing_without_a_playback()
+void tst_PlaybackVisibility::showsNothingWithoutAPlayback()
 {
     PlaybackVisibility visibility;
     QCOMPARE(visibility.showing(), Showing::kNoPlayback);
@@ -32,7 +32,7 @@ void tst_PlaybackVisibility::shows_nothing_without_a_playback()
     QCOMPARE(visibility.showing(), Showing::kNoPlayback);
 }
 
-void tst_PlaybackVisibility::starts_and_stops_once()
+void tst_PlaybackVisibility::startsAndStopsOnce()
 {
     PlaybackVisibility visibility;
     QVERIFY(!visibility.stop());
@@ -45,7 +45,7 @@ void tst_PlaybackVisibility::starts_and_stops_once()
     QCOMPARE(visibility.showing(), Showing::kNoPlayback);
 }
 
-void tst_PlaybackVisibility::asks_to_hide_one_tick_after_the_host_hid()
+void tst_PlaybackVisibility::asksToHideOneTickAfterTheHostHid()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -56,7 +56,7 @@ void tst_PlaybackVisibility::asks_to_hide_one_tick_after_the_host_hid()
     QVERIFY(!visibility.tick().hide);
 }
 
-void tst_PlaybackVisibility::stays_visible_while_this_process_is_active()
+void tst_PlaybackVisibility::staysVisibleWhileThisProcessIsActive()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -67,7 +67,7 @@ void tst_PlaybackVisibility::stays_visible_while_this_process_is_active()
     QCOMPARE(visibility.showing(), Showing::kHostHidden);
 }
 
-void tst_PlaybackVisibility::counts_no_hidden_ticks_while_this_process_is_active()
+void tst_PlaybackVisibility::countsNoHiddenTicksWhileThisProcessIsActive()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -83,7 +83,7 @@ void tst_PlaybackVisibility::counts_no_hidden_ticks_while_this_process_is_active
     QVERIFY(!due.rebuild);
 }
 
-void tst_PlaybackVisibility::shows_again_one_tick_after_the_host_came_back()
+void tst_PlaybackVisibility::showsAgainOneTickAfterTheHostCameBack()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -96,7 +96,7 @@ void tst_PlaybackVisibility::shows_again_one_tick_after_the_host_came_back()
     QVERIFY(!visibility.tick().showAgain);
 }
 
-void tst_PlaybackVisibility::rebuilds_after_30_hidden_ticks_and_not_after_29_data()
+void tst_PlaybackVisibility::rebuildsAfter30HiddenTicksAndNotAfter29_data()
 {
     QTest::addColumn<int>("hiddenTicks");
     QTest::addColumn<bool>("rebuild");
@@ -105,7 +105,7 @@ void tst_PlaybackVisibility::rebuilds_after_30_hidden_ticks_and_not_after_29_dat
     QTest::newRow("31") << 31 << true;
 }
 
-void tst_PlaybackVisibility::rebuilds_after_30_hidden_ticks_and_not_after_29()
+void tst_PlaybackVisibility::rebuildsAfter30HiddenTicksAndNotAfter29()
 {
     QFETCH(int, hiddenTicks);
     QFETCH(bool, rebuild);
@@ -123,7 +123,7 @@ void tst_PlaybackVisibility::rebuilds_after_30_hidden_ticks_and_not_after_29()
     QCOMPARE(due.rebuild, rebuild);
 }
 
-void tst_PlaybackVisibility::ignores_a_second_show_for_ten_ticks()
+void tst_PlaybackVisibility::ignoresASecondShowForTenTicks()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -139,7 +139,7 @@ void tst_PlaybackVisibility::ignores_a_second_show_for_ten_ticks()
     QVERIFY(!visibility.tick().ignoringShow);
 }
 
-void tst_PlaybackVisibility::counts_hidden_ticks_anew_at_every_hide()
+void tst_PlaybackVisibility::countsHiddenTicksAnewAtEveryHide()
 {
     PlaybackVisibility visibility;
     visibility.start();
@@ -154,7 +154,7 @@ void tst_PlaybackVisibility::counts_hidden_ticks_anew_at_every_hide()
     QCOMPARE(visibility.tick().hiddenTicks, 1);
 }
 
-void tst_PlaybackVisibility::keeps_the_hidden_ticks_when_it_has_rebuilt()
+void tst_PlaybackVisibility::keepsTheHiddenTicksWhenItHasRebuilt()
 {
     PlaybackVisibility visibility;
     visibility.start();
