@@ -13,6 +13,12 @@
 
 #include <csignal>
 
+namespace {
+
+constexpr const char *kSource = R"(..\..\tutorial\main)";
+
+} // namespace
+
 int main(int argc, char **argv)
 {
 #ifdef SIGPIPE
@@ -23,7 +29,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(static_cast<Qt::ApplicationAttribute>(10));
     Platform::takeScreenPixels();
     if (const QString reason = Platform::takeWindowSystem(); !reason.isEmpty()) {
-        logDebug(R"(..\..\tutorial\main)", "main", 98) << reason;
+        logDebug(kSource, "main", 98) << reason;
     }
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Tutorial"));
@@ -38,8 +44,7 @@ int main(int argc, char **argv)
     const QStringList arguments = QCoreApplication::arguments();
     const QString locale = arguments.size() >= 3 ? arguments.at(2) : QStringLiteral("en_US");
     const LoadedTranslator loaded = loadTranslator(locale, &application);
-    logDebug(R"(..\..\tutorial\main)", "main", 122)
-        << QLatin1String(":/translations/") + locale << loaded.loaded;
+    logDebug(kSource, "main", 122) << QLatin1String(":/translations/") + locale << loaded.loaded;
     QCoreApplication::installTranslator(loaded.translator);
 
     SystemService systemService(&application);
@@ -50,7 +55,7 @@ int main(int argc, char **argv)
     QLocale::setDefault(QLocale(QLocale::C, QLocale::AnyCountry));
 
     QObject::connect(&endSignals, &EndSignals::received, &application, [manager] {
-        if (manager) {
+        if (manager != nullptr) {
             manager->requestClose();
         } else {
             QCoreApplication::quit();

@@ -16,13 +16,15 @@ struct Run
 Run run(const QString &program, const QStringList &arguments)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         environment.remove(QString::fromLatin1(name));
+    }
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
-    if (!process.waitForFinished())
+    if (!process.waitForFinished()) {
         qFatal("%s does not end", qPrintable(program));
+    }
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -81,8 +83,9 @@ void tst_CommandLines::helpIsPrinted()
         static const QRegularExpression option(QStringLiteral("^  (?:-\\w, )?(--[a-z-]+)"),
                                                QRegularExpression::MultilineOption);
         auto matches = option.globalMatch(result.output);
-        while (matches.hasNext())
+        while (matches.hasNext()) {
             offered << matches.next().captured(1);
+        }
         offered.sort();
         QCOMPARE(offered, options);
     }
@@ -103,8 +106,9 @@ void tst_CommandLines::nothingElseIsOffered()
     QFETCH(QString, program);
     for (const char *word : {"--help-all", "--no-such-option"}) {
         QStringList arguments{QString::fromLatin1(word)};
-        if (program == QStringLiteral(PRACTICE_PROGRAM))
+        if (program == QStringLiteral(PRACTICE_PROGRAM)) {
             arguments << QStringLiteral("-platform") << QStringLiteral("offscreen");
+        }
         const Run result = run(program, arguments);
         QCOMPARE(result.status, 2);
         QCOMPARE(result.output, QString());

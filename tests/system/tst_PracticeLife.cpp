@@ -53,7 +53,7 @@ void end(qint64 pid, int signal)
 } // namespace
 
 /// Who ends whom, with the real companion.
-class TestPracticeLife : public QObject
+class tst_PracticeLife : public QObject
 {
     Q_OBJECT
 
@@ -77,7 +77,7 @@ private:
     static QAbstractButton *acceptButton(const QMessageBox &box);
 };
 
-PracticeEditor::Options TestPracticeLife::options()
+PracticeEditor::Options tst_PracticeLife::options()
 {
     PracticeEditor::Options options;
     options.lesson = 1;
@@ -86,18 +86,18 @@ PracticeEditor::Options TestPracticeLife::options()
     return options;
 }
 
-std::unique_ptr<EditorWindows> TestPracticeLife::windows()
+std::unique_ptr<EditorWindows> tst_PracticeLife::windows()
 {
     QStringList errors;
     return EditorWindowSet::create(QStringLiteral("en_US"), &errors);
 }
 
-QMessageBox *TestPracticeLife::messageBox()
+QMessageBox *tst_PracticeLife::messageBox()
 {
     return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
 }
 
-QAbstractButton *TestPracticeLife::acceptButton(const QMessageBox &box)
+QAbstractButton *tst_PracticeLife::acceptButton(const QMessageBox &box)
 {
     const QList<QAbstractButton *> buttons = box.buttons();
     for (QAbstractButton *button : buttons) {
@@ -108,7 +108,7 @@ QAbstractButton *TestPracticeLife::acceptButton(const QMessageBox &box)
     return nullptr;
 }
 
-void TestPracticeLife::closingTheEditorEndsTheCompanion()
+void tst_PracticeLife::closingTheEditorEndsTheCompanion()
 {
     qint64 companion = 0;
     {
@@ -130,7 +130,7 @@ void TestPracticeLife::closingTheEditorEndsTheCompanion()
     QVERIFY(!isAlive(companion));
 }
 
-void TestPracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
+void tst_PracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
 {
     // The companion writes its log where it can be read when the editor is gone.
     const QTemporaryDir folder;
@@ -160,7 +160,7 @@ void TestPracticeLife::killingTheEditorEndsTheCompanionWithinASecond()
     QVERIFY2(heartbeats() <= before + 1, contentsOf(log).constData());
 }
 
-void TestPracticeLife::aTerminatedEditorLeavesNothingBehind()
+void tst_PracticeLife::aTerminatedEditorLeavesNothingBehind()
 {
     const QString key = QStringLiteral("life%1").arg(QCoreApplication::applicationPid());
     const QString socket = QDir::temp().filePath(QStringLiteral("tkvq") + key);
@@ -177,7 +177,7 @@ void TestPracticeLife::aTerminatedEditorLeavesNothingBehind()
     QVERIFY(!QFile::exists(socket));
 }
 
-void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
+void tst_PracticeLife::aKilledCompanionIsRestartedOnRequest()
 {
     PracticeEditor editor(options(), windows());
     QString error;
@@ -196,7 +196,7 @@ void TestPracticeLife::aKilledCompanionIsRestartedOnRequest()
     QVERIFY(second != first && isAlive(second));
 }
 
-void TestPracticeLife::aLossIsToldInThePersonsLanguage_data()
+void tst_PracticeLife::aLossIsToldInThePersonsLanguage_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("guide");
@@ -210,7 +210,7 @@ void TestPracticeLife::aLossIsToldInThePersonsLanguage_data()
                              << QStringLiteral("重新启动") << QStringLiteral("出错了。");
 }
 
-void TestPracticeLife::aLossIsToldInThePersonsLanguage()
+void tst_PracticeLife::aLossIsToldInThePersonsLanguage()
 {
     QFETCH(QString, locale);
     QFETCH(QString, guide);
@@ -242,7 +242,7 @@ void TestPracticeLife::aLossIsToldInThePersonsLanguage()
     QTRY_VERIFY_WITH_TIMEOUT(messageBox() == nullptr, kSoonMs);
 }
 
-void TestPracticeLife::startAgainBringsALostCompanionBack()
+void tst_PracticeLife::startAgainBringsALostCompanionBack()
 {
     PracticeEditor editor(options(), windows());
     QString error;
@@ -264,7 +264,7 @@ void TestPracticeLife::startAgainBringsALostCompanionBack()
     QCOMPARE(childrenOf(QCoreApplication::applicationPid()).size(), 1);
 }
 
-void TestPracticeLife::aMissingCompanionIsSaid()
+void tst_PracticeLife::aMissingCompanionIsSaid()
 {
     PracticeEditor::Options missing = options();
     missing.companionProgram = QStringLiteral("/nowhere/Tutorial");
@@ -274,7 +274,7 @@ void TestPracticeLife::aMissingCompanionIsSaid()
     QVERIFY2(error.contains(QStringLiteral("/nowhere/Tutorial")), qPrintable(error));
 }
 
-void TestPracticeLife::wrongOptionsAreSaid_data()
+void tst_PracticeLife::wrongOptionsAreSaid_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
@@ -292,7 +292,7 @@ void TestPracticeLife::wrongOptionsAreSaid_data()
         << QStringList{QStringLiteral("--key"), QStringLiteral("a/b/c")} << QByteArray("cannot listen");
 }
 
-void TestPracticeLife::wrongOptionsAreSaid()
+void tst_PracticeLife::wrongOptionsAreSaid()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QByteArray, message);
@@ -305,5 +305,5 @@ void TestPracticeLife::wrongOptionsAreSaid()
     QVERIFY2(said.contains(message), said.constData());
 }
 
-QTEST_MAIN(TestPracticeLife)
+QTEST_MAIN(tst_PracticeLife)
 #include "tst_PracticeLife.moc"

@@ -10,7 +10,7 @@
 #include <QTest>
 
 /// From the command of a lesson's step to the project on disk and in the windows, with the real companion.
-class TestPracticePreset : public QObject
+class tst_PracticePreset : public QObject
 {
     Q_OBJECT
 
@@ -39,14 +39,14 @@ QStringList rowsOf(const EditorProject &project, const QString &source)
 
 } // namespace
 
-void TestPracticePreset::initTestCase()
+void tst_PracticePreset::initTestCase()
 {
     // The companion keeps its language in its settings.
     QVERIFY(m_settings.isValid());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_settings.path()));
 }
 
-void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data()
+void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QStringList>("maps");
@@ -68,7 +68,7 @@ void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data
                              << QStringList{QStringLiteral("米拉"), QStringLiteral("托马")};
 }
 
-void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
+void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
 {
     QFETCH(QString, locale);
     QFETCH(QStringList, maps);
@@ -118,5 +118,5 @@ void TestPracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     link.stop();
 }
 
-QTEST_MAIN(TestPracticePreset)
+QTEST_MAIN(tst_PracticePreset)
 #include "tst_PracticePreset.moc"

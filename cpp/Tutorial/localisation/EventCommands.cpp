@@ -1,9 +1,9 @@
 #include "Tutorial/localisation/EventCommands.h"
 
+#include "Tutorial/localisation/SampleWarning.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
-
-#include "Tutorial/localisation/SampleWarning.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include "Tutorial/localisation/SampleTranslators.h"
 
-#include <optional>
-
-#include <QJsonArray>
-
 #include "Tutorial/localisation/EventCommands.h"
 #include "Tutorial/localisation/SampleWarning.h"
 #include "tool/JsonWrapper.h"
+
+#include <QJsonArray>
+
+#include <optional>
 
 namespace {
 

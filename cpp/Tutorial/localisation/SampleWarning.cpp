@@ -1,12 +1,12 @@
 #include "Tutorial/localisation/SampleWarning.h"
 
-#include <QJsonValue>
-
 #include "tool/JsonWrapper.h"
+
+#include <QJsonValue>
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\Tutorial\\localisation\\SampleTranslators.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\localisation\SampleTranslators.cpp)";
 
 } // namespace
 

@@ -1,9 +1,9 @@
 #include "Tutorial/localisation/ScenarioTexts.h"
 
-#include <QCoreApplication>
-
 #include "tool/LogLine.h"
 #include "tool/LogSource.h"
+
+#include <QCoreApplication>
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Tutorial/localisation/SourceTextScanner.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
-
-#include "Tutorial/localisation/SourceTextScanner.h"
 
 /// Looks up the texts of the current scenario: first with the installed translators, then, for a text
 /// identifier such as "#1" that they do not hold, with a translator of its own that is never installed.

@@ -1,13 +1,13 @@
 #include "Tutorial/localisation/SourceTextScanner.h"
 
-#include <utility>
-#include <vector>
+#include "tool/JsonWrapper.h"
+#include "tool/SourceArray.h"
 
 #include <QCoreApplication>
 #include <QVariant>
 
-#include "tool/JsonWrapper.h"
-#include "tool/SourceArray.h"
+#include <utility>
+#include <vector>
 
 namespace {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
-
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 /// Resolves the translation calls in JavaScript-like source text, so that what is left can be read as JSON:
 /// `"hint":qsTr("#1")` becomes `"hint":"the text"`. Besides `qsTr("...")` it knows

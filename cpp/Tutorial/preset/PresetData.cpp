@@ -1,5 +1,19 @@
 #include "Tutorial/preset/PresetData.h"
 
+#include "Tutorial/localisation/SampleTranslators.h"
+#include "Tutorial/preset/JsonString.h"
+#include "tool/DataSupport.h"
+#include "tool/JsonWrapper.h"
+#include "tool/LogLine.h"
+#include "tool/LogSource.h"
+#include "tool/StringPatch.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cstddef>
 #include <exception>
@@ -8,20 +22,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-#include <QByteArray>
-#include <QDir>
-#include <QFileInfo>
-#include <QHash>
-#include <QRegularExpression>
-
-#include "Tutorial/localisation/SampleTranslators.h"
-#include "Tutorial/preset/JsonString.h"
-#include "tool/DataSupport.h"
-#include "tool/JsonWrapper.h"
-#include "tool/LogLine.h"
-#include "tool/LogSource.h"
-#include "tool/StringPatch.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstddef>
+#include "Tutorial/localisation/SampleTable.h"
+#include "Tutorial/localisation/TranslateText.h"
 
 #include <QString>
 #include <QStringList>
 
-#include "Tutorial/localisation/SampleTable.h"
-#include "Tutorial/localisation/TranslateText.h"
+#include <cstddef>
 
 /// The most bytes that the data files of one step may have together, and the most characters by which
 /// translating may make them longer.

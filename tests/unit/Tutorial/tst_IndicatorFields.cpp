@@ -4,7 +4,7 @@
 
 #include <QtTest>
 
-class TestIndicatorFields : public QObject
+class tst_IndicatorFields : public QObject
 {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ IndicatorUpdate read(const QStringList &fields)
 
 } // namespace
 
-void TestIndicatorFields::fieldsAreReadByTheirPlace()
+void tst_IndicatorFields::fieldsAreReadByTheirPlace()
 {
     const IndicatorUpdate update =
         read({QStringLiteral("300"), QStringLiteral("-9999"), QStringLiteral("MapWindow"),
@@ -38,7 +38,7 @@ void TestIndicatorFields::fieldsAreReadByTheirPlace()
     QCOMPARE(update.iconKind, 3);
 }
 
-void TestIndicatorFields::eachFlagHasItsBit_data()
+void tst_IndicatorFields::eachFlagHasItsBit_data()
 {
     QTest::addColumn<int>("flags");
     QTest::addColumn<bool>("next");
@@ -54,7 +54,7 @@ void TestIndicatorFields::eachFlagHasItsBit_data()
     QTest::newRow("below zero") << -1 << true << true << true;
 }
 
-void TestIndicatorFields::eachFlagHasItsBit()
+void tst_IndicatorFields::eachFlagHasItsBit()
 {
     QFETCH(int, flags);
     const IndicatorUpdate update =
@@ -64,7 +64,7 @@ void TestIndicatorFields::eachFlagHasItsBit()
     QTEST(update.arrow, "arrow");
 }
 
-void TestIndicatorFields::missingFieldsReadAsNothing()
+void tst_IndicatorFields::missingFieldsReadAsNothing()
 {
     const IndicatorUpdate update = read({});
     QCOMPARE(update.target, QPoint(0, 0));
@@ -75,7 +75,7 @@ void TestIndicatorFields::missingFieldsReadAsNothing()
     QCOMPARE(update.iconKind, 0);
 }
 
-void TestIndicatorFields::badNumbersReadAsZero()
+void tst_IndicatorFields::badNumbersReadAsZero()
 {
     const QString bad = QStringLiteral("9999999999");
     const IndicatorUpdate update =
@@ -85,5 +85,5 @@ void TestIndicatorFields::badNumbersReadAsZero()
     QCOMPARE(update.iconKind, 0);
 }
 
-QTEST_APPLESS_MAIN(TestIndicatorFields)
+QTEST_APPLESS_MAIN(tst_IndicatorFields)
 #include "tst_IndicatorFields.moc"

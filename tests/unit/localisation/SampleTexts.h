@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include "Tutorial/localisation/SampleTranslators.h"
 #include "tool/JsonWrapper.h"
+
+#include <QString>
 
 /// Gives "context:text"; gives back what begins with "=", and nothing for what begins with "-".
 inline QString sampleTranslation(const QString &context, const QString &text)

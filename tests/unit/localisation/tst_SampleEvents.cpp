@@ -1,7 +1,7 @@
-#include <QtTest>
-
 #include "LogCapture.h"
 #include "SampleTexts.h"
+
+#include <QtTest>
 
 namespace {
 

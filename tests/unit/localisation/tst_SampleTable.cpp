@@ -1,6 +1,6 @@
-#include <QtTest>
-
 #include "Tutorial/localisation/SampleTable.h"
+
+#include <QtTest>
 
 namespace {
 

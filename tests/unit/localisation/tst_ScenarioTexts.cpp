@@ -1,10 +1,10 @@
+#include "LogCapture.h"
+#include "Tutorial/localisation/ScenarioTexts.h"
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QTranslator>
 #include <QtTest>
-
-#include "LogCapture.h"
-#include "Tutorial/localisation/ScenarioTexts.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include <QHash>
-#include <QtTest>
-
 #include "LogCapture.h"
 #include "Tutorial/localisation/SourceTextScanner.h"
+
+#include <QHash>
+#include <QtTest>
 
 namespace {
 

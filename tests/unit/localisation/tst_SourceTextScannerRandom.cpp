@@ -1,13 +1,13 @@
-#include <functional>
-#include <vector>
+#include "LogCapture.h"
+#include "Tutorial/localisation/SourceTextScanner.h"
+#include "tool/JsonWrapper.h"
 
 #include <QRandomGenerator>
 #include <QVariant>
 #include <QtTest>
 
-#include "LogCapture.h"
-#include "Tutorial/localisation/SourceTextScanner.h"
-#include "tool/JsonWrapper.h"
+#include <functional>
+#include <vector>
 
 // Compares the scanner with a plain reader, which works step by step on copies of the text.
 

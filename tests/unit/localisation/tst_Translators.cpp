@@ -1,4 +1,5 @@
 #include "CpuTime.h"
+#include "Tutorial/localisation/Translators.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -6,8 +7,6 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
-
-#include "Tutorial/localisation/Translators.h"
 
 class tst_Translators : public QObject
 {

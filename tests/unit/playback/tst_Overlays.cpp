@@ -1,13 +1,13 @@
-#include <QApplication>
-#include <QObject>
-#include <QPointer>
-#include <QTest>
-
 #include "FakeOverlayHost.h"
 #include "OverlayWindows.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "Tutorial/playback/Overlays.h"
+
+#include <QApplication>
+#include <QObject>
+#include <QPointer>
+#include <QTest>
 
 class tst_Overlays : public QObject
 {
@@ -52,14 +52,14 @@ void tst_Overlays::aReplacedOverlayStaysUntilTheNextRebuild()
 
     overlays.rebuild();
     deleteWhatIsDue();
-    QVERIFY(indicator && indicator != overlays.indicator());
-    QVERIFY(tooltip && tooltip != overlays.editorTooltip());
+    QVERIFY(!indicator.isNull() && indicator != overlays.indicator());
+    QVERIFY(!tooltip.isNull() && tooltip != overlays.editorTooltip());
 
     overlays.rebuild();
-    QVERIFY(indicator && tooltip);
+    QVERIFY(!indicator.isNull() && !tooltip.isNull());
     deleteWhatIsDue();
-    QVERIFY(!indicator && !tooltip);
-    QVERIFY(overlays.indicator() && overlays.editorTooltip());
+    QVERIFY(indicator.isNull() && tooltip.isNull());
+    QVERIFY(overlays.indicator() != nullptr && overlays.editorTooltip() != nullptr);
 }
 
 void tst_Overlays::windowsDoNotPileUp()

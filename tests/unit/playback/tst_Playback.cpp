@@ -105,7 +105,7 @@ void tst_Playback::init()
     m_playback->showTooltip(QStringLiteral("text"), {90, 90});
     m_indicator = topLevels<TutorialIndicator>().value(0);
     m_log = topLevels<TutorialLog>().value(0);
-    QVERIFY(m_indicator && m_log);
+    QVERIFY(!m_indicator.isNull() && !m_log.isNull());
     QCoreApplication::processEvents();
     m_playback->setApplicationState(Qt::ApplicationInactive);
     QVERIFY(allShown());

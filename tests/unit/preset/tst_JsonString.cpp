@@ -1,8 +1,8 @@
-#include <QVariant>
-#include <QtTest>
-
 #include "Tutorial/preset/JsonString.h"
 #include "tool/JsonWrapper.h"
+
+#include <QVariant>
+#include <QtTest>
 
 class tst_JsonString : public QObject
 {

@@ -1,9 +1,8 @@
 #include "ProgramDirectory.h"
 #include "Unprivileged.h"
 
-#include <limits>
-
 #include <fcntl.h>
+#include <limits>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
