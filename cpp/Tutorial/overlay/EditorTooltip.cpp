@@ -35,14 +35,7 @@ EditorTooltip::EditorTooltip(QWidget *parent, OverlayHost *manager)
 {
     m_textEdit->setObjectName(QStringLiteral("tooltipTextEdit"));
     m_textEdit->setLineWrapMode(QTextEdit::NoWrap);
-    m_textEdit->setAutoFormatting(QTextEdit::AutoAll);
-    m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
-    // Without it a blinking cursor stands in the text while the window is active.
-    m_textEdit->setFocusPolicy(Qt::NoFocus);
-    m_textEdit->document()->setDocumentMargin(kMargin);
-
+    prepareOverlayText(m_textEdit, kMargin);
     prepareOverlay(this, Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
     setGeometry(0, 0, 320, 240);
     m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
@@ -129,7 +122,7 @@ void EditorTooltip::setSettings(const QVariantMap &settings)
 void EditorTooltip::moveTo(const QPoint &place)
 {
     m_mayLeaveScreen->setPixel(m_textEdit->rect().center());
-    KeepPlace::moveTo(this, clampToReach(place));
+    moveOverlay(this, place);
 }
 
 void EditorTooltip::changeEvent(QEvent *event)

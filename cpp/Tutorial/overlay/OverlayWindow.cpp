@@ -1,10 +1,14 @@
 #include "Tutorial/overlay/OverlayWindow.h"
 
 #include "Tutorial/overlay/ClickThrough.h"
+#include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/OwnWindowGroup.h"
+#include "Tutorial/overlay/Placement.h"
 #include "Tutorial/overlay/StayHidden.h"
 
-#include <QWidget>
+#include <QApplication>
+#include <QTextDocument>
+#include <QTextEdit>
 
 void prepareOverlay(QWidget *overlay, Qt::WindowFlags more)
 {
@@ -16,4 +20,34 @@ void prepareOverlay(QWidget *overlay, Qt::WindowFlags more)
     if (more.testFlag(Qt::WindowTransparentForInput)) {
         new ClickThrough(overlay);
     }
+}
+
+void setOverlayShown(QWidget *overlay, bool shown)
+{
+    if (overlay != nullptr && overlay->isHidden() == shown) {
+        overlay->setVisible(shown);
+    }
+}
+
+void moveOverlay(QWidget *overlay, const QPoint &place)
+{
+    if (overlay != nullptr) {
+        KeepPlace::moveTo(overlay, clampToReach(place));
+    }
+}
+
+bool isTheActiveWindow(const QWidget *overlay)
+{
+    return overlay != nullptr && QApplication::activeWindow() == overlay;
+}
+
+void prepareOverlayText(QTextEdit *textEdit, int margin)
+{
+    textEdit->setAutoFormatting(QTextEdit::AutoAll);
+    textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    textEdit->setWindowFlag(Qt::WindowTransparentForInput);
+    // With it a blinking cursor would stand in the text while the window is active.
+    textEdit->setFocusPolicy(Qt::NoFocus);
+    textEdit->document()->setDocumentMargin(margin);
 }

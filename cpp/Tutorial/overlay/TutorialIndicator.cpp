@@ -9,7 +9,7 @@
 #include "Tutorial/overlay/TutorialTooltip.h"
 #include "tool/LogLine.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QPushButton>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -25,26 +25,6 @@ constexpr int kButtonHeight = 32;
 // Characters. More than any screen shows of a hint, and few enough to be laid out without holding up the
 // event loop, as a hint of megabytes would for minutes.
 constexpr int kLongestHint = 8000;
-
-// QWidget::isActiveWindow() lends every parentless tool window the state "active".
-bool isTheActiveWindow(const QWidget *widget)
-{
-    return widget != nullptr && QApplication::activeWindow() == widget;
-}
-
-void setShown(QWidget *widget, bool shown)
-{
-    if (widget != nullptr && widget->isHidden() == shown) {
-        widget->setVisible(shown);
-    }
-}
-
-void moveTo(QWidget *widget, const QPoint &position)
-{
-    if (widget != nullptr) {
-        KeepPlace::moveTo(widget, clampToReach(position));
-    }
-}
 
 void storePosition(QVariantMap &settings, const QString &name, const QWidget *widget)
 {
@@ -157,38 +137,38 @@ void TutorialIndicator::init(bool next, bool yesNo)
     logDebug(kSource, "TutorialIndicator::init", 139) << next << yesNo;
     m_elapsed.restart();
     m_nextWindowEnabled = next;
-    setShown(m_nextButton, next);
+    setOverlayShown(m_nextButton, next);
     m_yesNoWindowEnabled = yesNo;
-    setShown(m_yesButton, yesNo);
-    setShown(m_noButton, yesNo);
+    setOverlayShown(m_yesButton, yesNo);
+    setOverlayShown(m_noButton, yesNo);
 }
 
 void TutorialIndicator::showButtons()
 {
     if (m_nextWindowEnabled) {
-        setShown(m_nextButton, true);
+        setOverlayShown(m_nextButton, true);
     }
     if (m_yesNoWindowEnabled) {
-        setShown(m_yesButton, true);
-        setShown(m_noButton, true);
+        setOverlayShown(m_yesButton, true);
+        setOverlayShown(m_noButton, true);
     }
 }
 
 void TutorialIndicator::hideButtons()
 {
-    setShown(m_nextButton, false);
-    setShown(m_yesButton, false);
-    setShown(m_noButton, false);
+    setOverlayShown(m_nextButton, false);
+    setOverlayShown(m_yesButton, false);
+    setOverlayShown(m_noButton, false);
 }
 
 void TutorialIndicator::showTooltip()
 {
-    setShown(m_tooltip, true);
+    setOverlayShown(m_tooltip, true);
 }
 
 void TutorialIndicator::hideTooltip()
 {
-    setShown(m_tooltip, false);
+    setOverlayShown(m_tooltip, false);
 }
 
 bool TutorialIndicator::isActive() const
@@ -244,18 +224,18 @@ void TutorialIndicator::setSettings(const QVariantMap &settings)
     m_mirror = settings.value(QStringLiteral("mirror")).toBool();
     m_repaintAll = settings.value(QStringLiteral("repaintAll")).toBool();
     m_hintHeight = settings.value(QStringLiteral("hintHeight")).toInt();
-    moveTo(m_nextButton, storedPosition(settings, QStringLiteral("nextButton")));
-    moveTo(m_yesButton, storedPosition(settings, QStringLiteral("yesButton")));
-    moveTo(m_noButton, storedPosition(settings, QStringLiteral("noButton")));
+    moveOverlay(m_nextButton, storedPosition(settings, QStringLiteral("nextButton")));
+    moveOverlay(m_yesButton, storedPosition(settings, QStringLiteral("yesButton")));
+    moveOverlay(m_noButton, storedPosition(settings, QStringLiteral("noButton")));
     m_windowKey = settings.value(QStringLiteral("windowKey")).toString();
     m_offsetX = settings.value(QStringLiteral("offsetX")).toInt();
     m_offsetY = settings.value(QStringLiteral("offsetY")).toInt();
     m_arrowVisible = settings.value(QStringLiteral("arrowVisible")).toBool();
     m_nextWindowEnabled = settings.value(QStringLiteral("nextWindowEnabled")).toBool();
-    setShown(m_nextButton, m_nextWindowEnabled);
+    setOverlayShown(m_nextButton, m_nextWindowEnabled);
     m_yesNoWindowEnabled = settings.value(QStringLiteral("yesNoWindowEnabled")).toBool();
-    setShown(m_yesButton, m_yesNoWindowEnabled);
-    setShown(m_noButton, m_yesNoWindowEnabled);
+    setOverlayShown(m_yesButton, m_yesNoWindowEnabled);
+    setOverlayShown(m_noButton, m_yesNoWindowEnabled);
     setIconKind(settings.value(QStringLiteral("iconKind")).toInt());
 }
 
@@ -265,7 +245,7 @@ void TutorialIndicator::applyTooltipSettings(const QVariantMap &settings)
     QTextEdit *const textEdit = m_tooltip->m_textEdit;
     textEdit->move(storedPosition(settings, QStringLiteral("textEdit")));
     textEdit->setFixedHeight(settings.value(QStringLiteral("hintHeight")).toInt());
-    moveTo(m_tooltip, storedPosition(settings, QStringLiteral("tooltip")));
+    moveOverlay(m_tooltip, storedPosition(settings, QStringLiteral("tooltip")));
     if (m_hint.isEmpty()) {
         textEdit->hide();
         return;
@@ -297,7 +277,7 @@ bool TutorialIndicator::eventFilter(QObject *watched, QEvent *event)
 {
     // What one button loses to another is no change of the whole: the other one tells of it.
     if (event->type() == QEvent::ActivationChange &&
-        (QApplication::activeWindow() == watched || !isActive())) {
+        (isTheActiveWindow(qobject_cast<QWidget *>(watched)) || !isActive())) {
         QEvent change(QEvent::ActivationChange);
         QCoreApplication::sendEvent(this, &change);
     }
@@ -423,11 +403,11 @@ void TutorialIndicator::place()
         ++lastY; // the buttons stand below the text, so they move with its height even when all is at rest
     }
     if (step.x != m_lastX || step.y != lastY) {
-        moveTo(m_tooltip, {step.x, step.y});
+        moveOverlay(m_tooltip, {step.x, step.y});
         const ButtonPlaces places = placeButtons(step.x, step.y, m_hintHeight, arrowWidth);
-        moveTo(m_nextButton, places.nextAndYes);
-        moveTo(m_yesButton, places.nextAndYes);
-        moveTo(m_noButton, places.no);
+        moveOverlay(m_nextButton, places.nextAndYes);
+        moveOverlay(m_yesButton, places.nextAndYes);
+        moveOverlay(m_noButton, places.no);
     }
     m_lastX = step.x;
     m_lastY = step.y;

@@ -3,7 +3,6 @@
 #include "Tutorial/overlay/OverlayHost.h"
 #include "Tutorial/overlay/OverlayWindow.h"
 
-#include <QApplication>
 #include <QEvent>
 
 TutorialLog::TutorialLog(QWidget *parent, OverlayHost *manager)
@@ -26,8 +25,7 @@ void TutorialLog::changeEvent(QEvent *event)
     if (event->type() != QEvent::ActivationChange) {
         return;
     }
-    // Not isActiveWindow(): that lends every parentless tool window the state "active".
-    if (QApplication::activeWindow() == this) {
+    if (isTheActiveWindow(this)) {
         m_manager->onOverlayActivated();
     }
     m_manager->updateOverlayVisibility();

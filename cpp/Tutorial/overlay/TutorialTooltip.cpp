@@ -11,7 +11,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QTextDocument>
 #include <QTextEdit>
 
 namespace {
@@ -35,14 +34,8 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     m_textEdit->setMaximumSize(kHintWidth, hintHeight);
     m_textEdit->setGeometry(m_indicator->m_arrow.width(), kTextTop, kHintWidth, hintHeight);
     m_textEdit->setLineWrapMode(QTextEdit::WidgetWidth);
-    m_textEdit->setAutoFormatting(QTextEdit::AutoAll);
-    m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_textEdit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_textEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_textEdit->setWindowFlag(Qt::WindowTransparentForInput);
-    // Without it a blinking cursor stands in the text while the window is active.
-    m_textEdit->setFocusPolicy(Qt::NoFocus);
-    m_textEdit->document()->setDocumentMargin(kHintMargin);
+    prepareOverlayText(m_textEdit, kHintMargin);
     if (!m_indicator->m_hint.isEmpty()) {
         setHostText(m_textEdit, m_indicator->m_hint);
         m_textEdit->show();

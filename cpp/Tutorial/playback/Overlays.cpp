@@ -1,47 +1,29 @@
 #include "Tutorial/playback/Overlays.h"
 
 #include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 #include "Tutorial/overlay/TutorialIndicator.h"
 #include "Tutorial/overlay/TutorialLog.h"
 
 #include <utility>
 
-namespace {
-
-// QWidget::show and hide cost allocations even when they change nothing.
-void showWidget(QWidget *widget)
-{
-    if (widget && !widget->isVisible()) {
-        widget->show();
-    }
-}
-
-void hideWidget(QWidget *widget)
-{
-    if (widget && !widget->isHidden()) {
-        widget->hide();
-    }
-}
-
-} // namespace
-
 void Overlays::createLog()
 {
-    if (!m_log) {
+    if (m_log == nullptr) {
         m_log = new TutorialLog(nullptr, &m_host);
     }
 }
 
 void Overlays::createIndicator()
 {
-    if (!m_indicator) {
+    if (m_indicator == nullptr) {
         m_indicator = new TutorialIndicator(nullptr, &m_host);
     }
 }
 
 void Overlays::createOrShowLog()
 {
-    if (m_log) {
+    if (m_log != nullptr) {
         showLog();
     } else {
         createLog();
@@ -50,28 +32,28 @@ void Overlays::createOrShowLog()
 
 void Overlays::showStep(const IndicatorUpdate &update) const
 {
-    if (m_indicator) {
+    if (m_indicator != nullptr) {
         m_indicator->showStep(update);
     }
 }
 
 void Overlays::moveTarget(const QPoint &target) const
 {
-    if (m_indicator) {
+    if (m_indicator != nullptr) {
         m_indicator->setNewXy(target.x(), target.y());
     }
 }
 
 void Overlays::aim(const QPoint &target, const QString &windowKey) const
 {
-    if (m_indicator) {
+    if (m_indicator != nullptr) {
         m_indicator->setTargetWindowOffset(target.x(), target.y(), windowKey, m_indicator->arrowVisible());
     }
 }
 
 void Overlays::showIndicator() const
 {
-    if (m_indicator) {
+    if (m_indicator != nullptr) {
         m_indicator->showTooltip();
         m_indicator->showButtons();
     }
@@ -79,17 +61,17 @@ void Overlays::showIndicator() const
 
 void Overlays::showLog() const
 {
-    showWidget(m_log);
+    setOverlayShown(m_log, true);
 }
 
 void Overlays::showEditorTooltip() const
 {
-    showWidget(m_editorTooltip);
+    setOverlayShown(m_editorTooltip, true);
 }
 
 void Overlays::hideIndicator() const
 {
-    if (m_indicator) {
+    if (m_indicator != nullptr) {
         m_indicator->hideTooltip();
         m_indicator->hideButtons();
     }
@@ -97,12 +79,12 @@ void Overlays::hideIndicator() const
 
 void Overlays::hideLog() const
 {
-    hideWidget(m_log);
+    setOverlayShown(m_log, false);
 }
 
 void Overlays::hideEditorTooltip() const
 {
-    hideWidget(m_editorTooltip);
+    setOverlayShown(m_editorTooltip, false);
 }
 
 void Overlays::retire(QWidget *old)
