@@ -1,15 +1,9 @@
 #include "lesson-check/BubbleCheck.h"
 
+#include "Tutorial/overlay/BubbleGeometry.h"
 #include "Tutorial/overlay/HintDocument.h"
 
 #include <QTextDocument>
-
-namespace {
-
-/// How high the window is below the icon, where the text is, in pixels.
-constexpr int kTextHeight = 480 - 56;
-
-} // namespace
 
 Findings BubbleCheck::check(const Catalogue &catalogue, const QString &context)
 {
@@ -20,14 +14,15 @@ Findings BubbleCheck::check(const Catalogue &catalogue, const QString &context)
     const Catalogue::Messages messages = catalogue.messages(context);
     for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
         fillHintDocument(&document, message->translation, font);
-        document.setTextWidth(kHintWidth);
+        document.setTextWidth(BubbleGeometry::kHintWidth);
         const int height = qRound(document.size().height());
-        if (height > kTextHeight)
+        if (height > BubbleGeometry::kMostHintHeight) {
             findings.append(
                 {Finding::Kind::kError, catalogue.file(), message->line, context, message.key(),
                  QStringLiteral("the hint does not fit the bubble: it is %1 pixels high, %2 at most")
                      .arg(height)
-                     .arg(kTextHeight)});
+                     .arg(BubbleGeometry::kMostHintHeight)});
+        }
     }
     return findings;
 }

@@ -1,5 +1,6 @@
 #include "Tutorial/overlay/HintDocument.h"
 
+#include "Tutorial/overlay/BubbleGeometry.h"
 #include "Tutorial/overlay/HintHtml.h"
 
 #include <QFont>
@@ -7,7 +8,7 @@
 
 void fillHintDocument(QTextDocument *document, const QString &hint, const QFont &font)
 {
-    document->setDocumentMargin(kHintMargin);
+    document->setDocumentMargin(BubbleGeometry::kHintMargin);
     document->setDefaultFont(font);
     document->setHtml(hintToHtml(hint));
 }

@@ -1,5 +1,7 @@
 #include "Tutorial/overlay/Placement.h"
 
+#include "Tutorial/overlay/BubbleGeometry.h"
+
 #include <cmath>
 #include <limits>
 
@@ -13,7 +15,7 @@ constexpr int kRoomToStay = 256;
 constexpr int kRoomToReturn = 218;
 constexpr int kReturnMargin = 64;
 constexpr int kSnap = 2;
-constexpr int kButtonGap = 56;
+constexpr int kNoShift = 56;
 constexpr int kReach = 1 << 24; // far beyond any screen
 
 qint64 effectiveX(const Placement &placement, int arrowWidth)
@@ -77,8 +79,8 @@ PlacementStep stepPlacement(const Placement &from, qint64 hostRight, int arrowWi
 ButtonPlaces placeButtons(int x, int y, int hintHeight, int arrowWidth)
 {
     const qint64 left = static_cast<qint64>(x) + arrowWidth;
-    const int top = clampToInt(static_cast<qint64>(y) + hintHeight + kButtonGap);
-    return {QPoint(clampToInt(left), top), QPoint(clampToInt(left + kButtonGap), top)};
+    const int top = clampToInt(static_cast<qint64>(y) + BubbleGeometry::kHintTop + hintHeight);
+    return {QPoint(clampToInt(left), top), QPoint(clampToInt(left + kNoShift), top)};
 }
 
 QPoint clampToReach(const QPoint &position)

@@ -1,5 +1,6 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 
+#include "Tutorial/overlay/BubbleGeometry.h"
 #include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/IndicatorUpdate.h"
 #include "Tutorial/overlay/KeepPlace.h"
@@ -18,8 +19,6 @@ namespace {
 
 constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialIndicator.cpp";
 constexpr int kTickMs = 100;
-constexpr int kTextTop = 56;
-constexpr int kMirroredArrowLeft = 256;
 constexpr int kButtonWidth = 64;
 constexpr int kButtonHeight = 32;
 // Characters. More than any screen shows of a hint, and few enough to be laid out without holding up the
@@ -392,7 +391,7 @@ void TutorialIndicator::place()
     m_mirror = step.mirror;
     m_repaintAll = m_repaintAll || step.turnedOver || step.changedSides;
     if (step.changedSides && m_tooltip != nullptr) {
-        m_tooltip->m_textEdit->move(m_mirror ? 0 : arrowWidth, kTextTop);
+        m_tooltip->m_textEdit->move(BubbleGeometry::hintPlace(m_mirror, arrowWidth));
     }
     if (m_tooltip == nullptr && m_manager->running()) {
         makeTooltip();
@@ -435,6 +434,6 @@ void TutorialIndicator::repaintTooltip()
     if (m_repaintAll) {
         m_tooltip->repaint(0, 0, width(), height());
     } else {
-        m_tooltip->repaint(m_mirror ? kMirroredArrowLeft : 0, 0, m_arrow.width() + 56, m_arrow.height() + 72);
+        m_tooltip->repaint(BubbleGeometry::tickRect(m_mirror, m_arrow.size()));
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Tutorial/overlay/BubbleGeometry.h"
+
 #include <QElapsedTimer>
 #include <QPixmap>
 #include <QString>
@@ -113,7 +115,7 @@ private:
     int m_offsetY = -9999;
     QString m_windowKey;
     QString m_hint;
-    int m_hintHeight = 64;
+    int m_hintHeight = BubbleGeometry::kFirstHintHeight;
     QPushButton *m_nextButton = nullptr;
     QPushButton *m_yesButton = nullptr;
     QPushButton *m_noButton = nullptr;

@@ -1,7 +1,7 @@
 #include "Tutorial/overlay/TutorialTooltip.h"
 
 #include "Tutorial/overlay/Bounce.h"
-#include "Tutorial/overlay/HintDocument.h"
+#include "Tutorial/overlay/BubbleGeometry.h"
 #include "Tutorial/overlay/HostText.h"
 #include "Tutorial/overlay/KeepPlace.h"
 #include "Tutorial/overlay/MayLeaveScreen.h"
@@ -16,9 +16,6 @@
 namespace {
 
 constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialTooltip.cpp";
-constexpr int kTextTop = 56;
-constexpr int kBounceRoom = 16;
-constexpr int kIconSide = 56;
 // In the window's pixels, and on the screen wherever the arrow points at something on it.
 constexpr QPoint kOnScreen(200, 100);
 
@@ -28,14 +25,14 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     : m_indicator(dynamic_cast<TutorialIndicator *>(indicator))
     , m_textEdit(new QTextEdit(this))
 {
-    const int hintHeight = m_indicator->m_hintHeight;
+    const QSize size(BubbleGeometry::kHintWidth, m_indicator->m_hintHeight);
     m_textEdit->setObjectName(QStringLiteral("hintTextEdit"));
-    m_textEdit->setMinimumSize(kHintWidth, hintHeight);
-    m_textEdit->setMaximumSize(kHintWidth, hintHeight);
-    m_textEdit->setGeometry(m_indicator->m_arrow.width(), kTextTop, kHintWidth, hintHeight);
+    m_textEdit->setMinimumSize(size);
+    m_textEdit->setMaximumSize(size);
+    m_textEdit->setGeometry(QRect(BubbleGeometry::hintPlace(false, m_indicator->m_arrow.width()), size));
     m_textEdit->setLineWrapMode(QTextEdit::WidgetWidth);
     m_textEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    prepareOverlayText(m_textEdit, kHintMargin);
+    prepareOverlayText(m_textEdit, BubbleGeometry::kHintMargin);
     if (!m_indicator->m_hint.isEmpty()) {
         setHostText(m_textEdit, m_indicator->m_hint);
         m_textEdit->show();
@@ -45,7 +42,7 @@ TutorialTooltip::TutorialTooltip(QWidget *indicator)
     }
 
     prepareOverlay(this, Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
-    setGeometry(0, 0, 640, 480);
+    setGeometry(QRect(QPoint(0, 0), BubbleGeometry::kWindow));
     hide();
     new KeepPlace(this);
     new MayLeaveScreen(this, kOnScreen);
@@ -96,16 +93,13 @@ void TutorialTooltip::erase(QPainter &painter)
         m_indicator->m_repaintAll = false;
         return;
     }
-    const QSize arrow = m_indicator->m_arrow.size();
-    const bool mirror = m_indicator->m_mirror;
-    painter.fillRect(mirror ? kHintWidth : 0, 0, arrow.width(), arrow.height() + kBounceRoom, nothing);
+    painter.fillRect(BubbleGeometry::arrowRect(m_indicator->m_mirror, m_indicator->m_arrow.size()), nothing);
     painter.fillRect(iconRect(), nothing);
 }
 
 QRect TutorialTooltip::iconRect() const
 {
-    const int left = m_indicator->m_mirror ? kHintWidth - kIconSide : m_indicator->m_arrow.width();
-    return {left, 0, kIconSide, kIconSide};
+    return BubbleGeometry::iconRect(m_indicator->m_mirror, m_indicator->m_arrow.width());
 }
 
 void TutorialTooltip::drawArrow(QPainter &painter) const
@@ -116,7 +110,8 @@ void TutorialTooltip::drawArrow(QPainter &painter) const
     const qint64 elapsedMs = m_indicator->elapsedMs();
     const float bounce = upsideDown ? upsideDownBounceOffset(elapsedMs) : bounceOffset(elapsedMs);
     painter.save();
-    painter.translate(mirror ? arrow.width() + kHintWidth : 0, upsideDown ? arrow.height() : 0);
+    painter.translate(mirror ? arrow.width() + BubbleGeometry::kHintWidth : 0,
+                      upsideDown ? arrow.height() : 0);
     painter.scale(mirror ? -1 : 1, upsideDown ? -1 : 1);
     painter.drawPixmap(0, static_cast<int>(bounce), arrow);
     painter.restore();
@@ -126,7 +121,8 @@ void TutorialTooltip::drawIcon(QPainter &painter) const
 {
     const QPixmap *const icon = m_indicator->icon();
     if (icon != nullptr) {
-        painter.drawPixmap(m_indicator->m_mirror ? kHintWidth - icon->width() : m_indicator->m_arrow.width(),
-                           0, *icon);
+        painter.drawPixmap(
+            BubbleGeometry::iconPlace(m_indicator->m_mirror, m_indicator->m_arrow.width(), icon->width()),
+            *icon);
     }
 }
