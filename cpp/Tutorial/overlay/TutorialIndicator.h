@@ -1,23 +1,24 @@
 #pragma once
 
-#include "Tutorial/overlay/BubbleGeometry.h"
+#include "Tutorial/overlay/IndicatorButtons.h"
+#include "Tutorial/overlay/IndicatorPictures.h"
+#include "Tutorial/overlay/IndicatorState.h"
 
 #include <QElapsedTimer>
-#include <QPixmap>
 #include <QString>
 #include <QVariantMap>
 #include <QWidget>
+
 #include <memory>
 #include <vector>
 
 class OverlayHost;
-class QPushButton;
+class QTextDocument;
 class TutorialTooltip;
-struct IndicatorUpdate;
 
-/// Marks the present step on the screen: moves the bubble's window with its arrow, icon and hint, and the
-/// buttons Next, Yes and No. The widget itself is never shown; it exists for its timer, its state and its
-/// pictures.
+/// Marks the present step on the screen: keeps its state, and moves and repaints the bubble's window and the
+/// buttons Next, Yes and No, which show that state. The widget itself is never shown; it exists for its timer
+/// and its events.
 ///
 /// All coordinates are screen pixels. Until close() the four windows exist (a bubble that was closed alone
 /// comes back on the next tick while a playback is on). close() ends the timer, closes the windows and
@@ -63,7 +64,7 @@ public:
     /// The bubble's window, or null while there is none.
     [[nodiscard]] TutorialTooltip *tooltip() const { return m_tooltip; }
 
-    [[nodiscard]] bool arrowVisible() const { return m_arrowVisible; }
+    [[nodiscard]] bool arrowVisible() const { return m_state.arrowVisible; }
 
     /// Whether this widget or one of the buttons is the active window.
     [[nodiscard]] bool isActive() const;
@@ -72,9 +73,6 @@ public:
     /// false.
     [[nodiscard]] QVariantMap getSettings() const;
     void setSettings(const QVariantMap &settings);
-
-    /// Passes on to this widget, which no window manager knows, that a button became active or ceased to be.
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
     void nextClicked();
@@ -92,48 +90,20 @@ protected:
     [[nodiscard]] virtual qint64 elapsedMs() const;
 
 private:
-    friend class TutorialTooltip;
-
     void makeTooltip();
-    QPushButton *makeButton(const QString &name, const QString &caption, const QFont &font);
-    [[nodiscard]] const QPixmap *icon() const;
+    void connectButtons();
+    void showHintIn(QTextDocument *document);
     void place();
-    void measureHint();
     void repaintTooltip();
-    void applyTooltipSettings(const QVariantMap &settings);
 
     int m_timerId = 0;
-    QPixmap m_arrow;
-    QPixmap m_click;
-    QPixmap m_doubleClick;
-    QPixmap m_rightClick;
-    QPixmap m_eye;
-    QPixmap m_wait;
-    QPixmap m_keyboard;
-    int m_iconKind = 6;
-    int m_offsetX = -9999;
-    int m_offsetY = -9999;
-    QString m_windowKey;
-    QString m_hint;
-    int m_hintHeight = BubbleGeometry::kFirstHintHeight;
-    QPushButton *m_nextButton = nullptr;
-    QPushButton *m_yesButton = nullptr;
-    QPushButton *m_noButton = nullptr;
-    OverlayHost *m_manager;
+    OverlayHost *const m_manager;
+    const IndicatorPictures m_pictures;
+    IndicatorState m_state;
     QElapsedTimer m_elapsed;
-    int m_lastX = 0;
-    int m_lastY = 0;
-    int m_newX = 0;
-    int m_newY = 0;
-    bool m_upsideDown = false;
-    bool m_mirror = false;
-    bool m_repaintAll = false;
-    bool m_nextWindowEnabled = false;
-    bool m_yesNoWindowEnabled = false;
-    bool m_updateTextEditSize = false;
-    TutorialTooltip *m_tooltip = nullptr;
-    bool m_arrowVisible = true;
     bool m_activatePending = false;
 
-    std::vector<std::unique_ptr<QWidget>> m_windows; // all that were made, closed ones too
+    std::unique_ptr<IndicatorButtons> m_buttons;
+    TutorialTooltip *m_tooltip = nullptr;
+    std::vector<std::unique_ptr<TutorialTooltip>> m_tooltips; // all that were made, closed ones too
 };

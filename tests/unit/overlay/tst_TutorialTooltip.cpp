@@ -1,8 +1,11 @@
 #include "IndicatorTest.h"
 #include "LogCapture.h"
+#include "Tutorial/overlay/IndicatorPictures.h"
+#include "Tutorial/overlay/IndicatorState.h"
 
 #include <QPainter>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -74,6 +77,9 @@ private Q_SLOTS:
     void activationIsLogged();
     void otherChangesAreNotLogged();
     void closingForgetsTextAndWindow();
+    void showsAStateWithoutAnIndicator();
+    void tellsOfItsWholePaintOnly();
+    void tellsOfItsEndOnce();
 
 private:
     void turn(bool upsideDown, bool mirror);
@@ -297,6 +303,56 @@ void TestTutorialTooltip::closingForgetsTextAndWindow()
     QCOMPARE(m_indicator->tooltip(), nullptr);
     m_indicator->tick();
     QCOMPARE(m_indicator->tooltip(), nullptr);
+}
+
+void TestTutorialTooltip::showsAStateWithoutAnIndicator()
+{
+    const IndicatorPictures pictures = IndicatorPictures::load();
+    IndicatorState state;
+    state.hintHeight = 80;
+    state.iconKind = 3;
+    state.placement.mirror = true;
+    TutorialTooltip tooltip(state, pictures, [] { return qint64(1500); });
+    QCOMPARE(tooltip.hintPlace(), QPoint(128, 56)); // until it is told
+    tooltip.moveHintToItsSide();
+    QCOMPARE(tooltip.hintPlace(), QPoint(0, 56));
+    const QTextEdit *const textEdit = tooltip.findChild<QTextEdit *>();
+    QCOMPARE(textEdit->size(), QSize(256, 80));
+    state.hintHeight = 120;
+    tooltip.resizeHint();
+    QCOMPARE(textEdit->size(), QSize(256, 120));
+    QImage expected = blankWindow();
+    erase(&expected, erasedRects(true));
+    draw(&expected, picture(QStringLiteral("arrow")).mirrored(true, false), {256, 0});
+    draw(&expected, picture(QStringLiteral("eye")), {200, 0});
+    QCOMPARE(paintedOver(&tooltip), expected);
+}
+
+void TestTutorialTooltip::tellsOfItsWholePaintOnly()
+{
+    const IndicatorPictures pictures = IndicatorPictures::load();
+    IndicatorState state;
+    TutorialTooltip tooltip(state, pictures, [] { return qint64(0); });
+    const QSignalSpy painted(&tooltip.events(), &BubbleEvents::paintedWhole);
+    paintedOver(&tooltip);
+    QCOMPARE(painted.count(), 0);
+    state.repaintAll = true;
+    paintedOver(&tooltip);
+    QCOMPARE(painted.count(), 1);
+    QVERIFY(state.repaintAll); // it reads the state and no more
+}
+
+void TestTutorialTooltip::tellsOfItsEndOnce()
+{
+    const IndicatorPictures pictures = IndicatorPictures::load();
+    const IndicatorState state;
+    TutorialTooltip tooltip(state, pictures, [] { return qint64(0); });
+    const QSignalSpy closed(&tooltip.events(), &BubbleEvents::closed);
+    tooltip.show();
+    tooltip.hide();
+    QCOMPARE(closed.count(), 0);
+    tooltip.close();
+    QCOMPARE(closed.count(), 1);
 }
 
 QTEST_MAIN(TestTutorialTooltip)
