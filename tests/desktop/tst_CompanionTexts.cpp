@@ -118,8 +118,8 @@ void tst_CompanionTexts::tooltipGoesOnAfterAnAbsenceLongerThanItsLife()
     QVERIFY(waitForBeats(kLifeBeats + 1));
     QCOMPARE(overlays().size(), 0);
     m_host->send({QStringLiteral("state"), QStringLiteral("show")});
-    QTRY_COMPARE_WITH_TIMEOUT(overlays(kTooltip).size(), 1, kSoonMs);
-    // Had its time run on, nothing of it would be left to show.
+    // Had its time run on, nothing of it would be left to show. It comes and goes at first: it is shown as it
+    // was and built anew a moment later.
     const auto steps = [this] {
         const QVector<XWindows::Window> tooltips = overlays(kTooltip);
         return tooltips.size() == 1 ? XWindows::opacitySteps(tooltips.constFirst().id) : -1;
