@@ -29,6 +29,15 @@ public:
     /// the screen.
     [[nodiscard]] virtual std::optional<QPoint> origin(const QString &windowKey) const = 0;
 
+    /// What leads where: keys of the windows in which a person opens the window @p windowKey, with a control
+    /// or a context menu there. Empty for a window that opens by itself, and from an editor that does not
+    /// tell.
+    [[nodiscard]] virtual QStringList openedFrom(const QString &windowKey) const
+    {
+        Q_UNUSED(windowKey)
+        return {};
+    }
+
     /// Rectangle of the whole screen area of the editor.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 

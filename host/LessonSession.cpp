@@ -122,6 +122,27 @@ bool LessonSession::lacksWindow() const
     return m_runner.isRunning() && m_runner.step().hasPosition() && !bubbleTarget();
 }
 
+QString LessonSession::windowToOpen() const
+{
+    if (!lacksWindow()) {
+        return {};
+    }
+    const QStringList open = m_editor->openWindows();
+    QStringList closed = {m_runner.step().windowKey};
+    for (int i = 0; i < closed.size(); ++i) {
+        const QStringList from = m_editor->openedFrom(closed.at(i));
+        for (const QString &key : from) {
+            if (open.contains(key)) {
+                return closed.at(i);
+            }
+            if (!closed.contains(key)) {
+                closed += key;
+            }
+        }
+    }
+    return closed.constFirst();
+}
+
 void LessonSession::begin(const QString &scenarioText, int id)
 {
     QStringList problems;

@@ -49,6 +49,10 @@ public:
     [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_place; }
     /// Whether the present step points into a window that is not open.
     [[nodiscard]] bool lacksWindow() const;
+    /// What the person has to open next for the present step: its window, or, as long as that one is opened
+    /// from windows that are closed too, the nearest of these that can be opened now. Empty when the step
+    /// lacks no window.
+    [[nodiscard]] QString windowToOpen() const;
 
 Q_SIGNALS:
     /// A command for the companion, as HostCommands builds them.

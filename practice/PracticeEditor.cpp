@@ -53,7 +53,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
 PracticeEditor::~PracticeEditor()
 {
     // What the windows do while they go away is nobody's business any more.
-    disconnect(m_windows.get(), nullptr, &m_session, nullptr);
+    m_windows->disconnect();
     m_link.stop();
 }
 
@@ -100,18 +100,28 @@ void PracticeEditor::connectSession()
                     m_session.request(m_lessonName);
                 }
             });
-    connect(&m_session, &LessonSession::stepTold, this, [this] {
-        const ScenarioRunner &runner = m_session.runner();
-        m_panel.showStep(m_session.lessonName(), runner.index() + 1, runner.scenario().size());
-        if (m_session.lacksWindow()) {
-            m_panel.showClosed(m_windows->title(runner.step().windowKey));
-        }
-    });
+    connect(&m_session, &LessonSession::stepTold, this, &PracticeEditor::showStep);
+    // On the way back to the step's window.
+    connect(m_windows.get(), &EditorWindows::pushed, this, &PracticeEditor::showStep);
+    connect(m_windows.get(), &EditorWindows::popped, this, &PracticeEditor::showStep);
     connect(&m_session, &LessonSession::finished, this, [this] {
         m_lessonName.clear();
         m_panel.showFinished();
     });
     connect(&m_session, &LessonSession::refused, &m_panel, &LessonPanel::showRefused);
+}
+
+void PracticeEditor::showStep()
+{
+    const ScenarioRunner &runner = m_session.runner();
+    if (!runner.isRunning()) {
+        return;
+    }
+    m_panel.showStep(m_session.lessonName(), runner.index() + 1, runner.scenario().size());
+    const QString toOpen = m_session.windowToOpen();
+    if (!toOpen.isEmpty()) {
+        m_panel.showClosed(m_windows->title(toOpen));
+    }
 }
 
 void PracticeEditor::connectProject()

@@ -57,6 +57,7 @@ private:
     [[nodiscard]] bool startLink(QString *error);
     void connectSession();
     void connectProject();
+    void showStep();
     void makePilot();
     void onConnected();
     void onLost(const QString &lastWords);

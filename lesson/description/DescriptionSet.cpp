@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 namespace {
 
 /// Collects what is wrong with the references of one file.
@@ -122,6 +124,33 @@ QString DescriptionSet::popupKey() const
 QSize DescriptionSet::size(const QString &key) const
 {
     return m_windows.value(key).size;
+}
+
+QStringList DescriptionSet::openedFrom(const QString &key) const
+{
+    QStringList windows;
+    for (const WindowDescription &window : m_windows) {
+        const auto opensIt = [this, &key](const ControlDescription &control) {
+            return leadsTo(key, control.click) || leadsTo(key, control.doubleClick) ||
+                   leadsTo(key, control.contextMenu);
+        };
+        if (std::any_of(window.controls.cbegin(), window.controls.cend(), opensIt)) {
+            windows += window.kind == WindowDescription::Kind::kPart ? window.owner : window.key;
+        }
+    }
+    windows.removeDuplicates();
+    return windows;
+}
+
+bool DescriptionSet::leadsTo(const QString &key, const ControlAction &action) const
+{
+    if (action.open == key) {
+        return true;
+    }
+    const PopupDescription *const menu = popup(action.popup);
+    return menu != nullptr &&
+           std::any_of(menu->controls.cbegin(), menu->controls.cend(),
+                       [&key](const ControlDescription &entry) { return entry.click.open == key; });
 }
 
 QVector<ControlDescription> DescriptionSet::controlsIn(const QString &key) const

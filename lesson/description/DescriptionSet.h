@@ -40,6 +40,10 @@ public:
     /// Size of the window's contents; empty for a key that is not there.
     [[nodiscard]] QSize size(const QString &key) const;
 
+    /// Keys of the windows in which a person opens the window: with a control of theirs or of their parts, or
+    /// with an entry of a context menu that pops up there. Empty for one that no control opens.
+    [[nodiscard]] QStringList openedFrom(const QString &key) const;
+
     /// The controls that a lesson can point at in the window: its own, those of its context menus under the
     /// names
     /// "<menu>/<entry>", then those of its parts, all with their geometry in the window. Empty for a key that
@@ -51,6 +55,7 @@ public:
     [[nodiscard]] QStringList actionStates(const QString &name) const;
 
 private:
+    [[nodiscard]] bool leadsTo(const QString &key, const ControlAction &action) const;
     void check(const EditorNames *names, QStringList *errors) const;
 
     QMap<QString, WindowDescription> m_windows;

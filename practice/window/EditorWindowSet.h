@@ -29,6 +29,10 @@ public:
     void close(const QString &windowKey) override;
     [[nodiscard]] QStringList openWindows() const override;
     [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override;
+    [[nodiscard]] QStringList openedFrom(const QString &windowKey) const override
+    {
+        return m_descriptions.openedFrom(windowKey);
+    }
     [[nodiscard]] QString title(const QString &windowKey) const override;
     [[nodiscard]] QRect screenRect() const override;
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }

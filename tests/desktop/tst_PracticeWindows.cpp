@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QProcess>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void anotherDialogDoesNotTakeTheArrowAway();
     void startAgainClosesTheDialogs();
     void aPopupIsAbandonedToTheCompanion();
+    void theStripNamesTheWindowToOpenNext();
 
 private:
     [[nodiscard]] OverlayWatch overlays() const;
@@ -285,6 +287,23 @@ void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
     QTRY_COMPARE_WITH_TIMEOUT(abandoned.size(), 1, kSoonMs);
     QCOMPARE(popped.size(), 0);
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
+}
+
+void TestPracticeWindows::theStripNamesTheWindowToOpenNext()
+{
+    const QString selector = QStringLiteral("ImageSelector");
+    const QString properties = QStringLiteral("MapProperties");
+    const ScenarioRunner &runner = m_editor->session().runner();
+    while (runner.isRunning() && runner.step().windowKey != selector) {
+        find<QPushButton>("skipButton")->click();
+    }
+    QVERIFY(runner.isRunning());
+    const auto *const strip = find<QLabel>("statusLabel");
+    QVERIFY2(strip->text().contains(m_windows->title(properties)), qPrintable(strip->text()));
+    m_windows->open(properties);
+    QVERIFY2(strip->text().contains(m_windows->title(selector)), qPrintable(strip->text()));
+    m_windows->close(properties);
+    QVERIFY2(strip->text().contains(m_windows->title(properties)), qPrintable(strip->text()));
 }
 
 QTEST_MAIN(TestPracticeWindows)

@@ -15,6 +15,7 @@ public:
     QStringList m_stack = {QStringLiteral("MainWindow")};
     QHash<QString, QPoint> m_origins = {{QString(), QPoint()},
                                         {QStringLiteral("MainWindow"), QPoint(90, 190)}};
+    QHash<QString, QStringList> m_openedFrom;
 
     void open(const QString &windowKey)
     {
@@ -49,6 +50,10 @@ public:
     {
         const auto found = m_origins.constFind(windowKey);
         return found == m_origins.constEnd() ? std::nullopt : std::optional(*found);
+    }
+    [[nodiscard]] QStringList openedFrom(const QString &windowKey) const override
+    {
+        return m_openedFrom.value(windowKey);
     }
     [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
     [[nodiscard]] QSize applicationSize() const override { return {1100, 720}; }

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void passesOnWhatTheWindowsDo();
     void tellsTheStackAnewAfterAnAbandonedPopup();
     void knowsWhenTheWindowOfTheStepIsClosed();
+    void namesTheWindowToOpenNext_data();
+    void namesTheWindowToOpenNext();
     void stopsAtTheEnd();
     void theCompanionsButtonsGoOn();
     void waitsByTheClock();
@@ -296,6 +298,45 @@ void tst_LessonSession::knowsWhenTheWindowOfTheStepIsClosed()
     QVERIFY(m_session->lacksWindow());
     m_session->receive(startCommand(kReading));
     QVERIFY(!m_session->lacksWindow());
+}
+
+void tst_LessonSession::namesTheWindowToOpenNext_data()
+{
+    using Ways = QHash<QString, QStringList>;
+    const QString main = QStringLiteral("MainWindow");
+    const QString properties = QStringLiteral("MapProperties");
+    const QString selector = QStringLiteral("ImageSelector");
+    const QString other = QStringLiteral("Other");
+    QTest::addColumn<Ways>("ways");
+    QTest::addColumn<QStringList>("open");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("unknown ways") << Ways() << QStringList() << selector;
+    QTest::newRow("from an open window") << Ways{{selector, {main}}} << QStringList() << selector;
+    QTest::newRow("from a closed window")
+        << Ways{{selector, {properties}}, {properties, {main}}} << QStringList() << properties;
+    QTest::newRow("from one that was opened again")
+        << Ways{{selector, {properties}}, {properties, {main}}} << QStringList{properties} << selector;
+    QTest::newRow("the nearer of two ways")
+        << Ways{{selector, {other, properties}}, {other, {QStringLiteral("Far")}}, {properties, {main}}}
+        << QStringList() << properties;
+    QTest::newRow("in a circle") << Ways{{selector, {properties}}, {properties, {selector}}} << QStringList()
+                                 << selector;
+    QTest::newRow("none is lacking") << Ways{{selector, {main}}} << QStringList{selector} << QString();
+}
+
+void tst_LessonSession::namesTheWindowToOpenNext()
+{
+    using Ways = QHash<QString, QStringList>;
+    QFETCH(Ways, ways);
+    QFETCH(QStringList, open);
+    m_windows->m_openedFrom = ways;
+    QCOMPARE(m_session->windowToOpen(), QString());
+    m_session->receive(startCommand(QStringLiteral(
+        R"({"id":1,"x":1,"y":2,"windowKey":"ImageSelector","condition":"list,1","hint":"h"})")));
+    for (const QString &key : qAsConst(open)) {
+        m_windows->open(key);
+    }
+    QTEST(m_session->windowToOpen(), "named");
 }
 
 void tst_LessonSession::stopsAtTheEnd()

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void leavesNamesOfTheEditorAloneWithoutThem();
     void placesControlsInTheirWindow();
     void knowsTheStatesOfActions();
+    void knowsFromWhichWindowsOneIsOpened();
     void tellsAnEmptyFolder();
 };
 
@@ -190,6 +191,20 @@ void tst_DescriptionSet::knowsTheStatesOfActions()
         DescriptionSet::read(QStringLiteral(FIXTURE_DIR "/practice/descriptions"), nullptr, &errors);
     QCOMPARE(set.actionStates(QStringLiteral("fileOpen")), QStringList{QStringLiteral("open")});
     QCOMPARE(set.actionStates(QStringLiteral("fileClose")), QStringList());
+}
+
+void tst_DescriptionSet::knowsFromWhichWindowsOneIsOpened()
+{
+    QStringList errors;
+    const auto set = DescriptionSet::read(kShipped, nullptr, &errors);
+    const QStringList fromMain{QStringLiteral("MainWindow")};
+    QCOMPARE(set.openedFrom(QStringLiteral("NewProject")), fromMain);
+    // By a double click in a part of it, and by its context menus.
+    QCOMPARE(set.openedFrom(QStringLiteral("MapProperties")), fromMain);
+    QCOMPARE(set.openedFrom(QStringLiteral("MapLoader")), fromMain);
+    QCOMPARE(set.openedFrom(QStringLiteral("ImageSelector")), QStringList{QStringLiteral("MapProperties")});
+    QCOMPARE(set.openedFrom(QStringLiteral("MainWindow")), QStringList());
+    QCOMPARE(set.openedFrom(QStringLiteral("Other")), QStringList());
 }
 
 void tst_DescriptionSet::tellsAnEmptyFolder()
