@@ -1,0 +1,120 @@
+#include "window/TileDrawing.h"
+#include "window/ToolIcon.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTest>
+
+namespace {
+
+QStringList sourcesIn(const QString &folder)
+{
+    const QDir directory(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/pictures/%1/svg").arg(folder));
+    QStringList names;
+    const QStringList files = directory.entryList(QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        names.append(QFileInfo(file).completeBaseName());
+    }
+    return names;
+}
+
+QImage tile(const char *drawing, int pixels)
+{
+    return drawTile(QString::fromLatin1(drawing), pixels).toImage();
+}
+
+/// The strongest ink of a picture, 0 to 255.
+int strongestAlpha(const QImage &picture)
+{
+    int strongest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            strongest = qMax(strongest, picture.pixelColor(x, y).alpha());
+        }
+    }
+    return strongest;
+}
+
+} // namespace
+
+class TestDrawings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everySourceIsADrawing();
+    void aTileIsDrawnInEverySize_data();
+    void aTileIsDrawnInEverySize();
+    void linesAreOnePixelWideAtFullSize();
+    void anObjectLeavesTheGroundVisible();
+    void aDisabledIconIsPale();
+    void anUnknownNameHasNoPicture();
+};
+
+void TestDrawings::everySourceIsADrawing()
+{
+    QVERIFY(!sourcesIn(QStringLiteral("tiles")).isEmpty());
+    QCOMPARE(tileDrawings(), sourcesIn(QStringLiteral("tiles")));
+    QVERIFY(!sourcesIn(QStringLiteral("icons")).isEmpty());
+    QCOMPARE(toolIcons(), sourcesIn(QStringLiteral("icons")));
+}
+
+void TestDrawings::aTileIsDrawnInEverySize_data()
+{
+    QTest::addColumn<int>("pixels");
+    for (const int pixels : {8, 13, 16, 22, 32, 36, 64}) {
+        QTest::addRow("%d pixels", pixels) << pixels;
+    }
+}
+
+void TestDrawings::aTileIsDrawnInEverySize()
+{
+    QFETCH(int, pixels);
+    const QStringList drawings = tileDrawings();
+    for (const QString &drawing : drawings) {
+        const QImage picture = drawTile(drawing, pixels).toImage();
+        QCOMPARE(picture.size(), QSize(pixels, pixels));
+        QVERIFY2(strongestAlpha(picture) > 200, qPrintable(drawing));
+    }
+}
+
+void TestDrawings::linesAreOnePixelWideAtFullSize()
+{
+    const QImage wall = tile("wall", 32);
+    const QColor brick(0xd9, 0xc3, 0xa0);
+    const QColor joint(0xb5, 0x9a, 0x72);
+    for (int y = 0; y < 32; ++y) {
+        QCOMPARE(wall.pixelColor(4, y), y % 8 == 0 ? joint : brick);
+    }
+}
+
+void TestDrawings::anObjectLeavesTheGroundVisible()
+{
+    const QImage tree = tile("tree", 32);
+    QCOMPARE(tree.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(tree.pixelColor(31, 31).alpha(), 0);
+    QCOMPARE(tree.pixelColor(16, 16).alpha(), 255);
+}
+
+void TestDrawings::aDisabledIconIsPale()
+{
+    const QSize size(24, 24);
+    const QStringList names = toolIcons();
+    for (const QString &name : names) {
+        const QIcon icon = toolIcon(name);
+        QVERIFY2(strongestAlpha(icon.pixmap(size).toImage()) > 200, qPrintable(name));
+        const int pale = strongestAlpha(icon.pixmap(size, QIcon::Disabled).toImage());
+        QVERIFY2(pale > 60 && pale < 100, qPrintable(QStringLiteral("%1: %2").arg(name).arg(pale)));
+    }
+}
+
+void TestDrawings::anUnknownNameHasNoPicture()
+{
+    QVERIFY(toolIcon(QStringLiteral("none")).isNull());
+    const QImage picture = tile("none", 32);
+    QCOMPARE(picture.size(), QSize(32, 32));
+    QCOMPARE(strongestAlpha(picture), 0);
+}
+
+QTEST_MAIN(TestDrawings)
+#include "tst_Drawings.moc"
