@@ -20,6 +20,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include "PatchBytes.h"
 #include "Tutorial/localisation/ScenarioTexts.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/DataSupport.h"
@@ -115,38 +116,6 @@ Project makeProject(int scale)
     return project;
 }
 
-void appendNumber(QByteArray &bytes, quint32 number, int width)
-{
-    for (int i = 0; i < width; ++i) {
-        bytes.append(char(number >> (8 * i) & 0xFF));
-    }
-}
-
-QByteArray insertPatch(const QByteArray &text)
-{
-    QByteArray patch;
-    appendNumber(patch, quint32(text.size()), 4);
-    for (int i = 0; i < text.size(); i += 65536) {
-        const QByteArray piece = text.mid(i, 65536);
-        patch.append(char(1));
-        appendNumber(patch, quint32(piece.size() - 1), 2);
-        patch.append(piece);
-    }
-    return patch;
-}
-
-QByteArray identityPatch(int size)
-{
-    QByteArray patch;
-    appendNumber(patch, quint32(size), 4);
-    for (int i = 0; i < size; i += 65536) {
-        patch.append(char(250));
-        appendNumber(patch, quint32(i), 4);
-        appendNumber(patch, quint32(std::min(65536, size - i) - 1), 2);
-    }
-    return patch;
-}
-
 void writeWhole(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
@@ -194,7 +163,7 @@ public:
             QDir().mkpath(data);
             for (auto it = project.cbegin(); it != project.cend(); ++it) {
                 const QByteArray patch =
-                    step == 1 ? insertPatch(it.value()) : identityPatch(it.value().size());
+                    step == 1 ? PatchBytes::insertion(it.value()) : PatchBytes::copy(it.value().size());
                 writeWhole(QStringLiteral("%1/%2-patch").arg(data, it.key()), patch);
             }
         }

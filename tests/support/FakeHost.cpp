@@ -122,11 +122,6 @@ void FakeHost::resumeReading()
     readPending();
 }
 
-QByteArray FakeHost::frame(const QByteArray &payload, char separator)
-{
-    return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';
-}
-
 QByteArray FakeHost::command(const QStringList &fields)
 {
     return fields.join(QChar(1)).toUtf8();
@@ -157,8 +152,16 @@ bool FakeHost::writeAll(const QByteArray &bytes)
 
 void FakeHost::readPending()
 {
-    if (m_socket) {
-        m_received += m_socket->readAll();
+    if (m_socket == nullptr) {
+        return;
+    }
+    const QByteArray bytes = m_socket->readAll();
+    m_received += bytes;
+    m_reader.add(bytes);
+    while (const std::optional<QString> payload = m_reader.take()) {
+        if (*payload != QLatin1String("alive")) {
+            m_payloads.append(*payload);
+        }
     }
 }
 
@@ -171,26 +174,12 @@ QByteArray FakeHost::receivedBytes()
 QStringList FakeHost::payloads()
 {
     readPending();
-    QStringList result;
-    int cursor = 0;
-    while (m_received.size() - cursor >= 11) {
-        const int length = m_received.mid(cursor + 1, 8).toInt(nullptr, 16);
-        if (m_received.at(cursor) != '1' || m_received.size() - cursor < length + 11) {
-            break;
-        }
-        const QString payload = QString::fromUtf8(m_received.mid(cursor + 10, length));
-        if (payload != QLatin1String("alive")) {
-            result.append(payload);
-        }
-        cursor += length + 11;
-    }
-    return result;
+    return m_payloads;
 }
 
 int FakeHost::aliveCount()
 {
-    return receivedBytes().count("100000005\x02"
-                                 "alive");
+    return receivedBytes().count(Frames::ofCompanion("alive"));
 }
 
 bool FakeHost::waitForPayloads(int count)

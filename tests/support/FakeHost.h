@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Frames.h"
+
 #include <QByteArray>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -53,8 +55,6 @@ public:
     [[nodiscard]] qint64 mostMemory() const;
     [[nodiscard]] QString settingsFolder() const { return m_folder.path(); }
 
-    /// A frame around a payload.
-    static QByteArray frame(const QByteArray &payload, char separator = '\x02');
     /// Fields joined to a command.
     static QByteArray command(const QStringList &fields);
 
@@ -63,7 +63,7 @@ public:
     /// The same, and waits until it has taken them all. False when the limit is over or the link is down.
     bool writeAll(const QByteArray &bytes);
     /// Writes one command in a frame of its own.
-    void send(const QStringList &fields) { write(frame(command(fields))); }
+    void send(const QStringList &fields) { write(Frames::ofHost(command(fields))); }
 
     /// Payloads received so far, "alive" left out; and how many "alive" there were.
     [[nodiscard]] QStringList payloads();
@@ -109,6 +109,8 @@ private:
     QLocalSocket *m_socket = nullptr;
     QProcess m_process;
     QByteArray m_received;
+    Frames::PayloadReader m_reader;
+    QStringList m_payloads;
     QByteArray m_log;
     int m_syncCount = 0;
     int m_answered = 0;

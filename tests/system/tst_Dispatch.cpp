@@ -1,4 +1,5 @@
 #include "FakeHost.h"
+#include "PatchBytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -192,7 +193,7 @@ void tst_Dispatch::ignoresASecondShowWithinTenTicks()
     QVERIFY(host.start());
     host.send({QStringLiteral("fromServer"), QStringLiteral("en_US")});
     // In one piece, so that no ticks lie between.
-    host.write(FakeHost::frame("start\x02state\x01hide\x02state\x01show\x02state\x01show"));
+    host.write(Frames::ofHost("start\x02state\x01hide\x02state\x01show\x02state\x01show"));
     QVERIFY(host.waitForLog(QStringLiteral("TutorialManager::timerEvent 460 m_logHideIgnoreTimeout now 0")));
     QCOMPARE(host.log().count(QStringLiteral("m_logHideIgnoreTimeout set to 10")), 1);
     QCOMPARE(host.log().count(QStringLiteral("TutorialManager::timerEvent 427")), 1);
@@ -266,17 +267,15 @@ void tst_Dispatch::answersWithThePresetDataBesideTheProgram()
     const QString program = folder.filePath(QStringLiteral("Tutorial"));
     QVERIFY(QFile::copy(host.process().program(), program));
     host.process().setProgram(program);
-    const auto addPatch = [&folder](const QString &step, const QByteArray &operations, char size) {
+    const auto addPatch = [&folder](const QString &step, const QByteArray &patch) {
         const QString data = folder.filePath(QStringLiteral("resource/patch/%1/data").arg(step));
         QFile file(data + QStringLiteral("/Actors.json-patch"));
-        return QDir().mkpath(data) && file.open(QIODevice::WriteOnly) &&
-               file.write(QByteArray(1, size) + QByteArray(3, '\0') + operations) == 4 + operations.size();
+        return QDir().mkpath(data) && file.open(QIODevice::WriteOnly) && file.write(patch) == patch.size();
     };
     const QByteArray text = QStringLiteral("[ {\"name\":\"\u52c7\u8005\"} ]\n").toUtf8();
-    const char size = char(text.size());
-    QVERIFY(addPatch(QStringLiteral("step1"), QByteArray(1, '\0') + char(size - 1) + text, size));
-    QVERIFY(addPatch(QStringLiteral("step2"), QByteArray::fromHex("ff0000") + char(size - 1), size));
-    QVERIFY(addPatch(QStringLiteral("step10"), QByteArray::fromHex("02"), size));
+    QVERIFY(addPatch(QStringLiteral("step1"), PatchBytes::insertion(text)));
+    QVERIFY(addPatch(QStringLiteral("step2"), PatchBytes::copy(text.size())));
+    QVERIFY(addPatch(QStringLiteral("step10"), PatchBytes::header(quint32(text.size())) + '\x02'));
 
     QVERIFY(host.start());
     host.send({QStringLiteral("requestPresetData"), QStringLiteral("step10")});
@@ -286,9 +285,7 @@ void tst_Dispatch::answersWithThePresetDataBesideTheProgram()
     const QString reply = QStringLiteral("feedbackPresetData\x01{\"data/Actors.json\":"
                                          "\"[{\\\"name\\\":\\\"\u52c7\u8005\\\"}]\"}");
     QCOMPARE(host.payloads(), QStringList{reply});
-    const QByteArray payload = reply.toUtf8();
-    QVERIFY(host.receivedBytes().contains(
-        '1' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + '\x02' + payload + '\0'));
+    QVERIFY(host.receivedBytes().contains(Frames::ofCompanion(reply.toUtf8())));
     const QString log = host.log();
     QVERIFY2(log.contains(QStringLiteral("(\"requestPresetData\", \"step2\")")), qPrintable(log));
     QVERIFY2(log.contains(QStringLiteral("StringPatch::ApplyStringPatch 284 Invalid tag 2")),

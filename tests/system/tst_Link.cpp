@@ -68,7 +68,7 @@ void tst_Link::runsTheCommandsOfOnePayloadInOrder()
 {
     FakeHost host;
     QVERIFY(host.start());
-    host.write(FakeHost::frame("tutorialList\x02\x02unknown\x02tutorial\x01TutorialStep1\x02tutorialList"));
+    host.write(Frames::ofHost("tutorialList\x02\x02unknown\x02tutorial\x01TutorialStep1\x02tutorialList"));
     QVERIFY(host.waitForPayloads(3));
     const QStringList payloads = host.payloads();
     QVERIFY(payloads.at(0).startsWith(QStringLiteral("tutorialList\x01")));
@@ -80,8 +80,8 @@ void tst_Link::runsTwoFramesOfOneReadInOrder()
 {
     FakeHost host;
     QVERIFY(host.start());
-    host.write(FakeHost::frame("tutorial\x01TutorialStep1") + FakeHost::frame("") +
-               FakeHost::frame("tutorialList"));
+    host.write(Frames::ofHost("tutorial\x01TutorialStep1") + Frames::ofHost("") +
+               Frames::ofHost("tutorialList"));
     QVERIFY(host.waitForPayloads(2));
     QVERIFY(host.payloads().at(0).startsWith(QStringLiteral("start\x01")));
     QVERIFY(host.payloads().at(1).startsWith(QStringLiteral("tutorialList\x01")));
@@ -120,17 +120,16 @@ void tst_Link::countsBytesInTheLengthOfAnAnswer()
     const QString list = host.payloads().at(0);
     const QByteArray utf8 = list.toUtf8();
     QVERIFY(utf8.size() > list.size());
-    const QByteArray header = '1' + QByteArray::number(utf8.size(), 16).rightJustified(8, '0') + '\x02';
-    QVERIFY(host.receivedBytes().contains(header + utf8 + '\0'));
+    QVERIFY(host.receivedBytes().contains(Frames::ofCompanion(utf8)));
 }
 
 void tst_Link::dropsWhatStandsBehindByeAndStays()
 {
     FakeHost host;
     QVERIFY(host.start());
-    host.write(FakeHost::frame("tutorialList\x02"
-                               "bye\x01now\x02tutorialList") +
-               FakeHost::frame("tutorialList"));
+    host.write(Frames::ofHost("tutorialList\x02"
+                              "bye\x01now\x02tutorialList") +
+               Frames::ofHost("tutorialList"));
     // What follows must not come with the same read.
     QVERIFY(host.waitForPayloads(1));
     QVERIFY(host.syncBothWays());
@@ -145,7 +144,7 @@ void tst_Link::keepsReportingAnInvalidHeader()
     const QString warning = QStringLiteral("TutorialManager::onReadyRead 396 Invalid header");
     host.write("Xnonsense");
     QVERIFY(host.waitForLog(warning + QStringLiteral(" \"Xnonsense\"")));
-    host.write(FakeHost::frame("tutorialList"));
+    host.write(Frames::ofHost("tutorialList"));
     QVERIFY(FakeHost::waitFor([&] { return host.log().count(warning) == 2; }));
     QVERIFY(host.payloads().isEmpty());
     QCOMPARE(host.process().state(), QProcess::Running);
@@ -253,7 +252,7 @@ void tst_Link::survivesEveryFieldInEveryPlace()
     const QByteArrayList fields = hostileFields();
     for (const QByteArray &word : words) {
         for (const QByteArray &field : fields) {
-            host.write(FakeHost::frame(word + ('\x01' + field).repeated(9)));
+            host.write(Frames::ofHost(word + ('\x01' + field).repeated(9)));
         }
         QVERIFY2(host.sync(), word.constData());
     }
@@ -303,7 +302,7 @@ void tst_Link::survivesHostileCommands()
             for (int field = 0; field < count; ++field) {
                 command += '\x01' + fields.at(random.bounded(fields.size()));
             }
-            host.write(FakeHost::frame(command));
+            host.write(Frames::ofHost(command));
         }
         QVERIFY(host.sync());
         host.disconnectLink();

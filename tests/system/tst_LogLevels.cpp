@@ -52,7 +52,7 @@ void tst_LogLevels::ofTheLinkAndItsCommands()
     showLevels(host);
     QVERIFY(host.start());
     const auto send = [&host](const char *command) {
-        host.write(FakeHost::frame(QByteArray(command).replace(' ', '\x01')));
+        host.write(Frames::ofHost(QByteArray(command).replace(' ', '\x01')));
     };
     send("fromServer ja_JP");
     send("start 0 0 800 600");

@@ -31,8 +31,8 @@ void tst_LongFrame::deliversAPayloadOf256MiB()
     FakeHost host;
     QVERIFY(host.start());
     // Its last command is answered, and so is the frame behind it.
-    QVERIFY(host.writeAll(FakeHost::frame(filled("contents\x01", 'x', '\x02' + kAsk, kMostPayload))));
-    host.write(FakeHost::frame(kAsk));
+    QVERIFY(host.writeAll(Frames::ofHost(filled("contents\x01", 'x', '\x02' + kAsk, kMostPayload))));
+    host.write(Frames::ofHost(kAsk));
     QVERIFY(host.waitForPayloads(2));
     QVERIFY(!host.log().contains(QStringLiteral("TutorialManager::onReadyRead")));
 }
@@ -49,8 +49,8 @@ void tst_LongFrame::passesOverALongerOne()
     QVERIFY(host.sync());
     const qint64 before = host.mostMemory();
     QVERIFY(before > 0);
-    QVERIFY(host.writeAll(FakeHost::frame(filled("contents\x01", '\0', '\x02' + kAsk, kMostPayload + 1))));
-    host.write(FakeHost::frame(kAsk));
+    QVERIFY(host.writeAll(Frames::ofHost(filled("contents\x01", '\0', '\x02' + kAsk, kMostPayload + 1))));
+    host.write(Frames::ofHost(kAsk));
     QVERIFY(host.waitForPayloads(1));
     QVERIFY(host.syncBothWays());
     QCOMPARE(host.payloads().size(), 1);
@@ -67,8 +67,8 @@ void tst_LongFrame::survivesACommandOfSeparators()
     // A list of Qt has no room for so many fields.
     FakeHost host;
     QVERIFY(host.start());
-    QVERIFY(host.writeAll(FakeHost::frame(filled("contents", '\x01', {}, kMostPayload))));
-    host.write(FakeHost::frame(kAsk));
+    QVERIFY(host.writeAll(Frames::ofHost(filled("contents", '\x01', {}, kMostPayload))));
+    host.write(Frames::ofHost(kAsk));
     QVERIFY(host.waitForPayloads(1));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../playback/OverlayWindows.h"
+#include "Frames.h"
 #include "Tutorial/TutorialManager.h"
 
 #include <QApplication>
@@ -62,15 +63,10 @@ public:
 private:
     bool takePayload(QString *payload)
     {
-        m_bytes += m_socket->readAll();
-        while (m_bytes.size() >= 11) {
-            const int length = m_bytes.mid(1, 8).toInt(nullptr, 16);
-            if (m_bytes.size() < length + 11) {
-                return false;
-            }
-            *payload = QString::fromUtf8(m_bytes.mid(10, length));
-            m_bytes.remove(0, length + 11);
-            if (*payload != QLatin1String("alive")) {
+        m_reader.add(m_socket->readAll());
+        while (const std::optional<QString> next = m_reader.take()) {
+            if (*next != QLatin1String("alive")) {
+                *payload = *next;
                 return true;
             }
         }
@@ -79,7 +75,7 @@ private:
 
     QLocalServer m_server;
     QLocalSocket *m_socket = nullptr;
-    QByteArray m_bytes;
+    Frames::PayloadReader m_reader;
 };
 
 /// Runs a test class in an application whose first argument is a key that no other test uses, with settings

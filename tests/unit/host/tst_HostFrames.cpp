@@ -1,20 +1,9 @@
+#include "Frames.h"
 #include "host/CompanionFrameReader.h"
 #include "host/HostFrame.h"
 
 #include <QRandomGenerator>
 #include <QTest>
-
-namespace {
-
-QByteArray companionFrame(const QByteArray &payload)
-{
-    QByteArray frame("1");
-    frame += QByteArray::number(payload.size(), 16).rightJustified(8, '0');
-    frame += '\x02' + payload + '\0';
-    return frame;
-}
-
-} // namespace
 
 class tst_HostFrames : public QObject
 {
@@ -55,7 +44,8 @@ void tst_HostFrames::buildsHostFrames()
 
 void tst_HostFrames::readsFramesSplitAnywhere()
 {
-    const QByteArray bytes = companionFrame("alive") + companionFrame("start\x01[\xE5\x9C\xB0]\x01-1");
+    const QByteArray bytes =
+        Frames::ofCompanion("alive") + Frames::ofCompanion("start\x01[\xE5\x9C\xB0]\x01-1");
     const QStringList expected{QStringLiteral("alive"), QStringLiteral("start\u0001[\u5730]\u0001-1")};
     for (int cut = 0; cut <= bytes.size(); ++cut) {
         CompanionFrameReader reader;
@@ -70,7 +60,7 @@ void tst_HostFrames::readsFramesByteByByte()
 {
     CompanionFrameReader reader;
     QStringList commands;
-    const QByteArray bytes = companionFrame("next") + companionFrame("yes");
+    const QByteArray bytes = Frames::ofCompanion("next") + Frames::ofCompanion("yes");
     for (const char byte : bytes) {
         const CompanionFrameReader::Result result = reader.read(QByteArray(1, byte));
         QCOMPARE(result.problems, QStringList());
@@ -82,7 +72,7 @@ void tst_HostFrames::readsFramesByteByByte()
 void tst_HostFrames::readsManyFramesAtOnce()
 {
     CompanionFrameReader reader;
-    const QByteArray one = companionFrame("alive");
+    const QByteArray one = Frames::ofCompanion("alive");
     QCOMPARE(reader.read(one.repeated(1000) + one.left(5)).commands.size(), 1000);
     QCOMPARE(reader.read(one.mid(5)).commands.size(), 1);
 }
@@ -90,7 +80,7 @@ void tst_HostFrames::readsManyFramesAtOnce()
 void tst_HostFrames::readsAnEmptyFrame()
 {
     CompanionFrameReader reader;
-    QCOMPARE(reader.read(companionFrame(QByteArray())).commands, QStringList{QString()});
+    QCOMPARE(reader.read(Frames::ofCompanion(QByteArray())).commands, QStringList{QString()});
 }
 
 void tst_HostFrames::recoversBehindTheNextZeroByte_data()
@@ -113,7 +103,7 @@ void tst_HostFrames::recoversBehindTheNextZeroByte_data()
 void tst_HostFrames::recoversBehindTheNextZeroByte()
 {
     QFETCH(QByteArray, bad);
-    const QByteArray bytes = bad + companionFrame("next");
+    const QByteArray bytes = bad + Frames::ofCompanion("next");
     for (int cut = 0; cut <= bytes.size(); ++cut) {
         CompanionFrameReader reader;
         const CompanionFrameReader::Result first = reader.read(bytes.left(cut));
@@ -138,7 +128,7 @@ void tst_HostFrames::standsAnyBytes()
     }
     // Whatever state that left: enough zero bytes end it, and the next frame is read.
     reader.read(QByteArray(4096, '\0'));
-    QCOMPARE(reader.read(companionFrame("next")).commands, QStringList{QStringLiteral("next")});
+    QCOMPARE(reader.read(Frames::ofCompanion("next")).commands, QStringList{QStringLiteral("next")});
 }
 
 QTEST_APPLESS_MAIN(tst_HostFrames)

@@ -1,3 +1,4 @@
+#include "Frames.h"
 #include "host/HostCommands.h"
 #include "host/HostLink.h"
 
@@ -12,11 +13,6 @@
 namespace {
 
 constexpr int kSoonMs = 30000;
-
-QByteArray frame(const QByteArray &payload)
-{
-    return "1" + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + '\x02' + payload + '\0';
-}
 
 } // namespace
 
@@ -96,7 +92,7 @@ void tst_HostLink::passesCommandsBothWays()
     start("exec sleep 60");
     connectCompanion();
     QSignalSpy received(m_link, &HostLink::received);
-    m_companion->write(frame("next") + frame("start\x01x\x01-1"));
+    m_companion->write(Frames::ofCompanion("next") + Frames::ofCompanion("start\x01x\x01-1"));
     QTRY_COMPARE(received.size(), 2);
     QCOMPARE(received.at(1).constFirst().toString(), QStringLiteral("start\u0001x\u0001-1"));
     m_link->send(HostCommands::windowPop());
@@ -113,7 +109,8 @@ void tst_HostLink::keepsTheCompanionAliveWhateverItSends()
     connectCompanion();
     QSignalSpy received(m_link, &HostLink::received);
     // Behind the beginning of an answer no other frame comes through.
-    m_companion->write(frame("alive") + frame("feedbackPresetData\x01{}").left(20));
+    m_companion->write(Frames::ofCompanion("alive") +
+                       Frames::ofCompanion("feedbackPresetData\x01{}").left(20));
     QTRY_COMPARE_WITH_TIMEOUT(m_companion->bytesAvailable(), alive.size(), kSoonMs);
     QCOMPARE(m_companion->readAll(), alive);
     QVERIFY(received.isEmpty());
@@ -126,7 +123,7 @@ void tst_HostLink::noticesSilence()
     QSignalSpy silence(m_link, &HostLink::silenceChanged);
     QVERIFY(silence.wait(HostLink::kSilenceMs + kSoonMs));
     QCOMPARE(silence.constFirst().constFirst().toBool(), true);
-    m_companion->write(frame("alive"));
+    m_companion->write(Frames::ofCompanion("alive"));
     QVERIFY(silence.wait(kSoonMs));
     QCOMPARE(silence.constLast().constFirst().toBool(), false);
 }

@@ -1,15 +1,11 @@
 #pragma once
 
+#include "Frames.h"
 #include "Tutorial/link/FrameReader.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-
-inline QByteArray frame(const QByteArray &payload, char separator = '\x02')
-{
-    return '0' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + separator + payload + '\0';
-}
 
 /// Writes down what the reader hands over, in order.
 class Recorder final : public FrameReader::Sink

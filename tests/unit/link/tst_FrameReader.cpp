@@ -43,18 +43,18 @@ void tst_FrameReader::handsOverTheCommandsOfOneRead_data()
     };
     const QString a = QStringLiteral("a");
     const QString b = QStringLiteral("b");
-    row("one frame", frame("a"), {a});
-    row("two frames in order", frame("a") + frame("b"), {a, b});
+    row("one frame", Frames::ofHost("a"), {a});
+    row("two frames in order", Frames::ofHost("a") + Frames::ofHost("b"), {a, b});
     row("two commands in one payload",
-        frame("a\x02"
-              "b"),
+        Frames::ofHost("a\x02"
+                       "b"),
         {a, b});
     row("an empty part is an empty command",
-        frame("a\x02\x02"
-              "b"),
+        Frames::ofHost("a\x02\x02"
+                       "b"),
         {a, QString(), b});
-    row("an empty part at the end", frame("a\x02"), {a, QString()});
-    row("length 0 holds no command", frame("") + frame("b"), {b});
+    row("an empty part at the end", Frames::ofHost("a\x02"), {a, QString()});
+    row("length 0 holds no command", Frames::ofHost("") + Frames::ofHost("b"), {b});
     row("upper case digits",
         "0"
         "0000000A"
@@ -62,7 +62,7 @@ void tst_FrameReader::handsOverTheCommandsOfOneRead_data()
         "0123456789" +
             bytes("\0", 1),
         {QStringLiteral("0123456789")});
-    row("non-ASCII", frame("\xe6\xac\xa1"), {QStringLiteral("次")});
+    row("non-ASCII", Frames::ofHost("\xe6\xac\xa1"), {QStringLiteral("次")});
     row("an inner zero byte ends the text, and the next frame is looked for behind it",
         "0"
         "00000003"
@@ -80,9 +80,10 @@ void tst_FrameReader::handsOverTheCommandsOfOneRead_data()
         "00000001"
         "\x02"
         "abc" +
-            bytes("\0", 1) + frame("b"),
+            bytes("\0", 1) + Frames::ofHost("b"),
         {QStringLiteral("abc"), b});
-    row("a zero byte as separator ends the frame in its header", frame("0", '\0'), {QStringLiteral("0")});
+    row("a zero byte as separator ends the frame in its header", Frames::ofHost("0", '\0'),
+        {QStringLiteral("0")});
 }
 
 void tst_FrameReader::handsOverTheCommandsOfOneRead()
@@ -97,11 +98,11 @@ void tst_FrameReader::handsOverTheCommandsOfOneRead()
 
 void tst_FrameReader::reassemblesAStreamThatIsSplitAtEveryByte()
 {
-    const QByteArray stream = frame("start\x01"
-                                    "1") +
-                              frame("stop\x02"
-                                    "contents") +
-                              frame("") + frame("\xc3\xa9");
+    const QByteArray stream = Frames::ofHost("start\x01"
+                                             "1") +
+                              Frames::ofHost("stop\x02"
+                                             "contents") +
+                              Frames::ofHost("") + Frames::ofHost("\xc3\xa9");
     const QStringList expected = {QStringLiteral("start\x01"
                                                  "1"),
                                   QStringLiteral("stop"), QStringLiteral("contents"), QStringLiteral("é")};
@@ -116,8 +117,8 @@ void tst_FrameReader::reassemblesAStreamThatIsSplitAtEveryByte()
 
 void tst_FrameReader::joinsSingleBytes()
 {
-    const QByteArray stream = frame("a") + frame("b\x02"
-                                                 "c");
+    const QByteArray stream = Frames::ofHost("a") + Frames::ofHost("b\x02"
+                                                                   "c");
     FrameReader reader;
     Recorder recorder;
     for (const char byte : stream) {
@@ -128,7 +129,7 @@ void tst_FrameReader::joinsSingleBytes()
 
 void tst_FrameReader::waitsForTheWholeFrameWithoutParsing()
 {
-    const QByteArray whole = frame(QByteArray(100, 'x'));
+    const QByteArray whole = Frames::ofHost(QByteArray(100, 'x'));
     FrameReader reader;
     Recorder recorder;
     reader.read(whole.left(12), recorder);
@@ -143,7 +144,7 @@ void tst_FrameReader::takesAnySeparatorByte()
     for (int separator = 1; separator < 256; ++separator) {
         FrameReader reader;
         Recorder recorder;
-        reader.read(frame("a", char(separator)), recorder);
+        reader.read(Frames::ofHost("a", char(separator)), recorder);
         QCOMPARE(recorder.events, QStringList{QStringLiteral("a")});
     }
 }
@@ -152,13 +153,13 @@ void tst_FrameReader::dropsWhatCameWithACommandThatEndsTheRead()
 {
     FrameReader reader;
     Recorder recorder;
-    reader.read(frame("a\x02"
-                      "bye\x02"
-                      "b") +
-                    frame("c") + "0000",
+    reader.read(Frames::ofHost("a\x02"
+                               "bye\x02"
+                               "b") +
+                    Frames::ofHost("c") + "0000",
                 recorder);
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("bye")}));
-    reader.read(frame("d"), recorder);
+    reader.read(Frames::ofHost("d"), recorder);
     QCOMPARE(recorder.events.last(), QStringLiteral("d"));
 }
 
@@ -166,12 +167,12 @@ void tst_FrameReader::keepsAnInvalidHeaderAndReportsItAtEveryRead()
 {
     FrameReader reader;
     Recorder recorder;
-    reader.read(frame("a") + "X0000001\x02 and more", recorder);
+    reader.read(Frames::ofHost("a") + "X0000001\x02 and more", recorder);
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("<invalid header>")}));
     QCOMPARE(recorder.problemBytes, QByteArray("X0000001\x02 and more"));
-    reader.read(frame("b"), recorder);
+    reader.read(Frames::ofHost("b"), recorder);
     QCOMPARE(recorder.events.last(), QStringLiteral("<invalid header>"));
-    QCOMPARE(recorder.problemBytes, "X0000001\x02 and more" + frame("b"));
+    QCOMPARE(recorder.problemBytes, "X0000001\x02 and more" + Frames::ofHost("b"));
     QCOMPARE(recorder.events.size(), 3);
 }
 
@@ -204,10 +205,10 @@ void tst_FrameReader::losesTheReadAtAnInvalidSize()
                            "\x02"
                            "a" +
                            bytes("\0", 1);
-    reader.read(frame("a") + bad + frame("b"), recorder);
+    reader.read(Frames::ofHost("a") + bad + Frames::ofHost("b"), recorder);
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("a"), QStringLiteral("<invalid size>")}));
-    QCOMPARE(recorder.problemBytes, bad + frame("b"));
-    reader.read(frame("c"), recorder);
+    QCOMPARE(recorder.problemBytes, bad + Frames::ofHost("b"));
+    reader.read(Frames::ofHost("c"), recorder);
     QCOMPARE(recorder.events.last(), QStringLiteral("c"));
 }
 
@@ -244,7 +245,7 @@ void tst_FrameReader::deliversTheTextBeforeItMissesTheTerminator()
     reader.read(data, recorder);
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("abc"), QStringLiteral("<no terminator>")}));
     QCOMPARE(recorder.problemBytes, data);
-    reader.read(frame("d"), recorder);
+    reader.read(Frames::ofHost("d"), recorder);
     QCOMPARE(recorder.events.last(), QStringLiteral("d"));
 }
 

@@ -30,11 +30,6 @@ QString written(const Value &value)
     return text;
 }
 
-QByteArray outbound(const QByteArray &payload)
-{
-    return '1' + QByteArray::number(payload.size(), 16).rightJustified(8, '0') + '\x02' + payload + '\0';
-}
-
 } // namespace
 
 /// The companion's end of a real socket, without a companion.
@@ -132,9 +127,9 @@ QByteArray tst_HostConnection::sentBytes(int size)
 
 void tst_HostConnection::joinsTwoReadsSplitAtAnyByte()
 {
-    const QByteArray whole = frame("one\x02"
-                                   "two") +
-                             frame("three");
+    const QByteArray whole = Frames::ofHost("one\x02"
+                                            "two") +
+                             Frames::ofHost("three");
     for (int split = 1; split < whole.size(); ++split) {
         m_received->clear();
         QVERIFY(inOneRead(whole.left(split)));
@@ -148,7 +143,7 @@ void tst_HostConnection::joinsTwoReadsSplitAtAnyByte()
 
 void tst_HostConnection::joinsReadsOfSingleBytes()
 {
-    const QByteArray whole = frame("one");
+    const QByteArray whole = Frames::ofHost("one");
     for (const char byte : whole) {
         QCOMPARE(m_received->size(), 0);
         QVERIFY(inOneRead(QByteArray(1, byte)));
@@ -159,13 +154,13 @@ void tst_HostConnection::joinsReadsOfSingleBytes()
 void tst_HostConnection::dropsWhatStandsBehindByeInTheSameRead()
 {
     const QSignalSpy bye(m_connection.get(), &HostConnection::bye);
-    QVERIFY(inOneRead(frame("one\x02"
-                            "bye\x01now\x02two") +
-                      frame("three")));
+    QVERIFY(inOneRead(Frames::ofHost("one\x02"
+                                     "bye\x01now\x02two") +
+                      Frames::ofHost("three")));
     QCOMPARE(m_received->size(), 1);
     QCOMPARE(m_received->at(0).at(0).toString(), QStringLiteral("one"));
     QCOMPARE(bye.size(), 1);
-    QVERIFY(inOneRead(frame("four")));
+    QVERIFY(inOneRead(Frames::ofHost("four")));
     QCOMPARE(m_received->size(), 2);
     QCOMPARE(m_received->at(1).at(0).toString(), QStringLiteral("four"));
     QCOMPARE(bye.size(), 1);
@@ -177,7 +172,7 @@ void tst_HostConnection::warnsWithAllTheBytes_data()
     QTest::addColumn<QByteArray>("read");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QByteArray>("bytes");
-    const QByteArray good = frame("one");
+    const QByteArray good = Frames::ofHost("one");
     const QByteArray unterminated = "000000003\x02"
                                     "abc\x01\x80\"\\d";
     QTest::newRow("no terminator") << good + unterminated << QStringLiteral("390 Terminator not found")
@@ -210,10 +205,10 @@ void tst_HostConnection::repeatsAnInvalidHeaderWithEachRead()
 {
     LogCapture log;
     QVERIFY(inOneRead("Xnonsense"));
-    QVERIFY(inOneRead(frame("one")));
+    QVERIFY(inOneRead(Frames::ofHost("one")));
     const QString warning = kSource + QStringLiteral("onReadyRead 396 Invalid header ");
     QCOMPARE(log.warnings(), (QStringList{warning + written(QByteArray("Xnonsense")),
-                                          warning + written("Xnonsense" + frame("one"))}));
+                                          warning + written("Xnonsense" + Frames::ofHost("one"))}));
     QCOMPARE(m_received->size(), 0);
 }
 
@@ -242,7 +237,7 @@ void tst_HostConnection::dropsWhatIsSentBeforeTheLinkIsUp()
     connection.send(QStringLiteral("late"));
     QCOMPARE(log.debugs(), QStringList{kSource + QStringLiteral("send 1396 \"late\" ") + written(socket) +
                                        QStringLiteral(" true")});
-    QCOMPARE(sentBytes(15), outbound("late"));
+    QCOMPARE(sentBytes(15), Frames::ofCompanion("late"));
 }
 
 void tst_HostConnection::logs128CharactersAndSendsAll_data()
@@ -269,7 +264,7 @@ void tst_HostConnection::logs128CharactersAndSendsAll()
     m_connection->send(text);
     QCOMPARE(log.debugs(), QStringList{kSource + QStringLiteral("send 1396 ") + written(logged) +
                                        QLatin1Char(' ') + written(socket()) + QStringLiteral(" true")});
-    const QByteArray expected = outbound(text.toUtf8());
+    const QByteArray expected = Frames::ofCompanion(text.toUtf8());
     QCOMPARE(sentBytes(expected.size()), expected);
 }
 
@@ -277,9 +272,9 @@ void tst_HostConnection::answersFromInsideARead()
 {
     connect(m_connection.get(), &HostConnection::received, m_connection.get(),
             [this](const QString &text) { m_connection->send(QStringLiteral("re ") + text); });
-    QVERIFY(inOneRead(frame("one\x02\x02two") + frame("") + frame("three")));
-    const QByteArray expected =
-        outbound("re one") + outbound("re ") + outbound("re two") + outbound("re three");
+    QVERIFY(inOneRead(Frames::ofHost("one\x02\x02two") + Frames::ofHost("") + Frames::ofHost("three")));
+    const QByteArray expected = Frames::ofCompanion("re one") + Frames::ofCompanion("re ") +
+                                Frames::ofCompanion("re two") + Frames::ofCompanion("re three");
     QCOMPARE(sentBytes(expected.size()), expected);
 }
 
@@ -352,9 +347,9 @@ void tst_HostConnection::saysAliveAtEveryTenthTick()
     tick(9);
     QCOMPARE(socket()->bytesToWrite() + m_host->bytesAvailable(), 0);
     tick(1);
-    QCOMPARE(sentBytes(16), outbound("alive"));
+    QCOMPARE(sentBytes(16), Frames::ofCompanion("alive"));
     tick(20);
-    QCOMPARE(sentBytes(32), outbound("alive") + outbound("alive"));
+    QCOMPARE(sentBytes(32), Frames::ofCompanion("alive") + Frames::ofCompanion("alive"));
 }
 
 void tst_HostConnection::endsAtThe300thSilentTick_data()
@@ -363,7 +358,7 @@ void tst_HostConnection::endsAtThe300thSilentTick_data()
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("behind");
     QTest::newRow("silence") << QByteArray() << 0 << 300;
-    QTest::newRow("a command in time") << frame("contents") << 299 << 300;
+    QTest::newRow("a command in time") << Frames::ofHost("contents") << 299 << 300;
     QTest::newRow("half a frame") << QByteArray("0000") << 299 << 300;
     QTest::newRow("no frame at all") << QByteArray("?") << 150 << 300;
 }

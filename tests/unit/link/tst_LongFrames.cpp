@@ -28,7 +28,7 @@ void tst_LongFrames::deliversTheLongestPayload()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
-    const QByteArray longest = frame(QByteArray(kMostPayload, 'x'));
+    const QByteArray longest = Frames::ofHost(QByteArray(kMostPayload, 'x'));
     for (const char byte : longest) {
         reader.read(QByteArray(1, byte), recorder);
     }
@@ -43,18 +43,18 @@ void tst_LongFrames::throwsExactlyAFrameThatIsTooLongAway_data()
     // Neither a zero byte nor what looks like a frame ends it early.
     QTest::newRow("one byte too long") << QByteArray(kMostPayload + 1, 'x');
     QTest::newRow("zero bytes") << QByteArray(3 * kMostPayload, '\0');
-    QTest::newRow("frames") << frame("inner").repeated(5);
+    QTest::newRow("frames") << Frames::ofHost("inner").repeated(5);
 }
 
 void tst_LongFrames::throwsExactlyAFrameThatIsTooLongAway()
 {
     QFETCH(QByteArray, payload);
-    const QByteArray before = frame("a");
-    const QByteArray tooLong = frame(payload);
+    const QByteArray before = Frames::ofHost("a");
+    const QByteArray tooLong = Frames::ofHost(payload);
     const QByteArray stream = before + tooLong +
-                              frame("b\x02"
-                                    "c") +
-                              tooLong + frame("d");
+                              Frames::ofHost("b\x02"
+                                             "c") +
+                              tooLong + Frames::ofHost("d");
     const QStringList events = {QStringLiteral("a"), QStringLiteral("<invalid size>"), QStringLiteral("b"),
                                 QStringLiteral("c"), QStringLiteral("<invalid size>"), QStringLiteral("d")};
     for (int split = 0; split <= stream.size(); ++split) {
@@ -76,7 +76,8 @@ void tst_LongFrames::reportsAFrameThatIsTooLongWithItsHeader()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
-    reader.read(frame("a") + frame(QByteArray(100, 'x'), '!') + frame("b"), recorder);
+    reader.read(Frames::ofHost("a") + Frames::ofHost(QByteArray(100, 'x'), '!') + Frames::ofHost("b"),
+                recorder);
     QCOMPARE(recorder.problemBytes, QByteArray("000000064!"));
     // All that there is of it when its length has come.
     reader.read("07fffffff", recorder);
@@ -95,7 +96,7 @@ void tst_LongFrames::throwsMoreBytesAwayThanANumberOf32BitsCounts()
     for (qint64 sent = 0; sent < kUnwanted; sent += piece.size()) {
         reader.read(piece, recorder);
     }
-    reader.read(frame("b"), recorder);
+    reader.read(Frames::ofHost("b"), recorder);
     QCOMPARE(recorder.events, (QStringList{QStringLiteral("<invalid size>"), QStringLiteral("b")}));
 }
 
@@ -103,10 +104,10 @@ void tst_LongFrames::goesOnBehindAFrameThatIsTooLongAsAtTheStart()
 {
     FrameReader reader(kMostPayload);
     Recorder recorder;
-    const QByteArray tooLong = frame(QByteArray(kMostPayload + 1, 'x'));
+    const QByteArray tooLong = Frames::ofHost(QByteArray(kMostPayload + 1, 'x'));
     reader.read(tooLong, recorder);
     reader.read("0", recorder);
-    reader.read(frame("b").mid(1), recorder);
+    reader.read(Frames::ofHost("b").mid(1), recorder);
     reader.read(tooLong + "X and more", recorder);
     QCOMPARE(recorder.events,
              (QStringList{QStringLiteral("<invalid size>"), QStringLiteral("b"),
@@ -133,7 +134,7 @@ void tst_LongFrames::takesTimeInProportionToWhatComes()
 {
     // Were all of them copied with each of these reads, this would take some minutes.
     const QByteArray payload(1 << 21, 'x');
-    const QByteArray stream = frame(payload);
+    const QByteArray stream = Frames::ofHost(payload);
     FrameReader reader;
     Recorder recorder;
     for (const char byte : stream) {

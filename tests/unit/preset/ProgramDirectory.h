@@ -10,44 +10,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-inline void appendNumber(QByteArray &bytes, quint32 number, int width)
-{
-    for (int i = 0; i < width; ++i) {
-        bytes.append(char(number >> (8 * i) & 0xFF));
-    }
-}
-
-/// The header of a patch to a text of @p size bytes.
-inline QByteArray header(int size)
-{
-    QByteArray patch;
-    appendNumber(patch, quint32(size), 4);
-    return patch;
-}
-
-/// A patch to @p text that needs no base.
-inline QByteArray insertPatch(const QByteArray &text)
-{
-    QByteArray patch = header(text.size());
-    for (int i = 0; i < text.size(); i += 65536) {
-        const QByteArray piece = text.mid(i, 65536);
-        patch.append(char(1));
-        appendNumber(patch, quint32(piece.size() - 1), 2);
-        patch.append(piece);
-    }
-    return patch;
-}
-
-/// A patch to the first @p size bytes of the base, up to 65,536.
-inline QByteArray copyPatch(int size)
-{
-    QByteArray patch = header(size);
-    patch.append(char(254));
-    appendNumber(patch, 0, 2);
-    appendNumber(patch, quint32(size - 1), 2);
-    return patch;
-}
-
 inline QString translation(const QString &context, const QString &text)
 {
     return context + QLatin1Char(':') + text;

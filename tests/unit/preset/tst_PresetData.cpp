@@ -1,3 +1,4 @@
+#include "PatchBytes.h"
 #include "ProgramDirectory.h"
 #include "Unprivileged.h"
 
@@ -90,7 +91,7 @@ void tst_PresetData::badStepNames()
 {
     QFETCH(QString, name);
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch("[]"));
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), PatchBytes::insertion("[]"));
     LogCapture log;
     const QString reply = program.reply(name);
     QVERIFY(reply.isNull());
@@ -118,7 +119,7 @@ void tst_PresetData::missingStepIsReported()
     QFETCH(QString, name);
     QFETCH(QString, logged);
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch("[]"));
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), PatchBytes::insertion("[]"));
     LogCapture log;
     QVERIFY(program.reply(name).isNull());
     QCOMPARE(warningTexts(log),
@@ -130,7 +131,7 @@ void tst_PresetData::missingStepIsReported()
 void tst_PresetData::secondRootIsUsedWithoutTheFirst()
 {
     const ProgramDirectory program(QStringLiteral("tutorial-win/resource/patch"));
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), PatchBytes::insertion("[1]"));
     QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
              QStringLiteral("[1]"));
     LogCapture log;
@@ -142,7 +143,7 @@ void tst_PresetData::secondRootIsUsedWithoutTheFirst()
 void tst_PresetData::firstRootHidesTheSecond()
 {
     const ProgramDirectory program(QStringLiteral("tutorial-win/resource/patch"));
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), PatchBytes::insertion("[1]"));
     QVERIFY(QDir().mkpath(program.path() + QStringLiteral("/resource/patch")));
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
@@ -153,12 +154,12 @@ void tst_PresetData::chainIsReplayedUpToTheStep()
 {
     const ProgramDirectory program;
     const QString name = QStringLiteral("Other.json-patch");
-    program.addFile(step(1), name, insertPatch("[\"one\"]"));
-    QByteArray change = header(13); // ["one","two"], from the base and new bytes
+    program.addFile(step(1), name, PatchBytes::insertion("[\"one\"]"));
+    QByteArray change = PatchBytes::header(13); // ["one","two"], from the base and new bytes
     change += QByteArray::fromHex("ff000005");
     change += QByteArray::fromHex("0006") + ",\"two\"]";
     program.addFile(step(2), name, change);
-    program.addFile(step(10), name, copyPatch(13));
+    program.addFile(step(10), name, PatchBytes::copy(13));
     const QString key = QStringLiteral("data/Other.json");
     QCOMPARE(program.replyObject(step(1)).value(key).toString(), QStringLiteral("[\"one\"]"));
     QCOMPARE(program.replyObject(step(2)).value(key).toString(), QStringLiteral("[\"one\",\"two\"]"));
@@ -168,9 +169,9 @@ void tst_PresetData::chainIsReplayedUpToTheStep()
 void tst_PresetData::fileWithoutAPatchIsGone()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
-    program.addFile(step(1), QStringLiteral("B.json-patch"), insertPatch("[2]"));
-    program.addFile(step(2), QStringLiteral("B.json-patch"), copyPatch(3));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
+    program.addFile(step(1), QStringLiteral("B.json-patch"), PatchBytes::insertion("[2]"));
+    program.addFile(step(2), QStringLiteral("B.json-patch"), PatchBytes::copy(3));
     QCOMPARE(program.replyObject(step(1)).keys(),
              (QStringList{QStringLiteral("data/A.json"), QStringLiteral("data/B.json")}));
     QCOMPARE(program.replyObject(step(2)).keys(), QStringList{QStringLiteral("data/B.json")});
@@ -179,11 +180,12 @@ void tst_PresetData::fileWithoutAPatchIsGone()
 void tst_PresetData::fileOfALaterStepStartsFromNothing()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
-    program.addFile(step(2), QStringLiteral("A.json-patch"), copyPatch(3));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), PatchBytes::copy(3));
     // The copy reads from what this patch wrote: with a base in front it would read the base.
     program.addFile(step(2), QStringLiteral("B.json-patch"),
-                    header(6) + QByteArray::fromHex("0001") + "12" + QByteArray::fromHex("ff000003"));
+                    PatchBytes::header(6) + QByteArray::fromHex("0001") + "12" +
+                        QByteArray::fromHex("ff000003"));
     QCOMPARE(program.replyObject(step(2)).value(QStringLiteral("data/B.json")).toString(),
              QStringLiteral("121212"));
 }
@@ -192,10 +194,11 @@ void tst_PresetData::fileThatComesBackStartsFromNothing()
 {
     const ProgramDirectory program;
     const QString name = QStringLiteral("A.json-patch");
-    program.addFile(step(1), name, insertPatch("[7]"));
+    program.addFile(step(1), name, PatchBytes::insertion("[7]"));
     program.addStep(step(2));
     program.addFile(step(3), name,
-                    header(6) + QByteArray::fromHex("0001") + "12" + QByteArray::fromHex("ff000003"));
+                    PatchBytes::header(6) + QByteArray::fromHex("0001") + "12" +
+                        QByteArray::fromHex("ff000003"));
     QCOMPARE(program.replyObject(step(3)).value(QStringLiteral("data/A.json")).toString(),
              QStringLiteral("121212"));
 }
@@ -204,8 +207,8 @@ void tst_PresetData::laterStepsAreNotRead()
 {
     const ProgramDirectory program;
     const QString name = QStringLiteral("A.json-patch");
-    program.addFile(step(1), name, insertPatch("[1]"));
-    program.addFile(step(2), name, copyPatch(3));
+    program.addFile(step(1), name, PatchBytes::insertion("[1]"));
+    program.addFile(step(2), name, PatchBytes::copy(3));
     program.addFile(step(10), name, QByteArray("\0\0\0\0\x02", 5));
     LogCapture log;
     QCOMPARE(program.replyObject(step(2)).value(QStringLiteral("data/A.json")).toString(),
@@ -218,7 +221,7 @@ void tst_PresetData::laterStepsAreNotRead()
 void tst_PresetData::hiddenFilesBelongToTheStep()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral(".hidden-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral(".hidden-patch"), PatchBytes::insertion("[1]"));
     QVERIFY(QDir().mkpath(program.dataPath(step(1)) + QStringLiteral("/directory-patch")));
     QCOMPARE(program.replyObject(step(1)).keys(), QStringList{QStringLiteral("data/.hidden")});
 }
@@ -226,9 +229,9 @@ void tst_PresetData::hiddenFilesBelongToTheStep()
 void tst_PresetData::badPatchEndsTheRequest()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     program.addFile(step(2), QStringLiteral("A.json-patch"), QByteArray("\3\0\0\0\x02", 5));
-    program.addFile(step(3), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(3), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     LogCapture log;
     QVERIFY(program.reply(step(3)).isNull());
     QCOMPARE(warningTexts(log),
@@ -239,7 +242,7 @@ void tst_PresetData::badPatchEndsTheRequest()
 void tst_PresetData::oversizedPatchEndsTheRequest()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     program.addFile(step(2), QStringLiteral("A.json-patch"), QByteArray("\xff\xff\xff\xff", 4));
     LogCapture log;
     QVERIFY(program.reply(step(2)).isNull());
@@ -252,10 +255,10 @@ void tst_PresetData::moreThanAnAnswerHoldsEndsTheRequest()
 {
     // A few bytes that ask for zeros: as many as an answer may hold, and one more.
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), header(kMostPresetBytes - 4));
-    program.addFile(step(1), QStringLiteral("B.json-patch"), header(4));
-    program.addFile(step(2), QStringLiteral("A.json-patch"), header(kMostPresetBytes - 4));
-    program.addFile(step(2), QStringLiteral("B.json-patch"), header(5));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::header(kMostPresetBytes - 4));
+    program.addFile(step(1), QStringLiteral("B.json-patch"), PatchBytes::header(4));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), PatchBytes::header(kMostPresetBytes - 4));
+    program.addFile(step(2), QStringLiteral("B.json-patch"), PatchBytes::header(5));
     LogCapture log;
     QVERIFY(!program.reply(step(1)).isNull());
     QVERIFY(!log.contains(QStringLiteral("Too much data")));
@@ -270,7 +273,8 @@ void tst_PresetData::moreThanAnAnswerHoldsEndsTheRequest()
 void tst_PresetData::hugeTargetTakesNoMemory()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), header(std::numeric_limits<qint32>::max()));
+    program.addFile(step(1), QStringLiteral("A.json-patch"),
+                    PatchBytes::header(std::numeric_limits<qint32>::max()));
     LogCapture log;
     const qint64 before = peakMemoryKiB();
     QVERIFY(program.reply(step(1)).isNull());
@@ -284,7 +288,7 @@ void tst_PresetData::hugeTargetTakesNoMemory()
 void tst_PresetData::badTagOfAHugePatchIsReported()
 {
     const ProgramDirectory program;
-    const QByteArray tooMuch = header(std::numeric_limits<qint32>::max());
+    const QByteArray tooMuch = PatchBytes::header(std::numeric_limits<qint32>::max());
     program.addFile(step(1), QStringLiteral("A.json-patch"), tooMuch + QByteArray("\0\0A\2", 4));
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
@@ -299,7 +303,7 @@ void tst_PresetData::unreadableFileEndsTheRequest()
     // What the kernel shows as a file of a page ends before that.
     const QString target = QStringLiteral("/sys/devices/system/cpu/online");
     QVERIFY2(QFileInfo(target).size() > 100, "this test needs a file that is shorter than it says");
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     program.addStep(step(2));
     const QString path = program.dataPath(step(2)) + QStringLiteral("/A.json-patch");
     QVERIFY(QFile::link(target, path));
@@ -313,8 +317,8 @@ void tst_PresetData::unreadableFileEndsTheRequest()
 void tst_PresetData::fileThatMayNotBeReadEndsTheRequest()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
-    program.addFile(step(2), QStringLiteral("A.json-patch"), copyPatch(3));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
+    program.addFile(step(2), QStringLiteral("A.json-patch"), PatchBytes::copy(3));
     QCOMPARE(chmod(qPrintable(program.path()), 0755), 0);
     const QString path = program.dataPath(step(2)) + QStringLiteral("/A.json-patch");
     QCOMPARE(chmod(qPrintable(path), 0), 0);
@@ -330,7 +334,7 @@ void tst_PresetData::fileThatMayNotBeReadEndsTheRequest()
 void tst_PresetData::pipeEndsTheRequest()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     const QString pipe = program.path() + QStringLiteral("/pipe");
     QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
     // With both ends open here nobody waits, whatever the code under test does.
@@ -347,8 +351,8 @@ void tst_PresetData::pipeEndsTheRequest()
 void tst_PresetData::badPatchNameEndsTheRequestBehindThePatches()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
-    program.addFile(step(1), QStringLiteral("A.json"), insertPatch("[2]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json"), PatchBytes::insertion("[2]"));
     LogCapture log;
     QVERIFY(program.reply(step(1)).isNull());
     QCOMPARE(log.warnings().size(), 1);
@@ -365,7 +369,7 @@ void tst_PresetData::badPatchNameEndsTheRequestBehindThePatches()
 void tst_PresetData::nothingIsSentForNoFiles()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     program.addStep(step(2));
     LogCapture log;
     QVERIFY(program.reply(step(2)).isNull());
@@ -375,7 +379,7 @@ void tst_PresetData::nothingIsSentForNoFiles()
 void tst_PresetData::plainFileWithTheNameOfAStep()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     QFile file(program.root() + QStringLiteral("/step2"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     LogCapture log;
@@ -386,7 +390,7 @@ void tst_PresetData::plainFileWithTheNameOfAStep()
 void tst_PresetData::rootMayBeALink()
 {
     const ProgramDirectory elsewhere(QStringLiteral("patches"));
-    elsewhere.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    elsewhere.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     const ProgramDirectory program;
     QVERIFY(QDir().mkpath(program.path() + QStringLiteral("/resource")));
     QVERIFY(QFile::link(elsewhere.root(), program.root()));
@@ -403,9 +407,9 @@ void tst_PresetData::rootMayBeALink()
 void tst_PresetData::stepWithoutDataForgetsEarlierFiles()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("A.json-patch"), insertPatch("[1]"));
+    program.addFile(step(1), QStringLiteral("A.json-patch"), PatchBytes::insertion("[1]"));
     QVERIFY(QDir().mkpath(program.root() + QStringLiteral("/step2")));
-    program.addFile(step(3), QStringLiteral("B.json-patch"), insertPatch("[3]"));
+    program.addFile(step(3), QStringLiteral("B.json-patch"), PatchBytes::insertion("[3]"));
     LogCapture log;
     QVERIFY(program.reply(step(2)).isNull());
     QCOMPARE(program.replyObject(step(3)).keys(), QStringList{QStringLiteral("data/B.json")});

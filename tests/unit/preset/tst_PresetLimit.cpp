@@ -1,3 +1,4 @@
+#include "PatchBytes.h"
 #include "ProgramDirectory.h"
 #include "tool/LogLine.h"
 
@@ -54,7 +55,7 @@ void tst_PresetLimit::worstCharactersAreAnswered()
     text.front() = quote;
     text.back() = quote;
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(text));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), PatchBytes::insertion(text));
     longestLine = 0;
     const QtMessageHandler previousHandler = qInstallMessageHandler(&encodeLine);
     const QString reply = program.reply(step(1));

@@ -1,3 +1,4 @@
+#include "PatchBytes.h"
 #include "ProgramDirectory.h"
 #include "tool/JsonWrapper.h"
 
@@ -28,9 +29,10 @@ private Q_SLOTS:
 void tst_PresetTexts::replyIsOneJsonObject()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch("{ \"a\" : \"x/y\" }\n"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"),
+                    PatchBytes::insertion("{ \"a\" : \"x/y\" }\n"));
     QCOMPARE(program.reply(step(1)), QStringLiteral(R"({"data/Other.json":"{\"a\":\"x/y\"}"})"));
-    program.addFile(step(1), QStringLiteral("Second.json-patch"), insertPatch("[]"));
+    program.addFile(step(1), QStringLiteral("Second.json-patch"), PatchBytes::insertion("[]"));
     const QString first = QStringLiteral(R"("data/Other.json":"{\"a\":\"x/y\"}")");
     const QString second = QStringLiteral(R"("data/Second.json":"[]")");
     const QString reply = program.reply(step(1));
@@ -44,14 +46,15 @@ void tst_PresetTexts::tableKeysAreRegularExpressions()
     const ProgramDirectory program;
     const QByteArray map = R"({"events":[{"name":"inn","pages":[]}]})";
     const QByteArray things = R"([{"name":"inn"}])";
-    program.addFile(step(1), QStringLiteral("Map001.json-patch"), insertPatch(map));
-    program.addFile(step(1), QStringLiteral("MapInfos.json-patch"), insertPatch(things));
+    program.addFile(step(1), QStringLiteral("Map001.json-patch"), PatchBytes::insertion(map));
+    program.addFile(step(1), QStringLiteral("MapInfos.json-patch"), PatchBytes::insertion(things));
     program.addFile(step(1), QStringLiteral("Items.json-patch"),
-                    insertPatch(R"([{"name":"a","description":""}])"));
+                    PatchBytes::insertion(R"([{"name":"a","description":""}])"));
     program.addFile(step(1), QStringLiteral("ItemsXjson-patch"),
-                    insertPatch(R"([{"name":"a","description":"b"}])"));
-    program.addFile(step(1), QStringLiteral("MyItems.json-patch"), insertPatch(R"([{"name":"a"}])"));
-    program.addFile(step(1), QStringLiteral("Items.json2-patch"), insertPatch(R"([{"name":"a"}])"));
+                    PatchBytes::insertion(R"([{"name":"a","description":"b"}])"));
+    program.addFile(step(1), QStringLiteral("MyItems.json-patch"),
+                    PatchBytes::insertion(R"([{"name":"a"}])"));
+    program.addFile(step(1), QStringLiteral("Items.json2-patch"), PatchBytes::insertion(R"([{"name":"a"}])"));
     LogCapture log;
     const QJsonObject reply = program.replyObject(step(1));
     const QJsonObject expected{
@@ -71,7 +74,7 @@ void tst_PresetTexts::onlyRowsForLessonsRun()
 {
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("System.json-patch"),
-                    insertPatch(R"({"currencyUnit":"G","switches":["door"]})"));
+                    PatchBytes::insertion(R"({"currencyUnit":"G","switches":["door"]})"));
     LogCapture log;
     QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/System.json")).toString(),
              QStringLiteral(R"({"currencyUnit":"G","switches":["Tutorial:door"]})"));
@@ -81,7 +84,7 @@ void tst_PresetTexts::onlyRowsForLessonsRun()
 void tst_PresetTexts::fileOutsideTheTableIsNotTranslated()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"([{"name":"a"}])"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), PatchBytes::insertion(R"([{"name":"a"}])"));
     QCOMPARE(program.replyObject(step(1)).value(QStringLiteral("data/Other.json")).toString(),
              QStringLiteral(R"([{"name":"a"}])"));
 }
@@ -89,7 +92,8 @@ void tst_PresetTexts::fileOutsideTheTableIsNotTranslated()
 void tst_PresetTexts::eachRequestUsesItsOwnTable()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), insertPatch(R"({"a":"x","b":"y"})"));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"),
+                    PatchBytes::insertion(R"({"a":"x","b":"y"})"));
     const auto textWith = [&program](const QString &file, const QString &key) {
         const SampleTable table{
             {file,
@@ -123,7 +127,7 @@ void tst_PresetTexts::textsThatAreNoJson()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, text);
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Items.json-patch"), insertPatch(bytes));
+    program.addFile(step(1), QStringLiteral("Items.json-patch"), PatchBytes::insertion(bytes));
     LogCapture log;
     const QJsonObject reply = program.replyObject(step(1));
     QCOMPARE(reply.keys(), QStringList{QStringLiteral("data/Items.json")});
@@ -137,7 +141,7 @@ void tst_PresetTexts::lackOfMemoryEndsTheRequest()
 {
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("Items.json-patch"),
-                    insertPatch(R"([{"name":"a","description":"b"}])"));
+                    PatchBytes::insertion(R"([{"name":"a","description":"b"}])"));
     LogCapture log;
     const QString reply = presetData(
         step(1), program.path(), buildSampleTable(),
@@ -158,7 +162,7 @@ void tst_PresetTexts::textsThatMakeTooMuchDataEndTheRequest()
     }
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("System.json-patch"),
-                    insertPatch("{\"switches\":[\"" + switches + "\"]}"));
+                    PatchBytes::insertion("{\"switches\":[\"" + switches + "\"]}"));
     const auto isAnswered = [&program](int length) {
         return !presetData(step(1), program.path(), buildSampleTable(),
                            [length](const QString & /*context*/, const QString & /*text*/) {
@@ -179,7 +183,7 @@ void tst_PresetTexts::textsThatMakeTooMuchDataEndTheRequest()
 void tst_PresetTexts::unwrittenBytesAreAText()
 {
     const ProgramDirectory program;
-    program.addFile(step(1), QStringLiteral("Other.json-patch"), header(5));
+    program.addFile(step(1), QStringLiteral("Other.json-patch"), PatchBytes::header(5));
     LogCapture log;
     const QString zeroes(5, QChar(0));
     const QString expected = JsonWrapper(zeroes).toJson();
@@ -194,8 +198,8 @@ void tst_PresetTexts::textThatIsNotUtf8IsReplaced()
 {
     const ProgramDirectory program;
     program.addFile(step(1), QStringLiteral("Other.json-patch"),
-                    insertPatch("[\"a\xff\xfe"
-                                "b\"]"));
+                    PatchBytes::insertion("[\"a\xff\xfe"
+                                          "b\"]"));
     LogCapture log;
     const QString replaced =
         QStringLiteral("[\"a") + QString(2, QChar(QChar::ReplacementCharacter)) + QStringLiteral("b\"]");
@@ -208,7 +212,7 @@ void tst_PresetTexts::textIsCompactAndEscaped()
     const ProgramDirectory program;
     const QString text = QString::fromUtf8("{\n  \"b\": [ 1, 2.5 ],\n  \"a\": \"\\u6f22 \u5b57 \\\"q\\\" "
                                            "\\\\ \\n \\u0001 \\u007f \U0001F600\"\n}\n");
-    program.addFile(step(1), QStringLiteral("O \"th\".json-patch"), insertPatch(text.toUtf8()));
+    program.addFile(step(1), QStringLiteral("O \"th\".json-patch"), PatchBytes::insertion(text.toUtf8()));
     const QString compact =
         QString::fromUtf8(QJsonDocument::fromJson(text.toUtf8()).toJson(QJsonDocument::Compact));
     const QString escaped =

@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "PatchBytes.h"
 #include "tool/StringPatch.h"
 
 #include <QObject>
@@ -11,6 +12,8 @@
 #include <sys/resource.h>
 
 namespace {
+
+using PatchBytes::header;
 
 /// The most memory that this process has held at one time.
 qint64 mostResidentBytes()
@@ -26,14 +29,6 @@ QByteArray bytes(std::initializer_list<int> values)
     QByteArray result;
     for (const int value : values)
         result.append(char(value));
-    return result;
-}
-
-QByteArray header(quint32 targetSize)
-{
-    QByteArray result;
-    for (int shift = 0; shift < 32; shift += 8)
-        result.append(char(targetSize >> shift & 0xff));
     return result;
 }
 
