@@ -59,20 +59,6 @@ QStringList CompanionWindowsTest::idsOf(const QVector<XWindows::Window> &windows
     return ids;
 }
 
-QStringList CompanionWindowsTest::placesOf(const QVector<XWindows::Window> &windows)
-{
-    QStringList places;
-    for (const XWindows::Window &window : windows) {
-        places += QStringLiteral("%1x%2 at %3,%4")
-                      .arg(window.rect.width())
-                      .arg(window.rect.height())
-                      .arg(window.rect.x())
-                      .arg(window.rect.y());
-    }
-    places.sort();
-    return places;
-}
-
 QImage CompanionWindowsTest::picture(const QString &name)
 {
     return QImage(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/png/%1.png").arg(name));
@@ -149,11 +135,11 @@ bool CompanionWindowsTest::waitForBeats(int count)
 
 void CompanionWindowsTest::verifyBubbleAt(const QPoint &place)
 {
-    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(place), qPrintable(placesOf(overlays()).join(QStringLiteral("; "))),
-                              kSoonMs);
+    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(place),
+                              qPrintable(XWindows::placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
     const QString next = QStringLiteral("64x32 at %1,%2").arg(place.x() + 128).arg(place.y() + 64 + 56);
     const QString no = QStringLiteral("64x32 at %1,%2").arg(place.x() + 128 + 56).arg(place.y() + 64 + 56);
-    QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays(kButton)), QStringList({next, next, no}), kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(overlays(kButton)), QStringList({next, next, no}), kSoonMs);
     QVERIFY(bubbleIsAt(place));
 }
 

@@ -47,7 +47,6 @@ protected:
     static constexpr int kNoIcon = 6;
 
     static QStringList idsOf(const QVector<XWindows::Window> &windows);
-    static QStringList placesOf(const QVector<XWindows::Window> &windows);
     static QImage picture(const QString &name);
     /// What tells the screen's @p area from @p picture drawn at @p at in it, on the host editor's window;
     /// nothing when they look the same. What is partly transparent is blended by the compositor here and by

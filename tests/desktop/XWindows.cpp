@@ -69,6 +69,20 @@ QVector<Window> mapped(qint64 processId, const QSize &size)
     return windows;
 }
 
+QStringList placesOf(const QVector<Window> &windows)
+{
+    QStringList places;
+    for (const Window &window : windows) {
+        places += QStringLiteral("%1x%2 at %3,%4")
+                      .arg(window.rect.width())
+                      .arg(window.rect.height())
+                      .arg(window.rect.x())
+                      .arg(window.rect.y());
+    }
+    places.sort();
+    return places;
+}
+
 QString property(const QString &id, const QString &name)
 {
     const QString line = run(QStringLiteral("xprop"), {QStringLiteral("-id"), id, name});

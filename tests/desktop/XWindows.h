@@ -27,6 +27,9 @@ QVector<Window> mapped(qint64 processId);
 /// Those of @p size among them.
 QVector<Window> mapped(qint64 processId, const QSize &size);
 
+/// Size and place of each window as in "256x142 at 40,30", sorted.
+QStringList placesOf(const QVector<Window> &windows);
+
 /// The value of a property as xprop prints it, or nothing when the window does not have it.
 QString property(const QString &id, const QString &name);
 

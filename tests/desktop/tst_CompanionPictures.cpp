@@ -27,8 +27,8 @@ private:
 
 void tst_CompanionPictures::verifyRestsAt(const QPoint &place)
 {
-    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(place), qPrintable(placesOf(overlays()).join(QStringLiteral("; "))),
-                              kSoonMs);
+    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(place),
+                              qPrintable(XWindows::placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
 }
 
 void tst_CompanionPictures::eachStepShowsItsOwnIcon_data()

@@ -7,20 +7,6 @@ namespace {
 
 constexpr int kSoonMs = 30000;
 
-QStringList placesOf(const QVector<XWindows::Window> &windows)
-{
-    QStringList places;
-    for (const XWindows::Window &window : windows) {
-        places += QStringLiteral("%1x%2 at %3,%4")
-                      .arg(window.rect.width())
-                      .arg(window.rect.height())
-                      .arg(window.rect.x())
-                      .arg(window.rect.y());
-    }
-    places.sort();
-    return places;
-}
-
 void announceResolution(const QString &dotsPerInch)
 {
     const QString name = QStringLiteral("RESOURCE_MANAGER");
@@ -92,7 +78,8 @@ void tst_CompanionScaling::windowsStandAtThePixelsThatTheHostNames()
     const QStringList places{QStringLiteral("1x1 at 0,0"), QStringLiteral("640x480 at 397,297"),
                              QStringLiteral("64x32 at 525,417"), QStringLiteral("64x32 at 525,417"),
                              QStringLiteral("64x32 at 581,417")};
-    QTRY_COMPARE_WITH_TIMEOUT(placesOf(XWindows::mapped(host.process().processId())), places, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(XWindows::mapped(host.process().processId())), places,
+                              kSoonMs);
     host.disconnectLink();
     QVERIFY(host.waitForEnd());
 }

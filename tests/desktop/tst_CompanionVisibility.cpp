@@ -56,7 +56,7 @@ void tst_CompanionVisibility::shortAbsenceKeepsTheWindows()
     play();
     update(400, 300, QString(), kNext | kYesNo | kArrow);
     verifyBubbleAt({397, 297});
-    const QStringList places = placesOf(overlays());
+    const QStringList places = XWindows::placesOf(overlays());
     const QRegularExpression line(QStringLiteral("TutorialManager::timerEvent 427 (\\d+)\\n"));
     QStringList ids;
     int ticks = kTicksToRebuild;
@@ -74,7 +74,7 @@ void tst_CompanionVisibility::shortAbsenceKeepsTheWindows()
         const QRegularExpressionMatch match = line.match(m_host->log(), logged);
         QVERIFY(match.hasMatch());
         ticks = match.captured(1).toInt();
-        QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays()), places, kSoonMs);
+        QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(overlays()), places, kSoonMs);
     }
     QVERIFY2(ticks < kTicksToRebuild, qPrintable(QString::number(ticks)));
     QCOMPARE(idsOf(overlays()), ids);
@@ -89,7 +89,7 @@ void tst_CompanionVisibility::longAbsenceRebuildsTheWindows()
     verifyBubbleAt({397, 297});
     QTRY_COMPARE_WITH_TIMEOUT(overlays().size(), 6, kSoonMs);
     const QStringList ids = idsOf(overlays());
-    const QStringList places = placesOf(overlays());
+    const QStringList places = XWindows::placesOf(overlays());
     m_host->send({QStringLiteral("state"), QStringLiteral("hide")});
     QTRY_COMPARE_WITH_TIMEOUT(overlays().size(), 0, kSoonMs);
     // A heartbeat is ten ticks: between the first of four and the last lie thirty.
@@ -99,7 +99,7 @@ void tst_CompanionVisibility::longAbsenceRebuildsTheWindows()
     QVERIFY(FakeHost::waitFor([&] { return line.match(m_host->log()).hasMatch(); }));
     const int ticks = line.match(m_host->log()).captured(1).toInt();
     QVERIFY2(ticks >= kTicksToRebuild, qPrintable(QString::number(ticks)));
-    QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays()), places, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(overlays()), places, kSoonMs);
     const QStringList rebuilt = idsOf(overlays());
     for (const QString &id : rebuilt) {
         QVERIFY(!ids.contains(id));
@@ -128,7 +128,7 @@ void tst_CompanionVisibility::nothingIsShownBeforeTheStart()
         QVERIFY(m_host->sync());
     }
     QVERIFY(waitForBeats(2));
-    QCOMPARE(placesOf(overlays()), QStringList());
+    QCOMPARE(XWindows::placesOf(overlays()), QStringList());
     QCOMPARE(XWindows::activeWindow(), m_below->winId());
     m_host->send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("1280"),
                   QStringLiteral("960")});
@@ -144,7 +144,8 @@ void tst_CompanionVisibility::logWindowShowsNothing()
     corner.show();
     QTRY_COMPARE_WITH_TIMEOUT(difference(corner.geometry(), QImage(), {}), QString(), kSoonMs);
     m_host->send({QStringLiteral("start")});
-    QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays()), QStringList(QStringLiteral("1x1 at 0,0")), kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(overlays()), QStringList(QStringLiteral("1x1 at 0,0")),
+                              kSoonMs);
     QVERIFY(waitForBeats(2));
     QCOMPARE(difference(corner.geometry(), QImage(), {}), QString());
 }

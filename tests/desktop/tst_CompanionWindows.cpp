@@ -113,8 +113,8 @@ void tst_CompanionWindows::reachesBeyondTheScreen()
     QFETCH(QPoint, spot);
     play();
     update(target.x(), target.y(), QString(), kArrow);
-    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(bubble), qPrintable(placesOf(overlays()).join(QStringLiteral("; "))),
-                              kSoonMs);
+    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(bubble),
+                              qPrintable(XWindows::placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
     m_host->send({QStringLiteral("showTooltip"), QStringLiteral("Centred on the spot"),
                   QString::number(spot.x()), QString::number(spot.y())});
     // The text is in the top left part of the window, and the spot in the middle of the text.
@@ -124,16 +124,16 @@ void tst_CompanionWindows::reachesBeyondTheScreen()
         return tooltips.size() == 1 && QRect(40, 10, 100, 30).contains(middle);
     };
     QTRY_VERIFY2_WITH_TIMEOUT(tooltipIsAtTheSpot(),
-                              qPrintable(placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
-    const QStringList places = placesOf(overlays());
+                              qPrintable(XWindows::placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
+    const QStringList places = XWindows::placesOf(overlays());
     // Also when it comes back.
     m_host->send({QStringLiteral("state"), QStringLiteral("hide")});
     QTRY_COMPARE_WITH_TIMEOUT(overlays().size(), 0, kSoonMs);
     m_host->send({QStringLiteral("state"), QStringLiteral("show")});
-    QTRY_COMPARE_WITH_TIMEOUT(placesOf(overlays()), places, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(XWindows::placesOf(overlays()), places, kSoonMs);
     // Whoever wanted them elsewhere has had a second for it.
     QVERIFY(waitForBeats(2));
-    QCOMPARE(placesOf(overlays()), places);
+    QCOMPARE(XWindows::placesOf(overlays()), places);
     QCOMPARE(XWindows::activeWindow(), m_below->winId());
 }
 
@@ -257,8 +257,8 @@ void tst_CompanionWindows::arrowIsPaintedAtBothEnds()
     QFETCH(bool, upsideDown);
     play();
     update(target.x(), target.y(), QString(), kArrow, 3);
-    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(bubble), qPrintable(placesOf(overlays()).join(QStringLiteral("; "))),
-                              kSoonMs);
+    QTRY_VERIFY2_WITH_TIMEOUT(bubbleIsAt(bubble),
+                              qPrintable(XWindows::placesOf(overlays()).join(QStringLiteral("; "))), kSoonMs);
     const QImage arrow = picture(QStringLiteral("arrow")).mirrored(mirror, upsideDown);
     const QRect area(bubble + QPoint(mirror ? 256 : 0, 0), QSize(128, 144));
     // For half of every two seconds it stands at the one end, and stays near the other for a quarter of one.

@@ -150,6 +150,15 @@ bool FakeHost::writeAll(const QByteArray &bytes)
     return taken && m_socket->state() == QLocalSocket::ConnectedState;
 }
 
+void FakeHost::showStep()
+{
+    send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
+    send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("800"),
+          QStringLiteral("600")});
+    send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("100"), QStringLiteral("100"),
+          QStringLiteral("MainWindow"), QStringLiteral("hint"), QStringLiteral("7"), QStringLiteral("0")});
+}
+
 void FakeHost::readPending()
 {
     if (m_socket == nullptr) {

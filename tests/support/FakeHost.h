@@ -65,6 +65,9 @@ public:
     /// Writes one command in a frame of its own.
     void send(const QStringList &fields) { write(Frames::ofHost(command(fields))); }
 
+    /// Says hello and shows a step with all its overlays.
+    void showStep();
+
     /// Payloads received so far, "alive" left out; and how many "alive" there were.
     [[nodiscard]] QStringList payloads();
     [[nodiscard]] int aliveCount();

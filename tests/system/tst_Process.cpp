@@ -61,12 +61,7 @@ void tst_Process::endsWithoutAMessageAboutDestroyedObjects()
 {
     FakeHost host;
     QVERIFY(host.start());
-    host.send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
-    host.send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("800"),
-               QStringLiteral("600")});
-    host.send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("100"),
-               QStringLiteral("100"), QStringLiteral("MainWindow"), QStringLiteral("hint"),
-               QStringLiteral("7"), QStringLiteral("0")});
+    host.showStep();
     host.send(
         {QStringLiteral("showTooltip"), QStringLiteral("text"), QStringLiteral("10"), QStringLiteral("10")});
     QVERIFY(host.sync());

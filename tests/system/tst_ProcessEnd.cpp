@@ -112,12 +112,7 @@ void tst_ProcessEnd::aSignalEndsItAsALostLinkDoes()
     QFETCH(int, signal);
     FakeHost host;
     QVERIFY(host.start());
-    host.send({QStringLiteral("fromServer"), QStringLiteral("ja_JP")});
-    host.send({QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("800"),
-               QStringLiteral("600")});
-    host.send({QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("100"),
-               QStringLiteral("100"), QStringLiteral("MainWindow"), QStringLiteral("hint"),
-               QStringLiteral("7"), QStringLiteral("0")});
+    host.showStep();
     QVERIFY(host.sync());
     const QString folder = folderOf(host);
     QVERIFY2(QDir(folder).isAbsolute() && QDir(folder).exists(), qPrintable(folder));

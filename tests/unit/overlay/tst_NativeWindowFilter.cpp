@@ -1,12 +1,9 @@
 #include "Tutorial/overlay/NativeWindowFilter.h"
 
-#include "FakeOverlayHost.h"
-#include "TestIndicator.h"
-#include "Tutorial/overlay/EditorTooltip.h"
+#include "EveryOverlay.h"
 #include "Tutorial/overlay/MayLeaveScreen.h"
 #include "Tutorial/overlay/OwnWindowGroup.h"
 #include "Tutorial/overlay/StayHidden.h"
-#include "Tutorial/overlay/TutorialLog.h"
 
 #include <QWindow>
 #include <QtTest>
@@ -91,21 +88,13 @@ void TestNativeWindowFilter::makesNoNativeWindow()
 
 void TestNativeWindowFilter::itsKindsBelongToTheOverlays()
 {
-    FakeOverlayHost host;
-    const TestIndicator indicator(&host);
-    const EditorTooltip tooltip(nullptr, &host);
-    const TutorialLog log(nullptr, &host);
-    const QList<const QWidget *> overlays{indicator.tooltip(),
-                                          TestIndicator::next(),
-                                          TestIndicator::yes(),
-                                          TestIndicator::no(),
-                                          &tooltip,
-                                          &log};
+    const EveryOverlay every;
+    const QList<const QWidget *> overlays = every.windows();
     for (const QWidget *overlay : overlays) {
         QCOMPARE(overlay->findChildren<OwnWindowGroup *>().size(), 1);
     }
-    QCOMPARE(indicator.tooltip()->findChildren<MayLeaveScreen *>().size(), 1);
-    QCOMPARE(tooltip.findChildren<MayLeaveScreen *>().size(), 1);
+    QCOMPARE(every.bubble()->findChildren<MayLeaveScreen *>().size(), 1);
+    QCOMPARE(every.editorTooltip()->findChildren<MayLeaveScreen *>().size(), 1);
 }
 
 QTEST_MAIN(TestNativeWindowFilter)

@@ -1,9 +1,6 @@
 #include "Tutorial/overlay/StayHidden.h"
 
-#include "FakeOverlayHost.h"
-#include "TestIndicator.h"
-#include "Tutorial/overlay/EditorTooltip.h"
-#include "Tutorial/overlay/TutorialLog.h"
+#include "EveryOverlay.h"
 
 #include <QWindow>
 #include <QtTest>
@@ -91,16 +88,8 @@ void TestStayHidden::followsARecreatedWindow()
 
 void TestStayHidden::belongsToTheOverlays()
 {
-    FakeOverlayHost host;
-    const TestIndicator indicator(&host);
-    const EditorTooltip tooltip(nullptr, &host);
-    const TutorialLog log(nullptr, &host);
-    const QList<const QWidget *> overlays{indicator.tooltip(),
-                                          TestIndicator::next(),
-                                          TestIndicator::yes(),
-                                          TestIndicator::no(),
-                                          &tooltip,
-                                          &log};
+    const EveryOverlay every;
+    const QList<const QWidget *> overlays = every.windows();
     for (const QWidget *overlay : overlays) {
         QCOMPARE(overlay->findChildren<StayHidden *>().size(), 1);
     }

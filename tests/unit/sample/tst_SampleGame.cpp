@@ -1,24 +1,19 @@
 #include "SampleEvents.h"
 #include "SampleGame.h"
-
-#include <QTest>
+#include "SampleTest.h"
 
 /// The finished sample project can be played from its opening to its end.
-class tst_SampleGame : public QObject
+class tst_SampleGame : public SampleTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void ends();
     void plays_each_step_without_a_hitch();
     void notices_what_keeps_it_from_its_end_data();
     void notices_what_keeps_it_from_its_end();
     void notices_what_goes_wrong_data();
     void notices_what_goes_wrong();
-
-private:
-    sample::Files m_last;
 };
 
 namespace {
@@ -33,12 +28,6 @@ sample::Game played(const sample::Files &files)
 const QJsonArray kNothing = {QJsonObject{{QStringLiteral("code"), 0}}};
 
 } // namespace
-
-void tst_SampleGame::init()
-{
-    m_last = sample::readStep(sample::kLastStep);
-    QVERIFY(!m_last.isEmpty());
-}
 
 void tst_SampleGame::ends()
 {
@@ -66,25 +55,17 @@ void tst_SampleGame::plays_each_step_without_a_hitch()
 
 void tst_SampleGame::notices_what_keeps_it_from_its_end_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QJsonValue>("value");
-    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value;
-    };
-    row("lever turns nothing on", "Map007.json", "events/6/pages/0/list", kNothing);
-    row("warden turns nothing on", "Map008.json", "events/3/pages/0/list", kNothing);
-    row("lever among rocks", "Map007.json", "events/6/y", 2);
-    row("scene waits for another switch", "Map006.json", "events/4/pages/0/conditions/switchId", 9);
-    row("scene without the ending", "Map006.json", "events/4/pages/0/list/12", kNothing.at(0));
+    addChangeColumns();
+    addChange("lever turns nothing on", "Map007.json", "events/6/pages/0/list", kNothing);
+    addChange("warden turns nothing on", "Map008.json", "events/3/pages/0/list", kNothing);
+    addChange("lever among rocks", "Map007.json", "events/6/y", 2);
+    addChange("scene waits for another switch", "Map006.json", "events/4/pages/0/conditions/switchId", 9);
+    addChange("scene without the ending", "Map006.json", "events/4/pages/0/list/12", kNothing.at(0));
 }
 
 void tst_SampleGame::notices_what_keeps_it_from_its_end()
 {
-    QFETCH(QString, file);
-    QFETCH(QString, path);
-    QFETCH(QJsonValue, value);
-    QVERIFY(!played(sample::changed(m_last, file, path, value)).hasEnded());
+    QVERIFY(!played(lastWithChange()).hasEnded());
 }
 
 void tst_SampleGame::notices_what_goes_wrong_data()

@@ -1,24 +1,19 @@
 #include "SampleEvents.h"
-
-#include <QTest>
+#include "SampleTest.h"
 
 /// Each step of the sample project holds what its lesson starts from, and differs from the next one by what
 /// the lesson can make.
-class tst_SampleLessons : public QObject
+class tst_SampleLessons : public SampleTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void keeps_each_map_from_its_step_on();
     void holds_what_the_lesson_starts_from_data();
     void holds_what_the_lesson_starts_from();
     void adds_what_the_lesson_can_make();
     void finds_what_the_lesson_cannot_make_data();
     void finds_what_the_lesson_cannot_make();
-
-private:
-    sample::Files m_last;
 };
 
 using sample::changed;
@@ -115,12 +110,6 @@ int pagesOf(const Files &files, const QString &map, const QString &name)
 }
 
 } // namespace
-
-void tst_SampleLessons::init()
-{
-    m_last = readStep(kLastStep);
-    QVERIFY(!m_last.isEmpty());
-}
 
 void tst_SampleLessons::keeps_each_map_from_its_step_on()
 {

@@ -1,15 +1,13 @@
 #include "SampleEvents.h"
 #include "SampleReferences.h"
-
-#include <QTest>
+#include "SampleTest.h"
 
 /// What the sample project's files say of one another holds in each step.
-class tst_SampleReferences : public QObject
+class tst_SampleReferences : public SampleTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void refers_to_what_is_there();
     void finds_a_reference_that_leads_nowhere_data();
     void finds_a_reference_that_leads_nowhere();
@@ -23,9 +21,6 @@ private Q_SLOTS:
     void begins_with_mila_alone_and_lets_the_others_join();
     void finds_somebody_who_does_not_join();
     void ends_what_holds_for_a_number_of_turns();
-
-private:
-    sample::Files m_last;
 };
 
 using sample::changed;
@@ -77,74 +72,52 @@ constexpr int kProtected = 3;
 
 } // namespace
 
-void tst_SampleReferences::init()
-{
-    m_last = readStep(kLastStep);
-    QVERIFY(!m_last.isEmpty());
-}
-
 void tst_SampleReferences::refers_to_what_is_there()
 {
-    for (int step = kFirstStep; step <= kLastStep; ++step) {
-        const QStringList findings = sample::danglingReferences(readStep(step));
-        QVERIFY2(findings.isEmpty(),
-                 qPrintable(stepName(step) + QLatin1Char(' ') + findings.join(QLatin1Char('\n'))));
-    }
+    QCOMPARE(firstFinding(sample::danglingReferences), QString());
 }
 
 void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QJsonValue>("value");
-    QTest::addColumn<QString>("finding");
-    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value,
-                        const char *finding) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value
-                            << QString::fromLatin1(finding);
-    };
-    row("class", "Actors.json", "2/classId", 9, "Actors.json entry 2: no entry 9 in Classes");
-    row("no class", "Actors.json", "2/classId", 0, "Actors.json entry 2: no entry 0 in Classes");
-    row("weapon", "Actors.json", "1/equips/0", 99, "Actors.json entry 1: no entry 99 in Weapons");
-    row("armor", "Actors.json", "1/equips/1", 99, "Actors.json entry 1: no entry 99 in Armors");
-    row("skill of a class", "Classes.json", "1/learnings/0/skillId", 99, "no entry 99 in Skills");
-    row("animation", "Skills.json", "1/animationId", 99, "no entry 99 in Animations");
-    row("state of a skill", "Skills.json", "4/effects/0/addState", 99, "no entry 99 in States");
-    row("state of an item", "Items.json", "2/effects/0/removeState", 99, "no entry 99 in States");
-    row("state of a trait", "Enemies.json", "6/traits/0/resistState", 99, "no entry 99 in States");
-    row("dropped item", "Enemies.json", "1/dropItems/0/itemId", 99, "no entry 99 in Items");
-    row("action", "Enemies.json", "6/actions/1/skillId", 99, "no entry 99 in Skills");
-    row("enemy", "Troops.json", "1/members/0/enemyId", 99, "no entry 99 in Enemies");
-    row("enemy that a battle waits for", "Troops.json", "6/pages/0/conditions/enemyIndex", 3,
-        "Troops.json entry 6: no enemy 3 in the troop");
-    row("no enemy to wait for", "Troops.json", "6/pages/0/conditions/enemyIndex", QJsonValue(),
-        "Troops.json entry 6: no enemy -1 in the troop");
-    row("troop of a map", "Map002.json", "encounterList/0/troopId", 99, "no entry 99 in Troops");
-    row("tile set", "Map001.json", "tilesetId", 7, "Map001.json: no entry 7 in Tilesets");
-    row("parent", "MapInfos.json", "3/parentId", 99, "no entry 99 in MapInfos");
-    row("party", "System.json", "partyMembers/0", 99, "System.json: no entry 99 in Actors");
-    row("start map", "System.json", "startMapId", 99, "System.json: no map 99");
-    row("start cell", "System.json", "startX", 24, "System.json: no cell (24, 11) in map 1");
-    row("nameless switch", "System.json", "switches/2", QString(), "no name for switch 2");
-    row("variable", "System.json", "variables", QJsonArray{QJsonValue()}, "no variables 1 to 1");
-    row("event off the map", "Map001.json", "events/1/y", 16,
-        "Map001.json event 1: no cell (13, 16) in map 1");
-    row("switch of a page", "Map001.json", "events/1/pages/0/conditions/switchId", 99,
-        "no name for switch 99");
-    row("direction of a patrol", "Map001.json", "events/11/pages/0/moveRoute/list/0/code", 5,
-        "Map001.json event 11: no direction 5");
-    row("self switch of a page", "Map001.json", "events/1/pages/0/conditions/selfSwitch", QStringLiteral("E"),
-        "no self switch \"E\"");
+    addChangeColumns();
+    addChange("class", "Actors.json", "2/classId", 9, "Actors.json entry 2: no entry 9 in Classes");
+    addChange("no class", "Actors.json", "2/classId", 0, "Actors.json entry 2: no entry 0 in Classes");
+    addChange("weapon", "Actors.json", "1/equips/0", 99, "Actors.json entry 1: no entry 99 in Weapons");
+    addChange("armor", "Actors.json", "1/equips/1", 99, "Actors.json entry 1: no entry 99 in Armors");
+    addChange("skill of a class", "Classes.json", "1/learnings/0/skillId", 99, "no entry 99 in Skills");
+    addChange("animation", "Skills.json", "1/animationId", 99, "no entry 99 in Animations");
+    addChange("state of a skill", "Skills.json", "4/effects/0/addState", 99, "no entry 99 in States");
+    addChange("state of an item", "Items.json", "2/effects/0/removeState", 99, "no entry 99 in States");
+    addChange("state of a trait", "Enemies.json", "6/traits/0/resistState", 99, "no entry 99 in States");
+    addChange("dropped item", "Enemies.json", "1/dropItems/0/itemId", 99, "no entry 99 in Items");
+    addChange("action", "Enemies.json", "6/actions/1/skillId", 99, "no entry 99 in Skills");
+    addChange("enemy", "Troops.json", "1/members/0/enemyId", 99, "no entry 99 in Enemies");
+    addChange("enemy that a battle waits for", "Troops.json", "6/pages/0/conditions/enemyIndex", 3,
+              "Troops.json entry 6: no enemy 3 in the troop");
+    addChange("no enemy to wait for", "Troops.json", "6/pages/0/conditions/enemyIndex", QJsonValue(),
+              "Troops.json entry 6: no enemy -1 in the troop");
+    addChange("troop of a map", "Map002.json", "encounterList/0/troopId", 99, "no entry 99 in Troops");
+    addChange("tile set", "Map001.json", "tilesetId", 7, "Map001.json: no entry 7 in Tilesets");
+    addChange("parent", "MapInfos.json", "3/parentId", 99, "no entry 99 in MapInfos");
+    addChange("party", "System.json", "partyMembers/0", 99, "System.json: no entry 99 in Actors");
+    addChange("start map", "System.json", "startMapId", 99, "System.json: no map 99");
+    addChange("start cell", "System.json", "startX", 24, "System.json: no cell (24, 11) in map 1");
+    addChange("nameless switch", "System.json", "switches/2", QString(), "no name for switch 2");
+    addChange("variable", "System.json", "variables", QJsonArray{QJsonValue()}, "no variables 1 to 1");
+    addChange("event off the map", "Map001.json", "events/1/y", 16,
+              "Map001.json event 1: no cell (13, 16) in map 1");
+    addChange("switch of a page", "Map001.json", "events/1/pages/0/conditions/switchId", 99,
+              "no name for switch 99");
+    addChange("direction of a patrol", "Map001.json", "events/11/pages/0/moveRoute/list/0/code", 5,
+              "Map001.json event 11: no direction 5");
+    addChange("self switch of a page", "Map001.json", "events/1/pages/0/conditions/selfSwitch",
+              QStringLiteral("E"), "no self switch \"E\"");
 }
 
 void tst_SampleReferences::finds_a_reference_that_leads_nowhere()
 {
-    QFETCH(QString, file);
-    QFETCH(QString, path);
-    QFETCH(QJsonValue, value);
     QFETCH(QString, finding);
-    const QString findings =
-        sample::danglingReferences(changed(m_last, file, path, value)).join(QLatin1Char('\n'));
+    const QString findings = sample::danglingReferences(lastWithChange()).join(QLatin1Char('\n'));
     QVERIFY2(findings.contains(finding), qPrintable(findings));
 }
 

@@ -1,16 +1,15 @@
+#include "SampleTest.h"
 #include "SampleWays.h"
 
 #include <QJsonArray>
-#include <QTest>
 
 /// The sample project can be walked through in each step: every event can be got to, and one comes back from
 /// everywhere.
-class tst_SampleWays : public QObject
+class tst_SampleWays : public SampleTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void leads_to_each_event_and_back();
     void opens_the_maps_one_after_the_other();
     void finds_what_is_in_the_way_data();
@@ -18,9 +17,6 @@ private Q_SLOTS:
     void finds_a_wall_in_the_way();
     void finds_a_corridor_that_a_figure_blocks();
     void finds_a_map_without_a_way();
-
-private:
-    sample::Files m_last;
 };
 
 using sample::changed;
@@ -43,18 +39,10 @@ QString lines(const QStringList &findings)
 
 } // namespace
 
-void tst_SampleWays::init()
-{
-    m_last = readStep(kLastStep);
-    QVERIFY(!m_last.isEmpty());
-}
-
 void tst_SampleWays::leads_to_each_event_and_back()
 {
-    for (int step = kFirstStep; step <= kLastStep; ++step) {
-        const QStringList findings = sample::Ways(readStep(step)).findings();
-        QVERIFY2(findings.isEmpty(), qPrintable(stepName(step) + QLatin1Char(' ') + lines(findings)));
-    }
+    QCOMPARE(firstFinding([](const sample::Files &files) { return sample::Ways(files).findings(); }),
+             QString());
 }
 
 void tst_SampleWays::opens_the_maps_one_after_the_other()
@@ -73,42 +61,32 @@ void tst_SampleWays::opens_the_maps_one_after_the_other()
 
 void tst_SampleWays::finds_what_is_in_the_way_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QJsonValue>("value");
-    QTest::addColumn<QString>("finding");
-    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value,
-                        const char *finding) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value
-                            << QString::fromLatin1(finding);
-    };
+    addChangeColumns();
     const QJsonArray nothing = {QJsonObject{{QStringLiteral("code"), 0}}};
-    row("start in a tree", "System.json", "startX", 0, "nobody can stand at the start (0, 11) of map 1");
-    row("event in a fence", "Map001.json", "events/9/y", 0,
-        "Map001.json event 9: nobody gets to (11, 0) of map 1");
-    row("figure among rocks", "Map007.json", "events/7/y", 2,
-        "Map007.json event 7: nobody gets to (11, 2) of map 7");
-    row("target in a wall", "Map001.json", "events/6/pages/0/list/0/parameters/2", 0,
-        "Map001.json event 6: nobody can stand at (0, 7) of map 3");
-    row("target on a figure", "Map002.json", "events/1/pages/0/list/0/parameters",
-        QJsonArray{0, 1, 12, 4, 4, 0}, "Map002.json event 1: nobody can stand at (12, 4) of map 1");
-    row("target on a transfer", "Map001.json", "events/6/pages/0/list/0/parameters/3", 8,
-        "Map001.json event 6: nobody can stand at (5, 8) of map 3");
-    row("half an exit of a village", "Map001.json", "events/10/pages/0/list", nothing,
-        "Map001.json event 9: the cell beside it (12, 15) of map 1 leads nowhere");
-    row("half a gate", "Map007.json", "events/5/pages/1/list", nothing,
-        "Map007.json event 4: the cell beside it (10, 5) of map 7 leads nowhere");
-    row("no way back", "Map003.json", "events/1/pages/0/list", nothing,
-        "nobody comes back from (5, 7) of map 3");
+    addChange("start in a tree", "System.json", "startX", 0,
+              "nobody can stand at the start (0, 11) of map 1");
+    addChange("event in a fence", "Map001.json", "events/9/y", 0,
+              "Map001.json event 9: nobody gets to (11, 0) of map 1");
+    addChange("figure among rocks", "Map007.json", "events/7/y", 2,
+              "Map007.json event 7: nobody gets to (11, 2) of map 7");
+    addChange("target in a wall", "Map001.json", "events/6/pages/0/list/0/parameters/2", 0,
+              "Map001.json event 6: nobody can stand at (0, 7) of map 3");
+    addChange("target on a figure", "Map002.json", "events/1/pages/0/list/0/parameters",
+              QJsonArray{0, 1, 12, 4, 4, 0}, "Map002.json event 1: nobody can stand at (12, 4) of map 1");
+    addChange("target on a transfer", "Map001.json", "events/6/pages/0/list/0/parameters/3", 8,
+              "Map001.json event 6: nobody can stand at (5, 8) of map 3");
+    addChange("half an exit of a village", "Map001.json", "events/10/pages/0/list", nothing,
+              "Map001.json event 9: the cell beside it (12, 15) of map 1 leads nowhere");
+    addChange("half a gate", "Map007.json", "events/5/pages/1/list", nothing,
+              "Map007.json event 4: the cell beside it (10, 5) of map 7 leads nowhere");
+    addChange("no way back", "Map003.json", "events/1/pages/0/list", nothing,
+              "nobody comes back from (5, 7) of map 3");
 }
 
 void tst_SampleWays::finds_what_is_in_the_way()
 {
-    QFETCH(QString, file);
-    QFETCH(QString, path);
-    QFETCH(QJsonValue, value);
     QFETCH(QString, finding);
-    const QString findings = lines(sample::Ways(changed(m_last, file, path, value)).findings());
+    const QString findings = lines(sample::Ways(lastWithChange()).findings());
     QVERIFY2(findings.contains(finding), qPrintable(findings));
 }
 

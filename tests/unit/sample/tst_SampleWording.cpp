@@ -1,15 +1,13 @@
 #include "SampleEvents.h"
+#include "SampleTest.h"
 #include "SampleWording.h"
 
-#include <QTest>
-
 /// What the sample project says goes through its numbered texts, and fits where it is said.
-class tst_SampleWording : public QObject
+class tst_SampleWording : public SampleTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void says_nothing_past_its_translators();
     void finds_what_no_translator_gets_to_data();
     void finds_what_no_translator_gets_to();
@@ -22,9 +20,6 @@ private Q_SLOTS:
     void fits_into_the_message_window_data();
     void fits_into_the_message_window();
     void finds_a_message_that_is_too_long();
-
-private:
-    sample::Files m_last;
 };
 
 using sample::changed;
@@ -35,28 +30,10 @@ using sample::stepName;
 
 namespace {
 
-/// @p check finds nothing in any step; otherwise what it found first.
-QString firstFinding(QStringList (*check)(const sample::Files &))
-{
-    for (int step = kFirstStep; step <= kLastStep; ++step) {
-        const QStringList findings = check(readStep(step));
-        if (!findings.isEmpty()) {
-            return stepName(step) + QLatin1Char(' ') + findings.first();
-        }
-    }
-    return QString();
-}
-
 const QString kVillage = QStringLiteral("Map001.json");
 const QString kElder = QStringLiteral("events/7/pages/0/list/");
 
 } // namespace
-
-void tst_SampleWording::init()
-{
-    m_last = readStep(kLastStep);
-    QVERIFY(!m_last.isEmpty());
-}
 
 void tst_SampleWording::says_nothing_past_its_translators()
 {
@@ -65,38 +42,32 @@ void tst_SampleWording::says_nothing_past_its_translators()
 
 void tst_SampleWording::finds_what_no_translator_gets_to_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QJsonValue>("value");
-    const auto row = [](const char *name, const char *file, const char *path, const QJsonValue &value) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(path) << value;
-    };
+    addChangeColumns();
     const QJsonValue text = QStringLiteral("Amberfield");
     const QJsonValue textNumber = QStringLiteral("#12");
-    row("text as it is", "Items.json", "1/name", text);
-    row("name over a map", "Map001.json", "displayName", textNumber);
-    row("note of an item", "Items.json", "1/note", textNumber);
-    row("description of an enemy", "Enemies.json", "1/description", textNumber);
-    row("name of a common event", "CommonEvents.json", "1/name", textNumber);
-    row("title of the game", "System.json", "gameTitle", text);
-    row("variable", "System.json", "variables/1", textNumber);
-    row("unit of the money", "System.json", "currencyUnit", text);
-    row("words of the host editor", "System.json", "terms/basic", QJsonArray{textNumber});
-    row("line in a battle", "Troops.json", "6/pages/0/list/0",
-        QJsonObject{{QStringLiteral("code"), 401},
-                    {QStringLiteral("indent"), 0},
-                    {QStringLiteral("parameters"), QJsonArray{textNumber}}});
-    row("line as it is", "Map001.json", "events/1/pages/0/list/1/parameters/0", text);
-    row("choice as it is", "Map001.json", "events/7/pages/0/list/3/parameters/0/1", text);
-    row("text in another parameter", "Map001.json", "events/1/pages/0/list/0/parameters/0", textNumber);
+    addChange("text as it is", "Items.json", "1/name", text);
+    addChange("name over a map", "Map001.json", "displayName", textNumber);
+    addChange("note of an item", "Items.json", "1/note", textNumber);
+    addChange("description of an enemy", "Enemies.json", "1/description", textNumber);
+    addChange("name of a common event", "CommonEvents.json", "1/name", textNumber);
+    addChange("title of the game", "System.json", "gameTitle", text);
+    addChange("variable", "System.json", "variables/1", textNumber);
+    addChange("unit of the money", "System.json", "currencyUnit", text);
+    addChange("words of the host editor", "System.json", "terms/basic", QJsonArray{textNumber});
+    addChange("line in a battle", "Troops.json", "6/pages/0/list/0",
+              QJsonObject{{QStringLiteral("code"), 401},
+                          {QStringLiteral("indent"), 0},
+                          {QStringLiteral("parameters"), QJsonArray{textNumber}}});
+    addChange("line as it is", "Map001.json", "events/1/pages/0/list/1/parameters/0", text);
+    addChange("choice as it is", "Map001.json", "events/7/pages/0/list/3/parameters/0/1", text);
+    addChange("text in another parameter", "Map001.json", "events/1/pages/0/list/0/parameters/0", textNumber);
 }
 
 void tst_SampleWording::finds_what_no_translator_gets_to()
 {
     QFETCH(QString, file);
     QFETCH(QString, path);
-    QFETCH(QJsonValue, value);
-    const QStringList findings = sample::strayTexts(changed(m_last, file, path, value));
+    const QStringList findings = sample::strayTexts(lastWithChange());
     QCOMPARE(findings.size(), 1);
     QVERIFY2(findings.first().startsWith(file + QLatin1Char('/') + path), qPrintable(findings.first()));
 }
