@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../playback/OverlayWindows.h"
 #include "Frames.h"
 #include "Tutorial/TutorialManager.h"
+#include "playback/OverlayWindows.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -1,4 +1,3 @@
-#include "../playback/OverlayWindows.h"
 #include "LogCapture.h"
 #include "Tutorial/AuthoringCalls.h"
 #include "Tutorial/CommandTable.h"
@@ -7,6 +6,7 @@
 #include "Tutorial/overlay/TutorialLog.h"
 #include "Tutorial/overlay/TutorialTooltip.h"
 #include "Tutorial/playback/Playback.h"
+#include "playback/OverlayWindows.h"
 
 #include <QApplication>
 #include <QDir>
