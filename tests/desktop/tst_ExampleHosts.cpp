@@ -26,16 +26,6 @@ QByteArray contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QStringList placesOf(const QVector<XWindows::Window> &windows)
-{
-    QStringList places;
-    for (const XWindows::Window &window : windows) {
-        places += QStringLiteral("%1 at %2,%3").arg(window.id).arg(window.rect.x()).arg(window.rect.y());
-    }
-    places.sort();
-    return places;
-}
-
 bool clickOn(quintptr window, const QPoint &spot)
 {
     if (!QTest::qWaitFor([&] { return XWindows::takesClick(window, spot); }, kLimitMs)) {
@@ -188,14 +178,14 @@ std::optional<XWindows::Window> tst_ExampleHosts::windowAtRest(const QSize &size
 {
     QElapsedTimer clock;
     clock.start();
-    QStringList before = placesOf(XWindows::mapped(companionPid()));
+    QStringList before = XWindows::placesOf(XWindows::mapped(companionPid()));
     while (!clock.hasExpired(kLimitMs)) {
         const int second = heartbeats() + 2; // ten ticks behind the one that comes next
         if (!QTest::qWaitFor([this, second] { return heartbeats() >= second; }, kLimitMs)) {
             return {};
         }
         const QVector<XWindows::Window> windows = XWindows::mapped(companionPid());
-        const QStringList now = placesOf(windows);
+        const QStringList now = XWindows::placesOf(windows);
         const auto window = std::find_if(windows.cbegin(), windows.cend(), [&size](const auto &candidate) {
             return candidate.rect.size() == size;
         });
