@@ -30,11 +30,13 @@ class Companion:
         path = os.path.join(os.environ.get("TMPDIR") or "/tmp", "tkvq" + key)
         with socket.socket(socket.AF_UNIX) as server:
             server.bind(path)
-            server.listen(1)
-            server.settimeout(START_LIMIT_S)
-            self.process = subprocess.Popen([program, key, "en_US"], stderr=subprocess.DEVNULL)
-            self.link, _ = server.accept()
-        os.unlink(path)
+            try:
+                server.listen(1)
+                server.settimeout(START_LIMIT_S)
+                self.process = subprocess.Popen([program, key, "en_US"], stderr=subprocess.DEVNULL)
+                self.link, _ = server.accept()
+            finally:
+                os.unlink(path)
         self.received = b""
 
     def send(self, *fields):
