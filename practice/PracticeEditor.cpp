@@ -1,6 +1,5 @@
 #include "PracticeEditor.h"
 
-#include "pilot/Pilot.h"
 #include "window/EditorWindows.h"
 
 #include <QMessageBox>
@@ -45,9 +44,6 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     }
     connectSession();
     connectProject();
-    if (options.pilot) {
-        makePilot();
-    }
 }
 
 PracticeEditor::~PracticeEditor()
@@ -138,24 +134,9 @@ void PracticeEditor::connectProject()
     connect(&m_lessonProject, &LessonProject::failed, this, &PracticeEditor::tellPerson);
 }
 
-void PracticeEditor::makePilot()
-{
-    const QString title = QStringLiteral("lesson %1 (%2)").arg(m_options.lesson).arg(m_options.locale);
-    m_pilot = new Pilot(&m_session, {title, m_options.pilotAnswersYes, m_options.shotsFolder}, this);
-    connect(m_pilot, &Pilot::progress, this, [](const QString &line) { printLine(stdout, line); });
-    connect(m_pilot, &Pilot::ended, this, [this](const QString &failure) {
-        if (!failure.isEmpty()) {
-            printLine(stderr, failure);
-        }
-        Q_EMIT ended(failure.isEmpty() ? 0 : 1);
-    });
-}
-
 void PracticeEditor::onConnected()
 {
-    if (m_pilot != nullptr) {
-        m_pilot->setCompanionPid(m_link.companionPid());
-    }
+    Q_EMIT companionConnected(m_link.companionPid());
     m_session.greet(m_options.locale);
 }
 
@@ -163,8 +144,8 @@ void PracticeEditor::onLost(const QString &lastWords)
 {
     m_session.abandon();
     printLine(stderr, QStringLiteral("The companion ended unexpectedly. Its last lines were:\n") + lastWords);
-    if (m_pilot != nullptr) {
-        m_pilot->fail(QStringLiteral("the companion ended"));
+    Q_EMIT troubled(QStringLiteral("the companion ended"));
+    if (m_options.unattended) {
         return;
     }
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"),
@@ -205,8 +186,8 @@ void PracticeEditor::restartCompanion()
 void PracticeEditor::tellPerson(const QString &text)
 {
     printLine(stderr, text);
-    if (m_pilot != nullptr) {
-        m_pilot->fail(text);
+    Q_EMIT troubled(text);
+    if (m_options.unattended) {
         return;
     }
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"), tr("Something went wrong."),

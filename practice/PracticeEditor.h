@@ -11,10 +11,9 @@
 #include <memory>
 
 class EditorWindows;
-class Pilot;
 class QMessageBox;
 
-/// The practice editor as a whole: joins the windows, the link, the lesson and, if asked for, the pilot.
+/// The practice editor as a whole: joins the windows, the link and the lesson.
 class PracticeEditor : public QObject
 {
     Q_OBJECT
@@ -25,10 +24,8 @@ public:
         /// Number of the lesson to begin with; 0 lets the person choose.
         int lesson = 0;
         QString locale;
-        bool pilot = false;
-        /// The pilot says Yes to the questions of a lesson, else No.
-        bool pilotAnswersYes = true;
-        QString shotsFolder;
+        /// Nobody is there to answer a message box: what goes wrong is told by troubled() alone.
+        bool unattended = false;
         QString companionProgram;
         /// Key of the link; empty for a random one.
         QString key;
@@ -52,13 +49,16 @@ public:
 Q_SIGNALS:
     /// The editor is to end with this exit status.
     void ended(int status);
+    /// The companion is there, a process with this id.
+    void companionConnected(qint64 pid);
+    /// Something went wrong that a person has to know, in words for messages.
+    void troubled(const QString &what);
 
 private:
     [[nodiscard]] bool startLink(QString *error);
     void connectSession();
     void connectProject();
     void showStep();
-    void makePilot();
     void onConnected();
     void onLost(const QString &lastWords);
     void restartCompanion();
@@ -72,7 +72,6 @@ private:
     LessonPanel m_panel;
     LessonProject m_lessonProject;
     HostLink m_link;
-    Pilot *m_pilot = nullptr;
     /// Asks about a companion that is gone.
     QPointer<QMessageBox> m_lostBox;
     /// The lesson to ask for once the companion is there.

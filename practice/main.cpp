@@ -1,3 +1,4 @@
+#include "PilotRun.h"
 #include "PracticeEditor.h"
 #include "PracticeTranslator.h"
 #include "lesson/LessonWords.h"
@@ -74,7 +75,7 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson,
         return QStringLiteral("there is no locale %1; --locale takes %2")
             .arg(options.locale, LessonWords::locales().join(QStringLiteral(", ")));
     }
-    if (options.pilot && options.lesson == 0) {
+    if (options.unattended && options.lesson == 0) {
         return QStringLiteral("--pilot needs to know which lesson: add --lesson N");
     }
     if (answer != QLatin1String("yes") && answer != QLatin1String("no")) {
@@ -170,9 +171,7 @@ int main(int argc, char **argv)
     PracticeEditor::Options options;
     options.lesson = parser.value(line.lesson).toInt();
     options.locale = parser.value(line.locale);
-    options.pilot = parser.isSet(line.pilot);
-    options.pilotAnswersYes = parser.value(line.answers) != QLatin1String("no");
-    options.shotsFolder = parser.value(line.shots);
+    options.unattended = parser.isSet(line.pilot);
     options.companionProgram = parser.value(line.companion);
     options.key = parser.value(line.key);
     if (const QString problem = problemOf(options, parser.value(line.lesson), parser.value(line.answers));
@@ -182,7 +181,7 @@ int main(int argc, char **argv)
     const PracticeTranslator translator(options.locale);
     // The pilot's projects are nobody's.
     const QTemporaryDir pilotProjects;
-    options.projectsFolder = options.pilot
+    options.projectsFolder = options.unattended
                                  ? pilotProjects.path()
                                  : QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
                                        .filePath(QStringLiteral("Practice projects"));
@@ -197,6 +196,15 @@ int main(int argc, char **argv)
                      Qt::QueuedConnection);
     endOnSignals(&application);
     QString error;
+    if (options.unattended) {
+        Pilot::Settings settings;
+        settings.title = QStringLiteral("lesson %1 (%2)").arg(options.lesson).arg(options.locale);
+        settings.answersYes = parser.value(line.answers) != QLatin1String("no");
+        settings.shotsFolder = parser.value(line.shots);
+        if (!letPilotPlay(&editor, settings, &error)) {
+            return complain(QStringLiteral("--pilot cannot play here: ") + error);
+        }
+    }
     if (!editor.start(&error)) {
         return complain(error);
     }

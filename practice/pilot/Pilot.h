@@ -1,25 +1,23 @@
 #pragma once
 
-#include "pilot/OverlayWatch.h"
+#include "pilot/ActionPlan.h"
+#include "pilot/Eye.h"
+#include "pilot/Hand.h"
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QQueue>
 #include <QStringList>
 #include <QTimer>
 
-#include <optional>
+#include <memory>
 
 class LessonSession;
-class QWindow;
-struct Step;
 
-/// Plays a lesson as a learner does: it looks where the companion's windows are on the screen, acts with real
-/// mouse and key events at the spot that the arrow points at, in the way that the icon says, and clicks the
-/// real buttons. What it knows beyond that is which step is on, to tell when the bubble has arrived and what
-/// text to type.
+/// Plays a lesson as a learner does: it looks where the companion's windows are on the screen, acts at the
+/// spot that the arrow points at, in the way that the icon says, and clicks the real buttons. What it knows
+/// beyond that is which step is on, to tell when the bubble has arrived and what text to type.
 ///
-/// A step whose condition does not come true that way is a broken lesson. Needs an X display and xdotool.
+/// A step whose condition does not come true that way is a broken lesson.
 class Pilot : public QObject
 {
     Q_OBJECT
@@ -33,13 +31,15 @@ public:
         bool answersYes = true;
         /// Pictures of the whole screen go here, one for each step; none when empty.
         QString shotsFolder;
+        /// How long the overlays and the focus may take to come, and a condition to come true, in
+        /// milliseconds. Only what is broken takes so long, on a machine with much else to do as well.
+        int settleMs = 30000;
+        int conditionMs = 20000;
     };
 
     /// @p session stays the caller's and outlives this.
-    Pilot(LessonSession *session, const Settings &settings, QObject *parent = nullptr);
-
-    /// Whose windows are the overlays.
-    void setCompanionPid(qint64 pid) { m_pid = pid; }
+    Pilot(const LessonSession *session, const Settings &settings, std::unique_ptr<Eye> eye,
+          std::unique_ptr<Hand> hand, QObject *parent = nullptr);
 
     /// Ends the play as a failure.
     void fail(const QString &reason);
@@ -51,46 +51,52 @@ Q_SIGNALS:
     void ended(const QString &failure);
 
 private:
-    enum class Phase { kIdle, kWatching, kActing, kAwaiting, kEnding, kOver };
+    enum class Phase {
+        /// No lesson yet.
+        kIdle,
+        /// Until the overlays of the step are there and at rest.
+        kWatching,
+        /// Through the actions of the plan.
+        kActing,
+        /// Until the condition comes true.
+        kAwaiting,
+        /// Until the overlays are gone.
+        kEnding,
+        kOver,
+    };
 
+    void enter(Phase phase, int limitMs);
     void onStepReached();
     void onFinished();
-    void tick();
+    void onTick();
+    void onLimit();
     void watch();
+    void act();
     void watchEnd();
-    /// What is on the screen; nothing when the look failed.
-    std::optional<OverlayWatch> look();
-    void planAction(const Step &step, const std::optional<QPoint> &spot);
-    void planKeys(const Step &step);
-    void actOnce();
-    void pressButton();
-    bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr,
-             QByteArray *errors = nullptr);
-    bool takeShot(const QString &name);
-    /// The editor's window that a click at @p spot, in global screen pixels, would reach; nullptr when none
-    /// would.
-    [[nodiscard]] static QWindow *windowAt(const QPoint &spot);
-    /// Whether keys go to the window at the spot.
-    [[nodiscard]] bool hasFocus() const;
-    [[nodiscard]] bool settled(const Step &step) const;
+    void end(const QString &failure);
+    /// Looks, and tells whether the overlays stand still. False also when the look failed.
+    [[nodiscard]] bool isAtRest();
+    /// False when it cannot be written. True also where no pictures are asked for.
+    [[nodiscard]] bool takeShot(const QString &name);
+    [[nodiscard]] QString shotProblem() const;
     [[nodiscard]] QString stepText() const;
 
-    LessonSession *m_session;
+    const LessonSession *m_session;
     Settings m_settings;
-    qint64 m_pid = 0;
+    std::unique_ptr<Eye> m_eye;
+    std::unique_ptr<Hand> m_hand;
     Phase m_phase = Phase::kIdle;
     QTimer m_ticks;
+    QTimer m_limit;
     QElapsedTimer m_sinceStart;
-    QElapsedTimer m_sincePhase;
-    QElapsedTimer m_sinceClick;
     QElapsedTimer m_sinceMoved;
-    OverlayWatch m_seen;
+    QElapsedTimer m_sinceClick;
+    Overlays m_seen;
+    ActionPlan m_plan;
+    /// How many of the plan's actions are done, and which, in words.
+    int m_next = 0;
+    QStringList m_done;
     int m_steps = 0;
     int m_shots = 0;
     QString m_current;
-    /// What is left to do in this step: arguments of xdotool, one call a tick; an empty list is the button.
-    QQueue<QStringList> m_actions;
-    QString m_done;
-    /// Where the step is done, in global screen pixels.
-    QPoint m_spot;
 };

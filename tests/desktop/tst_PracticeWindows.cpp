@@ -1,15 +1,14 @@
 #include "PracticeEditor.h"
 #include "XWindows.h"
 #include "lesson/Scenario.h"
-#include "pilot/OverlayWatch.h"
-#include "pilot/Placement.h"
+#include "pilot/ArrowSpot.h"
+#include "pilot/x11/XEye.h"
 #include "window/EditorWindowSet.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QListWidget>
-#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -17,6 +16,7 @@
 namespace {
 
 constexpr int kSoonMs = 30000;
+constexpr int kLooks = 100;
 
 /// A click of the real mouse at a place in a widget, as soon as the X server would give it to the widget's
 /// window: one that is only just shown, or still lies below a window on its way out, gets none.
@@ -58,6 +58,7 @@ class TestPracticeWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -71,7 +72,7 @@ private Q_SLOTS:
     void theStripNamesTheWindowToOpenNext();
 
 private:
-    [[nodiscard]] OverlayWatch overlays() const;
+    [[nodiscard]] Overlays overlays() const;
     /// Whether the bubble of a step without a place rests in the middle of the main window, beside its
     /// button.
     [[nodiscard]] bool isReadable() const;
@@ -84,8 +85,16 @@ private:
 
     EditorWindowSet *m_windows = nullptr;
     std::unique_ptr<PracticeEditor> m_editor;
-    QString m_companion;
+    std::unique_ptr<XEye> m_eye;
 };
+
+void TestPracticeWindows::initTestCase()
+{
+    QString error;
+    const std::shared_ptr<const XConnection> x = XConnection::open(&error);
+    QVERIFY2(x != nullptr, qPrintable(error));
+    m_eye = std::make_unique<XEye>(x);
+}
 
 void TestPracticeWindows::init()
 {
@@ -98,14 +107,11 @@ void TestPracticeWindows::init()
     options.locale = QStringLiteral("en_US");
     options.companionProgram = QStringLiteral(TUTORIAL_PROGRAM);
     m_editor = std::make_unique<PracticeEditor>(options, std::move(windows));
+    connect(m_editor.get(), &PracticeEditor::companionConnected, this,
+            [this](qint64 pid) { m_eye->setCompanion(pid); });
     QString error;
     QVERIFY2(m_editor->start(&error), qPrintable(error));
     QTRY_VERIFY_WITH_TIMEOUT(m_editor->session().runner().isRunning(), kSoonMs);
-    m_companion = XWindows::run(QStringLiteral("pgrep"), {QStringLiteral("-n"), QStringLiteral("-P"),
-                                                          QString::number(QCoreApplication::applicationPid()),
-                                                          QStringLiteral("Tutorial")})
-                      .trimmed();
-    QVERIFY(!m_companion.isEmpty());
     // The first two steps are read; the third asks for a click on "New". Until it rests, the bubble takes its
     // button along, and a click would come too late for the place that was looked up.
     QTRY_VERIFY_WITH_TIMEOUT(isReadable(), kSoonMs);
@@ -116,19 +122,19 @@ void TestPracticeWindows::cleanup()
     m_editor.reset();
 }
 
-OverlayWatch TestPracticeWindows::overlays() const
+Overlays TestPracticeWindows::overlays() const
 {
-    return OverlayWatch::parse(
-        XWindows::run(QStringLiteral("xdotool"),
-                      {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-                       QStringLiteral("--pid"), m_companion, QStringLiteral("--name"), QString(),
-                       QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), QStringLiteral("%@")})
-            .toLatin1());
+    // A look fails when a window of anyone's goes away under it.
+    std::optional<Overlays> seen;
+    for (int look = 0; look < kLooks && !seen; ++look) {
+        seen = m_eye->overlays();
+    }
+    return seen.value_or(Overlays());
 }
 
 bool TestPracticeWindows::isReadable() const
 {
-    const OverlayWatch seen = overlays();
+    const Overlays seen = overlays();
     const QPoint middle = mainWindow()->mapToGlobal(mainWindow()->rect().center());
     return seen.buttons.size() == 1 && seen.bubble &&
            arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
@@ -136,7 +142,7 @@ bool TestPracticeWindows::isReadable() const
 
 bool TestPracticeWindows::isPointing() const
 {
-    const OverlayWatch seen = overlays();
+    const Overlays seen = overlays();
     const std::optional<QPoint> target = m_editor->session().bubbleTarget();
     return seen.bubble && target && arrowSpot(seen.bubble->topLeft(), *target);
 }
@@ -151,7 +157,7 @@ bool TestPracticeWindows::clickSpot() const
 {
     std::optional<QPoint> spot;
     const auto isReady = [this, &spot] {
-        const OverlayWatch seen = overlays();
+        const Overlays seen = overlays();
         const std::optional<QPoint> target = m_editor->session().bubbleTarget();
         spot = seen.bubble && target ? arrowSpot(seen.bubble->topLeft(), *target) : std::nullopt;
         return spot && XWindows::takesClick(mainWindow()->winId(), *spot);

@@ -286,6 +286,9 @@ void tst_PracticeLife::wrongOptionsAreSaid_data()
                                     << QByteArray("no locale fr_FR");
     QTest::newRow("a pilot without a lesson")
         << QStringList{QStringLiteral("--pilot")} << QByteArray("--lesson N");
+    QTest::newRow("a pilot without an X display")
+        << QStringList{QStringLiteral("--pilot"), QStringLiteral("--lesson"), QStringLiteral("1")}
+        << QByteArray("--pilot cannot play here");
     QTest::newRow("an answer that is none")
         << QStringList{QStringLiteral("--answers"), QStringLiteral("maybe")} << QByteArray("not \"maybe\"");
     QTest::newRow("a key that names no server")

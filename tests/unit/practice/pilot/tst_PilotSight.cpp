@@ -1,5 +1,5 @@
-#include "pilot/OverlayWatch.h"
-#include "pilot/Placement.h"
+#include "pilot/ArrowSpot.h"
+#include "pilot/Overlays.h"
 
 #include <QTest>
 
@@ -52,21 +52,21 @@ void TestPilotSight::knowsABubbleOnItsWay()
 
 void TestPilotSight::tellsBubbleAndButtonsFromTheRest()
 {
-    const OverlayWatch seen = OverlayWatch::parse("WINDOW=1\nX=456\nY=200\nWIDTH=64\nHEIGHT=32\nSCREEN=0\n"
-                                                  "WINDOW=2\nX=10\nY=-40\nWIDTH=640\nHEIGHT=480\nSCREEN=0\n"
-                                                  "WINDOW=3\nX=-1\nY=-1\nWIDTH=1\nHEIGHT=1\nSCREEN=0\n"
-                                                  "WINDOW=4\nX=400\nY=200\nWIDTH=64\nHEIGHT=32\nSCREEN=0\n");
-    QCOMPARE(*seen.bubble, QRect(10, -40, 640, 480));
-    QCOMPARE(seen.buttons,
-             (QVector<OverlayWatch::Button>{{QRect(400, 200, 64, 32), 4}, {QRect(456, 200, 64, 32), 1}}));
+    const Overlays::Window no{QRect(456, 200, 64, 32), 1};
+    const Overlays::Window bubble{QRect(10, -40, 640, 480), 2};
+    const Overlays::Window hidden{QRect(-1, -1, 1, 1), 3};
+    const Overlays::Window yes{QRect(400, 200, 64, 32), 4};
+    const Overlays seen = Overlays::among({no, bubble, hidden, yes});
+    QCOMPARE(*seen.bubble, bubble.rect);
+    QCOMPARE(seen.buttons, (QVector<Overlays::Window>{yes, no}));
 }
 
 void TestPilotSight::seesNothingWhereThereIsNothing()
 {
-    const OverlayWatch seen = OverlayWatch::parse(QByteArray());
+    const Overlays seen = Overlays::among({});
     QVERIFY(!seen.bubble);
     QVERIFY(seen.buttons.isEmpty());
-    QVERIFY(seen == OverlayWatch());
+    QVERIFY(seen == Overlays());
 }
 
 QTEST_APPLESS_MAIN(TestPilotSight)

@@ -1,4 +1,4 @@
-#include "pilot/Placement.h"
+#include "pilot/ArrowSpot.h"
 
 #include "lesson/Scenario.h"
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+
+/// One thing that the pilot does with its hand.
+struct Action
+{
+    enum class Kind {
+        /// With the mouse, at place.
+        kClick,
+        kDoubleClick,
+        kRightClick,
+        /// A click at place inside of the companion's button window.
+        kPressButton,
+        /// With the keyboard.
+        kSelectAll,
+        kType,
+        kEnter,
+    };
+
+    Kind kind = Kind::kClick;
+    /// In global screen pixels; for kPressButton in pixels from the button's top left corner.
+    QPoint place;
+    /// The button's window id.
+    quint32 window = 0;
+    /// What kType types.
+    QString text;
+
+    /// Whether the window that the step is done in has to have the focus.
+    [[nodiscard]] bool isOfKeyboard() const
+    {
+        return kind == Kind::kSelectAll || kind == Kind::kType || kind == Kind::kEnter;
+    }
+
+    /// As a message says it, such as "a click at (10, 20)".
+    [[nodiscard]] QString inWords() const;
+
+    [[nodiscard]] bool operator==(const Action &other) const
+    {
+        return kind == other.kind && place == other.place && window == other.window && text == other.text;
+    }
+};

@@ -1,0 +1,118 @@
+#include "pilot/ActionPlan.h"
+
+#include "lesson/Scenario.h"
+#include "pilot/ArrowSpot.h"
+
+namespace {
+
+using Kind = Action::Kind;
+using Type = Condition::Type;
+
+/// What an icon that shows a clock gives the editor for its work.
+constexpr int kWorkMs = 10000;
+constexpr auto kName = "Village";
+
+int buttonCount(const Step &step)
+{
+    switch (step.condition.type()) {
+    case Type::kNext:
+        return 1;
+    case Type::kYesNo:
+        return 2;
+    default:
+        return 0;
+    }
+}
+
+bool isInPlace(const Step &step, const Sight &sight)
+{
+    if (!sight.overlays.bubble || sight.overlays.buttons.size() != buttonCount(step)) {
+        return false;
+    }
+    if (!sight.place) {
+        return !step.hasPosition();
+    }
+    return !sight.lacksWindow && arrowSpot(sight.overlays.bubble->topLeft(), *sight.place);
+}
+
+std::optional<Kind> mouseAction(const QString &icon)
+{
+    if (icon == QLatin1String("doubleClick")) {
+        return Kind::kDoubleClick;
+    }
+    if (icon == QLatin1String("rightClick")) {
+        return Kind::kRightClick;
+    }
+    if (icon == QLatin1String("click") || icon == QLatin1String("keyboard")) {
+        return Kind::kClick;
+    }
+    return {};
+}
+
+Action key(Kind kind, const QString &text = {})
+{
+    return {kind, {}, 0, text};
+}
+
+QString textFor(const Condition &condition)
+{
+    if (condition.type() == Type::kSpinBox) {
+        // The unit stands in the box already.
+        return condition.value().section(QLatin1Char(' '), 0, 0);
+    }
+    if (condition.type() == Type::kTextLength) {
+        return QString(qMax(1, condition.value().toInt()), QLatin1Char('a'));
+    }
+    return QString::fromLatin1(kName);
+}
+
+QVector<Action> typing(const Step &step)
+{
+    QVector<Action> actions{key(Kind::kSelectAll), key(Kind::kType, textFor(step.condition))};
+    // A text of a certain length is there as soon as it is typed.
+    if (buttonCount(step) == 0 && step.condition.type() != Type::kTextLength) {
+        actions.append(key(Kind::kEnter));
+    }
+    return actions;
+}
+
+Action pressOf(const Overlays::Window &button)
+{
+    // A place inside of the window: it moves once more when its companion comes to lay out the hint only now.
+    // In its left part: the right edge of Yes lies below No.
+    return {Kind::kPressButton, {button.rect.width() / 3, button.rect.height() / 2}, button.id, {}};
+}
+
+int waitOf(const Step &step)
+{
+    if (step.condition.type() == Type::kWait) {
+        return step.condition.waitMs();
+    }
+    return step.icon == QLatin1String("wait") ? kWorkMs : 0;
+}
+
+} // namespace
+
+std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight, bool answersYes)
+{
+    if (!isInPlace(step, sight)) {
+        return {};
+    }
+    ActionPlan plan;
+    plan.waitMs = waitOf(step);
+    if (step.hasPosition()) {
+        plan.spot = arrowSpot(sight.overlays.bubble->topLeft(), *sight.place);
+    }
+    const std::optional<Kind> mouse = mouseAction(step.icon);
+    if (plan.spot && mouse) {
+        plan.actions.append({*mouse, *plan.spot, 0, {}});
+        if (step.icon == QLatin1String("keyboard")) {
+            plan.actions += typing(step);
+        }
+    }
+    const QVector<Overlays::Window> &buttons = sight.overlays.buttons;
+    if (!buttons.isEmpty()) {
+        plan.actions.append(pressOf(answersYes ? buttons.constFirst() : buttons.constLast()));
+    }
+    return plan;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "pilot/Overlays.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What the pilot sees. Places are global screen pixels.
+class Eye
+{
+public:
+    Eye() = default;
+    virtual ~Eye() = default;
+
+    Eye(const Eye &) = delete;
+    Eye &operator=(const Eye &) = delete;
+    Eye(Eye &&) = delete;
+    Eye &operator=(Eye &&) = delete;
+
+    /// The companion's visible windows; nothing when the look failed because a window went away under it.
+    [[nodiscard]] virtual std::optional<Overlays> overlays() = 0;
+    /// Whether a click at @p spot would reach a window of the editor, and one that takes it.
+    [[nodiscard]] virtual bool takesClickAt(const QPoint &spot) = 0;
+    /// Whether keys would reach the window of the editor at @p spot.
+    [[nodiscard]] virtual bool takesKeysAt(const QPoint &spot) = 0;
+    /// Leaves a picture of the whole screen in the file @p path, a PNG. False when it cannot be written.
+    [[nodiscard]] virtual bool takePicture(const QString &path) = 0;
+};

@@ -1,0 +1,158 @@
+#include "pilot/x11/XEye.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// Small enough, and fast: Qt takes 0 to 100 from smallest to uncompressed.
+constexpr int kFastPng = 75;
+
+/// The editor's window that a click at @p spot reaches, as the X server has it: nullptr while a window is
+/// still to be mapped, or another program's is above, or a dialog keeps the click from it.
+QWindow *editorWindowAt(const QPoint &spot)
+{
+    QWindow *const window = QGuiApplication::topLevelAt(spot);
+    QWindow *const modal = QGuiApplication::modalWindow();
+    const bool isBlocked = modal != nullptr && window != modal && window == modal->transientParent();
+    return isBlocked ? nullptr : window;
+}
+
+/// What is asked of one window. All windows are asked before the first answer is waited for.
+struct Questions
+{
+    xcb_window_t window;
+    xcb_query_tree_cookie_t tree;
+    xcb_get_property_cookie_t pid;
+    xcb_get_geometry_cookie_t geometry;
+    xcb_translate_coordinates_cookie_t corner;
+};
+
+/// What it answers.
+struct Answers
+{
+    Answers(xcb_connection_t *c, const Questions &asked)
+        : tree(xcb_query_tree_reply(c, asked.tree, nullptr))
+        , pid(xcb_get_property_reply(c, asked.pid, nullptr))
+        , geometry(xcb_get_geometry_reply(c, asked.geometry, nullptr))
+        , corner(xcb_translate_coordinates_reply(c, asked.corner, nullptr))
+    {
+    }
+
+    [[nodiscard]] bool areComplete() const
+    {
+        return tree != nullptr && pid != nullptr && geometry != nullptr && corner != nullptr;
+    }
+
+    /// Of the process that has the window; 0 when the window does not tell.
+    [[nodiscard]] quint32 processId() const
+    {
+        const bool isTold = pid->format == 32 && xcb_get_property_value_length(pid.get()) == sizeof(quint32);
+        return isTold ? *static_cast<const quint32 *>(xcb_get_property_value(pid.get())) : 0;
+    }
+
+    [[nodiscard]] QRect rect() const
+    {
+        return {corner->dst_x, corner->dst_y, geometry->width, geometry->height};
+    }
+
+    XReply<xcb_query_tree_reply_t> tree;
+    XReply<xcb_get_property_reply_t> pid;
+    XReply<xcb_get_geometry_reply_t> geometry;
+    XReply<xcb_translate_coordinates_reply_t> corner;
+};
+
+} // namespace
+
+XEye::XEye(std::shared_ptr<const XConnection> x)
+    : m_x(std::move(x))
+    , m_pidAtom(m_x->atom("_NET_WM_PID"))
+{
+}
+
+std::optional<Overlays> XEye::overlays()
+{
+    QVector<Overlays::Window> found;
+    Ids level{m_x->root()};
+    while (!level.isEmpty()) {
+        const std::optional<Ids> shown = viewable(level);
+        const std::optional<Ids> below = shown ? look(*shown, &found) : std::nullopt;
+        if (!below) {
+            return {};
+        }
+        level = *below;
+    }
+    return Overlays::among(found);
+}
+
+std::optional<XEye::Ids> XEye::viewable(const Ids &windows) const
+{
+    std::vector<std::pair<xcb_window_t, xcb_get_window_attributes_cookie_t>> asked;
+    asked.reserve(static_cast<std::size_t>(windows.size()));
+    for (const xcb_window_t window : windows) {
+        asked.emplace_back(window, xcb_get_window_attributes(m_x->get(), window));
+    }
+    bool isComplete = true;
+    Ids shown;
+    for (const auto &[window, question] : asked) {
+        const XReply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(m_x->get(), question, nullptr));
+        isComplete = isComplete && attributes != nullptr;
+        if (attributes != nullptr && attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
+            shown.append(window);
+        }
+    }
+    return isComplete ? std::optional<Ids>(shown) : std::nullopt;
+}
+
+std::optional<XEye::Ids> XEye::look(const Ids &windows, QVector<Overlays::Window> *found) const
+{
+    xcb_connection_t *const c = m_x->get();
+    std::vector<Questions> asked;
+    asked.reserve(static_cast<std::size_t>(windows.size()));
+    for (const xcb_window_t window : windows) {
+        asked.push_back({window, xcb_query_tree(c, window),
+                         xcb_get_property(c, 0, window, m_pidAtom, XCB_ATOM_CARDINAL, 0, 1),
+                         xcb_get_geometry(c, window),
+                         xcb_translate_coordinates(c, window, m_x->root(), 0, 0)});
+    }
+    bool isComplete = true;
+    Ids below;
+    for (const Questions &questions : asked) {
+        // Every answer is fetched, also when one before it did not come: it would wait for ever.
+        const Answers answers(c, questions);
+        if (!answers.areComplete()) {
+            isComplete = false;
+            continue;
+        }
+        std::copy_n(xcb_query_tree_children(answers.tree.get()),
+                    xcb_query_tree_children_length(answers.tree.get()), std::back_inserter(below));
+        if (answers.processId() == m_pid) {
+            found->append({answers.rect(), questions.window});
+        }
+    }
+    return isComplete ? std::optional<Ids>(below) : std::nullopt;
+}
+
+bool XEye::takesClickAt(const QPoint &spot)
+{
+    return editorWindowAt(spot) != nullptr;
+}
+
+bool XEye::takesKeysAt(const QPoint &spot)
+{
+    QWindow *const window = editorWindowAt(spot);
+    return window != nullptr && QGuiApplication::focusWindow() == window;
+}
+
+bool XEye::takePicture(const QString &path)
+{
+    // Window 0 is the screen as the person sees it, the companion's windows included.
+    return QGuiApplication::primaryScreen()->grabWindow(0).save(path, "PNG", kFastPng);
+}

@@ -1,0 +1,104 @@
+#include "pilot/x11/XHand.h"
+
+#include "pilot/Action.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QStyleHints>
+
+#include <algorithm>
+#include <utility>
+#include <xcb/xtest.h>
+
+namespace {
+
+constexpr uint8_t kLeftButton = 1;
+constexpr uint8_t kRightButton = 3;
+
+} // namespace
+
+XHand::XHand(std::shared_ptr<const XConnection> x)
+    : m_x(std::move(x))
+{
+}
+
+Hand::Result XHand::perform(const Action &action)
+{
+    switch (action.kind) {
+    case Action::Kind::kClick:
+        return click(m_x->root(), action.place, kLeftButton);
+    case Action::Kind::kDoubleClick:
+        return click(m_x->root(), action.place, kLeftButton, 2);
+    case Action::Kind::kRightClick:
+        return click(m_x->root(), action.place, kRightButton);
+    case Action::Kind::kPressButton:
+        return click(action.window, action.place, kLeftButton);
+    case Action::Kind::kSelectAll:
+        return strike({XKeyboard(*m_x).withControl('a')});
+    case Action::Kind::kEnter:
+        return strike({XKeyboard(*m_x).enter()});
+    case Action::Kind::kType:
+        break;
+    }
+    const XKeyboard keyboard(*m_x);
+    QVector<std::optional<XKeyboard::Key>> keys;
+    const QVector<uint> characters = action.text.toUcs4();
+    for (const uint character : characters) {
+        keys.append(keyboard.keyFor(character));
+    }
+    return strike(keys);
+}
+
+Hand::Result XHand::click(xcb_window_t window, const QPoint &place, uint8_t button, int times)
+{
+    QElapsedTimer clock;
+    clock.start();
+    // A window that moved between the way there and the last click would let the rest go elsewhere.
+    xcb_grab_server(m_x->get());
+    const bool isThere = isVisible(window);
+    if (isThere) {
+        xcb_warp_pointer(m_x->get(), XCB_NONE, window, 0, 0, 0, 0, static_cast<int16_t>(place.x()),
+                         static_cast<int16_t>(place.y()));
+        for (int i = 0; i < times; ++i) {
+            fake(XCB_BUTTON_PRESS, button);
+            fake(XCB_BUTTON_RELEASE, button);
+        }
+    }
+    xcb_ungrab_server(m_x->get());
+    m_x->sync();
+    const bool isTooSlow =
+        times > 1 && clock.hasExpired(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    return isThere && !isTooSlow ? Result::kDone : Result::kMissed;
+}
+
+Hand::Result XHand::strike(const QVector<std::optional<XKeyboard::Key>> &keys)
+{
+    if (!std::all_of(keys.begin(), keys.end(),
+                     [](const std::optional<XKeyboard::Key> &key) { return key.has_value(); })) {
+        return Result::kImpossible;
+    }
+    for (const std::optional<XKeyboard::Key> &key : keys) {
+        if (key->modifier != 0) {
+            fake(XCB_KEY_PRESS, key->modifier);
+        }
+        fake(XCB_KEY_PRESS, key->code);
+        fake(XCB_KEY_RELEASE, key->code);
+        if (key->modifier != 0) {
+            fake(XCB_KEY_RELEASE, key->modifier);
+        }
+    }
+    m_x->sync();
+    return Result::kDone;
+}
+
+bool XHand::isVisible(xcb_window_t window) const
+{
+    const XReply<xcb_get_window_attributes_reply_t> attributes(
+        xcb_get_window_attributes_reply(m_x->get(), xcb_get_window_attributes(m_x->get(), window), nullptr));
+    return attributes != nullptr && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+void XHand::fake(uint8_t what, uint8_t which)
+{
+    xcb_test_fake_input(m_x->get(), what, which, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+}
