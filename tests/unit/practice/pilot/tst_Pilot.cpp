@@ -1,0 +1,392 @@
+#include "FakeEditor.h"
+#include "host/LessonSession.h"
+#include "pilot/Pilot.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+constexpr int kSoonMs = 10000;
+// So often the pilot has looked on when a test takes it that it does nothing.
+constexpr int kSeveral = 6;
+
+constexpr QRect kBubble(100, 170, 640, 480); // where the steps below that point send it
+constexpr QRect kMiddle(601, 399, 640, 480); // where it is sent before the first step
+const Overlays::Window kNext{QRect(300, 500, 64, 32), 7};
+
+const QString kClicking = QStringLiteral(
+    R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
+const QString kTyping = QStringLiteral(
+    R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
+const QString kReading = QStringLiteral(
+    R"({"id":3,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"Read","icon":"eye"})");
+const QString kReadingOn = QStringLiteral(
+    R"({"id":4,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"On","icon":"eye"})");
+
+/// What the screen and the editor show is the test's to say.
+struct Scene
+{
+    std::function<std::optional<Overlays>()> look;
+    bool takesClicks = true;
+    bool takesKeys = true;
+    bool takesPictures = true;
+    int looks = 0;
+    int questionsForKeys = 0;
+    QStringList pictures;
+    QVector<Action> acts;
+    /// What comes of an action; every action is done when there is nothing to say.
+    std::function<Hand::Result(const Action &)> perform;
+};
+
+class SceneEye : public Eye
+{
+public:
+    explicit SceneEye(Scene *scene)
+        : m_scene(scene)
+    {
+    }
+
+    std::optional<Overlays> overlays() override
+    {
+        ++m_scene->looks;
+        return m_scene->look();
+    }
+    bool takesClickAt(const QPoint &spot) override
+    {
+        Q_UNUSED(spot)
+        return m_scene->takesClicks;
+    }
+    bool takesKeysAt(const QPoint &spot) override
+    {
+        Q_UNUSED(spot)
+        ++m_scene->questionsForKeys;
+        return m_scene->takesKeys;
+    }
+    bool takePicture(const QString &path) override
+    {
+        m_scene->pictures += path.section(QLatin1Char('/'), -1);
+        return m_scene->takesPictures;
+    }
+
+private:
+    Scene *m_scene;
+};
+
+class SceneHand : public Hand
+{
+public:
+    explicit SceneHand(Scene *scene)
+        : m_scene(scene)
+    {
+    }
+
+    Result perform(const Action &action) override
+    {
+        m_scene->acts.append(action);
+        return m_scene->perform ? m_scene->perform(action) : Result::kDone;
+    }
+
+private:
+    Scene *m_scene;
+};
+
+} // namespace
+
+class TestPilot : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void waitsForTheBubbleToStand();
+    void aLookThatFailedIsNone();
+    void clicksOnlyWhereTheClickGoes();
+    void typesOnlyWithTheFocus();
+    void plansAnewWhatWasMissed();
+    void keepsTwoClicksApart();
+    void playsToTheEndAndSeesTheOverlaysGo();
+    void aConditionThatStaysFalseIsBroken();
+    void overlaysThatDoNotComeAreBroken();
+    void aFocusThatDoesNotComeIsBroken();
+    void overlaysThatDoNotGoAreBroken();
+    void aKeyThatIsMissingIsBroken();
+    void aPictureThatCannotBeWrittenEndsThePlay();
+    void aRefusedLessonIsBroken();
+    void aLessonThatIsStoppedIsBroken();
+
+private:
+    void makePilot(const Pilot::Settings &settings);
+    void begin(const QStringList &steps);
+    static Pilot::Settings settings();
+
+    Scene m_scene;
+    Overlays m_overlays;
+    std::unique_ptr<FakeEditor> m_editor;
+    std::unique_ptr<LessonSession> m_session;
+    std::unique_ptr<Pilot> m_pilot;
+    QStringList m_progress;
+    std::optional<QString> m_failure;
+};
+
+Pilot::Settings TestPilot::settings()
+{
+    Pilot::Settings settings;
+    settings.title = QStringLiteral("lesson 1 (en_US)");
+    return settings;
+}
+
+void TestPilot::init()
+{
+    m_overlays = {kBubble, {}};
+    m_scene = {};
+    m_scene.look = [this] {
+        return m_overlays;
+    };
+    m_progress.clear();
+    m_failure.reset();
+    m_editor = std::make_unique<FakeEditor>();
+    m_session = std::make_unique<LessonSession>(m_editor.get());
+    makePilot(settings());
+}
+
+void TestPilot::cleanup()
+{
+    m_pilot.reset();
+    m_session.reset();
+    m_editor.reset();
+}
+
+void TestPilot::makePilot(const Pilot::Settings &settings)
+{
+    m_pilot = std::make_unique<Pilot>(m_session.get(), settings, std::make_unique<SceneEye>(&m_scene),
+                                      std::make_unique<SceneHand>(&m_scene));
+    connect(m_pilot.get(), &Pilot::progress, this, [this](const QString &line) { m_progress += line; });
+    connect(m_pilot.get(), &Pilot::ended, this, [this](const QString &failure) { m_failure = failure; });
+}
+
+void TestPilot::begin(const QStringList &steps)
+{
+    m_session->receive(
+        QStringLiteral("start\u0001var scenario = [%1];\u0001-1").arg(steps.join(QLatin1Char(','))));
+    QVERIFY(m_session->runner().isRunning());
+}
+
+void TestPilot::waitsForTheBubbleToStand()
+{
+    // It glides past its place, a pixel a look.
+    QPoint shift(-3, 0);
+    bool glides = true;
+    m_scene.look = [&] {
+        if (glides) {
+            shift.rx() = shift.x() == 3 ? -3 : shift.x() + 1;
+        }
+        return Overlays{kBubble.translated(shift), {}};
+    };
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
+    glides = false;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QCOMPARE(m_scene.acts.constFirst().place, QPoint(138, 320) + shift);
+}
+
+void TestPilot::aLookThatFailedIsNone()
+{
+    m_scene.look = [] {
+        return std::optional<Overlays>();
+    };
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
+    m_scene.look = [this] {
+        return m_overlays;
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+}
+
+void TestPilot::clicksOnlyWhereTheClickGoes()
+{
+    m_scene.takesClicks = false;
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
+    m_scene.takesClicks = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+}
+
+void TestPilot::typesOnlyWithTheFocus()
+{
+    m_scene.takesKeys = false;
+    begin({kTyping});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.questionsForKeys > kSeveral, kSoonMs);
+    QCOMPARE(m_scene.acts.size(), 1);
+    m_scene.takesKeys = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
+    QCOMPARE(m_scene.acts.at(2).text, QStringLiteral("aa"));
+}
+
+void TestPilot::plansAnewWhatWasMissed()
+{
+    m_overlays = {kMiddle, {kNext}};
+    m_scene.perform = [this](const Action &) {
+        if (m_scene.acts.size() > 1) {
+            return Hand::Result::kDone;
+        }
+        // The button has become another window, elsewhere.
+        m_overlays.buttons = {{kNext.rect.translated(0, 50), 9}};
+        return Hand::Result::kMissed;
+    };
+    begin({kReading});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
+    QCOMPARE(m_scene.acts.at(0).window, 7U);
+    QCOMPARE(m_scene.acts.at(1).window, 9U);
+}
+
+void TestPilot::keepsTwoClicksApart()
+{
+    m_overlays = {kMiddle, {kNext}};
+    QElapsedTimer clock;
+    qint64 between = 0;
+    m_scene.perform = [&](const Action &) {
+        if (clock.isValid()) {
+            between = clock.elapsed();
+        }
+        clock.start();
+        QTimer::singleShot(0, m_session.get(), [this] { m_session->receive(QStringLiteral("next")); });
+        return Hand::Result::kDone;
+    };
+    begin({kReading, kReadingOn});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
+    QVERIFY2(between >= 500, qPrintable(QString::number(between)));
+}
+
+void TestPilot::playsToTheEndAndSeesTheOverlaysGo()
+{
+    Pilot::Settings withShots = settings();
+    withShots.shotsFolder = QDir::tempPath();
+    makePilot(withShots);
+    m_scene.perform = [this](const Action &action) {
+        if (action.kind == Action::Kind::kClick) {
+            m_overlays.buttons = {kNext};
+            QTimer::singleShot(0, m_editor.get(),
+                               [this] { m_editor->report(QStringLiteral("list"), QStringLiteral("2")); });
+        } else {
+            QTimer::singleShot(0, m_session.get(), [this] { m_session->receive(QStringLiteral("next")); });
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kClicking, kReading});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
+    const int looks = m_scene.looks;
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > looks + kSeveral, kSoonMs);
+    QVERIFY(!m_failure);
+    m_overlays = {};
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QCOMPARE(*m_failure, QString());
+    QCOMPARE(m_progress.size(), 3);
+    QCOMPARE(m_progress.at(0), QStringLiteral("step 1/2 id 1 MainWindow list,2 ok"));
+    QCOMPARE(m_progress.at(1), QStringLiteral("step 2/2 id 3 - click, ok"));
+    QVERIFY2(m_progress.at(2).startsWith(QStringLiteral("lesson 1 (en_US): played to its end, 2 steps in ")),
+             qPrintable(m_progress.at(2)));
+    QCOMPARE(m_scene.pictures, (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-id3.png"),
+                                            QStringLiteral("003-end.png")}));
+}
+
+void TestPilot::aConditionThatStaysFalseIsBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.conditionMs = 100;
+    hasty.shotsFolder = QDir::tempPath();
+    makePilot(hasty);
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QCOMPARE(*m_failure,
+             QStringLiteral("lesson 1 (en_US) is broken: step 1/1 id 1 MainWindow list,2: the condition does "
+                            "not come true after a click at (138, 320)"));
+    QCOMPARE(m_scene.pictures,
+             (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-broken.png")}));
+}
+
+void TestPilot::overlaysThatDoNotComeAreBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 100;
+    makePilot(hasty);
+    m_overlays = {};
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(m_failure->contains(QStringLiteral("the bubble does not come to rest")), qPrintable(*m_failure));
+}
+
+void TestPilot::aFocusThatDoesNotComeIsBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 1000;
+    makePilot(hasty);
+    m_scene.takesKeys = false;
+    begin({kTyping});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(
+        m_failure->endsWith(QStringLiteral("the window does not get the focus after a click at (138, 320)")),
+        qPrintable(*m_failure));
+}
+
+void TestPilot::overlaysThatDoNotGoAreBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 1000;
+    makePilot(hasty);
+    begin({kClicking});
+    m_editor->report(QStringLiteral("list"), QStringLiteral("2"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(m_failure->contains(QStringLiteral("stay on the screen")), qPrintable(*m_failure));
+}
+
+void TestPilot::aKeyThatIsMissingIsBroken()
+{
+    m_scene.perform = [](const Action &action) {
+        return action.kind == Action::Kind::kType ? Hand::Result::kImpossible : Hand::Result::kDone;
+    };
+    begin({kTyping});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(m_failure->contains(QStringLiteral("typing \"aa\" cannot be done: the keyboard lacks a key")),
+             qPrintable(*m_failure));
+}
+
+void TestPilot::aPictureThatCannotBeWrittenEndsThePlay()
+{
+    Pilot::Settings withShots = settings();
+    withShots.shotsFolder = QDir::tempPath();
+    makePilot(withShots);
+    m_scene.takesPictures = false;
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(m_failure->contains(QDir::tempPath()), qPrintable(*m_failure));
+    QVERIFY(m_scene.acts.isEmpty());
+}
+
+void TestPilot::aRefusedLessonIsBroken()
+{
+    m_session->request(QStringLiteral("TutorialStep9"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY2(m_failure->contains(QStringLiteral("does not hand it over")), qPrintable(*m_failure));
+}
+
+void TestPilot::aLessonThatIsStoppedIsBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 300;
+    makePilot(hasty);
+    begin({kClicking});
+    m_session->stop();
+    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestPilot)
+#include "tst_Pilot.moc"
