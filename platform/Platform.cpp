@@ -66,8 +66,12 @@ void takeScreenPixels()
     for (const QString &variable : variables) {
         qunsetenv(variable.toLatin1());
     }
-    // Those above are asked for; without them it may still be the default.
+    // Those above are asked for; without them it may still be the default, and in Qt 6 it always is.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+#else
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+#endif
 }
 
 } // namespace Platform

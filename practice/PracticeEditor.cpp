@@ -4,7 +4,6 @@
 
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTextStream>
 
 #include <cstdio>
 
@@ -14,9 +13,8 @@ constexpr QPoint kPanelPlace(490, 40);
 
 void printLine(FILE *stream, const QString &line)
 {
-    QTextStream out(stream);
-    out.setCodec("UTF-8");
-    out << line << '\n';
+    std::fputs((line + QLatin1Char('\n')).toUtf8().constData(), stream);
+    std::fflush(stream);
 }
 
 } // namespace

@@ -140,7 +140,9 @@ QString SystemService::loadFile(const QString &filename)
         return {};
     }
     QTextStream stream(&file);
-    stream.setCodec("UTF-8");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    stream.setCodec("UTF-8"); // which Qt 6 takes unless told otherwise
+#endif
     return stream.readAll();
 }
 

@@ -27,17 +27,18 @@ QString withoutBlockComments(const QString &text)
     kept.reserve(text.size());
     int rest = 0; // what is kept so far holds no comment, alone; it may with what follows
     for (;;) {
-        const bool joined = kept.endsWith(QLatin1Char('/')) && text.midRef(rest, 1) == QLatin1String("*");
+        const bool joined =
+            kept.endsWith(QLatin1Char('/')) && QStringView(text).mid(rest).startsWith(QLatin1Char('*'));
         const int start = joined ? rest - 1 : text.indexOf(open, rest);
         const int end = start < 0 && !joined ? -1 : text.indexOf(close, start + open.size());
         if (end < 0) {
-            kept += text.midRef(rest);
+            kept.append(text.constData() + rest, text.size() - rest);
             return kept;
         }
         if (joined) {
             kept.chop(1);
         } else {
-            kept += text.midRef(rest, start - rest);
+            kept.append(text.constData() + rest, start - rest);
         }
         rest = end + close.size();
     }
@@ -51,11 +52,11 @@ QString withoutLineComments(const QString &text)
     for (;;) {
         const int end = text.indexOf(QLatin1Char('\n'), line);
         if (end < 0) {
-            kept += text.midRef(line);
+            kept.append(text.constData() + line, text.size() - line);
             return kept;
         }
         if (!isComment(QStringView(text).mid(line, end - line))) {
-            kept += text.midRef(line, end + 1 - line);
+            kept.append(text.constData() + line, end + 1 - line);
         }
         line = end + 1;
     }

@@ -78,7 +78,7 @@ LogLine &LogLine::operator<<(const QStringList &texts)
             break;
         }
     }
-    m_stream << fronts;
+    writeList(fronts);
     return endOfCut(cut);
 }
 

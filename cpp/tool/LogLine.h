@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDebug>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -29,6 +30,13 @@ public:
     LogLine &operator<<(const QStringList &texts);
     LogLine &operator<<(const QVariantMap &values);
 
+    template<typename Value>
+    LogLine &operator<<(const QList<Value> &values)
+    {
+        writeList(values);
+        return *this;
+    }
+
     LogLine &operator<<(const char *text)
     {
         m_stream << text;
@@ -46,6 +54,20 @@ private:
     template<typename Text>
     Text fitting(const Text &text);
     LogLine &endOfCut(bool cut);
+
+    /// Brackets and commas are written here: from Qt 6 on Qt has the container's name in front of them.
+    template<typename Value>
+    void writeList(const QList<Value> &values)
+    {
+        const QDebugStateSaver saver(m_stream);
+        m_stream.nospace() << '(';
+        const char *comma = "";
+        for (const Value &value : values) {
+            m_stream << comma << value;
+            comma = ", ";
+        }
+        m_stream << ')';
+    }
 
     QDebug m_stream;
     qint64 m_left;

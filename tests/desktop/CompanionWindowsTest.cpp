@@ -128,8 +128,7 @@ bool CompanionWindowsTest::waitForBeats(int count)
     }
     const int now = m_host->log().size();
     return FakeHost::waitFor([&] {
-        return m_host->log().midRef(now).count(QStringLiteral("TutorialManager::send 1396 \"alive\"")) >=
-               count;
+        return m_host->log().mid(now).count(QStringLiteral("TutorialManager::send 1396 \"alive\"")) >= count;
     });
 }
 

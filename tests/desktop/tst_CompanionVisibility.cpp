@@ -69,7 +69,7 @@ void tst_CompanionVisibility::shortAbsenceKeepsTheWindows()
         m_host->send({QStringLiteral("state"), QStringLiteral("show")});
         // The next "show" within ten ticks would be none.
         QVERIFY(FakeHost::waitFor([&] {
-            return m_host->log().midRef(logged).contains(QLatin1String("m_logHideIgnoreTimeout now 0\n"));
+            return m_host->log().mid(logged).contains(QLatin1String("m_logHideIgnoreTimeout now 0\n"));
         }));
         const QRegularExpressionMatch match = line.match(m_host->log(), logged);
         QVERIFY(match.hasMatch());

@@ -80,7 +80,7 @@ QVector<CommandList> commandLists(const Files &files)
         const QJsonArray troopPages = objectsIn(troops.at(id), "pages");
         for (const QJsonValue &page : troopPages) {
             lists.append({QStringLiteral("Troops.json entry %1").arg(id), objectsIn(page, "list"), 0,
-                          objectsIn(troops.at(id), "members").size()});
+                          int(objectsIn(troops.at(id), "members").size())});
         }
     }
     return lists;

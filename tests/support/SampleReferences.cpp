@@ -160,7 +160,7 @@ private:
                 const QJsonObject conditions = page.toObject().value(QLatin1String("conditions")).toObject();
                 if (conditions.contains(QLatin1String("enemyHp"))) {
                     const int index = conditions.value(QLatin1String("enemyIndex")).toInt(-1);
-                    needEnemy({place, {}, 0, members.size()}, index);
+                    needEnemy({place, {}, 0, int(members.size())}, index);
                 }
             }
         });

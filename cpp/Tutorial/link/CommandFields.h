@@ -2,7 +2,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <QStringRef>
+#include <QStringView>
 
 /// The fields of one command. A field that the sender left out reads as empty text, and as the number 0.
 class CommandFields
@@ -26,9 +26,10 @@ public:
     [[nodiscard]] int number(int index) const { return text(index).toInt(nullptr, 10); }
 
     /// Field 0 of a command, without a look at the others.
-    [[nodiscard]] static QStringRef word(const QString &command)
+    [[nodiscard]] static QStringView word(const QString &command)
     {
-        return command.leftRef(command.indexOf(kSeparator));
+        const int end = command.indexOf(kSeparator);
+        return QStringView(command).left(end < 0 ? command.size() : end);
     }
 
     /// Joins fields to a command.

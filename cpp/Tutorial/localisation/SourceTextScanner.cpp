@@ -115,7 +115,7 @@ private:
 
     [[nodiscard]] bool startsWith(const QString &marker, int position) const
     {
-        return m_text.midRef(position, marker.size()) == marker;
+        return QStringView(m_text).mid(position).startsWith(marker);
     }
     [[nodiscard]] QString remainder(int position) const { return m_text.mid(position); }
     Value fail(const QString &failure, int position)
@@ -165,7 +165,7 @@ Pass::Value Pass::readValue(int position)
         waiting.pop_back();
         const QString argument = value.text.mid(1, value.text.size() - 2); // without its quotes
         const QString text = call.text.arg(argument);
-        const bool closed = value.end != kNothingLeft && m_text.midRef(value.end, 1) == QLatin1String(")");
+        const bool closed = value.end != kNothingLeft && startsWith(QStringLiteral(")"), value.end);
         if (closed) {
             value = {text, value.end + 1, true};
         } else {
@@ -212,7 +212,7 @@ Pass::Value Pass::readSimpleCall(int position)
     }
     const int quote = position + simpleOpening().size() - 1;
     const QString quoted = m_text.mid(quote, closing + 1 - quote);
-    return {translated(m_context, quoted), closing + callClosing().size(), true};
+    return {translated(m_context, quoted), closing + int(callClosing().size()), true};
 }
 
 Pass::Value Pass::readContextCall(int position)
@@ -239,7 +239,7 @@ Pass::Value Pass::readContextCall(int position)
     // A separator that stands behind the closing pair gives a length below zero, which reaches to the end.
     const int source = separator + separatorLength;
     const QString quoted = QStringLiteral("\"%1\"").arg(m_text.mid(source, closing - source));
-    return {translated(context, quoted), closing + callClosing().size(), true};
+    return {translated(context, quoted), closing + int(callClosing().size()), true};
 }
 
 QString Pass::translated(const QString &context, const QString &quoted) const
@@ -266,7 +266,7 @@ QString Pass::replaceCalls(const QString &opening, int gap)
     int copied = 0;
     while (call != -1) {
         const Value value = readValue(call);
-        result += m_text.midRef(copied, call - copied);
+        result.append(m_text.constData() + copied, call - copied);
         result += value.text;
         if (value.end == kNothingLeft) {
             return result;
@@ -274,7 +274,7 @@ QString Pass::replaceCalls(const QString &opening, int gap)
         copied = value.end;
         call = m_text.indexOf(opening, copied + gap);
     }
-    result += m_text.midRef(copied);
+    result.append(m_text.constData() + copied, m_text.size() - copied);
     return result;
 }
 

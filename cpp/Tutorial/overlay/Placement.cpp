@@ -91,7 +91,7 @@ QPoint clampToReach(const QPoint &position)
 int clampToInt(qint64 value)
 {
     return static_cast<int>(
-        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+        qBound(qint64(std::numeric_limits<int>::min()), value, qint64(std::numeric_limits<int>::max())));
 }
 
 int truncateToInt(double value)

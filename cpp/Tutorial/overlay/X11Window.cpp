@@ -2,7 +2,10 @@
 
 #ifdef TUTORIAL_X11
 
+#include <QGuiApplication>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QX11Info>
+#endif
 
 #include <array>
 #include <cstdlib>
@@ -21,9 +24,24 @@ constexpr int kHintGroup = 8;
 constexpr quint32 kHasGroup = 1U << 6U;
 using Hints = std::array<quint32, 9>;
 
+/// The connection that Qt's own requests take. To be asked only on an X11 platform.
+xcb_connection_t *connectionOfQt()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QX11Info::connection();
+#else
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+#endif
+}
+
+bool isPlatformX11()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
 Hints hintsOf(xcb_window_t window)
 {
-    xcb_connection_t *const connection = QX11Info::connection();
+    xcb_connection_t *const connection = connectionOfQt();
     const xcb_get_property_cookie_t cookie =
         xcb_get_property(connection, 0, window, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 0, Hints().size());
     const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, nullptr),
@@ -39,7 +57,7 @@ Hints hintsOf(xcb_window_t window)
 xcb_atom_t frameExtents()
 {
     constexpr char kName[] = "_GTK_FRAME_EXTENTS";
-    xcb_connection_t *const connection = QX11Info::connection();
+    xcb_connection_t *const connection = connectionOfQt();
     const Owned<xcb_intern_atom_reply_t> reply(
         xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, sizeof(kName) - 1, kName), nullptr),
         &std::free);
@@ -49,7 +67,7 @@ xcb_atom_t frameExtents()
 template<std::size_t Size>
 void set(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, const std::array<quint32, Size> &values)
 {
-    xcb_change_property(QX11Info::connection(), XCB_PROP_MODE_REPLACE, window, property, type, 32,
+    xcb_change_property(connectionOfQt(), XCB_PROP_MODE_REPLACE, window, property, type, 32,
                         static_cast<quint32>(values.size()), values.data());
 }
 
@@ -59,7 +77,7 @@ namespace X11Window {
 
 void setOwnGroup(WId window)
 {
-    if (!QX11Info::isPlatformX11()) {
+    if (!isPlatformX11()) {
         return;
     }
     const auto id = static_cast<xcb_window_t>(window);
@@ -71,7 +89,7 @@ void setOwnGroup(WId window)
 
 void setInvisibleFrame(WId window, const QMargins &margins)
 {
-    if (!QX11Info::isPlatformX11()) {
+    if (!isPlatformX11()) {
         return;
     }
     static const xcb_atom_t property = frameExtents();

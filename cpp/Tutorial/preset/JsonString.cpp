@@ -35,7 +35,7 @@ void appendJsonString(QString &json, const QString &text)
         if (character >= 0x20 && character != '"' && character != '\\') {
             continue;
         }
-        json += text.midRef(copied, i - copied);
+        json.append(text.constData() + copied, i - copied);
         copied = i + 1;
         const QChar letter = shortEscape(character);
         if (letter.isNull()) {
@@ -45,6 +45,6 @@ void appendJsonString(QString &json, const QString &text)
             json += letter;
         }
     }
-    json += text.midRef(copied);
+    json.append(text.constData() + copied, text.size() - copied);
     json += QLatin1Char('"');
 }

@@ -154,7 +154,7 @@ TranslateText limited(const TranslateText &translate, qint64 &room)
 {
     return [&translate, &room](const QString &context, const QString &text) {
         QString translation = translate(context, text);
-        room -= std::max(translation.size() - text.size(), 0);
+        room -= std::max<qint64>(translation.size() - text.size(), 0);
         if (room < 0) {
             throw TextsTooLong();
         }
@@ -204,7 +204,7 @@ QStringList listPresetSteps(const QString &patchRoot)
         }
     }
     std::sort(steps.begin(), steps.end(), [](const QString &left, const QString &right) {
-        return left.midRef(kNumberIndex).toInt() < right.midRef(kNumberIndex).toInt();
+        return left.mid(kNumberIndex).toInt() < right.mid(kNumberIndex).toInt();
     });
     return steps;
 }

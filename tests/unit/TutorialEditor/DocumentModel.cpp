@@ -137,7 +137,7 @@ void DocumentModel::nameItems(const ModelNode &node)
         int highest = 0;
         for (const QString &name : qAsConst(m_usedNames)) {
             bool number = false;
-            const int value = name.startsWith(base) ? name.midRef(base.size()).toInt(&number) : 0;
+            const int value = name.startsWith(base) ? name.mid(base.size()).toInt(&number) : 0;
             highest = number ? qMax(highest, value) : highest;
         }
         entry->name = QStringLiteral("%1%2").arg(base).arg(highest + 1, 3, 10, QLatin1Char('0'));

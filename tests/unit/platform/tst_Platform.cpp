@@ -118,13 +118,16 @@ void TestPlatform::findsTheVariablesThatScale()
 
 void TestPlatform::takesScreenPixels()
 {
-    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling, false);
     qputenv("QT_SCALE_FACTOR", "1.5");
     qputenv("QT_SCREEN_SCALE_FACTORS", "2");
     Platform::takeScreenPixels();
     QVERIFY(!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"));
     QVERIFY(!qEnvironmentVariableIsSet("QT_SCREEN_SCALE_FACTORS"));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_DisableHighDpiScaling));
+#else
+    QCOMPARE(qgetenv("QT_ENABLE_HIGHDPI_SCALING"), QByteArray("0"));
+#endif
 }
 
 void TestPlatform::takesTheWindowSystem()

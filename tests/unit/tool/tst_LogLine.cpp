@@ -13,6 +13,7 @@ class tst_LogLine : public QObject
 private Q_SLOTS:
     void begins_with_source_function_and_number();
     void writes_whole_what_fits();
+    void writesListsInBrackets();
     void cuts_what_would_not_fit_data();
     void cuts_what_would_not_fit();
     void counts_escapes_as_they_are_written();
@@ -29,6 +30,15 @@ QString lineOf(int most, const QString &text)
     return written;
 }
 
+QStringList manyTexts()
+{
+    QStringList texts;
+    for (int i = 0; i < 1 << 19; ++i) {
+        texts.append(QString());
+    }
+    return texts;
+}
+
 } // namespace
 
 void tst_LogLine::begins_with_source_function_and_number()
@@ -43,19 +53,26 @@ void tst_LogLine::begins_with_source_function_and_number()
 void tst_LogLine::writes_whole_what_fits()
 {
     LogCapture log;
-    const QStringList texts = {QStringLiteral("a\x01"), QString(), QStringLiteral("b")};
     const QVariantMap map = {{QStringLiteral("number"), 1}, {QStringLiteral("text"), QStringLiteral("c")}};
     logDebug("s", "f", 1) << QString()
                           << QByteArray("\x01"
                                         "a")
-                          << texts << map << "plain" << true;
+                          << map << "plain" << true;
     QString expected;
     QDebug(&expected) << "s"
                       << "f" << 1 << QString()
                       << QByteArray("\x01"
                                     "a")
-                      << texts << map << "plain" << true;
+                      << map << "plain" << true;
     QCOMPARE(log.lines(), QStringList{expected.trimmed()});
+}
+
+void tst_LogLine::writesListsInBrackets()
+{
+    LogCapture log;
+    const QStringList texts = {QStringLiteral("a\x01"), QString(), QStringLiteral("b")};
+    logDebug("s", "f", 1) << texts << QStringList() << QList<int>{1, 2} << "plain";
+    QCOMPARE(log.lines(), QStringList{QStringLiteral(R"(s f 1 ("a\u0001", "", "b") () (1, 2) plain)")});
 }
 
 void tst_LogLine::cuts_what_would_not_fit_data()
@@ -65,7 +82,7 @@ void tst_LogLine::cuts_what_would_not_fit_data()
     QTest::newRow("text") << QVariant(text);
     QTest::newRow("bytes") << QVariant(QByteArray(1 << 20, '\x80'));
     QTest::newRow("list") << QVariant(QStringList{QStringLiteral("first"), text, QStringLiteral("last")});
-    QTest::newRow("list of many") << QVariant(QStringList(QVector<QString>(1 << 19).toList()));
+    QTest::newRow("list of many") << QVariant(manyTexts());
     QTest::newRow("map") << QVariant(
         QVariantMap{{QStringLiteral("first"), 1}, {QStringLiteral("key"), text}});
 }
