@@ -9,14 +9,14 @@ function(tutorial_add_catalogues result bundle prefix locales)
         set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${locale}.ts")
         set(catalogue "${CMAKE_CURRENT_BINARY_DIR}/${locale}.qm")
         add_custom_command(OUTPUT "${catalogue}"
-            COMMAND Qt5::lrelease -silent "${source}" -qm "${catalogue}"
+            COMMAND Qt${QT_VERSION_MAJOR}::lrelease -silent "${source}" -qm "${catalogue}"
             DEPENDS "${source}" VERBATIM)
         list(APPEND catalogues "${catalogue}")
         string(APPEND entries "    <file>${locale}.qm</file>\n")
     endforeach()
     file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${bundle}.qrc"
         CONTENT "<RCC>\n  <qresource prefix=\"${prefix}\">\n${entries}  </qresource>\n</RCC>\n")
-    qt5_add_resources(bundle_source "${CMAKE_CURRENT_BINARY_DIR}/${bundle}.qrc" OPTIONS ${ARGN})
+    tutorial_add_resources(bundle_source "${CMAKE_CURRENT_BINARY_DIR}/${bundle}.qrc" OPTIONS ${ARGN})
     set_property(SOURCE ${bundle_source} APPEND PROPERTY OBJECT_DEPENDS "${catalogues}")
     set(${result} ${bundle_source} PARENT_SCOPE)
 endfunction()

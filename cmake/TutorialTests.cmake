@@ -30,7 +30,7 @@ function(tutorial_add_test name label)
         set(arg_TIMEOUT 300)
     endif()
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE tutorial_options tutorial_test_support Qt5::Test ${arg_LIBRARIES})
+    target_link_libraries(${name} PRIVATE tutorial_options tutorial_test_support Qt${QT_VERSION_MAJOR}::Test ${arg_LIBRARIES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests" TUTORIAL_TEST ON)
     # The file that AUTOMOC adds is empty, and reading Qt's precompiled headers takes the longest of it.
     set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
