@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+
 #include <string>
 
 /// What the program expects of a data file.

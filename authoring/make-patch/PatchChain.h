@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVector>
+
 #include <cstddef>
 #include <functional>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+
 #include <string>
 
 /// Whole files, with the reason of a failure in words for the one who runs the tool.

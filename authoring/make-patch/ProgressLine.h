@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QString>
+
 #include <cstddef>
 
 /// A line on the error output that tells how far a long run is, rewritten in place and gone at the end.

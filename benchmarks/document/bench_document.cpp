@@ -4,16 +4,6 @@
 // Then the time of single steps of an author on a document of 10,000 items in a tree of depth 5; the program
 // fails when one takes longer than kInteractiveSeconds.
 
-#include <algorithm>
-#include <cstdio>
-#include <ctime>
-#include <functional>
-#include <limits>
-
-#include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "Tutorial/localisation/ScenarioTexts.h"
 #include "TutorialEditor/ItemClipboard.h"
 #include "TutorialEditor/ItemTreeOperations.h"
@@ -21,6 +11,16 @@
 #include "TutorialEditor/ScenarioSource.h"
 #include "TutorialEditor/TutorialItemData.h"
 #include "UndoRedo/UndoRedo.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <limits>
 
 namespace {
 

@@ -2,15 +2,15 @@
 // per item must stay flat: the program fails when the slowest length takes more than kFlatWithin times the
 // fastest.
 
-#include <algorithm>
-#include <cstdio>
-#include <ctime>
-#include <limits>
+#include "Tutorial/localisation/ScenarioTexts.h"
 
 #include <QCoreApplication>
 #include <QStringList>
 
-#include "Tutorial/localisation/ScenarioTexts.h"
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <limits>
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "SystemService/SystemService.h"
 
+#include "tool/LogLine.h"
+
 #include <QCoreApplication>
 #include <QDataStream>
 #include <QDesktopServices>
@@ -10,8 +12,6 @@
 #include <QStandardPaths>
 #include <QTextStream>
 #include <QUrl>
-
-#include "tool/LogLine.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "TutorialEditor/ScenarioSource.h"
 
+#include "tool/SourceArray.h"
+
 #include <QLatin1String>
 #include <QStringView>
-
-#include "tool/SourceArray.h"
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "SampleEvents.h"
 
 #include <QJsonArray>
-
 #include <QSet>
 
 #include <functional>

@@ -1,3 +1,6 @@
+#include "LogCapture.h"
+#include "SystemService/SystemService.h"
+
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -6,9 +9,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include "LogCapture.h"
-#include "SystemService/SystemService.h"
 
 namespace {
 

@@ -1,6 +1,5 @@
-#include "TutorialFont/TutorialFont.h"
-
 #include "LogCapture.h"
+#include "TutorialFont/TutorialFont.h"
 
 #include <QDir>
 #include <QFile>

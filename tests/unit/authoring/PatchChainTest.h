@@ -7,8 +7,9 @@
 #include <QHash>
 #include <QObject>
 
-#include <fcntl.h>
 #include <memory>
+
+#include <fcntl.h>
 #include <unistd.h>
 
 /// Steps and patches in a directory of its own for each test.
