@@ -10,8 +10,9 @@ QSet<QString> placeMarkers(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("%[1-9]"));
     QSet<QString> markers;
-    for (auto match = form.globalMatch(text); match.hasNext();)
+    for (auto match = form.globalMatch(text); match.hasNext();) {
         markers.insert(match.next().captured());
+    }
     return markers;
 }
 
@@ -30,18 +31,21 @@ public:
     {
         if (m_xml.readNextStartElement()) {
             const QString language = m_xml.attributes().value(QLatin1String("language")).toString();
-            if (m_xml.name() != QLatin1String("TS") || language != locale)
+            if (m_xml.name() != QLatin1String("TS") || language != locale) {
                 report(line(), {}, {},
                        QStringLiteral("the root has to be TS with the language \"%1\"").arg(locale));
+            }
             while (m_xml.readNextStartElement()) {
-                if (m_xml.name() == QLatin1String("context"))
+                if (m_xml.name() == QLatin1String("context")) {
                     readContext();
-                else
+                } else {
                     m_xml.skipCurrentElement();
+                }
             }
         }
-        if (m_xml.hasError())
+        if (m_xml.hasError()) {
             report(line(), {}, {}, m_xml.errorString());
+        }
         return m_contexts;
     }
 
@@ -52,8 +56,9 @@ private:
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("name")) {
                 context = m_xml.readElementText();
-                if (m_contexts.contains(context))
+                if (m_contexts.contains(context)) {
                     report(line(), context, {}, QStringLiteral("the context stands twice"));
+                }
                 m_contexts[context];
             } else if (m_xml.name() == QLatin1String("message")) {
                 readMessage(context);
@@ -78,19 +83,22 @@ private:
                 m_xml.skipCurrentElement();
             }
         }
-        if (m_contexts.value(context).contains(source))
+        if (m_contexts.value(context).contains(source)) {
             report(message.line, context, source, QStringLiteral("the text stands twice"));
-        if (!state.isEmpty())
+        }
+        if (!state.isEmpty()) {
             report(message.line, context, source, QStringLiteral("the translation is marked %1").arg(state));
-        else if (message.translation.trimmed().isEmpty())
+        } else if (message.translation.trimmed().isEmpty()) {
             report(message.line, context, source, QStringLiteral("the translation is empty"));
-        else
+        } else {
             m_contexts[context].insert(source, message);
+        }
         const QSet<QString> markers = placeMarkers(source);
         for (const QString &marker : markers) {
-            if (!message.translation.contains(marker))
+            if (!message.translation.contains(marker)) {
                 report(message.line, context, source,
                        QStringLiteral("the translation lacks the place marker %1").arg(marker));
+            }
         }
     }
 

@@ -12,16 +12,18 @@ namespace {
 
 QString shown(const QJsonValue &value)
 {
-    if (value.isString())
+    if (value.isString()) {
         return QStringLiteral("\"%1\"").arg(value.toString());
+    }
     return QString::number(value.toInt());
 }
 
 QJsonObject toJson(const QMap<QString, int> &counts)
 {
     QJsonObject object;
-    for (auto count = counts.cbegin(); count != counts.cend(); ++count)
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
         object.insert(count.key(), count.value());
+    }
     return object;
 }
 
@@ -39,13 +41,14 @@ Census::Census(QString file, const QByteArray &json, Findings &findings)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     m_rows = document.object();
-    if (error.error != QJsonParseError::NoError || !document.isObject())
+    if (error.error != QJsonParseError::NoError || !document.isObject()) {
         findings.append({Finding::Kind::kError,
                          m_file,
                          0,
                          {},
                          {},
                          QStringLiteral("the table is not a JSON object: %1").arg(error.errorString())});
+    }
 }
 
 QJsonObject Census::count(const Lesson &lesson)
@@ -66,8 +69,9 @@ QJsonObject Census::count(const Lesson &lesson)
         jumps += step.jump != -1 ? 1 : 0;
         jumpNos += step.jumpNo != -1 ? 1 : 0;
         maxTranslationId = std::max(maxTranslationId, step.translationId);
-        if (!step.command.isEmpty())
+        if (!step.command.isEmpty()) {
             commands.append(step.command);
+        }
     }
     return {{QStringLiteral("items"), lesson.steps.size()},
             {QStringLiteral("windows"), toJson(windows)},
@@ -107,8 +111,9 @@ Findings Census::check(const Lesson &lesson) const
     figures.sort();
     for (const QString &figure : figures) {
         if (!has.value(figure).isObject()) {
-            if (has.value(figure) != wanted.value(figure))
+            if (has.value(figure) != wanted.value(figure)) {
                 report(figure, has.value(figure), wanted.value(figure));
+            }
             continue;
         }
         const QJsonObject hasCounts = has.value(figure).toObject();
@@ -117,9 +122,10 @@ Findings Census::check(const Lesson &lesson) const
         QStringList keys(all.cbegin(), all.cend());
         keys.sort();
         for (const QString &key : keys) {
-            if (hasCounts.value(key) != wantedCounts.value(key))
+            if (hasCounts.value(key) != wantedCounts.value(key)) {
                 report(QStringLiteral("%1 %2").arg(figure, key), hasCounts.value(key),
                        wantedCounts.value(key));
+            }
         }
     }
     return findings;

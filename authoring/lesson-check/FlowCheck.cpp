@@ -16,19 +16,22 @@ public:
 
     Findings run()
     {
-        for (int i = 0; i < m_lesson.steps.size(); ++i)
+        for (int i = 0; i < m_lesson.steps.size(); ++i) {
             index(i);
+        }
         for (const ScenarioItem &step : m_lesson.steps) {
             checkTarget(step, QStringLiteral("jump"), step.jump);
             checkTarget(step, QStringLiteral("jumpNo"), step.jumpNo);
         }
-        for (int i = 0; i < m_lesson.steps.size(); ++i)
+        for (int i = 0; i < m_lesson.steps.size(); ++i) {
             checkClick(i);
+        }
         follow();
         for (int i = 0; i < m_lesson.steps.size(); ++i) {
-            if (!m_reached.at(i))
+            if (!m_reached.at(i)) {
                 report(m_lesson.steps.at(i), {},
                        QStringLiteral("no way through the lesson reaches this step"));
+            }
         }
         return m_findings;
     }
@@ -37,20 +40,22 @@ private:
     void index(int at)
     {
         const ScenarioItem &step = m_lesson.steps.at(at);
-        if (step.id < 0)
+        if (step.id < 0) {
             report(step, QStringLiteral("id"), QStringLiteral("an id is 0 or more"));
-        else if (m_indexById.contains(step.id))
+        } else if (m_indexById.contains(step.id)) {
             report(step, QStringLiteral("id"),
                    QStringLiteral("the item in line %1 has the same id")
                        .arg(m_lesson.steps.at(m_indexById.value(step.id)).line));
-        else
+        } else {
             m_indexById.insert(step.id, at);
+        }
     }
 
     void checkTarget(const ScenarioItem &step, const QString &field, int target)
     {
-        if (target != -1 && !m_indexById.contains(target))
+        if (target != -1 && !m_indexById.contains(target)) {
             report(step, field, QStringLiteral("no item has the id %1").arg(target));
+        }
     }
 
     /// Index of the step behind the one at @p at, without a question between them; -1 for a jump to nowhere.
@@ -65,16 +70,18 @@ private:
     void checkClick(int at)
     {
         const int behind = next(at);
-        if (behind < 0 || behind >= m_lesson.steps.size())
+        if (behind < 0 || behind >= m_lesson.steps.size()) {
             return;
+        }
         const ScenarioItem &step = m_lesson.steps.at(at);
         const ScenarioItem &other = m_lesson.steps.at(behind);
         if (step.condition.startsWith(QLatin1String("pressed,")) &&
-            other.condition.startsWith(QLatin1String("mouseEvent,")))
+            other.condition.startsWith(QLatin1String("mouseEvent,"))) {
             report(other, QStringLiteral("condition"),
                    QStringLiteral("the click that ends item %1 would end this step as well, when the button "
                                   "comes up")
                        .arg(step.id));
+        }
     }
 
     /// Marks every step that can be reached from the first.
@@ -92,8 +99,9 @@ private:
             const int at = open.takeLast();
             const ScenarioItem &step = m_lesson.steps.at(at);
             visit(next(at));
-            if (step.condition == QLatin1String("yesNo"))
+            if (step.condition == QLatin1String("yesNo")) {
                 visit(step.jumpNo == -1 ? at + 1 : m_indexById.value(step.jumpNo, -1));
+            }
         }
     }
 

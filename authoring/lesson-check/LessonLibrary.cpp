@@ -67,8 +67,9 @@ Findings LessonLibrary::check(bool complete)
 QByteArray LessonLibrary::read(const QString &file)
 {
     QByteArray bytes;
-    if (!DataSupport::readFile(QDir(m_root).filePath(file), bytes))
+    if (!DataSupport::readFile(QDir(m_root).filePath(file), bytes)) {
         report(Finding::Kind::kError, file, 0, {}, QStringLiteral("the file cannot be read"));
+    }
     return bytes;
 }
 
@@ -106,8 +107,9 @@ void LessonLibrary::readLessons(bool complete)
         m_findings += reader.findings();
         m_lessons.append({entry.filename, file, steps});
         // Where the form is wrong, the companion's complaints would only repeat it.
-        if (reader.findings().isEmpty())
+        if (reader.findings().isEmpty()) {
             m_findings += checkLoading(m_lessons.constLast(), QDir(m_root).filePath(file));
+        }
     }
 }
 
@@ -121,12 +123,14 @@ void LessonLibrary::checkShipped()
         const auto lists = [&](const LessonEntry &entry) {
             return entry.filename == base;
         };
-        if (scenarioFile(base) != listFile() && std::none_of(m_entries.cbegin(), m_entries.cend(), lists))
+        if (scenarioFile(base) != listFile() && std::none_of(m_entries.cbegin(), m_entries.cend(), lists)) {
             report(Finding::Kind::kError, scenarioFile(base), 0, {},
                    QStringLiteral("the lesson is not in the list"));
-        if (!bundle.contains("<file>qml/Tutorial/" + name.toUtf8() + "</file>"))
+        }
+        if (!bundle.contains("<file>qml/Tutorial/" + name.toUtf8() + "</file>")) {
             report(Finding::Kind::kError, bundleFile(), 0, {},
                    QStringLiteral("the file qml/Tutorial/%1 is not in the bundle").arg(name));
+        }
     }
 }
 
@@ -150,22 +154,26 @@ void LessonLibrary::checkLessons()
     BubbleCheck bubble;
     for (const Lesson &lesson : qAsConst(m_lessons)) {
         m_findings += checkSteps(lesson, windows);
-        for (const Catalogue &catalogue : qAsConst(m_catalogues))
+        for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
             m_findings += bubble.check(catalogue, lesson.name);
+        }
         // One field that cannot be read would be counted as missing once more by each of these.
         const auto isWhole = [](const ScenarioItem &step) {
             return step.unread.isEmpty();
         };
-        if (!std::all_of(lesson.steps.cbegin(), lesson.steps.cend(), isWhole))
+        if (!std::all_of(lesson.steps.cbegin(), lesson.steps.cend(), isWhole)) {
             continue;
+        }
         m_findings += checkFlow(lesson);
         m_findings += census.check(lesson);
         m_findings += checkNumbers(lesson);
-        for (const Catalogue &catalogue : qAsConst(m_catalogues))
+        for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
             m_findings += checkTexts(lesson, catalogue);
+        }
     }
-    for (const Catalogue &catalogue : qAsConst(m_catalogues))
+    for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
         m_findings += checkTitles(listFile(), m_entries, catalogue);
+    }
     m_findings += checkLanguages(m_catalogues);
 }
 
@@ -179,9 +187,10 @@ void LessonLibrary::checkContexts()
                 return lesson.name == context;
             };
             if (lessonName.match(context).hasMatch() &&
-                std::none_of(m_lessons.cbegin(), m_lessons.cend(), isIt))
+                std::none_of(m_lessons.cbegin(), m_lessons.cend(), isIt)) {
                 report(Finding::Kind::kError, catalogue.file(), 0, context,
                        QStringLiteral("no lesson has this name, so its texts are never used"));
+            }
         }
     }
 }

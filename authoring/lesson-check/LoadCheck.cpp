@@ -32,12 +32,14 @@ Findings checkLoading(const Lesson &lesson, const QString &path)
     const auto report = [&](const QString &text) {
         findings.append({Finding::Kind::kError, lesson.file, 0, {}, {}, text});
     };
-    for (const QString &error : errors)
+    for (const QString &error : errors) {
         report(QStringLiteral("the companion cannot load it: %1").arg(beginning(error)));
-    if (found != lesson.steps.size())
+    }
+    if (found != lesson.steps.size()) {
         report(QStringLiteral("the companion finds %1 of the %2 items: it takes a text for something else, "
                               "such as the end of a name for qsTr(; write that text in other words")
                    .arg(found)
                    .arg(lesson.steps.size()));
+    }
     return findings;
 }

@@ -28,8 +28,9 @@ Setter integer(int ScenarioItem::*member)
         static const QRegularExpression form(QStringLiteral("^-?(0|[1-9][0-9]*)$"));
         bool fits = false;
         const int number = value.toInt(&fits);
-        if (!fits || !form.match(value).hasMatch())
+        if (!fits || !form.match(value).hasMatch()) {
             return false;
+        }
         step.*member = number;
         return true;
     };
@@ -56,8 +57,9 @@ bool setHint(ScenarioItem &step, const QString &value)
 {
     static const QRegularExpression form(QStringLiteral("^qsTr\\(\"#([1-9][0-9]*)\"\\)$"));
     const QRegularExpressionMatch match = form.match(value);
-    if (match.hasMatch())
+    if (match.hasMatch()) {
         step.hint = match.captured(1).toInt();
+    }
     return match.hasMatch();
 }
 
@@ -90,8 +92,9 @@ int fieldIndex(const QString &name)
 {
     const auto &all = fields();
     for (int i = 0; i < static_cast<int>(all.size()); ++i) {
-        if (all.at(static_cast<std::size_t>(i)).name == name)
+        if (all.at(static_cast<std::size_t>(i)).name == name) {
             return i;
+        }
     }
     return -1;
 }
@@ -142,9 +145,10 @@ QString trapIn(const QString &value)
     // Resolved, because a save writes the characters that an escape stands for.
     const QString text = QJsonDocument::fromJson("[" + value.toUtf8() + "]").array().at(0).toString();
     for (const Trap &trap : kTraps) {
-        if (text.contains(QLatin1String(trap.sequence)))
+        if (text.contains(QLatin1String(trap.sequence))) {
             return QStringLiteral("the companion takes \"%1\" for %2, also inside a text; write \"%3\"")
                 .arg(QLatin1String(trap.sequence), QLatin1String(trap.meaning), QLatin1String(trap.instead));
+        }
     }
     return {};
 }
@@ -176,10 +180,11 @@ ScenarioItems ScenarioReader::read(const QByteArray &bytes)
     m_lines = SourceLines(m_file, bytes, SourceLines::LineEnd::kAny, m_findings).lines();
 
     ScenarioItems steps;
-    if (m_lines.constFirst() == head())
+    if (m_lines.constFirst() == head()) {
         ++m_at;
-    else
+    } else {
         report(0, nullptr, {}, QStringLiteral("the first line has to be \"%1\"").arg(head()));
+    }
     while (m_at < m_lines.size() && m_lines.at(m_at) != tail()) {
         if (m_lines.at(m_at) == open()) {
             readItem(steps);
@@ -188,13 +193,15 @@ ScenarioItems ScenarioReader::read(const QByteArray &bytes)
                 m_at, nullptr, {},
                 QStringLiteral("an item begins with a line of four blanks and \"{\", and nothing else stands "
                                "between items"));
-            while (m_at < m_lines.size() && m_lines.at(m_at) != open() && m_lines.at(m_at) != tail())
+            while (m_at < m_lines.size() && m_lines.at(m_at) != open() && m_lines.at(m_at) != tail()) {
                 ++m_at;
+            }
         }
     }
-    if (m_at != m_lines.size() - 1)
+    if (m_at != m_lines.size() - 1) {
         report(qMin(m_at, m_lines.size() - 1), nullptr, {},
                QStringLiteral("\"%1\" has to be the last line, and to stand once").arg(tail()));
+    }
     return steps;
 }
 
@@ -203,8 +210,9 @@ void ScenarioReader::readItem(ScenarioItems &steps)
     const int first = m_at + 1;
     int end = first;
     while (end < m_lines.size() && !closesItem(m_lines.at(end)) && m_lines.at(end) != open() &&
-           m_lines.at(end) != tail())
+           m_lines.at(end) != tail()) {
         ++end;
+    }
 
     ScenarioItem step;
     step.line = first;
@@ -213,10 +221,12 @@ void ScenarioReader::readItem(ScenarioItems &steps)
     if (end < m_lines.size() && closesItem(m_lines.at(end))) {
         const bool hasComma = m_lines.at(end).endsWith(QLatin1Char(','));
         const bool isLast = end + 1 >= m_lines.size() || m_lines.at(end + 1) == tail();
-        if (hasComma && isLast)
+        if (hasComma && isLast) {
             report(end, &step, {}, QStringLiteral("no comma stands behind the last item"));
-        if (!hasComma && !isLast)
+        }
+        if (!hasComma && !isLast) {
             report(end, &step, {}, QStringLiteral("a comma has to stand between two items"));
+        }
         ++m_at;
     } else {
         report(qMin(end, m_lines.size() - 1), &step, {},
@@ -228,14 +238,17 @@ void ScenarioReader::readItem(ScenarioItems &steps)
 void ScenarioReader::readFields(int first, int count, ScenarioItem &step)
 {
     Places places;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         readField(first + i, i == count - 1 ? pad() : QStringLiteral(","), places, step);
+    }
     for (int i = 0; i < static_cast<int>(fields().size()); ++i) {
-        if (places.seen.contains(i))
+        if (places.seen.contains(i)) {
             continue;
+        }
         step.unread.append(field(i).name);
-        if (!places.replaced.contains(i))
+        if (!places.replaced.contains(i)) {
             report(first - 1, &step, field(i).name, QStringLiteral("the field is missing"));
+        }
     }
 }
 
@@ -245,8 +258,9 @@ void ScenarioReader::readField(int at, const QString &ending, Places &places, Sc
     static const QRegularExpression wide(QStringLiteral("^\\s*\"([^\"]*)\"\\s*:\\s*(.*?)\\s*$"));
     QString line = m_lines.at(at);
     const bool ends = line.endsWith(ending);
-    if (ends)
+    if (ends) {
         line.chop(ending.size());
+    }
     const QRegularExpressionMatch match = wide.match(line);
     if (!match.hasMatch()) {
         reportForeignLine(at, {}, QStringLiteral("a field has the form \"key\":value"), places, step);
@@ -262,24 +276,26 @@ void ScenarioReader::readField(int at, const QString &ending, Places &places, Sc
 
     const bool fits = field(index).set(step, value);
     const QString trap = trapIn(value);
-    if ((!fits || !trap.isEmpty()) && step.isRead(qPrintable(name)))
+    if ((!fits || !trap.isEmpty()) && step.isRead(qPrintable(name))) {
         step.unread.append(name);
+    }
     const QString form = QStringLiteral("\"%1\":%2").arg(name, value);
-    if (!ends)
+    if (!ends) {
         report(at, &step, {},
                ending == pad() ? QStringLiteral("the last field ends with four blanks and no comma")
                                : QStringLiteral("every field but the last ends with a comma"));
-    else if (line != form)
+    } else if (line != form) {
         report(at, &step, name, QStringLiteral("without blanks around its parts the field is %1").arg(form));
-    else if (places.seen.contains(index))
+    } else if (places.seen.contains(index)) {
         report(at, &step, name, QStringLiteral("the field stands twice"));
-    else if (index < places.latest)
+    } else if (index < places.latest) {
         report(at, &step, name,
                QStringLiteral("the field has to stand before \"%1\"").arg(field(places.latest).name));
-    else if (!fits)
+    } else if (!fits) {
         report(at, &step, name, QStringLiteral("%1 is not %2").arg(value, field(index).kind));
-    else if (!trap.isEmpty())
+    } else if (!trap.isEmpty()) {
         report(at, &step, name, trap);
+    }
     places.seen.insert(index);
     places.latest = qMax(places.latest, index);
 }

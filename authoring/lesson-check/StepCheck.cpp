@@ -33,33 +33,37 @@ private:
     /// A field that cannot be read has its finding already.
     void report(const QString &field, const QString &text)
     {
-        if (m_step->unread.contains(field))
+        if (m_step->unread.contains(field)) {
             return;
+        }
         m_findings.append({Finding::Kind::kError, m_lesson.file, m_step->line,
                            QStringLiteral("item %1").arg(m_step->id), field, text});
     }
 
     void checkWindow()
     {
-        if (!m_windows.contains(m_step->windowKey))
+        if (!m_windows.contains(m_step->windowKey)) {
             report(QStringLiteral("windowKey"),
                    QStringLiteral("no window has the key \"%1\"").arg(m_step->windowKey));
+        }
     }
 
     void checkPosition()
     {
         const QString x = QStringLiteral("x");
         const QString y = QStringLiteral("y");
-        if (m_step->hasNoPosition() || !m_step->isRead("x") || !m_step->isRead("y"))
+        if (m_step->hasNoPosition() || !m_step->isRead("x") || !m_step->isRead("y")) {
             return;
+        }
         if (m_step->x == LessonWords::kNoPosition || m_step->y == LessonWords::kNoPosition) {
             report(m_step->x == LessonWords::kNoPosition ? y : x,
                    QStringLiteral("a step without position has -9999 in both x and y"));
             return;
         }
         const QSize size = m_windows.size(m_step->windowKey);
-        if (!m_windows.contains(m_step->windowKey) || size.isEmpty() || !m_step->isRead("windowKey"))
+        if (!m_windows.contains(m_step->windowKey) || size.isEmpty() || !m_step->isRead("windowKey")) {
             return;
+        }
         const QPoint tip = QPoint(m_step->x, m_step->y) + LessonWords::kTip;
         if (tip.x() < 0 || tip.x() >= size.width()) {
             report(x, QStringLiteral("the arrow's tip would be at %1, outside the window's width of %2")
@@ -80,11 +84,12 @@ private:
         const auto holds = [&](const ControlDescription &control) {
             return control.geometry.contains(tip);
         };
-        if (!controls.isEmpty() && std::none_of(controls.cbegin(), controls.cend(), holds))
+        if (!controls.isEmpty() && std::none_of(controls.cbegin(), controls.cend(), holds)) {
             report(QStringLiteral("x"),
                    QStringLiteral("the arrow's tip would be at (%1, %2), where the window has no control")
                        .arg(tip.x())
                        .arg(tip.y()));
+        }
     }
 
     void checkCondition()
@@ -114,12 +119,13 @@ private:
     void checkAction(const QString &action, const QString &state)
     {
         const QStringList states = m_windows.actionStates(action);
-        if (states.isEmpty())
+        if (states.isEmpty()) {
             report(QStringLiteral("condition"),
                    QStringLiteral("no window has the action \"%1\"").arg(action));
-        else if (!states.contains(state))
+        } else if (!states.contains(state)) {
             report(QStringLiteral("condition"),
                    QStringLiteral("the action %1 reports \"action,%1,%2\"").arg(action, states.first()));
+        }
     }
 
     void checkRest()
@@ -131,14 +137,17 @@ private:
             report(QStringLiteral("command"),
                    QStringLiteral("\"%1\" is not of the form presetData,stepN").arg(m_step->command));
         }
-        if (m_step->hint != m_step->translationId && m_step->isRead("translationId"))
+        if (m_step->hint != m_step->translationId && m_step->isRead("translationId")) {
             report(QStringLiteral("hint"), QStringLiteral("the hint shows text %1, the translationId says %2")
                                                .arg(m_step->hint)
                                                .arg(m_step->translationId));
-        if (m_step->folder)
+        }
+        if (m_step->folder) {
             report(QStringLiteral("folder"), QStringLiteral("a lesson has no folders"));
-        if (m_step->prohibited)
+        }
+        if (m_step->prohibited) {
             report(QStringLiteral("prohibited"), QStringLiteral("no step of a lesson is prohibited"));
+        }
     }
 
     const Lesson &m_lesson;

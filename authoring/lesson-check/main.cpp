@@ -16,8 +16,9 @@ enum ExitStatus { kClean = 0, kFindings = 1, kUsage = 2 };
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");                       // it only measures text
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // it only measures text
+    }
     QLoggingCategory::setFilterRules(QStringLiteral("default=false")); // the report alone is of interest
     QApplication application(argc, argv);
     OverlayStyle::apply();
@@ -60,8 +61,9 @@ int main(int argc, char *argv[])
         return kUsage;
     }
     const Findings findings = library.check(parser.isSet(complete));
-    for (const Finding &finding : findings)
+    for (const Finding &finding : findings) {
         out << finding.toString() << "\n";
+    }
     const auto isError = [](const Finding &finding) {
         return finding.kind == Finding::Kind::kError;
     };

@@ -43,8 +43,9 @@ int main(int argc, char *argv[])
         err << "lesson-position: " << text << "\n";
         return kUsage;
     };
-    if (!parser.parse(QCoreApplication::arguments()))
+    if (!parser.parse(QCoreApplication::arguments())) {
         return complain(parser.errorText());
+    }
     if (parser.isSet(help)) {
         out << parser.helpText();
         return kDone;
@@ -55,8 +56,9 @@ int main(int argc, char *argv[])
     }
 
     QStringList words = parser.positionalArguments();
-    if (words.isEmpty())
+    if (words.isEmpty()) {
         return complain(QStringLiteral("name a window; --help shows how"));
+    }
     const QString folder = QDir(parser.value(tree)).filePath(QStringLiteral("practice/descriptions"));
     QStringList errors;
     const DescriptionSet windows = DescriptionSet::read(folder, nullptr, &errors);
@@ -72,13 +74,15 @@ int main(int argc, char *argv[])
     }
     const QVector<ControlDescription> controls = windows.controlsIn(key);
     if (words.isEmpty()) {
-        for (const ControlDescription &control : controls)
+        for (const ControlDescription &control : controls) {
             out << control.name << "\n";
+        }
         return kDone;
     }
     const Spot spot(controls, words);
-    if (!spot.problem().isEmpty())
+    if (!spot.problem().isEmpty()) {
         return complain(spot.problem());
+    }
     out << "\"x\":" << spot.position().x() << ",\n\"y\":" << spot.position().y() << ",\n";
     return kDone;
 }

@@ -24,11 +24,13 @@ bool DataFile::isJson(const std::string &text, QString &place, QString &reason)
     const QByteArray bytes = QByteArray::fromRawData(text.data(), int(text.size()));
     QJsonParseError error;
     QJsonDocument::fromJson(bytes, &error);
-    if (error.error == QJsonParseError::NoError)
+    if (error.error == QJsonParseError::NoError) {
         return true;
+    }
     // The parser takes no number or text that stands alone.
-    if (QJsonDocument::fromJson('[' + bytes + ']').array().size() == 1)
+    if (QJsonDocument::fromJson('[' + bytes + ']').array().size() == 1) {
         return true;
+    }
     place = placeOf(bytes, error.offset);
     reason = bytes.trimmed().isEmpty() ? QStringLiteral("it is empty") : error.errorString();
     return false;

@@ -10,8 +10,9 @@ constexpr std::int32_t kNowhere = -1;
 int hashBitsFor(std::size_t places)
 {
     int bits = 10;
-    while (bits < 24 && (std::size_t(1) << bits) < places)
+    while (bits < 24 && (std::size_t(1) << bits) < places) {
         ++bits;
+    }
     return bits;
 }
 
@@ -44,8 +45,9 @@ std::size_t MatchFinder::hash(const Chains &chains, std::size_t place) const
 
 void MatchFinder::addTo(Chains &chains, std::size_t begin, std::size_t end)
 {
-    if (m_text.size() < chains.width)
+    if (m_text.size() < chains.width) {
         return;
+    }
     end = std::min(end, m_text.size() - chains.width + 1);
     for (std::size_t place = begin; place < end; ++place) {
         std::int32_t &latest = chains.latest[hash(chains, place)];
@@ -70,15 +72,17 @@ MatchFinder::Match MatchFinder::matchAt(std::string_view text, std::size_t place
 
 MatchFinder::Match MatchFinder::findIn(const Chains &chains, std::size_t place, Match best) const
 {
-    if (m_text.size() - place < chains.width)
+    if (m_text.size() - place < chains.width) {
         return best;
+    }
     int tries = chains.tries;
     std::int32_t source = chains.latest[hash(chains, place)];
     for (; source != kNowhere && tries > 0 && best.length < kLongEnough; --tries) {
         const Match match = matchAt(m_text, place, std::size_t(source));
         // Of two that are as long, the one nearer to the beginning takes the smaller number to name.
-        if (match.length > best.length || (match.length == best.length && match.source < best.source))
+        if (match.length > best.length || (match.length == best.length && match.source < best.source)) {
             best = match;
+        }
         source = chains.before[std::size_t(source)];
     }
     return best;

@@ -36,8 +36,9 @@ QString realPlace(const QString &path)
 bool isListable(const QString &directory, QString &error)
 {
     // What cannot be listed looks empty.
-    if (QFileInfo(directory).isReadable())
+    if (QFileInfo(directory).isReadable()) {
         return true;
+    }
     error = QStringLiteral("%1 cannot be read").arg(directory);
     return false;
 }
@@ -45,8 +46,9 @@ bool isListable(const QString &directory, QString &error)
 /// As above, and whether a listing has all of it: Qt leaves a name out that is not UTF-8.
 bool isListedWhole(const QString &directory, QString &error)
 {
-    if (!isListable(directory, error))
+    if (!isListable(directory, error)) {
         return false;
+    }
     std::error_code failure;
     std::filesystem::directory_iterator entry(QFile::encodeName(directory).toStdString(), failure);
     for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
@@ -57,8 +59,9 @@ bool isListedWhole(const QString &directory, QString &error)
             return false;
         }
     }
-    if (failure)
+    if (failure) {
         error = QStringLiteral("%1 cannot be read").arg(directory);
+    }
     return !failure;
 }
 
@@ -80,8 +83,9 @@ PatchChain::PatchChain(QString stepsDirectory, const QString &patchDirectory, QS
 
 bool PatchChain::make(QString &error, const Progress &progress)
 {
-    if (!findSteps(error) || !checkPatchDirectory(error))
+    if (!findSteps(error) || !checkPatchDirectory(error)) {
         return false;
+    }
     const QString parent = QFileInfo(m_patchDirectory).absolutePath();
     QDir().mkpath(parent);
     // Beside the place it is for, so that to put it there is a rename.
@@ -92,8 +96,9 @@ bool PatchChain::make(QString &error, const Progress &progress)
     }
     const QString made = scratch.filePath(QStringLiteral("new"));
     for (const Step &step : std::as_const(m_steps)) {
-        if (!makeStep(step, made, progress, error))
+        if (!makeStep(step, made, progress, error)) {
             return false;
+        }
     }
     for (const QString &name : std::as_const(m_mayVanish)) {
         if (!m_vanished.contains(name)) {
@@ -111,8 +116,9 @@ bool PatchChain::findSteps(QString &error)
         error = QStringLiteral("%1 is not a directory").arg(m_stepsDirectory);
         return false;
     }
-    if (!isListable(m_stepsDirectory, error))
+    if (!isListable(m_stepsDirectory, error)) {
         return false;
+    }
     const QFileInfoList entries = root.entryInfoList(kEverything);
     const bool areGood =
         std::all_of(entries.cbegin(), entries.cend(),
@@ -130,8 +136,9 @@ bool PatchChain::addStep(const QFileInfo &entry, QString &error)
     static const QRegularExpression stepName(QStringLiteral("^step(0*)([0-9]+)\\z"));
     const QRegularExpressionMatch match = stepName.match(entry.fileName());
     if (!match.hasMatch()) {
-        if (!looksLikeStep(entry))
+        if (!looksLikeStep(entry)) {
             return true; // a note on the steps, for one
+        }
         error = QStringLiteral("%1 looks like a step, and the name of a step is \"step\" and a number, as in "
                                "\"step2\": rename it, or move it elsewhere")
                     .arg(entry.filePath());
@@ -183,14 +190,16 @@ bool PatchChain::checkPatchDirectory(QString &error) const
         error = QStringLiteral("%1 and %2 lie inside one another").arg(m_patchDirectory, m_stepsDirectory);
         return false;
     }
-    if (info.exists() && !isListedWhole(m_patchDirectory, error))
+    if (info.exists() && !isListedWhole(m_patchDirectory, error)) {
         return false;
+    }
     QDirIterator iterator(m_patchDirectory, kEverything, QDirIterator::Subdirectories);
     while (iterator.hasNext()) {
         const QString path = iterator.next();
         if (iterator.fileInfo().isDir() && !iterator.fileInfo().isSymLink()) {
-            if (!isListedWhole(path, error))
+            if (!isListedWhole(path, error)) {
                 return false;
+            }
         } else if (!path.endsWith(QStringLiteral("-patch"))) {
             error = QStringLiteral("%1 is not replaced, because %2 in it is no patch: move it away, or name "
                                    "another directory")
@@ -209,8 +218,9 @@ bool PatchChain::makeStep(const Step &step, const QString &directory, const Prog
     QStringList names;
     QHash<QString, std::string> texts;
     if (!dataFiles(from, names, error) || !checkVanished(step, names, error) ||
-        !readTexts(from, names, texts, error))
+        !readTexts(from, names, texts, error)) {
         return false;
+    }
     if (!QDir().mkpath(to)) {
         error = QStringLiteral("cannot make the directory %1").arg(to);
         return false;
@@ -218,16 +228,18 @@ bool PatchChain::makeStep(const Step &step, const QString &directory, const Prog
     for (const QString &name : std::as_const(names)) {
         const QString path = QStringLiteral("%1/%2").arg(from, name);
         const auto report = [&progress, &path](std::size_t done, std::size_t size) {
-            if (progress)
+            if (progress) {
                 progress(path, done, size);
+            }
         };
         QByteArray patch;
         if (!PatchMaker::makePatch(m_texts.value(name), texts.value(name), patch, error, report)) {
             error = QStringLiteral("%1: %2").arg(path, error);
             return false;
         }
-        if (!PatchFiles::write(QStringLiteral("%1/%2-patch").arg(to, name), patch, error))
+        if (!PatchFiles::write(QStringLiteral("%1/%2-patch").arg(to, name), patch, error)) {
             return false;
+        }
         ++m_patchCount;
         m_patchBytes += patch.size();
     }
@@ -243,8 +255,9 @@ bool PatchChain::readTexts(const QString &directory, const QStringList &names,
     for (const QString &name : names) {
         const QString path = QStringLiteral("%1/%2").arg(directory, name);
         std::string &text = texts[name];
-        if (!PatchFiles::read(path, text, error))
+        if (!PatchFiles::read(path, text, error)) {
             return false;
+        }
         bytes += text.size();
         if (bytes > kMostPresetBytes) {
             error =
@@ -272,8 +285,9 @@ bool PatchChain::dataFiles(const QString &directory, QStringList &names, QString
         error = QStringLiteral("%1 is missing: a step has its data files there").arg(directory);
         return false;
     }
-    if (!isListedWhole(directory, error))
+    if (!isListedWhole(directory, error)) {
         return false;
+    }
     const QFileInfoList entries = QDir(directory).entryInfoList(kEverything, QDir::Name);
     for (const QFileInfo &entry : entries) {
         if (!entry.isFile() || !entry.fileName().endsWith(QStringLiteral(".json"))) {
@@ -289,15 +303,18 @@ bool PatchChain::checkVanished(const Step &step, const QStringList &names, QStri
 {
     QStringList missing;
     for (auto it = m_texts.cbegin(); it != m_texts.cend(); ++it) {
-        if (names.contains(it.key()))
+        if (names.contains(it.key())) {
             continue;
-        if (m_mayVanish.contains(it.key()))
+        }
+        if (m_mayVanish.contains(it.key())) {
             m_vanished << it.key();
-        else
+        } else {
             missing << it.key();
+        }
     }
-    if (missing.isEmpty())
+    if (missing.isEmpty()) {
         return true;
+    }
     missing.sort();
     error = QStringLiteral(
                 "%1/%2/data lacks what the step before it has: %3. Copy it there, or allow it to vanish "
@@ -314,10 +331,12 @@ bool PatchChain::replacePatchDirectory(const QString &made, const QString &aside
         error = QStringLiteral("cannot move the old %1 out of the way").arg(m_patchDirectory);
         return false;
     }
-    if (directory.rename(made, m_patchDirectory))
+    if (directory.rename(made, m_patchDirectory)) {
         return true;
+    }
     error = QStringLiteral("cannot put the patches in their place at %1").arg(m_patchDirectory);
-    if (isReplacing)
+    if (isReplacing) {
         directory.rename(aside, m_patchDirectory);
+    }
     return false;
 }

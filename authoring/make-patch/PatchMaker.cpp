@@ -24,8 +24,9 @@ constexpr std::size_t kBetweenReports = std::size_t(1) << 20;
 
 std::size_t offsetWidth(std::size_t offset)
 {
-    if (offset < 0x10000)
+    if (offset < 0x10000) {
         return 2;
+    }
     return offset < 0x1000000 ? 3 : 4;
 }
 
@@ -83,8 +84,9 @@ public:
 private:
     void number(std::size_t value, std::size_t width)
     {
-        for (; width > 0; --width, value >>= 8)
+        for (; width > 0; --width, value >>= 8) {
             m_patch.append(char(value & 0xff));
+        }
     }
 
     QByteArray m_patch;
@@ -118,8 +120,9 @@ public:
             }
             const std::size_t end = copyTo(place);
             const std::size_t next = end > place ? end : std::min(place + stride(place), m_view.size());
-            if (m_finder && (end == place || end - place < kLongMatch))
+            if (m_finder && (end == place || end - place < kLongMatch)) {
                 m_finder->add(place, next);
+            }
             place = next;
         }
         m_writer.insert(m_view.substr(m_literals));
@@ -139,14 +142,17 @@ private:
     {
         MatchFinder::Match best;
         for (const std::size_t distance : {m_distance, m_targetSize}) {
-            if (distance == 0 || distance > place)
+            if (distance == 0 || distance > place) {
                 continue;
+            }
             const MatchFinder::Match match = MatchFinder::matchAt(m_view, place, place - distance);
-            if (match.length > best.length)
+            if (match.length > best.length) {
                 best = match;
+            }
         }
-        if (best.length >= std::min(MatchFinder::kLongEnough, m_view.size() - place))
+        if (best.length >= std::min(MatchFinder::kLongEnough, m_view.size() - place)) {
             return best;
+        }
         if (!m_finder) {
             m_finder.emplace(m_view);
             m_finder->add(0, place);
@@ -169,8 +175,9 @@ private:
         }
         // A copy in the middle of an insert makes two inserts of it.
         const std::size_t newInsert = place > m_literals ? 2 : 0;
-        if (match.length <= copyCost(match) + newInsert)
+        if (match.length <= copyCost(match) + newInsert) {
             return asked;
+        }
         m_writer.insert(m_view.substr(m_literals, place - m_literals));
         m_writer.copy(match);
         m_distance = place - match.source;

@@ -34,8 +34,9 @@ ProgressLine::~ProgressLine()
 
 void ProgressLine::show(const QString &file, std::size_t done, std::size_t size)
 {
-    if (!m_isTerminal || size == 0 || (m_sinceShown.isValid() && !m_sinceShown.hasExpired(kBetweenLinesMs)))
+    if (!m_isTerminal || size == 0 || (m_sinceShown.isValid() && !m_sinceShown.hasExpired(kBetweenLinesMs))) {
         return;
+    }
     m_sinceShown.start();
     m_isShown = true;
     const QString line = QStringLiteral("make-patch: %1: %2 %").arg(file).arg(done * 100 / size);
@@ -45,7 +46,8 @@ void ProgressLine::show(const QString &file, std::size_t done, std::size_t size)
 
 void ProgressLine::clear()
 {
-    if (m_isShown)
+    if (m_isShown) {
         std::fputs(kEraseLine, stderr);
+    }
     m_isShown = false;
 }

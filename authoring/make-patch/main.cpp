@@ -33,8 +33,9 @@ bool isSameFile(const QString &left, const QString &right)
 
 int makeOne(const QString &basePath, const QString &targetPath, const QString &patchPath)
 {
-    if (isSameFile(patchPath, basePath) || isSameFile(patchPath, targetPath))
+    if (isSameFile(patchPath, basePath) || isSameFile(patchPath, targetPath)) {
         return badUsage(QStringLiteral("%1 would be overwritten with its own patch").arg(patchPath));
+    }
     QString error;
     std::string base;
     std::string target;
@@ -60,10 +61,12 @@ int makeChain(const QString &stepsDirectory, const QString &patchDirectory, cons
         line.show(path, done, size);
     });
     line.clear();
-    for (const QString &warning : chain.warnings())
+    for (const QString &warning : chain.warnings()) {
         QTextStream(stderr) << "make-patch: warning: " << warning << '\n';
-    if (!isMade)
+    }
+    if (!isMade) {
         return fail(kFailed, error);
+    }
     QTextStream(stdout) << QStringLiteral("%1 patches in %2 steps, %3 bytes, in %4\n")
                                .arg(chain.patchCount())
                                .arg(chain.stepCount())
@@ -109,8 +112,9 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(QStringLiteral("TARGET"), QStringLiteral("The text that comes out."),
                                  QStringLiteral("TARGET]"));
 
-    if (!parser.parse(QCoreApplication::arguments()))
+    if (!parser.parse(QCoreApplication::arguments())) {
         return badUsage(parser.errorText());
+    }
     if (parser.isSet(help)) {
         QTextStream(stdout) << parser.helpText();
         return 0;
@@ -120,16 +124,20 @@ int main(int argc, char *argv[])
         return 0;
     }
     const QStringList arguments = parser.positionalArguments();
-    if (parser.values(output).size() != 1 || parser.value(output).isEmpty())
+    if (parser.values(output).size() != 1 || parser.value(output).isEmpty()) {
         return badUsage(QStringLiteral("say once with -o where the result goes"));
+    }
     if (parser.isSet(chain)) {
-        if (!arguments.isEmpty() || parser.values(chain).size() != 1)
+        if (!arguments.isEmpty() || parser.values(chain).size() != 1) {
             return badUsage(QStringLiteral("--chain takes one directory and no other files"));
+        }
         return makeChain(parser.value(chain), parser.value(output), parser.values(allowVanish));
     }
-    if (parser.isSet(allowVanish))
+    if (parser.isSet(allowVanish)) {
         return badUsage(QStringLiteral("--allow-vanish goes with --chain"));
-    if (arguments.size() != 2)
+    }
+    if (arguments.size() != 2) {
         return badUsage(QStringLiteral("name two files, BASE and TARGET, or --chain and a directory"));
+    }
     return makeOne(arguments.at(0), arguments.at(1), parser.value(output));
 }

@@ -62,16 +62,18 @@ std::string noise(std::size_t size, quint32 seed)
 {
     QRandomGenerator random(seed);
     std::string bytes(size, '\0');
-    for (char &byte : bytes)
+    for (char &byte : bytes) {
         byte = char(random.bounded(256U));
+    }
     return bytes;
 }
 
 /// @p base with a few words changed, so that a patch for it is nearly all long copies.
 std::string edited(std::string base)
 {
-    for (std::size_t at = kMegabyte / 2; at < base.size(); at += 4 * kMegabyte)
+    for (std::size_t at = kMegabyte / 2; at < base.size(); at += 4 * kMegabyte) {
         base.replace(at, 5, "village");
+    }
     return base;
 }
 
@@ -79,16 +81,18 @@ QByteArray patchFor(const std::string &base, const std::string &target)
 {
     QByteArray patch;
     QString error;
-    if (!PatchMaker::makePatch(base, target, patch, error))
+    if (!PatchMaker::makePatch(base, target, patch, error)) {
         qFatal("%s", qPrintable(error));
+    }
     return patch;
 }
 
 std::string applied(const std::string &base, const QByteArray &patch)
 {
     std::string result;
-    if (!StringPatch::ApplyStringPatch(base, patch, result))
+    if (!StringPatch::ApplyStringPatch(base, patch, result)) {
         qFatal("the patch does not apply");
+    }
     return result;
 }
 
@@ -135,8 +139,9 @@ bool againstMemcpy()
     }
     const std::string phrase = "do re mi fa so la ti " + noise(40, 2);
     std::string target;
-    while (target.size() < 16 * kMegabyte)
+    while (target.size() < 16 * kMegabyte) {
         target += phrase;
+    }
     return report(QStringLiteral("16 MB of overlapping copies, speed against memcpy"),
                   speedAgainstMemcpy(std::string(), target), kBound) &&
            isWithin;
@@ -170,15 +175,17 @@ int applyFiles(const QString &base, const QString &patch, const QString &output)
 
 void write(const QString &file, const QByteArray &bytes)
 {
-    if (!DataSupport::writeFile(file, bytes))
+    if (!DataSupport::writeFile(file, bytes)) {
         qFatal("cannot write %s", qPrintable(file));
+    }
 }
 
 QByteArray read(const QString &file)
 {
     QByteArray bytes;
-    if (!DataSupport::readFile(file, bytes))
+    if (!DataSupport::readFile(file, bytes)) {
         qFatal("cannot read %s", qPrintable(file));
+    }
     return bytes;
 }
 
@@ -188,8 +195,9 @@ void run(const QString &program, const QStringList &arguments)
     process.setStandardOutputFile(QProcess::nullDevice());
     process.start(program, arguments);
     if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit ||
-        process.exitCode() != 0)
+        process.exitCode() != 0) {
         qFatal("%s failed", qPrintable(program));
+    }
 }
 
 bool againstXdelta()
@@ -229,8 +237,9 @@ bool againstXdelta()
             theirs({path("delta"), path("theirs")});
         },
         [&] { ours(path("ours")); });
-    if (read(path("theirs")).toStdString() != target || read(path("ours")).toStdString() != target)
+    if (read(path("theirs")).toStdString() != target || read(path("ours")).toStdString() != target) {
         qFatal("the results differ");
+    }
     const bool isAhead =
         report(QStringLiteral("64 MB read and applied, speed against xdelta3"), dropping, 1.0);
     return report(QStringLiteral("64 MB from files to a file, speed against xdelta3"), writing, 1.0) &&
@@ -244,8 +253,9 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() == 5 && arguments.at(1) == QLatin1String("--apply"))
+    if (arguments.size() == 5 && arguments.at(1) == QLatin1String("--apply")) {
         return applyFiles(arguments.at(2), arguments.at(3), arguments.at(4));
+    }
 
     const bool memcpyIsNear = againstMemcpy();
     const bool growthIsLinear = growth();

@@ -41,8 +41,9 @@ QJsonArray takeArray(QJsonValue &value)
 
 void replace(QJsonArray &array, int index, const QJsonValue &value)
 {
-    if (index >= 0 && index < array.size())
+    if (index >= 0 && index < array.size()) {
         array.replace(index, value);
+    }
 }
 
 /// The member @p key, null where there is none: QJsonObject::value() would give an undefined value, which is
@@ -63,8 +64,9 @@ QString escaped(const QString &text)
 
 QString scalarToJson(const QJsonValue &value, QJsonDocument::JsonFormat format)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return QStringLiteral("null");
+    }
     const QByteArray bracketed = QJsonDocument(QJsonArray{value}).toJson(format);
     const QByteArray bytes = bracketed.mid(1, bracketed.size() - 2);
     logDebug(kSource, "JsonWrapper::toJson", 468) << bracketed << bytes;
@@ -74,8 +76,9 @@ QString scalarToJson(const QJsonValue &value, QJsonDocument::JsonFormat format)
 QString listString(const QVariantList &list)
 {
     QStringList elements;
-    for (const QVariant &element : list)
+    for (const QVariant &element : list) {
         elements << JsonWrapper::getJsonString(element);
+    }
     return QStringLiteral("[ %1 ]").arg(elements.join(QStringLiteral(", ")));
 }
 
@@ -102,8 +105,9 @@ JsonWrapper::JsonWrapper(const QString &jsonStr)
     }
     QJsonParseError error;
     m_doc = QJsonDocument::fromJson(jsonStr.toUtf8(), &error);
-    if (error.error == QJsonParseError::NoError)
+    if (error.error == QJsonParseError::NoError) {
         return;
+    }
 
     // The parser takes only arrays and objects at the top, so a scalar gets an array around it.
     const QJsonDocument array = QJsonDocument::fromJson(QStringLiteral("[%1]").arg(jsonStr).toUtf8(), &error);
@@ -126,8 +130,9 @@ JsonWrapper::JsonWrapper(const QJsonValue &value)
 JsonWrapper JsonWrapper::operator[](int index)
 {
     // Only here does the lookup leave a trace: a missing key comes to be.
-    if (m_kind == Kind::kObject)
+    if (m_kind == Kind::kObject) {
         return JsonWrapper(QJsonValue(m_object[QString::number(index)]));
+    }
     return std::as_const(*this)[index];
 }
 
@@ -135,18 +140,21 @@ JsonWrapper JsonWrapper::operator[](int index) const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isArray())
+        if (!m_doc.isArray()) {
             errorHandler("[index] is applied for m_doc which is not Array.");
+        }
         return JsonWrapper(m_doc.array().at(index));
     case Kind::kArray:
         return JsonWrapper(m_array.at(index));
     case Kind::kObject:
         return JsonWrapper(memberOrNull(m_object, QString::number(index)));
     case Kind::kValue:
-        if (m_value.isArray())
+        if (m_value.isArray()) {
             return JsonWrapper(m_value.toArray().at(index));
-        if (m_value.isObject())
+        }
+        if (m_value.isObject()) {
             return JsonWrapper(memberOrNull(m_value.toObject(), QString::number(index)));
+        }
         errorHandler("[index] is applied for kValue.");
     case Kind::kMax:
         break;
@@ -158,18 +166,21 @@ JsonWrapper JsonWrapper::operator[](const QString &key) const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isObject())
+        if (!m_doc.isObject()) {
             errorHandler(QStringLiteral("[%1] is applied for m_doc which is not Object.").arg(key));
+        }
         return JsonWrapper(memberOrNull(m_doc.object(), key));
     case Kind::kArray:
         errorHandler(QStringLiteral("[%1] is applied for kArray.").arg(key));
     case Kind::kObject:
-        if (!m_object.contains(key))
+        if (!m_object.contains(key)) {
             errorHandler(QStringLiteral("m_object doesn't have key: %1").arg(key));
+        }
         return JsonWrapper(m_object.value(key));
     case Kind::kValue:
-        if (!m_value.isObject())
+        if (!m_value.isObject()) {
             errorHandler(QStringLiteral("[%1] is applied for kValue.").arg(key));
+        }
         return JsonWrapper(memberOrNull(m_value.toObject(), key));
     case Kind::kMax:
         break;
@@ -181,16 +192,18 @@ bool JsonWrapper::contains(const QString &key) const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isObject())
+        if (!m_doc.isObject()) {
             errorHandler("contains() is called for m_doc which is not Object.");
+        }
         return m_doc.object().contains(key);
     case Kind::kArray:
         errorHandler("contains() is called for kArray.");
     case Kind::kObject:
         return m_object.contains(key);
     case Kind::kValue:
-        if (!m_value.isObject())
+        if (!m_value.isObject()) {
             errorHandler("contains() is called for kValue.");
+        }
         return m_value.toObject().contains(key);
     case Kind::kMax:
         break;
@@ -202,16 +215,18 @@ QStringList JsonWrapper::keys() const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isObject())
+        if (!m_doc.isObject()) {
             errorHandler("keys() is called for m_doc which is not Object.");
+        }
         return m_doc.object().keys();
     case Kind::kArray:
         errorHandler("keys() is called for kArray");
     case Kind::kObject:
         return m_object.keys();
     case Kind::kValue:
-        if (!m_value.isObject())
+        if (!m_value.isObject()) {
             errorHandler("keys() is called for kValue.");
+        }
         return m_value.toObject().keys();
     case Kind::kMax:
         break;
@@ -223,16 +238,18 @@ int JsonWrapper::length() const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isArray())
+        if (!m_doc.isArray()) {
             errorHandler("length() is called for m_doc which is not Array.");
+        }
         return m_doc.array().size();
     case Kind::kArray:
         return m_array.size();
     case Kind::kObject:
         errorHandler("length() is called for kObject.");
     case Kind::kValue:
-        if (!m_value.isArray())
+        if (!m_value.isArray()) {
             errorHandler("length() is called for kValue.");
+        }
         return m_value.toArray().size();
     case Kind::kMax:
         break;
@@ -244,16 +261,18 @@ QJsonArray JsonWrapper::toArray() const
 {
     switch (m_kind) {
     case Kind::kDoc:
-        if (!m_doc.isArray())
+        if (!m_doc.isArray()) {
             errorHandler("toArray() is called for kDoc.");
+        }
         return m_doc.array();
     case Kind::kArray:
         return m_array;
     case Kind::kObject:
         errorHandler("toArray() is called for kObject.");
     case Kind::kValue:
-        if (!m_value.isArray())
+        if (!m_value.isArray()) {
             errorHandler("toArray() is called for kValue.");
+        }
         return m_value.toArray();
     case Kind::kMax:
         break;
@@ -324,8 +343,9 @@ JsonWrapper &JsonWrapper::set(const QString &key, const QJsonValue &value)
 {
     switch (m_kind) {
     case Kind::kDoc: {
-        if (!m_doc.isObject())
+        if (!m_doc.isObject()) {
             errorHandler("set() is called for kDoc.");
+        }
         QJsonObject object = takeObject(m_doc);
         object.insert(key, value);
         m_doc.setObject(object);
@@ -337,8 +357,9 @@ JsonWrapper &JsonWrapper::set(const QString &key, const QJsonValue &value)
         m_object.insert(key, value);
         return *this;
     case Kind::kValue: {
-        if (!m_value.isObject())
+        if (!m_value.isObject()) {
             errorHandler("set() is called for kValue.");
+        }
         QJsonObject object = takeObject(m_value);
         object.insert(key, value);
         m_value = object;
@@ -359,8 +380,9 @@ JsonWrapper &JsonWrapper::set(int index, const QJsonValue &value)
 {
     switch (m_kind) {
     case Kind::kDoc: {
-        if (!m_doc.isArray())
+        if (!m_doc.isArray()) {
             errorHandler("set() is called for kDoc.");
+        }
         QJsonArray array = takeArray(m_doc);
         replace(array, index, value);
         m_doc.setArray(array);
@@ -372,8 +394,9 @@ JsonWrapper &JsonWrapper::set(int index, const QJsonValue &value)
     case Kind::kObject:
         errorHandler("set() is called for kObject.");
     case Kind::kValue: {
-        if (!m_value.isArray())
+        if (!m_value.isArray()) {
             errorHandler("set() is called for kValue.");
+        }
         QJsonArray array = takeArray(m_value);
         replace(array, index, value);
         m_value = array;
@@ -396,10 +419,12 @@ QString JsonWrapper::toJson(bool indented) const
     case Kind::kObject:
         return QString::fromUtf8(QJsonDocument(m_object).toJson(format));
     case Kind::kValue:
-        if (m_value.isArray())
+        if (m_value.isArray()) {
             return QString::fromUtf8(QJsonDocument(m_value.toArray()).toJson(format));
-        if (m_value.isObject())
+        }
+        if (m_value.isObject()) {
             return QString::fromUtf8(QJsonDocument(m_value.toObject()).toJson(format));
+        }
         return scalarToJson(m_value, format);
     case Kind::kMax:
         break;

@@ -32,11 +32,13 @@ public:
     std::optional<std::size_t> number(std::size_t width)
     {
         const std::string_view bytes = literals(width);
-        if (bytes.size() < width)
+        if (bytes.size() < width) {
             return std::nullopt;
+        }
         std::size_t value = 0;
-        for (std::size_t i = width; i > 0; --i)
+        for (std::size_t i = width; i > 0; --i) {
             value = value << 8 | static_cast<unsigned char>(bytes[i - 1]);
+        }
         return value;
     }
 
@@ -143,12 +145,14 @@ bool applyOperations(PatchReader &patch, PatchTarget &target)
         }
         const std::optional<std::size_t> offset = patch.number(operation->offsetWidth);
         const std::optional<std::size_t> length = patch.number(operation->lengthWidth);
-        if (!offset || !length)
+        if (!offset || !length) {
             continue;
-        if (operation->offsetWidth == 0)
+        }
+        if (operation->offsetWidth == 0) {
             target.insert(patch.literals(*length + 1));
-        else
+        } else {
             target.copy(*offset, *length + 1);
+        }
     }
     return true;
 }
@@ -162,8 +166,9 @@ bool StringPatch::ApplyStringPatch(std::string_view base, const QByteArray &patc
     try {
         if (isPossibleSize(base.size(), size)) {
             PatchTarget target(base, size);
-            if (!applyOperations(reader, target))
+            if (!applyOperations(reader, target)) {
                 return false;
+            }
             result = std::move(target).take();
             return true;
         }
@@ -171,8 +176,9 @@ bool StringPatch::ApplyStringPatch(std::string_view base, const QByteArray &patc
         logWarning(kSource, "StringPatch::ApplyStringPatch", 265) << "Not enough memory for" << size;
         return false;
     }
-    if (!checkTags(patch))
+    if (!checkTags(patch)) {
         return false;
+    }
     throw std::out_of_range("invalid string position");
 }
 

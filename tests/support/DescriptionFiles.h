@@ -12,8 +12,9 @@ public:
     QString write(const QString &name, const QByteArray &text) const
     {
         QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
             qFatal("cannot write %s", qPrintable(file.fileName()));
+        }
         return file.fileName();
     }
 

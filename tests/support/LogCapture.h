@@ -37,8 +37,9 @@ public:
     [[nodiscard]] QStringList lines() const
     {
         QStringList texts;
-        for (const Line &line : m_lines)
+        for (const Line &line : m_lines) {
             texts << line.text;
+        }
         return texts;
     }
     /// The text of the lines of one level, in order.
@@ -46,8 +47,9 @@ public:
     {
         QStringList texts;
         for (const Line &line : m_lines) {
-            if (line.type == type)
+            if (line.type == type) {
                 texts << line.text;
+            }
         }
         return texts;
     }
@@ -57,8 +59,9 @@ public:
     [[nodiscard]] bool contains(const QString &part) const
     {
         for (const Line &line : m_lines) {
-            if (line.text.contains(part))
+            if (line.text.contains(part)) {
                 return true;
+            }
         }
         return false;
     }

@@ -23,10 +23,12 @@ private:
 
     void become(uid_t user) const
     {
-        if (!m_isRoot)
+        if (!m_isRoot) {
             return;
-        if (setresuid(user, user, 0) != 0)
+        }
+        if (setresuid(user, user, 0) != 0) {
             qFatal("cannot become the user %u", unsigned(user));
+        }
         // The kernel hides a process that has changed its user from the leak checker.
         prctl(PR_SET_DUMPABLE, 1);
     }

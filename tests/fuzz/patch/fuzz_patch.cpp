@@ -21,8 +21,9 @@ constexpr std::uint32_t kOverflowing = 1U << 31;
 
 void expect(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 void quiet(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/) {}
@@ -38,18 +39,21 @@ extern "C" int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 /// The first byte says how many of the bytes behind it are the base; the rest is the patch.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    if (size == 0)
+    if (size == 0) {
         return 0;
+    }
     const std::size_t baseSize = std::min<std::size_t>(data[0], size - 1);
     const char *bytes = reinterpret_cast<const char *>(data);
     const std::string base(bytes + 1, baseSize);
     const QByteArray patch(bytes + 1 + baseSize, int(size - 1 - baseSize));
 
     std::uint32_t targetSize = 0;
-    if (patch.size() >= 4)
+    if (patch.size() >= 4) {
         std::memcpy(&targetSize, patch.constData(), sizeof(targetSize));
-    if (targetSize > kLargestTarget && targetSize < kOverflowing)
+    }
+    if (targetSize > kLargestTarget && targetSize < kOverflowing) {
         return 0;
+    }
 
     const std::string before = "as it was";
     std::string result = before;

@@ -32,8 +32,9 @@ protected:
     {
         PatchChain chain(m_scratch->path("steps"), patchDirectory, mayVanish);
         QString error;
-        if (chain.make(error) != error.isEmpty())
+        if (chain.make(error) != error.isEmpty()) {
             qFatal("a result and a reason that do not fit: %s", qPrintable(error));
+        }
         return error;
     }
     /// Replays the chain over @p steps as the companion does, and gives the texts of the last.
@@ -48,8 +49,9 @@ protected:
                 const QString file = name.chopped(int(qstrlen("-patch")));
                 const QByteArray patch = m_scratch->get((data + '/' + name.toUtf8()).constData());
                 std::string result;
-                if (!StringPatch::ApplyStringPatch(texts.value(file).toStdString(), patch, result))
+                if (!StringPatch::ApplyStringPatch(texts.value(file).toStdString(), patch, result)) {
                     qFatal("a bad patch: %s", qPrintable(name));
+                }
                 next.insert(file, QByteArray::fromStdString(result));
             }
             texts = next;
@@ -61,8 +63,9 @@ protected:
     static void putBytes(const QByteArray &path)
     {
         const int file = open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-        if (file < 0 || write(file, "b", 1) != 1 || close(file) != 0)
+        if (file < 0 || write(file, "b", 1) != 1 || close(file) != 0) {
             qFatal("cannot write a file whose name is no text");
+        }
     }
 
     std::unique_ptr<Scratch> m_scratch;

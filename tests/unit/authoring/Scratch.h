@@ -12,8 +12,9 @@ class Scratch
 public:
     Scratch()
     {
-        if (!m_directory.isValid())
+        if (!m_directory.isValid()) {
             qFatal("no directory to test in: %s", qPrintable(m_directory.errorString()));
+        }
     }
 
     [[nodiscard]] QString path() const { return m_directory.path(); }
@@ -26,8 +27,9 @@ public:
     {
         QFile file(path(relative));
         if (!QDir().mkpath(QFileInfo(file).path()) || !file.open(QIODevice::WriteOnly) ||
-            file.write(bytes) != bytes.size())
+            file.write(bytes) != bytes.size()) {
             qFatal("cannot write %s: %s", relative, qPrintable(file.errorString()));
+        }
     }
     [[nodiscard]] QByteArray get(const char *relative) const
     {

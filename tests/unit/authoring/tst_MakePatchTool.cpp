@@ -51,8 +51,9 @@ private:
         QProcess process;
         process.setWorkingDirectory(m_scratch->path());
         process.start(program, arguments);
-        if (!process.waitForFinished())
+        if (!process.waitForFinished()) {
             qFatal("make-patch does not end");
+        }
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -114,8 +115,9 @@ void tst_MakePatchTool::badUsageIsStatusTwo_data()
          {"-o out", "base target", "base -o out", "base target file -o out", "base target -o",
           "base target -o out -o other", "base target --output=", "base target -o out --allow-vanish A.json",
           "--chain steps", "--chain steps --chain steps -o out", "--chain steps base -o out",
-          "--unknown base target -o out"})
+          "--unknown base target -o out"}) {
         QTest::newRow(arguments) << QByteArray(arguments);
+    }
 }
 
 void tst_MakePatchTool::badUsageIsStatusTwo()
@@ -234,8 +236,9 @@ void tst_MakePatchTool::helpNamesBothForms()
     const Run result = run("--help");
     QCOMPARE(result.status, 0);
     for (const char *part : {"make-patch BASE TARGET -o FILE", "make-patch --chain STEPS_DIR -o PATCH_DIR",
-                             "make-patch [options] [BASE TARGET]\n", "--allow-vanish <NAME.json>"})
+                             "make-patch [options] [BASE TARGET]\n", "--allow-vanish <NAME.json>"}) {
         QVERIFY2(result.output.contains(QString::fromLatin1(part)), qPrintable(result.output));
+    }
 }
 
 void tst_MakePatchTool::warningIsNoFailure()

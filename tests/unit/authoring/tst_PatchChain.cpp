@@ -33,9 +33,10 @@ void tst_PatchChain::replayGivesEachStepsFiles()
     QCOMPARE(chain.patchCount(), 5);
     qint64 bytes = 0;
     for (const char *patch : {"step2/data/Actors", "step2/data/System", "step3/data/Actors",
-                              "step3/data/System", "step3/data/Map001"})
+                              "step3/data/System", "step3/data/Map001"}) {
         bytes +=
             m_scratch->get(QByteArray("patches/").append(patch).append(".json-patch").constData()).size();
+    }
     QCOMPARE(chain.patchBytes(), bytes);
     QCOMPARE(replay({2}), Texts({{QStringLiteral("Actors.json"), "[null,{\"id\":1}]"},
                                  {QStringLiteral("System.json"), "{}"}}));
@@ -48,27 +49,32 @@ void tst_PatchChain::stepsAreOrderedByNumber()
 {
     // By their names, step10 would be the base of step9.
     const QByteArray common(",\"what all of the steps have in common\"]");
-    for (const int step : {2, 9, 10, 19})
+    for (const int step : {2, 9, 10, 19}) {
         m_scratch->put(("steps/step" + QByteArray::number(step) + "/data/A.json").constData(),
                        '[' + QByteArray::number(step) + common);
+    }
     QCOMPARE(make(), QString());
-    for (const QList<int> &steps : {QList<int>{2}, QList<int>{2, 9}, QList<int>{2, 9, 10}})
+    for (const QList<int> &steps : {QList<int>{2}, QList<int>{2, 9}, QList<int>{2, 9, 10}}) {
         QCOMPARE(replay(steps).value(QStringLiteral("A.json")),
                  '[' + QByteArray::number(steps.constLast()) + common);
+    }
 }
 
 void tst_PatchChain::unchangedFileGetsAnIdentityPatch()
 {
-    for (const char *file : {"steps/step1/data/A.json", "steps/step2/data/A.json"})
+    for (const char *file : {"steps/step1/data/A.json", "steps/step2/data/A.json"}) {
         m_scratch->put(file, "[23456789]");
+    }
     QCOMPARE(make(), QString());
     QCOMPARE(m_scratch->get("patches/step2/data/A.json-patch"), QByteArray("\x0a\0\0\0\xff\0\0\x9", 8));
 }
 
 void tst_PatchChain::newFileHasAnEmptyBase()
 {
-    for (const char *file : {"steps/step1/data/A.json", "steps/step2/data/A.json", "steps/step2/data/B.json"})
+    for (const char *file :
+         {"steps/step1/data/A.json", "steps/step2/data/A.json", "steps/step2/data/B.json"}) {
         m_scratch->put(file, "[23456789]");
+    }
     QCOMPARE(make(), QString());
     const QByteArray patch = QByteArray("\x0a\0\0\0\0\x9", 6) + "[23456789]";
     QCOMPARE(m_scratch->get("patches/step1/data/A.json-patch"), patch);
@@ -78,8 +84,9 @@ void tst_PatchChain::newFileHasAnEmptyBase()
 void tst_PatchChain::vanishedFileIsRefused()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step1/data/B.json", "steps/step1/data/C.json",
-                             "steps/step2/data/B.json"})
+                             "steps/step2/data/B.json"}) {
         m_scratch->put(file, "[]");
+    }
     const QString error = make();
     QVERIFY2(error.contains(QStringLiteral("step2/data lacks")) &&
                  error.contains(QStringLiteral(": A.json, C.json.")) &&
@@ -91,8 +98,10 @@ void tst_PatchChain::vanishedFileIsRefused()
 
 void tst_PatchChain::vanishedFileMayBeAllowed()
 {
-    for (const char *file : {"steps/step1/data/A.json", "steps/step1/data/B.json", "steps/step2/data/B.json"})
+    for (const char *file :
+         {"steps/step1/data/A.json", "steps/step1/data/B.json", "steps/step2/data/B.json"}) {
         m_scratch->put(file, "[]");
+    }
     QCOMPARE(make({QStringLiteral("A.json")}), QString());
     QCOMPARE(replay({1, 2}), Texts({{QStringLiteral("B.json"), "[]"}}));
 }
@@ -119,8 +128,9 @@ void tst_PatchChain::allowedFileThatStaysIsRefused()
 void tst_PatchChain::otherFilesBesideTheStepsAreIgnored()
 {
     for (const char *file : {"steps/step1/data/A.json", "steps/step1/notes.txt", "steps/README.md",
-                             "steps/step2.txt", "steps/data/A.json", "steps/pictures/step3.png"})
+                             "steps/step2.txt", "steps/data/A.json", "steps/pictures/step3.png"}) {
         m_scratch->put(file, "[]");
+    }
     QCOMPARE(make(), QString());
     QCOMPARE(m_scratch->entries("patches"), QStringList{QStringLiteral("step1")});
     QCOMPARE(m_scratch->entries("patches/step1"), QStringList{QStringLiteral("data")});

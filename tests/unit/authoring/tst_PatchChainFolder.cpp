@@ -67,8 +67,9 @@ void tst_PatchChainFolder::patchesThatMayNotBeReadAreNotReplaced()
 {
     m_scratch->put("steps/step1/data/A.json", "[]");
     m_scratch->put("patches/step1/diary.txt", "dear diary");
-    for (const char *open : {"", "patches"})
+    for (const char *open : {"", "patches"}) {
         QCOMPARE(chmod(qPrintable(m_scratch->path(open)), 0777), 0);
+    }
     for (const char *closed : {"patches/step1", "patches"}) {
         QCOMPARE(chmod(qPrintable(m_scratch->path(closed)), 0311), 0);
         QString error;

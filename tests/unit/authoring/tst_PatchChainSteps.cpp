@@ -52,8 +52,9 @@ void tst_PatchChainSteps::badStepsAreRefused()
 {
     QFETCH(QByteArrayList, files);
     QFETCH(QString, part);
-    for (const QByteArray &file : files)
+    for (const QByteArray &file : files) {
         m_scratch->put(file.constData(), "[]");
+    }
     const QString error = make();
     QVERIFY2(error.contains(part), qPrintable(error));
     QVERIFY(!m_scratch->has("patches"));
@@ -63,8 +64,9 @@ void tst_PatchChainSteps::misspeltStepsAreRefused_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"stepp2", "Step3", "STEP3", "step 4", "step4 ", "step", "step3x", "step-5",
-                             "step5.bak", "xstep2", "setp6", "7", "step\xef\xbc\x91"})
+                             "step5.bak", "xstep2", "setp6", "7", "step\xef\xbc\x91"}) {
         QTest::newRow(name) << QString::fromUtf8(name);
+    }
 }
 
 void tst_PatchChainSteps::misspeltStepsAreRefused()
@@ -84,8 +86,9 @@ void tst_PatchChainSteps::zeroBeforeTheNumberIsWarnedOf()
 {
     // The program looks for the folder by the name that is asked for.
     for (const char *file :
-         {"steps/step0/data/A.json", "steps/step02/data/A.json", "steps/step10/data/A.json"})
+         {"steps/step0/data/A.json", "steps/step02/data/A.json", "steps/step10/data/A.json"}) {
         m_scratch->put(file, "[]");
+    }
     PatchChain chain(m_scratch->path("steps"), m_scratch->path("patches"), {});
     QString error;
     QVERIFY2(chain.make(error), qPrintable(error));
@@ -131,8 +134,9 @@ void tst_PatchChainSteps::fileThatIsNoJsonIsRefused()
 void tst_PatchChainSteps::everyKindOfJsonIsTaken()
 {
     const QList<QByteArray> texts{"[]", " {}\n", "12", "\"a\"", "null", "\xef\xbb\xbf[]"};
-    for (int i = 0; i < texts.size(); ++i)
+    for (int i = 0; i < texts.size(); ++i) {
         m_scratch->put(("steps/step1/data/" + QByteArray::number(i) + ".json").constData(), texts.at(i));
+    }
     QCOMPARE(make(), QString());
 }
 

@@ -16,27 +16,31 @@ QByteArray patchFor(const std::string &base, const std::string &target)
 {
     QByteArray patch("as it was");
     QString error;
-    if (!PatchMaker::makePatch(base, target, patch, error))
+    if (!PatchMaker::makePatch(base, target, patch, error)) {
         qFatal("%s", qPrintable(error));
+    }
     std::string result;
-    if (!StringPatch::ApplyStringPatch(base, patch, result) || result != target)
+    if (!StringPatch::ApplyStringPatch(base, patch, result) || result != target) {
         qFatal("the patch does not give the target");
+    }
     return patch;
 }
 
 std::string randomBytes(QRandomGenerator &random, std::size_t size)
 {
     std::string bytes(size, '\0');
-    for (char &byte : bytes)
+    for (char &byte : bytes) {
         byte = char(random.bounded(256U));
+    }
     return bytes;
 }
 
 std::string randomBits(QRandomGenerator &random, std::size_t size)
 {
     std::string bits(size, 'a');
-    for (char &bit : bits)
+    for (char &bit : bits) {
         bit = char('a' + int(random.bounded(2U)));
+    }
     return bits;
 }
 
@@ -46,8 +50,9 @@ std::string randomText(QRandomGenerator &random, std::size_t size)
     static const char *const words[] = {
         "village", "shop", " ", "\n", "{\"id\":", "},", "\xe6\x9d\x91", "a", "b", "0"};
     std::string text;
-    while (text.size() < size)
+    while (text.size() < size) {
         text += words[random.bounded(10U)];
+    }
     text.resize(size);
     return text;
 }
@@ -199,8 +204,9 @@ void tst_PatchMaker::manyEditsCostAFewBytesEach()
     const std::string base = megabyteOfJson();
     std::string target = base;
     constexpr std::size_t kEdits = 100;
-    for (std::size_t i = kEdits; i > 0; --i)
+    for (std::size_t i = kEdits; i > 0; --i) {
         target.replace(target.find("thing", base.size() / (kEdits + 1) * i), 5, "remedy");
+    }
     const int size = patchFor(base, target).size();
     QVERIFY2(size < int(kEdits) * 30, qPrintable(QString::number(size)));
 }
@@ -255,8 +261,9 @@ void tst_PatchMaker::progressIsTold()
 void tst_PatchMaker::repetitionIsOverlappingCopy()
 {
     std::string target;
-    while (target.size() < 60000)
+    while (target.size() < 60000) {
         target += "do re mi ";
+    }
     const QByteArray patch = patchFor(std::string(), target);
     QVERIFY2(patch.size() < 24, patch.toHex().constData());
 }
@@ -269,8 +276,9 @@ void tst_PatchMaker::randomEditsRoundTrip()
     for (int round = 0; round < 1000; ++round) {
         const std::string base = randomText(random, random.bounded(random.bounded(20U) == 0 ? 90000U : 800U));
         std::string target = base;
-        for (quint32 edits = random.bounded(10U); edits > 0; --edits)
+        for (quint32 edits = random.bounded(10U); edits > 0; --edits) {
             edit(random, target);
+        }
         const int size = patchFor(base, target).size();
         const int inserts = 1 + int(target.size()) / 65536;
         QVERIFY(size <= 4 + 3 * inserts + int(target.size()));

@@ -31,8 +31,9 @@ private:
         layout.endLayout();
         QStringList families;
         const QList<QGlyphRun> runs = layout.glyphRuns();
-        for (const QGlyphRun &run : runs)
+        for (const QGlyphRun &run : runs) {
             families += run.rawFont().familyName().section(u',', 0, 0); // substitutes follow behind commas
+        }
         return families;
     }
 

@@ -34,10 +34,11 @@ inline void copyTree(const QString &from, const QString &to)
     const QFileInfoList entries = QDir(from).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
     for (const QFileInfo &entry : entries) {
         const QString target = QDir(to).filePath(entry.fileName());
-        if (entry.isDir())
+        if (entry.isDir()) {
             copyTree(entry.filePath(), target);
-        else
+        } else {
             QVERIFY(QFile::copy(entry.filePath(), target));
+        }
     }
 }
 
@@ -57,8 +58,9 @@ inline bool writeFile(const QString &path, const QByteArray &bytes)
 inline QStringList lines(const Findings &findings)
 {
     QStringList all;
-    for (const Finding &finding : findings)
+    for (const Finding &finding : findings) {
         all.append(finding.toString());
+    }
     return all;
 }
 

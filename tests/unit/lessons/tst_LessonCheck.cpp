@@ -14,8 +14,9 @@ Run run(const QStringList &arguments)
 {
     QProcess process;
     process.start(QStringLiteral(LESSON_CHECK), arguments);
-    if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit) {
         return {};
+    }
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
 }

@@ -186,8 +186,9 @@ void tst_LessonLibrary::namesAFileThatIsGone_data()
     QTest::addColumn<QString>("file");
     const QStringList files = {catalogueFile("ja_JP"), censusFile(),
                                QStringLiteral("resource/scenarios.qrc")};
-    for (const QString &file : files)
+    for (const QString &file : files) {
         QTest::newRow(qPrintable(file)) << file;
+    }
 }
 
 void tst_LessonLibrary::namesAFileThatIsGone()

@@ -23,8 +23,9 @@ QString messageSource()
 QByteArray allBytes()
 {
     QByteArray bytes;
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 256; ++i) {
         bytes.append(char(i));
+    }
     return bytes;
 }
 

@@ -110,8 +110,9 @@ void tst_JsonWrapper::indexReaches_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("index");
     QTest::addColumn<QJsonValue>("value");
-    for (const char *name : {"doc array", "array", "value array"})
+    for (const char *name : {"doc array", "array", "value array"}) {
         QTest::addRow("%s", name) << QString::fromLatin1(name) << 0 << QJsonValue(QStringLiteral("zero"));
+    }
     for (const char *name : {"object", "value object"}) {
         QTest::addRow("%s by decimal key", name)
             << QString::fromLatin1(name) << 3 << QJsonValue(QStringLiteral("three"));
@@ -157,8 +158,9 @@ void tst_JsonWrapper::indexOnBareObjectBringsTheKeyIntoBeing()
 void tst_JsonWrapper::keyReaches_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"doc object", "object", "value object"})
+    for (const char *name : {"doc object", "object", "value object"}) {
         QTest::addRow("%s", name) << QString::fromLatin1(name);
+    }
 }
 
 void tst_JsonWrapper::keyReaches()
@@ -194,20 +196,23 @@ void tst_JsonWrapper::containsLooksUp()
 void tst_JsonWrapper::keysAreSorted()
 {
     const QStringList keys{QStringLiteral("3"), QStringLiteral("a"), QStringLiteral("b")};
-    for (const char *name : {"doc object", "object", "value object"})
+    for (const char *name : {"doc object", "object", "value object"}) {
         QCOMPARE(sample(QString::fromLatin1(name)).keys(), keys);
+    }
 }
 
 void tst_JsonWrapper::lengthCounts()
 {
-    for (const char *name : {"doc array", "array", "value array"})
+    for (const char *name : {"doc array", "array", "value array"}) {
         QCOMPARE(sample(QString::fromLatin1(name)).length(), 4);
+    }
 }
 
 void tst_JsonWrapper::toArrayCopies()
 {
-    for (const char *name : {"doc array", "array", "value array"})
+    for (const char *name : {"doc array", "array", "value array"}) {
         QCOMPARE(sample(QString::fromLatin1(name)).toArray(), sampleArray());
+    }
 }
 
 void tst_JsonWrapper::predicates_data()
@@ -221,10 +226,12 @@ void tst_JsonWrapper::predicates_data()
                         bool string) {
         QTest::newRow(name) << Wrapper(wrapper) << array << object << null << string;
     };
-    for (const char *name : {"doc array", "array", "value array"})
+    for (const char *name : {"doc array", "array", "value array"}) {
         row(name, sample(QString::fromLatin1(name)), true, false, false, false);
-    for (const char *name : {"doc object", "object", "value object"})
+    }
+    for (const char *name : {"doc object", "object", "value object"}) {
         row(name, sample(QString::fromLatin1(name)), false, true, false, false);
+    }
     row("value string", sample(QStringLiteral("value string")), false, false, false, true);
     row("value null", sample(QStringLiteral("value null")), false, false, true, false);
     row("value number", JsonWrapper(QJsonValue(1)), false, false, false, false);
@@ -259,8 +266,9 @@ void tst_JsonWrapper::toBoolAndToInt_data()
     row("beyond int", parsed("4294967296"), false, 0);
     row("string", parsed("\"12\""), false, 0);
     for (const char *name :
-         {"doc array", "doc object", "array", "object", "value array", "value null", "max"})
+         {"doc array", "doc object", "array", "object", "value array", "value null", "max"}) {
         row(name, sample(QString::fromLatin1(name)), false, 0);
+    }
 }
 
 void tst_JsonWrapper::toBoolAndToInt()
@@ -290,8 +298,9 @@ void tst_JsonWrapper::setKeyOverwritesAndInserts()
 void tst_JsonWrapper::setIndexOverwrites_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"doc array", "array", "value array"})
+    for (const char *name : {"doc array", "array", "value array"}) {
         QTest::addRow("%s", name) << QString::fromLatin1(name);
+    }
 }
 
 void tst_JsonWrapper::setIndexOverwrites()
@@ -309,8 +318,9 @@ void tst_JsonWrapper::setIndexNeverAppends()
 {
     for (const char *name : {"doc array", "array", "value array"}) {
         JsonWrapper wrapper = sample(QString::fromLatin1(name));
-        for (const int index : {-1, 4, 5})
+        for (const int index : {-1, 4, 5}) {
             wrapper.set(index, QStringLiteral("text")).set(index, QJsonValue(1));
+        }
         QCOMPARE(wrapper.toArray(), sampleArray());
     }
 }
@@ -350,13 +360,15 @@ void tst_JsonWrapper::manyEditsOfALongArrayStayQuick()
     // A copy of the array at each edit would be 2.5 thousand million elements here.
     constexpr int kCount = 50000;
     QJsonArray array;
-    for (int i = 0; i < kCount; ++i)
+    for (int i = 0; i < kCount; ++i) {
         array.append(i);
+    }
     JsonWrapper wrapper(QString::fromUtf8(QJsonDocument(array).toJson()));
     array = QJsonArray();
     const CpuTime time;
-    for (int i = 0; i < kCount; ++i)
+    for (int i = 0; i < kCount; ++i) {
         wrapper.set(i, QJsonValue(-i));
+    }
     QVERIFY2(time.elapsedMs() < 2000, qPrintable(QString::number(time.elapsedMs())));
     QCOMPARE(wrapper[kCount - 1].toInt(), 1 - kCount);
 }

@@ -34,9 +34,10 @@ private:
     static void addRows(const char *operation, const Call &call,
                         const QList<std::pair<const char *, const char *>> &messages)
     {
-        for (const auto &[name, message] : messages)
+        for (const auto &[name, message] : messages) {
             QTest::addRow("%s on %s", operation, name)
                 << call << QString::fromLatin1(name) << QString::fromUtf8(message);
+        }
     }
 
 private Q_SLOTS:

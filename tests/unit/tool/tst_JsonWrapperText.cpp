@@ -86,8 +86,9 @@ void tst_JsonWrapperText::containersAndNullAreNotLogged()
     LogCapture log;
     for (const JsonWrapper &wrapper :
          {JsonWrapper(QJsonValue()), JsonWrapper(QJsonValue(smallArray())),
-          JsonWrapper(QJsonValue(smallObject())), JsonWrapper(QStringLiteral("[1]"))})
+          JsonWrapper(QJsonValue(smallObject())), JsonWrapper(QStringLiteral("[1]"))}) {
         QVERIFY(!wrapper.toJson().isEmpty());
+    }
     QCOMPARE(log.lines(), QStringList());
 }
 
@@ -190,12 +191,14 @@ void tst_JsonWrapperText::unknownElementLeavesItsPlaceEmpty()
 void tst_JsonWrapperText::hashMembersStandInTheOrderOfTheHash()
 {
     QVariantHash hash;
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         hash.insert(QStringLiteral("key%1").arg(i), i);
+    }
     QStringList members;
-    for (auto it = hash.cbegin(); it != hash.cend(); ++it)
+    for (auto it = hash.cbegin(); it != hash.cend(); ++it) {
         members << QStringLiteral("\"") + it.key() + QStringLiteral("\": ") +
                        QString::number(it.value().toInt());
+    }
     QCOMPARE(JsonWrapper::getJsonString(hash),
              QStringLiteral("{ ") + members.join(QStringLiteral(", ")) + QStringLiteral(" }"));
 }
