@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\SystemService\\SystemService.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\SystemService\SystemService.cpp)";
 
 // Four characters stand for three bytes, and a text takes less than 2^30 characters.
 constexpr qint64 kMostBytesForBase64 = (qint64(1) << 30) / 4 * 3 - 1024;

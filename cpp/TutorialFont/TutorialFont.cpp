@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr auto kSource = "..\\..\\tutorial\\cpp\\TutorialFont\\TutorialFont.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\TutorialFont\TutorialFont.cpp)";
 
 } // namespace
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\tool\\DataSupport";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\tool\DataSupport)";
 // The most that a byte array can hold, its own header and terminator set aside.
 constexpr qint64 kMostBytes = std::numeric_limits<int>::max() - 64;
 

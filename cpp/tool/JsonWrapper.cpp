@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\tool\\JsonWrapper.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\tool\JsonWrapper.cpp)";
 
 // To take something out lets go of the holder's reference: what is referred to once is changed in place and
 // not copied whole, which would make a walk that writes back each of its changes quadratic.

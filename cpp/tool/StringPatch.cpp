@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr const char *kSource = "..\\..\\tutorial\\cpp\\tool\\StringPatch.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\tool\StringPatch.cpp)";
 constexpr std::size_t kSizeWidth = 4; // of the length of the result, in bytes
 
 /// Walks a patch from front to back; behind its end there is nothing.
