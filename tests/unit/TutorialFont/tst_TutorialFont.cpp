@@ -39,7 +39,7 @@ const auto kSource = QStringLiteral("..\\..\\tutorial\\cpp\\TutorialFont\\Tutori
 
 } // namespace
 
-class TestTutorialFont : public QObject
+class tst_TutorialFont : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void onlyTheFamilyIsSet();
 };
 
-void TestTutorialFont::init()
+void tst_TutorialFont::init()
 {
     fontFolder().removeRecursively();
     const QStringList families = QFont::substitutions();
@@ -72,13 +72,13 @@ void TestTutorialFont::init()
     }
 }
 
-void TestTutorialFont::cleanup()
+void tst_TutorialFont::cleanup()
 {
     QFontDatabase::removeAllApplicationFonts();
     fontFolder().removeRecursively();
 }
 
-void TestTutorialFont::listsFamiliesByLocale_data()
+void tst_TutorialFont::listsFamiliesByLocale_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QStringList>("families");
@@ -101,7 +101,7 @@ void TestTutorialFont::listsFamiliesByLocale_data()
     QTest::newRow("zh") << QStringLiteral("zh") << other;
 }
 
-void TestTutorialFont::listsFamiliesByLocale()
+void tst_TutorialFont::listsFamiliesByLocale()
 {
     QFETCH(QString, locale);
     TutorialFont font;
@@ -110,7 +110,7 @@ void TestTutorialFont::listsFamiliesByLocale()
     QTEST(font.getFontFamilyList(), "families");
 }
 
-void TestTutorialFont::nameStandsForAFamilyWithoutFile()
+void tst_TutorialFont::nameStandsForAFamilyWithoutFile()
 {
     TutorialFont font;
     font.setLocale(QStringLiteral("en_US"));
@@ -120,7 +120,7 @@ void TestTutorialFont::nameStandsForAFamilyWithoutFile()
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestTutorialFont::familyIsTheOneNamedInTheFile()
+void tst_TutorialFont::familyIsTheOneNamedInTheFile()
 {
     QVERIFY(supply(QStringLiteral("mplus-1c-regular")));
     TutorialFont font;
@@ -128,7 +128,7 @@ void TestTutorialFont::familyIsTheOneNamedInTheFile()
     QVERIFY(QFont::substitutes(kFamilyInFile).isEmpty());
 }
 
-void TestTutorialFont::chineseFallsBackToSystemFamilies()
+void tst_TutorialFont::chineseFallsBackToSystemFamilies()
 {
     QVERIFY(supply(QStringLiteral("mplusmini-1c-regular")));
     TutorialFont font;
@@ -140,7 +140,7 @@ void TestTutorialFont::chineseFallsBackToSystemFamilies()
                           QStringLiteral("sans-serif")}));
 }
 
-void TestTutorialFont::localeTakesEffectWithTheNextFont()
+void tst_TutorialFont::localeTakesEffectWithTheNextFont()
 {
     TutorialFont font;
     font.setLocale(QStringLiteral("ko_KR"));
@@ -149,7 +149,7 @@ void TestTutorialFont::localeTakesEffectWithTheNextFont()
     QCOMPARE(font.getFont().family(), QStringLiteral("mplus-1c-regular"));
 }
 
-void TestTutorialFont::fileIsReadOnce()
+void tst_TutorialFont::fileIsReadOnce()
 {
     QVERIFY(supply(QStringLiteral("mplus-1c-regular")));
     TutorialFont font;
@@ -158,7 +158,7 @@ void TestTutorialFont::fileIsReadOnce()
     QCOMPARE(font.getFont().family(), kFamilyInFile);
 }
 
-void TestTutorialFont::refusedFileIsTriedAgain()
+void tst_TutorialFont::refusedFileIsTriedAgain()
 {
     QVERIFY(supplyRubbish(QStringLiteral("mplus-1c-regular")));
     TutorialFont font;
@@ -167,7 +167,7 @@ void TestTutorialFont::refusedFileIsTriedAgain()
     QCOMPARE(font.getFont().family(), kFamilyInFile);
 }
 
-void TestTutorialFont::familiesOfSeveralFilesAreJoined()
+void tst_TutorialFont::familiesOfSeveralFilesAreJoined()
 {
     QVERIFY(supply(QStringLiteral("second")));
     TutorialFont font;
@@ -176,7 +176,7 @@ void TestTutorialFont::familiesOfSeveralFilesAreJoined()
     QCOMPARE(QFont::substitutes(QStringLiteral("first")), QStringList(kFamilyInFile.toLower()));
 }
 
-void TestTutorialFont::unchangedSubstitutesAreLeftAlone()
+void tst_TutorialFont::unchangedSubstitutesAreLeftAlone()
 {
     TutorialFont font;
     const QStringList names{QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")};
@@ -187,7 +187,7 @@ void TestTutorialFont::unchangedSubstitutesAreLeftAlone()
     QCOMPARE(QFont::substitutes(QStringLiteral("first")), before);
 }
 
-void TestTutorialFont::changedSubstitutesAreAdded()
+void tst_TutorialFont::changedSubstitutesAreAdded()
 {
     TutorialFont font;
     QFont::insertSubstitution(QStringLiteral("first"), QStringLiteral("known"));
@@ -200,7 +200,7 @@ void TestTutorialFont::changedSubstitutesAreAdded()
              QStringList({QStringLiteral("known"), QStringLiteral("second")}));
 }
 
-void TestTutorialFont::lostFamiliesAreLogged()
+void tst_TutorialFont::lostFamiliesAreLogged()
 {
     QVERIFY(supply(QStringLiteral("mplus-1c-regular")));
     TutorialFont font;
@@ -216,7 +216,7 @@ void TestTutorialFont::lostFamiliesAreLogged()
                                               "(\"mplus-1c-regular\")")}));
 }
 
-void TestTutorialFont::noNamesGiveNoFamily()
+void tst_TutorialFont::noNamesGiveNoFamily()
 {
     TutorialFont font;
     const LogCapture log;
@@ -227,7 +227,7 @@ void TestTutorialFont::noNamesGiveNoFamily()
                          QStringLiteral("TutorialFont::getFontFamily 53 familyList.size() == 0 for ()")));
 }
 
-void TestTutorialFont::onlyTheFamilyIsSet()
+void tst_TutorialFont::onlyTheFamilyIsSet()
 {
     TutorialFont font;
     QFont expected;
@@ -235,5 +235,5 @@ void TestTutorialFont::onlyTheFamilyIsSet()
     QCOMPARE(font.getFont(), expected);
 }
 
-QTEST_MAIN(TestTutorialFont)
+QTEST_MAIN(tst_TutorialFont)
 #include "tst_TutorialFont.moc"

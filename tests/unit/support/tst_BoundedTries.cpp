@@ -5,7 +5,7 @@
 #include <QThread>
 
 /// The waits of the desktop tests.
-class TestBoundedTries : public QObject
+class tst_BoundedTries : public QObject
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private Q_SLOTS:
     void whatComesEndsTheWait();
 };
 
-void TestBoundedTries::whatNeverComesEndsAtTheLimit()
+void tst_BoundedTries::whatNeverComesEndsAtTheLimit()
 {
     constexpr int kLimitMs = 1000;
     constexpr int kLookMs =
@@ -34,7 +34,7 @@ void TestBoundedTries::whatNeverComesEndsAtTheLimit()
     QVERIFY2(looks >= 2 && looks <= 3, qPrintable(QString::number(looks)));
 }
 
-void TestBoundedTries::whatComesEndsTheWait()
+void tst_BoundedTries::whatComesEndsTheWait()
 {
     int looks = 0;
     const auto look = [&looks] {
@@ -44,5 +44,5 @@ void TestBoundedTries::whatComesEndsTheWait()
     QCOMPARE(looks, 4); // the last one is the check itself
 }
 
-QTEST_GUILESS_MAIN(TestBoundedTries)
+QTEST_GUILESS_MAIN(tst_BoundedTries)
 #include "tst_BoundedTries.moc"

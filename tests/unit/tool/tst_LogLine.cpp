@@ -11,14 +11,14 @@ class tst_LogLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void begins_with_source_function_and_number();
-    void writes_whole_what_fits();
+    void beginsWithSourceFunctionAndNumber();
+    void writesWholeWhatFits();
     void writesListsInBrackets();
-    void cuts_what_would_not_fit_data();
-    void cuts_what_would_not_fit();
-    void counts_escapes_as_they_are_written();
-    void shares_the_room_of_a_line();
-    void has_room_for_the_longest_printable_payload();
+    void cutsWhatWouldNotFit_data();
+    void cutsWhatWouldNotFit();
+    void countsEscapesAsTheyAreWritten();
+    void sharesTheRoomOfALine();
+    void hasRoomForTheLongestPrintablePayload();
 };
 
 namespace {
@@ -41,7 +41,7 @@ QStringList manyTexts()
 
 } // namespace
 
-void tst_LogLine::begins_with_source_function_and_number()
+void tst_LogLine::beginsWithSourceFunctionAndNumber()
 {
     LogCapture log;
     logDebug("source", "Class::function", 12) << QStringLiteral("text") << 3;
@@ -50,7 +50,7 @@ void tst_LogLine::begins_with_source_function_and_number()
     QCOMPARE(log.warnings(), QStringList{QStringLiteral("source Class::function 13 \"\\x80\"")});
 }
 
-void tst_LogLine::writes_whole_what_fits()
+void tst_LogLine::writesWholeWhatFits()
 {
     LogCapture log;
     const QVariantMap map = {{QStringLiteral("number"), 1}, {QStringLiteral("text"), QStringLiteral("c")}};
@@ -75,7 +75,7 @@ void tst_LogLine::writesListsInBrackets()
     QCOMPARE(log.lines(), QStringList{QStringLiteral(R"(s f 1 ("a\u0001", "", "b") () (1, 2) plain)")});
 }
 
-void tst_LogLine::cuts_what_would_not_fit_data()
+void tst_LogLine::cutsWhatWouldNotFit_data()
 {
     QTest::addColumn<QVariant>("value");
     const QString text(1 << 20, QChar(3));
@@ -87,7 +87,7 @@ void tst_LogLine::cuts_what_would_not_fit_data()
         QVariantMap{{QStringLiteral("first"), 1}, {QStringLiteral("key"), text}});
 }
 
-void tst_LogLine::cuts_what_would_not_fit()
+void tst_LogLine::cutsWhatWouldNotFit()
 {
     QFETCH(QVariant, value);
     constexpr int kMost = 1 << 20;
@@ -115,7 +115,7 @@ void tst_LogLine::cuts_what_would_not_fit()
     QVERIFY(!written.contains(QStringLiteral("last")));
 }
 
-void tst_LogLine::counts_escapes_as_they_are_written()
+void tst_LogLine::countsEscapesAsTheyAreWritten()
 {
     // The same number of characters: printed as they are they fit, escaped they do not.
     constexpr int kSize = 1 << 20;
@@ -125,7 +125,7 @@ void tst_LogLine::counts_escapes_as_they_are_written()
     QVERIFY(lineOf(kMost, QString(kSize, QChar(3))).endsWith(QLatin1String("(cut)")));
 }
 
-void tst_LogLine::shares_the_room_of_a_line()
+void tst_LogLine::sharesTheRoomOfALine()
 {
     constexpr int kSize = 1 << 20;
     const QString text(kSize, QLatin1Char('x'));
@@ -136,7 +136,7 @@ void tst_LogLine::shares_the_room_of_a_line()
     QCOMPARE(written.count(QStringLiteral("(cut)")), 2);
 }
 
-void tst_LogLine::has_room_for_the_longest_printable_payload()
+void tst_LogLine::hasRoomForTheLongestPrintablePayload()
 {
     constexpr qint64 kMostPayload = qint64(1) << 28;
     QVERIFY(LogLine::kMostCharacters > kMostPayload + 1000);
