@@ -31,7 +31,7 @@ InsertTreeItemCommand::~InsertTreeItemCommand() = default;
 
 void InsertTreeItemCommand::redo()
 {
-    if (!m_document) {
+    if (m_document == nullptr) {
         return;
     }
     ItemTree *tree = m_document->tree();
@@ -61,7 +61,7 @@ void InsertTreeItemCommand::redo()
 
 void InsertTreeItemCommand::undo()
 {
-    if (!m_document) {
+    if (m_document == nullptr) {
         return;
     }
     ItemTree *tree = m_document->tree();
@@ -73,7 +73,7 @@ void InsertTreeItemCommand::undo()
     tellUndoNote(m_document->historySource(), m_note);
     // Another item with the same id may have gone instead; what the document still holds is not ours to
     // delete.
-    if (!m_owned && !tree->items.contains(m_data)) {
+    if (m_owned == nullptr && !tree->items.contains(m_data)) {
         m_owned.reset(m_data);
     }
 }

@@ -96,7 +96,7 @@ std::unique_ptr<Node> createFromJson(const JsonWrapper &json, QList<TutorialItem
     using Builder = std::function<std::unique_ptr<Node>(const JsonWrapper &, const QString &)>;
     const Builder build = [&](const JsonWrapper &value, const QString &where) -> std::unique_ptr<Node> {
         std::unique_ptr<TutorialItemData> data = TutorialItemData::fromJson(value, texts);
-        if (!data) {
+        if (data == nullptr) {
             report(where, QStringLiteral("it is no object with an \"id\""));
             return nullptr;
         }

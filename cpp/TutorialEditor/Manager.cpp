@@ -149,7 +149,7 @@ void Manager::readItems(const QString &json, QStringList *errors)
     for (int i = 0; i < elements.size(); ++i) {
         const std::unique_ptr<Node> node = createFromJson(JsonWrapper(elements.at(i)), &items, *m_texts,
                                                           errors, QStringLiteral("Item %1").arg(i + 1));
-        if (node) {
+        if (node != nullptr) {
             tree()->root.children.append(*node);
         }
     }

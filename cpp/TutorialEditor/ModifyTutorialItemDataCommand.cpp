@@ -74,7 +74,8 @@ bool ModifyTutorialItemDataCommand::apply(const QVariant &value, bool saveOld,
                                           const UndoMergeableCommand *source)
 {
     const ItemField *field = findItemField(m_properties.value(QStringLiteral("target"), QString()));
-    TutorialItemData *data = !m_document ? nullptr : findData(&m_document->tree()->items, m_tutorialItemId);
+    TutorialItemData *data =
+        m_document == nullptr ? nullptr : findData(&m_document->tree()->items, m_tutorialItemId);
     if (field == nullptr || data == nullptr) {
         return false;
     }

@@ -86,7 +86,7 @@ QString TutorialItemData::toJson(const QString &extra) const
 
 void TutorialItemData::setName(const QString &value)
 {
-    if (value == name || (m_changes && m_changes->recordName(*this, value))) {
+    if (value == name || (m_changes != nullptr && m_changes->recordName(*this, value))) {
         return;
     }
     name = value;

@@ -74,7 +74,7 @@ void tst_DocumentCommands::commandsThatOutliveTheDocumentDoNothing()
     QCOMPARE(host.notes, (QStringList{QStringLiteral("modified"), QStringLiteral("modified")}));
     QVERIFY(undone); // the command still owns it
     history.clear();
-    QVERIFY(!undone);
+    QVERIFY(undone == nullptr);
     left->setName(QStringLiteral("free"));
     QCOMPARE(left->name, QStringLiteral("free"));
 }

@@ -128,7 +128,7 @@ void tst_InsertTreeItemCommand::theCommandOwnsTheItemWhileItIsOut()
     fixture.undoRedo().undo();
     QVERIFY(undone);
     fixture.undoRedo().clear();
-    QVERIFY(!undone);
+    QVERIFY(undone == nullptr);
     QCOMPARE(fixture.ids(), QStringLiteral("9"));
     delete inserted.data();
     fixture.tree()->items.clear();
@@ -159,7 +159,7 @@ void tst_InsertTreeItemCommand::insertWithoutAHistoryDoesNothing()
     auto data = itemWithId(9);
     const QPointer<TutorialItemData> watched = data.get();
     insertTreeItem(&document, -1, -1, 9, std::move(data), QString(), {});
-    QVERIFY(!watched);
+    QVERIFY(watched == nullptr);
     QVERIFY(document.tree()->items.isEmpty());
     QVERIFY(document.tree()->root.children.isEmpty());
 }
@@ -172,7 +172,7 @@ void tst_InsertTreeItemCommand::aCommandThatNeverRanDeletesItsItem()
         const InsertTreeItemCommand insert(nullptr, -1, -1, 9, std::move(data), QString(), {});
         QVERIFY(watched);
     }
-    QVERIFY(!watched);
+    QVERIFY(watched == nullptr);
 }
 
 QTEST_MAIN(tst_InsertTreeItemCommand)

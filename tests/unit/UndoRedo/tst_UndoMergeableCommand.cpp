@@ -200,7 +200,7 @@ void tst_UndoMergeableCommand::theSearchBeginsAtTheNewestClone()
     RecordingCommand command(QStringLiteral("x"), 1);
     RecordingCommand *older = append(&command, RecordingCommand(QStringLiteral("y"), 2));
     RecordingCommand *newer = append(&command, RecordingCommand(QStringLiteral("z"), 3));
-    QVERIFY(older && newer);
+    QVERIFY(older != nullptr && newer != nullptr);
     older->setMergeable(false);
     QVERIFY(command.mergeWith(std::make_unique<RecordingCommand>(QStringLiteral("z"), 4).get()));
     QCOMPARE(newer->value(), QVariant(4));
