@@ -1,5 +1,6 @@
 #include "Tutorial/overlay/TutorialIndicator.h"
 
+#include "Tutorial/link/CommandWords.h"
 #include "Tutorial/overlay/HintDocument.h"
 #include "Tutorial/overlay/IndicatorSettings.h"
 #include "Tutorial/overlay/KeepPlace.h"
@@ -205,17 +206,17 @@ void TutorialIndicator::setSettings(const QVariantMap &settings)
 
 void TutorialIndicator::nextClicked()
 {
-    m_manager->send(QStringLiteral("next"));
+    m_manager->send(CommandWords::kNext);
 }
 
 void TutorialIndicator::yesClicked()
 {
-    m_manager->send(QStringLiteral("yes"));
+    m_manager->send(CommandWords::kYes);
 }
 
 void TutorialIndicator::noClicked()
 {
-    m_manager->send(QStringLiteral("no"));
+    m_manager->send(CommandWords::kNo);
 }
 
 void TutorialIndicator::changeEvent(QEvent *event)
