@@ -87,7 +87,8 @@ class CheckIncludes(Project):
     def test_the_practice_editor_may_not_include_the_companion(self):
         self.assertBroken(
             {"practice/Host.cpp": "#include <tool/Log.h>\n", "cpp/tool/Log.h": ""},
-            "practice/Host.cpp:1: practice may not include cpp/tool/Log.h (allowed: host, lesson, platform)")
+            "practice/Host.cpp:1: practice may not include cpp/tool/Log.h"
+            f" (allowed: {', '.join(load_script().FLOORS['practice'])})")
 
     def test_a_circle_is_named_once(self):
         self.assertBroken(
