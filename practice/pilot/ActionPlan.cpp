@@ -76,7 +76,7 @@ QVector<Action> typing(const Step &step)
     return actions;
 }
 
-Action pressOf(const Overlays::Window &button)
+Action pressOf(const SeenOverlays::Window &button)
 {
     // A place inside of the window: it moves once more when its companion comes to lay out the hint only now.
     // In its left part: the right edge of Yes lies below No.
@@ -110,7 +110,7 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
             plan.actions += typing(step);
         }
     }
-    const QVector<Overlays::Window> &buttons = sight.overlays.buttons;
+    const QVector<SeenOverlays::Window> &buttons = sight.overlays.buttons;
     if (!buttons.isEmpty()) {
         plan.actions.append(pressOf(answersYes ? buttons.constFirst() : buttons.constLast()));
     }

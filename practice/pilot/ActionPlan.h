@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pilot/Action.h"
-#include "pilot/Overlays.h"
+#include "pilot/SeenOverlays.h"
 
 #include <QVector>
 
@@ -12,7 +12,7 @@ struct Step;
 /// What there is to go by when a step is told.
 struct Sight
 {
-    Overlays overlays;
+    SeenOverlays overlays;
     /// Where the bubble was sent last, for this step or one before it, in global screen pixels. A learner
     /// goes by where the arrow points, wherever the editor takes its window to be by now.
     std::optional<QPoint> place;

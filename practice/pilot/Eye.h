@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pilot/Overlays.h"
+#include "pilot/SeenOverlays.h"
 
 #include <QString>
 
@@ -19,7 +19,7 @@ public:
     Eye &operator=(Eye &&) = delete;
 
     /// The companion's visible windows; nothing when the look failed because a window went away under it.
-    [[nodiscard]] virtual std::optional<Overlays> overlays() = 0;
+    [[nodiscard]] virtual std::optional<SeenOverlays> overlays() = 0;
     /// Whether a click at @p spot would reach a window of the editor, and one that takes it.
     [[nodiscard]] virtual bool takesClickAt(const QPoint &spot) = 0;
     /// Whether keys would reach the window of the editor at @p spot.

@@ -135,7 +135,7 @@ void Pilot::onLimit()
 
 bool Pilot::isAtRest()
 {
-    const std::optional<Overlays> seen = m_eye->overlays();
+    const std::optional<SeenOverlays> seen = m_eye->overlays();
     if (!seen) {
         return false;
     }
@@ -200,7 +200,7 @@ void Pilot::act()
 
 void Pilot::watchEnd()
 {
-    if (!isAtRest() || m_seen != Overlays()) {
+    if (!isAtRest() || m_seen != SeenOverlays()) {
         return;
     }
     if (!takeShot(QStringLiteral("end"))) {

@@ -91,7 +91,7 @@ private:
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceMoved;
     QElapsedTimer m_sinceClick;
-    Overlays m_seen;
+    SeenOverlays m_seen;
     ActionPlan m_plan;
     /// How many of the plan's actions are done, and which, in words.
     int m_next = 0;

@@ -40,7 +40,7 @@ private:
     }
 };
 
-Overlays::Window onScreen(const QWidget &widget)
+SeenOverlays::Window onScreen(const QWidget &widget)
 {
     return {QRect(XWindows::positionOf(widget.winId()), widget.size()), static_cast<quint32>(widget.winId())};
 }
@@ -133,9 +133,9 @@ void TestHandAndEye::seesTheWindowsOfAProcess()
     const std::unique_ptr<QWidget> yes = showOverlay({700, 400, 64, 32});
     QVERIFY(bubble && no && yes);
     const auto isSeen = [&] {
-        const std::optional<Overlays> seen = m_eye->overlays();
+        const std::optional<SeenOverlays> seen = m_eye->overlays();
         return seen && seen->bubble == onScreen(*bubble).rect &&
-               seen->buttons == QVector<Overlays::Window>{onScreen(*yes), onScreen(*no)};
+               seen->buttons == QVector<SeenOverlays::Window>{onScreen(*yes), onScreen(*no)};
     };
     QTRY_VERIFY_WITH_TIMEOUT(isSeen(), kSoonMs);
     bubble->move(450, 250);
@@ -147,18 +147,18 @@ void TestHandAndEye::seesNoneThatIsHidden()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
-    QTRY_COMPARE_WITH_TIMEOUT(m_eye->overlays().value_or(Overlays()).buttons.size(), 1, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_eye->overlays().value_or(SeenOverlays()).buttons.size(), 1, kSoonMs);
     button->hide();
-    QTRY_VERIFY_WITH_TIMEOUT(m_eye->overlays() == Overlays(), kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_eye->overlays() == SeenOverlays(), kSoonMs);
 }
 
 void TestHandAndEye::seesNoneOfAnotherProcess()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
-    QTRY_COMPARE_WITH_TIMEOUT(m_eye->overlays().value_or(Overlays()).buttons.size(), 1, kSoonMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_eye->overlays().value_or(SeenOverlays()).buttons.size(), 1, kSoonMs);
     m_eye->setCompanion(QCoreApplication::applicationPid() + 1);
-    QVERIFY(m_eye->overlays() == Overlays());
+    QVERIFY(m_eye->overlays() == SeenOverlays());
 }
 
 void TestHandAndEye::clicksWithEitherButton()

@@ -72,7 +72,7 @@ private Q_SLOTS:
     void theStripNamesTheWindowToOpenNext();
 
 private:
-    [[nodiscard]] Overlays overlays() const;
+    [[nodiscard]] SeenOverlays overlays() const;
     /// Whether the bubble of a step without a place rests in the middle of the main window, beside its
     /// button.
     [[nodiscard]] bool isReadable() const;
@@ -122,19 +122,19 @@ void TestPracticeWindows::cleanup()
     m_editor.reset();
 }
 
-Overlays TestPracticeWindows::overlays() const
+SeenOverlays TestPracticeWindows::overlays() const
 {
     // A look fails when a window of anyone's goes away under it.
-    std::optional<Overlays> seen;
+    std::optional<SeenOverlays> seen;
     for (int look = 0; look < kLooks && !seen; ++look) {
         seen = m_eye->overlays();
     }
-    return seen.value_or(Overlays());
+    return seen.value_or(SeenOverlays());
 }
 
 bool TestPracticeWindows::isReadable() const
 {
-    const Overlays seen = overlays();
+    const SeenOverlays seen = overlays();
     const QPoint middle = mainWindow()->mapToGlobal(mainWindow()->rect().center());
     return seen.buttons.size() == 1 && seen.bubble &&
            arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
@@ -142,7 +142,7 @@ bool TestPracticeWindows::isReadable() const
 
 bool TestPracticeWindows::isPointing() const
 {
-    const Overlays seen = overlays();
+    const SeenOverlays seen = overlays();
     const std::optional<QPoint> target = m_editor->session().bubbleTarget();
     return seen.bubble && target && arrowSpot(seen.bubble->topLeft(), *target);
 }
@@ -157,7 +157,7 @@ bool TestPracticeWindows::clickSpot() const
 {
     std::optional<QPoint> spot;
     const auto isReady = [this, &spot] {
-        const Overlays seen = overlays();
+        const SeenOverlays seen = overlays();
         const std::optional<QPoint> target = m_editor->session().bubbleTarget();
         spot = seen.bubble && target ? arrowSpot(seen.bubble->topLeft(), *target) : std::nullopt;
         return spot && XWindows::takesClick(mainWindow()->winId(), *spot);

@@ -76,9 +76,9 @@ XEye::XEye(std::shared_ptr<const XConnection> x)
 {
 }
 
-std::optional<Overlays> XEye::overlays()
+std::optional<SeenOverlays> XEye::overlays()
 {
-    QVector<Overlays::Window> found;
+    QVector<SeenOverlays::Window> found;
     Ids level{m_x->root()};
     while (!level.isEmpty()) {
         const std::optional<Ids> shown = viewable(level);
@@ -88,7 +88,7 @@ std::optional<Overlays> XEye::overlays()
         }
         level = *below;
     }
-    return Overlays::among(found);
+    return SeenOverlays::among(found);
 }
 
 std::optional<XEye::Ids> XEye::viewable(const Ids &windows) const
@@ -111,7 +111,7 @@ std::optional<XEye::Ids> XEye::viewable(const Ids &windows) const
     return isComplete ? std::optional<Ids>(shown) : std::nullopt;
 }
 
-std::optional<XEye::Ids> XEye::look(const Ids &windows, QVector<Overlays::Window> *found) const
+std::optional<XEye::Ids> XEye::look(const Ids &windows, QVector<SeenOverlays::Window> *found) const
 {
     xcb_connection_t *const c = m_x->get();
     std::vector<Questions> asked;

@@ -14,7 +14,7 @@ public:
     /// Whose windows are the overlays: the process, as its windows tell it.
     void setCompanion(qint64 pid) { m_pid = pid; }
 
-    [[nodiscard]] std::optional<Overlays> overlays() override;
+    [[nodiscard]] std::optional<SeenOverlays> overlays() override;
     [[nodiscard]] bool takesClickAt(const QPoint &spot) override;
     [[nodiscard]] bool takesKeysAt(const QPoint &spot) override;
     [[nodiscard]] bool takePicture(const QString &path) override;
@@ -26,7 +26,7 @@ private:
     [[nodiscard]] std::optional<Ids> viewable(const Ids &windows) const;
     /// Adds those of @p windows that are the companion's to @p found, and returns the children of all of
     /// them; nothing when one of them is gone.
-    [[nodiscard]] std::optional<Ids> look(const Ids &windows, QVector<Overlays::Window> *found) const;
+    [[nodiscard]] std::optional<Ids> look(const Ids &windows, QVector<SeenOverlays::Window> *found) const;
 
     std::shared_ptr<const XConnection> m_x;
     xcb_atom_t m_pidAtom;

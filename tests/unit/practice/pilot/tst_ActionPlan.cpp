@@ -8,8 +8,8 @@ namespace {
 // A bubble that stands where it was sent, so that its arrow points at (438, 450).
 constexpr QPoint kPlace(400, 300);
 constexpr QRect kBubble(400, 300, 640, 480);
-const Overlays::Window kLeft{QRect(600, 700, 64, 32), 7};
-const Overlays::Window kRight{QRect(656, 700, 64, 32), 8};
+const SeenOverlays::Window kLeft{QRect(600, 700, 64, 32), 7};
+const SeenOverlays::Window kRight{QRect(656, 700, 64, 32), 8};
 
 Step stepOf(const QString &condition, const QString &icon)
 {
@@ -30,12 +30,12 @@ Step pointlessStepOf(const QString &condition, const QString &icon)
     return step;
 }
 
-Sight sightWith(const QVector<Overlays::Window> &buttons)
+Sight sightWith(const QVector<SeenOverlays::Window> &buttons)
 {
     return {{kBubble, buttons}, kPlace, false};
 }
 
-QVector<Overlays::Window> buttonsOf(const QString &condition)
+QVector<SeenOverlays::Window> buttonsOf(const QString &condition)
 {
     switch (Condition::parse(condition)->type()) {
     case Condition::Type::kNext:
@@ -226,7 +226,7 @@ void TestActionPlan::waitsUntilAllIsInPlace()
     QFETCH(QPoint, shift);
     QFETCH(int, buttons);
     QFETCH(bool, isReady);
-    Sight sight = sightWith(QVector<Overlays::Window>{kLeft, kRight}.mid(0, buttons));
+    Sight sight = sightWith(QVector<SeenOverlays::Window>{kLeft, kRight}.mid(0, buttons));
     sight.overlays.bubble =
         hasBubble ? std::optional<QRect>(kBubble.translated(shift)) : std::optional<QRect>();
     QCOMPARE(ActionPlan::make(stepOf(condition, QStringLiteral("click")), sight, true).has_value(), isReady);

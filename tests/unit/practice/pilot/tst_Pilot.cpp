@@ -15,7 +15,7 @@ constexpr int kSeveral = 6;
 
 constexpr QRect kBubble(100, 170, 640, 480); // where the steps below that point send it
 constexpr QRect kMiddle(601, 399, 640, 480); // where it is sent before the first step
-const Overlays::Window kNext{QRect(300, 500, 64, 32), 7};
+const SeenOverlays::Window kNext{QRect(300, 500, 64, 32), 7};
 
 const QString kClicking = QStringLiteral(
     R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
@@ -29,7 +29,7 @@ const QString kReadingOn = QStringLiteral(
 /// What the screen and the editor show is the test's to say.
 struct Scene
 {
-    std::function<std::optional<Overlays>()> look;
+    std::function<std::optional<SeenOverlays>()> look;
     bool takesClicks = true;
     bool takesKeys = true;
     bool takesPictures = true;
@@ -49,7 +49,7 @@ public:
     {
     }
 
-    std::optional<Overlays> overlays() override
+    std::optional<SeenOverlays> overlays() override
     {
         ++m_scene->looks;
         return m_scene->look();
@@ -125,7 +125,7 @@ private:
     static Pilot::Settings settings();
 
     Scene m_scene;
-    Overlays m_overlays;
+    SeenOverlays m_overlays;
     std::unique_ptr<FakeEditor> m_editor;
     std::unique_ptr<LessonSession> m_session;
     std::unique_ptr<Pilot> m_pilot;
@@ -185,7 +185,7 @@ void TestPilot::waitsForTheBubbleToStand()
         if (glides) {
             shift.rx() = shift.x() == 3 ? -3 : shift.x() + 1;
         }
-        return Overlays{kBubble.translated(shift), {}};
+        return SeenOverlays{kBubble.translated(shift), {}};
     };
     begin({kClicking});
     QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);
@@ -198,7 +198,7 @@ void TestPilot::waitsForTheBubbleToStand()
 void TestPilot::aLookThatFailedIsNone()
 {
     m_scene.look = [] {
-        return std::optional<Overlays>();
+        return std::optional<SeenOverlays>();
     };
     begin({kClicking});
     QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);

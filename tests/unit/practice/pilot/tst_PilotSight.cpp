@@ -1,5 +1,5 @@
 #include "pilot/ArrowSpot.h"
-#include "pilot/Overlays.h"
+#include "pilot/SeenOverlays.h"
 
 #include <QTest>
 
@@ -52,21 +52,21 @@ void TestPilotSight::knowsABubbleOnItsWay()
 
 void TestPilotSight::tellsBubbleAndButtonsFromTheRest()
 {
-    const Overlays::Window no{QRect(456, 200, 64, 32), 1};
-    const Overlays::Window bubble{QRect(10, -40, 640, 480), 2};
-    const Overlays::Window hidden{QRect(-1, -1, 1, 1), 3};
-    const Overlays::Window yes{QRect(400, 200, 64, 32), 4};
-    const Overlays seen = Overlays::among({no, bubble, hidden, yes});
+    const SeenOverlays::Window no{QRect(456, 200, 64, 32), 1};
+    const SeenOverlays::Window bubble{QRect(10, -40, 640, 480), 2};
+    const SeenOverlays::Window hidden{QRect(-1, -1, 1, 1), 3};
+    const SeenOverlays::Window yes{QRect(400, 200, 64, 32), 4};
+    const SeenOverlays seen = SeenOverlays::among({no, bubble, hidden, yes});
     QCOMPARE(*seen.bubble, bubble.rect);
-    QCOMPARE(seen.buttons, (QVector<Overlays::Window>{yes, no}));
+    QCOMPARE(seen.buttons, (QVector<SeenOverlays::Window>{yes, no}));
 }
 
 void TestPilotSight::seesNothingWhereThereIsNothing()
 {
-    const Overlays seen = Overlays::among({});
+    const SeenOverlays seen = SeenOverlays::among({});
     QVERIFY(!seen.bubble);
     QVERIFY(seen.buttons.isEmpty());
-    QVERIFY(seen == Overlays());
+    QVERIFY(seen == SeenOverlays());
 }
 
 QTEST_APPLESS_MAIN(TestPilotSight)

@@ -1,4 +1,4 @@
-#include "pilot/Overlays.h"
+#include "pilot/SeenOverlays.h"
 
 #include <algorithm>
 
@@ -9,9 +9,9 @@ constexpr QSize kButtonSize(64, 32);
 
 } // namespace
 
-Overlays Overlays::among(const QVector<Window> &windows)
+SeenOverlays SeenOverlays::among(const QVector<Window> &windows)
 {
-    Overlays overlays;
+    SeenOverlays overlays;
     for (const Window &window : windows) {
         if (window.rect.size() == kBubbleSize) {
             overlays.bubble = window.rect;

@@ -6,7 +6,7 @@
 #include <optional>
 
 /// The companion's windows on the screen, in global screen pixels.
-struct Overlays
+struct SeenOverlays
 {
     struct Window
     {
@@ -25,11 +25,11 @@ struct Overlays
     QVector<Window> buttons;
 
     /// Tells them by their sizes from whatever other windows the companion has.
-    [[nodiscard]] static Overlays among(const QVector<Window> &windows);
+    [[nodiscard]] static SeenOverlays among(const QVector<Window> &windows);
 
-    [[nodiscard]] bool operator==(const Overlays &other) const
+    [[nodiscard]] bool operator==(const SeenOverlays &other) const
     {
         return bubble == other.bubble && buttons == other.buttons;
     }
-    [[nodiscard]] bool operator!=(const Overlays &other) const { return !(*this == other); }
+    [[nodiscard]] bool operator!=(const SeenOverlays &other) const { return !(*this == other); }
 };
