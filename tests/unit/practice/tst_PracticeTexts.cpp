@@ -44,7 +44,7 @@ QByteArray catalogueWith(const QString &source, const QString &translation)
 
 } // namespace
 
-class TestPracticeTexts : public QObject
+class tst_PracticeTexts : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void englishIsWhatTheSourcesSay();
 };
 
-void TestPracticeTexts::everyLanguageButEnglishHasACatalogue()
+void tst_PracticeTexts::everyLanguageButEnglishHasACatalogue()
 {
     QStringList catalogues;
     for (const QString &locale : LessonWords::locales().mid(1)) {
@@ -69,7 +69,7 @@ void TestPracticeTexts::everyLanguageButEnglishHasACatalogue()
              catalogues);
 }
 
-void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources_data()
+void tst_PracticeTexts::aCatalogueHasJustTheTextsOfTheSources_data()
 {
     QTest::addColumn<QString>("locale");
     for (const QString &locale : LessonWords::locales().mid(1)) {
@@ -77,7 +77,7 @@ void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources_data()
     }
 }
 
-void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources()
+void tst_PracticeTexts::aCatalogueHasJustTheTextsOfTheSources()
 {
     QFETCH(QString, locale);
     const QByteArray catalogue = catalogueBytes(cataloguePath(locale));
@@ -85,7 +85,7 @@ void TestPracticeTexts::aCatalogueHasJustTheTextsOfTheSources()
     QCOMPARE(problemsOf(catalogue), QStringList());
 }
 
-void TestPracticeTexts::aMistakeInACatalogueIsFound_data()
+void tst_PracticeTexts::aMistakeInACatalogueIsFound_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("problem");
@@ -101,7 +101,7 @@ void TestPracticeTexts::aMistakeInACatalogueIsFound_data()
                                             << QStringLiteral("unfinished LessonPanel: Lessons");
 }
 
-void TestPracticeTexts::aMistakeInACatalogueIsFound()
+void tst_PracticeTexts::aMistakeInACatalogueIsFound()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, problem);
@@ -111,12 +111,12 @@ void TestPracticeTexts::aMistakeInACatalogueIsFound()
     QVERIFY2(problems.contains(problem), qPrintable(problems.join(QLatin1Char('\n'))));
 }
 
-void TestPracticeTexts::theTextsAreShownInTheirLanguage_data()
+void tst_PracticeTexts::theTextsAreShownInTheirLanguage_data()
 {
     aCatalogueHasJustTheTextsOfTheSources_data();
 }
 
-void TestPracticeTexts::theTextsAreShownInTheirLanguage()
+void tst_PracticeTexts::theTextsAreShownInTheirLanguage()
 {
     QFETCH(QString, locale);
     const QVector<CatalogueText> texts = textsOf(catalogueBytes(cataloguePath(locale)));
@@ -134,7 +134,7 @@ void TestPracticeTexts::theTextsAreShownInTheirLanguage()
     }
 }
 
-void TestPracticeTexts::englishIsWhatTheSourcesSay()
+void tst_PracticeTexts::englishIsWhatTheSourcesSay()
 {
     const PracticeTranslator translator(QStringLiteral("en_US"));
     QVERIFY(translator.isEmpty());
@@ -145,5 +145,5 @@ void TestPracticeTexts::englishIsWhatTheSourcesSay()
     }
 }
 
-QTEST_GUILESS_MAIN(TestPracticeTexts)
+QTEST_GUILESS_MAIN(tst_PracticeTexts)
 #include "tst_PracticeTexts.moc"

@@ -7,7 +7,7 @@
 
 /// Every picture of the project that is drawn as SVG: its PNG file is what scripts/render-pictures makes of
 /// it.
-class TestRenderedPictures : public QObject
+class tst_RenderedPictures : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ private:
     QTemporaryDir m_rendered;
 };
 
-void TestRenderedPictures::initTestCase()
+void tst_RenderedPictures::initTestCase()
 {
     if (QStandardPaths::findExecutable(QStringLiteral("rsvg-convert")).isEmpty()) {
         QSKIP("rsvg-convert is not installed (package librsvg2-bin)");
@@ -32,7 +32,7 @@ void TestRenderedPictures::initTestCase()
              render.readAll().constData());
 }
 
-void TestRenderedPictures::everyPictureIsThatOfItsSource()
+void tst_RenderedPictures::everyPictureIsThatOfItsSource()
 {
     int count = 0;
     for (const char *root : {"resource", "practice"}) {
@@ -53,5 +53,5 @@ void TestRenderedPictures::everyPictureIsThatOfItsSource()
     QVERIFY(count > 0);
 }
 
-QTEST_GUILESS_MAIN(TestRenderedPictures)
+QTEST_GUILESS_MAIN(tst_RenderedPictures)
 #include "tst_RenderedPictures.moc"

@@ -5,7 +5,7 @@
 #include <QTest>
 
 /// What the tests put frames and patches together with.
-class TestFrames : public QObject
+class tst_Frames : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private Q_SLOTS:
     void aLongPatchHasPieces();
 };
 
-void TestFrames::payloadsArriveInAnyPieces()
+void tst_Frames::payloadsArriveInAnyPieces()
 {
     const QByteArray stream = Frames::ofCompanion("next") + Frames::ofCompanion("") +
                               Frames::ofCompanion(QStringLiteral("次へ").toUtf8());
@@ -31,14 +31,14 @@ void TestFrames::payloadsArriveInAnyPieces()
     QCOMPARE(payloads, QStringList({QStringLiteral("next"), QString(), QStringLiteral("次へ")}));
 }
 
-void TestFrames::nothingComesBehindWhatIsNoFrame()
+void tst_Frames::nothingComesBehindWhatIsNoFrame()
 {
     Frames::PayloadReader reader;
     reader.add(Frames::ofHost("stop") + Frames::ofCompanion("next"));
     QVERIFY(!reader.take().has_value());
 }
 
-void TestFrames::aFrameSaysWhoSentIt()
+void tst_Frames::aFrameSaysWhoSentIt()
 {
     QCOMPARE(Frames::ofHost("stop"), QByteArray("000000004\x02stop\0", 15));
     QCOMPARE(Frames::ofHost("stop", '!'), QByteArray("000000004!stop\0", 15));
@@ -46,7 +46,7 @@ void TestFrames::aFrameSaysWhoSentIt()
              QByteArray("10000001a\x02") + QByteArray(26, 'x') + '\0');
 }
 
-void TestFrames::aLongPatchHasPieces()
+void tst_Frames::aLongPatchHasPieces()
 {
     QCOMPARE(PatchBytes::insertion("abc"), QByteArray("\3\0\0\0\1\2\0abc", 10));
     QCOMPARE(PatchBytes::insertion(QByteArray(65537, 'x')).size(), 4 + (3 + 65536) + (3 + 1));
@@ -56,5 +56,5 @@ void TestFrames::aLongPatchHasPieces()
                                                  18));
 }
 
-QTEST_GUILESS_MAIN(TestFrames)
+QTEST_GUILESS_MAIN(tst_Frames)
 #include "tst_Frames.moc"

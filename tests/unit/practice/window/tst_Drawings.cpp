@@ -37,7 +37,7 @@ int strongestAlpha(const QImage &picture)
 
 } // namespace
 
-class TestDrawings : public QObject
+class tst_Drawings : public QObject
 {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void anUnknownNameHasNoPicture();
 };
 
-void TestDrawings::everySourceIsADrawing()
+void tst_Drawings::everySourceIsADrawing()
 {
     QVERIFY(!sourcesIn(QStringLiteral("tiles")).isEmpty());
     QCOMPARE(tileDrawings(), sourcesIn(QStringLiteral("tiles")));
@@ -59,7 +59,7 @@ void TestDrawings::everySourceIsADrawing()
     QCOMPARE(toolIcons(), sourcesIn(QStringLiteral("icons")));
 }
 
-void TestDrawings::aTileIsDrawnInEverySize_data()
+void tst_Drawings::aTileIsDrawnInEverySize_data()
 {
     QTest::addColumn<int>("pixels");
     for (const int pixels : {8, 13, 16, 22, 32, 36, 64}) {
@@ -67,7 +67,7 @@ void TestDrawings::aTileIsDrawnInEverySize_data()
     }
 }
 
-void TestDrawings::aTileIsDrawnInEverySize()
+void tst_Drawings::aTileIsDrawnInEverySize()
 {
     QFETCH(int, pixels);
     const QStringList drawings = tileDrawings();
@@ -78,7 +78,7 @@ void TestDrawings::aTileIsDrawnInEverySize()
     }
 }
 
-void TestDrawings::linesAreOnePixelWideAtFullSize()
+void tst_Drawings::linesAreOnePixelWideAtFullSize()
 {
     const QImage wall = tile("wall", 32);
     const QColor brick(0xd9, 0xc3, 0xa0);
@@ -88,7 +88,7 @@ void TestDrawings::linesAreOnePixelWideAtFullSize()
     }
 }
 
-void TestDrawings::anObjectLeavesTheGroundVisible()
+void tst_Drawings::anObjectLeavesTheGroundVisible()
 {
     const QImage tree = tile("tree", 32);
     QCOMPARE(tree.pixelColor(0, 0).alpha(), 0);
@@ -96,7 +96,7 @@ void TestDrawings::anObjectLeavesTheGroundVisible()
     QCOMPARE(tree.pixelColor(16, 16).alpha(), 255);
 }
 
-void TestDrawings::aDisabledIconIsPale()
+void tst_Drawings::aDisabledIconIsPale()
 {
     const QSize size(24, 24);
     const QStringList names = toolIcons();
@@ -108,7 +108,7 @@ void TestDrawings::aDisabledIconIsPale()
     }
 }
 
-void TestDrawings::anUnknownNameHasNoPicture()
+void tst_Drawings::anUnknownNameHasNoPicture()
 {
     QVERIFY(toolIcon(QStringLiteral("none")).isNull());
     const QImage picture = tile("none", 32);
@@ -116,5 +116,5 @@ void TestDrawings::anUnknownNameHasNoPicture()
     QCOMPARE(strongestAlpha(picture), 0);
 }
 
-QTEST_MAIN(TestDrawings)
+QTEST_MAIN(tst_Drawings)
 #include "tst_Drawings.moc"
