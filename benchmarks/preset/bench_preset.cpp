@@ -4,11 +4,10 @@
 // final texts alone is printed without a bound. And the growth with the number of steps and of bytes, which
 // must be linear: twice as much takes at most kDoubleWithin times as long.
 
-#include <algorithm>
-#include <cstdio>
-#include <ctime>
-#include <limits>
-#include <memory>
+#include "PatchBytes.h"
+#include "Tutorial/localisation/ScenarioTexts.h"
+#include "Tutorial/preset/PresetData.h"
+#include "tool/DataSupport.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,10 +19,11 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-#include "PatchBytes.h"
-#include "Tutorial/localisation/ScenarioTexts.h"
-#include "Tutorial/preset/PresetData.h"
-#include "tool/DataSupport.h"
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <limits>
+#include <memory>
 
 namespace {
 

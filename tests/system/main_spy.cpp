@@ -5,6 +5,7 @@
 #include <QLocale>
 
 #include <cstdio>
+
 #include <dlfcn.h>
 
 namespace {

@@ -3,8 +3,9 @@
 
 #include <cstdio>
 #include <cstring>
-#include <dlfcn.h>
 #include <string>
+
+#include <dlfcn.h>
 
 namespace {
 

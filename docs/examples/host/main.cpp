@@ -1,14 +1,14 @@
 // A host editor in small: its button "New" opens a second window, and it plays the first lesson as far as
 // these two windows carry it. "example-host PROGRAM" takes another companion than the installed one.
-#include <host/HostEditor.h>
-#include <host/HostLink.h>
-#include <host/LessonSession.h>
-
 #include <QApplication>
 #include <QDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QtDebug>
+
+#include <host/HostEditor.h>
+#include <host/HostLink.h>
+#include <host/LessonSession.h>
 
 class Editor : public HostEditor
 {

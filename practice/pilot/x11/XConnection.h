@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <memory>
+
 #include <xcb/xcb.h>
 
 struct FreeReply

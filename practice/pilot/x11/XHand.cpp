@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <utility>
+
 #include <xcb/xtest.h>
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ManagerFixture.h"
-
 #include "TutorialEditor/ItemTreeOperations.h"
 #include "TutorialEditor/Manager.h"
 #include "TutorialEditor/ModifyTutorialItemDataCommand.h"

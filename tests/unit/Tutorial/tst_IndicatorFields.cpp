@@ -1,5 +1,4 @@
 #include "Tutorial/IndicatorFields.h"
-
 #include "Tutorial/link/CommandFields.h"
 
 #include <QtTest>

@@ -1,5 +1,4 @@
 #include "ManagerFixture.h"
-
 #include "UndoRedo/UndoRedo.h"
 #include "UndoRedo/UnredoableCommand.h"
 

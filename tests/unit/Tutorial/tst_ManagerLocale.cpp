@@ -1,6 +1,5 @@
 #include "LogCapture.h"
 #include "ManagerFixture.h"
-
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include <QSettings>

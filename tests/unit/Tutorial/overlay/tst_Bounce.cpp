@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/Bounce.h"
 
 #include <QtTest>
+
 #include <limits>
 
 class TestBounce : public QObject

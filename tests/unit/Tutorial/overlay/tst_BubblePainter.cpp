@@ -1,5 +1,4 @@
 #include "Tutorial/overlay/BubblePainter.h"
-
 #include "Tutorial/overlay/IndicatorPictures.h"
 #include "Tutorial/overlay/IndicatorState.h"
 

@@ -1,7 +1,6 @@
-#include "Tutorial/overlay/ClickThrough.h"
-
 #include "FakeOverlayHost.h"
 #include "TestIndicator.h"
+#include "Tutorial/overlay/ClickThrough.h"
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include <QPointer>

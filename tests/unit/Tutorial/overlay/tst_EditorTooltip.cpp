@@ -7,6 +7,7 @@
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QtTest>
+
 #include <limits>
 
 namespace {

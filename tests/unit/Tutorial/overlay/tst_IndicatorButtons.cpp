@@ -1,5 +1,4 @@
 #include "Tutorial/overlay/IndicatorButtons.h"
-
 #include "Tutorial/overlay/IndicatorState.h"
 #include "Tutorial/overlay/KeepPlace.h"
 

@@ -1,8 +1,7 @@
-#include "Tutorial/overlay/KeepPlace.h"
-
 #include "FakeOverlayHost.h"
 #include "TestIndicator.h"
 #include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/KeepPlace.h"
 
 #include <QWindow>
 #include <QtTest>

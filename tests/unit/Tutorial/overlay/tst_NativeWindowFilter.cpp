@@ -1,7 +1,6 @@
-#include "Tutorial/overlay/NativeWindowFilter.h"
-
 #include "EveryOverlay.h"
 #include "Tutorial/overlay/MayLeaveScreen.h"
+#include "Tutorial/overlay/NativeWindowFilter.h"
 #include "Tutorial/overlay/OwnWindowGroup.h"
 #include "Tutorial/overlay/StayHidden.h"
 

@@ -1,7 +1,6 @@
-#include "Tutorial/overlay/OverlayStyle.h"
-
 #include "IndicatorTest.h"
 #include "Tutorial/overlay/EditorTooltip.h"
+#include "Tutorial/overlay/OverlayStyle.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>

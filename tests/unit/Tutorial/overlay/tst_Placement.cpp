@@ -1,6 +1,7 @@
 #include "Tutorial/overlay/Placement.h"
 
 #include <QtTest>
+
 #include <limits>
 
 namespace {

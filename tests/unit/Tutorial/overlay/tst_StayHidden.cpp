@@ -1,6 +1,5 @@
-#include "Tutorial/overlay/StayHidden.h"
-
 #include "EveryOverlay.h"
+#include "Tutorial/overlay/StayHidden.h"
 
 #include <QWindow>
 #include <QtTest>

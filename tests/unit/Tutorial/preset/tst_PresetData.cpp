@@ -2,8 +2,9 @@
 #include "ProgramDirectory.h"
 #include "Unprivileged.h"
 
-#include <fcntl.h>
 #include <limits>
+
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
