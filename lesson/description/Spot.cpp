@@ -48,6 +48,7 @@ Spot::Spot(const QVector<ControlDescription> &controls, const QStringList &words
                 .arg(name, words.mid(1).join(QLatin1Char(' ')));
         return;
     }
-    if (!place.contains(m_point))
+    if (!place.contains(m_point)) {
         m_problem = QStringLiteral("\"%1\" ends before that").arg(name);
+    }
 }

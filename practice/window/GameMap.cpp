@@ -18,8 +18,9 @@ GameMap GameMap::blank(const QSize &cells, int ground)
 {
     GameMap map;
     map.size = cells;
-    for (Layer &layer : map.layers)
+    for (Layer &layer : map.layers) {
         layer.fill(kEmpty, cells.width() * cells.height());
+    }
     map.layers[0].fill(ground);
     return map;
 }
@@ -36,8 +37,9 @@ int GameMap::tile(int layer, const QPoint &cell) const
 
 void GameMap::setTile(int layer, const QPoint &cell, int tile)
 {
-    if (contains(cell))
+    if (contains(cell)) {
         layers[std::size_t(layer)][cell.y() * size.width() + cell.x()] = tile;
+    }
 }
 
 void GameMap::resize(const QSize &cells, int ground)
@@ -46,8 +48,9 @@ void GameMap::resize(const QSize &cells, int ground)
     const QVector<QPoint> places = rectangle(QPoint(), QPoint(cells.width() - 1, cells.height() - 1));
     for (int layer = 0; layer < kLayers; ++layer) {
         for (const QPoint &cell : places) {
-            if (contains(cell))
+            if (contains(cell)) {
                 resized.setTile(layer, cell, tile(layer, cell));
+            }
         }
     }
     size = resized.size;
@@ -60,8 +63,9 @@ QVector<QPoint> GameMap::rectangle(const QPoint &from, const QPoint &to)
     QVector<QPoint> cells;
     cells.reserve(rect.width() * rect.height());
     for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        for (int x = rect.left(); x <= rect.right(); ++x)
+        for (int x = rect.left(); x <= rect.right(); ++x) {
             cells.append({x, y});
+        }
     }
     return cells;
 }
@@ -76,8 +80,9 @@ QVector<QPoint> GameMap::ellipse(const QPoint &from, const QPoint &to)
     for (const QPoint &cell : places) {
         const double x = (cell.x() - middleX) / (rect.width() / 2.0);
         const double y = (cell.y() - middleY) / (rect.height() / 2.0);
-        if (x * x + y * y <= 1.0)
+        if (x * x + y * y <= 1.0) {
             cells.append(cell);
+        }
     }
     return cells;
 }
@@ -87,27 +92,31 @@ QVector<QPoint> GameMap::line(const QPoint &from, const QPoint &to)
     const QPoint way = to - from;
     const int steps = qMax(1, qMax(std::abs(way.x()), std::abs(way.y())));
     QVector<QPoint> cells;
-    for (int step = 0; step <= steps; ++step)
+    for (int step = 0; step <= steps; ++step) {
         cells.append(from +
                      QPoint(qRound(double(way.x()) * step / steps), qRound(double(way.y()) * step / steps)));
+    }
     return cells;
 }
 
 QVector<QPoint> GameMap::connected(int layer, const QPoint &cell) const
 {
     QVector<QPoint> cells;
-    if (!contains(cell))
+    if (!contains(cell)) {
         return cells;
+    }
     const int wanted = tile(layer, cell);
     QVector<bool> seen(size.width() * size.height(), false);
     QVector<QPoint> open{cell};
     while (!open.isEmpty()) {
         const QPoint at = open.takeLast();
-        if (!contains(at) || tile(layer, at) != wanted)
+        if (!contains(at) || tile(layer, at) != wanted) {
             continue;
+        }
         bool &wasSeen = seen[at.y() * size.width() + at.x()];
-        if (wasSeen)
+        if (wasSeen) {
             continue;
+        }
         wasSeen = true;
         cells.append(at);
         open += {at + QPoint(1, 0), at - QPoint(1, 0), at + QPoint(0, 1), at - QPoint(0, 1)};

@@ -14,17 +14,21 @@ void readLayer(JsonReader &reader, const QString &field, const QMap<QString, int
                GameMap &map)
 {
     const QStringList rows = reader.texts(field);
-    if (rows.size() != map.size.height())
+    if (rows.size() != map.size.height()) {
         reader.addError(field, str("must have as many rows as \"ground\""));
+    }
     for (int y = 0; y < rows.size(); ++y) {
-        if (rows[y].size() != map.size.width())
+        if (rows[y].size() != map.size.width()) {
             reader.addError(field, str("row %1 must be as long as the first").arg(y));
+        }
         for (int x = 0; x < rows[y].size(); ++x) {
             const QString letter = rows[y].mid(x, 1);
-            if (letter == str("."))
+            if (letter == str(".")) {
                 continue;
-            if (!letters.contains(letter))
+            }
+            if (!letters.contains(letter)) {
                 reader.addError(field, str("row %1: no tile has the letter \"%2\"").arg(y).arg(letter));
+            }
             map.setTile(layer, {x, y}, letters.value(letter));
         }
     }
@@ -48,13 +52,15 @@ ProjectData ProjectData::read(const QString &path, const QString &locale, QStrin
 {
     ProjectData data;
     auto reader = JsonReader::open(path, errors);
-    if (!reader)
+    if (!reader) {
         return data;
+    }
     QMap<QString, int> letters;
     for (JsonReader &tab : reader->objects(str("tileTabs"))) {
         QVector<JsonReader> tiles = tab.objects(str("tiles"));
-        if (tiles.size() != kTilesPerTab)
+        if (tiles.size() != kTilesPerTab) {
             tab.addError(str("tiles"), str("must be %1 tiles").arg(kTilesPerTab));
+        }
         for (JsonReader &tile : tiles) {
             data.tiles.append({tile.choice(str("drawing"), tileDrawings()), tile.text(str("letter")),
                                tile.localText(str("name")).value(locale)});
@@ -63,15 +69,17 @@ ProjectData ProjectData::read(const QString &path, const QString &locale, QStrin
     }
     for (JsonReader &set : reader->objects(str("tileSets"))) {
         QColor tint(set.text(str("tint")));
-        if (!tint.isValid())
+        if (!tint.isValid()) {
             set.addError(str("tint"), str("must be a colour, \"#rrggbb\""));
+        }
         tint.setAlpha(qBound(0, set.number(str("strength")), 255));
         data.tileSets.append({set.localText(str("name")).value(locale), tint});
     }
     for (JsonReader &map : reader->objects(str("sampleMaps"))) {
         data.sampleMaps.append(readMap(map, letters, locale));
-        if (data.sampleMaps.last().tileSet < 0 || data.sampleMaps.last().tileSet >= data.tileSets.size())
+        if (data.sampleMaps.last().tileSet < 0 || data.sampleMaps.last().tileSet >= data.tileSets.size()) {
             map.addError(str("tileSet"), str("must be the place of a tile set in \"tileSets\", from 0"));
+        }
     }
     for (JsonReader &start : reader->objects(str("startMaps"))) {
         const int sample = start.number(str("sample"));
@@ -84,10 +92,12 @@ ProjectData ProjectData::read(const QString &path, const QString &locale, QStrin
     }
     auto texts = reader->object(str("texts"));
     for (const char *name : {"projectName", "newMapName", "noProject", "status"}) {
-        if (texts)
+        if (texts) {
             data.texts.insert(str(name), texts->localText(str(name)).value(locale));
+        }
     }
-    if (data.tiles.isEmpty() || data.tileSets.isEmpty() || data.startMaps.isEmpty() || !texts)
+    if (data.tiles.isEmpty() || data.tileSets.isEmpty() || data.startMaps.isEmpty() || !texts) {
         reader->addError(str("(file)"), str("needs tileTabs, tileSets, sampleMaps, startMaps and texts"));
+    }
     return data;
 }

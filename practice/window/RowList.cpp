@@ -36,15 +36,17 @@ void RowList::keyPressEvent(QKeyEvent *event)
 {
     const int before = currentRow();
     QListWidget::keyPressEvent(event);
-    if (currentRow() != before)
+    if (currentRow() != before) {
         Q_EMIT rowChosen(currentRow());
+    }
 }
 
 void RowList::mouseReleaseEvent(QMouseEvent *event)
 {
     QListWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton && viewport()->rect().contains(event->pos()))
+    if (event->button() == Qt::RightButton && viewport()->rect().contains(event->pos())) {
         Q_EMIT menuRequested(event->globalPos());
+    }
 }
 
 void RowList::refresh()
@@ -57,8 +59,9 @@ void RowList::refresh()
         for (const EditorProject::Row &row : rows) {
             auto *item = new QListWidgetItem(QString(row.level * 4, QChar::Space) + row.text, this);
             item->setSizeHint({0, m_rowHeight});
-            if (row.tile != GameMap::kEmpty)
+            if (row.tile != GameMap::kEmpty) {
                 item->setIcon(m_painter->tile(row.tile, 0, kTilePixels));
+            }
         }
     }
     setCurrentRow(m_project->currentRow(m_source));
@@ -66,6 +69,7 @@ void RowList::refresh()
 
 void RowList::onCurrentRowChanged(int row)
 {
-    if (row >= 0)
+    if (row >= 0) {
         m_project->setCurrentRow(m_source, row);
+    }
 }

@@ -7,8 +7,9 @@ TabRow::TabRow(const QStringList &tabs, int tabWidth, QWidget *parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setDrawBase(false);
-    for (const QString &tab : tabs)
+    for (const QString &tab : tabs) {
         addTab(tab);
+    }
 }
 
 QSize TabRow::tabSizeHint(int /*index*/) const

@@ -27,16 +27,18 @@ qint64 mostResidentBytes()
 QByteArray bytes(std::initializer_list<int> values)
 {
     QByteArray result;
-    for (const int value : values)
+    for (const int value : values) {
         result.append(char(value));
+    }
     return result;
 }
 
 QByteArray numbered(int count)
 {
     QByteArray result;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         result.append(char(i * 7 + i / 256));
+    }
     return result;
 }
 
@@ -57,13 +59,16 @@ QByteArray applySlowly(const QByteArray &base, const QByteArray &patch)
         const int offsetWidth = !isCopy ? 0 : tag < 252 ? 4 : tag < 254 ? 3 : 2;
         const int lengthWidth = isCopy ? (tag % 2 == 0 ? 2 : 1) : tag + 1;
         int offset = 0;
-        for (int i = 0; i < offsetWidth; ++i)
+        for (int i = 0; i < offsetWidth; ++i) {
             offset |= byteAt(read++) << 8 * i;
+        }
         int length = 1;
-        for (int i = 0; i < lengthWidth; ++i)
+        for (int i = 0; i < lengthWidth; ++i) {
             length += byteAt(read++) << 8 * i;
-        for (int i = 0; i < length; ++i)
+        }
+        for (int i = 0; i < length; ++i) {
             buffer[write++] = isCopy ? char(buffer.at(offset++)) : patch.at(read++);
+        }
     }
     return buffer.mid(base.size());
 }
@@ -366,14 +371,16 @@ void tst_StringPatch::randomBytesAreHarmless()
     for (int round = 0; round < 20000; ++round) {
         const quint32 targetSize = random.bounded(200U);
         QByteArray patch = header(targetSize);
-        for (int count = int(random.bounded(30U)); count > 0; --count)
+        for (int count = int(random.bounded(30U)); count > 0; --count) {
             patch += char(random.bounded(2U) == 0 ? tags[random.bounded(8U)] : int(random.bounded(256U)));
+        }
         const std::string base(random.bounded(50U), 'b');
         std::string text = "as it was";
-        if (StringPatch::ApplyStringPatch(base, patch, text))
+        if (StringPatch::ApplyStringPatch(base, patch, text)) {
             QCOMPARE(text.size(), std::size_t(targetSize));
-        else
+        } else {
             QCOMPARE(text, std::string("as it was"));
+        }
     }
 }
 

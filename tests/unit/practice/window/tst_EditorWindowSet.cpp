@@ -68,21 +68,26 @@ void tst_EditorWindowSet::controlsStandWhereTheFilesSay()
     for (const QString &key : keys) {
         const WindowDescription &description = descriptions[key];
         if (description.kind == WindowDescription::Kind::kWindow ||
-            description.kind == WindowDescription::Kind::kPart)
+            description.kind == WindowDescription::Kind::kPart) {
             check(key, description.size, description.controls);
-        if (description.kind == WindowDescription::Kind::kPart)
+        }
+        if (description.kind == WindowDescription::Kind::kPart) {
             QCOMPARE(editor->window(key)->pos(), description.place);
-        for (const PopupDescription &popup : description.popups)
+        }
+        for (const PopupDescription &popup : description.popups) {
             check(popup.name, popup.size, popup.controls);
+        }
     }
     QVERIFY(checked > 40);
 
     auto *tabs = editor.find<QTabBar>("MainWindow", "palette");
-    for (int tab = 0; tab < 3; ++tab)
+    for (int tab = 0; tab < 3; ++tab) {
         QVERIFY(tabs->tabRect(tab).contains(QPoint(80 * tab + 40, 13)));
+    }
     auto *list = editor.find<RowList>("MainWindow", "tiles");
-    for (int row = 0; row < 8; ++row)
+    for (int row = 0; row < 8; ++row) {
         QCOMPARE(list->visualItemRect(list->item(row)), QRect(0, 28 * row, 240, 28));
+    }
 }
 
 void tst_EditorWindowSet::textsAreInTheLanguage_data()
@@ -210,8 +215,9 @@ void tst_EditorWindowSet::originsFollowTheWindows()
     EditorWindow *main = editor->window(str("MainWindow"));
     const auto told = [&moved](const char *key) {
         for (int index = moved.size() - 1; index >= 0; --index) {
-            if (moved[index][0].toString() == str(key))
+            if (moved[index][0].toString() == str(key)) {
                 return moved[index][1].toPoint();
+            }
         }
         return QPoint(-1, -1);
     };

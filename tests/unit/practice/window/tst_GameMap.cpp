@@ -101,8 +101,9 @@ void tst_GameMap::lineHasNoGaps()
 void tst_GameMap::connectedStopsAtOtherTiles()
 {
     GameMap map = GameMap::blank({4, 3}, 0);
-    for (const QPoint &cell : {QPoint(2, 0), QPoint(2, 1), QPoint(2, 2)})
+    for (const QPoint &cell : {QPoint(2, 0), QPoint(2, 1), QPoint(2, 2)}) {
         map.setTile(0, cell, 1);
+    }
     QVector<QPoint> left = map.connected(0, {0, 0});
     std::sort(left.begin(), left.end(), [](const QPoint &a, const QPoint &b) {
         return std::make_pair(a.y(), a.x()) < std::make_pair(b.y(), b.x());

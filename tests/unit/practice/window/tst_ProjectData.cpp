@@ -48,8 +48,9 @@ void tst_ProjectData::readsTheShippedDataInEachLanguage()
     QCOMPARE(data.sampleMaps.size(), 6);
     QCOMPARE(data.startMaps.first().size, QSize(24, 16));
     QCOMPARE(data.startMaps.at(1).level, 1);
-    for (const GameMap &map : data.sampleMaps)
+    for (const GameMap &map : data.sampleMaps) {
         QVERIFY(!map.layers[0].contains(GameMap::kEmpty));
+    }
 }
 
 void tst_ProjectData::tellsWhatIsWrong_data()
