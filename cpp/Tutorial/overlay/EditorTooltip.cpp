@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\EditorTooltip.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\overlay\EditorTooltip.cpp)";
 constexpr int kTickMs = 10;
 constexpr int kDelayTicks = 100;
 constexpr int kTimeoutTicks = 500;

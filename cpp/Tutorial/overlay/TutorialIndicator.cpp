@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialIndicator.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\overlay\TutorialIndicator.cpp)";
 constexpr int kTickMs = 100;
 
 } // namespace

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr auto kSource = "..\\..\\tutorial\\cpp\\Tutorial\\overlay\\TutorialTooltip.cpp";
+constexpr const char *kSource = R"(..\..\tutorial\cpp\Tutorial\overlay\TutorialTooltip.cpp)";
 // In the window's pixels, and on the screen wherever the arrow points at something on it.
 constexpr QPoint kOnScreen(200, 100);
 
