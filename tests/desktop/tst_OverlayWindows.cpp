@@ -46,7 +46,7 @@ bool clickOn(const QWidget *button, const QPoint &spot)
 
 } // namespace
 
-class TestOverlayWindows : public QObject
+class tst_OverlayWindows : public QObject
 {
     Q_OBJECT
 
@@ -72,12 +72,12 @@ private:
     std::unique_ptr<TestIndicator> m_indicator;
 };
 
-void TestOverlayWindows::initTestCase()
+void tst_OverlayWindows::initTestCase()
 {
     OverlayStyle::apply();
 }
 
-void TestOverlayWindows::init()
+void tst_OverlayWindows::init()
 {
     m_host = FakeOverlayHost();
     m_below = std::make_unique<WindowBelow>();
@@ -88,7 +88,7 @@ void TestOverlayWindows::init()
     m_indicator = std::make_unique<TestIndicator>(&m_host);
 }
 
-void TestOverlayWindows::cleanup()
+void tst_OverlayWindows::cleanup()
 {
     delete m_host.tooltip;
     m_indicator.reset();
@@ -96,13 +96,13 @@ void TestOverlayWindows::cleanup()
 }
 
 // The window manager may be a moment behind; from then on, all clicks must arrive.
-void TestOverlayWindows::waitUntilClickThrough(QWidget *overlay, const QPoint &spot)
+void tst_OverlayWindows::waitUntilClickThrough(QWidget *overlay, const QPoint &spot)
 {
     QVERIFY(QTest::qWaitForWindowExposed(overlay, kSoonMs));
     QTRY_VERIFY_WITH_TIMEOUT(XWindows::takesClick(m_below->winId(), positionOf(overlay) + spot), kSoonMs);
 }
 
-void TestOverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots)
+void tst_OverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots)
 {
     for (int round = 0; round < 3; ++round) {
         waitUntilClickThrough(overlay, spots.first());
@@ -122,7 +122,7 @@ void TestOverlayWindows::verifyPassesThrough(QWidget *overlay, const QVector<QPo
     }
 }
 
-void TestOverlayWindows::clicksPassThroughTheBubble()
+void tst_OverlayWindows::clicksPassThroughTheBubble()
 {
     m_indicator->setHint(QStringLiteral("Click through this text."));
     m_indicator->setTargetWindowOffset(200, 200, QString(), true);
@@ -133,14 +133,14 @@ void TestOverlayWindows::clicksPassThroughTheBubble()
                         {text.center(), {64, 64}, {150, 20}, {500, 400}, text.topLeft()});
 }
 
-void TestOverlayWindows::clicksPassThroughTheTooltip()
+void tst_OverlayWindows::clicksPassThroughTheTooltip()
 {
     EditorTooltip::show(&m_host, QStringLiteral("Click through this tooltip"), 400, 300);
     m_host.tooltip->setWindowOpacity(1.0);
     verifyPassesThrough(m_host.tooltip, {{10, 10}, {60, 12}, {200, 200}});
 }
 
-void TestOverlayWindows::buttonsTakeTheirClicks()
+void tst_OverlayWindows::buttonsTakeTheirClicks()
 {
     m_indicator->setTargetWindowOffset(200, 200, QString(), true);
     m_indicator->init(false, true);
@@ -161,7 +161,7 @@ void TestOverlayWindows::buttonsTakeTheirClicks()
     QCOMPARE(m_below->presses, 0);
 }
 
-void TestOverlayWindows::focusStaysBelow()
+void tst_OverlayWindows::focusStaysBelow()
 {
     QTRY_COMPARE_WITH_TIMEOUT(XWindows::activeWindow(), quintptr(m_below->winId()), kSoonMs);
     m_indicator->setHint(QStringLiteral("Here"));
@@ -175,7 +175,7 @@ void TestOverlayWindows::focusStaysBelow()
     QCOMPARE(QApplication::activeWindow(), m_below.get());
 }
 
-void TestOverlayWindows::bubbleReachesBeyondTheScreen_data()
+void tst_OverlayWindows::bubbleReachesBeyondTheScreen_data()
 {
     QTest::addColumn<QPoint>("target");
     QTest::newRow("right") << QPoint(880, 300);
@@ -184,7 +184,7 @@ void TestOverlayWindows::bubbleReachesBeyondTheScreen_data()
     QTest::newRow("left") << QPoint(-80, 300);
 }
 
-void TestOverlayWindows::bubbleReachesBeyondTheScreen()
+void tst_OverlayWindows::bubbleReachesBeyondTheScreen()
 {
     QFETCH(QPoint, target);
     m_host.rect = QRect(QPoint(0, 0), QGuiApplication::primaryScreen()->size());
@@ -204,7 +204,7 @@ void TestOverlayWindows::bubbleReachesBeyondTheScreen()
     }
 }
 
-void TestOverlayWindows::tooltipReachesBeyondTheScreen()
+void tst_OverlayWindows::tooltipReachesBeyondTheScreen()
 {
     const QSize screen = QGuiApplication::primaryScreen()->size();
     const QPoint point(screen.width() - 60, screen.height() - 40);
@@ -215,5 +215,5 @@ void TestOverlayWindows::tooltipReachesBeyondTheScreen()
                               point - QPoint(text->width() / 2, text->height() / 2), kSoonMs);
 }
 
-QTEST_MAIN(TestOverlayWindows)
+QTEST_MAIN(tst_OverlayWindows)
 #include "tst_OverlayWindows.moc"

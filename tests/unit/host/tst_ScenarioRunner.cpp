@@ -30,7 +30,7 @@ EditorEvent happening(const QString &words)
 
 } // namespace
 
-class TestScenarioRunner : public QObject
+class tst_ScenarioRunner : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void mayBeStoppedByTheCommandItAsksFor();
 };
 
-void TestScenarioRunner::readsEveryFieldOfAStep()
+void tst_ScenarioRunner::readsEveryFieldOfAStep()
 {
     QStringList problems;
     const Scenario scenario = Scenario::parse(
@@ -90,7 +90,7 @@ void TestScenarioRunner::readsEveryFieldOfAStep()
     QVERIFY(step.hasPosition());
 }
 
-void TestScenarioRunner::fillsInWhatAStepLeavesOut()
+void tst_ScenarioRunner::fillsInWhatAStepLeavesOut()
 {
     QStringList problems;
     const Scenario scenario = Scenario::parse(QStringLiteral("[{\"id\":1}]"), &problems);
@@ -102,7 +102,7 @@ void TestScenarioRunner::fillsInWhatAStepLeavesOut()
     QVERIFY(step.showArrow);
 }
 
-void TestScenarioRunner::opensFoldersOut()
+void tst_ScenarioRunner::opensFoldersOut()
 {
     const Scenario scenario =
         scenarioOf({item(1, QString()),
@@ -117,7 +117,7 @@ void TestScenarioRunner::opensFoldersOut()
     QCOMPARE(scenario.indexOf(6), 3);
 }
 
-void TestScenarioRunner::saysWhatIsWrongWithAScenario_data()
+void tst_ScenarioRunner::saysWhatIsWrongWithAScenario_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("problem");
@@ -135,7 +135,7 @@ void TestScenarioRunner::saysWhatIsWrongWithAScenario_data()
                                               << QStringLiteral("step 4: the condition \"dance\"") << 1;
 }
 
-void TestScenarioRunner::saysWhatIsWrongWithAScenario()
+void tst_ScenarioRunner::saysWhatIsWrongWithAScenario()
 {
     QFETCH(QString, text);
     QFETCH(QString, problem);
@@ -146,7 +146,7 @@ void TestScenarioRunner::saysWhatIsWrongWithAScenario()
     QTEST(scenario.size(), "steps");
 }
 
-void TestScenarioRunner::takesAnUnreadableConditionForNext()
+void tst_ScenarioRunner::takesAnUnreadableConditionForNext()
 {
     ScenarioRunner runner([] { return QStringList(); });
     runner.start(scenarioOf({item(1, QStringLiteral("dance")), item(2, QString())}), -1);
@@ -154,7 +154,7 @@ void TestScenarioRunner::takesAnUnreadableConditionForNext()
     QCOMPARE(runner.step().id, 2);
 }
 
-void TestScenarioRunner::numbersTheIcons_data()
+void tst_ScenarioRunner::numbersTheIcons_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("click") << 0;
@@ -166,14 +166,14 @@ void TestScenarioRunner::numbersTheIcons_data()
     QTest::newRow("hammer") << 6;
 }
 
-void TestScenarioRunner::numbersTheIcons()
+void tst_ScenarioRunner::numbersTheIcons()
 {
     Step step;
     step.icon = QString::fromLatin1(QTest::currentDataTag());
     QTEST(LessonWords::iconKind(step.icon), "kind");
 }
 
-void TestScenarioRunner::playsToTheEnd()
+void tst_ScenarioRunner::playsToTheEnd()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
@@ -195,7 +195,7 @@ void TestScenarioRunner::playsToTheEnd()
     QVERIFY(!runner.isRunning());
 }
 
-void TestScenarioRunner::beginsAtAStep_data()
+void tst_ScenarioRunner::beginsAtAStep_data()
 {
     QTest::addColumn<int>("id");
     QTest::addColumn<int>("first");
@@ -204,7 +204,7 @@ void TestScenarioRunner::beginsAtAStep_data()
     QTest::newRow("an id that no step has") << 99 << 10;
 }
 
-void TestScenarioRunner::beginsAtAStep()
+void tst_ScenarioRunner::beginsAtAStep()
 {
     QFETCH(int, id);
     ScenarioRunner runner([] { return QStringList(); });
@@ -212,7 +212,7 @@ void TestScenarioRunner::beginsAtAStep()
     QTEST(runner.step().id, "first");
 }
 
-void TestScenarioRunner::anEmptyScenarioFinishesAtOnce()
+void tst_ScenarioRunner::anEmptyScenarioFinishesAtOnce()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy finished(&runner, &ScenarioRunner::finished);
@@ -221,7 +221,7 @@ void TestScenarioRunner::anEmptyScenarioFinishesAtOnce()
     QVERIFY(!runner.isRunning());
 }
 
-void TestScenarioRunner::followsJumps_data()
+void tst_ScenarioRunner::followsJumps_data()
 {
     QTest::addColumn<int>("jump");
     QTest::addColumn<int>("jumpNo");
@@ -234,7 +234,7 @@ void TestScenarioRunner::followsJumps_data()
     QTest::newRow("back to itself") << 1 << 6 << true << 1;
 }
 
-void TestScenarioRunner::followsJumps()
+void tst_ScenarioRunner::followsJumps()
 {
     QFETCH(int, jump);
     QFETCH(int, jumpNo);
@@ -247,7 +247,7 @@ void TestScenarioRunner::followsJumps()
     QTEST(runner.step().id, "next");
 }
 
-void TestScenarioRunner::goesOnWhenTheJumpLeadsNowhere()
+void tst_ScenarioRunner::goesOnWhenTheJumpLeadsNowhere()
 {
     ScenarioRunner runner([] { return QStringList(); });
     runner.start(scenarioOf({item(1, QString(), 77), item(2, QString())}), -1);
@@ -255,7 +255,7 @@ void TestScenarioRunner::goesOnWhenTheJumpLeadsNowhere()
     QCOMPARE(runner.step().id, 2);
 }
 
-void TestScenarioRunner::aButtonThatTheStepDoesNotShowDoesNothing()
+void tst_ScenarioRunner::aButtonThatTheStepDoesNotShowDoesNothing()
 {
     ScenarioRunner runner([] { return QStringList(); });
     const Scenario scenario =
@@ -271,7 +271,7 @@ void TestScenarioRunner::aButtonThatTheStepDoesNotShowDoesNothing()
     QCOMPARE(runner.step().id, 2);
 }
 
-void TestScenarioRunner::anEventForAnotherStepDoesNothing()
+void tst_ScenarioRunner::anEventForAnotherStepDoesNothing()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
@@ -286,7 +286,7 @@ void TestScenarioRunner::anEventForAnotherStepDoesNothing()
     QCOMPARE(reached.size(), 2);
 }
 
-void TestScenarioRunner::asksForTheCommandBeforeTheStep()
+void tst_ScenarioRunner::asksForTheCommandBeforeTheStep()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QStringList order;
@@ -300,7 +300,7 @@ void TestScenarioRunner::asksForTheCommandBeforeTheStep()
                                  QStringLiteral("step")}));
 }
 
-void TestScenarioRunner::passesAStepThatHasNothingToWaitFor()
+void tst_ScenarioRunner::passesAStepThatHasNothingToWaitFor()
 {
     QStringList open = {QStringLiteral("A")};
     ScenarioRunner runner([&open] { return open; });
@@ -317,7 +317,7 @@ void TestScenarioRunner::passesAStepThatHasNothingToWaitFor()
     QCOMPARE(runner.step().id, 5);
 }
 
-void TestScenarioRunner::passingGoesNotRoundForEver()
+void tst_ScenarioRunner::passingGoesNotRoundForEver()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
@@ -328,7 +328,7 @@ void TestScenarioRunner::passingGoesNotRoundForEver()
     QCOMPARE(reached.size(), 1);
 }
 
-void TestScenarioRunner::theCommandOfAPassedStepRuns()
+void tst_ScenarioRunner::theCommandOfAPassedStepRuns()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy commands(&runner, &ScenarioRunner::commandRequested);
@@ -340,7 +340,7 @@ void TestScenarioRunner::theCommandOfAPassedStepRuns()
     QCOMPARE(commands.size(), 1);
 }
 
-void TestScenarioRunner::skipsAnyStep_data()
+void tst_ScenarioRunner::skipsAnyStep_data()
 {
     QTest::addColumn<QString>("condition");
     for (const char *condition : {"click,", "yesNo", "list,3", "windowState,A,open", "wait,100000"}) {
@@ -348,7 +348,7 @@ void TestScenarioRunner::skipsAnyStep_data()
     }
 }
 
-void TestScenarioRunner::skipsAnyStep()
+void tst_ScenarioRunner::skipsAnyStep()
 {
     QFETCH(QString, condition);
     ScenarioRunner runner([] { return QStringList(); });
@@ -357,7 +357,7 @@ void TestScenarioRunner::skipsAnyStep()
     QCOMPARE(runner.step().id, 3);
 }
 
-void TestScenarioRunner::stopsSilently()
+void tst_ScenarioRunner::stopsSilently()
 {
     ScenarioRunner runner([] { return QStringList(); });
     QSignalSpy finished(&runner, &ScenarioRunner::finished);
@@ -370,7 +370,7 @@ void TestScenarioRunner::stopsSilently()
     QVERIFY(finished.isEmpty());
 }
 
-void TestScenarioRunner::mayBeStoppedByTheCommandItAsksFor()
+void tst_ScenarioRunner::mayBeStoppedByTheCommandItAsksFor()
 {
     ScenarioRunner runner([] { return QStringList(); });
     connect(&runner, &ScenarioRunner::commandRequested, &runner, &ScenarioRunner::stop);
@@ -380,5 +380,5 @@ void TestScenarioRunner::mayBeStoppedByTheCommandItAsksFor()
     QVERIFY(reached.isEmpty());
 }
 
-QTEST_APPLESS_MAIN(TestScenarioRunner)
+QTEST_APPLESS_MAIN(tst_ScenarioRunner)
 #include "tst_ScenarioRunner.moc"

@@ -17,7 +17,7 @@ QProcessEnvironment environmentOf(const Variables &variables)
 
 } // namespace
 
-class TestPlatform : public QObject
+class tst_Platform : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void takesTheWindowSystem();
 };
 
-void TestPlatform::x11IsChosenInAWaylandSession_data()
+void tst_Platform::x11IsChosenInAWaylandSession_data()
 {
     QTest::addColumn<Variables>("variables");
     QTest::addColumn<QString>("plugin");
@@ -61,7 +61,7 @@ void TestPlatform::x11IsChosenInAWaylandSession_data()
     QTest::newRow("none is asked for") << Variables{{display, x}, {wayland, w}, {plugin, QString()}} << xcb;
 }
 
-void TestPlatform::x11IsChosenInAWaylandSession()
+void tst_Platform::x11IsChosenInAWaylandSession()
 {
     QFETCH(Variables, variables);
     QFETCH(QString, plugin);
@@ -71,7 +71,7 @@ void TestPlatform::x11IsChosenInAWaylandSession()
     QVERIFY(!choice.reason.contains(QLatin1Char('\n')));
 }
 
-void TestPlatform::aSessionWithoutX11IsLeftToQtAndComplainedOf()
+void tst_Platform::aSessionWithoutX11IsLeftToQtAndComplainedOf()
 {
     const Platform::Choice choice =
         Platform::choose(environmentOf({{QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-0")}}));
@@ -80,7 +80,7 @@ void TestPlatform::aSessionWithoutX11IsLeftToQtAndComplainedOf()
     QVERIFY(choice.reason.contains(QStringLiteral("Xwayland")));
 }
 
-void TestPlatform::whatIsOrdinaryIsNotLogged()
+void tst_Platform::whatIsOrdinaryIsNotLogged()
 {
     QCOMPARE(Platform::choose(environmentOf({{QStringLiteral("DISPLAY"), QStringLiteral(":0")}})).reason,
              QString());
@@ -90,7 +90,7 @@ void TestPlatform::whatIsOrdinaryIsNotLogged()
              QString());
 }
 
-void TestPlatform::findsEachVariableThatScales_data()
+void tst_Platform::findsEachVariableThatScales_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *const name :
@@ -100,13 +100,13 @@ void TestPlatform::findsEachVariableThatScales_data()
     }
 }
 
-void TestPlatform::findsEachVariableThatScales()
+void tst_Platform::findsEachVariableThatScales()
 {
     QFETCH(QString, name);
     QCOMPARE(Platform::scalingIn(environmentOf({{name, QStringLiteral("1")}})), QStringList(name));
 }
 
-void TestPlatform::findsTheVariablesThatScale()
+void tst_Platform::findsTheVariablesThatScale()
 {
     QCOMPARE(Platform::scalingIn(environmentOf({{QStringLiteral("QT_FONT_DPI"), QStringLiteral("96")}})),
              QStringList());
@@ -116,7 +116,7 @@ void TestPlatform::findsTheVariablesThatScale()
              QStringList({QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("QT_ENABLE_HIGHDPI_SCALING")}));
 }
 
-void TestPlatform::takesScreenPixels()
+void tst_Platform::takesScreenPixels()
 {
     qputenv("QT_SCALE_FACTOR", "1.5");
     qputenv("QT_SCREEN_SCALE_FACTORS", "2");
@@ -130,7 +130,7 @@ void TestPlatform::takesScreenPixels()
 #endif
 }
 
-void TestPlatform::takesTheWindowSystem()
+void tst_Platform::takesTheWindowSystem()
 {
     qputenv("DISPLAY", ":0");
     qputenv("WAYLAND_DISPLAY", "wayland-0");
@@ -142,5 +142,5 @@ void TestPlatform::takesTheWindowSystem()
     QCOMPARE(qgetenv("QT_QPA_PLATFORM"), QByteArray("xcb"));
 }
 
-QTEST_APPLESS_MAIN(TestPlatform)
+QTEST_APPLESS_MAIN(tst_Platform)
 #include "tst_Platform.moc"

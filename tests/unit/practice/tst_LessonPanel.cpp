@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
-class TestLessonPanel : public QObject
+class tst_LessonPanel : public QObject
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private Q_SLOTS:
     void silenceLeavesNothingBehind();
 };
 
-void TestLessonPanel::messagesFit_data()
+void tst_LessonPanel::messagesFit_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("window");
@@ -27,7 +27,7 @@ void TestLessonPanel::messagesFit_data()
                              << QStringLiteral("在地图上安排人物");
 }
 
-void TestLessonPanel::messagesFit()
+void tst_LessonPanel::messagesFit()
 {
     QFETCH(QString, locale);
     QFETCH(QString, window);
@@ -52,7 +52,7 @@ void TestLessonPanel::messagesFit()
     QVERIFY(fits());
 }
 
-void TestLessonPanel::silenceLeavesNothingBehind()
+void tst_LessonPanel::silenceLeavesNothingBehind()
 {
     LessonPanel panel;
     const QLabel *status = panel.findChild<QLabel *>(QStringLiteral("statusLabel"));
@@ -66,5 +66,5 @@ void TestLessonPanel::silenceLeavesNothingBehind()
     QCOMPARE(status->text(), told);
 }
 
-QTEST_MAIN(TestLessonPanel)
+QTEST_MAIN(tst_LessonPanel)
 #include "tst_LessonPanel.moc"

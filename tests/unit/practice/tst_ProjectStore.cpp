@@ -10,7 +10,7 @@
 
 #include <sys/stat.h>
 
-class TestProjectStore : public QObject
+class tst_ProjectStore : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void hasNoFilesBeforeAProjectIsOpen();
 };
 
-void TestProjectStore::writesTheFilesIntoANewFolder()
+void tst_ProjectStore::writesTheFilesIntoANewFolder()
 {
     const QTemporaryDir room;
     ProjectStore store;
@@ -51,7 +51,7 @@ void TestProjectStore::writesTheFilesIntoANewFolder()
     QVERIFY(store.file(QStringLiteral("data/none.json")).isNull());
 }
 
-void TestProjectStore::givesTheFolderTheUsualPermissions()
+void tst_ProjectStore::givesTheFolderTheUsualPermissions()
 {
     const QTemporaryDir room;
     QVERIFY(QDir(room.path()).mkdir(QStringLiteral("usual")));
@@ -66,7 +66,7 @@ void TestProjectStore::givesTheFolderTheUsualPermissions()
              QStringList({QStringLiteral("P"), QStringLiteral("usual")}));
 }
 
-void TestProjectStore::tellsTheFullPathOfARelativePlace()
+void tst_ProjectStore::tellsTheFullPathOfARelativePlace()
 {
     const QTemporaryDir room;
     const QString before = QDir::currentPath();
@@ -81,7 +81,7 @@ void TestProjectStore::tellsTheFullPathOfARelativePlace()
     QVERIFY(store.file(QStringLiteral("data/a.json")).isArray());
 }
 
-void TestProjectStore::touchesNothingThatIsThere()
+void tst_ProjectStore::touchesNothingThatIsThere()
 {
     const QTemporaryDir room;
     ProjectStore store;
@@ -97,7 +97,7 @@ void TestProjectStore::touchesNothingThatIsThere()
     QCOMPARE(old.readAll(), QByteArray("[1]"));
 }
 
-void TestProjectStore::keepsTheNameThatGetsANumber()
+void tst_ProjectStore::keepsTheNameThatGetsANumber()
 {
     const QTemporaryDir room;
     ProjectStore store;
@@ -112,7 +112,7 @@ void TestProjectStore::keepsTheNameThatGetsANumber()
     }
 }
 
-void TestProjectStore::passesOverALinkToNowhere()
+void tst_ProjectStore::passesOverALinkToNowhere()
 {
     const QTemporaryDir room;
     QVERIFY(QFile::link(QStringLiteral("nowhere"), room.filePath(QStringLiteral("P"))));
@@ -125,7 +125,7 @@ void TestProjectStore::passesOverALinkToNowhere()
     QVERIFY(QFileInfo(room.filePath(QStringLiteral("P"))).isSymLink());
 }
 
-void TestProjectStore::saysWhereNothingCanBeWritten()
+void tst_ProjectStore::saysWhereNothingCanBeWritten()
 {
     const QTemporaryDir room;
     QCOMPARE(chmod(qPrintable(room.path()), 0555), 0);
@@ -143,7 +143,7 @@ void TestProjectStore::saysWhereNothingCanBeWritten()
     QCOMPARE(chmod(qPrintable(room.path()), 0755), 0);
 }
 
-void TestProjectStore::refusesNamesThatAreNoFolder_data()
+void tst_ProjectStore::refusesNamesThatAreNoFolder_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"", ".", "..", "../P", "a/b", "/tmp/P"}) {
@@ -151,7 +151,7 @@ void TestProjectStore::refusesNamesThatAreNoFolder_data()
     }
 }
 
-void TestProjectStore::refusesNamesThatAreNoFolder()
+void tst_ProjectStore::refusesNamesThatAreNoFolder()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
@@ -163,7 +163,7 @@ void TestProjectStore::refusesNamesThatAreNoFolder()
     QVERIFY(QDir(room.path()).isEmpty());
 }
 
-void TestProjectStore::refusesInTheLanguageOfThePerson_data()
+void tst_ProjectStore::refusesInTheLanguageOfThePerson_data()
 {
     QTest::addColumn<QString>("refusal");
     QTest::newRow("en_US") << QStringLiteral("A project cannot have the name \"a/b\"");
@@ -171,7 +171,7 @@ void TestProjectStore::refusesInTheLanguageOfThePerson_data()
     QTest::newRow("zh_CN") << QStringLiteral("项目不能叫“a/b”");
 }
 
-void TestProjectStore::refusesInTheLanguageOfThePerson()
+void tst_ProjectStore::refusesInTheLanguageOfThePerson()
 {
     QFETCH(QString, refusal);
     const QTemporaryDir room;
@@ -182,7 +182,7 @@ void TestProjectStore::refusesInTheLanguageOfThePerson()
     QVERIFY2(error.startsWith(refusal), qPrintable(error));
 }
 
-void TestProjectStore::refusesPathsThatLeadOut_data()
+void tst_ProjectStore::refusesPathsThatLeadOut_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"../a.json", "data/../../a.json", "/tmp/a.json", "..", ".", ""}) {
@@ -190,7 +190,7 @@ void TestProjectStore::refusesPathsThatLeadOut_data()
     }
 }
 
-void TestProjectStore::refusesPathsThatLeadOut()
+void tst_ProjectStore::refusesPathsThatLeadOut()
 {
     QFETCH(QString, name);
     const QTemporaryDir room;
@@ -202,7 +202,7 @@ void TestProjectStore::refusesPathsThatLeadOut()
     QVERIFY(QDir(room.path()).isEmpty());
 }
 
-void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
+void tst_ProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
 {
     const QTemporaryDir room;
     ProjectStore store;
@@ -218,11 +218,11 @@ void TestProjectStore::leavesNothingBehindWhenAFileCannotBeWritten()
     QVERIFY(QDir(room.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty());
 }
 
-void TestProjectStore::hasNoFilesBeforeAProjectIsOpen()
+void tst_ProjectStore::hasNoFilesBeforeAProjectIsOpen()
 {
     const ProjectStore store;
     QVERIFY(store.file(QStringLiteral("data/Actors.json")).isNull());
 }
 
-QTEST_GUILESS_MAIN(TestProjectStore)
+QTEST_GUILESS_MAIN(tst_ProjectStore)
 #include "tst_ProjectStore.moc"

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-class TestBounce : public QObject
+class tst_Bounce : public QObject
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private Q_SLOTS:
     void staysInItsRange();
 };
 
-void TestBounce::offsetsAtTheirTimes_data()
+void tst_Bounce::offsetsAtTheirTimes_data()
 {
     QTest::addColumn<qint64>("elapsedMs");
     QTest::addColumn<int>("upright");
@@ -28,14 +28,14 @@ void TestBounce::offsetsAtTheirTimes_data()
     QTest::newRow("lowest again") << qint64(3500) << 0 << -6;
 }
 
-void TestBounce::offsetsAtTheirTimes()
+void tst_Bounce::offsetsAtTheirTimes()
 {
     QFETCH(qint64, elapsedMs);
     QTEST(static_cast<int>(bounceOffset(elapsedMs)), "upright");
     QTEST(static_cast<int>(upsideDownBounceOffset(elapsedMs)), "upsideDown");
 }
 
-void TestBounce::staysInItsRange()
+void tst_Bounce::staysInItsRange()
 {
     for (qint64 elapsedMs = 0; elapsedMs < 10000; elapsedMs += 7) {
         const float offset = bounceOffset(elapsedMs);
@@ -48,5 +48,5 @@ void TestBounce::staysInItsRange()
     QVERIFY(late >= 0.0F && late <= 16.0F);
 }
 
-QTEST_APPLESS_MAIN(TestBounce)
+QTEST_APPLESS_MAIN(tst_Bounce)
 #include "tst_Bounce.moc"

@@ -8,7 +8,7 @@ constexpr QSize kArrow(128, 128);
 
 } // namespace
 
-class TestBubbleGeometry : public QObject
+class tst_BubbleGeometry : public QObject
 {
     Q_OBJECT
 
@@ -22,28 +22,28 @@ private Q_SLOTS:
     void anyPictureSizeIsTaken();
 };
 
-void TestBubbleGeometry::arrowIsLeftOfTheHint()
+void tst_BubbleGeometry::arrowIsLeftOfTheHint()
 {
     QCOMPARE(BubbleGeometry::arrowRect(false, kArrow), QRect(0, 0, 128, 144));
     QCOMPARE(BubbleGeometry::hintPlace(false, kArrow.width()), QPoint(128, 56));
     QCOMPARE(BubbleGeometry::iconRect(false, kArrow.width()), QRect(128, 0, 56, 56));
 }
 
-void TestBubbleGeometry::mirroredArrowIsRightOfTheHint()
+void tst_BubbleGeometry::mirroredArrowIsRightOfTheHint()
 {
     QCOMPARE(BubbleGeometry::arrowRect(true, kArrow), QRect(256, 0, 128, 144));
     QCOMPARE(BubbleGeometry::hintPlace(true, kArrow.width()), QPoint(0, 56));
     QCOMPARE(BubbleGeometry::iconRect(true, kArrow.width()), QRect(200, 0, 56, 56));
 }
 
-void TestBubbleGeometry::iconStandsAgainstTheArrow()
+void tst_BubbleGeometry::iconStandsAgainstTheArrow()
 {
     QCOMPARE(BubbleGeometry::iconPlace(false, kArrow.width(), 48), QPoint(128, 0));
     QCOMPARE(BubbleGeometry::iconPlace(true, kArrow.width(), 48), QPoint(208, 0));
     QCOMPARE(BubbleGeometry::iconPlace(true, kArrow.width(), 56), QPoint(200, 0));
 }
 
-void TestBubbleGeometry::tickHoldsArrowAndIcon()
+void tst_BubbleGeometry::tickHoldsArrowAndIcon()
 {
     const QRect plain = BubbleGeometry::tickRect(false, kArrow);
     QCOMPARE(plain, QRect(0, 0, 128 + 56, 128 + 72));
@@ -55,14 +55,14 @@ void TestBubbleGeometry::tickHoldsArrowAndIcon()
     QVERIFY(!mirrored.intersects(BubbleGeometry::iconRect(true, kArrow.width())));
 }
 
-void TestBubbleGeometry::everythingLiesInTheWindow_data()
+void tst_BubbleGeometry::everythingLiesInTheWindow_data()
 {
     QTest::addColumn<bool>("mirror");
     QTest::newRow("plain") << false;
     QTest::newRow("mirrored") << true;
 }
 
-void TestBubbleGeometry::everythingLiesInTheWindow()
+void tst_BubbleGeometry::everythingLiesInTheWindow()
 {
     QFETCH(bool, mirror);
     const QRect window(QPoint(0, 0), BubbleGeometry::kWindow);
@@ -78,12 +78,12 @@ void TestBubbleGeometry::everythingLiesInTheWindow()
     QVERIFY(!hint.intersects(BubbleGeometry::arrowRect(mirror, kArrow)));
 }
 
-void TestBubbleGeometry::anyPictureSizeIsTaken()
+void tst_BubbleGeometry::anyPictureSizeIsTaken()
 {
     QCOMPARE(BubbleGeometry::arrowRect(true, QSize(0, 0)), QRect(256, 0, 0, 16));
     QCOMPARE(BubbleGeometry::hintPlace(false, 0), QPoint(0, 56));
     QCOMPARE(BubbleGeometry::tickRect(false, QSize(10, 20)), QRect(0, 0, 66, 92));
 }
 
-QTEST_APPLESS_MAIN(TestBubbleGeometry)
+QTEST_APPLESS_MAIN(tst_BubbleGeometry)
 #include "tst_BubbleGeometry.moc"

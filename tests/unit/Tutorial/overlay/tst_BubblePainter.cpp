@@ -55,7 +55,7 @@ QRect whereIs(const QColor &color, const QImage &image)
 } // namespace
 
 /// The painting of the bubble without a window.
-class TestBubblePainter : public QObject
+class tst_BubblePainter : public QObject
 {
     Q_OBJECT
 
@@ -71,7 +71,7 @@ private Q_SLOTS:
     void ownPicturesAreThere();
 };
 
-void TestBubblePainter::arrowAndIconStandWhereTheStateSays_data()
+void tst_BubblePainter::arrowAndIconStandWhereTheStateSays_data()
 {
     QTest::addColumn<bool>("upsideDown");
     QTest::addColumn<bool>("mirror");
@@ -89,7 +89,7 @@ void TestBubblePainter::arrowAndIconStandWhereTheStateSays_data()
     QTest::newRow("upside down") << true << false << qint64(0) << QRect(0, 0, 40, 20) << leftIcon;
 }
 
-void TestBubblePainter::arrowAndIconStandWhereTheStateSays()
+void tst_BubblePainter::arrowAndIconStandWhereTheStateSays()
 {
     QFETCH(qint64, elapsedMs);
     QFETCH(bool, upsideDown);
@@ -103,7 +103,7 @@ void TestBubblePainter::arrowAndIconStandWhereTheStateSays()
     QTEST(whereIs(kIcon, image), "icon");
 }
 
-void TestBubblePainter::onlyWhatIsRedrawnIsErased()
+void tst_BubblePainter::onlyWhatIsRedrawnIsErased()
 {
     for (const bool mirror : {false, true}) {
         IndicatorState state;
@@ -119,7 +119,7 @@ void TestBubblePainter::onlyWhatIsRedrawnIsErased()
     }
 }
 
-void TestBubblePainter::wholeWindowIsErasedWhenAskedFor()
+void tst_BubblePainter::wholeWindowIsErasedWhenAskedFor()
 {
     IndicatorState state;
     state.repaintAll = true;
@@ -131,7 +131,7 @@ void TestBubblePainter::wholeWindowIsErasedWhenAskedFor()
     QVERIFY(state.repaintAll); // whoever paints says so, the painter does not
 }
 
-void TestBubblePainter::arrowThatIsOffIsErasedOnly()
+void tst_BubblePainter::arrowThatIsOffIsErasedOnly()
 {
     IndicatorState state;
     state.arrowVisible = false;
@@ -142,7 +142,7 @@ void TestBubblePainter::arrowThatIsOffIsErasedOnly()
     QCOMPARE(whereIs(kIcon, image), QRect(40, 0, 20, 10));
 }
 
-void TestBubblePainter::kindWithoutAnIconDrawsNone_data()
+void tst_BubblePainter::kindWithoutAnIconDrawsNone_data()
 {
     QTest::addColumn<int>("kind");
     for (const int kind : {-1, 6, 7, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
@@ -150,7 +150,7 @@ void TestBubblePainter::kindWithoutAnIconDrawsNone_data()
     }
 }
 
-void TestBubblePainter::kindWithoutAnIconDrawsNone()
+void tst_BubblePainter::kindWithoutAnIconDrawsNone()
 {
     QFETCH(int, kind);
     IndicatorPictures pictures = plainPictures();
@@ -161,7 +161,7 @@ void TestBubblePainter::kindWithoutAnIconDrawsNone()
     QVERIFY(whereIs(kIcon, paint(state, pictures)).isNull());
 }
 
-void TestBubblePainter::picturesThatDidNotLoadDrawNothing()
+void tst_BubblePainter::picturesThatDidNotLoadDrawNothing()
 {
     IndicatorState state;
     state.iconKind = 2;
@@ -171,7 +171,7 @@ void TestBubblePainter::picturesThatDidNotLoadDrawNothing()
     QCOMPARE(paint(state, {}), nothing);
 }
 
-void TestBubblePainter::ownPicturesAreThere()
+void tst_BubblePainter::ownPicturesAreThere()
 {
     const IndicatorPictures pictures = IndicatorPictures::load();
     QCOMPARE(pictures.arrow.size(), QSize(128, 128));
@@ -182,5 +182,5 @@ void TestBubblePainter::ownPicturesAreThere()
     }
 }
 
-QTEST_MAIN(TestBubblePainter)
+QTEST_MAIN(tst_BubblePainter)
 #include "tst_BubblePainter.moc"

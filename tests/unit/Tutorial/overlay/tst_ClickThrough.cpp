@@ -27,7 +27,7 @@ constexpr auto kFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowTranspare
 
 } // namespace
 
-class TestClickThrough : public QObject
+class tst_ClickThrough : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void belongsToTheClickThroughOverlays();
 };
 
-void TestClickThrough::announcesOnceExposed()
+void tst_ClickThrough::announcesOnceExposed()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const clickThrough = new CountingClickThrough(&overlay);
@@ -51,7 +51,7 @@ void TestClickThrough::announcesOnceExposed()
     QCOMPARE(clickThrough->announced.first(), overlay.windowHandle());
 }
 
-void TestClickThrough::announcesAfterEachShow()
+void tst_ClickThrough::announcesAfterEachShow()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const clickThrough = new CountingClickThrough(&overlay);
@@ -64,7 +64,7 @@ void TestClickThrough::announcesAfterEachShow()
     }
 }
 
-void TestClickThrough::followsARecreatedWindow()
+void tst_ClickThrough::followsARecreatedWindow()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const clickThrough = new CountingClickThrough(&overlay);
@@ -81,7 +81,7 @@ void TestClickThrough::followsARecreatedWindow()
     QCOMPARE(clickThrough->announced.last(), overlay.windowHandle());
 }
 
-void TestClickThrough::adoptsAWindowThatExistsAlready()
+void tst_ClickThrough::adoptsAWindowThatExistsAlready()
 {
     QWidget overlay(nullptr, kFlags);
     overlay.show();
@@ -92,7 +92,7 @@ void TestClickThrough::adoptsAWindowThatExistsAlready()
     QTRY_VERIFY(!clickThrough->announced.isEmpty());
 }
 
-void TestClickThrough::ignoresAnUnexposedWindow()
+void tst_ClickThrough::ignoresAnUnexposedWindow()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const clickThrough = new CountingClickThrough(&overlay);
@@ -103,7 +103,7 @@ void TestClickThrough::ignoresAnUnexposedWindow()
     QVERIFY(clickThrough->announced.isEmpty());
 }
 
-void TestClickThrough::leavesTheFlagsAsTheyWere()
+void tst_ClickThrough::leavesTheFlagsAsTheyWere()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const clickThrough = new CountingClickThrough(&overlay);
@@ -113,7 +113,7 @@ void TestClickThrough::leavesTheFlagsAsTheyWere()
     QCOMPARE(overlay.windowHandle()->flags(), kFlags);
 }
 
-void TestClickThrough::belongsToTheClickThroughOverlays()
+void tst_ClickThrough::belongsToTheClickThroughOverlays()
 {
     FakeOverlayHost host;
     const TestIndicator indicator(&host);
@@ -122,5 +122,5 @@ void TestClickThrough::belongsToTheClickThroughOverlays()
     QCOMPARE(tooltip.findChildren<ClickThrough *>().size(), 1);
 }
 
-QTEST_MAIN(TestClickThrough)
+QTEST_MAIN(tst_ClickThrough)
 #include "tst_ClickThrough.moc"

@@ -41,7 +41,7 @@ int counter(const EditorTooltip *tooltip, const char *name)
 
 } // namespace
 
-class TestEditorTooltip : public QObject
+class tst_EditorTooltip : public QObject
 {
     Q_OBJECT
 
@@ -80,18 +80,18 @@ private:
     FakeOverlayHost m_host;
 };
 
-void TestEditorTooltip::init()
+void tst_EditorTooltip::init()
 {
     m_host = FakeOverlayHost();
 }
 
-void TestEditorTooltip::cleanup()
+void tst_EditorTooltip::cleanup()
 {
     delete m_host.tooltip;
     m_host.tooltip = nullptr;
 }
 
-void TestEditorTooltip::isBuiltHidden()
+void tst_EditorTooltip::isBuiltHidden()
 {
     m_host.tooltip = new EditorTooltip(nullptr, &m_host);
     QVERIFY(tooltip()->isHidden());
@@ -115,7 +115,7 @@ void TestEditorTooltip::isBuiltHidden()
     QCOMPARE(counter(tooltip(), "fade"), 0);
 }
 
-void TestEditorTooltip::methodTableIsComplete()
+void tst_EditorTooltip::methodTableIsComplete()
 {
     const QMetaObject &meta = EditorTooltip::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
@@ -123,7 +123,7 @@ void TestEditorTooltip::methodTableIsComplete()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
 }
 
-void TestEditorTooltip::firstShowBuildsIt()
+void tst_EditorTooltip::firstShowBuildsIt()
 {
     show(QStringLiteral("Map list"));
     QVERIFY(tooltip() != nullptr);
@@ -137,7 +137,7 @@ void TestEditorTooltip::firstShowBuildsIt()
     QCOMPARE(tooltip()->size(), QSize(320, 240));
 }
 
-void TestEditorTooltip::laterShowUsesTheSame()
+void tst_EditorTooltip::laterShowUsesTheSame()
 {
     show(QStringLiteral("one"));
     EditorTooltip *const first = tooltip();
@@ -152,7 +152,7 @@ void TestEditorTooltip::laterShowUsesTheSame()
     QVERIFY2(log.debugs().constFirst().endsWith(line), qPrintable(log.debugs().constFirst()));
 }
 
-void TestEditorTooltip::isCentredOnItsTextEdit_data()
+void tst_EditorTooltip::isCentredOnItsTextEdit_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("short") << QStringLiteral("Map");
@@ -161,14 +161,14 @@ void TestEditorTooltip::isCentredOnItsTextEdit_data()
     QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree");
 }
 
-void TestEditorTooltip::isCentredOnItsTextEdit()
+void tst_EditorTooltip::isCentredOnItsTextEdit()
 {
     QFETCH(QString, text);
     show(text, 401, 303);
     QCOMPARE(tooltip()->pos(), QPoint(401 - textEdit()->width() / 2, 303 - textEdit()->height() / 2));
 }
 
-void TestEditorTooltip::textEditIsAsLargeAsItsDocument()
+void tst_EditorTooltip::textEditIsAsLargeAsItsDocument()
 {
     show(QStringLiteral("The list of all maps of the project, with the one that is open marked"));
     const QSizeF size = textEdit()->document()->size();
@@ -176,7 +176,7 @@ void TestEditorTooltip::textEditIsAsLargeAsItsDocument()
     QVERIFY(textEdit()->width() > 320);
 }
 
-void TestEditorTooltip::emptyTextShowsTheWindowAlone()
+void tst_EditorTooltip::emptyTextShowsTheWindowAlone()
 {
     show(QStringLiteral("something"));
     const QSize size = textEdit()->size();
@@ -188,7 +188,7 @@ void TestEditorTooltip::emptyTextShowsTheWindowAlone()
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestEditorTooltip::staysInvisibleForOneHundredTicks()
+void tst_EditorTooltip::staysInvisibleForOneHundredTicks()
 {
     show(QStringLiteral("text"));
     for (int i = 0; i < 100; ++i) {
@@ -200,7 +200,7 @@ void TestEditorTooltip::staysInvisibleForOneHundredTicks()
     QCOMPARE(steps(tooltip()), stepsOf(1.0 / 25.0));
 }
 
-void TestEditorTooltip::fadesInStaysAndFadesOut()
+void tst_EditorTooltip::fadesInStaysAndFadesOut()
 {
     show(QStringLiteral("text"));
     tick(tooltip(), 100);
@@ -223,7 +223,7 @@ void TestEditorTooltip::fadesInStaysAndFadesOut()
     QVERIFY(tooltip()->isVisible());
 }
 
-void TestEditorTooltip::anotherShowRestarts()
+void tst_EditorTooltip::anotherShowRestarts()
 {
     show(QStringLiteral("text"));
     tick(tooltip(), 100 + 25 + 500 + 10);
@@ -239,7 +239,7 @@ void TestEditorTooltip::anotherShowRestarts()
     QCOMPARE(steps(tooltip()), stepsOf(1.0 / 25.0));
 }
 
-void TestEditorTooltip::hiddenItStandsStill()
+void tst_EditorTooltip::hiddenItStandsStill()
 {
     show(QStringLiteral("text"));
     tick(tooltip(), 110);
@@ -252,7 +252,7 @@ void TestEditorTooltip::hiddenItStandsStill()
     QCOMPARE(steps(tooltip()), stepsOf(11.0 / 25.0));
 }
 
-void TestEditorTooltip::emptyTextRunsThroughItsTimes()
+void tst_EditorTooltip::emptyTextRunsThroughItsTimes()
 {
     show(QString());
     tick(tooltip(), 125);
@@ -262,7 +262,7 @@ void TestEditorTooltip::emptyTextRunsThroughItsTimes()
     QVERIFY(tooltip()->isVisible());
 }
 
-void TestEditorTooltip::settingsHoldExactlyTheirKeys()
+void tst_EditorTooltip::settingsHoldExactlyTheirKeys()
 {
     show(QStringLiteral("text"), 333, 222);
     tick(tooltip(), 130);
@@ -281,7 +281,7 @@ void TestEditorTooltip::settingsHoldExactlyTheirKeys()
              static_cast<int>(QMetaType::Double));
 }
 
-void TestEditorTooltip::settingsCarryAllButTheOpacity()
+void tst_EditorTooltip::settingsCarryAllButTheOpacity()
 {
     show(QStringLiteral("text"), 333, 222);
     tick(tooltip(), 130);
@@ -306,7 +306,7 @@ void TestEditorTooltip::settingsCarryAllButTheOpacity()
     QCOMPARE(steps(&rebuilt), 255);
 }
 
-void TestEditorTooltip::settingsOfEmptyTextHideTheTextEdit()
+void tst_EditorTooltip::settingsOfEmptyTextHideTheTextEdit()
 {
     show(QStringLiteral("text"));
     tooltip()->setSettings(
@@ -316,7 +316,7 @@ void TestEditorTooltip::settingsOfEmptyTextHideTheTextEdit()
     QCOMPARE(tooltip()->pos(), QPoint(7, 8));
 }
 
-void TestEditorTooltip::emptyMapReadsAsZero()
+void tst_EditorTooltip::emptyMapReadsAsZero()
 {
     show(QStringLiteral("text"));
     tooltip()->setSettings({});
@@ -327,7 +327,7 @@ void TestEditorTooltip::emptyMapReadsAsZero()
     }
 }
 
-void TestEditorTooltip::anyPointIsTaken_data()
+void tst_EditorTooltip::anyPointIsTaken_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
@@ -338,7 +338,7 @@ void TestEditorTooltip::anyPointIsTaken_data()
     }
 }
 
-void TestEditorTooltip::anyPointIsTaken()
+void tst_EditorTooltip::anyPointIsTaken()
 {
     QFETCH(int, x);
     QFETCH(int, y);
@@ -350,7 +350,7 @@ void TestEditorTooltip::anyPointIsTaken()
     QCOMPARE(tooltip()->pos(), QPoint(100 - textEdit()->width() / 2, 100 - textEdit()->height() / 2));
 }
 
-void TestEditorTooltip::changesAreLogged()
+void tst_EditorTooltip::changesAreLogged()
 {
     m_host.tooltip = new EditorTooltip(nullptr, &m_host);
     LogCapture log;
@@ -361,7 +361,7 @@ void TestEditorTooltip::changesAreLogged()
     QVERIFY(m_host.calls.isEmpty());
 }
 
-void TestEditorTooltip::closingForgetsIt()
+void tst_EditorTooltip::closingForgetsIt()
 {
     show(QStringLiteral("text"));
     const QPointer<EditorTooltip> closed = tooltip();
@@ -378,7 +378,7 @@ void TestEditorTooltip::closingForgetsIt()
     delete closed;
 }
 
-void TestEditorTooltip::destructionEndsTheTimerAndLogs()
+void tst_EditorTooltip::destructionEndsTheTimerAndLogs()
 {
     LogCapture log;
     {
@@ -387,5 +387,5 @@ void TestEditorTooltip::destructionEndsTheTimerAndLogs()
     QVERIFY(log.contains(QStringLiteral("EditorTooltip::~EditorTooltip 53")));
 }
 
-QTEST_MAIN(TestEditorTooltip)
+QTEST_MAIN(tst_EditorTooltip)
 #include "tst_EditorTooltip.moc"

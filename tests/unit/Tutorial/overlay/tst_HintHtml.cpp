@@ -3,7 +3,7 @@
 #include <QTextDocument>
 #include <QtTest>
 
-class TestHintHtml : public QObject
+class tst_HintHtml : public QObject
 {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ private Q_SLOTS:
     void everyCharacterAppearsLiterally();
 };
 
-void TestHintHtml::converts_data()
+void tst_HintHtml::converts_data()
 {
     QTest::addColumn<QString>("hint");
     QTest::addColumn<QString>("html");
@@ -31,13 +31,13 @@ void TestHintHtml::converts_data()
     QTest::newRow("apostrophe") << QStringLiteral("it's") << QStringLiteral("it's");
 }
 
-void TestHintHtml::converts()
+void tst_HintHtml::converts()
 {
     QFETCH(QString, hint);
     QTEST(hintToHtml(hint), "html");
 }
 
-void TestHintHtml::everyCharacterAppearsLiterally()
+void tst_HintHtml::everyCharacterAppearsLiterally()
 {
     const QString hint = QString::fromUtf8("C:\\maps\\<1> \"x\" & y\n\xe6\xac\xa1\xe3\x81\xb8");
     QTextDocument document;
@@ -45,5 +45,5 @@ void TestHintHtml::everyCharacterAppearsLiterally()
     QCOMPARE(document.toPlainText(), hint);
 }
 
-QTEST_MAIN(TestHintHtml)
+QTEST_MAIN(tst_HintHtml)
 #include "tst_HintHtml.moc"

@@ -33,7 +33,7 @@ IndicatorState wanting(bool next, bool yesNo)
 } // namespace
 
 /// The three buttons without an indicator.
-class TestIndicatorButtons : public QObject
+class tst_IndicatorButtons : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private:
     std::unique_ptr<IndicatorButtons> m_buttons;
 };
 
-void TestIndicatorButtons::init()
+void tst_IndicatorButtons::init()
 {
     m_buttons = std::make_unique<IndicatorButtons>(
         std::array<QString, Buttons::kCount>{QStringLiteral("On"), QStringLiteral("Yes!"),
@@ -70,7 +70,7 @@ void TestIndicatorButtons::init()
         QFont(QStringLiteral("Some Family")));
 }
 
-void TestIndicatorButtons::areBuiltHiddenWithCaptionsAndFont()
+void tst_IndicatorButtons::areBuiltHiddenWithCaptionsAndFont()
 {
     QCOMPARE(shown(), QList<bool>({false, false, false}));
     QCOMPARE(m_buttons->window(Buttons::kNext)->text(), QStringLiteral("On"));
@@ -80,7 +80,7 @@ void TestIndicatorButtons::areBuiltHiddenWithCaptionsAndFont()
     QVERIFY(!m_buttons->isActive());
 }
 
-void TestIndicatorButtons::followTheState_data()
+void tst_IndicatorButtons::followTheState_data()
 {
     QTest::addColumn<bool>("next");
     QTest::addColumn<bool>("yesNo");
@@ -91,7 +91,7 @@ void TestIndicatorButtons::followTheState_data()
     }
 }
 
-void TestIndicatorButtons::followTheState()
+void tst_IndicatorButtons::followTheState()
 {
     QFETCH(bool, next);
     QFETCH(bool, yesNo);
@@ -104,14 +104,14 @@ void TestIndicatorButtons::followTheState()
     QCOMPARE(shown(), QList<bool>({next, yesNo, yesNo}));
 }
 
-void TestIndicatorButtons::showingHidesNothing()
+void tst_IndicatorButtons::showingHidesNothing()
 {
     m_buttons->follow(wanting(true, false));
     m_buttons->showWanted(wanting(false, true));
     QCOMPARE(shown(), QList<bool>({true, true, true}));
 }
 
-void TestIndicatorButtons::moveEachToItsPlace()
+void tst_IndicatorButtons::moveEachToItsPlace()
 {
     ButtonPlaces places;
     places.nextAndYes = {300, 200};
@@ -128,14 +128,14 @@ void TestIndicatorButtons::moveEachToItsPlace()
     QCOMPARE(m_buttons->place(Buttons::kYes), QPoint(10, 20));
 }
 
-void TestIndicatorButtons::farPlacesAreCutToWhatAWindowReaches()
+void tst_IndicatorButtons::farPlacesAreCutToWhatAWindowReaches()
 {
     const int far = std::numeric_limits<int>::max();
     m_buttons->move(Buttons::kNext, {far, -far});
     QCOMPARE(m_buttons->place(Buttons::kNext), clampToReach({far, -far}));
 }
 
-void TestIndicatorButtons::oneThatBecomesActiveIsTold()
+void tst_IndicatorButtons::oneThatBecomesActiveIsTold()
 {
     QWidget other;
     m_buttons->follow(wanting(true, true));
@@ -151,7 +151,7 @@ void TestIndicatorButtons::oneThatBecomesActiveIsTold()
     QCOMPARE(changed.count(), 2);
 }
 
-void TestIndicatorButtons::oneThatTakesOverFromAnotherIsToldOnce()
+void tst_IndicatorButtons::oneThatTakesOverFromAnotherIsToldOnce()
 {
     m_buttons->follow(wanting(true, true));
     QCoreApplication::processEvents(); // this platform makes active what is shown
@@ -161,7 +161,7 @@ void TestIndicatorButtons::oneThatTakesOverFromAnotherIsToldOnce()
     QCOMPARE(changed.count(), 1);
 }
 
-void TestIndicatorButtons::closedOnesAreLeftAlone()
+void tst_IndicatorButtons::closedOnesAreLeftAlone()
 {
     m_buttons->follow(wanting(true, true));
     m_buttons->move(Buttons::kNo, {30, 40});
@@ -180,7 +180,7 @@ void TestIndicatorButtons::closedOnesAreLeftAlone()
     m_buttons->close();
 }
 
-void TestIndicatorButtons::deletesItsWindows()
+void tst_IndicatorButtons::deletesItsWindows()
 {
     m_buttons->follow(wanting(true, true));
     const QPointer<QPushButton> next = m_buttons->window(Buttons::kNext);
@@ -191,5 +191,5 @@ void TestIndicatorButtons::deletesItsWindows()
     QVERIFY(no.isNull());
 }
 
-QTEST_MAIN(TestIndicatorButtons)
+QTEST_MAIN(tst_IndicatorButtons)
 #include "tst_IndicatorButtons.moc"

@@ -23,7 +23,7 @@ public:
 
 } // namespace
 
-class TestIndicatorPlacement : public IndicatorTest
+class tst_IndicatorPlacement : public IndicatorTest
 {
     Q_OBJECT
 
@@ -48,13 +48,13 @@ private:
     void settleAt(int x, int y);
 };
 
-void TestIndicatorPlacement::settleAt(int x, int y)
+void tst_IndicatorPlacement::settleAt(int x, int y)
 {
     m_indicator->setTargetWindowOffset(x, y, QString(), true);
     m_indicator->tick(60);
 }
 
-void TestIndicatorPlacement::windowsEaseTogether()
+void tst_IndicatorPlacement::windowsEaseTogether()
 {
     m_indicator->setTargetWindowOffset(400, 200, QString(), true);
     m_indicator->tick();
@@ -66,7 +66,7 @@ void TestIndicatorPlacement::windowsEaseTogether()
     QCOMPARE(m_indicator->state("lastY").toInt(), 50);
 }
 
-void TestIndicatorPlacement::windowsComeToRestThreePixelsShort()
+void tst_IndicatorPlacement::windowsComeToRestThreePixelsShort()
 {
     settleAt(400, 200);
     QCOMPARE(m_indicator->tooltip()->pos(), QPoint(397, 197));
@@ -75,7 +75,7 @@ void TestIndicatorPlacement::windowsComeToRestThreePixelsShort()
     QCOMPARE(TestIndicator::no()->pos(), QPoint(300 + 128 + 56, 100 + 64 + 56));
 }
 
-void TestIndicatorPlacement::mirroringMovesTheTextAside()
+void tst_IndicatorPlacement::mirroringMovesTheTextAside()
 {
     QCOMPARE(m_indicator->textEdit()->pos(), QPoint(128, 56));
     settleAt(1537, 300);
@@ -92,7 +92,7 @@ void TestIndicatorPlacement::mirroringMovesTheTextAside()
     QCOMPARE(m_indicator->textEdit()->pos(), QPoint(128, 56));
 }
 
-void TestIndicatorPlacement::nullHostRectMirrors()
+void tst_IndicatorPlacement::nullHostRectMirrors()
 {
     m_host.rect = QRect();
     settleAt(100, 100);
@@ -100,7 +100,7 @@ void TestIndicatorPlacement::nullHostRectMirrors()
     QCOMPARE(m_indicator->textEdit()->pos(), QPoint(0, 56));
 }
 
-void TestIndicatorPlacement::hostRectCountsFromItsLeft()
+void tst_IndicatorPlacement::hostRectCountsFromItsLeft()
 {
     m_host.rect = QRect(100, 50, 900, 700); // ends at column 1000
     settleAt(1000 - 384, 300);
@@ -109,7 +109,7 @@ void TestIndicatorPlacement::hostRectCountsFromItsLeft()
     QVERIFY(m_indicator->state("mirror").toBool());
 }
 
-void TestIndicatorPlacement::upsideDownMovesTheWindowBelow()
+void tst_IndicatorPlacement::upsideDownMovesTheWindowBelow()
 {
     settleAt(300, 100);
     settleAt(300, -1);
@@ -122,7 +122,7 @@ void TestIndicatorPlacement::upsideDownMovesTheWindowBelow()
     QCOMPARE(m_indicator->tooltip()->y(), 65);
 }
 
-void TestIndicatorPlacement::measuringSetsTheHeightOnTheNextTick()
+void tst_IndicatorPlacement::measuringSetsTheHeightOnTheNextTick()
 {
     m_indicator->setHint(QStringLiteral("one\ntwo\nthree\nfour\nfive\nsix\nseven"));
     m_indicator->showTooltip();
@@ -138,7 +138,7 @@ void TestIndicatorPlacement::measuringSetsTheHeightOnTheNextTick()
     QVERIFY(!m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestIndicatorPlacement::measuringMovesTheButtonsAtRest()
+void tst_IndicatorPlacement::measuringMovesTheButtonsAtRest()
 {
     settleAt(300, 100);
     settleAt(300, 100);
@@ -152,7 +152,7 @@ void TestIndicatorPlacement::measuringMovesTheButtonsAtRest()
     QCOMPARE(m_indicator->state("lastY").toInt(), window.y());
 }
 
-void TestIndicatorPlacement::measuringOneRowShortOfTheTargetMovesNothing()
+void tst_IndicatorPlacement::measuringOneRowShortOfTheTargetMovesNothing()
 {
     settleAt(300, 100);
     settleAt(290, 90); // reached exactly, from above
@@ -168,7 +168,7 @@ void TestIndicatorPlacement::measuringOneRowShortOfTheTargetMovesNothing()
     QCOMPARE(m_indicator->state("lastY").toInt(), 91);
 }
 
-void TestIndicatorPlacement::measuringWorksBeforeTheBubbleWasEverShown()
+void tst_IndicatorPlacement::measuringWorksBeforeTheBubbleWasEverShown()
 {
     const QString hint =
         QStringLiteral("A hint that is long enough to be broken into several lines at 256 pixels, "
@@ -182,7 +182,7 @@ void TestIndicatorPlacement::measuringWorksBeforeTheBubbleWasEverShown()
     QCOMPARE(hidden, m_indicator->state("hintHeight").toInt());
 }
 
-void TestIndicatorPlacement::replacedBubbleIsAsHighAsItsHint()
+void tst_IndicatorPlacement::replacedBubbleIsAsHighAsItsHint()
 {
     m_host.isRunning = true;
     m_indicator->showTooltip();
@@ -200,7 +200,7 @@ void TestIndicatorPlacement::replacedBubbleIsAsHighAsItsHint()
     QCOMPARE(static_cast<int>(m_indicator->textEdit()->document()->size().height()), height);
 }
 
-void TestIndicatorPlacement::restingWindowIsNotMoved()
+void tst_IndicatorPlacement::restingWindowIsNotMoved()
 {
     settleAt(300, 100);
     m_indicator->tooltip()->move(11, 12);
@@ -208,7 +208,7 @@ void TestIndicatorPlacement::restingWindowIsNotMoved()
     QCOMPARE(m_indicator->tooltip()->pos(), QPoint(11, 12));
 }
 
-void TestIndicatorPlacement::eachTickRepaintsTheArrow_data()
+void tst_IndicatorPlacement::eachTickRepaintsTheArrow_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<QRect>("rect");
@@ -216,7 +216,7 @@ void TestIndicatorPlacement::eachTickRepaintsTheArrow_data()
     QTest::newRow("mirrored") << 1700 << QRect(256, 0, 128 + 56, 128 + 72);
 }
 
-void TestIndicatorPlacement::eachTickRepaintsTheArrow()
+void tst_IndicatorPlacement::eachTickRepaintsTheArrow()
 {
     QFETCH(int, x);
     QFETCH(QRect, rect);
@@ -232,7 +232,7 @@ void TestIndicatorPlacement::eachTickRepaintsTheArrow()
     QVERIFY(painted.rects.isEmpty());
 }
 
-void TestIndicatorPlacement::flipRepaintsTheWholeWindow()
+void tst_IndicatorPlacement::flipRepaintsTheWholeWindow()
 {
     m_indicator->showTooltip();
     settleAt(300, 100);
@@ -248,6 +248,6 @@ void TestIndicatorPlacement::flipRepaintsTheWholeWindow()
     QVERIFY(m_indicator->state("repaintAll").toBool());
 }
 
-QTEST_MAIN(TestIndicatorPlacement)
+QTEST_MAIN(tst_IndicatorPlacement)
 #include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorPlacement.moc"

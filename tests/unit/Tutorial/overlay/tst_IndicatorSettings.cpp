@@ -4,7 +4,7 @@
 #include <QTextDocument>
 #include <QtTest>
 
-class TestIndicatorSettings : public IndicatorTest
+class tst_IndicatorSettings : public IndicatorTest
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void mapIsLogged();
 };
 
-void TestIndicatorSettings::mapHoldsExactlyItsKeys()
+void tst_IndicatorSettings::mapHoldsExactlyItsKeys()
 {
     const QVariantMap settings = m_indicator->getSettings();
     const QMap<QString, int> expected{{QStringLiteral("arrowVisible"), QMetaType::Bool},
@@ -57,7 +57,7 @@ void TestIndicatorSettings::mapHoldsExactlyItsKeys()
     }
 }
 
-void TestIndicatorSettings::rebuiltIndicatorTakesEverythingOver()
+void tst_IndicatorSettings::rebuiltIndicatorTakesEverythingOver()
 {
     m_indicator->setHint(QStringLiteral("Press <Next>"));
     m_indicator->setIconKind(3);
@@ -87,7 +87,7 @@ void TestIndicatorSettings::rebuiltIndicatorTakesEverythingOver()
     QVERIFY(m_indicator->arrowVisible());
 }
 
-void TestIndicatorSettings::rebuiltIndicatorMeasuresItsHint()
+void tst_IndicatorSettings::rebuiltIndicatorMeasuresItsHint()
 {
     m_indicator->showTooltip();
     m_indicator->setHint(
@@ -102,7 +102,7 @@ void TestIndicatorSettings::rebuiltIndicatorMeasuresItsHint()
     QVERIFY(!m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestIndicatorSettings::hintOfTheMapHasADocumentOfItsOwn()
+void tst_IndicatorSettings::hintOfTheMapHasADocumentOfItsOwn()
 {
     m_indicator->setHint(QStringLiteral("one"));
     const QPointer<QTextDocument> ofHint = m_indicator->textEdit()->document();
@@ -119,7 +119,7 @@ void TestIndicatorSettings::hintOfTheMapHasADocumentOfItsOwn()
     QVERIFY(!ofMap.isNull());
 }
 
-void TestIndicatorSettings::emptyHintHidesTheText()
+void tst_IndicatorSettings::emptyHintHidesTheText()
 {
     QVariantMap settings = m_indicator->getSettings();
     m_indicator->setHint(QStringLiteral("shown"));
@@ -131,7 +131,7 @@ void TestIndicatorSettings::emptyHintHidesTheText()
     QVERIFY(m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestIndicatorSettings::mapWithoutTooltipLeavesTheTextAlone()
+void tst_IndicatorSettings::mapWithoutTooltipLeavesTheTextAlone()
 {
     m_indicator->setHint(QStringLiteral("shown"));
     QVariantMap settings = m_indicator->getSettings();
@@ -146,7 +146,7 @@ void TestIndicatorSettings::mapWithoutTooltipLeavesTheTextAlone()
     QCOMPARE(m_indicator->tooltip()->x(), 0);
 }
 
-void TestIndicatorSettings::closedTooltipIsRebuiltFromTheMap()
+void tst_IndicatorSettings::closedTooltipIsRebuiltFromTheMap()
 {
     m_indicator->setHint(QStringLiteral("shown"));
     const QVariantMap settings = m_indicator->getSettings();
@@ -158,7 +158,7 @@ void TestIndicatorSettings::closedTooltipIsRebuiltFromTheMap()
     QCOMPARE(m_indicator->textEdit()->toPlainText(), QStringLiteral("shown"));
 }
 
-void TestIndicatorSettings::emptyMapReadsAsZero()
+void tst_IndicatorSettings::emptyMapReadsAsZero()
 {
     m_indicator->setTargetWindowOffset(300, 300, QStringLiteral("MainWindow"), true);
     m_indicator->init(true, true);
@@ -180,7 +180,7 @@ void TestIndicatorSettings::emptyMapReadsAsZero()
     QVERIFY(TestIndicator::no()->isHidden());
 }
 
-void TestIndicatorSettings::mapIsLogged()
+void tst_IndicatorSettings::mapIsLogged()
 {
     LogCapture log;
     m_indicator->setSettings({{QStringLiteral("windowKey"), QStringLiteral("MapWindow")}});
@@ -189,6 +189,6 @@ void TestIndicatorSettings::mapIsLogged()
         QStringLiteral("TutorialIndicator::setSettings 215 QMap((\"windowKey\"")));
 }
 
-QTEST_MAIN(TestIndicatorSettings)
+QTEST_MAIN(tst_IndicatorSettings)
 #include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorSettings.moc"

@@ -40,7 +40,7 @@ QVariantMap eachKeyItsValue()
 } // namespace
 
 /// The settings of an indicator without the indicator.
-class TestIndicatorSettingsMap : public QObject
+class tst_IndicatorSettingsMap : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ private Q_SLOTS:
     void otherKeysAreIgnored();
 };
 
-void TestIndicatorSettingsMap::eachMemberHasItsKey()
+void tst_IndicatorSettingsMap::eachMemberHasItsKey()
 {
     const IndicatorSettings settings = IndicatorSettings::fromMap(eachKeyItsValue());
     QVERIFY(settings.tooltip);
@@ -77,7 +77,7 @@ void TestIndicatorSettingsMap::eachMemberHasItsKey()
     QCOMPARE(settings.state.iconKind, 18);
 }
 
-void TestIndicatorSettingsMap::eachKeyGoesBothWays_data()
+void tst_IndicatorSettingsMap::eachKeyGoesBothWays_data()
 {
     QTest::addColumn<QString>("key");
     const QVariantMap map = eachKeyItsValue();
@@ -86,7 +86,7 @@ void TestIndicatorSettingsMap::eachKeyGoesBothWays_data()
     }
 }
 
-void TestIndicatorSettingsMap::eachKeyGoesBothWays()
+void tst_IndicatorSettingsMap::eachKeyGoesBothWays()
 {
     QFETCH(QString, key);
     QCOMPARE(IndicatorSettings::fromMap(eachKeyItsValue()).toMap(), eachKeyItsValue());
@@ -105,7 +105,7 @@ void TestIndicatorSettingsMap::eachKeyGoesBothWays()
     QCOMPARE(IndicatorSettings::fromMap(map).toMap(), expected);
 }
 
-void TestIndicatorSettingsMap::mapWithoutBubbleHasNoPlaceOfTheHint()
+void tst_IndicatorSettingsMap::mapWithoutBubbleHasNoPlaceOfTheHint()
 {
     IndicatorSettings settings = IndicatorSettings::fromMap(eachKeyItsValue());
     settings.tooltip = false;
@@ -116,7 +116,7 @@ void TestIndicatorSettingsMap::mapWithoutBubbleHasNoPlaceOfTheHint()
     QCOMPARE(map.size(), eachKeyItsValue().size() - 2);
 }
 
-void TestIndicatorSettingsMap::emptyMapReadsAsNothing()
+void tst_IndicatorSettingsMap::emptyMapReadsAsNothing()
 {
     const IndicatorSettings settings = IndicatorSettings::fromMap({});
     QVERIFY(!settings.tooltip);
@@ -127,7 +127,7 @@ void TestIndicatorSettingsMap::emptyMapReadsAsNothing()
     QCOMPARE(settings.nextButton, QPoint(0, 0));
 }
 
-void TestIndicatorSettingsMap::valuesThatDoNotConvertReadAsNothing()
+void tst_IndicatorSettingsMap::valuesThatDoNotConvertReadAsNothing()
 {
     const QVariantMap bad{{QStringLiteral("newX"), QStringLiteral("seven")},
                           {QStringLiteral("hintHeight"), QVariantList{1}},
@@ -140,12 +140,12 @@ void TestIndicatorSettingsMap::valuesThatDoNotConvertReadAsNothing()
     QCOMPARE(settings.tooltipPlace, QPoint(12, 0));
 }
 
-void TestIndicatorSettingsMap::otherKeysAreIgnored()
+void tst_IndicatorSettingsMap::otherKeysAreIgnored()
 {
     QVariantMap map = eachKeyItsValue();
     map.insert(QStringLiteral("opacity"), 0.5);
     QCOMPARE(IndicatorSettings::fromMap(map).toMap(), eachKeyItsValue());
 }
 
-QTEST_APPLESS_MAIN(TestIndicatorSettingsMap)
+QTEST_APPLESS_MAIN(tst_IndicatorSettingsMap)
 #include "tst_IndicatorSettingsMap.moc"

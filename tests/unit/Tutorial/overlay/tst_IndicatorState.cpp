@@ -21,7 +21,7 @@ IndicatorState restingAt(int x, int y)
 
 } // namespace
 
-class TestIndicatorState : public QObject
+class tst_IndicatorState : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void copiesAreIndependent();
 };
 
-void TestIndicatorState::beginsWithoutTargetHintAndIcon()
+void tst_IndicatorState::beginsWithoutTargetHintAndIcon()
 {
     const IndicatorState state;
     QCOMPARE(state.offsetX, IndicatorUpdate::kNoTarget);
@@ -56,7 +56,7 @@ void TestIndicatorState::beginsWithoutTargetHintAndIcon()
     QVERIFY(!state.updateTextEditSize && !state.repaintAll);
 }
 
-void TestIndicatorState::targetSetsPlaceKeyAndArrow()
+void tst_IndicatorState::targetSetsPlaceKeyAndArrow()
 {
     IndicatorState state;
     state.setTarget({300, 200}, QStringLiteral("MapWindow"), false);
@@ -70,7 +70,7 @@ void TestIndicatorState::targetSetsPlaceKeyAndArrow()
     QCOMPARE(state.placement.lastY, 0);
 }
 
-void TestIndicatorState::noTargetKeepsThePlace()
+void tst_IndicatorState::noTargetKeepsThePlace()
 {
     IndicatorState state = restingAt(300, 200);
     state.setTarget({-9999, -9999}, QStringLiteral("Other"), true);
@@ -82,7 +82,7 @@ void TestIndicatorState::noTargetKeepsThePlace()
     QVERIFY(!state.arrowVisible);
 }
 
-void TestIndicatorState::oneCoordinateAloneIsATarget()
+void tst_IndicatorState::oneCoordinateAloneIsATarget()
 {
     for (const QPoint &target : {QPoint(-9999, 5), QPoint(5, -9999)}) {
         IndicatorState state;
@@ -92,7 +92,7 @@ void TestIndicatorState::oneCoordinateAloneIsATarget()
     }
 }
 
-void TestIndicatorState::longHintKeepsItsFront()
+void tst_IndicatorState::longHintKeepsItsFront()
 {
     IndicatorState state;
     const QString front = QStringLiteral("the front ");
@@ -103,7 +103,7 @@ void TestIndicatorState::longHintKeepsItsFront()
     QVERIFY(state.hint.isEmpty());
 }
 
-void TestIndicatorState::turningFlipsAndAsksForAWholePaint_data()
+void tst_IndicatorState::turningFlipsAndAsksForAWholePaint_data()
 {
     QTest::addColumn<QPoint>("target");
     QTest::addColumn<bool>("upsideDown");
@@ -113,7 +113,7 @@ void TestIndicatorState::turningFlipsAndAsksForAWholePaint_data()
     QTest::newRow("both") << QPoint(1537, -1) << true << true;
 }
 
-void TestIndicatorState::turningFlipsAndAsksForAWholePaint()
+void tst_IndicatorState::turningFlipsAndAsksForAWholePaint()
 {
     QFETCH(QPoint, target);
     IndicatorState state = restingAt(target.x(), target.y());
@@ -125,7 +125,7 @@ void TestIndicatorState::turningFlipsAndAsksForAWholePaint()
     QVERIFY(state.repaintAll);
 }
 
-void TestIndicatorState::turningWithoutAFlipKeepsThePaintAsItWas()
+void tst_IndicatorState::turningWithoutAFlipKeepsThePaintAsItWas()
 {
     IndicatorState state = restingAt(300, 200);
     QVERIFY(!state.turn(kRight, kArrow).turnedOver);
@@ -135,7 +135,7 @@ void TestIndicatorState::turningWithoutAFlipKeepsThePaintAsItWas()
     QVERIFY(state.repaintAll);
 }
 
-void TestIndicatorState::turningMovesNothing()
+void tst_IndicatorState::turningMovesNothing()
 {
     IndicatorState state = restingAt(300, 200);
     state.setTarget({100, 200}, QString(), true);
@@ -144,7 +144,7 @@ void TestIndicatorState::turningMovesNothing()
     QCOMPARE(QPoint(state.placement.lastX, state.placement.lastY), QPoint(300, 200));
 }
 
-void TestIndicatorState::movesOnlyWhenThePlaceIsNew()
+void tst_IndicatorState::movesOnlyWhenThePlaceIsNew()
 {
     IndicatorState state = restingAt(300, 200);
     QVERIFY(!state.moveTo({300, 200}, false));
@@ -154,7 +154,7 @@ void TestIndicatorState::movesOnlyWhenThePlaceIsNew()
     QVERIFY(!state.moveTo({301, 199}, false));
 }
 
-void TestIndicatorState::measuringMovesAWindowAtRest()
+void tst_IndicatorState::measuringMovesAWindowAtRest()
 {
     IndicatorState state = restingAt(300, 200);
     QVERIFY(state.moveTo({300, 200}, true));
@@ -162,21 +162,21 @@ void TestIndicatorState::measuringMovesAWindowAtRest()
     QVERIFY(!state.moveTo({300, 200}, false));
 }
 
-void TestIndicatorState::measuringCancelsAStepOfOneRow()
+void tst_IndicatorState::measuringCancelsAStepOfOneRow()
 {
     IndicatorState state = restingAt(300, 200);
     QVERIFY(!state.moveTo({300, 201}, true));
     QCOMPARE(state.placement.lastY, 201);
 }
 
-void TestIndicatorState::measuringAtTheLastRowStaysANumber()
+void tst_IndicatorState::measuringAtTheLastRowStaysANumber()
 {
     IndicatorState state = restingAt(300, kMax);
     QVERIFY(state.moveTo({300, kMax}, true));
     QCOMPARE(state.placement.lastY, kMax);
 }
 
-void TestIndicatorState::buttonsStandBelowTheHint()
+void tst_IndicatorState::buttonsStandBelowTheHint()
 {
     IndicatorState state = restingAt(300, 200);
     state.hintHeight = 100;
@@ -185,7 +185,7 @@ void TestIndicatorState::buttonsStandBelowTheHint()
     QCOMPARE(places.no, places.nextAndYes + QPoint(56, 0));
 }
 
-void TestIndicatorState::copiesAreIndependent()
+void tst_IndicatorState::copiesAreIndependent()
 {
     const IndicatorState before = restingAt(300, 200);
     IndicatorState after = before;
@@ -196,5 +196,5 @@ void TestIndicatorState::copiesAreIndependent()
     QVERIFY(before.hint.isEmpty());
 }
 
-QTEST_APPLESS_MAIN(TestIndicatorState)
+QTEST_APPLESS_MAIN(tst_IndicatorState)
 #include "tst_IndicatorState.moc"

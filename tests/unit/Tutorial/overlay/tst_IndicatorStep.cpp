@@ -18,7 +18,7 @@ constexpr int kMax = std::numeric_limits<int>::max();
 } // namespace
 
 /// What a step sets: its target, hint, icon and buttons.
-class TestIndicatorStep : public IndicatorTest
+class tst_IndicatorStep : public IndicatorTest
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     void anyTargetIsTaken();
 };
 
-void TestIndicatorStep::targetIsStoredAndLogged()
+void tst_IndicatorStep::targetIsStoredAndLogged()
 {
     LogCapture log;
     m_indicator->setTargetWindowOffset(300, 200, QStringLiteral("MainWindow"), true);
@@ -62,7 +62,7 @@ void TestIndicatorStep::targetIsStoredAndLogged()
     QVERIFY(!m_indicator->arrowVisible());
 }
 
-void TestIndicatorStep::noTargetTurnsTheArrowOff()
+void tst_IndicatorStep::noTargetTurnsTheArrowOff()
 {
     m_indicator->setTargetWindowOffset(300, 200, QStringLiteral("MainWindow"), true);
     m_indicator->tick(60);
@@ -78,7 +78,7 @@ void TestIndicatorStep::noTargetTurnsTheArrowOff()
     QCOMPARE(m_indicator->tooltip()->pos(), before);
 }
 
-void TestIndicatorStep::oneCoordinateAloneIsATarget_data()
+void tst_IndicatorStep::oneCoordinateAloneIsATarget_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
@@ -86,7 +86,7 @@ void TestIndicatorStep::oneCoordinateAloneIsATarget_data()
     QTest::newRow("y alone") << 5 << -9999;
 }
 
-void TestIndicatorStep::oneCoordinateAloneIsATarget()
+void tst_IndicatorStep::oneCoordinateAloneIsATarget()
 {
     QFETCH(int, x);
     QFETCH(int, y);
@@ -96,7 +96,7 @@ void TestIndicatorStep::oneCoordinateAloneIsATarget()
     QCOMPARE(m_indicator->state("newY").toInt(), y);
 }
 
-void TestIndicatorStep::newXyMovesTheTargetOnly()
+void tst_IndicatorStep::newXyMovesTheTargetOnly()
 {
     const QVariantMap before = m_indicator->getSettings();
     m_indicator->setNewXy(-9999, -9999);
@@ -108,7 +108,7 @@ void TestIndicatorStep::newXyMovesTheTargetOnly()
     QCOMPARE(after, before);
 }
 
-void TestIndicatorStep::hintIsShownAsLiteralText()
+void tst_IndicatorStep::hintIsShownAsLiteralText()
 {
     m_indicator->setHint(QStringLiteral("<b>C:\\maps</b>\n\"two\" & more"));
     QVERIFY(!m_indicator->textEdit()->isHidden());
@@ -117,7 +117,7 @@ void TestIndicatorStep::hintIsShownAsLiteralText()
     QVERIFY(m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestIndicatorStep::hintDocumentIsKeptForTheNextHint()
+void tst_IndicatorStep::hintDocumentIsKeptForTheNextHint()
 {
     m_indicator->setHint(QStringLiteral("one"));
     const QPointer<QTextDocument> document = m_indicator->textEdit()->document();
@@ -133,7 +133,7 @@ void TestIndicatorStep::hintDocumentIsKeptForTheNextHint()
     QCOMPARE(m_indicator->textEdit()->toPlainText(), QStringLiteral("three"));
 }
 
-void TestIndicatorStep::hintFontIsFetchedEachTime()
+void tst_IndicatorStep::hintFontIsFetchedEachTime()
 {
     m_indicator->setHint(QStringLiteral("one"));
     m_host.font = QFont(QStringLiteral("Another Family"));
@@ -146,7 +146,7 @@ void TestIndicatorStep::hintFontIsFetchedEachTime()
     QCOMPARE(m_indicator->textEdit()->document()->defaultFont().family(), QStringLiteral("Another Family"));
 }
 
-void TestIndicatorStep::emptyHintHidesTheTextAndKeepsItsHeight()
+void tst_IndicatorStep::emptyHintHidesTheTextAndKeepsItsHeight()
 {
     m_indicator->setHint(QStringLiteral("one\ntwo\nthree\nfour\nfive\nsix\nseven"));
     m_indicator->setTargetWindowOffset(300, 200, QString(), true);
@@ -162,7 +162,7 @@ void TestIndicatorStep::emptyHintHidesTheTextAndKeepsItsHeight()
     QCOMPARE(TestIndicator::next()->pos(), button);
 }
 
-void TestIndicatorStep::hintOfMegabytesDoesNotHoldUpTheLoop()
+void tst_IndicatorStep::hintOfMegabytesDoesNotHoldUpTheLoop()
 {
     m_indicator->setTargetWindowOffset(300, 200, QString(), true);
     const QString front = QStringLiteral("the front ");
@@ -174,7 +174,7 @@ void TestIndicatorStep::hintOfMegabytesDoesNotHoldUpTheLoop()
     QVERIFY(m_indicator->textEdit()->toPlainText().startsWith(front));
 }
 
-void TestIndicatorStep::emptyHintKeepsAPendingMeasurement()
+void tst_IndicatorStep::emptyHintKeepsAPendingMeasurement()
 {
     m_indicator->setHint(QString());
     QVERIFY(!m_indicator->state("updateTextEditSize").toBool());
@@ -183,7 +183,7 @@ void TestIndicatorStep::emptyHintKeepsAPendingMeasurement()
     QVERIFY(m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestIndicatorStep::initShowsTheButtonsOfTheStep_data()
+void tst_IndicatorStep::initShowsTheButtonsOfTheStep_data()
 {
     QTest::addColumn<bool>("next");
     QTest::addColumn<bool>("yesNo");
@@ -194,7 +194,7 @@ void TestIndicatorStep::initShowsTheButtonsOfTheStep_data()
     }
 }
 
-void TestIndicatorStep::initShowsTheButtonsOfTheStep()
+void tst_IndicatorStep::initShowsTheButtonsOfTheStep()
 {
     QFETCH(bool, next);
     QFETCH(bool, yesNo);
@@ -213,7 +213,7 @@ void TestIndicatorStep::initShowsTheButtonsOfTheStep()
     QCOMPARE(m_indicator->state("yesNoWindowEnabled").toBool(), yesNo);
 }
 
-void TestIndicatorStep::initRestartsTheBounce()
+void tst_IndicatorStep::initRestartsTheBounce()
 {
     class ClockReader : public TutorialIndicator
     {
@@ -232,7 +232,7 @@ void TestIndicatorStep::initRestartsTheBounce()
     QVERIFY(indicator.elapsedMs() <= sinceInit.elapsed());
 }
 
-void TestIndicatorStep::showButtonsHidesNothing()
+void tst_IndicatorStep::showButtonsHidesNothing()
 {
     m_indicator->showButtons();
     QVERIFY(TestIndicator::next()->isHidden());
@@ -243,7 +243,7 @@ void TestIndicatorStep::showButtonsHidesNothing()
     QVERIFY(TestIndicator::next()->isVisible());
 }
 
-void TestIndicatorStep::hideButtonsKeepsWhatTheStepWants()
+void tst_IndicatorStep::hideButtonsKeepsWhatTheStepWants()
 {
     m_indicator->init(true, true);
     m_indicator->hideButtons();
@@ -256,7 +256,7 @@ void TestIndicatorStep::hideButtonsKeepsWhatTheStepWants()
     QVERIFY(TestIndicator::no()->isVisible());
 }
 
-void TestIndicatorStep::anyIconKindIsTaken_data()
+void tst_IndicatorStep::anyIconKindIsTaken_data()
 {
     QTest::addColumn<int>("kind");
     for (const int kind : {kMin, -1, 0, 5, 6, 7, kMax}) {
@@ -264,7 +264,7 @@ void TestIndicatorStep::anyIconKindIsTaken_data()
     }
 }
 
-void TestIndicatorStep::anyIconKindIsTaken()
+void tst_IndicatorStep::anyIconKindIsTaken()
 {
     QFETCH(int, kind);
     m_indicator->showTooltip();
@@ -279,7 +279,7 @@ void TestIndicatorStep::anyIconKindIsTaken()
     QCOMPARE(m_indicator->state("iconKind").toInt(), kind);
 }
 
-void TestIndicatorStep::anyTargetIsTaken_data()
+void tst_IndicatorStep::anyTargetIsTaken_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
@@ -290,7 +290,7 @@ void TestIndicatorStep::anyTargetIsTaken_data()
     }
 }
 
-void TestIndicatorStep::anyTargetIsTaken()
+void tst_IndicatorStep::anyTargetIsTaken()
 {
     QFETCH(int, x);
     QFETCH(int, y);
@@ -307,6 +307,6 @@ void TestIndicatorStep::anyTargetIsTaken()
     QVERIFY(std::abs(m_indicator->tooltip()->y() - 100) <= 3);
 }
 
-QTEST_MAIN(TestIndicatorStep)
+QTEST_MAIN(tst_IndicatorStep)
 #include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorStep.moc"

@@ -6,7 +6,7 @@
 #include <QWindow>
 #include <QtTest>
 
-class TestKeepPlace : public QObject
+class tst_KeepPlace : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private:
     std::unique_ptr<QWidget> m_overlay;
 };
 
-void TestKeepPlace::init()
+void tst_KeepPlace::init()
 {
     m_overlay = std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint);
     m_overlay->setGeometry(700, 500, 640, 480);
@@ -43,19 +43,19 @@ void TestKeepPlace::init()
     QVERIFY(QTest::qWaitForWindowExposed(m_overlay.get()));
 }
 
-void TestKeepPlace::cleanup()
+void tst_KeepPlace::cleanup()
 {
     m_overlay.reset();
 }
 
-void TestKeepPlace::answersAPushAfterShowing()
+void tst_KeepPlace::answersAPushAfterShowing()
 {
     push({160, 120});
     QCOMPARE(m_overlay->pos(), QPoint(700, 500));
     QCOMPARE(m_overlay->windowHandle()->position(), QPoint(700, 500));
 }
 
-void TestKeepPlace::answersALatePushAndASecondOne()
+void tst_KeepPlace::answersALatePushAndASecondOne()
 {
     push({0, 0});
     QCOMPARE(m_overlay->pos(), QPoint(700, 500));
@@ -63,7 +63,7 @@ void TestKeepPlace::answersALatePushAndASecondOne()
     QCOMPARE(m_overlay->pos(), QPoint(700, 500));
 }
 
-void TestKeepPlace::givesWayToOneThatInsists()
+void tst_KeepPlace::givesWayToOneThatInsists()
 {
     for (int round = 0; round < KeepPlace::kAnswers; ++round) {
         push({160, 120});
@@ -73,7 +73,7 @@ void TestKeepPlace::givesWayToOneThatInsists()
     QCOMPARE(m_overlay->pos(), QPoint(160, 120));
 }
 
-void TestKeepPlace::eachShowAndEachMoveIsKeptAnew()
+void tst_KeepPlace::eachShowAndEachMoveIsKeptAnew()
 {
     for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
         push({160, 120});
@@ -91,7 +91,7 @@ void TestKeepPlace::eachShowAndEachMoveIsKeptAnew()
     QCOMPARE(m_overlay->pos(), QPoint(600, 400));
 }
 
-void TestKeepPlace::showsWhereItWasAskedForWhateverQtHas()
+void tst_KeepPlace::showsWhereItWasAskedForWhateverQtHas()
 {
     for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
         push({0, 0});
@@ -103,14 +103,14 @@ void TestKeepPlace::showsWhereItWasAskedForWhateverQtHas()
     QCOMPARE(m_overlay->windowHandle()->position(), QPoint(700, 500));
 }
 
-void TestKeepPlace::answersToTheLatestPlace()
+void tst_KeepPlace::answersToTheLatestPlace()
 {
     KeepPlace::moveTo(m_overlay.get(), {650, 450});
     push({160, 120});
     QCOMPARE(m_overlay->pos(), QPoint(650, 450));
 }
 
-void TestKeepPlace::knowsThePlaceThatWasAskedFor()
+void tst_KeepPlace::knowsThePlaceThatWasAskedFor()
 {
     KeepPlace::moveTo(m_overlay.get(), {650, 450});
     for (int round = 0; round <= KeepPlace::kAnswers; ++round) {
@@ -124,7 +124,7 @@ void TestKeepPlace::knowsThePlaceThatWasAskedFor()
     QCOMPARE(KeepPlace::placeOf(&other), QPoint(30, 40));
 }
 
-void TestKeepPlace::belongsToTheOverlays()
+void tst_KeepPlace::belongsToTheOverlays()
 {
     FakeOverlayHost host;
     const TestIndicator indicator(&host);
@@ -136,5 +136,5 @@ void TestKeepPlace::belongsToTheOverlays()
     }
 }
 
-QTEST_MAIN(TestKeepPlace)
+QTEST_MAIN(tst_KeepPlace)
 #include "tst_KeepPlace.moc"

@@ -28,7 +28,7 @@ protected:
 
 } // namespace
 
-class TestNativeWindowFilter : public QObject
+class tst_NativeWindowFilter : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void itsKindsBelongToTheOverlays();
 };
 
-void TestNativeWindowFilter::tellsOfAWindowBeforeItIsShown()
+void tst_NativeWindowFilter::tellsOfAWindowBeforeItIsShown()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const filter = new CountingFilter(&overlay);
@@ -49,7 +49,7 @@ void TestNativeWindowFilter::tellsOfAWindowBeforeItIsShown()
     QVERIFY(!filter->wasTooLate);
 }
 
-void TestNativeWindowFilter::tellsOfEachNativeWindow()
+void tst_NativeWindowFilter::tellsOfEachNativeWindow()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const filter = new CountingFilter(&overlay);
@@ -63,7 +63,7 @@ void TestNativeWindowFilter::tellsOfEachNativeWindow()
     }
 }
 
-void TestNativeWindowFilter::followsARecreatedWidget()
+void tst_NativeWindowFilter::followsARecreatedWidget()
 {
     QWidget overlay(nullptr, kFlags);
     auto *const filter = new CountingFilter(&overlay);
@@ -77,7 +77,7 @@ void TestNativeWindowFilter::followsARecreatedWidget()
     QVERIFY(!filter->wasTooLate);
 }
 
-void TestNativeWindowFilter::makesNoNativeWindow()
+void tst_NativeWindowFilter::makesNoNativeWindow()
 {
     QWidget overlay(nullptr, kFlags);
     const auto *const filter = new CountingFilter(&overlay);
@@ -85,7 +85,7 @@ void TestNativeWindowFilter::makesNoNativeWindow()
     QVERIFY(overlay.windowHandle() == nullptr || overlay.windowHandle()->handle() == nullptr);
 }
 
-void TestNativeWindowFilter::itsKindsBelongToTheOverlays()
+void tst_NativeWindowFilter::itsKindsBelongToTheOverlays()
 {
     const EveryOverlay every;
     const QList<const QWidget *> overlays = every.windows();
@@ -96,5 +96,5 @@ void TestNativeWindowFilter::itsKindsBelongToTheOverlays()
     QCOMPARE(every.editorTooltip()->findChildren<MayLeaveScreen *>().size(), 1);
 }
 
-QTEST_MAIN(TestNativeWindowFilter)
+QTEST_MAIN(tst_NativeWindowFilter)
 #include "tst_NativeWindowFilter.moc"

@@ -103,7 +103,7 @@ QVector<QPushButton *> allButtons()
 
 } // namespace
 
-class TestOverlayStyle : public IndicatorTest
+class tst_OverlayStyle : public IndicatorTest
 {
     Q_OBJECT
 
@@ -131,12 +131,12 @@ private Q_SLOTS:
     void otherWidgetsAreLeftAlone();
 };
 
-void TestOverlayStyle::initTestCase()
+void tst_OverlayStyle::initTestCase()
 {
     OverlayStyle::apply();
 }
 
-void TestOverlayStyle::fontIsLargeEnough()
+void tst_OverlayStyle::fontIsLargeEnough()
 {
     QFont font = QApplication::font();
     QVERIFY(font.pointSizeF() >= 10.5);
@@ -152,7 +152,7 @@ void TestOverlayStyle::fontIsLargeEnough()
     QApplication::setFont(font);
 }
 
-void TestOverlayStyle::hintHasRoomAroundIt_data()
+void tst_OverlayStyle::hintHasRoomAroundIt_data()
 {
     QTest::addColumn<QString>("hint");
     QTest::newRow("one line") << QStringLiteral("Press Next.");
@@ -168,7 +168,7 @@ void TestOverlayStyle::hintHasRoomAroundIt_data()
     QTest::newRow("backslashes") << QStringLiteral("\\n\\n\\n and C:\\maps\\one\nbelow");
 }
 
-void TestOverlayStyle::hintHasRoomAroundIt()
+void tst_OverlayStyle::hintHasRoomAroundIt()
 {
     QFETCH(QString, hint);
     m_indicator->setHint(hint);
@@ -190,7 +190,7 @@ void TestOverlayStyle::hintHasRoomAroundIt()
     QCOMPARE(inkOf(textEdit->grab().toImage()), ink);
 }
 
-void TestOverlayStyle::tooltipHasRoomAroundIt()
+void tst_OverlayStyle::tooltipHasRoomAroundIt()
 {
     m_host.font = QFont(QStringLiteral("DejaVu Serif"), 11);
     EditorTooltip::show(&m_host, QStringLiteral("The list of all maps"), 300, 200);
@@ -205,7 +205,7 @@ void TestOverlayStyle::tooltipHasRoomAroundIt()
     delete m_host.tooltip;
 }
 
-void TestOverlayStyle::panelIsLightUnderDarkTextWhateverThePalette()
+void tst_OverlayStyle::panelIsLightUnderDarkTextWhateverThePalette()
 {
     const QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette(QColor(40, 40, 40), QColor(20, 20, 20)));
@@ -219,7 +219,7 @@ void TestOverlayStyle::panelIsLightUnderDarkTextWhateverThePalette()
     QVERIFY(!inkOf(image).isEmpty());
 }
 
-void TestOverlayStyle::panelHasRoundCorners()
+void tst_OverlayStyle::panelHasRoundCorners()
 {
     m_indicator->setHint(QStringLiteral("text"));
     m_indicator->showTooltip();
@@ -233,7 +233,7 @@ void TestOverlayStyle::panelHasRoundCorners()
     QCOMPARE(image.pixelColor(panel.center()).alpha(), 255);
 }
 
-void TestOverlayStyle::panelStandsOutOnAnyWindow_data()
+void tst_OverlayStyle::panelStandsOutOnAnyWindow_data()
 {
     QTest::addColumn<QColor>("window");
     QTest::newRow("white") << QColor(255, 255, 255);
@@ -241,7 +241,7 @@ void TestOverlayStyle::panelStandsOutOnAnyWindow_data()
     QTest::newRow("black") << QColor(0, 0, 0);
 }
 
-void TestOverlayStyle::panelStandsOutOnAnyWindow()
+void tst_OverlayStyle::panelStandsOutOnAnyWindow()
 {
     QFETCH(QColor, window);
     m_indicator->setHint(QStringLiteral("text\ntext"));
@@ -265,7 +265,7 @@ void TestOverlayStyle::panelStandsOutOnAnyWindow()
     }
 }
 
-void TestOverlayStyle::buttonShowsItsStates()
+void tst_OverlayStyle::buttonShowsItsStates()
 {
     for (QPushButton *const button : allButtons()) {
         QVERIFY(button->testAttribute(Qt::WA_Hover));
@@ -288,7 +288,7 @@ void TestOverlayStyle::buttonShowsItsStates()
     }
 }
 
-void TestOverlayStyle::captionsCanBeRead()
+void tst_OverlayStyle::captionsCanBeRead()
 {
     for (const QPushButton *const button : allButtons()) {
         for (const QStyle::State state :
@@ -302,12 +302,12 @@ void TestOverlayStyle::captionsCanBeRead()
     }
 }
 
-void TestOverlayStyle::buttonsStandOutOnAnyWindow_data()
+void tst_OverlayStyle::buttonsStandOutOnAnyWindow_data()
 {
     panelStandsOutOnAnyWindow_data();
 }
 
-void TestOverlayStyle::buttonsStandOutOnAnyWindow()
+void tst_OverlayStyle::buttonsStandOutOnAnyWindow()
 {
     QFETCH(QColor, window);
     for (QPushButton *const button : allButtons()) {
@@ -321,7 +321,7 @@ void TestOverlayStyle::buttonsStandOutOnAnyWindow()
     }
 }
 
-void TestOverlayStyle::buttonTakesClicksWhereItIsDrawn()
+void tst_OverlayStyle::buttonTakesClicksWhereItIsDrawn()
 {
     for (QPushButton *const button : allButtons()) {
         QCOMPARE(button->size(), QSize(64, 32));
@@ -339,7 +339,7 @@ void TestOverlayStyle::buttonTakesClicksWhereItIsDrawn()
     }
 }
 
-void TestOverlayStyle::yesAndNoStandApart()
+void tst_OverlayStyle::yesAndNoStandApart()
 {
     m_indicator->tick();
     QPushButton *const yes = TestIndicator::yes();
@@ -356,7 +356,7 @@ void TestOverlayStyle::yesAndNoStandApart()
     QCOMPARE(noBody.top(), yesBody.top());
 }
 
-void TestOverlayStyle::yesAndNoAreNotOfEqualWeight()
+void tst_OverlayStyle::yesAndNoAreNotOfEqualWeight()
 {
     const QPoint inside(14, 12);
     const QColor next = pictureOf(TestIndicator::next(), QStyle::State_None).pixelColor(inside);
@@ -366,7 +366,7 @@ void TestOverlayStyle::yesAndNoAreNotOfEqualWeight()
     QVERIFY(contrast(yes, no) >= 4.5);
 }
 
-void TestOverlayStyle::captionsFitTheButtons_data()
+void tst_OverlayStyle::captionsFitTheButtons_data()
 {
     QTest::addColumn<QStringList>("captions");
     QTest::addColumn<int>("dpi");
@@ -383,7 +383,7 @@ void TestOverlayStyle::captionsFitTheButtons_data()
     }
 }
 
-void TestOverlayStyle::captionsFitTheButtons()
+void tst_OverlayStyle::captionsFitTheButtons()
 {
     QFETCH(QStringList, captions);
     QFETCH(int, dpi);
@@ -402,7 +402,7 @@ void TestOverlayStyle::captionsFitTheButtons()
     }
 }
 
-void TestOverlayStyle::captionThatFitsIsNotShrunk()
+void tst_OverlayStyle::captionThatFitsIsNotShrunk()
 {
     const QString caption = QStringLiteral("Next");
     QPushButton *const next = TestIndicator::next();
@@ -418,7 +418,7 @@ void TestOverlayStyle::captionThatFitsIsNotShrunk()
     QVERIFY(widths.last() > widths.first());
 }
 
-void TestOverlayStyle::otherWidgetsAreLeftAlone()
+void tst_OverlayStyle::otherWidgetsAreLeftAlone()
 {
     QTextEdit textEdit;
     const QPalette before = textEdit.palette();
@@ -435,6 +435,6 @@ void TestOverlayStyle::otherWidgetsAreLeftAlone()
     QVERIFY(image.pixelColor(6, 16) != TestIndicator::next()->grab().toImage().pixelColor(6, 16));
 }
 
-QTEST_MAIN(TestOverlayStyle)
+QTEST_MAIN(tst_OverlayStyle)
 #include "moc_IndicatorTest.cpp"
 #include "tst_OverlayStyle.moc"

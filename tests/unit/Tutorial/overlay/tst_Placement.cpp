@@ -26,7 +26,7 @@ Placement atRest(int x, int y, bool upsideDown, bool mirror)
 
 } // namespace
 
-class TestPlacement : public QObject
+class tst_Placement : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private Q_SLOTS:
     void truncatesToInt();
 };
 
-void TestPlacement::turnsOverByRow_data()
+void tst_Placement::turnsOverByRow_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<bool>("before");
@@ -70,7 +70,7 @@ void TestPlacement::turnsOverByRow_data()
     QTest::newRow("far down rights") << 900 << true << false;
 }
 
-void TestPlacement::turnsOverByRow()
+void tst_Placement::turnsOverByRow()
 {
     QFETCH(int, row);
     QFETCH(bool, before);
@@ -81,7 +81,7 @@ void TestPlacement::turnsOverByRow()
     QVERIFY(!step.changedSides);
 }
 
-void TestPlacement::changesSidesByColumn_data()
+void tst_Placement::changesSidesByColumn_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<qint64>("right");
@@ -100,7 +100,7 @@ void TestPlacement::changesSidesByColumn_data()
     QTest::newRow("no host rectangle, -410 stays") << -410 << qint64(0) << true << true;
 }
 
-void TestPlacement::changesSidesByColumn()
+void tst_Placement::changesSidesByColumn()
 {
     QFETCH(int, column);
     QFETCH(qint64, right);
@@ -112,7 +112,7 @@ void TestPlacement::changesSidesByColumn()
     QVERIFY(!step.turnedOver);
 }
 
-void TestPlacement::flipsOnlyWithinReach_data()
+void tst_Placement::flipsOnlyWithinReach_data()
 {
     QTest::addColumn<int>("lastX");
     QTest::addColumn<int>("lastY");
@@ -127,7 +127,7 @@ void TestPlacement::flipsOnlyWithinReach_data()
     QTest::newRow("300 away") << 1700 - 300 << -10 << false;
 }
 
-void TestPlacement::flipsOnlyWithinReach()
+void tst_Placement::flipsOnlyWithinReach()
 {
     QFETCH(int, lastX);
     QFETCH(int, lastY);
@@ -139,7 +139,7 @@ void TestPlacement::flipsOnlyWithinReach()
     QCOMPARE(step.mirror, flips);
 }
 
-void TestPlacement::measuresTheReachToTheShiftedTarget()
+void tst_Placement::measuresTheReachToTheShiftedTarget()
 {
     // Mirrored and upside down, the window's target is (1000 - 308, 400 + 165).
     const int x = 1000 - 180 - kArrow;
@@ -152,7 +152,7 @@ void TestPlacement::measuresTheReachToTheShiftedTarget()
     QVERIFY(!far.changedSides);
 }
 
-void TestPlacement::easesAQuarterOfTheWay_data()
+void tst_Placement::easesAQuarterOfTheWay_data()
 {
     QTest::addColumn<int>("target");
     QTest::addColumn<int>("last");
@@ -171,7 +171,7 @@ void TestPlacement::easesAQuarterOfTheWay_data()
     QTest::newRow("at rest") << 77 << 77 << 77;
 }
 
-void TestPlacement::easesAQuarterOfTheWay()
+void tst_Placement::easesAQuarterOfTheWay()
 {
     QFETCH(int, target);
     QFETCH(int, last);
@@ -184,7 +184,7 @@ void TestPlacement::easesAQuarterOfTheWay()
     QCOMPARE(down.y, next);
 }
 
-void TestPlacement::comesToRest_data()
+void tst_Placement::comesToRest_data()
 {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("target");
@@ -195,7 +195,7 @@ void TestPlacement::comesToRest_data()
     QTest::newRow("mixed") << QPoint(0, 800) << QPoint(400, 300) << QPoint(397, 300);
 }
 
-void TestPlacement::comesToRest()
+void tst_Placement::comesToRest()
 {
     QFETCH(QPoint, from);
     QFETCH(QPoint, target);
@@ -209,14 +209,14 @@ void TestPlacement::comesToRest()
     QCOMPARE(QPoint(placement.lastX, placement.lastY), rest);
 }
 
-void TestPlacement::headsForTheShiftedTargetOnTheTickOfTheFlip()
+void tst_Placement::headsForTheShiftedTargetOnTheTickOfTheFlip()
 {
     const PlacementStep step = stepPlacement({1700, -10, 1700, -10, false, false}, kRight, kArrow);
     QCOMPARE(step.x, 1700 - (180 + kArrow) / 4);
     QCOMPARE(step.y, 31); // a quarter of 165 from -10 is 31.25
 }
 
-void TestPlacement::flipsOncePerTarget()
+void tst_Placement::flipsOncePerTarget()
 {
     Placement placement{1700, -10, 1500, 100, false, false};
     int turns = 0;
@@ -232,7 +232,7 @@ void TestPlacement::flipsOncePerTarget()
     QCOMPARE(QPoint(placement.lastX, placement.lastY), QPoint(1700 - 180 - kArrow, -10 + 165 - 3));
 }
 
-void TestPlacement::copesWithAnyCoordinates_data()
+void tst_Placement::copesWithAnyCoordinates_data()
 {
     QTest::addColumn<int>("target");
     QTest::addColumn<int>("last");
@@ -245,7 +245,7 @@ void TestPlacement::copesWithAnyCoordinates_data()
     QTest::newRow("and back") << kMin << kMax << false << kMin;
 }
 
-void TestPlacement::copesWithAnyCoordinates()
+void tst_Placement::copesWithAnyCoordinates()
 {
     QFETCH(int, target);
     QFETCH(int, last);
@@ -262,7 +262,7 @@ void TestPlacement::copesWithAnyCoordinates()
              qPrintable(QString::number(placement.lastX)));
 }
 
-void TestPlacement::putsTheButtonsBelowTheHint_data()
+void tst_Placement::putsTheButtonsBelowTheHint_data()
 {
     QTest::addColumn<QPoint>("window");
     QTest::addColumn<int>("hintHeight");
@@ -275,7 +275,7 @@ void TestPlacement::putsTheButtonsBelowTheHint_data()
                             << QPoint(kMin + 184, kMin);
 }
 
-void TestPlacement::putsTheButtonsBelowTheHint()
+void tst_Placement::putsTheButtonsBelowTheHint()
 {
     QFETCH(QPoint, window);
     QFETCH(int, hintHeight);
@@ -284,14 +284,14 @@ void TestPlacement::putsTheButtonsBelowTheHint()
     QTEST(places.no, "no");
 }
 
-void TestPlacement::clampsToReach()
+void tst_Placement::clampsToReach()
 {
     QCOMPARE(clampToReach({-70000, 70000}), QPoint(-70000, 70000));
     QCOMPARE(clampToReach({kMin, kMax}), QPoint(-(1 << 24), 1 << 24));
     QCOMPARE(clampToReach({kMax, kMin}), QPoint(1 << 24, -(1 << 24)));
 }
 
-void TestPlacement::clampsToInt_data()
+void tst_Placement::clampsToInt_data()
 {
     QTest::addColumn<qint64>("value");
     QTest::addColumn<int>("expected");
@@ -302,13 +302,13 @@ void TestPlacement::clampsToInt_data()
     QTest::newRow("below") << qint64(kMin) - 1 << kMin;
 }
 
-void TestPlacement::clampsToInt()
+void tst_Placement::clampsToInt()
 {
     QFETCH(qint64, value);
     QTEST(clampToInt(value), "expected");
 }
 
-void TestPlacement::truncatesToInt_data()
+void tst_Placement::truncatesToInt_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("expected");
@@ -320,11 +320,11 @@ void TestPlacement::truncatesToInt_data()
     QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << 0;
 }
 
-void TestPlacement::truncatesToInt()
+void tst_Placement::truncatesToInt()
 {
     QFETCH(double, value);
     QTEST(truncateToInt(value), "expected");
 }
 
-QTEST_APPLESS_MAIN(TestPlacement)
+QTEST_APPLESS_MAIN(tst_Placement)
 #include "tst_Placement.moc"

@@ -4,7 +4,7 @@
 #include <QWindow>
 #include <QtTest>
 
-class TestStayHidden : public QObject
+class tst_StayHidden : public QObject
 {
     Q_OBJECT
 
@@ -22,19 +22,19 @@ private:
     std::unique_ptr<QWidget> m_overlay;
 };
 
-void TestStayHidden::init()
+void tst_StayHidden::init()
 {
     m_overlay = std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint);
     new StayHidden(m_overlay.get());
     m_overlay->setGeometry(70, 50, 64, 48);
 }
 
-void TestStayHidden::cleanup()
+void tst_StayHidden::cleanup()
 {
     m_overlay.reset();
 }
 
-void TestStayHidden::dropsAWindowThatWasNeverMapped()
+void tst_StayHidden::dropsAWindowThatWasNeverMapped()
 {
     m_overlay->show();
     QVERIFY(m_overlay->windowHandle()->handle() != nullptr);
@@ -42,7 +42,7 @@ void TestStayHidden::dropsAWindowThatWasNeverMapped()
     QCOMPARE(m_overlay->windowHandle()->handle(), nullptr);
 }
 
-void TestStayHidden::keepsAWindowThatWasMapped()
+void tst_StayHidden::keepsAWindowThatWasMapped()
 {
     m_overlay->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_overlay.get()));
@@ -54,7 +54,7 @@ void TestStayHidden::keepsAWindowThatWasMapped()
     QCOMPARE(m_overlay->windowHandle()->handle(), nullptr);
 }
 
-void TestStayHidden::showsAgainAfterwards()
+void tst_StayHidden::showsAgainAfterwards()
 {
     m_overlay->show();
     m_overlay->setWindowOpacity(0.5);
@@ -69,7 +69,7 @@ void TestStayHidden::showsAgainAfterwards()
     QVERIFY(qAbs(m_overlay->windowHandle()->opacity() - 0.5) < 0.01);
 }
 
-void TestStayHidden::followsARecreatedWindow()
+void tst_StayHidden::followsARecreatedWindow()
 {
     m_overlay->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_overlay.get()));
@@ -85,7 +85,7 @@ void TestStayHidden::followsARecreatedWindow()
     QCOMPARE(m_overlay->windowHandle()->handle(), nullptr);
 }
 
-void TestStayHidden::belongsToTheOverlays()
+void tst_StayHidden::belongsToTheOverlays()
 {
     const EveryOverlay every;
     const QList<const QWidget *> overlays = every.windows();
@@ -94,5 +94,5 @@ void TestStayHidden::belongsToTheOverlays()
     }
 }
 
-QTEST_MAIN(TestStayHidden)
+QTEST_MAIN(tst_StayHidden)
 #include "tst_StayHidden.moc"

@@ -34,7 +34,7 @@ void activate(QWidget *widget)
 } // namespace
 
 /// The windows of an indicator: how they are built, clicked, activated, closed and deleted.
-class TestTutorialIndicator : public IndicatorTest
+class tst_TutorialIndicator : public IndicatorTest
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private Q_SLOTS:
     void destructionLogsAndDeletesTheWindows();
 };
 
-void TestTutorialIndicator::methodTableIsComplete()
+void tst_TutorialIndicator::methodTableIsComplete()
 {
     const QMetaObject &meta = TutorialIndicator::staticMetaObject;
     QStringList slotNames;
@@ -76,7 +76,7 @@ void TestTutorialIndicator::methodTableIsComplete()
     QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
 }
 
-void TestTutorialIndicator::isBuiltHidden()
+void tst_TutorialIndicator::isBuiltHidden()
 {
     QVERIFY(m_indicator->isHidden());
     QVERIFY(m_indicator->isWindow());
@@ -95,7 +95,7 @@ void TestTutorialIndicator::isBuiltHidden()
     QVERIFY(m_host.sent.isEmpty());
 }
 
-void TestTutorialIndicator::buttonsAreBuiltAlike()
+void tst_TutorialIndicator::buttonsAreBuiltAlike()
 {
     m_indicator.reset();
     m_host.font = QFont(QStringLiteral("Some Family"));
@@ -119,7 +119,7 @@ void TestTutorialIndicator::buttonsAreBuiltAlike()
     }
 }
 
-void TestTutorialIndicator::picturesHaveTheirSizes()
+void tst_TutorialIndicator::picturesHaveTheirSizes()
 {
     const QList<QPair<const char *, QSize>> pictures{
         {"arrow", {128, 128}}, {"click", {48, 56}}, {"double_click", {48, 56}}, {"right_click", {48, 56}},
@@ -129,7 +129,7 @@ void TestTutorialIndicator::picturesHaveTheirSizes()
     }
 }
 
-void TestTutorialIndicator::ticksTenTimesASecond()
+void tst_TutorialIndicator::ticksTenTimesASecond()
 {
     const auto timers = timersOf(m_indicator.get());
     QCOMPARE(timers.size(), 1);
@@ -137,7 +137,7 @@ void TestTutorialIndicator::ticksTenTimesASecond()
     QCOMPARE(timers.first().timerType, Qt::CoarseTimer);
 }
 
-void TestTutorialIndicator::tooltipIsShownAndHidden()
+void tst_TutorialIndicator::tooltipIsShownAndHidden()
 {
     m_indicator->showTooltip();
     QVERIFY(m_indicator->tooltip()->isVisible());
@@ -145,7 +145,7 @@ void TestTutorialIndicator::tooltipIsShownAndHidden()
     QVERIFY(m_indicator->tooltip()->isHidden());
 }
 
-void TestTutorialIndicator::clickSendsOneCommand_data()
+void tst_TutorialIndicator::clickSendsOneCommand_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("command");
@@ -154,7 +154,7 @@ void TestTutorialIndicator::clickSendsOneCommand_data()
     QTest::newRow("no") << QStringLiteral("noButton") << QStringLiteral("no");
 }
 
-void TestTutorialIndicator::clickSendsOneCommand()
+void tst_TutorialIndicator::clickSendsOneCommand()
 {
     QFETCH(QString, name);
     QFETCH(QString, command);
@@ -168,7 +168,7 @@ void TestTutorialIndicator::clickSendsOneCommand()
     QVERIFY(TestIndicator::no()->isVisible());
 }
 
-void TestTutorialIndicator::isActiveFollowsTheActiveWindow()
+void tst_TutorialIndicator::isActiveFollowsTheActiveWindow()
 {
     QWidget other;
     activate(&other);
@@ -185,7 +185,7 @@ void TestTutorialIndicator::isActiveFollowsTheActiveWindow()
     QVERIFY(m_indicator->isActive());
 }
 
-void TestTutorialIndicator::activationOfAnotherWindowIsPassedOn()
+void tst_TutorialIndicator::activationOfAnotherWindowIsPassedOn()
 {
     QWidget other;
     activate(&other);
@@ -197,7 +197,7 @@ void TestTutorialIndicator::activationOfAnotherWindowIsPassedOn()
     QVERIFY(log.debugs().constFirst().endsWith(QStringLiteral("TutorialIndicator::changeEvent 286 false")));
 }
 
-void TestTutorialIndicator::ownActivationEndsThePopup()
+void tst_TutorialIndicator::ownActivationEndsThePopup()
 {
     m_indicator->init(true, false);
     activate(TestIndicator::next());
@@ -207,7 +207,7 @@ void TestTutorialIndicator::ownActivationEndsThePopup()
     QCOMPARE(m_host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
 }
 
-void TestTutorialIndicator::activeButtonEndsThePopup()
+void tst_TutorialIndicator::activeButtonEndsThePopup()
 {
     QWidget other;
     activate(&other);
@@ -224,7 +224,7 @@ void TestTutorialIndicator::activeButtonEndsThePopup()
     }
 }
 
-void TestTutorialIndicator::buttonThatTakesOverEndsThePopupOnce()
+void tst_TutorialIndicator::buttonThatTakesOverEndsThePopupOnce()
 {
     m_indicator->init(false, true);
     QCoreApplication::processEvents(); // this platform makes active what is shown
@@ -234,7 +234,7 @@ void TestTutorialIndicator::buttonThatTakesOverEndsThePopupOnce()
     QCOMPARE(m_host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
 }
 
-void TestTutorialIndicator::buttonThatIsNoLongerActiveEndsNoPopup()
+void tst_TutorialIndicator::buttonThatIsNoLongerActiveEndsNoPopup()
 {
     m_indicator->init(true, false);
     activate(TestIndicator::next());
@@ -244,7 +244,7 @@ void TestTutorialIndicator::buttonThatIsNoLongerActiveEndsNoPopup()
     QCOMPARE(m_host.calls, QStringList(QStringLiteral("visibility")));
 }
 
-void TestTutorialIndicator::indicatorThatIsNeverShownLeavesTheActivationAlone()
+void tst_TutorialIndicator::indicatorThatIsNeverShownLeavesTheActivationAlone()
 {
     m_indicator->init(true, false);
     activate(TestIndicator::next());
@@ -257,7 +257,7 @@ void TestTutorialIndicator::indicatorThatIsNeverShownLeavesTheActivationAlone()
     QCOMPARE(m_indicator->windowHandle(), nullptr);
 }
 
-void TestTutorialIndicator::otherChangesAreNotPassedOn()
+void tst_TutorialIndicator::otherChangesAreNotPassedOn()
 {
     LogCapture log;
     QEvent event(QEvent::LanguageChange);
@@ -266,7 +266,7 @@ void TestTutorialIndicator::otherChangesAreNotPassedOn()
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestTutorialIndicator::lostActivationIsTakenBackOnTheNextTick()
+void tst_TutorialIndicator::lostActivationIsTakenBackOnTheNextTick()
 {
     // Shown here only so that there is something to activate.
     m_indicator->show();
@@ -289,7 +289,7 @@ void TestTutorialIndicator::lostActivationIsTakenBackOnTheNextTick()
     QCOMPARE(QApplication::activeWindow(), &other);
 }
 
-void TestTutorialIndicator::closeEndsTimerAndWindows()
+void tst_TutorialIndicator::closeEndsTimerAndWindows()
 {
     m_indicator->init(true, true);
     m_indicator->showTooltip();
@@ -315,7 +315,7 @@ void TestTutorialIndicator::closeEndsTimerAndWindows()
     QVERIFY(timersOf(m_indicator.get()).isEmpty());
 }
 
-void TestTutorialIndicator::closedIndicatorToleratesEverything()
+void tst_TutorialIndicator::closedIndicatorToleratesEverything()
 {
     m_indicator->close();
     m_indicator->init(true, true);
@@ -333,7 +333,7 @@ void TestTutorialIndicator::closedIndicatorToleratesEverything()
     QCOMPARE(m_indicator->tooltip(), nullptr);
 }
 
-void TestTutorialIndicator::closedTooltipIsReplaced()
+void tst_TutorialIndicator::closedTooltipIsReplaced()
 {
     m_indicator->setHint(QStringLiteral("kept"));
     m_indicator->tick();
@@ -358,7 +358,7 @@ void TestTutorialIndicator::closedTooltipIsReplaced()
     QVERIFY(m_indicator->textEdit()->isHidden());
 }
 
-void TestTutorialIndicator::destructionLogsAndDeletesTheWindows()
+void tst_TutorialIndicator::destructionLogsAndDeletesTheWindows()
 {
     const QPointer<QPushButton> next = TestIndicator::next();
     const QPointer<TutorialTooltip> tooltip = m_indicator->tooltip();
@@ -371,6 +371,6 @@ void TestTutorialIndicator::destructionLogsAndDeletesTheWindows()
     QVERIFY(tooltip.isNull());
 }
 
-QTEST_MAIN(TestTutorialIndicator)
+QTEST_MAIN(tst_TutorialIndicator)
 #include "moc_IndicatorTest.cpp"
 #include "tst_TutorialIndicator.moc"

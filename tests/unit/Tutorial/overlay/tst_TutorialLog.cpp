@@ -5,7 +5,7 @@
 #include <QWindow>
 #include <QtTest>
 
-class TestTutorialLog : public QObject
+class tst_TutorialLog : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void otherChangesAreNotPassedOn();
 };
 
-void TestTutorialLog::isBuiltAsOneHiddenPixel()
+void tst_TutorialLog::isBuiltAsOneHiddenPixel()
 {
     FakeOverlayHost host;
     const TutorialLog log(nullptr, &host);
@@ -29,7 +29,7 @@ void TestTutorialLog::isBuiltAsOneHiddenPixel()
     QVERIFY(log.isHidden());
 }
 
-void TestTutorialLog::leavesNoNativeWindowToActivate()
+void tst_TutorialLog::leavesNoNativeWindowToActivate()
 {
     FakeOverlayHost host;
     TutorialLog log(nullptr, &host);
@@ -40,7 +40,7 @@ void TestTutorialLog::leavesNoNativeWindowToActivate()
     QCOMPARE(log.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
 }
 
-void TestTutorialLog::methodTableIsComplete()
+void tst_TutorialLog::methodTableIsComplete()
 {
     const QMetaObject &meta = TutorialLog::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
@@ -48,7 +48,7 @@ void TestTutorialLog::methodTableIsComplete()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
 }
 
-void TestTutorialLog::activationEndsThePopup()
+void tst_TutorialLog::activationEndsThePopup()
 {
     FakeOverlayHost host;
     TutorialLog log(nullptr, &host);
@@ -59,7 +59,7 @@ void TestTutorialLog::activationEndsThePopup()
     QCOMPARE(host.calls, QStringList({QStringLiteral("activated"), QStringLiteral("visibility")}));
 }
 
-void TestTutorialLog::lostActivationDoesNotEndThePopup()
+void tst_TutorialLog::lostActivationDoesNotEndThePopup()
 {
     FakeOverlayHost host;
     TutorialLog log(nullptr, &host);
@@ -74,7 +74,7 @@ void TestTutorialLog::lostActivationDoesNotEndThePopup()
     QCOMPARE(host.calls, QStringList(QStringLiteral("visibility")));
 }
 
-void TestTutorialLog::otherChangesAreNotPassedOn()
+void tst_TutorialLog::otherChangesAreNotPassedOn()
 {
     FakeOverlayHost host;
     TutorialLog log(nullptr, &host);
@@ -84,5 +84,5 @@ void TestTutorialLog::otherChangesAreNotPassedOn()
     QVERIFY(host.calls.isEmpty());
 }
 
-QTEST_MAIN(TestTutorialLog)
+QTEST_MAIN(tst_TutorialLog)
 #include "tst_TutorialLog.moc"

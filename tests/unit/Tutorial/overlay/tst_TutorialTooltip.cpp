@@ -56,7 +56,7 @@ QVector<QRect> erasedRects(bool mirror)
 
 } // namespace
 
-class TestTutorialTooltip : public IndicatorTest
+class tst_TutorialTooltip : public IndicatorTest
 {
     Q_OBJECT
 
@@ -85,7 +85,7 @@ private:
     void turn(bool upsideDown, bool mirror);
 };
 
-void TestTutorialTooltip::turn(bool upsideDown, bool mirror)
+void tst_TutorialTooltip::turn(bool upsideDown, bool mirror)
 {
     QVariantMap settings = m_indicator->getSettings();
     settings.insert(QStringLiteral("upsideDown"), upsideDown);
@@ -93,7 +93,7 @@ void TestTutorialTooltip::turn(bool upsideDown, bool mirror)
     m_indicator->setSettings(settings);
 }
 
-void TestTutorialTooltip::windowIsBuiltAsOverlay()
+void tst_TutorialTooltip::windowIsBuiltAsOverlay()
 {
     const TutorialTooltip *const tooltip = m_indicator->tooltip();
     QCOMPARE(tooltip->parentWidget(), nullptr);
@@ -105,7 +105,7 @@ void TestTutorialTooltip::windowIsBuiltAsOverlay()
     QVERIFY(tooltip->isHidden());
 }
 
-void TestTutorialTooltip::textEditIsBuiltFixed()
+void tst_TutorialTooltip::textEditIsBuiltFixed()
 {
     const QTextEdit *const textEdit = m_indicator->textEdit();
     QCOMPARE(textEdit->geometry(), QRect(128, 56, 256, 64));
@@ -122,7 +122,7 @@ void TestTutorialTooltip::textEditIsBuiltFixed()
     QVERIFY(textEdit->isHidden());
 }
 
-void TestTutorialTooltip::hintAtConstructionIsTakenAsItStands()
+void tst_TutorialTooltip::hintAtConstructionIsTakenAsItStands()
 {
     m_indicator->setHint(QStringLiteral("a\\b\n<c"));
     m_indicator->tick();
@@ -136,7 +136,7 @@ void TestTutorialTooltip::hintAtConstructionIsTakenAsItStands()
     QVERIFY(m_indicator->state("updateTextEditSize").toBool());
 }
 
-void TestTutorialTooltip::methodTableIsComplete()
+void tst_TutorialTooltip::methodTableIsComplete()
 {
     const QMetaObject &meta = TutorialTooltip::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
@@ -144,7 +144,7 @@ void TestTutorialTooltip::methodTableIsComplete()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
 }
 
-void TestTutorialTooltip::arrowBounces_data()
+void tst_TutorialTooltip::arrowBounces_data()
 {
     QTest::addColumn<bool>("upsideDown");
     QTest::addColumn<bool>("mirror");
@@ -161,7 +161,7 @@ void TestTutorialTooltip::arrowBounces_data()
     }
 }
 
-void TestTutorialTooltip::arrowBounces()
+void tst_TutorialTooltip::arrowBounces()
 {
     QFETCH(bool, upsideDown);
     QFETCH(bool, mirror);
@@ -175,7 +175,7 @@ void TestTutorialTooltip::arrowBounces()
     QCOMPARE(paintedOver(m_indicator->tooltip()), expected);
 }
 
-void TestTutorialTooltip::iconStandsBesideTheArrow_data()
+void tst_TutorialTooltip::iconStandsBesideTheArrow_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("name");
@@ -190,7 +190,7 @@ void TestTutorialTooltip::iconStandsBesideTheArrow_data()
     QTest::newRow("too high") << 7 << QString();
 }
 
-void TestTutorialTooltip::iconStandsBesideTheArrow()
+void tst_TutorialTooltip::iconStandsBesideTheArrow()
 {
     QFETCH(int, kind);
     QFETCH(QString, name);
@@ -210,7 +210,7 @@ void TestTutorialTooltip::iconStandsBesideTheArrow()
     }
 }
 
-void TestTutorialTooltip::hiddenArrowIsErasedAndTheIconStays()
+void tst_TutorialTooltip::hiddenArrowIsErasedAndTheIconStays()
 {
     m_indicator->setIconKind(5);
     m_indicator->setTargetWindowOffset(-9999, -9999, QString(), true);
@@ -220,14 +220,14 @@ void TestTutorialTooltip::hiddenArrowIsErasedAndTheIconStays()
     QCOMPARE(paintedOver(m_indicator->tooltip()), expected);
 }
 
-void TestTutorialTooltip::repaintAllErasesTheWindowOnce_data()
+void tst_TutorialTooltip::repaintAllErasesTheWindowOnce_data()
 {
     QTest::addColumn<bool>("mirror");
     QTest::newRow("plain") << false;
     QTest::newRow("mirrored") << true;
 }
 
-void TestTutorialTooltip::repaintAllErasesTheWindowOnce()
+void tst_TutorialTooltip::repaintAllErasesTheWindowOnce()
 {
     QFETCH(bool, mirror);
     turn(false, mirror);
@@ -244,7 +244,7 @@ void TestTutorialTooltip::repaintAllErasesTheWindowOnce()
     QCOMPARE(paintedOver(m_indicator->tooltip()), expected);
 }
 
-void TestTutorialTooltip::nothingRemainsOfThePaintBefore()
+void tst_TutorialTooltip::nothingRemainsOfThePaintBefore()
 {
     m_indicator->tooltip()->show();
     m_indicator->clockMs = 0;
@@ -258,7 +258,7 @@ void TestTutorialTooltip::nothingRemainsOfThePaintBefore()
     QCOMPARE(shown, expected);
 }
 
-void TestTutorialTooltip::picturesAreSmoothOnAScaledScreen()
+void tst_TutorialTooltip::picturesAreSmoothOnAScaledScreen()
 {
     m_indicator->clockMs = 1500;
     QImage image(1280, 960, QImage::Format_ARGB32_Premultiplied);
@@ -273,7 +273,7 @@ void TestTutorialTooltip::picturesAreSmoothOnAScaledScreen()
     QVERIFY(large.scaled(arrow.size()).scaled(large.size()) != large);
 }
 
-void TestTutorialTooltip::activationIsLogged()
+void tst_TutorialTooltip::activationIsLogged()
 {
     LogCapture log;
     QEvent event(QEvent::ActivationChange);
@@ -283,7 +283,7 @@ void TestTutorialTooltip::activationIsLogged()
     QVERIFY(m_host.calls.isEmpty());
 }
 
-void TestTutorialTooltip::otherChangesAreNotLogged()
+void tst_TutorialTooltip::otherChangesAreNotLogged()
 {
     LogCapture log;
     QEvent event(QEvent::LanguageChange);
@@ -291,7 +291,7 @@ void TestTutorialTooltip::otherChangesAreNotLogged()
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestTutorialTooltip::closingForgetsTextAndWindow()
+void tst_TutorialTooltip::closingForgetsTextAndWindow()
 {
     const QPointer<TutorialTooltip> tooltip = m_indicator->tooltip();
     const QPointer<QTextEdit> textEdit = m_indicator->textEdit();
@@ -305,7 +305,7 @@ void TestTutorialTooltip::closingForgetsTextAndWindow()
     QCOMPARE(m_indicator->tooltip(), nullptr);
 }
 
-void TestTutorialTooltip::showsAStateWithoutAnIndicator()
+void tst_TutorialTooltip::showsAStateWithoutAnIndicator()
 {
     const IndicatorPictures pictures = IndicatorPictures::load();
     IndicatorState state;
@@ -328,7 +328,7 @@ void TestTutorialTooltip::showsAStateWithoutAnIndicator()
     QCOMPARE(paintedOver(&tooltip), expected);
 }
 
-void TestTutorialTooltip::tellsOfItsWholePaintOnly()
+void tst_TutorialTooltip::tellsOfItsWholePaintOnly()
 {
     const IndicatorPictures pictures = IndicatorPictures::load();
     IndicatorState state;
@@ -342,7 +342,7 @@ void TestTutorialTooltip::tellsOfItsWholePaintOnly()
     QVERIFY(state.repaintAll); // it reads the state and no more
 }
 
-void TestTutorialTooltip::tellsOfItsEndOnce()
+void tst_TutorialTooltip::tellsOfItsEndOnce()
 {
     const IndicatorPictures pictures = IndicatorPictures::load();
     const IndicatorState state;
@@ -355,6 +355,6 @@ void TestTutorialTooltip::tellsOfItsEndOnce()
     QCOMPARE(closed.count(), 1);
 }
 
-QTEST_MAIN(TestTutorialTooltip)
+QTEST_MAIN(tst_TutorialTooltip)
 #include "moc_IndicatorTest.cpp"
 #include "tst_TutorialTooltip.moc"

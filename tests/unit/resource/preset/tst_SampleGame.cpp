@@ -9,11 +9,11 @@ class tst_SampleGame : public SampleTest
 
 private Q_SLOTS:
     void ends();
-    void plays_each_step_without_a_hitch();
-    void notices_what_keeps_it_from_its_end_data();
-    void notices_what_keeps_it_from_its_end();
-    void notices_what_goes_wrong_data();
-    void notices_what_goes_wrong();
+    void playsEachStepWithoutAHitch();
+    void noticesWhatKeepsItFromItsEnd_data();
+    void noticesWhatKeepsItFromItsEnd();
+    void noticesWhatGoesWrong_data();
+    void noticesWhatGoesWrong();
 };
 
 namespace {
@@ -42,7 +42,7 @@ void tst_SampleGame::ends()
     QCOMPARE(game.items(kLamp), 0);
 }
 
-void tst_SampleGame::plays_each_step_without_a_hitch()
+void tst_SampleGame::playsEachStepWithoutAHitch()
 {
     for (int step = sample::kFirstStep; step <= sample::kLastStep; ++step) {
         const sample::Game game = played(sample::readStep(step));
@@ -53,7 +53,7 @@ void tst_SampleGame::plays_each_step_without_a_hitch()
     }
 }
 
-void tst_SampleGame::notices_what_keeps_it_from_its_end_data()
+void tst_SampleGame::noticesWhatKeepsItFromItsEnd_data()
 {
     addChangeColumns();
     addChange("lever turns nothing on", "Map007.json", "events/6/pages/0/list", kNothing);
@@ -63,12 +63,12 @@ void tst_SampleGame::notices_what_keeps_it_from_its_end_data()
     addChange("scene without the ending", "Map006.json", "events/4/pages/0/list/12", kNothing.at(0));
 }
 
-void tst_SampleGame::notices_what_keeps_it_from_its_end()
+void tst_SampleGame::noticesWhatKeepsItFromItsEnd()
 {
     QVERIFY(!played(lastWithChange()).hasEnded());
 }
 
-void tst_SampleGame::notices_what_goes_wrong_data()
+void tst_SampleGame::noticesWhatGoesWrong_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QJsonValue>("value");
@@ -83,7 +83,7 @@ void tst_SampleGame::notices_what_goes_wrong_data()
         << scene + QStringLiteral("10/parameters/3") << QJsonValue(2) << "item 6 is given and not there";
 }
 
-void tst_SampleGame::notices_what_goes_wrong()
+void tst_SampleGame::noticesWhatGoesWrong()
 {
     QFETCH(QString, path);
     QFETCH(QJsonValue, value);

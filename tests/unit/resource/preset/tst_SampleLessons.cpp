@@ -8,12 +8,12 @@ class tst_SampleLessons : public SampleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void keeps_each_map_from_its_step_on();
-    void holds_what_the_lesson_starts_from_data();
-    void holds_what_the_lesson_starts_from();
-    void adds_what_the_lesson_can_make();
-    void finds_what_the_lesson_cannot_make_data();
-    void finds_what_the_lesson_cannot_make();
+    void keepsEachMapFromItsStepOn();
+    void holdsWhatTheLessonStartsFrom_data();
+    void holdsWhatTheLessonStartsFrom();
+    void addsWhatTheLessonCanMake();
+    void findsWhatTheLessonCannotMake_data();
+    void findsWhatTheLessonCannotMake();
 };
 
 using sample::changed;
@@ -111,7 +111,7 @@ int pagesOf(const Files &files, const QString &map, const QString &name)
 
 } // namespace
 
-void tst_SampleLessons::keeps_each_map_from_its_step_on()
+void tst_SampleLessons::keepsEachMapFromItsStepOn()
 {
     QMap<QString, int> ids;
     for (int step = kFirstStep; step <= kLastStep; ++step) {
@@ -133,7 +133,7 @@ void tst_SampleLessons::keeps_each_map_from_its_step_on()
     }
 }
 
-void tst_SampleLessons::holds_what_the_lesson_starts_from_data()
+void tst_SampleLessons::holdsWhatTheLessonStartsFrom_data()
 {
     QTest::addColumn<int>("lesson");
     QTest::addColumn<QString>("map");
@@ -177,7 +177,7 @@ void tst_SampleLessons::holds_what_the_lesson_starts_from_data()
     row("18: back to the village", 18, "#170", "#165", 0, 2);
 }
 
-void tst_SampleLessons::holds_what_the_lesson_starts_from()
+void tst_SampleLessons::holdsWhatTheLessonStartsFrom()
 {
     QFETCH(int, lesson);
     QFETCH(QString, map);
@@ -188,7 +188,7 @@ void tst_SampleLessons::holds_what_the_lesson_starts_from()
     QCOMPARE(pagesOf(readStep(lesson + 1), map, event), pagesAfter);
 }
 
-void tst_SampleLessons::adds_what_the_lesson_can_make()
+void tst_SampleLessons::addsWhatTheLessonCanMake()
 {
     Files before = readStep(kFirstStep);
     for (int lesson = kFirstStep; lesson < kLastStep; ++lesson) {
@@ -201,7 +201,7 @@ void tst_SampleLessons::adds_what_the_lesson_can_make()
     }
 }
 
-void tst_SampleLessons::finds_what_the_lesson_cannot_make_data()
+void tst_SampleLessons::findsWhatTheLessonCannotMake_data()
 {
     QTest::addColumn<int>("lesson");
     QTest::addColumn<QString>("file");
@@ -239,7 +239,7 @@ void tst_SampleLessons::finds_what_the_lesson_cannot_make_data()
                              << "";
 }
 
-void tst_SampleLessons::finds_what_the_lesson_cannot_make()
+void tst_SampleLessons::findsWhatTheLessonCannotMake()
 {
     QFETCH(int, lesson);
     QFETCH(QString, file);

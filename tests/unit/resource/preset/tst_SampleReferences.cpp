@@ -8,19 +8,19 @@ class tst_SampleReferences : public SampleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void refers_to_what_is_there();
-    void finds_a_reference_that_leads_nowhere_data();
-    void finds_a_reference_that_leads_nowhere();
-    void finds_a_reference_in_a_list_of_commands_data();
-    void finds_a_reference_in_a_list_of_commands();
-    void finds_a_missing_map();
-    void turns_on_each_switch_that_a_page_waits_for();
-    void finds_a_switch_that_nothing_turns_on();
-    void lets_nobody_win_by_fleeing();
-    void finds_a_battle_won_by_fleeing();
-    void begins_with_mila_alone_and_lets_the_others_join();
-    void finds_somebody_who_does_not_join();
-    void ends_what_holds_for_a_number_of_turns();
+    void refersToWhatIsThere();
+    void findsAReferenceThatLeadsNowhere_data();
+    void findsAReferenceThatLeadsNowhere();
+    void findsAReferenceInAListOfCommands_data();
+    void findsAReferenceInAListOfCommands();
+    void findsAMissingMap();
+    void turnsOnEachSwitchThatAPageWaitsFor();
+    void findsASwitchThatNothingTurnsOn();
+    void letsNobodyWinByFleeing();
+    void findsABattleWonByFleeing();
+    void beginsWithMilaAloneAndLetsTheOthersJoin();
+    void findsSomebodyWhoDoesNotJoin();
+    void endsWhatHoldsForANumberOfTurns();
 };
 
 using sample::changed;
@@ -72,12 +72,12 @@ constexpr int kProtected = 3;
 
 } // namespace
 
-void tst_SampleReferences::refers_to_what_is_there()
+void tst_SampleReferences::refersToWhatIsThere()
 {
     QCOMPARE(firstFinding(sample::danglingReferences), QString());
 }
 
-void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
+void tst_SampleReferences::findsAReferenceThatLeadsNowhere_data()
 {
     addChangeColumns();
     addChange("class", "Actors.json", "2/classId", 9, "Actors.json entry 2: no entry 9 in Classes");
@@ -114,14 +114,14 @@ void tst_SampleReferences::finds_a_reference_that_leads_nowhere_data()
               QStringLiteral("E"), "no self switch \"E\"");
 }
 
-void tst_SampleReferences::finds_a_reference_that_leads_nowhere()
+void tst_SampleReferences::findsAReferenceThatLeadsNowhere()
 {
     QFETCH(QString, finding);
     const QString findings = sample::danglingReferences(lastWithChange()).join(QLatin1Char('\n'));
     QVERIFY2(findings.contains(finding), qPrintable(findings));
 }
 
-void tst_SampleReferences::finds_a_reference_in_a_list_of_commands_data()
+void tst_SampleReferences::findsAReferenceInAListOfCommands_data()
 {
     QTest::addColumn<QJsonObject>("command");
     QTest::addColumn<QString>("finding");
@@ -153,7 +153,7 @@ void tst_SampleReferences::finds_a_reference_in_a_list_of_commands_data()
     QTest::newRow("unknown code") << command(999, {}) << "command 999 is not known here";
 }
 
-void tst_SampleReferences::finds_a_reference_in_a_list_of_commands()
+void tst_SampleReferences::findsAReferenceInAListOfCommands()
 {
     QFETCH(QJsonObject, command);
     QFETCH(QString, finding);
@@ -169,7 +169,7 @@ void tst_SampleReferences::finds_a_reference_in_a_list_of_commands()
              qPrintable(findings));
 }
 
-void tst_SampleReferences::finds_a_missing_map()
+void tst_SampleReferences::findsAMissingMap()
 {
     sample::Files files = m_last;
     files.remove(sample::mapFile(kMine));
@@ -181,7 +181,7 @@ void tst_SampleReferences::finds_a_missing_map()
         sample::danglingReferences(files).contains(QStringLiteral("Map008.json: no entry 8 in MapInfos")));
 }
 
-void tst_SampleReferences::turns_on_each_switch_that_a_page_waits_for()
+void tst_SampleReferences::turnsOnEachSwitchThatAPageWaitsFor()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         // The gate that stands ready waits for the lever, to which lesson 9 gives its switch.
@@ -190,7 +190,7 @@ void tst_SampleReferences::turns_on_each_switch_that_a_page_waits_for()
     }
 }
 
-void tst_SampleReferences::finds_a_switch_that_nothing_turns_on()
+void tst_SampleReferences::findsASwitchThatNothingTurnsOn()
 {
     const QString map = sample::mapFile(kMine);
     const QString turnsOn = firstCommand(m_last, kMine, commandsOf(m_last, kMine, kWarden), 121);
@@ -201,14 +201,14 @@ void tst_SampleReferences::finds_a_switch_that_nothing_turns_on()
     QCOMPARE(sample::unsetSwitches(off), QStringList{QStringLiteral("5")});
 }
 
-void tst_SampleReferences::lets_nobody_win_by_fleeing()
+void tst_SampleReferences::letsNobodyWinByFleeing()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         QVERIFY2(sample::battlesWonByFleeing(readStep(step)).isEmpty(), qPrintable(stepName(step)));
     }
 }
 
-void tst_SampleReferences::finds_a_battle_won_by_fleeing()
+void tst_SampleReferences::findsABattleWonByFleeing()
 {
     const QString battle = firstCommand(m_last, kMine, commandsOf(m_last, kMine, kWarden), 301);
     QVERIFY(!battle.isEmpty());
@@ -219,7 +219,7 @@ void tst_SampleReferences::finds_a_battle_won_by_fleeing()
     }
 }
 
-void tst_SampleReferences::begins_with_mila_alone_and_lets_the_others_join()
+void tst_SampleReferences::beginsWithMilaAloneAndLetsTheOthersJoin()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         const sample::Files files = readStep(step);
@@ -233,7 +233,7 @@ void tst_SampleReferences::begins_with_mila_alone_and_lets_the_others_join()
     }
 }
 
-void tst_SampleReferences::finds_somebody_who_does_not_join()
+void tst_SampleReferences::findsSomebodyWhoDoesNotJoin()
 {
     const QString list = commandsOf(m_last, kVillage, kToma);
     const QString map = sample::mapFile(kVillage);
@@ -247,7 +247,7 @@ void tst_SampleReferences::finds_somebody_who_does_not_join()
     QCOMPARE(sample::companions(changed(m_last, map, picture, QStringLiteral("toma"))), QList<int>{3});
 }
 
-void tst_SampleReferences::ends_what_holds_for_a_number_of_turns()
+void tst_SampleReferences::endsWhatHoldsForANumberOfTurns()
 {
     constexpr int kEndOfTurn = 2;
     for (int step = 16; step <= kLastStep; ++step) {

@@ -10,13 +10,13 @@ class tst_SampleWays : public SampleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void leads_to_each_event_and_back();
-    void opens_the_maps_one_after_the_other();
-    void finds_what_is_in_the_way_data();
-    void finds_what_is_in_the_way();
-    void finds_a_wall_in_the_way();
-    void finds_a_corridor_that_a_figure_blocks();
-    void finds_a_map_without_a_way();
+    void leadsToEachEventAndBack();
+    void opensTheMapsOneAfterTheOther();
+    void findsWhatIsInTheWay_data();
+    void findsWhatIsInTheWay();
+    void findsAWallInTheWay();
+    void findsACorridorThatAFigureBlocks();
+    void findsAMapWithoutAWay();
 };
 
 using sample::changed;
@@ -39,13 +39,13 @@ QString lines(const QStringList &findings)
 
 } // namespace
 
-void tst_SampleWays::leads_to_each_event_and_back()
+void tst_SampleWays::leadsToEachEventAndBack()
 {
     QCOMPARE(firstFinding([](const sample::Files &files) { return sample::Ways(files).findings(); }),
              QString());
 }
 
-void tst_SampleWays::opens_the_maps_one_after_the_other()
+void tst_SampleWays::opensTheMapsOneAfterTheOther()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         const sample::Files files = readStep(step);
@@ -59,7 +59,7 @@ void tst_SampleWays::opens_the_maps_one_after_the_other()
     }
 }
 
-void tst_SampleWays::finds_what_is_in_the_way_data()
+void tst_SampleWays::findsWhatIsInTheWay_data()
 {
     addChangeColumns();
     const QJsonArray nothing = {QJsonObject{{QStringLiteral("code"), 0}}};
@@ -83,14 +83,14 @@ void tst_SampleWays::finds_what_is_in_the_way_data()
               "nobody comes back from (5, 7) of map 3");
 }
 
-void tst_SampleWays::finds_what_is_in_the_way()
+void tst_SampleWays::findsWhatIsInTheWay()
 {
     QFETCH(QString, finding);
     const QString findings = lines(sample::Ways(lastWithChange()).findings());
     QVERIFY2(findings.contains(finding), qPrintable(findings));
 }
 
-void tst_SampleWays::finds_a_wall_in_the_way()
+void tst_SampleWays::findsAWallInTheWay()
 {
     sample::Files files = m_last;
     const int width = sample::map(files, 8).value(QStringLiteral("width")).toInt();
@@ -103,7 +103,7 @@ void tst_SampleWays::finds_a_wall_in_the_way()
     QCOMPARE(findings, QStringList{QStringLiteral("Map008.json event 3: nobody gets to (20, 3) of map 8")});
 }
 
-void tst_SampleWays::finds_a_corridor_that_a_figure_blocks()
+void tst_SampleWays::findsACorridorThatAFigureBlocks()
 {
     // Row 8 of the shop is its only way between counter and door once trees stand beside it.
     sample::Files files = m_last;
@@ -125,7 +125,7 @@ void tst_SampleWays::finds_a_corridor_that_a_figure_blocks()
              qPrintable(lines(findings)));
 }
 
-void tst_SampleWays::finds_a_map_without_a_way()
+void tst_SampleWays::findsAMapWithoutAWay()
 {
     const sample::Files files =
         changed(m_last, sample::mapFile(1), QStringLiteral("events/3/pages/0/list"), QJsonArray());

@@ -8,18 +8,18 @@ class tst_SampleWording : public SampleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void says_nothing_past_its_translators();
-    void finds_what_no_translator_gets_to_data();
-    void finds_what_no_translator_gets_to();
-    void writes_each_command_in_one_form();
-    void finds_a_misshapen_command_data();
-    void finds_a_misshapen_command();
-    void has_a_branch_for_each_choice();
-    void finds_a_branch_that_is_not_its_choice_s_data();
-    void finds_a_branch_that_is_not_its_choice_s();
-    void fits_into_the_message_window_data();
-    void fits_into_the_message_window();
-    void finds_a_message_that_is_too_long();
+    void saysNothingPastItsTranslators();
+    void findsWhatNoTranslatorGetsTo_data();
+    void findsWhatNoTranslatorGetsTo();
+    void writesEachCommandInOneForm();
+    void findsAMisshapenCommand_data();
+    void findsAMisshapenCommand();
+    void hasABranchForEachChoice();
+    void findsABranchThatIsNotItsChoiceS_data();
+    void findsABranchThatIsNotItsChoiceS();
+    void fitsIntoTheMessageWindow_data();
+    void fitsIntoTheMessageWindow();
+    void findsAMessageThatIsTooLong();
 };
 
 using sample::changed;
@@ -35,12 +35,12 @@ const QString kElder = QStringLiteral("events/7/pages/0/list/");
 
 } // namespace
 
-void tst_SampleWording::says_nothing_past_its_translators()
+void tst_SampleWording::saysNothingPastItsTranslators()
 {
     QCOMPARE(firstFinding(sample::strayTexts), QString());
 }
 
-void tst_SampleWording::finds_what_no_translator_gets_to_data()
+void tst_SampleWording::findsWhatNoTranslatorGetsTo_data()
 {
     addChangeColumns();
     const QJsonValue text = QStringLiteral("Amberfield");
@@ -63,7 +63,7 @@ void tst_SampleWording::finds_what_no_translator_gets_to_data()
     addChange("text in another parameter", "Map001.json", "events/1/pages/0/list/0/parameters/0", textNumber);
 }
 
-void tst_SampleWording::finds_what_no_translator_gets_to()
+void tst_SampleWording::findsWhatNoTranslatorGetsTo()
 {
     QFETCH(QString, file);
     QFETCH(QString, path);
@@ -72,12 +72,12 @@ void tst_SampleWording::finds_what_no_translator_gets_to()
     QVERIFY2(findings.first().startsWith(file + QLatin1Char('/') + path), qPrintable(findings.first()));
 }
 
-void tst_SampleWording::writes_each_command_in_one_form()
+void tst_SampleWording::writesEachCommandInOneForm()
 {
     QCOMPARE(firstFinding(sample::misshapenCommands), QString());
 }
 
-void tst_SampleWording::finds_a_misshapen_command_data()
+void tst_SampleWording::findsAMisshapenCommand_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QJsonValue>("value");
@@ -93,7 +93,7 @@ void tst_SampleWording::finds_a_misshapen_command_data()
     QTest::newRow("without an end") << sign << QJsonValue(QJsonArray()) << "Map001.json event 1: no end";
 }
 
-void tst_SampleWording::finds_a_misshapen_command()
+void tst_SampleWording::findsAMisshapenCommand()
 {
     QFETCH(QString, path);
     QFETCH(QJsonValue, value);
@@ -101,12 +101,12 @@ void tst_SampleWording::finds_a_misshapen_command()
     QCOMPARE(sample::misshapenCommands(changed(m_last, kVillage, path, value)), QStringList{finding});
 }
 
-void tst_SampleWording::has_a_branch_for_each_choice()
+void tst_SampleWording::hasABranchForEachChoice()
 {
     QCOMPARE(firstFinding(sample::mismatchedBranches), QString());
 }
 
-void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s_data()
+void tst_SampleWording::findsABranchThatIsNotItsChoiceS_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QJsonValue>("value");
@@ -118,7 +118,7 @@ void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s_data()
     QTest::newRow("one branch fewer") << QStringLiteral("9/code") << QJsonValue(0);
 }
 
-void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s()
+void tst_SampleWording::findsABranchThatIsNotItsChoiceS()
 {
     QFETCH(QString, path);
     QFETCH(QJsonValue, value);
@@ -126,7 +126,7 @@ void tst_SampleWording::finds_a_branch_that_is_not_its_choice_s()
              QStringList{QStringLiteral("Map001.json event 7")});
 }
 
-void tst_SampleWording::fits_into_the_message_window_data()
+void tst_SampleWording::fitsIntoTheMessageWindow_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<int>("letters");
@@ -135,7 +135,7 @@ void tst_SampleWording::fits_into_the_message_window_data()
     QTest::newRow("zh_CN") << QStringLiteral("zh_CN") << 25;
 }
 
-void tst_SampleWording::fits_into_the_message_window()
+void tst_SampleWording::fitsIntoTheMessageWindow()
 {
     QFETCH(QString, locale);
     QFETCH(int, letters);
@@ -146,7 +146,7 @@ void tst_SampleWording::fits_into_the_message_window()
     }
 }
 
-void tst_SampleWording::finds_a_message_that_is_too_long()
+void tst_SampleWording::findsAMessageThatIsTooLong()
 {
     const QString sign = QStringLiteral("#12");
     const QString text(51, QLatin1Char('x'));
