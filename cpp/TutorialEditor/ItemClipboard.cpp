@@ -70,7 +70,7 @@ QList<int> ItemClipboard::paste(const QByteArray &payload, ScenarioDocument *doc
         ItemTree source;
         std::unique_ptr<Node> node = createFromJson(JsonWrapper(elements.at(i)), &source.items, texts,
                                                     nullptr, QStringLiteral("Item %1").arg(i + 1));
-        if (!node) {
+        if (node == nullptr) {
             continue;
         }
         const int oldId = node->id;

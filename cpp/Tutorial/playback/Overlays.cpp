@@ -97,7 +97,7 @@ void Overlays::rebuild()
 {
     // Seconds have passed since these were closed. Their windows take a megabyte.
     for (const QPointer<QWidget> &retired : std::exchange(m_retired, {})) {
-        if (retired) {
+        if (retired != nullptr) {
             retired->deleteLater();
         }
     }

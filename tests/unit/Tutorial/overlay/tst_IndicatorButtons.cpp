@@ -168,7 +168,7 @@ void tst_IndicatorButtons::closedOnesAreLeftAlone()
     const QPointer<QPushButton> no = m_buttons->window(Buttons::kNo);
     m_buttons->close();
     QCOMPARE(m_buttons->window(Buttons::kNo), nullptr);
-    QVERIFY(no && no->isHidden());
+    QVERIFY(no != nullptr && no->isHidden());
     m_buttons->follow(wanting(true, true));
     m_buttons->showWanted(wanting(true, true));
     m_buttons->hide();

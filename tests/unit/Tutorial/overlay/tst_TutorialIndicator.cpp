@@ -303,10 +303,10 @@ void tst_TutorialIndicator::closeEndsTimerAndWindows()
     QCOMPARE(m_indicator->tooltip(), nullptr);
     QVERIFY(!m_indicator->state("tooltip").toBool());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(next && next->isHidden());
-    QVERIFY(yes && yes->isHidden());
-    QVERIFY(no && no->isHidden());
-    QVERIFY(tooltip && tooltip->isHidden());
+    QVERIFY(next != nullptr && next->isHidden());
+    QVERIFY(yes != nullptr && yes->isHidden());
+    QVERIFY(no != nullptr && no->isHidden());
+    QVERIFY(tooltip != nullptr && tooltip->isHidden());
     QCOMPARE(tooltip->findChild<QTextEdit *>(), nullptr);
     QCoreApplication::processEvents();
     QCOMPARE(lastWindowClosed.count(), 0);
