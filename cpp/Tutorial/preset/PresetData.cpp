@@ -194,18 +194,21 @@ QString jsonOf(const FileTexts &texts, const SampleTable &table, const Translate
 
 QStringList listPresetSteps(const QString &patchRoot)
 {
-    static const QRegularExpression pattern(QStringLiteral("^step\\d+$"));
-    constexpr int kNumberIndex = 4;
-    QStringList steps;
+    static const QRegularExpression pattern(QStringLiteral("^step(\\d+)$"));
+    std::vector<std::pair<int, QString>> numbered;
     const QFileInfoList entries = QDir(patchRoot).entryInfoList(QDir::Dirs | QDir::Hidden, QDir::NoSort);
     for (const QFileInfo &entry : entries) {
-        if (pattern.match(entry.fileName()).hasMatch()) {
-            steps.append(entry.fileName());
+        const QRegularExpressionMatch match = pattern.match(entry.fileName());
+        if (match.hasMatch()) {
+            numbered.emplace_back(match.captured(1).toInt(), entry.fileName());
         }
     }
-    std::sort(steps.begin(), steps.end(), [](const QString &left, const QString &right) {
-        return left.mid(kNumberIndex).toInt() < right.mid(kNumberIndex).toInt();
-    });
+    std::sort(numbered.begin(), numbered.end(),
+              [](const auto &left, const auto &right) { return left.first < right.first; });
+    QStringList steps;
+    for (const auto &step : numbered) {
+        steps.append(step.second);
+    }
     return steps;
 }
 
