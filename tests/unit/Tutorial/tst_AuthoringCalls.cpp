@@ -107,7 +107,8 @@ void tst_AuthoringCalls::cleanup()
 {
     m_calls.reset();
     m_languages.reset();
-    qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
+    qDeleteAll(
+        QCoreApplication::instance()->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 QString tst_AuthoringCalls::file(const QString &name, const QByteArray &bytes) const
