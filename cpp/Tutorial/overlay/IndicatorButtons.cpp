@@ -97,7 +97,7 @@ void IndicatorButtons::close()
 {
     for (QPushButton *&button : m_open) {
         if (button != nullptr) {
-            button->close();
+            closeOverlay(button);
             button = nullptr;
         }
     }

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QWindow>
 
 void prepareOverlay(QWidget *overlay, Qt::WindowFlags more)
 {
@@ -34,6 +35,17 @@ void moveOverlay(QWidget *overlay, const QPoint &place)
     if (overlay != nullptr) {
         KeepPlace::moveTo(overlay, clampToReach(place));
     }
+}
+
+void closeOverlay(QWidget *overlay)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // The close goes by way of the native window there, and one that was hidden early lost it.
+    if (overlay->windowHandle() != nullptr) {
+        overlay->windowHandle()->create();
+    }
+#endif
+    overlay->close();
 }
 
 bool isTheActiveWindow(const QWidget *overlay)

@@ -20,6 +20,9 @@ void setOverlayShown(QWidget *overlay, bool shown);
 /// moved to. Null is left alone.
 void moveOverlay(QWidget *overlay, const QPoint &place);
 
+/// Closes an overlay, which hears of it also when it has no native window at the moment.
+void closeOverlay(QWidget *overlay);
+
 /// Whether @p overlay is the active window. Null is not. QWidget::isActiveWindow() will not do: it lends
 /// every parentless tool window the state "active".
 [[nodiscard]] bool isTheActiveWindow(const QWidget *overlay);

@@ -257,7 +257,7 @@ void TutorialIndicator::closeEvent(QCloseEvent *event)
     }
     m_buttons->close();
     if (m_tooltip != nullptr) {
-        m_tooltip->close();
+        closeOverlay(m_tooltip);
     }
 }
 

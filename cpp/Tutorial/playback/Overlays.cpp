@@ -90,7 +90,7 @@ void Overlays::hideEditorTooltip() const
 void Overlays::retire(QWidget *old)
 {
     m_retired.emplace_back(old);
-    old->close();
+    closeOverlay(old);
 }
 
 void Overlays::rebuild()

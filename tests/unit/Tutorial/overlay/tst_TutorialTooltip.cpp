@@ -2,6 +2,7 @@
 #include "LogCapture.h"
 #include "Tutorial/overlay/IndicatorPictures.h"
 #include "Tutorial/overlay/IndicatorState.h"
+#include "Tutorial/overlay/OverlayWindow.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -351,7 +352,7 @@ void tst_TutorialTooltip::tellsOfItsEndOnce()
     tooltip.show();
     tooltip.hide();
     QCOMPARE(closed.count(), 0);
-    tooltip.close();
+    closeOverlay(&tooltip);
     QCOMPARE(closed.count(), 1);
 }
 
