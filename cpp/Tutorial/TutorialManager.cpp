@@ -57,11 +57,12 @@ TutorialManager::TutorialManager(QObject *parent, TranslationOutput::Resolve tra
 TutorialManager::~TutorialManager()
 {
     logDebug(kSource, "TutorialManager::~TutorialManager", 268);
-    m_connection.reset();
-    m_authoring.reset();
+    // First: the history may change when the document goes, and its host is no longer whole then.
     if (UndoRedo::instance() != nullptr) {
         UndoRedo::instance()->setHost(nullptr);
     }
+    m_connection.reset();
+    m_authoring.reset();
     theInstance = nullptr;
     logDebug(kSource, "TutorialManager::~TutorialManager", 276);
 }

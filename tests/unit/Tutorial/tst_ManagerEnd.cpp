@@ -1,6 +1,9 @@
 #include "ManagerFixture.h"
+#include "TutorialEditor/Manager.h"
 #include "UndoRedo/UndoRedo.h"
 #include "UndoRedo/UnredoableCommand.h"
+
+#include <QSignalSpy>
 
 #include <algorithm>
 #include <memory>
@@ -13,6 +16,7 @@ class tst_ManagerEnd : public QObject
 
 private Q_SLOTS:
     void historyThatOutlivesTheManagerTellsNobody();
+    void historyThatChangesWhenTheDocumentGoesTellsNobody();
 };
 
 void tst_ManagerEnd::historyThatOutlivesTheManagerTellsNobody()
@@ -32,6 +36,25 @@ void tst_ManagerEnd::historyThatOutlivesTheManagerTellsNobody()
     history.undoAndMakeUnredoable();
     history.markSaved();
     history.clear();
+    QVERIFY(!history.canUndo());
+}
+
+void tst_ManagerEnd::historyThatChangesWhenTheDocumentGoesTellsNobody()
+{
+    auto manager = std::make_unique<TutorialManager>();
+    UndoRedo history(nullptr, manager.get());
+    UndoRedo::publish(&history);
+    const QSignalSpy modified(manager.get(), &TutorialManager::modifiedChanged);
+    bool gone = false;
+    // An author's tool that empties its own list of steps along with the document.
+    connect(TutorialEditor::Manager::instance(), &QObject::destroyed, this, [&] {
+        gone = true;
+        history.addCommand(std::make_unique<UnredoableCommand>());
+        history.clear();
+    });
+    manager.reset();
+    QVERIFY(gone);
+    QCOMPARE(modified.size(), 0);
     QVERIFY(!history.canUndo());
 }
 
