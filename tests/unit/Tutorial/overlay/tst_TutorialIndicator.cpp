@@ -4,6 +4,7 @@
 #include <QAbstractEventDispatcher>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void otherChangesAreNotPassedOn();
     void lostActivationIsTakenBackOnTheNextTick();
     void closeEndsTimerAndWindows();
+    void closeForgetsATooltipWithoutANativeWindow();
     void closedIndicatorToleratesEverything();
     void closedTooltipIsReplaced();
     void destructionLogsAndDeletesTheWindows();
@@ -313,6 +315,17 @@ void tst_TutorialIndicator::closeEndsTimerAndWindows()
     // Closed twice is closed.
     m_indicator->close();
     QVERIFY(timersOf(m_indicator.get()).isEmpty());
+}
+
+void tst_TutorialIndicator::closeForgetsATooltipWithoutANativeWindow()
+{
+    m_indicator->showTooltip();
+    m_indicator->hideTooltip();
+    QVERIFY(m_indicator->tooltip()->windowHandle() != nullptr);
+    m_indicator->tooltip()->windowHandle()->destroy();
+    m_indicator->close();
+    QCOMPARE(m_indicator->tooltip(), nullptr);
+    QVERIFY(!m_indicator->state("tooltip").toBool());
 }
 
 void tst_TutorialIndicator::closedIndicatorToleratesEverything()
