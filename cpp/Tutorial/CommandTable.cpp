@@ -5,7 +5,6 @@
 #include "Tutorial/link/CommandFields.h"
 #include "Tutorial/link/CommandWords.h"
 #include "Tutorial/localisation/Languages.h"
-#include "Tutorial/localisation/SampleTable.h"
 #include "Tutorial/playback/Playback.h"
 #include "Tutorial/preset/PresetData.h"
 #include "tool/LogLine.h"
@@ -116,9 +115,8 @@ void fromServer(Parts &parts, const CommandFields &fields)
 
 void requestPresetData(Parts &parts, const CommandFields &fields)
 {
-    static const SampleTable table = buildSampleTable();
     logDebug(kSource, "TutorialManager::onReceived", 971) << fields.all();
-    QString answer = presetData(fields.text(1), parts.programFolder, table,
+    QString answer = presetData(fields.text(1), parts.programFolder, parts.sampleTable,
                                 [&parts](const QString &context, const QString &text) {
                                     return parts.languages.texts().sampleText(context, text);
                                 });

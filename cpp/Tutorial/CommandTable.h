@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Tutorial/localisation/SampleTable.h"
+
 #include <QString>
 
 #include <functional>
@@ -20,6 +22,7 @@ public:
         Languages &languages;
         std::function<void(const QString &command)> send; ///< sends an answer to the host editor
         QString programFolder;                            ///< where the preset data lie
+        SampleTable sampleTable = buildSampleTable();     ///< which of their texts are translated
     };
 
     explicit CommandTable(Parts parts);

@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "PatchBytes.h"
 #include "Tutorial/AuthoringCalls.h"
 #include "Tutorial/CommandTable.h"
 #include "Tutorial/localisation/Languages.h"
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void handsOverTheDocumentAsItStandsAfterAnUnknownName();
     void saysWhatDidNotLoad();
     void answersWithPresetData();
+    void translatesPresetDataByItsTable();
     void answersNothingWithoutPresetData_data();
     void answersNothingWithoutPresetData();
 
@@ -78,6 +80,9 @@ private:
     {
         return topLevels<TutorialIndicator>().constFirst()->getSettings();
     }
+
+    /// Puts a data file into the preset data of step 1.
+    [[nodiscard]] bool addActors(const QByteArray &text) const;
 
     std::unique_ptr<Languages> m_languages;
     std::unique_ptr<Playback> m_playback;
@@ -108,6 +113,14 @@ void tst_CommandTable::cleanup()
     m_languages.reset();
     deleteOverlays();
     qDeleteAll(qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+bool tst_CommandTable::addActors(const QByteArray &text) const
+{
+    const QString data = m_program->filePath(QStringLiteral("resource/patch/step1/data"));
+    QFile file(data + QStringLiteral("/Actors.json-patch"));
+    const QByteArray patch = PatchBytes::insertion(text);
+    return QDir().mkpath(data) && file.open(QIODevice::WriteOnly) && file.write(patch) == patch.size();
 }
 
 void tst_CommandTable::ignoresWhatItDoesNotKnow_data()
@@ -397,21 +410,29 @@ void tst_CommandTable::saysWhatDidNotLoad()
 
 void tst_CommandTable::answersWithPresetData()
 {
-    const QString data = m_program->filePath(QStringLiteral("resource/patch/step1/data"));
-    QVERIFY(QDir().mkpath(data));
-    QFile file(data + QStringLiteral("/Actors.json-patch"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    // A text of four bytes that needs no text before it.
-    const QByteArray patch = QByteArray::fromHex("04000000"
-                                                 "0003") +
-                             "[ ]\n";
-    QCOMPARE(file.write(patch), qint64(patch.size()));
-    file.close();
+    QVERIFY(addActors("[ ]\n"));
     LogCapture log;
     run(QStringLiteral("requestPresetData step1"));
     QCOMPARE(m_sent, QStringList{QStringLiteral("feedbackPresetData\x01{\"data/Actors.json\":\"[]\"}")});
     QCOMPARE(log.debugs().constFirst(),
              kSource + QStringLiteral("onReceived 971 (\"requestPresetData\", \"step1\")"));
+}
+
+void tst_CommandTable::translatesPresetDataByItsTable()
+{
+    QVERIFY(addActors(R"([{"name":"Next","nickname":"Next"}])"));
+    CommandTable::Parts parts{*m_playback, *m_authoring, *m_languages,
+                              [this](const QString &text) { m_sent << text; }, m_program->path()};
+    QCOMPARE(parts.sampleTable, buildSampleTable());
+    const QStringList row{QStringLiteral("translateArrayKeyText"), QStringLiteral("tutorial"),
+                          QStringLiteral("TutorialIndicator"), QStringLiteral("nickname")};
+    parts.sampleTable = {{QStringLiteral("Actors.json"), {row}}};
+    m_commands = std::make_unique<CommandTable>(parts);
+    run(QStringLiteral("fromServer ja_JP"));
+    run(QStringLiteral("requestPresetData step1"));
+    QCOMPARE(m_sent,
+             QStringList{QStringLiteral("feedbackPresetData\x01{\"data/Actors.json\":\"[{\\\"name\\\":"
+                                        "\\\"Next\\\",\\\"nickname\\\":\\\"\u6b21\u3078\\\"}]\"}")});
 }
 
 void tst_CommandTable::answersNothingWithoutPresetData_data()
