@@ -3,6 +3,7 @@
 #include "Tutorial/overlay/EditorTooltip.h"
 
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTextEdit>
 #include <QTranslator>
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void startsWithTheLocaleThatWasChosenLast_data();
     void startsWithTheLocaleThatWasChosenLast();
     void changesTheLocale();
+    void changesTheSecondLocaleAlone();
     void handsTheLocaleToTheFont();
     void handsTheLocaleOfAGreetingToTheFont();
 
@@ -98,6 +100,18 @@ void tst_ManagerLocale::changesTheLocale()
              (QStringList{source + QStringLiteral("setLocale 2204 \"ja_JP\""),
                           source + QStringLiteral("setLocale2 2226 \"en_US\""),
                           source + QStringLiteral("setLocale 2215 \":/translations/ja_JP\" true")}));
+}
+
+void tst_ManagerLocale::changesTheSecondLocaleAlone()
+{
+    TutorialManager *manager = m_fixture->manager.get();
+    const QSignalSpy locale(manager, &TutorialManager::localeChanged);
+    const QSignalSpy locale2(manager, &TutorialManager::locale2Changed);
+    QVERIFY(manager->setProperty("locale2", QStringLiteral("zh_CN")));
+    QCOMPARE(manager->property("locale2").toString(), QStringLiteral("zh_CN"));
+    QCOMPARE(manager->property("locale").toString(), QStringLiteral("en_US"));
+    QCOMPARE(locale.size(), 0);
+    QCOMPARE(locale2.size(), 1);
 }
 
 QString tst_ManagerLocale::overlayFamily() const
