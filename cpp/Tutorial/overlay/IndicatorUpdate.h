@@ -9,8 +9,8 @@ struct IndicatorUpdate
     static constexpr int kNoTarget = -9999;
     static constexpr int kNoIcon = 6;
 
-    /// Where the bubble's window goes with its top left, in screen pixels. With kNoTarget in both coordinates
-    /// it stays where it was going, without an arrow.
+    /// Where the bubble's window goes with its top left, in screen pixels, while it is neither mirrored nor
+    /// upside down. With kNoTarget in both coordinates it stays where it was going, without an arrow.
     QPoint target;
     QString windowKey; ///< the host editor's window that the step points into; recorded only
     QString hint;      ///< plain text; an empty one shows none
