@@ -48,7 +48,7 @@ SeenOverlays::Window onScreen(const QWidget &widget)
 } // namespace
 
 /// The pilot's hand and eye on real windows: those of this program stand for editor and companion at once.
-class TestHandAndEye : public QObject
+class tst_HandAndEye : public QObject
 {
     Q_OBJECT
 
@@ -81,14 +81,14 @@ private:
     std::unique_ptr<MouseWindow> m_window;
 };
 
-void TestHandAndEye::initTestCase()
+void tst_HandAndEye::initTestCase()
 {
     QString error;
     m_x = XConnection::open(&error);
     QVERIFY2(m_x != nullptr, qPrintable(error));
 }
 
-void TestHandAndEye::init()
+void tst_HandAndEye::init()
 {
     m_eye = std::make_unique<XEye>(m_x);
     m_eye->setCompanion(QCoreApplication::applicationPid());
@@ -101,12 +101,12 @@ void TestHandAndEye::init()
     QTRY_VERIFY_WITH_TIMEOUT(isReady(QPoint(5, 5)), kSoonMs);
 }
 
-void TestHandAndEye::cleanup()
+void tst_HandAndEye::cleanup()
 {
     m_window.reset();
 }
 
-std::unique_ptr<QWidget> TestHandAndEye::showOverlay(const QRect &rect)
+std::unique_ptr<QWidget> tst_HandAndEye::showOverlay(const QRect &rect)
 {
     auto overlay =
         std::make_unique<MouseWindow>(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -116,22 +116,22 @@ std::unique_ptr<QWidget> TestHandAndEye::showOverlay(const QRect &rect)
     return QTest::qWaitForWindowExposed(overlay.get(), kSoonMs) ? std::move(overlay) : nullptr;
 }
 
-Action TestHandAndEye::actionAt(Action::Kind kind, const QPoint &inWindow) const
+Action tst_HandAndEye::actionAt(Action::Kind kind, const QPoint &inWindow) const
 {
     return {kind, XWindows::positionOf(m_window->winId()) + inWindow, 0, {}};
 }
 
-bool TestHandAndEye::isReady(const QPoint &inWindow)
+bool tst_HandAndEye::isReady(const QPoint &inWindow)
 {
     return m_eye->takesClickAt(XWindows::positionOf(m_window->winId()) + inWindow);
 }
 
-void TestHandAndEye::seesTheWindowsOfAProcess()
+void tst_HandAndEye::seesTheWindowsOfAProcess()
 {
     const std::unique_ptr<QWidget> bubble = showOverlay({500, 300, 640, 480});
     const std::unique_ptr<QWidget> no = showOverlay({756, 400, 64, 32});
     const std::unique_ptr<QWidget> yes = showOverlay({700, 400, 64, 32});
-    QVERIFY(bubble && no && yes);
+    QVERIFY(bubble != nullptr && no != nullptr && yes != nullptr);
     const auto isSeen = [&] {
         const std::optional<SeenOverlays> seen = m_eye->overlays();
         return seen && seen->bubble == onScreen(*bubble).rect &&
@@ -143,7 +143,7 @@ void TestHandAndEye::seesTheWindowsOfAProcess()
     QVERIFY(isSeen());
 }
 
-void TestHandAndEye::seesNoneThatIsHidden()
+void tst_HandAndEye::seesNoneThatIsHidden()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
@@ -152,7 +152,7 @@ void TestHandAndEye::seesNoneThatIsHidden()
     QTRY_VERIFY_WITH_TIMEOUT(m_eye->overlays() == SeenOverlays(), kSoonMs);
 }
 
-void TestHandAndEye::seesNoneOfAnotherProcess()
+void tst_HandAndEye::seesNoneOfAnotherProcess()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
@@ -161,7 +161,7 @@ void TestHandAndEye::seesNoneOfAnotherProcess()
     QVERIFY(m_eye->overlays() == SeenOverlays());
 }
 
-void TestHandAndEye::clicksWithEitherButton()
+void tst_HandAndEye::clicksWithEitherButton()
 {
     QCOMPARE(m_hand->perform(actionAt(Action::Kind::kClick, {40, 50})), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(m_window->m_seen, QStringList{QStringLiteral("left press 40,50")}, kSoonMs);
@@ -169,7 +169,7 @@ void TestHandAndEye::clicksWithEitherButton()
     QTRY_COMPARE_WITH_TIMEOUT(m_window->m_seen.value(1), QStringLiteral("right press 60,70"), kSoonMs);
 }
 
-void TestHandAndEye::aDoubleClickIsOne()
+void tst_HandAndEye::aDoubleClickIsOne()
 {
     QCOMPARE(m_hand->perform(actionAt(Action::Kind::kDoubleClick, {40, 50})), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(
@@ -177,7 +177,7 @@ void TestHandAndEye::aDoubleClickIsOne()
         (QStringList{QStringLiteral("left press 40,50"), QStringLiteral("left double 40,50")}), kSoonMs);
 }
 
-void TestHandAndEye::pressesAButtonWhereverItHasGone()
+void tst_HandAndEye::pressesAButtonWhereverItHasGone()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
@@ -190,7 +190,7 @@ void TestHandAndEye::pressesAButtonWhereverItHasGone()
     QVERIFY(m_window->m_seen.isEmpty());
 }
 
-void TestHandAndEye::missesAButtonThatIsGone()
+void tst_HandAndEye::missesAButtonThatIsGone()
 {
     std::unique_ptr<QWidget> button = showOverlay({350, 260, 64, 32});
     QVERIFY(button);
@@ -204,7 +204,7 @@ void TestHandAndEye::missesAButtonThatIsGone()
     QTRY_COMPARE_WITH_TIMEOUT(m_window->m_seen, QStringList{QStringLiteral("left press 40,50")}, kSoonMs);
 }
 
-void TestHandAndEye::typesWhatTheKeyboardHas()
+void tst_HandAndEye::typesWhatTheKeyboardHas()
 {
     QLineEdit line(m_window.get());
     line.setGeometry(20, 20, 200, 30);
@@ -223,7 +223,7 @@ void TestHandAndEye::typesWhatTheKeyboardHas()
     QTRY_COMPARE_WITH_TIMEOUT(entered.size(), 1, kSoonMs);
 }
 
-void TestHandAndEye::typesNothingOfWhatItHasNot()
+void tst_HandAndEye::typesNothingOfWhatItHasNot()
 {
     QLineEdit line(m_window.get());
     line.setGeometry(20, 20, 200, 30);
@@ -236,7 +236,7 @@ void TestHandAndEye::typesNothingOfWhatItHasNot()
     QTRY_COMPARE_WITH_TIMEOUT(line.text(), QStringLiteral("b"), kSoonMs);
 }
 
-void TestHandAndEye::knowsWhereAClickGoes()
+void tst_HandAndEye::knowsWhereAClickGoes()
 {
     const Action click = actionAt(Action::Kind::kClick, {200, 150});
     QVERIFY(m_eye->takesClickAt(click.place));
@@ -258,7 +258,7 @@ void TestHandAndEye::knowsWhereAClickGoes()
     QVERIFY(!m_eye->takesKeysAt(besideDialog));
 }
 
-void TestHandAndEye::takesAPictureOfTheScreen()
+void tst_HandAndEye::takesAPictureOfTheScreen()
 {
     QPalette red;
     red.setColor(QPalette::Window, QColor(200, 10, 20));
@@ -274,5 +274,5 @@ void TestHandAndEye::takesAPictureOfTheScreen()
     QVERIFY(!m_eye->takePicture(folder.filePath(QStringLiteral("nowhere/screen.png"))));
 }
 
-QTEST_MAIN(TestHandAndEye)
+QTEST_MAIN(tst_HandAndEye)
 #include "tst_HandAndEye.moc"

@@ -58,7 +58,7 @@ QString wordsOf(const ActionPlan &plan)
 
 } // namespace
 
-class TestActionPlan : public QObject
+class tst_ActionPlan : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void takesABubbleThatWasNeverSent();
 };
 
-void TestActionPlan::doesWhatTheIconSays_data()
+void tst_ActionPlan::doesWhatTheIconSays_data()
 {
     QTest::addColumn<QString>("condition");
     QTest::addColumn<QString>("icon");
@@ -123,7 +123,7 @@ void TestActionPlan::doesWhatTheIconSays_data()
     row("list,2", "drag", "");
 }
 
-void TestActionPlan::doesWhatTheIconSays()
+void tst_ActionPlan::doesWhatTheIconSays()
 {
     QFETCH(QString, condition);
     QFETCH(QString, icon);
@@ -134,7 +134,7 @@ void TestActionPlan::doesWhatTheIconSays()
     QTEST(wordsOf(*plan), "actions");
 }
 
-void TestActionPlan::onlyReadsWhereNothingIsPointedAt()
+void tst_ActionPlan::onlyReadsWhereNothingIsPointedAt()
 {
     const std::optional<ActionPlan> plan = ActionPlan::make(
         pointlessStepOf(QStringLiteral("click,"), QStringLiteral("click")), sightWith({kLeft}), true);
@@ -143,7 +143,7 @@ void TestActionPlan::onlyReadsWhereNothingIsPointedAt()
     QCOMPARE(wordsOf(*plan), QStringLiteral("a click on the companion's button"));
 }
 
-void TestActionPlan::answersWithTheButtonOnTheLeftOrRight()
+void tst_ActionPlan::answersWithTheButtonOnTheLeftOrRight()
 {
     const Step question = stepOf(QStringLiteral("yesNo"), QStringLiteral("eye"));
     const Sight sight = sightWith({kLeft, kRight});
@@ -153,7 +153,7 @@ void TestActionPlan::answersWithTheButtonOnTheLeftOrRight()
     QCOMPARE(ActionPlan::make(reading, sightWith({kLeft}), false)->actions.constFirst().window, kLeft.id);
 }
 
-void TestActionPlan::pressesInsideTheButtonsWindow()
+void tst_ActionPlan::pressesInsideTheButtonsWindow()
 {
     const Step reading = stepOf(QStringLiteral("click,"), QStringLiteral("eye"));
     const Action press = ActionPlan::make(reading, sightWith({kLeft}), true)->actions.constFirst();
@@ -162,7 +162,7 @@ void TestActionPlan::pressesInsideTheButtonsWindow()
     QVERIFY(!kRight.rect.contains(kLeft.rect.topLeft() + press.place));
 }
 
-void TestActionPlan::readsAConditionThatIsNoneAsNext()
+void tst_ActionPlan::readsAConditionThatIsNoneAsNext()
 {
     QStringList problems;
     const Scenario scenario = Scenario::parse(
@@ -175,7 +175,7 @@ void TestActionPlan::readsAConditionThatIsNoneAsNext()
     QCOMPARE(wordsOf(*plan), QStringLiteral("a click at (438, 450); a click on the companion's button"));
 }
 
-void TestActionPlan::isPatientWithWhatTakesTime_data()
+void tst_ActionPlan::isPatientWithWhatTakesTime_data()
 {
     QTest::addColumn<QString>("condition");
     QTest::addColumn<QString>("icon");
@@ -187,7 +187,7 @@ void TestActionPlan::isPatientWithWhatTakesTime_data()
     QTest::newRow("a click") << QStringLiteral("list,2") << QStringLiteral("click") << 0;
 }
 
-void TestActionPlan::isPatientWithWhatTakesTime()
+void tst_ActionPlan::isPatientWithWhatTakesTime()
 {
     QFETCH(QString, condition);
     QFETCH(QString, icon);
@@ -196,7 +196,7 @@ void TestActionPlan::isPatientWithWhatTakesTime()
     QTEST(plan->waitMs, "waitMs");
 }
 
-void TestActionPlan::waitsUntilAllIsInPlace_data()
+void tst_ActionPlan::waitsUntilAllIsInPlace_data()
 {
     QTest::addColumn<QString>("condition");
     QTest::addColumn<bool>("hasBubble");
@@ -219,7 +219,7 @@ void TestActionPlan::waitsUntilAllIsInPlace_data()
     QTest::newRow("one of Yes and No") << yesNo << true << QPoint() << 1 << false;
 }
 
-void TestActionPlan::waitsUntilAllIsInPlace()
+void tst_ActionPlan::waitsUntilAllIsInPlace()
 {
     QFETCH(QString, condition);
     QFETCH(bool, hasBubble);
@@ -238,7 +238,7 @@ void TestActionPlan::waitsUntilAllIsInPlace()
     QVERIFY(!ActionPlan::make(stepOf(condition, QStringLiteral("click")), sight, true));
 }
 
-void TestActionPlan::takesABubbleThatWasNeverSent()
+void tst_ActionPlan::takesABubbleThatWasNeverSent()
 {
     const Sight sight{{kBubble, {kLeft}}, {}, false};
     const QString next = QStringLiteral("click,");
@@ -247,5 +247,5 @@ void TestActionPlan::takesABubbleThatWasNeverSent()
     QVERIFY(!ActionPlan::make(stepOf(next, QStringLiteral("eye")), sight, true));
 }
 
-QTEST_APPLESS_MAIN(TestActionPlan)
+QTEST_APPLESS_MAIN(tst_ActionPlan)
 #include "tst_ActionPlan.moc"

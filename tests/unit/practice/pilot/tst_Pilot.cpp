@@ -95,7 +95,7 @@ private:
 
 } // namespace
 
-class TestPilot : public QObject
+class tst_Pilot : public QObject
 {
     Q_OBJECT
 
@@ -133,14 +133,14 @@ private:
     std::optional<QString> m_failure;
 };
 
-Pilot::Settings TestPilot::settings()
+Pilot::Settings tst_Pilot::settings()
 {
     Pilot::Settings settings;
     settings.title = QStringLiteral("lesson 1 (en_US)");
     return settings;
 }
 
-void TestPilot::init()
+void tst_Pilot::init()
 {
     m_overlays = {kBubble, {}};
     m_scene = {};
@@ -154,14 +154,14 @@ void TestPilot::init()
     makePilot(settings());
 }
 
-void TestPilot::cleanup()
+void tst_Pilot::cleanup()
 {
     m_pilot.reset();
     m_session.reset();
     m_editor.reset();
 }
 
-void TestPilot::makePilot(const Pilot::Settings &settings)
+void tst_Pilot::makePilot(const Pilot::Settings &settings)
 {
     m_pilot = std::make_unique<Pilot>(m_session.get(), settings, std::make_unique<SceneEye>(&m_scene),
                                       std::make_unique<SceneHand>(&m_scene));
@@ -169,14 +169,14 @@ void TestPilot::makePilot(const Pilot::Settings &settings)
     connect(m_pilot.get(), &Pilot::ended, this, [this](const QString &failure) { m_failure = failure; });
 }
 
-void TestPilot::begin(const QStringList &steps)
+void tst_Pilot::begin(const QStringList &steps)
 {
     m_session->receive(
         QStringLiteral("start\u0001var scenario = [%1];\u0001-1").arg(steps.join(QLatin1Char(','))));
     QVERIFY(m_session->runner().isRunning());
 }
 
-void TestPilot::waitsForTheBubbleToStand()
+void tst_Pilot::waitsForTheBubbleToStand()
 {
     // It glides past its place, a pixel a look.
     QPoint shift(-3, 0);
@@ -195,7 +195,7 @@ void TestPilot::waitsForTheBubbleToStand()
     QCOMPARE(m_scene.acts.constFirst().place, QPoint(138, 320) + shift);
 }
 
-void TestPilot::aLookThatFailedIsNone()
+void tst_Pilot::aLookThatFailedIsNone()
 {
     m_scene.look = [] {
         return std::optional<SeenOverlays>();
@@ -209,7 +209,7 @@ void TestPilot::aLookThatFailedIsNone()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
 }
 
-void TestPilot::clicksOnlyWhereTheClickGoes()
+void tst_Pilot::clicksOnlyWhereTheClickGoes()
 {
     m_scene.takesClicks = false;
     begin({kClicking});
@@ -219,7 +219,7 @@ void TestPilot::clicksOnlyWhereTheClickGoes()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
 }
 
-void TestPilot::typesOnlyWithTheFocus()
+void tst_Pilot::typesOnlyWithTheFocus()
 {
     m_scene.takesKeys = false;
     begin({kTyping});
@@ -230,7 +230,7 @@ void TestPilot::typesOnlyWithTheFocus()
     QCOMPARE(m_scene.acts.at(2).text, QStringLiteral("aa"));
 }
 
-void TestPilot::plansAnewWhatWasMissed()
+void tst_Pilot::plansAnewWhatWasMissed()
 {
     m_overlays = {kMiddle, {kNext}};
     m_scene.perform = [this](const Action &) {
@@ -247,7 +247,7 @@ void TestPilot::plansAnewWhatWasMissed()
     QCOMPARE(m_scene.acts.at(1).window, 9U);
 }
 
-void TestPilot::keepsTwoClicksApart()
+void tst_Pilot::keepsTwoClicksApart()
 {
     m_overlays = {kMiddle, {kNext}};
     QElapsedTimer clock;
@@ -265,7 +265,7 @@ void TestPilot::keepsTwoClicksApart()
     QVERIFY2(between >= 500, qPrintable(QString::number(between)));
 }
 
-void TestPilot::playsToTheEndAndSeesTheOverlaysGo()
+void tst_Pilot::playsToTheEndAndSeesTheOverlaysGo()
 {
     Pilot::Settings withShots = settings();
     withShots.shotsFolder = QDir::tempPath();
@@ -297,7 +297,7 @@ void TestPilot::playsToTheEndAndSeesTheOverlaysGo()
                                             QStringLiteral("003-end.png")}));
 }
 
-void TestPilot::aConditionThatStaysFalseIsBroken()
+void tst_Pilot::aConditionThatStaysFalseIsBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.conditionMs = 100;
@@ -312,7 +312,7 @@ void TestPilot::aConditionThatStaysFalseIsBroken()
              (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-broken.png")}));
 }
 
-void TestPilot::overlaysThatDoNotComeAreBroken()
+void tst_Pilot::overlaysThatDoNotComeAreBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.settleMs = 100;
@@ -323,7 +323,7 @@ void TestPilot::overlaysThatDoNotComeAreBroken()
     QVERIFY2(m_failure->contains(QStringLiteral("the bubble does not come to rest")), qPrintable(*m_failure));
 }
 
-void TestPilot::aFocusThatDoesNotComeIsBroken()
+void tst_Pilot::aFocusThatDoesNotComeIsBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.settleMs = 1000;
@@ -336,7 +336,7 @@ void TestPilot::aFocusThatDoesNotComeIsBroken()
         qPrintable(*m_failure));
 }
 
-void TestPilot::overlaysThatDoNotGoAreBroken()
+void tst_Pilot::overlaysThatDoNotGoAreBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.settleMs = 1000;
@@ -347,7 +347,7 @@ void TestPilot::overlaysThatDoNotGoAreBroken()
     QVERIFY2(m_failure->contains(QStringLiteral("stay on the screen")), qPrintable(*m_failure));
 }
 
-void TestPilot::aKeyThatIsMissingIsBroken()
+void tst_Pilot::aKeyThatIsMissingIsBroken()
 {
     m_scene.perform = [](const Action &action) {
         return action.kind == Action::Kind::kType ? Hand::Result::kImpossible : Hand::Result::kDone;
@@ -358,7 +358,7 @@ void TestPilot::aKeyThatIsMissingIsBroken()
              qPrintable(*m_failure));
 }
 
-void TestPilot::aPictureThatCannotBeWrittenEndsThePlay()
+void tst_Pilot::aPictureThatCannotBeWrittenEndsThePlay()
 {
     Pilot::Settings withShots = settings();
     withShots.shotsFolder = QDir::tempPath();
@@ -370,14 +370,14 @@ void TestPilot::aPictureThatCannotBeWrittenEndsThePlay()
     QVERIFY(m_scene.acts.isEmpty());
 }
 
-void TestPilot::aRefusedLessonIsBroken()
+void tst_Pilot::aRefusedLessonIsBroken()
 {
     m_session->request(QStringLiteral("TutorialStep9"));
     QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
     QVERIFY2(m_failure->contains(QStringLiteral("does not hand it over")), qPrintable(*m_failure));
 }
 
-void TestPilot::aLessonThatIsStoppedIsBroken()
+void tst_Pilot::aLessonThatIsStoppedIsBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.settleMs = 300;
@@ -388,5 +388,5 @@ void TestPilot::aLessonThatIsStoppedIsBroken()
     QVERIFY(m_scene.acts.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestPilot)
+QTEST_GUILESS_MAIN(tst_Pilot)
 #include "tst_Pilot.moc"

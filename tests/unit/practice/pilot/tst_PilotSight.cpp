@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-class TestPilotSight : public QObject
+class tst_PilotSight : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private Q_SLOTS:
     void seesNothingWhereThereIsNothing();
 };
 
-void TestPilotSight::findsTheSpotOfTheArrow_data()
+void tst_PilotSight::findsTheSpotOfTheArrow_data()
 {
     QTest::addColumn<QPoint>("bubble");
     QTest::addColumn<QPoint>("spot");
@@ -27,7 +27,7 @@ void TestPilotSight::findsTheSpotOfTheArrow_data()
     QTest::newRow("mirrored and upside down") << QPoint(92, 465) << QPoint(438, 450);
 }
 
-void TestPilotSight::findsTheSpotOfTheArrow()
+void tst_PilotSight::findsTheSpotOfTheArrow()
 {
     QFETCH(QPoint, bubble);
     const std::optional<QPoint> spot = arrowSpot(bubble, QPoint(400, 300));
@@ -35,7 +35,7 @@ void TestPilotSight::findsTheSpotOfTheArrow()
     QTEST(*spot, "spot");
 }
 
-void TestPilotSight::knowsABubbleOnItsWay_data()
+void tst_PilotSight::knowsABubbleOnItsWay_data()
 {
     QTest::addColumn<QPoint>("bubble");
     QTest::newRow("four short") << QPoint(396, 300);
@@ -44,13 +44,13 @@ void TestPilotSight::knowsABubbleOnItsWay_data()
     QTest::newRow("between upright and upside down") << QPoint(400, 380);
 }
 
-void TestPilotSight::knowsABubbleOnItsWay()
+void tst_PilotSight::knowsABubbleOnItsWay()
 {
     QFETCH(QPoint, bubble);
     QVERIFY(!arrowSpot(bubble, QPoint(400, 300)));
 }
 
-void TestPilotSight::tellsBubbleAndButtonsFromTheRest()
+void tst_PilotSight::tellsBubbleAndButtonsFromTheRest()
 {
     const SeenOverlays::Window no{QRect(456, 200, 64, 32), 1};
     const SeenOverlays::Window bubble{QRect(10, -40, 640, 480), 2};
@@ -61,7 +61,7 @@ void TestPilotSight::tellsBubbleAndButtonsFromTheRest()
     QCOMPARE(seen.buttons, (QVector<SeenOverlays::Window>{yes, no}));
 }
 
-void TestPilotSight::seesNothingWhereThereIsNothing()
+void tst_PilotSight::seesNothingWhereThereIsNothing()
 {
     const SeenOverlays seen = SeenOverlays::among({});
     QVERIFY(!seen.bubble);
@@ -69,5 +69,5 @@ void TestPilotSight::seesNothingWhereThereIsNothing()
     QVERIFY(seen == SeenOverlays());
 }
 
-QTEST_APPLESS_MAIN(TestPilotSight)
+QTEST_APPLESS_MAIN(tst_PilotSight)
 #include "tst_PilotSight.moc"
