@@ -1,0 +1,228 @@
+#include "project/DataFiles.h"
+
+#include "project/JsonText.h"
+#include "project/ProjectFolder.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr int kSteps = 1000;
+
+} // namespace
+
+/// One step of the history: the files that it changes, whole, as they are before and after it. What a change
+/// leaves alone is shared with the file itself.
+class DataStep : public QUndoCommand
+{
+public:
+    DataStep(DataFiles *files, const DataRoots &before, const DataRoots &after, QString mergeKey)
+        : m_files(files)
+        , m_before(before)
+        , m_after(after)
+        , m_mergeKey(std::move(mergeKey))
+    {
+    }
+
+    [[nodiscard]] QStringList names() const { return m_after.keys(); }
+
+    void undo() override { m_files->assign(m_before); }
+    void redo() override { m_files->assign(m_after); }
+    [[nodiscard]] int id() const override { return m_mergeKey.isEmpty() ? -1 : 0; }
+
+    bool mergeWith(const QUndoCommand *next) override
+    {
+        const auto *step = static_cast<const DataStep *>(next);
+        if (step->m_mergeKey != m_mergeKey || step->names() != names()) {
+            return false;
+        }
+        m_after = step->m_after;
+        setObsolete(m_after == m_before);
+        return true;
+    }
+
+private:
+    DataFiles *m_files;
+    DataRoots m_before;
+    DataRoots m_after;
+    QString m_mergeKey;
+};
+
+DataFiles::DataFiles(QObject *parent)
+    : DataLayer(nullptr, parent)
+{
+    m_history.setUndoLimit(kSteps);
+}
+
+bool DataFiles::open(const QString &folder, QString *error)
+{
+    const auto texts = ProjectFolder::read(folder, error);
+    const auto files = texts ? parsed(*texts, folder, error) : std::nullopt;
+    if (!files) {
+        return false;
+    }
+    take(QDir(folder).absolutePath(), *files);
+    return true;
+}
+
+void DataFiles::close()
+{
+    take(QString(), {});
+}
+
+QStringList DataFiles::names() const
+{
+    QStringList names;
+    for (auto file = m_files.begin(); file != m_files.end(); ++file) {
+        if (!file->now.isUndefined()) {
+            names.append(file.key());
+        }
+    }
+    return names;
+}
+
+QJsonValue DataFiles::file(const QString &name) const
+{
+    const auto file = m_files.constFind(name);
+    return file != m_files.constEnd() ? file->now : QJsonValue(QJsonValue::Undefined);
+}
+
+void DataFiles::change(const DataRoots &files, const QString &mergeKey)
+{
+    DataRoots before;
+    DataRoots after;
+    for (auto wanted = files.begin(); wanted != files.end(); ++wanted) {
+        if (file(wanted.key()) != wanted.value()) {
+            before.insert(wanted.key(), file(wanted.key()));
+            after.insert(wanted.key(), wanted.value());
+        }
+    }
+    if (isOpen() && !after.isEmpty()) {
+        m_history.push(new DataStep(this, before, after, mergeKey));
+    }
+}
+
+QStringList DataFiles::changedFiles() const
+{
+    QStringList names;
+    for (auto file = m_files.begin(); file != m_files.end(); ++file) {
+        if (file->now != file->saved) {
+            names.append(file.key());
+        }
+    }
+    return names;
+}
+
+QStringList DataFiles::undo()
+{
+    if (!m_history.canUndo()) {
+        return {};
+    }
+    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
+    QStringList names = step->names();
+    m_history.undo();
+    return names;
+}
+
+QStringList DataFiles::redo()
+{
+    if (!m_history.canRedo()) {
+        return {};
+    }
+    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index()));
+    QStringList names = step->names();
+    m_history.redo();
+    return names;
+}
+
+bool DataFiles::save(QString *error)
+{
+    // Where somebody has taken the folder away, all there is goes into a new one.
+    const bool isGone = !QDir(m_folder).exists();
+    QMap<QString, QByteArray> texts;
+    QStringList gone;
+    for (auto file = m_files.begin(); file != m_files.end(); ++file) {
+        if (file->now.isUndefined()) {
+            gone.append(file.key());
+        } else if (file->now != file->saved || isGone) {
+            texts.insert(file.key(), JsonText::rewritten(file->text, file->now));
+        }
+    }
+    QString reason;
+    if (isOpen() && !ProjectFolder::write(m_folder, texts, gone, &reason)) {
+        //: %1 is a sentence that names a file and says why it cannot be written.
+        *error = tr("%1 Nothing is lost: the editor keeps all your changes. Make room on the disk, or permit "
+                    "writing, and save again.")
+                     .arg(reason);
+        return false;
+    }
+    for (const QString &name : qAsConst(gone)) {
+        m_files[name] = File();
+    }
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+        File &file = m_files[text.key()];
+        file.text = text.value();
+        file.saved = file.now;
+    }
+    // What is typed from here on is a step of its own.
+    m_history.setClean();
+    Q_EMIT changed();
+    return true;
+}
+
+bool DataFiles::replace(const Texts &texts, QString *error)
+{
+    QMap<QString, QByteArray> bytes;
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        bytes.insert(text.key(), text.value().toUtf8());
+    }
+    QStringList gone;
+    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file) {
+        if (!texts.contains(file.key())) {
+            gone.append(file.key());
+        }
+    }
+    const auto files = parsed(bytes, m_folder, error);
+    if (!isOpen() || !files || !ProjectFolder::write(m_folder, bytes, gone, error)) {
+        return false;
+    }
+    take(m_folder, *files);
+    return true;
+}
+
+std::optional<DataFiles::Files> DataFiles::parsed(const QMap<QString, QByteArray> &texts,
+                                                  const QString &folder, QString *error)
+{
+    Files files;
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        JsonText::Problem problem;
+        const std::optional<QJsonValue> value = JsonText::parse(text.value(), &problem);
+        if (!value) {
+            //: %1 is a file's path, %2 the number of a line, %3 what the JSON reader says of it.
+            *error =
+                tr("The project's file \"%1\" is damaged at line %2 (%3). Mend that line, or put a whole "
+                   "copy of the file in its place, and open the project again.")
+                    .arg(QDir(folder).filePath(text.key()), QString::number(problem.line), problem.reason);
+            return std::nullopt;
+        }
+        files.insert(text.key(), {text.value(), *value, *value});
+    }
+    return files;
+}
+
+void DataFiles::take(const QString &folder, const Files &files)
+{
+    m_history.clear();
+    forgetSelections();
+    m_folder = folder;
+    m_files = files;
+    Q_EMIT changed();
+}
+
+void DataFiles::assign(const DataRoots &files)
+{
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        m_files[file.key()].now = file.value();
+    }
+    Q_EMIT changed();
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "project/DataLayer.h"
+
+#include <QUndoStack>
+
+#include <optional>
+
+/// The data files of the open project, the one history of all their changes, and the one way to save them. A
+/// file that was not changed is not written, and one that was keeps every byte that the change leaves alone.
+class DataFiles : public DataLayer
+{
+    Q_OBJECT
+
+public:
+    /// Texts of files by name, such as "data/Items.json".
+    using Texts = QMap<QString, QString>;
+
+    /// No project is open at first.
+    explicit DataFiles(QObject *parent = nullptr);
+
+    /// Opens the project in @p folder. False with a text for the person when a file cannot be read or is no
+    /// JSON; what was open stays open.
+    [[nodiscard]] bool open(const QString &folder, QString *error);
+    void close();
+
+    [[nodiscard]] bool isOpen() const { return !m_folder.isEmpty(); }
+    /// Full path; empty while no project is open.
+    [[nodiscard]] QString folder() const { return m_folder; }
+
+    /// Names of all files there are, in alphabetical order.
+    [[nodiscard]] QStringList names() const;
+    [[nodiscard]] QJsonValue file(const QString &name) const override;
+    void change(const DataRoots &files, const QString &mergeKey) override;
+    void accept() override {}
+
+    /// Files that differ from what is saved.
+    [[nodiscard]] QStringList changedFiles() const;
+
+    /// Takes the last step back, or does it again. Gives the names of the files that it changed; none when
+    /// there is no step.
+    QStringList undo();
+    QStringList redo();
+    [[nodiscard]] const QUndoStack &history() const { return m_history; }
+
+    /// Writes the changed files into the project's folder: all of them, or none but for a disk that fails in
+    /// the last moment. False with a text for the person; the changes are kept then, and can be saved again.
+    [[nodiscard]] bool save(QString *error);
+
+    /// Gives the open project these files in place of its own, on the disk, too, and begins a new history.
+    /// False with a text for the person when one of them is no JSON or cannot be written; the project stays
+    /// as it was then.
+    [[nodiscard]] bool replace(const Texts &texts, QString *error);
+
+private:
+    friend class DataStep;
+
+    struct File
+    {
+        /// As it is on the disk; empty when it is not there.
+        QByteArray text;
+        QJsonValue saved = QJsonValue::Undefined;
+        QJsonValue now = QJsonValue::Undefined;
+    };
+    using Files = QMap<QString, File>;
+
+    static std::optional<Files> parsed(const QMap<QString, QByteArray> &texts, const QString &folder,
+                                       QString *error);
+    void take(const QString &folder, const Files &files);
+    void assign(const DataRoots &files);
+
+    QString m_folder;
+    Files m_files;
+    QUndoStack m_history;
+};

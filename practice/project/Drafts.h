@@ -1,0 +1,56 @@
+#pragma once
+
+#include "project/DataLayer.h"
+
+#include <memory>
+#include <vector>
+
+/// What was typed into a dialog and neither accepted nor dropped. Files that it did not touch are those of
+/// the layer below.
+class Draft : public DataLayer
+{
+    Q_OBJECT
+
+public:
+    using DataLayer::DataLayer;
+
+    [[nodiscard]] QJsonValue file(const QString &name) const override;
+    void change(const DataRoots &files, const QString &mergeKey) override;
+    /// The draft is empty afterwards and can be typed into again.
+    void accept() override;
+    /// Drops what was typed.
+    void clear();
+
+private:
+    DataRoots m_files;
+};
+
+/// The drafts of the open dialogs, each on top of the one before.
+class Drafts : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p project outlives the drafts.
+    explicit Drafts(DataLayer *project, QObject *parent = nullptr);
+
+    /// The draft of the topmost dialog, or the project itself. Valid until it is dropped.
+    [[nodiscard]] DataLayer *top() const;
+
+    /// Begins a draft on top of the others.
+    DataLayer *begin();
+
+    /// Drops @p draft with all above it; does nothing for another layer.
+    void drop(const DataLayer *draft);
+
+    /// Drops what was typed into all of them, which stay: there is another project below.
+    void clear();
+
+Q_SIGNALS:
+    /// A draft changed, began or went away.
+    void changed();
+
+private:
+    DataLayer *m_project;
+    std::vector<std::unique_ptr<Draft>> m_drafts;
+};

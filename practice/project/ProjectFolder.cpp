@@ -1,0 +1,150 @@
+#include "project/ProjectFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+bool staysInside(const QString &name)
+{
+    const QString clean = QDir::cleanPath(name);
+    return !name.isEmpty() && QDir::isRelativePath(name) && clean != QLatin1String("..") &&
+           !clean.startsWith(QLatin1String("../")) && clean != QLatin1String(".");
+}
+
+bool isTaken(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink(); // a link to nowhere is there too
+}
+
+} // namespace
+
+std::optional<QString> ProjectFolder::create(const QString &location, const QString &name,
+                                             const QMap<QString, QString> &files, QString *error)
+{
+    if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
+        //: %1 is the name that the person gave a new project.
+        *error = tr("A project cannot have the name \"%1\": its folder is named "
+                    "after it. Choose another name, without \"/\".")
+                     .arg(name);
+        return std::nullopt;
+    }
+    QMap<QString, QByteArray> bytes;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!staysInside(file.key())) {
+            //: %1 is a path inside the project.
+            *error = tr("The project cannot hold the file \"%1\": it would lie outside of "
+                        "the project's folder.")
+                         .arg(file.key());
+            return std::nullopt;
+        }
+        bytes.insert(file.key(), file.value().toUtf8());
+    }
+    // Built beside its place and renamed into it.
+    QDir().mkpath(location);
+    QTemporaryDir room(QDir(location).filePath(QStringLiteral(".new-XXXXXX")));
+    if (!room.isValid()) {
+        //: %1 is a folder, %2 the system's reason.
+        *error = tr("The project's folder cannot be made in \"%1\" (%2). Choose "
+                    "another place.")
+                     .arg(location, room.errorString());
+        return std::nullopt;
+    }
+    // A folder of its own in there: that of the room is closed to everybody else.
+    const QString made = room.filePath(QStringLiteral("project"));
+    QDir().mkpath(made);
+    if (!write(made, bytes, {}, error)) {
+        return std::nullopt;
+    }
+    QString path = QDir(location).absoluteFilePath(name);
+    for (int number = 2; isTaken(path); ++number) {
+        path = QDir(location).absoluteFilePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
+    }
+    if (!QDir().rename(made, path)) {
+        //: %1 is the folder's path.
+        *error = tr("The project's folder \"%1\" cannot be made. Choose another name or place.").arg(path);
+        return std::nullopt;
+    }
+    return path;
+}
+
+QStringList ProjectFolder::projectsIn(const QString &location)
+{
+    const QDir place(location);
+    QStringList projects;
+    const QStringList folders =
+        place.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    for (const QString &folder : folders) {
+        if (QFileInfo::exists(place.filePath(folder + QStringLiteral("/data/MapInfos.json")))) {
+            projects.append(folder);
+        }
+    }
+    return projects;
+}
+
+std::optional<QMap<QString, QByteArray>> ProjectFolder::read(const QString &folder, QString *error)
+{
+    const QDir project(folder);
+    const QStringList names = QDir(project.filePath(QStringLiteral("data")))
+                                  .entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    if (names.isEmpty()) {
+        //: %1 is a folder.
+        *error =
+            tr("\"%1\" holds no project: it has no data files. Choose another folder.").arg(project.path());
+        return std::nullopt;
+    }
+    QMap<QString, QByteArray> files;
+    for (const QString &name : names) {
+        QFile file(project.filePath(QStringLiteral("data/") + name));
+        if (!file.open(QIODevice::ReadOnly)) {
+            //: %1 is the file's path, %2 the system's reason.
+            *error = tr("The project's file \"%1\" cannot be read (%2). Permit reading it, and open the "
+                        "project again.")
+                         .arg(file.fileName(), file.errorString());
+            return std::nullopt;
+        }
+        files.insert(QStringLiteral("data/") + name, file.readAll());
+    }
+    return files;
+}
+
+bool ProjectFolder::write(const QString &folder, const QMap<QString, QByteArray> &files,
+                          const QStringList &gone, QString *error)
+{
+    const auto fail = [error](const QFileDevice &file) {
+        //: %1 is the file's path, %2 the system's reason.
+        *error =
+            tr("The project's file \"%1\" cannot be written (%2).").arg(file.fileName(), file.errorString());
+        return false;
+    };
+    const QDir project(folder);
+    std::vector<std::unique_ptr<QSaveFile>> written;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        written.push_back(std::make_unique<QSaveFile>(project.filePath(file.key())));
+        QSaveFile &out = *written.back();
+        QDir().mkpath(QFileInfo(out.fileName()).path());
+        if (!out.open(QIODevice::WriteOnly) || out.write(file.value()) != file.value().size() ||
+            !out.flush()) {
+            return fail(out);
+        }
+    }
+    for (const auto &file : written) {
+        if (!file->commit()) {
+            return fail(*file);
+        }
+    }
+    for (const QString &name : gone) {
+        QFile file(project.filePath(name));
+        if (file.exists() && !file.remove()) {
+            return fail(file);
+        }
+    }
+    return true;
+}

@@ -1,0 +1,459 @@
+#include "Unprivileged.h"
+#include "project/DataFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QString kItems = QStringLiteral("data/Items.json");
+const QString kActors = QStringLiteral("data/Actors.json");
+const QByteArray kItemsText = "[\n  null,\n  {\"name\": \"Herb\", \"price\": 8.0}\n]\n";
+
+/// A project on the disk.
+class Folder
+{
+public:
+    Folder()
+    {
+        QDir(m_dir.path()).mkdir(QStringLiteral("data"));
+        write(kItems, kItemsText);
+        write(kActors, "[null]");
+    }
+
+    void write(const QString &name, const QByteArray &text) const
+    {
+        QFile file(m_dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), qint64(text.size()));
+    }
+    [[nodiscard]] QByteArray read(const QString &name) const
+    {
+        QFile file(m_dir.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    [[nodiscard]] QString path(const QString &name = QString()) const
+    {
+        return name.isEmpty() ? m_dir.path() : m_dir.filePath(name);
+    }
+    [[nodiscard]] QStringList all() const
+    {
+        return QDir(m_dir.filePath(QStringLiteral("data")))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+QString name(int entry)
+{
+    return QStringLiteral("/%1/name").arg(entry);
+}
+
+} // namespace
+
+class tst_DataFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void nothingIsOpenAtFirst();
+    void opensWhatIsThere();
+    void aMissingFileIsNoError();
+    void refusesABrokenFileWithItsLine();
+    void refusesAFolderWithoutData();
+    void refusesAFileThatCannotBeRead();
+    void changesAreStepsOfOneHistory();
+    void typingInOnePlaceIsOneStep();
+    void typingThatEndsAsItBeganIsNoStep();
+    void aPlaceThatIsNotThereIsNotChanged();
+    void filesComeAndGo();
+    void anySequenceIsUndoneAndRedone();
+    void modifiedMeansUnlikeTheDisk();
+    void savesOnlyWhatChanged();
+    void savesWhatItOpensAgainByteForByte();
+    void whatIsTypedAfterSavingIsAStepOfItsOwn();
+    void savesNoneWhenOneCannotBeWritten();
+    void savesIntoAFolderThatIsGone();
+    void linksAndPermissionsStay();
+    void replacesAllFiles();
+    void replacesNothingWhenOneIsBroken();
+    void selectionsEndWithTheProject();
+
+private:
+    void open();
+
+    std::unique_ptr<Folder> m_folder;
+    std::unique_ptr<DataFiles> m_files;
+    QString m_error;
+};
+
+void tst_DataFiles::init()
+{
+    m_folder = std::make_unique<Folder>();
+    m_files = std::make_unique<DataFiles>();
+    m_error.clear();
+}
+
+void tst_DataFiles::cleanup()
+{
+    m_files.reset();
+    m_folder.reset();
+}
+
+void tst_DataFiles::open()
+{
+    QVERIFY2(m_files->open(m_folder->path(), &m_error), qPrintable(m_error));
+}
+
+void tst_DataFiles::nothingIsOpenAtFirst()
+{
+    QVERIFY(!m_files->isOpen());
+    QVERIFY(m_files->names().isEmpty());
+    QVERIFY(m_files->file(kItems).isUndefined());
+    m_files->change({{kItems, QJsonArray()}}, QString());
+    QVERIFY(m_files->file(kItems).isUndefined());
+    QVERIFY(m_files->undo().isEmpty());
+    QVERIFY(m_files->save(&m_error));
+}
+
+void tst_DataFiles::opensWhatIsThere()
+{
+    QSignalSpy changed(m_files.get(), &DataLayer::changed);
+    m_folder->write(QStringLiteral("data/notes.txt"), "no JSON");
+    open();
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(m_files->folder(), m_folder->path());
+    QCOMPARE(m_files->names(), (QStringList{kActors, kItems}));
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+    QVERIFY(m_files->changedFiles().isEmpty());
+    m_files->close();
+    QVERIFY(!m_files->isOpen());
+    QVERIFY(m_files->file(kItems).isUndefined());
+}
+
+void tst_DataFiles::aMissingFileIsNoError()
+{
+    open();
+    QVERIFY(m_files->file(QStringLiteral("data/Skills.json")).isUndefined());
+    QVERIFY(m_files->value(QStringLiteral("data/Skills.json"), name(1)).isUndefined());
+    QVERIFY(!m_files->set(QStringLiteral("data/Skills.json"), name(1), 1));
+    QVERIFY(m_files->changedFiles().isEmpty());
+}
+
+void tst_DataFiles::refusesABrokenFileWithItsLine()
+{
+    open();
+    const Folder other;
+    other.write(kItems, "[\n  null,\n  {\"name\" \"Herb\"}\n]\n");
+    QVERIFY(!m_files->open(other.path(), &m_error));
+    QVERIFY2(m_error.contains(other.path(kItems)), qPrintable(m_error));
+    QVERIFY2(m_error.contains(QStringLiteral("line 3")), qPrintable(m_error));
+    QVERIFY2(m_error.contains(QStringLiteral("Mend that line")), qPrintable(m_error));
+    QCOMPARE(m_files->folder(), m_folder->path());
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+}
+
+void tst_DataFiles::refusesAFolderWithoutData()
+{
+    const QTemporaryDir empty;
+    QVERIFY(!m_files->open(empty.path(), &m_error));
+    QVERIFY2(m_error.contains(empty.path()), qPrintable(m_error));
+    QVERIFY(!m_files->isOpen());
+}
+
+void tst_DataFiles::refusesAFileThatCannotBeRead()
+{
+    QCOMPARE(chmod(qPrintable(m_folder->path()), 0755), 0);
+    QCOMPARE(chmod(qPrintable(m_folder->path(kItems)), 0), 0);
+    {
+        const Unprivileged nobody;
+        QVERIFY(!m_files->open(m_folder->path(), &m_error));
+    }
+    QVERIFY2(m_error.contains(m_folder->path(kItems)) &&
+                 m_error.contains(QStringLiteral("Permission denied")),
+             qPrintable(m_error));
+}
+
+void tst_DataFiles::changesAreStepsOfOneHistory()
+{
+    open();
+    QVERIFY(m_files->set(kItems, name(1), QStringLiteral("Bread")));
+    QVERIFY(m_files->set(kActors, QStringLiteral("/1"), QStringLiteral("Mila")));
+    QCOMPARE(m_files->changedFiles(), (QStringList{kActors, kItems}));
+    QCOMPARE(m_files->undo(), QStringList{kActors});
+    QVERIFY(m_files->value(kActors, QStringLiteral("/1")).isUndefined());
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Bread"));
+    QCOMPARE(m_files->undo(), QStringList{kItems});
+    QCOMPARE(m_files->undo(), QStringList());
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+    QCOMPARE(m_files->redo(), QStringList{kItems});
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Bread"));
+    QCOMPARE(m_files->redo(), QStringList{kActors});
+    QCOMPARE(m_files->redo(), QStringList());
+}
+
+void tst_DataFiles::typingInOnePlaceIsOneStep()
+{
+    open();
+    for (const char *text : {"B", "Br", "Bre"}) {
+        m_files->set(kItems, name(1), QString::fromLatin1(text));
+    }
+    m_files->set(kItems, QStringLiteral("/1/price"), 9);
+    m_files->set(kItems, name(1), QStringLiteral("Brea"));
+    QCOMPARE(m_files->history().count(), 3);
+    m_files->undo();
+    m_files->undo();
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Bre"));
+    m_files->undo();
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+}
+
+void tst_DataFiles::typingThatEndsAsItBeganIsNoStep()
+{
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Her"));
+    m_files->set(kItems, name(1), QStringLiteral("Herb"));
+    m_files->set(kItems, name(1), QStringLiteral("Herb"));
+    QCOMPARE(m_files->history().count(), 0);
+    QVERIFY(m_files->changedFiles().isEmpty());
+}
+
+void tst_DataFiles::aPlaceThatIsNotThereIsNotChanged()
+{
+    open();
+    QSignalSpy changed(m_files.get(), &DataLayer::changed);
+    QVERIFY(!m_files->set(kItems, name(7), QStringLiteral("Bread")));
+    QVERIFY(!m_files->set(kItems, QStringLiteral("name"), QStringLiteral("Bread")));
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(m_files->history().count(), 0);
+}
+
+void tst_DataFiles::filesComeAndGo()
+{
+    open();
+    const QString made = QStringLiteral("data/Map001.json");
+    const QJsonValue gone(QJsonValue::Undefined);
+    m_files->change({{made, QJsonArray{1}}, {kActors, gone}}, QString());
+    QCOMPARE(m_files->names(), (QStringList{kItems, made}));
+    QVERIFY(m_files->save(&m_error));
+    QCOMPARE(m_folder->read(made), QByteArray("[1]"));
+    QVERIFY(!QFile::exists(m_folder->path(kActors)));
+    m_files->undo();
+    QCOMPARE(m_files->names(), (QStringList{kActors, kItems}));
+    QCOMPARE(m_files->changedFiles(), (QStringList{kActors, made}));
+    QVERIFY(m_files->save(&m_error));
+    QCOMPARE(m_folder->all(), (QStringList{QStringLiteral("Actors.json"), QStringLiteral("Items.json")}));
+}
+
+/// Random steps, undone and redone at random, against a plain list of all states there were.
+void tst_DataFiles::anySequenceIsUndoneAndRedone()
+{
+    const QStringList names{kItems, kActors, QStringLiteral("data/Map001.json")};
+    for (quint32 seed = 1; seed <= 60; ++seed) {
+        QRandomGenerator dice(seed);
+        DataFiles files;
+        QVERIFY(files.open(m_folder->path(), &m_error));
+        using State = QVector<QJsonValue>;
+        const auto state = [&files, &names] {
+            State now;
+            for (const QString &file : names) {
+                now.append(files.file(file));
+            }
+            return now;
+        };
+        QVector<State> states{state()};
+        int at = 0;
+        for (int step = 0; step < 60; ++step) {
+            const int what = dice.bounded(4);
+            if (what == 0) {
+                QCOMPARE(files.undo().isEmpty(), at == 0);
+                at = qMax(0, at - 1);
+            } else if (what == 1) {
+                QCOMPARE(files.redo().isEmpty(), at == states.size() - 1);
+                at = qMin(int(states.size()) - 1, at + 1);
+            } else {
+                DataRoots roots;
+                for (const QString &file : names) {
+                    if (dice.bounded(2) == 0) {
+                        roots.insert(file, dice.bounded(4) == 0 ? QJsonValue(QJsonValue::Undefined)
+                                                                : QJsonArray{dice.bounded(5)});
+                    }
+                }
+                files.change(roots, QString());
+                if (state() != states.at(at)) {
+                    states.resize(at + 1);
+                    states.append(state());
+                    ++at;
+                }
+            }
+            QVERIFY2(state() == states.at(at), qPrintable(QStringLiteral("seed %1").arg(seed)));
+            QStringList differing;
+            for (int i = 0; i < names.size(); ++i) {
+                if (states.at(at).at(i) != states.at(0).at(i)) {
+                    differing.append(names.at(i));
+                }
+            }
+            differing.sort();
+            QCOMPARE(files.changedFiles(), differing);
+        }
+    }
+}
+
+void tst_DataFiles::modifiedMeansUnlikeTheDisk()
+{
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    QCOMPARE(m_files->changedFiles(), QStringList{kItems});
+    m_files->undo();
+    QVERIFY(m_files->changedFiles().isEmpty());
+    m_files->redo();
+    QVERIFY(m_files->save(&m_error));
+    QVERIFY(m_files->changedFiles().isEmpty());
+    m_files->undo();
+    QCOMPARE(m_files->changedFiles(), QStringList{kItems});
+    QVERIFY(m_files->save(&m_error));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
+}
+
+void tst_DataFiles::savesOnlyWhatChanged()
+{
+    open();
+    QVERIFY(QFile::remove(m_folder->path(kActors)));
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QCOMPARE(m_folder->all(), QStringList{QStringLiteral("Items.json")});
+    // The blanks, the order and the way in which the price is written are the author's.
+    QCOMPARE(m_folder->read(kItems), QByteArray(kItemsText).replace("Herb", "Bread"));
+}
+
+void tst_DataFiles::savesWhatItOpensAgainByteForByte()
+{
+    open();
+    m_files->set(kItems, QStringLiteral("/2"), QJsonArray{1, 2.5, QStringLiteral("\u5730")});
+    m_files->set(kItems, QStringLiteral("/1/price"), 9);
+    QVERIFY(m_files->save(&m_error));
+    const QByteArray saved = m_folder->read(kItems);
+
+    DataFiles again;
+    QVERIFY(again.open(m_folder->path(), &m_error));
+    QCOMPARE(again.file(kItems), m_files->file(kItems));
+    QVERIFY(again.save(&m_error));
+    QCOMPARE(m_folder->read(kItems), saved);
+    again.set(kItems, name(1), QStringLiteral("Bread"));
+    QVERIFY(again.save(&m_error));
+    again.undo();
+    QVERIFY(again.save(&m_error));
+    QCOMPARE(m_folder->read(kItems), saved);
+}
+
+void tst_DataFiles::whatIsTypedAfterSavingIsAStepOfItsOwn()
+{
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Br"));
+    QVERIFY(m_files->save(&m_error));
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    m_files->undo();
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Br"));
+}
+
+void tst_DataFiles::savesNoneWhenOneCannotBeWritten()
+{
+    open();
+    m_files->set(kActors, QStringLiteral("/1"), QStringLiteral("Mila"));
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    QCOMPARE(chmod(qPrintable(m_folder->path()), 0755), 0);
+    QCOMPARE(chmod(qPrintable(m_folder->path(kActors)), 0666), 0);
+    QCOMPARE(chmod(qPrintable(m_folder->path(QStringLiteral("data"))), 0555), 0);
+    {
+        const Unprivileged nobody;
+        QVERIFY(!m_files->save(&m_error));
+    }
+    QCOMPARE(chmod(qPrintable(m_folder->path(QStringLiteral("data"))), 0755), 0);
+    QVERIFY2(m_error.contains(m_folder->path(kActors)) &&
+                 m_error.contains(QStringLiteral("Permission denied")),
+             qPrintable(m_error));
+    QVERIFY2(m_error.contains(QStringLiteral("save again")), qPrintable(m_error));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
+    QCOMPARE(m_folder->read(kActors), QByteArray("[null]"));
+    QCOMPARE(m_folder->all(), (QStringList{QStringLiteral("Actors.json"), QStringLiteral("Items.json")}));
+    // Nothing is lost: it is all there, and can be saved.
+    QCOMPARE(m_files->changedFiles(), (QStringList{kActors, kItems}));
+    QCOMPARE(m_files->history().count(), 2);
+    QVERIFY(m_files->save(&m_error));
+    QVERIFY(m_folder->read(kItems).contains("Bread"));
+}
+
+void tst_DataFiles::savesIntoAFolderThatIsGone()
+{
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    QVERIFY(QDir(m_folder->path()).removeRecursively());
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QCOMPARE(m_folder->read(kActors), QByteArray("[null]"));
+    QVERIFY(m_folder->read(kItems).contains("Bread"));
+}
+
+void tst_DataFiles::linksAndPermissionsStay()
+{
+    const QTemporaryDir elsewhere;
+    const QString target = elsewhere.filePath(QStringLiteral("Items.json"));
+    QVERIFY(QFile::rename(m_folder->path(kItems), target));
+    QVERIFY(QFile::link(target, m_folder->path(kItems)));
+    QCOMPARE(chmod(qPrintable(target), 0640), 0);
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QVERIFY(QFileInfo(m_folder->path(kItems)).isSymLink());
+    struct stat info = {};
+    QCOMPARE(stat(qPrintable(target), &info), 0);
+    QCOMPARE(int(info.st_mode & 0777U), 0640);
+    QVERIFY(m_folder->read(kItems).contains("Bread"));
+}
+
+void tst_DataFiles::replacesAllFiles()
+{
+    open();
+    m_files->set(kItems, name(1), QStringLiteral("Bread"));
+    const QString skills = QStringLiteral("data/Skills.json");
+    QVERIFY2(m_files->replace({{skills, QStringLiteral("[ null ]")}}, &m_error), qPrintable(m_error));
+    QCOMPARE(m_files->names(), QStringList{skills});
+    QCOMPARE(m_folder->all(), QStringList{QStringLiteral("Skills.json")});
+    QCOMPARE(m_folder->read(skills), QByteArray("[ null ]"));
+    QVERIFY(m_files->changedFiles().isEmpty());
+    QVERIFY(m_files->undo().isEmpty());
+}
+
+void tst_DataFiles::replacesNothingWhenOneIsBroken()
+{
+    open();
+    QVERIFY(!m_files->replace({{kItems, QStringLiteral("[]")}, {kActors, QStringLiteral("[\n")}}, &m_error));
+    QVERIFY2(m_error.contains(m_folder->path(kActors)), qPrintable(m_error));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
+    QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+}
+
+void tst_DataFiles::selectionsEndWithTheProject()
+{
+    open();
+    const QString list = QStringLiteral("data/Items");
+    QCOMPARE(m_files->selected(list), -1);
+    m_files->select(list, 1);
+    QCOMPARE(m_files->selected(list), 1);
+    open();
+    QCOMPARE(m_files->selected(list), -1);
+}
+
+QTEST_APPLESS_MAIN(tst_DataFiles)
+#include "tst_DataFiles.moc"
