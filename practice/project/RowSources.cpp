@@ -1,0 +1,107 @@
+#include "project/RowSources.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <utility>
+
+namespace {
+
+/// A list whose first entry is null counts from 1.
+int firstNumber(const QJsonArray &list)
+{
+    return !list.isEmpty() && list.at(0).isNull() ? 1 : 0;
+}
+
+QVector<Row> rowsOf(const QJsonArray &list)
+{
+    QVector<Row> rows;
+    for (int number = firstNumber(list); number < list.size(); ++number) {
+        const QJsonValue entry = list.at(number);
+        const QString name = entry.toObject().value(QLatin1String("name")).toString();
+        rows.append({entry.isString() ? entry.toString() : name, number});
+    }
+    return rows;
+}
+
+} // namespace
+
+void RowSources::add(const QString &name, Rows rows)
+{
+    m_sources.insert(name, {std::move(rows), {}, {}});
+}
+
+void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent setCurrent)
+{
+    m_sources.insert(name, {std::move(rows), std::move(current), std::move(setCurrent)});
+}
+
+QString RowSources::problemOf(const QString &name) const
+{
+    if (DataPath::isPath(name)) {
+        return DataPath(name, names()).problem();
+    }
+    return m_sources.contains(name)
+               ? QString()
+               : QStringLiteral("\"%1\" is unknown; use the path of a list in a data file, "
+                                "such as data/Items, or one of: %2")
+                     .arg(name, names().join(QStringLiteral(", ")));
+}
+
+QVector<Row> RowSources::rows(const QString &name, const DataLayer &layer) const
+{
+    const auto source = m_sources.constFind(name);
+    if (source != m_sources.constEnd()) {
+        return source->rows(layer);
+    }
+    const std::optional<DataPath::Place> list = place(name, layer);
+    return list ? rowsOf(layer.value(list->file, list->pointer).toArray()) : QVector<Row>();
+}
+
+int RowSources::currentRow(const QString &name, const DataLayer &layer) const
+{
+    const auto source = m_sources.constFind(name);
+    if (source != m_sources.constEnd() && source->current) {
+        return source->current();
+    }
+    const QVector<Row> all = rows(name, layer);
+    const int selected = layer.selected(name);
+    int nearest = all.isEmpty() ? -1 : 0;
+    for (int row = 0; row < all.size(); ++row) {
+        if (all.at(row).number == selected) {
+            return row;
+        }
+        if (all.at(row).number < selected) {
+            nearest = row;
+        }
+    }
+    return nearest;
+}
+
+void RowSources::setCurrentRow(const QString &name, int row, DataLayer &layer) const
+{
+    const auto source = m_sources.constFind(name);
+    if (source != m_sources.constEnd() && source->setCurrent) {
+        source->setCurrent(row);
+        return;
+    }
+    const QVector<Row> all = rows(name, layer);
+    if (!all.isEmpty()) {
+        layer.select(name, all.at(qBound(0, row, int(all.size()) - 1)).number);
+    }
+}
+
+int RowSources::number(const QString &name, const DataLayer &layer) const
+{
+    const int row = currentRow(name, layer);
+    const QVector<Row> all = rows(name, layer);
+    return row >= 0 && row < all.size() ? all.at(row).number : -1;
+}
+
+std::optional<DataPath::Place> RowSources::place(const QString &path, const DataLayer &layer) const
+{
+    if (!DataPath::isPath(path)) {
+        return std::nullopt;
+    }
+    return DataPath(path, names()).place([this, &layer](const QString &list) { return number(list, layer); });
+}
