@@ -123,12 +123,16 @@ void PracticeEditor::connectProject()
     connect(&m_session, &LessonSession::started, &m_lessonProject, &LessonProject::drop);
     connect(&m_session, &LessonSession::filesRequested, &m_lessonProject, &LessonProject::begin);
     connect(&m_session, &LessonSession::filesReceived, &m_lessonProject, &LessonProject::takeFiles);
-    connect(m_windows.get(), &EditorWindows::projectCreated, &m_lessonProject, &LessonProject::takePlace);
-    connect(&m_lessonProject, &LessonProject::made, this,
-            [this](const QString &path, const QMap<QString, QString> &files) {
-                printLine(stdout, QStringLiteral("The project of the lesson stands in %1").arg(path));
-                m_windows->showProject(files);
-            });
+    connect(m_windows.get(), &EditorWindows::projectCreated, &m_lessonProject, &LessonProject::takeProject);
+    connect(&m_lessonProject, &LessonProject::complete, this, [this](const LessonProject::Files &files) {
+        if (m_windows->replaceFiles(files)) {
+            m_lessonProject.drop();
+            printLine(
+                stdout,
+                QStringLiteral("The project of the lesson stands in %1").arg(m_windows->projectFolder()));
+        }
+    });
+    connect(m_windows.get(), &EditorWindows::problemFound, this, &PracticeEditor::tellPerson);
     connect(&m_lessonProject, &LessonProject::failed, this, &PracticeEditor::tellPerson);
 }
 

@@ -10,7 +10,7 @@ namespace {
 struct ReferenceCheck
 {
     const DescriptionSet &set;
-    const EditorNames *names;
+    const QStringList *commands;
     QString path;
     QStringList *errors;
 
@@ -37,8 +37,9 @@ struct ReferenceCheck
 
     void action(const QString &place, const ControlAction &action) const
     {
-        if (names != nullptr) {
-            oneOf(place + QStringLiteral(".run"), action.run, names->commands);
+        if (commands != nullptr) {
+            oneOf(place + QStringLiteral(".run"), action.run, *commands);
+            oneOf(place + QStringLiteral(".begin"), action.begin, *commands);
         }
         window(place + QStringLiteral(".open"), action.open);
         if (!action.popup.isEmpty() && set.popup(action.popup) == nullptr) {
@@ -53,19 +54,12 @@ struct ReferenceCheck
         action(control.name + QStringLiteral(".click"), control.click);
         action(control.name + QStringLiteral(".doubleClick"), control.doubleClick);
         action(control.name + QStringLiteral(".contextMenu"), control.contextMenu);
-        oneOf(control.name + QStringLiteral(".needs"), control.needs, {QStringLiteral("project")});
-        if (names != nullptr) {
-            oneOf(control.name + QStringLiteral(".field"), control.field, names->fields);
-            oneOf(control.name + QStringLiteral(".source"), control.source, names->sources);
-            oneOf(control.name + QStringLiteral(".picture"), control.picture, names->pictures);
-            oneOf(control.name + QStringLiteral(".icon"), control.icon, names->icons);
-        }
     }
 };
 
 } // namespace
 
-DescriptionSet DescriptionSet::read(const QString &folder, const EditorNames *names, QStringList *errors)
+DescriptionSet DescriptionSet::read(const QString &folder, const QStringList *commands, QStringList *errors)
 {
     DescriptionSet set;
     const QDir directory(folder);
@@ -80,7 +74,7 @@ DescriptionSet DescriptionSet::read(const QString &folder, const EditorNames *na
         set.m_paths.insert(window.key, path);
     }
     if (errors->isEmpty()) {
-        set.check(names, errors);
+        set.check(commands, errors);
     }
     return set;
 }
@@ -188,10 +182,10 @@ QStringList DescriptionSet::actionStates(const QString &name) const
     return states;
 }
 
-void DescriptionSet::check(const EditorNames *names, QStringList *errors) const
+void DescriptionSet::check(const QStringList *commands, QStringList *errors) const
 {
     for (const WindowDescription &window : m_windows) {
-        const ReferenceCheck check{*this, names, m_paths.value(window.key), errors};
+        const ReferenceCheck check{*this, commands, m_paths.value(window.key), errors};
         if (window.kind == WindowDescription::Kind::kPart)
             check.window(QStringLiteral("partOf"), window.owner);
         if (window.kind == WindowDescription::Kind::kArea && window.owner != QLatin1String("screen"))

@@ -4,26 +4,15 @@
 
 #include <QMap>
 
-/// What an editor knows by name beside its windows. Descriptions may use no other names.
-struct EditorNames
-{
-    QStringList commands;
-    QStringList fields;
-    QStringList sources;
-    QStringList pictures;
-    QStringList icons;
-};
-
 /// All window descriptions of a folder, by window key. Pixels, relative to the contents of the window.
 class DescriptionSet
 {
 public:
     /// Reads every description in @p folder and checks what they say of each other: windows that are opened,
-    /// context menus that pop up, owners of parts; and, where @p names are given, that they use no others.
-    /// Adds a line to
-    /// @p errors for each thing that is wrong, which begins with the file's path, a colon and a blank; a set
-    /// with errors must not be built from.
-    static DescriptionSet read(const QString &folder, const EditorNames *names, QStringList *errors);
+    /// context menus that pop up, owners of parts; and, where @p commands are given, that they run no others.
+    /// Adds a line to @p errors for each thing that is wrong, which begins with the file's path, a colon and
+    /// a blank; a set with errors must not be built from.
+    static DescriptionSet read(const QString &folder, const QStringList *commands, QStringList *errors);
 
     [[nodiscard]] bool contains(const QString &key) const;
     [[nodiscard]] QStringList keys() const;
@@ -45,9 +34,8 @@ public:
     [[nodiscard]] QStringList openedFrom(const QString &key) const;
 
     /// The controls that a lesson can point at in the window: its own, those of its context menus under the
-    /// names
-    /// "<menu>/<entry>", then those of its parts, all with their geometry in the window. Empty for a key that
-    /// is not there.
+    /// names "<menu>/<entry>", then those of its parts, all with their geometry in the window. Empty for a
+    /// key that is not there.
     [[nodiscard]] QVector<ControlDescription> controlsIn(const QString &key) const;
 
     /// What the action @p name reports as its last word, one for each control that has it ("" is one, too).
@@ -56,7 +44,7 @@ public:
 
 private:
     [[nodiscard]] bool leadsTo(const QString &key, const ControlAction &action) const;
-    void check(const EditorNames *names, QStringList *errors) const;
+    void check(const QStringList *commands, QStringList *errors) const;
 
     QMap<QString, WindowDescription> m_windows;
     QMap<QString, QString> m_paths;

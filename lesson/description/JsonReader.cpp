@@ -8,10 +8,8 @@
 
 #include <utility>
 
-JsonReader::JsonReader(QString file, QString place, QJsonObject object, QStringList *errors)
-    : m_file(std::move(file))
-    , m_place(std::move(place))
-    , m_object(std::move(object))
+JsonReader::JsonReader(JsonPlace place, QStringList *errors)
+    : m_from(std::move(place))
     , m_errors(errors)
 {
 }
@@ -37,12 +35,12 @@ std::optional<JsonReader> JsonReader::open(const QString &path, QStringList *err
         errors->append(QStringLiteral("%1: must hold one object, { ... }").arg(path));
         return std::nullopt;
     }
-    return JsonReader(path, QString(), document.object(), errors);
+    return JsonReader({path, QString(), document.object()}, errors);
 }
 
 bool JsonReader::has(const QString &field) const
 {
-    return m_object.contains(field);
+    return m_from.object.contains(field);
 }
 
 QString JsonReader::text(const QString &field)
@@ -148,11 +146,11 @@ QVector<JsonReader> JsonReader::objects(const QString &field)
         addError(field, QStringLiteral("must be a list, [ ... ]"));
     const QJsonArray array = value.toArray();
     for (int index = 0; index < array.size(); ++index) {
-        const QString place = QStringLiteral("%1%2[%3].").arg(m_place, field).arg(index);
+        const QString place = QStringLiteral("%1%2[%3].").arg(m_from.place, field).arg(index);
         if (!array[index].isObject())
             addError(QStringLiteral("%1[%2]").arg(field).arg(index),
                      QStringLiteral("must be an object, { ... }"));
-        readers.append(JsonReader(m_file, place, array[index].toObject(), m_errors));
+        readers.append(JsonReader({m_from.file, place, array[index].toObject()}, m_errors));
     }
     return readers;
 }
@@ -178,17 +176,26 @@ std::optional<JsonReader> JsonReader::object(const QString &field)
     const QJsonValue value = take(field);
     if (!value.isObject())
         addError(field, QStringLiteral("must be an object, { ... }"));
-    return JsonReader(m_file, m_place + field + QLatin1Char('.'), value.toObject(), m_errors);
+    return JsonReader({m_from.file, m_from.place + field + QLatin1Char('.'), value.toObject()}, m_errors);
+}
+
+JsonPlace JsonReader::rest() const
+{
+    JsonPlace rest = m_from;
+    for (const QString &field : m_asked) {
+        rest.object.remove(field);
+    }
+    return rest;
 }
 
 void JsonReader::addError(const QString &field, const QString &message)
 {
-    m_errors->append(QStringLiteral("%1: %2%3: %4").arg(m_file, m_place, field, message));
+    m_errors->append(QStringLiteral("%1: %2%3: %4").arg(m_from.file, m_from.place, field, message));
 }
 
 void JsonReader::reportUnknownFields()
 {
-    const QStringList fields = m_object.keys();
+    const QStringList fields = m_from.object.keys();
     for (const QString &field : fields) {
         if (!m_asked.contains(field))
             addError(field,
@@ -199,7 +206,7 @@ void JsonReader::reportUnknownFields()
 QJsonValue JsonReader::take(const QString &field)
 {
     m_asked.insert(field);
-    return m_object.value(field);
+    return m_from.object.value(field);
 }
 
 LocalText JsonReader::localTextOf(const QJsonValue &value, const QString &place)

@@ -13,6 +13,14 @@
 /// A text in the three languages, by locale name.
 using LocalText = QMap<QString, QString>;
 
+/// One object of a JSON file, with the place at which it stands.
+struct JsonPlace
+{
+    QString file;
+    QString place;
+    QJsonObject object;
+};
+
 /// Reads one object of a JSON file field by field and writes down what is wrong with it: each error line
 /// names the file, the place in it and the mend. A wrong or missing field reads as an empty value, so that
 /// one pass finds all errors. All readers of a file share one error list, which the caller owns and which
@@ -20,7 +28,7 @@ using LocalText = QMap<QString, QString>;
 class JsonReader
 {
 public:
-    JsonReader(QString file, QString place, QJsonObject object, QStringList *errors);
+    JsonReader(JsonPlace place, QStringList *errors);
 
     /// The object in the file at @p path; empty, with an error added, when it cannot be read or is not JSON.
     static std::optional<JsonReader> open(const QString &path, QStringList *errors);
@@ -50,6 +58,9 @@ public:
     QStringList texts(const QString &field);
     std::optional<JsonReader> object(const QString &field);
 
+    /// The fields that nothing has asked for, to be read by somebody else.
+    [[nodiscard]] JsonPlace rest() const;
+
     /// Adds an error about @p field: what is wrong with it and how to mend it.
     void addError(const QString &field, const QString &message);
 
@@ -60,9 +71,7 @@ private:
     QJsonValue take(const QString &field);
     LocalText localTextOf(const QJsonValue &value, const QString &place);
 
-    QString m_file;
-    QString m_place;
-    QJsonObject m_object;
+    JsonPlace m_from;
     QStringList *m_errors;
     QSet<QString> m_asked;
 };

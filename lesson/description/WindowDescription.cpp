@@ -10,14 +10,6 @@ QString str(const char *text)
     return QString::fromLatin1(text);
 }
 
-const QStringList &controlTypes()
-{
-    static const QStringList types{str("button"),   str("checkBox"), str("entry"), str("label"),
-                                   str("lineEdit"), str("list"),     str("map"),   str("picture"),
-                                   str("progress"), str("spinBox"),  str("tabs"),  str("toolButton")};
-    return types;
-}
-
 ControlAction readAction(JsonReader &parent, const QString &field)
 {
     ControlAction action;
@@ -25,63 +17,51 @@ ControlAction readAction(JsonReader &parent, const QString &field)
         action.run = reader->text(str("run"), QString());
         action.close = reader->flag(str("close"));
         action.open = reader->text(str("open"), QString());
+        action.begin = reader->text(str("begin"), QString());
         action.popup = reader->text(str("popup"), QString());
         reader->reportUnknownFields();
         if (action.isEmpty())
             parent.addError(field, str("does nothing; give it a run, close, open or popup, or remove it"));
+        if (!action.begin.isEmpty() && action.open.isEmpty())
+            parent.addError(field, str("begins something in no window; give it an open, too"));
     }
     return action;
 }
 
-void readOwnFields(JsonReader &reader, ControlDescription &control)
+void readAction(JsonReader &reader, ControlDescription &control)
 {
-    const QString &type = control.type;
-    const bool hasLabel =
-        type == str("button") || type == str("entry") || type == str("toolButton") || type == str("checkBox");
-    if (hasLabel || (type == str("label") && !reader.has(str("field"))))
-        control.label = reader.localText(str("label"));
-    if (type == str("list")) {
-        control.rowHeight = reader.number(str("rowHeight"));
-        control.source = reader.text(str("source"));
-        if (control.rowHeight <= 0)
-            reader.addError(str("rowHeight"), str("must be above 0"));
-    } else if (type == str("tabs")) {
-        control.tabWidth = reader.number(str("tabWidth"));
-        control.source = reader.text(str("source"));
-        control.tabs = reader.localTexts(str("tabs"));
-    } else if (type == str("toolButton")) {
-        control.icon = reader.text(str("icon"));
-        control.needs = reader.text(str("needs"), QString());
-        control.actionName = reader.text(str("action"));
-        control.actionState = reader.text(str("actionState"));
-        if (control.actionState != QString() && control.actionState != str("open") &&
-            control.actionState != str("close"))
-            reader.addError(str("actionState"), str("must be \"open\", \"close\" or empty"));
-    } else if (type == str("spinBox")) {
-        const QVector<int> range = reader.numbers(str("range"), 2);
-        control.minimum = range[0];
-        control.maximum = range[1];
-        control.suffix = reader.text(str("suffix"), QString());
-    } else if (type == str("picture")) {
-        control.picture = reader.text(str("picture"));
-    } else if (type == str("map")) {
-        control.target = reader.text(str("target"));
-    }
+    control.actionName = reader.text(str("action"));
+    control.actionState = reader.text(str("actionState"));
+    if (control.actionState != QString() && control.actionState != str("open") &&
+        control.actionState != str("close"))
+        reader.addError(str("actionState"), str("must be \"open\", \"close\" or empty"));
+}
+
+/// A size of a list or of a row of tabs; 0 when there is none.
+int readSize(JsonReader &reader, const QString &field)
+{
+    const int size = reader.number(field, 0);
+    if (reader.has(field) && size <= 0)
+        reader.addError(field, str("must be above 0"));
+    return size;
 }
 
 ControlDescription readControl(JsonReader &reader)
 {
     ControlDescription control;
-    control.type = reader.choice(str("type"), controlTypes());
+    control.type = reader.text(str("type"));
     control.name = reader.text(str("name"));
     control.geometry = reader.rect(str("geometry"));
-    control.field = reader.text(str("field"), QString());
-    control.isDefault = reader.flag(str("default"));
-    readOwnFields(reader, control);
+    if (reader.has(str("label")))
+        control.label = reader.localText(str("label"));
+    if (reader.has(str("action")) || reader.has(str("actionState")))
+        readAction(reader, control);
+    control.rowHeight = readSize(reader, str("rowHeight"));
+    control.tabWidth = readSize(reader, str("tabWidth"));
     control.click = readAction(reader, str("click"));
     control.doubleClick = readAction(reader, str("doubleClick"));
     control.contextMenu = readAction(reader, str("contextMenu"));
-    reader.reportUnknownFields();
+    control.own = reader.rest();
     return control;
 }
 
@@ -119,6 +99,8 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
         window.place = reader.point(str("place"));
         window.controls = readControls(reader, window.size);
     }
+    if (window.kind == Kind::kWindow)
+        window.isDraft = reader.flag(str("draft"));
     if (window.kind == Kind::kWindow && reader.has(str("closesAfterMs"))) {
         window.closesAfterMs = reader.number(str("closesAfterMs"));
         window.after = readAction(reader, str("after"));

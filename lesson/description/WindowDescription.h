@@ -9,48 +9,39 @@
 /// What a control does when it is used; carried out in the order of the members, empty ones skipped.
 struct ControlAction
 {
-    /// A command of the project, see EditorProject::commands().
+    /// A command of the editor.
     QString run;
     /// Closes the window that the control stands in.
     bool close = false;
     /// Key of the window to open.
     QString open;
+    /// A command of the editor, run in the window that was opened.
+    QString begin;
     /// Name of the context menu to pop up at the mouse.
     QString popup;
 
     [[nodiscard]] bool isEmpty() const;
 };
 
-/// One control of a window. Geometry is relative to the contents of its window or part, in pixels.
+/// One control of a window: what a lesson has to know of it. Geometry is relative to the contents of its
+/// window or part, in pixels.
 struct ControlDescription
 {
     QString type;
     QString name;
     QRect geometry;
     LocalText label;
-    /// Text, number or state of the project that the control shows and changes.
-    QString field;
-    /// Where the rows of a list or the current tab come from.
-    QString source;
-    QString picture;
-    QString icon;
-    /// What must be there before the control can be used: empty, or "project".
-    QString needs;
     /// Words of the action event; no event when the name is empty.
     QString actionName;
     QString actionState;
-    /// Word for a map in its events.
-    QString target;
-    QString suffix;
-    QVector<LocalText> tabs;
+    /// Of a list, and of a row of tabs; 0 for other controls.
     int rowHeight = 0;
     int tabWidth = 0;
-    int minimum = 0;
-    int maximum = 0;
-    bool isDefault = false;
     ControlAction click;
     ControlAction doubleClick;
     ControlAction contextMenu;
+    /// The fields that only controls of its type have; who makes the controls reads them.
+    JsonPlace own;
 };
 
 /// A context menu: all of them share one window key.
@@ -73,6 +64,8 @@ struct WindowDescription
     LocalText title;
     QSize size;
     QPoint place;
+    /// What is changed in the window is dropped when it closes, unless a command accepts it.
+    bool isDraft = false;
     int closesAfterMs = 0;
     ControlAction after;
     QVector<ControlDescription> controls;

@@ -1,7 +1,5 @@
 #include "project/LessonProject.h"
 
-#include <utility>
-
 LessonProject::LessonProject(QObject *parent)
     : QObject(parent)
 {
@@ -11,7 +9,7 @@ LessonProject::LessonProject(QObject *parent)
         //: %1 is the name of the project.
         Q_EMIT failed(tr("The data files of the lesson have not come, so \"%1\" is without them. "
                          "Start the lesson again.")
-                          .arg(m_place->name));
+                          .arg(*m_project));
     });
 }
 
@@ -26,41 +24,33 @@ void LessonProject::drop()
     m_filesMissing.stop();
     m_waits = false;
     m_files.reset();
-    m_place.reset();
+    m_project.reset();
 }
 
-void LessonProject::takeFiles(const QMap<QString, QString> &files)
+void LessonProject::takeFiles(const Files &files)
 {
     if (m_waits) {
         m_filesMissing.stop();
         m_files = files;
-        makeWhenComplete();
+        tellWhenComplete();
     }
 }
 
-void LessonProject::takePlace(const QString &location, const QString &name)
+void LessonProject::takeProject(const QString &name)
 {
     if (m_waits) {
-        m_place = Place{location, name};
+        m_project = name;
         if (!m_files) {
             m_filesMissing.start();
         }
-        makeWhenComplete();
+        tellWhenComplete();
     }
 }
 
-void LessonProject::makeWhenComplete()
+void LessonProject::tellWhenComplete()
 {
-    if (!m_files || !m_place) {
-        return;
+    if (m_files && m_project) {
+        m_project.reset();
+        Q_EMIT complete(Files(*m_files));
     }
-    const Place place = *std::exchange(m_place, std::nullopt);
-    QString error;
-    if (!m_store.create(place.location, place.name, *m_files, &error)) {
-        Q_EMIT failed(error);
-        return;
-    }
-    const QMap<QString, QString> files = *m_files;
-    drop();
-    Q_EMIT made(m_store.path(), files);
 }

@@ -140,32 +140,4 @@ Restart it? The lesson begins again.</source>
         <translation>プロジェクトのファイル「%1」を読み込めません（%2）。読み取りを許可してから、もう一度プロジェクトを開いてください。</translation>
     </message>
 </context>
-<context>
-    <name>ProjectStore</name>
-    <message>
-        <source>A project cannot have the name &quot;%1&quot;: its folder is named after it. Choose another name, without &quot;/&quot;.</source>
-        <extracomment>%1 is the name that the person gave a new project.</extracomment>
-        <translation>プロジェクトの名前を「%1」にはできません。プロジェクトの名前は、フォルダーの名前にもなるためです。「/」を含まない別の名前にしてください。</translation>
-    </message>
-    <message>
-        <source>The project cannot hold the file &quot;%1&quot;: it would lie outside of the project&apos;s folder.</source>
-        <extracomment>%1 is a path inside the project.</extracomment>
-        <translation>ファイル「%1」は、プロジェクトのフォルダーの外に置かれてしまうため、プロジェクトに入れられません。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s folder cannot be made in &quot;%1&quot; (%2). Choose another place.</source>
-        <extracomment>%1 is a folder, %2 the system&apos;s reason.</extracomment>
-        <translation>「%1」にプロジェクトのフォルダーを作れません（%2）。別の場所を選んでください。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be made. Choose another name or place.</source>
-        <extracomment>%1 is the folder&apos;s path.</extracomment>
-        <translation>プロジェクトのフォルダー「%1」を作れません。名前か場所を変えてください。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be written (%2).</source>
-        <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation>プロジェクトのファイル「%1」に書き込めません（%2）。</translation>
-    </message>
-</context>
 </TS>

@@ -140,32 +140,4 @@ Restart it? The lesson begins again.</source>
         <translation>无法读取项目中的文件“%1”（%2）。请允许读取它，然后重新打开项目。</translation>
     </message>
 </context>
-<context>
-    <name>ProjectStore</name>
-    <message>
-        <source>A project cannot have the name &quot;%1&quot;: its folder is named after it. Choose another name, without &quot;/&quot;.</source>
-        <extracomment>%1 is the name that the person gave a new project.</extracomment>
-        <translation>项目不能叫“%1”，因为项目文件夹也用这个名称。请换一个不含“/”的名称。</translation>
-    </message>
-    <message>
-        <source>The project cannot hold the file &quot;%1&quot;: it would lie outside of the project&apos;s folder.</source>
-        <extracomment>%1 is a path inside the project.</extracomment>
-        <translation>项目不能包含文件“%1”，因为该文件会位于项目文件夹之外。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s folder cannot be made in &quot;%1&quot; (%2). Choose another place.</source>
-        <extracomment>%1 is a folder, %2 the system&apos;s reason.</extracomment>
-        <translation>无法在“%1”里建立项目文件夹（%2）。请换一个位置。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be made. Choose another name or place.</source>
-        <extracomment>%1 is the folder&apos;s path.</extracomment>
-        <translation>无法建立项目文件夹“%1”。请换一个名称或位置。</translation>
-    </message>
-    <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be written (%2).</source>
-        <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
-        <translation>无法写入项目中的文件“%1”（%2）。</translation>
-    </message>
-</context>
 </TS>

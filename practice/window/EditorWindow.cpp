@@ -1,8 +1,5 @@
 #include "window/EditorWindow.h"
 
-#include "window/ControlFactory.h"
-#include "window/EditorProject.h"
-
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -15,36 +12,75 @@ constexpr int kFontPixels = 12;
 
 } // namespace
 
-QString EditorWindowContext::text(const LocalText &texts) const
-{
-    return texts.value(locale);
-}
-
-EditorWindow::EditorWindow(const QString &key, const QSize &size, const QVector<ControlDescription> &controls,
-                           const EditorWindowContext &context, QWidget *parent, Qt::WindowFlags flags)
+EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *project, QWidget *parent,
+                           Qt::WindowFlags flags)
     : QWidget(parent, flags)
-    , m_project(context.project)
+    , m_project(project)
+    , m_layer(&project->files())
 {
     setObjectName(key);
     setFixedSize(size);
     QFont pixelFont = font();
     pixelFont.setPixelSize(kFontPixels);
     setFont(pixelFont);
-    for (const ControlDescription &description : controls) {
-        QWidget *control = makeControl(description, context, this);
-        control->setObjectName(description.name);
-        control->setGeometry(description.geometry);
-        m_controls.append(control);
-    }
+    connect(project, &Project::changed, this, [this] {
+        if (isVisible()) {
+            Q_EMIT refreshed();
+        }
+    });
+}
+
+void EditorWindow::add(QWidget *control, const ControlDescription &description)
+{
+    control->setObjectName(description.name);
+    control->setGeometry(description.geometry);
+    m_controls.append(control);
 }
 
 QVector<QPair<QString, QPoint>> EditorWindow::controlPlaces() const
 {
     QVector<QPair<QString, QPoint>> places;
     places.reserve(m_controls.size());
-    for (const QWidget *control : m_controls)
+    for (const QWidget *control : m_controls) {
         places.append({control->objectName(), control->pos()});
+    }
     return places;
+}
+
+QVariant EditorWindow::field(const QString &name) const
+{
+    return m_project->fields().value(name, *m_layer);
+}
+
+void EditorWindow::setField(const QString &name, const QVariant &value)
+{
+    if (isVisible()) {
+        m_project->fields().setValue(name, value, *m_layer);
+    }
+}
+
+QVector<Row> EditorWindow::rows(const QString &source) const
+{
+    return m_project->sources().rows(source, *m_layer);
+}
+
+int EditorWindow::currentRow(const QString &source) const
+{
+    return m_project->sources().currentRow(source, *m_layer);
+}
+
+void EditorWindow::setCurrentRow(const QString &source, int row)
+{
+    if (isVisible()) {
+        m_project->sources().setCurrentRow(source, row, *m_layer);
+    }
+}
+
+void EditorWindow::run(const QString &command)
+{
+    if (!command.isEmpty()) {
+        m_project->run(command, *m_layer);
+    }
 }
 
 void EditorWindow::report(const QString &type, const QString &target, const QString &value)
@@ -54,10 +90,10 @@ void EditorWindow::report(const QString &type, const QString &target, const QStr
 
 void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition)
 {
-    if (action.isEmpty())
+    if (action.isEmpty()) {
         return;
-    if (!action.run.isEmpty())
-        m_project->run(action.run);
+    }
+    run(action.run);
     Q_EMIT asked(action, screenPosition);
 }
 
@@ -65,6 +101,13 @@ void EditorWindow::setDefaultButton(QPushButton *button)
 {
     m_defaultButton = button;
     button->setDefault(true);
+}
+
+void EditorWindow::setTimedAction(int ms, const ControlAction &action)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(ms);
+    connect(&m_timer, &QTimer::timeout, this, [this, action] { act(action, QPoint()); });
 }
 
 void EditorWindow::closeEvent(QCloseEvent *event)
@@ -76,19 +119,38 @@ void EditorWindow::closeEvent(QCloseEvent *event)
 void EditorWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && m_defaultButton != nullptr)
+    if (isReturn && m_defaultButton != nullptr) {
         m_defaultButton->click();
-    else if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::Dialog))
+    } else if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::Dialog)) {
         Q_EMIT closeRequested();
-    else
+    } else {
         QWidget::keyPressEvent(event);
+    }
 }
 
 void EditorWindow::paintEvent(QPaintEvent * /*event*/)
 {
-    if (!windowFlags().testFlag(Qt::FramelessWindowHint))
+    if (!windowFlags().testFlag(Qt::FramelessWindowHint)) {
         return;
+    }
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Dark));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void EditorWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (hasTimedAction() && !event->spontaneous()) {
+        m_timer.start();
+    }
+    Q_EMIT refreshed();
+}
+
+void EditorWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous()) {
+        m_timer.stop();
+    }
 }

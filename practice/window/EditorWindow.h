@@ -1,39 +1,46 @@
 #pragma once
 
 #include "lesson/description/WindowDescription.h"
+#include "project/Project.h"
 
+#include <QTimer>
 #include <QWidget>
 
-class EditorProject;
-class MapPainter;
 class QPushButton;
 
-/// What the controls of all windows share; the pointers outlive the windows.
-struct EditorWindowContext
-{
-    EditorProject *project;
-    MapPainter *painter;
-    QString locale;
-
-    /// The text in the locale.
-    [[nodiscard]] QString text(const LocalText &texts) const;
-};
-
-/// One window, part of a window or context menu, with the controls of its description at their places. It
-/// reports what the person does and what the controls ask for; it opens and closes nothing itself.
+/// One window, part of a window or context menu, with its controls. It shows and changes what stands in its
+/// layer of the project, and reports what the person does and what the controls ask for; it opens and closes
+/// nothing itself.
 class EditorWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p flags of the top level window; without any it is a part of @p parent.
-    EditorWindow(const QString &key, const QSize &size, const QVector<ControlDescription> &controls,
-                 const EditorWindowContext &context, QWidget *parent, Qt::WindowFlags flags);
+    /// @p project outlives the window. @p flags of the top level window; without any it is a part of @p
+    /// parent.
+    EditorWindow(const QString &key, const QSize &size, Project *project, QWidget *parent,
+                 Qt::WindowFlags flags);
 
     [[nodiscard]] QString key() const { return objectName(); }
+    [[nodiscard]] Project &project() const { return *m_project; }
 
+    /// Puts a control, which is a child of the window already, at its place.
+    void add(QWidget *control, const ControlDescription &description);
     /// Names of the controls with their places in this window, in pixels.
     [[nodiscard]] QVector<QPair<QString, QPoint>> controlPlaces() const;
+
+    /// What the window shows and changes. The project itself at first; never one that is gone.
+    [[nodiscard]] DataLayer &layer() const { return *m_layer; }
+    void setLayer(DataLayer *layer) { m_layer = layer; }
+
+    /// Nothing is changed while the window is hidden: a number that was half typed when it closed is rounded
+    /// when the focus leaves it, and must not get into the project that way.
+    [[nodiscard]] QVariant field(const QString &name) const;
+    void setField(const QString &name, const QVariant &value);
+    [[nodiscard]] QVector<Row> rows(const QString &source) const;
+    [[nodiscard]] int currentRow(const QString &source) const;
+    void setCurrentRow(const QString &source, int row);
+    void run(const QString &command);
 
     /// Passes on what a control did: called by the controls. @p screenPosition is where the mouse was.
     void report(const QString &type, const QString &target, const QString &value);
@@ -42,7 +49,14 @@ public:
     /// The button that the return key presses.
     void setDefaultButton(QPushButton *button);
 
+    /// Lets the window do @p action by itself @p ms after it came up; until then nobody can close it.
+    void setTimedAction(int ms, const ControlAction &action);
+    [[nodiscard]] bool hasTimedAction() const { return m_timer.interval() > 0; }
+
 Q_SIGNALS:
+    /// The controls are to show what there is now: the project changed, or the window comes up. A window that
+    /// nobody sees waits until then.
+    void refreshed();
     /// Something that a condition may wait for, in its words.
     void happened(const QString &type, const QString &target, const QString &value);
     /// A control was used that closes or opens something; its command has run already.
@@ -54,9 +68,13 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
-    EditorProject *m_project;
+    Project *m_project;
+    DataLayer *m_layer;
     QVector<QWidget *> m_controls;
     QPushButton *m_defaultButton = nullptr;
+    QTimer m_timer;
 };

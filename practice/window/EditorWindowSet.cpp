@@ -1,28 +1,14 @@
 #include "window/EditorWindowSet.h"
 
-#include "lesson/LessonWords.h"
-
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QTimer>
 
 #include <utility>
-
-// Outside of any namespace, as the macro needs it: the files are compiled into a static library.
-static void initWindowDescriptions()
-{
-    Q_INIT_RESOURCE(descriptions);
-}
 
 namespace {
 
 using Kind = WindowDescription::Kind;
-
-QString mainKey()
-{
-    return QStringLiteral("MainWindow");
-}
 
 /// The entry of the window stack that stands for any open context menu.
 QString popupEntry()
@@ -42,27 +28,27 @@ QPoint fitted(const QPoint &place, const QSize &size, const QRect &screen)
 std::unique_ptr<EditorWindowSet> EditorWindowSet::create(const QString &locale, QStringList *errors,
                                                          const QString &folder)
 {
-    initWindowDescriptions();
-    const QString known =
-        LessonWords::locales().contains(locale) ? locale : LessonWords::locales().constFirst();
-    const EditorNames names = EditorProject::names();
-    DescriptionSet descriptions = DescriptionSet::read(folder, &names, errors);
-    ProjectData data = ProjectData::read(folder + QStringLiteral("/data/project.json"), known, errors);
-    if (!errors->isEmpty())
+    EditorGround ground = EditorGround::read(locale, folder, errors);
+    const ControlContext context{ground.project.get(), ground.painter.get(), ground.locale};
+    const WindowBuilder builder(ground.descriptions, context, errors);
+    if (!errors->isEmpty()) {
         return nullptr;
-    return std::unique_ptr<EditorWindowSet>(
-        new EditorWindowSet(std::move(descriptions), std::move(data), known));
+    }
+    WindowBuilder::Windows windows = builder.make();
+    return std::unique_ptr<EditorWindowSet>(new EditorWindowSet(std::move(ground), std::move(windows)));
 }
 
-EditorWindowSet::EditorWindowSet(DescriptionSet descriptions, ProjectData data, const QString &locale)
-    : m_descriptions(std::move(descriptions))
-    , m_project(std::make_unique<EditorProject>(std::move(data)))
-    , m_painter(&m_project->data())
-    , m_context{m_project.get(), &m_painter, locale}
+EditorWindowSet::EditorWindowSet(EditorGround ground, WindowBuilder::Windows windows)
+    : m_ground(std::move(ground))
+    , m_main(std::move(windows.main))
+    , m_windows(std::move(windows.byName))
 {
-    build();
-    connect(m_project.get(), &EditorProject::changed, this, &EditorWindowSet::updateTitle);
-    connect(m_project.get(), &EditorProject::created, this, &EditorWindows::projectCreated);
+    for (EditorWindow *window : qAsConst(m_windows)) {
+        wire(window);
+    }
+    connect(m_ground.project.get(), &Project::changed, this, &EditorWindowSet::updateTitle);
+    connect(m_ground.project.get(), &Project::created, this, &EditorWindows::projectCreated);
+    connect(m_ground.project.get(), &Project::failed, this, &EditorWindows::problemFound);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive && m_popup != nullptr) {
             std::exchange(m_popup, nullptr)->hide();
@@ -70,54 +56,18 @@ EditorWindowSet::EditorWindowSet(DescriptionSet descriptions, ProjectData data, 
         }
     });
     qApp->installEventFilter(this);
+    updateTitle();
 }
 
 EditorWindowSet::~EditorWindowSet() = default;
 
-void EditorWindowSet::build()
+void EditorWindowSet::wire(EditorWindow *window)
 {
-    const WindowDescription &main = m_descriptions[mainKey()];
-    m_main.reset(add(mainKey(), main.size, main.controls, nullptr, Qt::Window));
-    const QStringList keys = m_descriptions.keys();
-    for (const QString &key : keys) {
-        const WindowDescription &description = m_descriptions[key];
-        if (description.kind == Kind::kPart) {
-            add(key, description.size, description.controls, m_main.get(), Qt::Widget)
-                ->move(description.place);
-        } else if (description.kind == Kind::kWindow && key != mainKey()) {
-            EditorWindow *window = add(key, description.size, description.controls, m_main.get(), Qt::Dialog);
-            // Blocks the editor, and not the lesson strip, with which the person passes a step.
-            window->setWindowModality(Qt::WindowModal);
-            window->setWindowTitle(m_context.text(description.title));
-            if (description.closesAfterMs > 0) {
-                auto *timer = new QTimer(window);
-                timer->setSingleShot(true);
-                timer->setInterval(description.closesAfterMs);
-                connect(timer, &QTimer::timeout, window,
-                        [window, after = description.after] { window->act(after, QPoint()); });
-                m_timers.insert(key, timer);
-            }
-        }
-        for (const PopupDescription &popup : description.popups) {
-            EditorWindow *menu = add(popup.name, popup.size, popup.controls, m_main.get(),
-                                     Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
-            menu->setAttribute(Qt::WA_ShowWithoutActivating);
-            menu->setWindowTitle(m_context.text(description.title));
-        }
-    }
-    updateTitle();
-}
-
-EditorWindow *EditorWindowSet::add(const QString &name, const QSize &size,
-                                   const QVector<ControlDescription> &controls, QWidget *parent,
-                                   Qt::WindowFlags flags)
-{
-    auto *window = new EditorWindow(name, size, controls, m_context, parent, flags);
-    m_windows.insert(name, window);
     connect(window, &EditorWindow::happened, this,
             [this, window](const QString &type, const QString &target, const QString &value) {
-                const QString key =
-                    m_descriptions.contains(window->key()) ? window->key() : m_descriptions.popupKey();
+                const QString key = m_ground.descriptions.contains(window->key())
+                                        ? window->key()
+                                        : m_ground.descriptions.popupKey();
                 Q_EMIT happened({type, target, value, key});
             });
     connect(window, &EditorWindow::asked, this,
@@ -125,18 +75,25 @@ EditorWindow *EditorWindowSet::add(const QString &name, const QSize &size,
                 onAsked(window, action, position);
             });
     connect(window, &EditorWindow::closeRequested, this, [this, window] { onCloseRequested(window->key()); });
-    return window;
 }
 
 bool EditorWindowSet::open(const QString &windowKey)
 {
-    if (!m_descriptions.contains(windowKey))
+    return openWith(windowKey, QString());
+}
+
+bool EditorWindowSet::openWith(const QString &windowKey, const QString &begin)
+{
+    if (!m_ground.descriptions.contains(windowKey)) {
         return false;
-    const WindowDescription &description = m_descriptions[windowKey];
-    if (description.kind == Kind::kPart)
+    }
+    const WindowDescription &description = m_ground.descriptions[windowKey];
+    if (description.kind == Kind::kPart) {
         return open(description.owner);
-    if (description.kind != Kind::kWindow)
+    }
+    if (description.kind != Kind::kWindow) {
         return false;
+    }
     EditorWindow *window = m_windows[windowKey];
     hidePopup();
     if (m_stack.contains(windowKey)) {
@@ -145,14 +102,15 @@ bool EditorWindowSet::open(const QString &windowKey)
         return true;
     }
     place(window, description);
+    window->setLayer(description.isDraft ? m_ground.project->drafts().begin()
+                                         : m_ground.project->drafts().top());
+    window->run(begin);
     window->show();
     window->activateWindow();
     m_stack.append(windowKey);
     Q_EMIT pushed(windowKey);
     m_toldOrigins.clear();
     tellPlaces(window);
-    if (QTimer *timer = m_timers.value(windowKey))
-        timer->start();
     tellState(windowKey, "open");
     return true;
 }
@@ -160,30 +118,35 @@ bool EditorWindowSet::open(const QString &windowKey)
 void EditorWindowSet::place(EditorWindow *window, const WindowDescription &description) const
 {
     const QRect screen = screenRect();
-    const QPoint base = window == mainWindow() ? screen.topLeft() : mainWindow()->mapToGlobal(QPoint());
+    const QPoint base = window == m_main.get() ? screen.topLeft() : m_main->mapToGlobal(QPoint());
     window->setGeometry(QRect(fitted(base + description.place, description.size, screen), description.size));
 }
 
 void EditorWindowSet::close(const QString &windowKey)
 {
-    if (windowKey == popupEntry() || windowKey == m_descriptions.popupKey()) {
+    if (windowKey == popupEntry() || windowKey == m_ground.descriptions.popupKey()) {
         hidePopup();
         return;
     }
     // What stands above a window belongs to it and goes with it.
-    while (m_stack.contains(windowKey))
+    while (m_stack.contains(windowKey)) {
         closeTop();
+    }
 }
 
 void EditorWindowSet::closeTop()
 {
     hidePopup();
     const QString key = m_stack.takeLast();
-    if (QTimer *timer = m_timers.value(key))
-        timer->stop();
-    m_windows[key]->hide();
-    if (!m_stack.isEmpty())
+    EditorWindow *window = m_windows[key];
+    window->hide();
+    if (m_ground.descriptions[key].isDraft) {
+        m_ground.project->drafts().drop(&window->layer());
+    }
+    window->setLayer(&m_ground.project->files());
+    if (!m_stack.isEmpty()) {
         m_windows[m_stack.last()]->activateWindow();
+    }
     Q_EMIT popped(key);
     tellState(key, "close");
 }
@@ -195,24 +158,27 @@ QStringList EditorWindowSet::openWindows() const
 
 std::optional<QPoint> EditorWindowSet::origin(const QString &windowKey) const
 {
-    if (windowKey == popupEntry() || windowKey == m_descriptions.popupKey())
+    if (windowKey == popupEntry() || windowKey == m_ground.descriptions.popupKey()) {
         return m_popup != nullptr ? std::optional(m_popup->mapToGlobal(QPoint())) : std::nullopt;
-    if (!m_descriptions.contains(windowKey))
+    }
+    if (!m_ground.descriptions.contains(windowKey)) {
         return {};
-    const WindowDescription &description = m_descriptions[windowKey];
-    if (description.kind == Kind::kArea)
-        return m_descriptions.contains(description.owner) ? origin(description.owner)
-                                                          : screenRect().topLeft();
+    }
+    const WindowDescription &description = m_ground.descriptions[windowKey];
+    if (description.kind == Kind::kArea) {
+        return m_ground.descriptions.contains(description.owner) ? origin(description.owner)
+                                                                 : screenRect().topLeft();
+    }
     const EditorWindow *window = m_windows[windowKey];
     return window->isVisible() ? std::optional(window->mapToGlobal(QPoint())) : std::nullopt;
 }
 
 QString EditorWindowSet::title(const QString &windowKey) const
 {
-    if (!m_descriptions.contains(windowKey))
+    if (!m_ground.descriptions.contains(windowKey)) {
         return {};
-    const WindowDescription &description = m_descriptions[windowKey];
-    return m_context.text(description.title);
+    }
+    return m_ground.descriptions[windowKey].title.value(m_ground.locale);
 }
 
 QRect EditorWindowSet::screenRect() const
@@ -222,12 +188,12 @@ QRect EditorWindowSet::screenRect() const
 
 void EditorWindowSet::setProjectsFolder(const QString &folder)
 {
-    m_project->setField(QStringLiteral("newProject.location"), folder);
+    m_ground.project->setProjectsFolder(folder);
 }
 
-void EditorWindowSet::showProject(const QMap<QString, QString> &files)
+bool EditorWindowSet::replaceFiles(const QMap<QString, QString> &files)
 {
-    m_project->show(ProjectContents::read(files, m_project->data().tiles.size()));
+    return m_ground.project->replaceFiles(files);
 }
 
 EditorWindow *EditorWindowSet::window(const QString &keyOrPopup) const
@@ -235,46 +201,48 @@ EditorWindow *EditorWindowSet::window(const QString &keyOrPopup) const
     return m_windows.value(keyOrPopup);
 }
 
-EditorWindow *EditorWindowSet::mainWindow() const
-{
-    return m_main.get();
-}
-
 void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position)
 {
     hidePopup();
-    if (action.close)
+    if (action.close) {
         close(window->key());
-    if (!action.open.isEmpty())
-        open(action.open);
-    if (!action.popup.isEmpty())
+    }
+    if (!action.open.isEmpty()) {
+        openWith(action.open, action.begin);
+    }
+    if (!action.popup.isEmpty()) {
         showPopup(action.popup, position);
+    }
 }
 
 void EditorWindowSet::onCloseRequested(const QString &key)
 {
-    if (m_timers.contains(key))
+    if (m_windows[key]->hasTimedAction()) {
         return;
+    }
     close(key);
-    if (key == mainKey())
+    if (key == WindowBuilder::mainKey()) {
         Q_EMIT mainWindowClosed();
+    }
 }
 
 void EditorWindowSet::showPopup(const QString &name, const QPoint &position)
 {
     hidePopup();
     m_popup = m_windows[name];
+    m_popup->setLayer(m_ground.project->drafts().top());
     m_popup->move(fitted(position, m_popup->size(), screenRect()));
     m_popup->show();
     Q_EMIT pushed(popupEntry());
     tellPlaces(m_popup);
-    Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_descriptions.popupKey()});
+    Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_ground.descriptions.popupKey()});
 }
 
 void EditorWindowSet::hidePopup()
 {
-    if (m_popup == nullptr)
+    if (m_popup == nullptr) {
         return;
+    }
     std::exchange(m_popup, nullptr)->hide();
     Q_EMIT popped(popupEntry());
 }
@@ -288,45 +256,51 @@ void EditorWindowSet::tellPlaces(EditorWindow *window)
 {
     const QPoint at = window->mapToGlobal(QPoint());
     if (window == m_popup) {
-        tellPlace(m_descriptions.popupKey());
+        tellPlace(m_ground.descriptions.popupKey());
         tellPlace(popupEntry());
         return;
     }
     const QString &key = window->key();
     const auto told = m_toldOrigins.constFind(key);
-    if (told != m_toldOrigins.constEnd() && *told == at)
+    if (told != m_toldOrigins.constEnd() && *told == at) {
         return;
+    }
     m_toldOrigins.insert(key, at);
     tellPlace(key);
     const auto places = window->controlPlaces();
-    for (const auto &[name, position] : places)
+    for (const auto &[name, position] : places) {
         Q_EMIT controlMoved(key + QLatin1Char('_') + name, at + position);
-    const QStringList keys = m_descriptions.keys();
+    }
+    const QStringList keys = m_ground.descriptions.keys();
     for (const QString &other : keys) {
-        const WindowDescription &description = m_descriptions[other];
-        if (description.owner != key)
+        const WindowDescription &description = m_ground.descriptions[other];
+        if (description.owner != key) {
             continue;
-        if (description.kind == Kind::kPart)
+        }
+        if (description.kind == Kind::kPart) {
             tellPlaces(m_windows[other]);
-        else
+        } else {
             tellPlace(other);
+        }
     }
 }
 
 void EditorWindowSet::updateVisible()
 {
     const bool visible = m_main->isVisible() && !m_main->isMinimized();
-    if (std::exchange(m_visible, visible) != visible)
+    if (std::exchange(m_visible, visible) != visible) {
         Q_EMIT visibilityChanged(visible);
+    }
 }
 
 void EditorWindowSet::updateTitle()
 {
-    QString title = m_context.text(m_descriptions[mainKey()].title);
-    if (m_project->isOpen())
-        title = QStringLiteral("%1[*] \u2013 %2").arg(m_project->name(), title);
+    QString title = m_ground.descriptions[WindowBuilder::mainKey()].title.value(m_ground.locale);
+    if (m_ground.project->isOpen()) {
+        title = QStringLiteral("%1[*] \u2013 %2").arg(m_ground.project->name(), title);
+    }
     m_main->setWindowTitle(title);
-    m_main->setWindowModified(m_project->isOpen() && m_project->isModified());
+    m_main->setWindowModified(m_ground.project->isOpen() && m_ground.project->isModified());
 }
 
 void EditorWindowSet::tellState(const QString &key, const char *state)
@@ -338,8 +312,10 @@ bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        if (auto *widget = qobject_cast<QWidget *>(watched); widget != nullptr && widget->window() != m_popup)
+        if (auto *widget = qobject_cast<QWidget *>(watched);
+            widget != nullptr && widget->window() != m_popup) {
             hidePopup();
+        }
         break;
     case QEvent::KeyPress:
         if (m_popup != nullptr && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
@@ -355,8 +331,9 @@ bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowStateChange:
     case QEvent::Show:
     case QEvent::Hide:
-        if (watched == m_main.get())
+        if (watched == m_main.get()) {
             updateVisible();
+        }
         break;
     default:
         break;

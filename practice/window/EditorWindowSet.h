@@ -1,18 +1,16 @@
 #pragma once
 
-#include "lesson/description/DescriptionSet.h"
-#include "window/EditorProject.h"
+#include "window/EditorGround.h"
 #include "window/EditorWindow.h"
 #include "window/EditorWindows.h"
-#include "window/MapPainter.h"
+#include "window/WindowBuilder.h"
 
 #include <QHash>
-#include <QTimer>
 
 #include <memory>
 
-/// All windows of the editor, built from their descriptions, and what is open of them. The windows exist from
-/// the start and are shown and hidden; the set owns them and the project behind them.
+/// All windows of the editor, and what is open of them. The windows exist from the start and are shown and
+/// hidden; the set owns them and the project behind them.
 class EditorWindowSet : public EditorWindows
 {
     Q_OBJECT
@@ -31,16 +29,17 @@ public:
     [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override;
     [[nodiscard]] QStringList openedFrom(const QString &windowKey) const override
     {
-        return m_descriptions.openedFrom(windowKey);
+        return m_ground.descriptions.openedFrom(windowKey);
     }
     [[nodiscard]] QString title(const QString &windowKey) const override;
     [[nodiscard]] QRect screenRect() const override;
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 
     void setProjectsFolder(const QString &folder) override;
-    void showProject(const QMap<QString, QString> &files) override;
+    bool replaceFiles(const QMap<QString, QString> &files) override;
+    [[nodiscard]] QString projectFolder() const override { return m_ground.project->files().folder(); }
 
-    [[nodiscard]] EditorProject *project() { return m_project.get(); }
+    [[nodiscard]] Project *project() { return m_ground.project.get(); }
 
     /// The window, part or (by its name) context menu; nullptr when there is none. Owned by the set.
     [[nodiscard]] EditorWindow *window(const QString &keyOrPopup) const;
@@ -49,11 +48,11 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    EditorWindowSet(DescriptionSet descriptions, ProjectData data, const QString &locale);
+    EditorWindowSet(EditorGround ground, WindowBuilder::Windows windows);
 
-    void build();
-    EditorWindow *add(const QString &name, const QSize &size, const QVector<ControlDescription> &controls,
-                      QWidget *parent, Qt::WindowFlags flags);
+    void wire(EditorWindow *window);
+    /// Opens the window, in which the command @p begin is run.
+    bool openWith(const QString &windowKey, const QString &begin);
     void place(EditorWindow *window, const WindowDescription &description) const;
     void closeTop();
     void showPopup(const QString &name, const QPoint &position);
@@ -65,16 +64,11 @@ private:
     void onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position);
     void onCloseRequested(const QString &key);
     void tellState(const QString &key, const char *state);
-    [[nodiscard]] EditorWindow *mainWindow() const;
 
-    DescriptionSet m_descriptions;
-    std::unique_ptr<EditorProject> m_project;
-    MapPainter m_painter;
-    EditorWindowContext m_context;
+    EditorGround m_ground;
+    std::unique_ptr<EditorWindow> m_main;
     /// Windows and parts by key, context menus by name.
     QHash<QString, EditorWindow *> m_windows;
-    std::unique_ptr<EditorWindow> m_main;
-    QHash<QString, QTimer *> m_timers;
     QStringList m_stack;
     EditorWindow *m_popup = nullptr;
     QHash<QString, QPoint> m_toldOrigins;

@@ -22,16 +22,22 @@ public:
     /// How the window is called in the person's language; empty when no description has the key, or no title.
     [[nodiscard]] virtual QString title(const QString &windowKey) const = 0;
 
-    /// Offers @p folder as the place of a new project.
+    /// Offers @p folder as the place of projects.
     virtual void setProjectsFolder(const QString &folder) = 0;
 
-    /// Shows the data files, path inside the project to text, as the contents of the open project; does
-    /// nothing while none is open.
-    virtual void showProject(const QMap<QString, QString> &files) = 0;
+    /// Gives the open project these data files, path inside the project to text, in place of its own. False
+    /// when that cannot be done, which problemFound() tells the person.
+    virtual bool replaceFiles(const QMap<QString, QString> &files) = 0;
+
+    /// Full path of the open project's folder; empty while none is open.
+    [[nodiscard]] virtual QString projectFolder() const = 0;
 
 Q_SIGNALS:
-    /// The person has made a new project; its folder is @p name inside of @p location.
-    void projectCreated(const QString &location, const QString &name);
+    /// The person has made a new project, which is open; its folder is called @p name.
+    void projectCreated(const QString &name);
+
+    /// Something that the person asked for cannot be done; @p text says what, why and how to mend it.
+    void problemFound(const QString &text);
 
     /// The person closed the main window: the editor is to end.
     void mainWindowClosed();

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-MapPainter::MapPainter(const ProjectData *data)
+MapPainter::MapPainter(const StartData *data)
     : m_data(data)
 {
 }
@@ -13,8 +13,9 @@ QPixmap MapPainter::tile(int number, int tileSet, int pixels)
 {
     const quint64 key = (quint64(number) << 32U) | (quint64(tileSet) << 16U) | quint64(pixels);
     const auto kept = m_tiles.constFind(key);
-    if (kept != m_tiles.constEnd())
+    if (kept != m_tiles.constEnd()) {
         return *kept;
+    }
     QPixmap pixmap = drawTile(m_data->tiles.value(number).drawing, pixels);
     QPainter painter(&pixmap);
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
@@ -29,14 +30,17 @@ void MapPainter::drawMap(QPainter &painter, const GameMap &map, int cellPixels, 
     const QRect cells = QRect(QPoint(clip.left() / cellPixels, clip.top() / cellPixels),
                               QPoint(clip.right() / cellPixels, clip.bottom() / cellPixels))
                             .intersected(QRect(QPoint(), map.size));
-    if (cells.isEmpty())
+    if (cells.isEmpty()) {
         return;
+    }
     const QVector<QPoint> places = GameMap::rectangle(cells.topLeft(), cells.bottomRight());
     for (int layer = 0; layer < GameMap::kLayers; ++layer) {
         for (const QPoint &cell : places) {
             const int number = map.tile(layer, cell);
-            if (number != GameMap::kEmpty)
+            // A file may have numbers that no tile has.
+            if (number >= 0 && number < m_data->tiles.size()) {
                 painter.drawPixmap(cell * cellPixels, tile(number, map.tileSet, cellPixels));
+            }
         }
     }
 }
@@ -45,7 +49,7 @@ QPixmap MapPainter::tileSetPicture(int tileSet, const QSize &size)
 {
     QPixmap picture(size);
     picture.fill(Qt::white);
-    constexpr int kColumns = ProjectData::kTilesPerTab;
+    constexpr int kColumns = StartData::kTilesPerTab;
     const int rows = m_data->tiles.size() / kColumns;
     const int pixels = qMax(1, qMin(size.width() / kColumns, size.height() / qMax(1, rows)));
     const QPoint start((size.width() - pixels * kColumns) / 2, (size.height() - pixels * rows) / 2);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/ProjectData.h"
+#include "project/StartData.h"
 
 #include <QHash>
 #include <QPixmap>
@@ -10,7 +10,7 @@ class MapPainter
 {
 public:
     /// @p data outlives the painter.
-    explicit MapPainter(const ProjectData *data);
+    explicit MapPainter(const StartData *data);
 
     /// One tile, @p pixels wide and high.
     QPixmap tile(int number, int tileSet, int pixels);
@@ -23,6 +23,6 @@ public:
     QPixmap mapPicture(const GameMap &map, const QSize &size);
 
 private:
-    const ProjectData *m_data;
+    const StartData *m_data;
     QHash<quint64, QPixmap> m_tiles;
 };

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -83,6 +84,7 @@ private:
     [[nodiscard]] QWidget *mainWindow() const { return m_windows->window(QStringLiteral("MainWindow")); }
     void openNewProject();
 
+    QTemporaryDir m_projects;
     EditorWindowSet *m_windows = nullptr;
     std::unique_ptr<PracticeEditor> m_editor;
     std::unique_ptr<XEye> m_eye;
@@ -106,6 +108,7 @@ void TestPracticeWindows::init()
     options.lesson = 1;
     options.locale = QStringLiteral("en_US");
     options.companionProgram = QStringLiteral(TUTORIAL_PROGRAM);
+    options.projectsFolder = m_projects.path();
     m_editor = std::make_unique<PracticeEditor>(options, std::move(windows));
     connect(m_editor.get(), &PracticeEditor::companionConnected, this,
             [this](qint64 pid) { m_eye->setCompanion(pid); });
@@ -252,7 +255,7 @@ void TestPracticeWindows::theArrowComesBackToADialogThatWasClosed()
 
 void TestPracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
 {
-    m_windows->project()->run(QStringLiteral("newProject.create"));
+    m_windows->project()->run(QStringLiteral("newProject.create"), m_windows->project()->files());
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 3, kSoonMs);
@@ -281,7 +284,7 @@ void TestPracticeWindows::startAgainClosesTheDialogs()
 
 void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
 {
-    m_windows->project()->run(QStringLiteral("newProject.create"));
+    m_windows->project()->run(QStringLiteral("newProject.create"), m_windows->project()->files());
     QSignalSpy abandoned(m_windows, &EditorWindows::popupAbandoned);
     QSignalSpy popped(m_windows, &EditorWindows::popped);
     auto *maps = find<QListWidget>("maps");

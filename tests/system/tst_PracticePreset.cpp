@@ -27,11 +27,11 @@ namespace {
 
 constexpr int kSoonMs = 60000;
 
-QStringList rowsOf(const EditorProject &project, const QString &source)
+QStringList rowsOf(Project &project, const char *source)
 {
     QStringList texts;
-    const auto rows = project.rows(source);
-    for (const EditorProject::Row &row : rows) {
+    const QVector<Row> rows = project.sources().rows(QString::fromLatin1(source), project.files());
+    for (const Row &row : rows) {
         texts.append(row.text);
     }
     return texts;
@@ -78,7 +78,7 @@ void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     const auto windows = EditorWindowSet::create(locale, &errors);
     QVERIFY2(windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
     windows->setProjectsFolder(room.path());
-    EditorProject *const project = windows->project();
+    Project *const project = windows->project();
     LessonSession session(windows.get());
     LessonProject lessonProject;
     HostLink link(QStringLiteral(TUTORIAL_PROGRAM), QString(), locale);
@@ -87,12 +87,14 @@ void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     connect(&link, &HostLink::connected, &session, [&session, locale] { session.greet(locale); });
     connect(&session, &LessonSession::filesRequested, &lessonProject, &LessonProject::begin);
     connect(&session, &LessonSession::filesReceived, &lessonProject, &LessonProject::takeFiles);
-    connect(windows.get(), &EditorWindows::projectCreated, &lessonProject, &LessonProject::takePlace);
+    connect(windows.get(), &EditorWindows::projectCreated, &lessonProject, &LessonProject::takeProject);
     QString path;
-    connect(&lessonProject, &LessonProject::made, windows.get(),
-            [&windows, &path](const QString &made, const QMap<QString, QString> &files) {
-                path = made;
-                windows->showProject(files);
+    connect(&lessonProject, &LessonProject::complete, windows.get(),
+            [&windows, &lessonProject, &path](const LessonProject::Files &files) {
+                if (windows->replaceFiles(files)) {
+                    path = windows->projectFolder();
+                    lessonProject.drop();
+                }
             });
     HostLink::Failure failure;
     QVERIFY2(link.start(&failure), qPrintable(failure.reason));
@@ -102,12 +104,12 @@ void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage()
     session.receive(QStringLiteral("start\u0001var scenario = "
                                    "[{\"id\":1,\"condition\":\"click,\",\"command\":\"presetData,step4\"}];"
                                    "\u0001-1"));
-    project->setField(QStringLiteral("newProject.name"), QStringLiteral("Quest"));
-    project->run(QStringLiteral("newProject.create"));
+    project->fields().setValue(QStringLiteral("newProject.name"), QStringLiteral("Quest"), project->files());
+    project->run(QStringLiteral("newProject.create"), project->files());
     QTRY_COMPARE_WITH_TIMEOUT(path, room.filePath(QStringLiteral("Quest")), kSoonMs);
 
-    QCOMPARE(rowsOf(*project, QStringLiteral("maps")), maps);
-    QCOMPARE(rowsOf(*project, QStringLiteral("actors")), heroes);
+    QCOMPARE(rowsOf(*project, "maps"), maps);
+    QCOMPARE(rowsOf(*project, "data/Actors"), heroes);
     const QDir source(QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset/step4/data"));
     const QDir written(path + QStringLiteral("/data"));
     QCOMPARE(written.entryList(QDir::Files), source.entryList(QDir::Files));

@@ -5,11 +5,7 @@
 
 namespace {
 
-const EditorNames kNames{{QStringLiteral("map.edit"), QStringLiteral("map.new")},
-                         {QStringLiteral("map.name")},
-                         {QStringLiteral("maps"), QStringLiteral("tiles")},
-                         {QStringLiteral("map.tileSet")},
-                         {QStringLiteral("save")}};
+const QStringList kCommands{QStringLiteral("map.edit"), QStringLiteral("map.new")};
 
 const QString kShipped = QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions");
 
@@ -112,17 +108,9 @@ void tst_DescriptionSet::tellsBadReferences_data()
         "it.contextMenu.popup: no context menu is called \"Other\"; add it to \"Menu.json\"");
     row("command", R"("type": "progress", "doubleClick": {"run": "map.eat"})",
         "it.doubleClick.run: \"map.eat\" is unknown; use one of: map.edit, map.new");
-    row("field", R"("type": "lineEdit", "field": "map.age")",
-        "it.field: \"map.age\" is unknown; use one of: map.name");
-    row("source", R"("type": "list", "rowHeight": 9, "source": "worlds")",
-        "it.source: \"worlds\" is unknown; use one of: maps, tiles");
-    row("picture", R"("type": "picture", "picture": "face")",
-        "it.picture: \"face\" is unknown; use one of: map.tileSet");
-    row("icon", R"("type": "toolButton", "icon": "axe", "action": "x", "actionState": "", "label": TEXT)",
-        "it.icon: \"axe\" is unknown; use one of: save");
-    row("need",
-        R"("type": "toolButton", "icon": "save", "needs": "luck", "action": "x", "actionState": "", "label": TEXT)",
-        "it.needs: \"luck\" is unknown; use one of: project");
+    row("command in a window that opens",
+        R"("type": "progress", "click": {"open": "Box", "begin": "map.eat"})",
+        "it.click.begin: \"map.eat\" is unknown; use one of: map.edit, map.new");
 }
 
 void tst_DescriptionSet::tellsBadReferences()
@@ -138,7 +126,7 @@ void tst_DescriptionSet::tellsBadReferences()
         files.write(QStringLiteral("Box.json"),
                     QByteArray(text).replace("TEXT", R"({"en_US": "a", "ja_JP": "b", "zh_CN": "c"})"));
     QStringList errors;
-    DescriptionSet::read(files.folder(), &kNames, &errors);
+    DescriptionSet::read(files.folder(), &kCommands, &errors);
     QCOMPARE(errors.size(), 1);
     QVERIFY2(errors.first().startsWith(path + QStringLiteral(": ") + error), qPrintable(errors.first()));
 }
@@ -149,12 +137,12 @@ void tst_DescriptionSet::leavesNamesOfTheEditorAloneWithoutThem()
     files.write(QStringLiteral("Box.json"),
                 QByteArray("{\"key\": \"Box\", \"kind\": \"window\", \"size\": [90, 90], \"place\": [0, 0], "
                            "\"title\": TEXT, \"controls\": [{\"name\": \"it\", \"geometry\": [0, 0, 9, 9], "
-                           "\"type\": \"lineEdit\", \"field\": \"map.age\"}]}")
+                           "\"type\": \"button\", \"click\": {\"run\": \"map.eat\"}}]}")
                     .replace("TEXT", R"({"en_US": "a", "ja_JP": "b", "zh_CN": "c"})"));
     QStringList errors;
     DescriptionSet::read(files.folder(), nullptr, &errors);
     QCOMPARE(errors, QStringList());
-    DescriptionSet::read(files.folder(), &kNames, &errors);
+    DescriptionSet::read(files.folder(), &kCommands, &errors);
     QCOMPARE(errors.size(), 1);
 }
 

@@ -32,7 +32,8 @@ class tst_WindowDescription : public QObject
 
 private Q_SLOTS:
     void readsAWindow();
-    void readsAListATabRowAndASpinBox();
+    void readsAListATabRowAndAnAction();
+    void leavesTheFieldsOfATypeToItsReader();
     void readsContextMenus();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
@@ -56,14 +57,13 @@ void tst_WindowDescription::readsAWindow()
     const ControlDescription &button = window.controls.first();
     QCOMPARE(button.geometry, QRect(100, 60, 90, 30));
     QCOMPARE(button.label.value(QStringLiteral("zh_CN")), QStringLiteral("c"));
-    QVERIFY(button.isDefault);
     QCOMPARE(button.click.run, QStringLiteral("map.undo"));
     QVERIFY(button.click.close);
     QCOMPARE(button.click.open, QStringLiteral("Other"));
     QVERIFY(button.doubleClick.isEmpty());
 }
 
-void tst_WindowDescription::readsAListATabRowAndASpinBox()
+void tst_WindowDescription::readsAListATabRowAndAnAction()
 {
     const DescriptionFiles files;
     QStringList errors;
@@ -74,7 +74,8 @@ void tst_WindowDescription::readsAListATabRowAndASpinBox()
    "contextMenu": {"popup": "MapPopup"}},
   {"type": "tabs", "name": "tabs", "geometry": [0, 50, 90, 24], "tabWidth": 45, "source": "tileTab",
    "tabs": [TEXT, TEXT]},
-  {"type": "spinBox", "name": "part", "geometry": [90, 0, 90, 24], "field": "map.width", "range": [1, 99], "suffix": " %"}
+  {"type": "toolButton", "name": "open", "geometry": [90, 0, 90, 24], "action": "fileOpen",
+   "actionState": "open", "click": {"open": "Other", "begin": "map.new"}}
  ]
 })")
                                 .replace("TEXT", kText);
@@ -83,11 +84,26 @@ void tst_WindowDescription::readsAListATabRowAndASpinBox()
     QVERIFY(part.kind == WindowDescription::Kind::kPart);
     QCOMPARE(part.owner, QStringLiteral("Box"));
     QCOMPARE(part.controls[0].rowHeight, 24);
+    QCOMPARE(part.controls[0].tabWidth, 0);
     QCOMPARE(part.controls[0].contextMenu.popup, QStringLiteral("MapPopup"));
-    QCOMPARE(part.controls[1].tabs.size(), 2);
     QCOMPARE(part.controls[1].tabWidth, 45);
-    QCOMPARE(part.controls[2].maximum, 99);
-    QCOMPARE(part.controls[2].suffix, QStringLiteral(" %"));
+    QCOMPARE(part.controls[2].actionName, QStringLiteral("fileOpen"));
+    QCOMPARE(part.controls[2].actionState, QStringLiteral("open"));
+    QCOMPARE(part.controls[2].click.begin, QStringLiteral("map.new"));
+}
+
+void tst_WindowDescription::leavesTheFieldsOfATypeToItsReader()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path = files.write(QStringLiteral("Box.json"),
+                                     box(R"("default": true)", R"("range": [1, 2], "suffix": " %")"));
+    const auto window = WindowDescription::read(path, &errors);
+    QCOMPARE(errors, QStringList());
+    const JsonPlace own = window.controls.first().own;
+    QCOMPARE(own.file, path);
+    QCOMPARE(own.place, QStringLiteral("controls[0]."));
+    QCOMPARE(own.object.keys(), (QStringList{QStringLiteral("range"), QStringLiteral("suffix")}));
 }
 
 void tst_WindowDescription::readsContextMenus()
@@ -115,18 +131,16 @@ void tst_WindowDescription::tellsWhatIsWrong_data()
     const auto row = [](const char *name, const char *piece, const char *replacement, const char *error) {
         QTest::newRow(name) << QByteArray(piece) << QByteArray(replacement) << QString::fromLatin1(error);
     };
-    row("unknown control type", R"("type": "button")", R"("type": "buton")",
-        "controls[0].type: \"buton\" is unknown; use one of: button, checkBox, entry, label, "
-        "lineEdit, "
-        "list, map, picture, progress, spinBox, tabs, toolButton");
     row("outside the window", "[100, 60, 90, 30]", "[120, 60, 90, 30]",
         "controls[0].geometry: reaches out of the window; keep it inside its size");
     row("three numbers for a rectangle", "[100, 60, 90, 30]", "[100, 60, 90]",
         "controls[0].geometry: must be a list of 4 whole numbers");
-    row("misspelt field", R"("default": true)", R"("defualt": true)",
-        "controls[0].defualt: is not a field that is known here; remove it or correct its name");
-    row("text for a flag", R"("default": true)", R"("default": "yes")",
-        "controls[0].default: must be true or false");
+    row("misspelt field", R"("kind": "window")", R"("kind": "window", "palce": [1, 2])",
+        "palce: is not a field that is known here; remove it or correct its name");
+    row("text for a flag", R"("kind": "window")", R"("kind": "window", "draft": "yes")",
+        "draft: must be true or false");
+    row("something to begin in no window", R"("open": "Other")", R"("begin": "map.new")",
+        "controls[0].click: begins something in no window; give it an open, too");
     row("missing language", R"("title": TEXT)", R"("title": {"en_US": "a", "ja_JP": "b"})",
         "title: needs a text for \"zh_CN\"");
     row("unknown kind", R"("kind": "window")", R"("kind": "windw")",
@@ -145,16 +159,13 @@ void tst_WindowDescription::tellsWhatIsWrong_data()
         R"("controls": [{"type": "label", "name": "ok", "geometry": [0, 0, 9, 9], "label": TEXT},)",
         "controls[1].name: \"ok\" stands here twice; give each control its own");
     row("a state that no action has", R"("type": "button")",
-        R"("type": "toolButton", "icon": "pencil", "action": "x", "actionState": "shut")",
+        R"("type": "toolButton", "action": "x", "actionState": "shut")",
         "controls[0].actionState: must be \"open\", \"close\" or empty");
     row("a part of nothing", R"("kind": "window")", R"("kind": "part")", "partOf: must be a text");
     row("half a pixel", R"("place": [10, 20])", R"("place": [10, 20], "closesAfterMs": 0.5)",
         "closesAfterMs: must be a whole number");
-    row("rows without height", R"("type": "button")", R"("type": "list", "source": "maps", "rowHeight": 0)",
+    row("rows without height", R"("type": "button")", R"("type": "list", "rowHeight": 0)",
         "controls[0].rowHeight: must be above 0");
-    row("a row of no tabs", R"("type": "button")",
-        R"("type": "tabs", "source": "tileTab", "tabWidth": 9, "tabs": [])",
-        "controls[0].tabs: must be a list of texts in the three languages");
 }
 
 void tst_WindowDescription::tellsWhatIsWrong()

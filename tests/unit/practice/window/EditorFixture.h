@@ -1,10 +1,11 @@
 #pragma once
 
 #include "window/EditorWindowSet.h"
-#include "window/MapView.h"
-#include "window/RowList.h"
+#include "window/control/MapView.h"
+#include "window/control/RowList.h"
 
 #include <QAbstractButton>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <utility>
@@ -23,6 +24,7 @@ public:
     {
         if (!m_set)
             qFatal("%s", qPrintable(m_errors.join(QLatin1Char('\n'))));
+        m_set->setProjectsFolder(m_folder.path());
         QObject::connect(
             m_set.get(), &EditorWindows::happened, m_set.get(), [this](const EditorEvent &event) {
                 told.append(QStringList{event.type, event.target, event.value}.join(QLatin1Char(',')) +
@@ -43,9 +45,18 @@ public:
     void openProject()
     {
         m_set->open(str("MainWindow"));
-        m_set->project()->run(str("newProject.create"));
+        run("newProject.create");
         told.clear();
     }
+
+    void run(const char *command) { m_set->project()->run(str(command), m_set->project()->files()); }
+    [[nodiscard]] const GameMap *shownMap() const { return m_set->project()->board().map(); }
+    [[nodiscard]] QVector<Row> rows(const char *source) const
+    {
+        return m_set->project()->sources().rows(str(source), m_set->project()->files());
+    }
+    /// Where projects are made.
+    [[nodiscard]] QString folder() const { return m_folder.path(); }
 
     EditorWindowSet *operator->() const { return m_set.get(); }
 
@@ -91,6 +102,7 @@ private:
         return list->visualItemRect(list->item(row)).center();
     }
 
+    QTemporaryDir m_folder;
     QStringList m_errors;
     std::unique_ptr<EditorWindowSet> m_set;
 };

@@ -60,7 +60,7 @@ void tst_EditorControls::toolButtonsNeedAProject()
     editor.takeTold();
     editor.click("MainWindow", "drawEraser");
     QCOMPARE(editor.takeTold(), QStringList());
-    editor->project()->run(str("newProject.create"));
+    editor.run("newProject.create");
     editor.click("MainWindow", "drawEraser");
     QVERIFY(editor.find<QAbstractButton>("MainWindow", "drawEraser")->isChecked());
     QVERIFY(!editor.find<QAbstractButton>("MainWindow", "drawPencil")->isChecked());
@@ -75,7 +75,7 @@ void tst_EditorControls::rowsAreToldEvenWhenSelectedAlready()
     const QStringList told{str("list,2, in MapEditTreeBox")};
     editor.clickRow("MapEditTreeBox", "maps", 2);
     QCOMPARE(editor.takeTold(), told);
-    QCOMPARE(editor->project()->map()->name, str("Harbor"));
+    QCOMPARE(editor.shownMap()->name, str("Harbor"));
     editor.clickRow("MapEditTreeBox", "maps", 2);
     QCOMPARE(editor.takeTold(), told);
     editor.clickRow("MainWindow", "tiles", 0);
@@ -100,7 +100,7 @@ void tst_EditorControls::rightClickSelectsWithoutTellingARow()
     editor.openProject();
     editor.clickRow("MapEditTreeBox", "maps", 3, Qt::RightButton);
     QCOMPARE(editor.takeTold(), (QStringList{str("push Popup"), str("popup,MapPopup, in Menu")}));
-    QCOMPARE(editor->project()->map()->name, str("Oasis"));
+    QCOMPARE(editor.shownMap()->name, str("Oasis"));
 }
 
 void tst_EditorControls::tabsAreToldEvenWhenCurrentAlready()
@@ -153,7 +153,7 @@ void tst_EditorControls::mapPaintsWithEachTool()
     QFETCH(int, tile);
     Editor editor;
     editor.openProject();
-    const int before = editor->project()->map()->tile(0, painted);
+    const int before = editor.shownMap()->tile(0, painted);
     QVERIFY(before != tile);
     editor.clickRow("MainWindow", "tiles", 4);
     editor.click("MainWindow", tool.constData());
@@ -164,10 +164,10 @@ void tst_EditorControls::mapPaintsWithEachTool()
     QApplication::sendEvent(editor.map(), &move);
     QVERIFY(editor.map()->grab().toImage() != pictureBefore);
     QTest::mouseRelease(editor.map(), Qt::LeftButton, {}, QPoint(176, 176));
-    QCOMPARE(editor->project()->map()->tile(0, painted), tile);
+    QCOMPARE(editor.shownMap()->tile(0, painted), tile);
     QVERIFY(editor->window(str("MainWindow"))->isWindowModified());
     editor.click("MainWindow", "editUndo");
-    QCOMPARE(editor->project()->map()->tile(0, painted), before);
+    QCOMPARE(editor.shownMap()->tile(0, painted), before);
     QCOMPARE(editor.map()->grab().toImage(), pictureBefore);
 }
 
@@ -180,7 +180,7 @@ void tst_EditorControls::eventModeDoesNotPaint()
     const QImage before = editor.map()->grab().toImage();
     QTest::mouseClick(editor.map(), Qt::LeftButton, {}, QPoint(112, 112));
     QVERIFY(editor.map()->grab().toImage() != before);
-    QCOMPARE(editor->project()->map()->tile(0, {3, 3}), 0);
+    QCOMPARE(editor.shownMap()->tile(0, {3, 3}), 0);
     QVERIFY(!editor->project()->isModified());
 }
 
@@ -222,7 +222,6 @@ void tst_EditorControls::pictureIsChosenInItsWindow()
     Editor editor;
     editor.openProject();
     const QImage before = editor.map()->grab().toImage();
-    editor->project()->run(str("map.edit"));
     editor->open(str("MapProperties"));
     editor.takeTold();
     editor.click("MapProperties", "tileSet");
@@ -234,7 +233,7 @@ void tst_EditorControls::pictureIsChosenInItsWindow()
     editor.click("ImageSelector", "ok");
     QCOMPARE(editor.takeTold(), closed("ImageSelector"));
     editor.click("MapProperties", "ok");
-    QCOMPARE(editor->project()->map()->tileSet, 2);
+    QCOMPARE(editor.shownMap()->tileSet, 2);
     QVERIFY(editor.map()->grab().toImage() != before);
 }
 
@@ -256,7 +255,7 @@ void tst_EditorControls::doubleClicksOpenAndAccept()
     QVERIFY(editor.find<QWidget>("MapLoader", "preview")->grab().toImage() != firstMap);
     editor.doubleClickRow("MapLoader", "sampleMaps", 4);
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    QCOMPARE(editor->project()->map()->name, str("Oasis"));
+    QCOMPARE(editor.shownMap()->name, str("Oasis"));
     QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 5);
 }
 
@@ -266,18 +265,17 @@ void tst_EditorControls::returnKeyAcceptsAndEscapeCancels()
     editor.openProject();
     editor->open(str("MapLoader"));
     QTest::keyClick(editor->window(str("MapLoader")), Qt::Key_Escape);
-    QCOMPARE(editor->project()->rows(str("maps")).size(), 4);
+    QCOMPARE(editor.rows("maps").size(), 4);
     editor->open(str("MapLoader"));
     QTest::keyClick(editor.find<RowList>("MapLoader", "sampleMaps"), Qt::Key_Return);
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    QCOMPARE(editor->project()->rows(str("maps")).size(), 5);
+    QCOMPARE(editor.rows("maps").size(), 5);
 }
 
 void tst_EditorControls::valuesAreTold()
 {
     Editor editor;
     editor.openProject();
-    editor->project()->run(str("map.edit"));
     editor->open(str("MapProperties"));
     editor.takeTold();
     auto *width = editor.find<QSpinBox>("MapProperties", "width");
@@ -289,7 +287,7 @@ void tst_EditorControls::valuesAreTold()
     QCOMPARE(editor.takeTold(), (QStringList{str("checked,showName,0 in MapProperties"),
                                              str("checked,showName,1 in MapProperties")}));
     editor.click("MapProperties", "ok");
-    QCOMPARE(editor->project()->map()->size, QSize(25, 16));
+    QCOMPARE(editor.shownMap()->size, QSize(25, 16));
 }
 
 QTEST_MAIN(tst_EditorControls)

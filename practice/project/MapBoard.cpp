@@ -1,0 +1,86 @@
+#include "project/MapBoard.h"
+
+#include "project/MapTree.h"
+
+#include <QJsonObject>
+
+namespace {
+
+const QString &dataMember()
+{
+    static const QString member = QStringLiteral("data");
+    return member;
+}
+
+} // namespace
+
+MapBoard::MapBoard(DataFiles *files, const RowSources *sources, const EditorTools *tools, QObject *parent)
+    : QObject(parent)
+    , m_files(files)
+    , m_sources(sources)
+    , m_tools(tools)
+{
+    connect(files, &DataLayer::changed, this, [this] { m_map.reset(); });
+}
+
+int MapBoard::number() const
+{
+    return m_sources->number(QStringLiteral("maps"), *m_files);
+}
+
+const GameMap *MapBoard::map() const
+{
+    const int shown = number();
+    if (shown < 0) {
+        return nullptr;
+    }
+    if (!m_map) {
+        m_map = GameMap::fromFile(m_files->file(MapTree::fileOf(shown)));
+        m_map->name = m_files->value(MapTree::file(), QStringLiteral("/%1/name").arg(shown)).toString();
+    }
+    return &*m_map;
+}
+
+QVector<QPoint> MapBoard::cellsOfStroke(const QPoint &from, const QPoint &to) const
+{
+    switch (m_tools->tool()) {
+    case EditorTools::Tool::kRectangle:
+        return GameMap::rectangle(from, to);
+    case EditorTools::Tool::kEllipse:
+        return GameMap::ellipse(from, to);
+    case EditorTools::Tool::kFill:
+        return map() != nullptr ? map()->connected(m_tools->layer(), to) : QVector<QPoint>();
+    case EditorTools::Tool::kPencil:
+    case EditorTools::Tool::kEraser:
+        break;
+    }
+    return GameMap::line(from, to);
+}
+
+void MapBoard::beginStroke()
+{
+    ++m_stroke;
+}
+
+void MapBoard::paint(const QVector<QPoint> &cells)
+{
+    const GameMap *shown = map();
+    if (shown == nullptr) {
+        return;
+    }
+    const QString name = MapTree::fileOf(number());
+    QJsonObject file = m_files->file(name).toObject();
+    QJsonArray data = file.value(dataMember()).toArray();
+    // A file with too few numbers gets the others: they count as empty.
+    while (data.size() < GameMap::kLayers * shown->size.width() * shown->size.height()) {
+        data.append(0);
+    }
+    const int tile = m_tools->tool() == EditorTools::Tool::kEraser ? GameMap::kEmpty : m_tools->tile();
+    for (const QPoint &cell : cells) {
+        if (shown->contains(cell)) {
+            data.replace(shown->placeInFile(m_tools->layer(), cell), tile + 1);
+        }
+    }
+    file.insert(dataMember(), data);
+    m_files->change({{name, file}}, QStringLiteral("stroke %1").arg(m_stroke));
+}

@@ -1,0 +1,46 @@
+#include "project/NewProject.h"
+
+#include "project/ProjectFolder.h"
+
+#include <utility>
+
+NewProject::NewProject(QString name, QString location)
+    : m_typed{std::move(name), std::move(location)}
+    , m_accepted(m_typed)
+{
+}
+
+void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources)
+{
+    fields.add(QStringLiteral("newProject.name"), reader(&Form::name), writer(&Form::name));
+    fields.add(QStringLiteral("newProject.location"), reader(&Form::location), writer(&Form::location));
+    commands.add(QStringLiteral("newProject.begin"), [this] { m_typed = m_accepted; });
+    sources.add(QStringLiteral("projects"), [this](const DataLayer & /*layer*/) {
+        QVector<Row> rows;
+        const QStringList names = ProjectFolder::projectsIn(m_typed.location);
+        for (const QString &name : names) {
+            rows.append({name, int(rows.size())});
+        }
+        return rows;
+    });
+}
+
+void NewProject::setLocation(const QString &location)
+{
+    m_typed.location = location;
+    m_accepted.location = location;
+}
+
+Fields::Read NewProject::reader(QString Form::*text) const
+{
+    return [this, text](const DataLayer & /*layer*/) {
+        return m_typed.*text;
+    };
+}
+
+Fields::Write NewProject::writer(QString Form::*text)
+{
+    return [this, text](DataLayer & /*layer*/, const QVariant &value) {
+        m_typed.*text = value.toString();
+    };
+}

@@ -1,0 +1,120 @@
+#include "project/Project.h"
+
+#include "project/MapTree.h"
+#include "project/ProjectFolder.h"
+
+#include <QDir>
+
+#include <utility>
+
+Project::Project(StartData start, const QString &location, QObject *parent)
+    : QObject(parent)
+    , m_start(std::move(start))
+    , m_fields(&m_sources)
+    , m_drafts(&m_files)
+    , m_tools(&m_start)
+    , m_board(&m_files, &m_sources, &m_tools)
+    , m_maps(&m_start, &m_sources)
+    , m_newProject(m_start.texts.value(QStringLiteral("projectName")), location)
+{
+    m_tools.addTo(m_commands, m_sources);
+    m_maps.addTo(m_commands, m_fields, m_sources);
+    m_newProject.addTo(m_commands, m_fields, m_sources);
+    addOwnWords();
+    connect(&m_files, &DataLayer::changed, this, &Project::changed);
+    connect(&m_drafts, &Drafts::changed, this, &Project::changed);
+    connect(&m_tools, &EditorTools::changed, this, &Project::changed);
+}
+
+void Project::addOwnWords()
+{
+    m_fields.add(QStringLiteral("status"), [this](const DataLayer & /*layer*/) { return status(); });
+    m_commands.add(QStringLiteral("newProject.accept"), [this] { m_files.close(); });
+    m_commands.add(QStringLiteral("newProject.create"), [this] { create(); });
+    m_commands.add(QStringLiteral("project.open"), [this] { openChosen(); });
+    m_commands.add(QStringLiteral("project.save"), [this] { save(); });
+    m_commands.add(QStringLiteral("edit.undo"), [this] { showMapOf(m_files.undo()); });
+    m_commands.add(QStringLiteral("edit.redo"), [this] { showMapOf(m_files.redo()); });
+    m_commands.add(QStringLiteral("draft.accept"), [](DataLayer &layer) { layer.accept(); });
+}
+
+QString Project::name() const
+{
+    return isOpen() ? QDir(m_files.folder()).dirName() : QString();
+}
+
+void Project::run(const QString &command, DataLayer &layer)
+{
+    m_commands.run(command, layer);
+    Q_EMIT changed();
+}
+
+void Project::create()
+{
+    m_newProject.accept();
+    QString error;
+    const std::optional<QString> folder =
+        ProjectFolder::create(m_newProject.location(), m_newProject.name(), m_start.files(), &error);
+    if (!folder || !m_files.open(*folder, &error)) {
+        Q_EMIT failed(error);
+        return;
+    }
+    Q_EMIT created(name());
+}
+
+void Project::openChosen()
+{
+    const QStringList projects = ProjectFolder::projectsIn(m_newProject.location());
+    const QString chosen = projects.value(m_sources.number(QStringLiteral("projects"), m_files));
+    QString error;
+    if (!chosen.isEmpty() && !m_files.open(QDir(m_newProject.location()).filePath(chosen), &error)) {
+        Q_EMIT failed(error);
+    }
+}
+
+void Project::save()
+{
+    QString error;
+    if (!m_files.save(&error)) {
+        Q_EMIT failed(error);
+    }
+}
+
+void Project::setProjectsFolder(const QString &folder)
+{
+    m_newProject.setLocation(folder);
+    Q_EMIT changed();
+}
+
+bool Project::replaceFiles(const DataFiles::Texts &texts)
+{
+    QString error;
+    if (!m_files.replace(texts, &error)) {
+        Q_EMIT failed(error);
+        return false;
+    }
+    m_drafts.clear();
+    return true;
+}
+
+void Project::showMapOf(const QStringList &files)
+{
+    const QString maps = QStringLiteral("maps");
+    const QVector<Row> rows = m_sources.rows(maps, m_files);
+    for (const Row &row : rows) {
+        if (files.contains(MapTree::fileOf(row.number))) {
+            m_files.select(maps, row.number);
+        }
+    }
+}
+
+QString Project::status() const
+{
+    const GameMap *shown = m_board.map();
+    if (shown == nullptr) {
+        return isOpen() ? QString() : m_start.texts.value(QStringLiteral("noProject"));
+    }
+    return m_start.texts.value(QStringLiteral("status"))
+        .arg(shown->name, QString::number(shown->size.width()), QString::number(shown->size.height()),
+             QString::number(m_tools.cellPixels() * 100 / EditorTools::kFullSize));
+}

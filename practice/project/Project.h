@@ -1,0 +1,79 @@
+#pragma once
+
+#include "project/Commands.h"
+#include "project/DataFiles.h"
+#include "project/Drafts.h"
+#include "project/EditorTools.h"
+#include "project/Fields.h"
+#include "project/MapBoard.h"
+#include "project/Maps.h"
+#include "project/NewProject.h"
+#include "project/StartData.h"
+
+/// The open project with all that windows show of it and do with it: the one owner of its data files, their
+/// history and their drafts. Windows know fields, lists and commands by the names that descriptions use, and
+/// say in which layer they stand.
+class Project : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// No project is open at first. Projects are made in @p location.
+    explicit Project(StartData start, const QString &location, QObject *parent = nullptr);
+
+    [[nodiscard]] const StartData &start() const { return m_start; }
+    [[nodiscard]] const Commands &commands() const { return m_commands; }
+    [[nodiscard]] const Fields &fields() const { return m_fields; }
+    [[nodiscard]] const RowSources &sources() const { return m_sources; }
+
+    /// The lowest layer.
+    [[nodiscard]] DataFiles &files() { return m_files; }
+    [[nodiscard]] Drafts &drafts() { return m_drafts; }
+    [[nodiscard]] const EditorTools &tools() const { return m_tools; }
+    [[nodiscard]] MapBoard &board() { return m_board; }
+
+    [[nodiscard]] bool isOpen() const { return m_files.isOpen(); }
+    [[nodiscard]] bool isModified() const { return !m_files.changedFiles().isEmpty(); }
+    /// That of its folder; empty while no project is open.
+    [[nodiscard]] QString name() const;
+
+    /// Runs a command for a window that stands in @p layer. Does nothing where it makes no sense, such as
+    /// undo with nothing to undo.
+    void run(const QString &command, DataLayer &layer);
+
+    /// Offers @p folder as the place of projects.
+    void setProjectsFolder(const QString &folder);
+
+    /// Gives the open project these data files in place of its own, on the disk, too. False, and failed() is
+    /// told, when that cannot be done; it stays as it was then.
+    bool replaceFiles(const DataFiles::Texts &texts);
+
+Q_SIGNALS:
+    /// Whatever the windows may show.
+    void changed();
+    /// The person has made a new project. It is open and stands on the disk, with the files that every new
+    /// project has.
+    void created(const QString &name);
+    /// The person asked for something that cannot be done; @p text says what, why and how to mend it.
+    void failed(const QString &text);
+
+private:
+    void addOwnWords();
+    void create();
+    void openChosen();
+    void save();
+    /// Shows the map among the files that a step of the history has changed.
+    void showMapOf(const QStringList &files);
+    [[nodiscard]] QString status() const;
+
+    StartData m_start;
+    Commands m_commands;
+    RowSources m_sources;
+    Fields m_fields;
+    DataFiles m_files;
+    Drafts m_drafts;
+    EditorTools m_tools;
+    MapBoard m_board;
+    Maps m_maps;
+    NewProject m_newProject;
+};

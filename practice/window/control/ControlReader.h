@@ -1,0 +1,69 @@
+#pragma once
+
+#include "lesson/description/WindowDescription.h"
+#include "window/EditorWindow.h"
+
+#include <functional>
+
+class MapPainter;
+class QAbstractButton;
+
+/// What the controls of all windows share; the pointers outlive the windows.
+struct ControlContext
+{
+    Project *project;
+    MapPainter *painter;
+    QString locale;
+};
+
+/// Makes the control that a description has told of, as a child of the window. The window owns it.
+using ControlMaker = std::function<QWidget *(EditorWindow *window)>;
+
+/// Reads what a description says of one control. Each thing that is wrong is one line in the list of errors,
+/// with file, place and mend.
+class ControlReader
+{
+public:
+    /// All of them outlive the reader.
+    ControlReader(const ControlDescription *description, const ControlContext *context, QStringList *errors);
+
+    [[nodiscard]] const ControlDescription &description() const { return *m_description; }
+    [[nodiscard]] const ControlContext &context() const { return *m_context; }
+    /// The fields that are the type's own.
+    [[nodiscard]] JsonReader &json() { return m_json; }
+
+    /// The required fields: an error when absent or of no use.
+    [[nodiscard]] QString label();
+    [[nodiscard]] QString field();
+    [[nodiscard]] QString source();
+    [[nodiscard]] int rowHeight();
+    [[nodiscard]] int tabWidth();
+    void readAction();
+
+    [[nodiscard]] bool has(const QString &field) const { return m_json.has(field); }
+
+    /// Adds an error when @p value, which stands in @p field, is none of @p allowed.
+    void oneOf(const QString &field, const QString &value, const QStringList &allowed);
+
+    /// Adds an error for each field that no control of this type has.
+    void finish();
+
+private:
+    void require(const QString &field, bool isThere);
+
+    const ControlDescription *m_description;
+    const ControlContext *m_context;
+    JsonReader m_json;
+    QStringList m_taken;
+};
+
+/// Runs @p refresh now and whenever the window is to show what there is, as long as @p widget lives.
+template<typename Refresh>
+void keepFresh(QWidget *widget, EditorWindow *window, Refresh refresh)
+{
+    QObject::connect(window, &EditorWindow::refreshed, widget, refresh);
+    refresh();
+}
+
+/// Carries out what a click on the button does and reports the action, if it is one.
+void wireClick(QAbstractButton *button, const ControlDescription &description, EditorWindow *window);

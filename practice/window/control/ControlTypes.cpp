@@ -1,0 +1,54 @@
+#include "window/control/ControlTypes.h"
+
+#include "window/control/ButtonControl.h"
+#include "window/control/CheckBoxControl.h"
+#include "window/control/EntryControl.h"
+#include "window/control/LabelControl.h"
+#include "window/control/LineEditControl.h"
+#include "window/control/ListControl.h"
+#include "window/control/MapControl.h"
+#include "window/control/PictureControl.h"
+#include "window/control/ProgressControl.h"
+#include "window/control/SpinBoxControl.h"
+#include "window/control/TabsControl.h"
+#include "window/control/ToolButtonControl.h"
+
+#include <QMap>
+
+namespace {
+
+using Read = ControlMaker (*)(ControlReader &);
+
+const QMap<QString, Read> &readers()
+{
+    static const QMap<QString, Read> readers{
+        {QStringLiteral("button"), readButton},     {QStringLiteral("checkBox"), readCheckBox},
+        {QStringLiteral("entry"), readEntry},       {QStringLiteral("label"), readLabel},
+        {QStringLiteral("lineEdit"), readLineEdit}, {QStringLiteral("list"), readList},
+        {QStringLiteral("map"), readMap},           {QStringLiteral("picture"), readPicture},
+        {QStringLiteral("progress"), readProgress}, {QStringLiteral("spinBox"), readSpinBox},
+        {QStringLiteral("tabs"), readTabs},         {QStringLiteral("toolButton"), readToolButton},
+    };
+    return readers;
+}
+
+} // namespace
+
+QStringList controlTypes()
+{
+    return readers().keys();
+}
+
+ControlMaker readControl(const ControlDescription &description, const ControlContext &context,
+                         QStringList *errors)
+{
+    ControlReader reader(&description, &context, errors);
+    const auto read = readers().constFind(description.type);
+    if (read == readers().constEnd()) {
+        reader.oneOf(QStringLiteral("type"), description.type, controlTypes());
+        return {};
+    }
+    ControlMaker maker = (*read)(reader);
+    reader.finish();
+    return maker;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "window/control/ControlReader.h"
+
+/// An entry of a context menu.
+[[nodiscard]] ControlMaker readEntry(ControlReader &reader);

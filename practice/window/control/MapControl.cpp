@@ -1,0 +1,32 @@
+#include "window/control/MapControl.h"
+
+#include "window/control/MapView.h"
+
+#include <QScrollArea>
+
+ControlMaker readMap(ControlReader &reader)
+{
+    const QString target = reader.json().text(QStringLiteral("target"));
+    MapPainter *painter = reader.context().painter;
+    const ControlAction contextMenu = reader.description().contextMenu;
+    return [target, painter, contextMenu](EditorWindow *window) {
+        auto *area = new QScrollArea(window);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setBackgroundRole(QPalette::Dark);
+        auto *view = new MapView(&window->project().board(), &window->project().tools(), painter);
+        area->setWidget(view);
+        keepFresh(view, window, [view] { view->refresh(); });
+        QObject::connect(view, &MapView::pressed, window, [window] {
+            window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"));
+        });
+        QObject::connect(view, &MapView::clicked, window, [window, target] {
+            window->report(QStringLiteral("mouseEvent"), target, QStringLiteral("click"));
+        });
+        QObject::connect(view, &MapView::menuRequested, window,
+                         [window, target, contextMenu](const QPoint &at) {
+                             window->report(QStringLiteral("menuEvent"), target, QStringLiteral("click"));
+                             window->act(contextMenu, at);
+                         });
+        return area;
+    };
+}

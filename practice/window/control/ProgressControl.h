@@ -1,0 +1,6 @@
+#pragma once
+
+#include "window/control/ControlReader.h"
+
+/// A bar that moves as long as something goes on.
+[[nodiscard]] ControlMaker readProgress(ControlReader &reader);

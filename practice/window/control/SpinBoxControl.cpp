@@ -1,0 +1,26 @@
+#include "window/control/SpinBoxControl.h"
+
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+ControlMaker readSpinBox(ControlReader &reader)
+{
+    const QString field = reader.field();
+    const QVector<int> range = reader.json().numbers(QStringLiteral("range"), 2);
+    const QString suffix = reader.json().text(QStringLiteral("suffix"), QString());
+    return [field, range, suffix](EditorWindow *window) {
+        auto *spin = new QSpinBox(window);
+        spin->setRange(range.at(0), range.at(1));
+        spin->setSuffix(suffix);
+        keepFresh(spin, window, [spin, window, field] {
+            const QSignalBlocker quiet(spin);
+            spin->setValue(window->field(field).toInt());
+        });
+        QObject::connect(spin, qOverload<int>(&QSpinBox::valueChanged), window,
+                         [spin, window, field](int value) {
+                             window->setField(field, value);
+                             window->report(QStringLiteral("spinBox"), QStringLiteral("="), spin->text());
+                         });
+        return spin;
+    };
+}

@@ -1,0 +1,38 @@
+#include "window/control/ToolButtonControl.h"
+
+#include "window/ToolIcon.h"
+
+#include <QToolButton>
+
+ControlMaker readToolButton(ControlReader &reader)
+{
+    const QString label = reader.label();
+    const QString icon = reader.json().text(QStringLiteral("icon"));
+    reader.oneOf(QStringLiteral("icon"), icon, toolIcons());
+    const QString needs = reader.json().text(QStringLiteral("needs"), QString());
+    reader.oneOf(QStringLiteral("needs"), needs, {QStringLiteral("project")});
+    reader.readAction();
+    return [label, icon, needs, description = reader.description()](EditorWindow *window) {
+        constexpr int kFontPixels = 10;
+        constexpr int kIconPixels = 24;
+        auto *button = new QToolButton(window);
+        button->setText(label);
+        button->setIcon(toolIcon(icon));
+        button->setIconSize({kIconPixels, kIconPixels});
+        button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        QFont small = window->font();
+        small.setPixelSize(kFontPixels);
+        button->setFont(small);
+        keepFresh(button, window, [button, window, needs, command = description.click.run] {
+            const Project &project = window->project();
+            button->setEnabled(needs.isEmpty() || project.isOpen());
+            const std::optional<bool> on = project.commands().isOn(command);
+            button->setCheckable(on.has_value());
+            button->setChecked(on.value_or(false));
+        });
+        wireClick(button, description, window);
+        return button;
+    };
+}
