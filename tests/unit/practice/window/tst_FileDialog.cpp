@@ -1,0 +1,94 @@
+#include "EditorFixture.h"
+
+/// The window that opens a project, which is nothing but a description.
+class tst_FileDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensFromTheToolBarAndIsTold();
+    void opensTheChosenProject_data();
+    void opensTheChosenProject();
+    void cancelLeavesTheProjectOpen();
+    void whatWasDrawnAndSavedIsThereAgain();
+};
+
+void tst_FileDialog::opensFromTheToolBarAndIsTold()
+{
+    Editor editor;
+    editor->open(str("MainWindow"));
+    editor.takeTold();
+    editor.click("MainWindow", "fileOpen");
+    QCOMPARE(editor.takeTold(),
+             opened("FileDialog") + QStringList{str("action,fileOpen,open in MainWindow")});
+    QCOMPARE(editor.find<RowList>("FileDialog", "projects")->count(), 0);
+    editor.click("FileDialog", "ok");
+    QCOMPARE(editor.takeTold(), closed("FileDialog"));
+    QVERIFY(!editor->project()->isOpen());
+}
+
+void tst_FileDialog::opensTheChosenProject_data()
+{
+    QTest::addColumn<bool>("byDoubleClick");
+    QTest::newRow("Open") << false;
+    QTest::newRow("double click") << true;
+}
+
+void tst_FileDialog::opensTheChosenProject()
+{
+    QFETCH(bool, byDoubleClick);
+    Editor editor;
+    editor.openProject();
+    editor.openProject();
+    QCOMPARE(editor->project()->name(), str("My first game (2)"));
+    editor.click("MainWindow", "fileOpen");
+    auto *list = editor.find<RowList>("FileDialog", "projects");
+    QCOMPARE(list->count(), 2);
+    editor.clickRow("FileDialog", "projects", 0);
+    if (byDoubleClick) {
+        editor.doubleClickRow("FileDialog", "projects", 0);
+    } else {
+        editor.click("FileDialog", "ok");
+    }
+    QCOMPARE(editor->project()->name(), str("My first game"));
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    QCOMPARE(editor->window(str("MainWindow"))->windowTitle(), str("My first game[*] – Map Maker"));
+}
+
+void tst_FileDialog::cancelLeavesTheProjectOpen()
+{
+    Editor editor;
+    editor.openProject();
+    editor.openProject();
+    editor.click("MainWindow", "fileOpen");
+    editor.clickRow("FileDialog", "projects", 0);
+    editor.click("FileDialog", "cancel");
+    QCOMPARE(editor->project()->name(), str("My first game (2)"));
+}
+
+void tst_FileDialog::whatWasDrawnAndSavedIsThereAgain()
+{
+    Editor first;
+    first.openProject();
+    first.clickRow("MapEditTreeBox", "maps", 3);
+    first.clickRow("MainWindow", "tiles", 4);
+    QTest::mouseClick(first.map(), Qt::LeftButton, {}, QPoint(48, 48));
+    QVERIFY(first->window(str("MainWindow"))->isWindowModified());
+    first.click("MainWindow", "fileSave");
+    QVERIFY(!first->window(str("MainWindow"))->isWindowModified());
+    const QImage drawn = first.map()->grab().toImage();
+
+    Editor second;
+    second->setProjectsFolder(first.folder());
+    second->open(str("MainWindow"));
+    second.click("MainWindow", "fileOpen");
+    second.click("FileDialog", "ok");
+    second.clickRow("MapEditTreeBox", "maps", 3);
+    QCOMPARE(second.shownMap()->tile(0, {1, 1}), 4);
+    QCOMPARE(second.map()->grab().toImage(), drawn);
+    second.click("MainWindow", "editUndo");
+    QCOMPARE(second.shownMap()->tile(0, {1, 1}), 4);
+}
+
+QTEST_MAIN(tst_FileDialog)
+#include "tst_FileDialog.moc"
