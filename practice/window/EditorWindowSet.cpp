@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWindow>
 
 #include <utility>
 
@@ -183,7 +184,8 @@ QString EditorWindowSet::title(const QString &windowKey) const
 
 QRect EditorWindowSet::screenRect() const
 {
-    return m_main->screen()->geometry();
+    const QWindow *handle = m_main->windowHandle();
+    return (handle != nullptr ? handle->screen() : QApplication::primaryScreen())->geometry();
 }
 
 void EditorWindowSet::setProjectsFolder(const QString &folder)
