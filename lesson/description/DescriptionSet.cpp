@@ -97,11 +97,13 @@ const WindowDescription &DescriptionSet::operator[](const QString &key) const
 const PopupDescription *DescriptionSet::popup(const QString &name) const
 {
     const auto menus = m_windows.constFind(popupKey());
-    if (menus == m_windows.constEnd())
+    if (menus == m_windows.constEnd()) {
         return nullptr;
+    }
     for (const PopupDescription &popup : menus->popups) {
-        if (popup.name == name)
+        if (popup.name == name) {
             return &popup;
+        }
     }
     return nullptr;
 }
@@ -109,8 +111,9 @@ const PopupDescription *DescriptionSet::popup(const QString &name) const
 QString DescriptionSet::popupKey() const
 {
     for (const WindowDescription &window : m_windows) {
-        if (window.kind == WindowDescription::Kind::kPopup)
+        if (window.kind == WindowDescription::Kind::kPopup) {
             return window.key;
+        }
     }
     return {};
 }
@@ -186,16 +189,20 @@ void DescriptionSet::check(const QStringList *commands, QStringList *errors) con
 {
     for (const WindowDescription &window : m_windows) {
         const ReferenceCheck check{*this, commands, m_paths.value(window.key), errors};
-        if (window.kind == WindowDescription::Kind::kPart)
+        if (window.kind == WindowDescription::Kind::kPart) {
             check.window(QStringLiteral("partOf"), window.owner);
-        if (window.kind == WindowDescription::Kind::kArea && window.owner != QLatin1String("screen"))
+        }
+        if (window.kind == WindowDescription::Kind::kArea && window.owner != QLatin1String("screen")) {
             check.window(QStringLiteral("areaOf"), window.owner);
+        }
         check.action(QStringLiteral("after"), window.after);
-        for (const ControlDescription &control : window.controls)
+        for (const ControlDescription &control : window.controls) {
             check.control(control);
+        }
         for (const PopupDescription &popup : window.popups) {
-            for (const ControlDescription &control : popup.controls)
+            for (const ControlDescription &control : popup.controls) {
                 check.control(control);
+            }
         }
     }
 }

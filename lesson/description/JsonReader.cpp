@@ -46,8 +46,9 @@ bool JsonReader::has(const QString &field) const
 QString JsonReader::text(const QString &field)
 {
     const QJsonValue value = take(field);
-    if (!value.isString())
+    if (!value.isString()) {
         addError(field, QStringLiteral("must be a text"));
+    }
     return value.toString();
 }
 
@@ -59,8 +60,9 @@ QString JsonReader::text(const QString &field, const QString &fallback)
 int JsonReader::number(const QString &field)
 {
     const QJsonValue value = take(field);
-    if (!value.isDouble() || value.toDouble() != double(value.toInt()))
+    if (!value.isDouble() || value.toDouble() != double(value.toInt())) {
         addError(field, QStringLiteral("must be a whole number"));
+    }
     return value.toInt();
 }
 
@@ -71,11 +73,13 @@ int JsonReader::number(const QString &field, int fallback)
 
 bool JsonReader::flag(const QString &field)
 {
-    if (!has(field))
+    if (!has(field)) {
         return false;
+    }
     const QJsonValue value = take(field);
-    if (!value.isBool())
+    if (!value.isBool()) {
         addError(field, QStringLiteral("must be true or false"));
+    }
     return value.toBool();
 }
 
@@ -84,11 +88,13 @@ QVector<int> JsonReader::numbers(const QString &field, int count)
     const QJsonArray array = take(field).toArray();
     QVector<int> numbers;
     for (const QJsonValue &value : array) {
-        if (value.isDouble())
+        if (value.isDouble()) {
             numbers.append(value.toInt());
+        }
     }
-    if (numbers.size() != count || array.size() != count)
+    if (numbers.size() != count || array.size() != count) {
         addError(field, QStringLiteral("must be a list of %1 whole numbers").arg(count));
+    }
     numbers.resize(count);
     return numbers;
 }
@@ -119,37 +125,43 @@ LocalText JsonReader::localText(const QString &field)
 QVector<LocalText> JsonReader::localTexts(const QString &field)
 {
     const QJsonArray array = take(field).toArray();
-    if (array.isEmpty())
+    if (array.isEmpty()) {
         addError(field, QStringLiteral("must be a list of texts in the three languages"));
+    }
     QVector<LocalText> texts;
-    for (int index = 0; index < array.size(); ++index)
+    for (int index = 0; index < array.size(); ++index) {
         texts.append(localTextOf(array[index], QStringLiteral("%1[%2]").arg(field).arg(index)));
+    }
     return texts;
 }
 
 QString JsonReader::choice(const QString &field, const QStringList &allowed)
 {
     QString value = text(field);
-    if (!allowed.contains(value))
+    if (!allowed.contains(value)) {
         addError(field, QStringLiteral("\"%1\" is unknown; use one of: %2")
                             .arg(value, allowed.join(QStringLiteral(", "))));
+    }
     return value;
 }
 
 QVector<JsonReader> JsonReader::objects(const QString &field)
 {
     QVector<JsonReader> readers;
-    if (!has(field))
+    if (!has(field)) {
         return readers;
+    }
     const QJsonValue value = take(field);
-    if (!value.isArray())
+    if (!value.isArray()) {
         addError(field, QStringLiteral("must be a list, [ ... ]"));
+    }
     const QJsonArray array = value.toArray();
     for (int index = 0; index < array.size(); ++index) {
         const QString place = QStringLiteral("%1%2[%3].").arg(m_from.place, field).arg(index);
-        if (!array[index].isObject())
+        if (!array[index].isObject()) {
             addError(QStringLiteral("%1[%2]").arg(field).arg(index),
                      QStringLiteral("must be an object, { ... }"));
+        }
         readers.append(JsonReader({m_from.file, place, array[index].toObject()}, m_errors));
     }
     return readers;
@@ -158,12 +170,14 @@ QVector<JsonReader> JsonReader::objects(const QString &field)
 QStringList JsonReader::texts(const QString &field)
 {
     QStringList texts;
-    if (!has(field))
+    if (!has(field)) {
         return texts;
+    }
     const QJsonArray array = take(field).toArray();
     for (const QJsonValue &value : array) {
-        if (!value.isString())
+        if (!value.isString()) {
             addError(field, QStringLiteral("must be a list of texts"));
+        }
         texts.append(value.toString());
     }
     return texts;
@@ -171,11 +185,13 @@ QStringList JsonReader::texts(const QString &field)
 
 std::optional<JsonReader> JsonReader::object(const QString &field)
 {
-    if (!has(field))
+    if (!has(field)) {
         return std::nullopt;
+    }
     const QJsonValue value = take(field);
-    if (!value.isObject())
+    if (!value.isObject()) {
         addError(field, QStringLiteral("must be an object, { ... }"));
+    }
     return JsonReader({m_from.file, m_from.place + field + QLatin1Char('.'), value.toObject()}, m_errors);
 }
 
@@ -197,9 +213,10 @@ void JsonReader::reportUnknownFields()
 {
     const QStringList fields = m_from.object.keys();
     for (const QString &field : fields) {
-        if (!m_asked.contains(field))
+        if (!m_asked.contains(field)) {
             addError(field,
                      QStringLiteral("is not a field that is known here; remove it or correct its name"));
+        }
     }
 }
 
@@ -216,8 +233,9 @@ LocalText JsonReader::localTextOf(const QJsonValue &value, const QString &place)
     const QStringList locales = LessonWords::locales();
     for (const QString &locale : locales) {
         const QString text = texts.value(locale).toString();
-        if (text.isEmpty())
+        if (text.isEmpty()) {
             addError(place, QStringLiteral("needs a text for \"%1\"").arg(locale));
+        }
         result.insert(locale, text);
     }
     return result;

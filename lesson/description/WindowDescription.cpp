@@ -20,10 +20,12 @@ ControlAction readAction(JsonReader &parent, const QString &field)
         action.begin = reader->text(str("begin"), QString());
         action.popup = reader->text(str("popup"), QString());
         reader->reportUnknownFields();
-        if (action.isEmpty())
+        if (action.isEmpty()) {
             parent.addError(field, str("does nothing; give it a run, close, open or popup, or remove it"));
-        if (!action.begin.isEmpty() && action.open.isEmpty())
+        }
+        if (!action.begin.isEmpty() && action.open.isEmpty()) {
             parent.addError(field, str("begins something in no window; give it an open, too"));
+        }
     }
     return action;
 }
@@ -33,16 +35,18 @@ void readAction(JsonReader &reader, ControlDescription &control)
     control.actionName = reader.text(str("action"));
     control.actionState = reader.text(str("actionState"));
     if (control.actionState != QString() && control.actionState != str("open") &&
-        control.actionState != str("close"))
+        control.actionState != str("close")) {
         reader.addError(str("actionState"), str("must be \"open\", \"close\" or empty"));
+    }
 }
 
 /// A size of a list or of a row of tabs; 0 when there is none.
 int readSize(JsonReader &reader, const QString &field)
 {
     const int size = reader.number(field, 0);
-    if (reader.has(field) && size <= 0)
+    if (reader.has(field) && size <= 0) {
         reader.addError(field, str("must be above 0"));
+    }
     return size;
 }
 
@@ -52,10 +56,12 @@ ControlDescription readControl(JsonReader &reader)
     control.type = reader.text(str("type"));
     control.name = reader.text(str("name"));
     control.geometry = reader.rect(str("geometry"));
-    if (reader.has(str("label")))
+    if (reader.has(str("label"))) {
         control.label = reader.localText(str("label"));
-    if (reader.has(str("action")) || reader.has(str("actionState")))
+    }
+    if (reader.has(str("action")) || reader.has(str("actionState"))) {
         readAction(reader, control);
+    }
     control.rowHeight = readSize(reader, str("rowHeight"));
     control.tabWidth = readSize(reader, str("tabWidth"));
     control.click = readAction(reader, str("click"));
@@ -71,11 +77,13 @@ QVector<ControlDescription> readControls(JsonReader &parent, const QSize &size)
     QSet<QString> names;
     for (JsonReader &reader : parent.objects(str("controls"))) {
         const ControlDescription control = readControl(reader);
-        if (names.contains(control.name))
+        if (names.contains(control.name)) {
             reader.addError(str("name"),
                             str("\"%1\" stands here twice; give each control its own").arg(control.name));
-        if (!QRect(QPoint(), size).contains(control.geometry))
+        }
+        if (!QRect(QPoint(), size).contains(control.geometry)) {
             reader.addError(str("geometry"), str("reaches out of the window; keep it inside its size"));
+        }
         names.insert(control.name);
         controls.append(control);
     }
@@ -91,16 +99,19 @@ WindowDescription::Kind readKind(JsonReader &reader)
 void readWhatKindHas(JsonReader &reader, WindowDescription &window)
 {
     using Kind = WindowDescription::Kind;
-    if (window.kind == Kind::kPart)
+    if (window.kind == Kind::kPart) {
         window.owner = reader.text(str("partOf"));
-    if (window.kind == Kind::kArea)
+    }
+    if (window.kind == Kind::kArea) {
         window.owner = reader.text(str("areaOf"));
+    }
     if (window.kind == Kind::kWindow || window.kind == Kind::kPart) {
         window.place = reader.point(str("place"));
         window.controls = readControls(reader, window.size);
     }
-    if (window.kind == Kind::kWindow)
+    if (window.kind == Kind::kWindow) {
         window.isDraft = reader.flag(str("draft"));
+    }
     if (window.kind == Kind::kWindow && reader.has(str("closesAfterMs"))) {
         window.closesAfterMs = reader.number(str("closesAfterMs"));
         window.after = readAction(reader, str("after"));
@@ -128,12 +139,14 @@ WindowDescription WindowDescription::read(const QString &path, QStringList *erro
 {
     WindowDescription window;
     auto reader = JsonReader::open(path, errors);
-    if (!reader)
+    if (!reader) {
         return window;
+    }
     window.key = reader->text(str("key"));
     const QString fileName = window.key.isEmpty() ? str("Screen") : window.key;
-    if (QFileInfo(path).completeBaseName() != fileName)
+    if (QFileInfo(path).completeBaseName() != fileName) {
         reader->addError(str("key"), str("the file of this key must be called \"%1.json\"").arg(fileName));
+    }
     window.kind = readKind(*reader);
     window.title = reader->localText(str("title"));
     window.size = reader->size(str("size"));

@@ -327,8 +327,9 @@ bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::Move:
         if (auto *window = qobject_cast<EditorWindow *>(watched);
-            window != nullptr && m_stack.contains(window->key()))
+            window != nullptr && m_stack.contains(window->key())) {
             tellPlaces(window);
+        }
         break;
     case QEvent::WindowStateChange:
     case QEvent::Show:

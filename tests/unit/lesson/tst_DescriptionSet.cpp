@@ -45,8 +45,9 @@ void tst_DescriptionSet::shippedDescriptionsHaveNoErrors()
                                   QStringLiteral("MapProperties"),
                                   QStringLiteral("Menu"),
                                   QStringLiteral("NewProject")};
-    for (const QString &key : firstLesson)
+    for (const QString &key : firstLesson) {
         QVERIFY2(set.contains(key), qPrintable(key));
+    }
 }
 
 void tst_DescriptionSet::controlsOfAWindowDoNotOverlap()
@@ -56,11 +57,13 @@ void tst_DescriptionSet::controlsOfAWindowDoNotOverlap()
     const QStringList keys = set.keys();
     for (const QString &key : keys) {
         QVector<QPair<QString, QRect>> places;
-        for (const ControlDescription &control : set[key].controls)
+        for (const ControlDescription &control : set[key].controls) {
             places.append({control.name, control.geometry});
+        }
         for (const QString &part : keys) {
-            if (set[part].kind == WindowDescription::Kind::kPart && set[part].owner == key)
+            if (set[part].kind == WindowDescription::Kind::kPart && set[part].owner == key) {
                 places.append({part, QRect(set[part].place, set[part].size)});
+            }
         }
         for (int left = 0; left < places.size(); ++left) {
             QVERIFY2(QRect(QPoint(), set[key].size).contains(places[left].second),
@@ -81,9 +84,10 @@ void tst_DescriptionSet::everyFileIsCompiledIn()
     const QString text = QString::fromUtf8(list.readAll());
     const QStringList names = QDir(kShipped).entryList({QStringLiteral("*.json")}, QDir::Files);
     QVERIFY(!names.isEmpty());
-    for (const QString &name : names)
+    for (const QString &name : names) {
         QVERIFY2(text.contains(QStringLiteral("<file alias=\"%1\">descriptions/%1</file>").arg(name)),
                  qPrintable(name));
+    }
 }
 
 void tst_DescriptionSet::controlsOfPopupsAreFoundByName()

@@ -22,8 +22,9 @@ public:
     explicit Editor(const char *locale = "en_US")
         : m_set(EditorWindowSet::create(str(locale), &m_errors))
     {
-        if (!m_set)
+        if (!m_set) {
             qFatal("%s", qPrintable(m_errors.join(QLatin1Char('\n'))));
+        }
         m_set->setProjectsFolder(m_folder.path());
         QObject::connect(
             m_set.get(), &EditorWindows::happened, m_set.get(), [this](const EditorEvent &event) {
@@ -64,8 +65,9 @@ public:
     Widget *find(const char *window, const char *name) const
     {
         auto *widget = m_set->window(str(window))->findChild<Widget *>(str(name));
-        if (widget == nullptr)
+        if (widget == nullptr) {
             qFatal("no %s in %s", name, window);
+        }
         return widget;
     }
 

@@ -35,8 +35,9 @@ void tst_EditorControls::actionsAreTold_data()
     QTest::addColumn<QString>("state");
     for (const char *name : {"editUndo", "editRedo", "modeMap", "modeEvent", "viewZoomIn", "viewZoomOut",
                              "viewZoomActual", "viewGrid", "drawPencil", "drawRectangle", "drawEllipse",
-                             "drawFloodFill", "drawEraser", "layer1", "layer2", "layer3"})
+                             "drawFloodFill", "drawEraser", "layer1", "layer2", "layer3"}) {
         QTest::newRow(name) << QByteArray(name) << QString();
+    }
     QTest::newRow("fileSave") << QByteArray("fileSave") << str("close");
 }
 
