@@ -54,7 +54,7 @@ Widget *find(const char *name)
 } // namespace
 
 /// What a learner may do beside the lesson, in real windows and with the real companion.
-class TestPracticeWindows : public QObject
+class tst_PracticeWindows : public QObject
 {
     Q_OBJECT
 
@@ -90,7 +90,7 @@ private:
     std::unique_ptr<XEye> m_eye;
 };
 
-void TestPracticeWindows::initTestCase()
+void tst_PracticeWindows::initTestCase()
 {
     QString error;
     const std::shared_ptr<const XConnection> x = XConnection::open(&error);
@@ -98,7 +98,7 @@ void TestPracticeWindows::initTestCase()
     m_eye = std::make_unique<XEye>(x);
 }
 
-void TestPracticeWindows::init()
+void tst_PracticeWindows::init()
 {
     QStringList errors;
     std::unique_ptr<EditorWindowSet> windows = EditorWindowSet::create(QStringLiteral("en_US"), &errors);
@@ -120,12 +120,12 @@ void TestPracticeWindows::init()
     QTRY_VERIFY_WITH_TIMEOUT(isReadable(), kSoonMs);
 }
 
-void TestPracticeWindows::cleanup()
+void tst_PracticeWindows::cleanup()
 {
     m_editor.reset();
 }
 
-SeenOverlays TestPracticeWindows::overlays() const
+SeenOverlays tst_PracticeWindows::overlays() const
 {
     // A look fails when a window of anyone's goes away under it.
     std::optional<SeenOverlays> seen;
@@ -135,7 +135,7 @@ SeenOverlays TestPracticeWindows::overlays() const
     return seen.value_or(SeenOverlays());
 }
 
-bool TestPracticeWindows::isReadable() const
+bool tst_PracticeWindows::isReadable() const
 {
     const SeenOverlays seen = overlays();
     const QPoint middle = mainWindow()->mapToGlobal(mainWindow()->rect().center());
@@ -143,20 +143,20 @@ bool TestPracticeWindows::isReadable() const
            arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
 }
 
-bool TestPracticeWindows::isPointing() const
+bool tst_PracticeWindows::isPointing() const
 {
     const SeenOverlays seen = overlays();
     const std::optional<QPoint> target = m_editor->session().bubbleTarget();
     return seen.bubble && target && arrowSpot(seen.bubble->topLeft(), *target);
 }
 
-int TestPracticeWindows::stepId() const
+int tst_PracticeWindows::stepId() const
 {
     return m_editor->session().runner().isRunning() ? m_editor->session().runner().step().id : -1;
 }
 
 /// Clicks what the arrow points at in the main window, once it does.
-bool TestPracticeWindows::clickSpot() const
+bool tst_PracticeWindows::clickSpot() const
 {
     std::optional<QPoint> spot;
     const auto isReady = [this, &spot] {
@@ -173,7 +173,7 @@ bool TestPracticeWindows::clickSpot() const
 }
 
 /// Skips to the step at "New", and does it.
-void TestPracticeWindows::openNewProject()
+void tst_PracticeWindows::openNewProject()
 {
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
@@ -185,7 +185,7 @@ void TestPracticeWindows::openNewProject()
     QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
 }
 
-void TestPracticeWindows::theArrowFollowsTheMainWindow()
+void tst_PracticeWindows::theArrowFollowsTheMainWindow()
 {
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
@@ -199,7 +199,7 @@ void TestPracticeWindows::theArrowFollowsTheMainWindow()
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
 }
 
-void TestPracticeWindows::theOverlaysGoAndComeWithTheEditor()
+void tst_PracticeWindows::theOverlaysGoAndComeWithTheEditor()
 {
     openNewProject();
     if (QTest::currentTestFailed()) {
@@ -224,7 +224,7 @@ void TestPracticeWindows::theOverlaysGoAndComeWithTheEditor()
     QCOMPARE(stepId(), 4);
 }
 
-void TestPracticeWindows::aStepIsSkippedWhileADialogIsOpen()
+void tst_PracticeWindows::aStepIsSkippedWhileADialogIsOpen()
 {
     openNewProject();
     if (QTest::currentTestFailed()) {
@@ -235,7 +235,7 @@ void TestPracticeWindows::aStepIsSkippedWhileADialogIsOpen()
     QVERIFY(m_windows->openWindows().contains(QStringLiteral("NewProject")));
 }
 
-void TestPracticeWindows::theArrowComesBackToADialogThatWasClosed()
+void tst_PracticeWindows::theArrowComesBackToADialogThatWasClosed()
 {
     openNewProject();
     if (QTest::currentTestFailed()) {
@@ -253,7 +253,7 @@ void TestPracticeWindows::theArrowComesBackToADialogThatWasClosed()
     QCOMPARE(status->text(), step);
 }
 
-void TestPracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
+void tst_PracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
 {
     m_windows->project()->run(QStringLiteral("newProject.create"), m_windows->project()->files());
     QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
@@ -269,7 +269,7 @@ void TestPracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
 }
 
-void TestPracticeWindows::startAgainClosesTheDialogs()
+void tst_PracticeWindows::startAgainClosesTheDialogs()
 {
     openNewProject();
     if (QTest::currentTestFailed()) {
@@ -282,7 +282,7 @@ void TestPracticeWindows::startAgainClosesTheDialogs()
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
 }
 
-void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
+void tst_PracticeWindows::aPopupIsAbandonedToTheCompanion()
 {
     m_windows->project()->run(QStringLiteral("newProject.create"), m_windows->project()->files());
     QSignalSpy abandoned(m_windows, &EditorWindows::popupAbandoned);
@@ -298,7 +298,7 @@ void TestPracticeWindows::aPopupIsAbandonedToTheCompanion()
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
 }
 
-void TestPracticeWindows::theStripNamesTheWindowToOpenNext()
+void tst_PracticeWindows::theStripNamesTheWindowToOpenNext()
 {
     const QString selector = QStringLiteral("ImageSelector");
     const QString properties = QStringLiteral("MapProperties");
@@ -315,5 +315,5 @@ void TestPracticeWindows::theStripNamesTheWindowToOpenNext()
     QVERIFY2(strip->text().contains(m_windows->title(properties)), qPrintable(strip->text()));
 }
 
-QTEST_MAIN(TestPracticeWindows)
+QTEST_MAIN(tst_PracticeWindows)
 #include "tst_PracticeWindows.moc"
