@@ -22,7 +22,7 @@ public:
     explicit Editor(const char *locale = "en_US")
         : m_set(EditorWindowSet::create(str(locale), &m_errors))
     {
-        if (!m_set) {
+        if (m_set == nullptr) {
             qFatal("%s", qPrintable(m_errors.join(QLatin1Char('\n'))));
         }
         m_set->setProjectsFolder(m_folder.path());
