@@ -10,8 +10,11 @@ constexpr int kFileDigits = 3;
 /// How braces call the list at the end of @p path: "items" for "data/Items".
 QString spokenName(const QString &path)
 {
-    const QString last = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-    return last.left(1).toLower() + last.mid(1);
+    QString last = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    if (!last.isEmpty()) {
+        last[0] = last.at(0).toLower();
+    }
+    return last;
 }
 
 } // namespace
@@ -23,9 +26,9 @@ bool DataPath::isPath(const QString &text)
 
 DataPath::DataPath(const QString &text, const QStringList &lists)
 {
-    const QStringList words = text.split(QLatin1Char('/'));
-    QString wayThere = words.first();
-    for (const QString &word : words.mid(1)) {
+    QStringList words = text.split(QLatin1Char('/'));
+    QString wayThere = words.takeFirst();
+    for (const QString &word : qAsConst(words)) {
         addWord(word, lists, wayThere);
         wayThere += QLatin1Char('/') + word;
     }
