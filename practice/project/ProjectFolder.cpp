@@ -6,6 +6,7 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -38,13 +39,6 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
     }
     QMap<QString, QByteArray> bytes;
     for (auto file = files.begin(); file != files.end(); ++file) {
-        if (!staysInside(file.key())) {
-            //: %1 is a path inside the project.
-            *error = tr("The project cannot hold the file \"%1\": it would lie outside of "
-                        "the project's folder.")
-                         .arg(file.key());
-            return std::nullopt;
-        }
         bytes.insert(file.key(), file.value().toUtf8());
     }
     // Built beside its place and renamed into it.
@@ -124,6 +118,14 @@ bool ProjectFolder::write(const QString &folder, const QMap<QString, QByteArray>
             tr("The project's file \"%1\" cannot be written (%2).").arg(file.fileName(), file.errorString());
         return false;
     };
+    const QStringList names = files.keys() + gone;
+    const auto leadsOut = std::find_if_not(names.cbegin(), names.cend(), staysInside);
+    if (leadsOut != names.cend()) {
+        //: %1 is a path inside the project.
+        *error = tr("The project cannot hold the file \"%1\": it would lie outside of the project's folder.")
+                     .arg(*leadsOut);
+        return false;
+    }
     const QDir project(folder);
     std::vector<std::unique_ptr<QSaveFile>> written;
     for (auto file = files.begin(); file != files.end(); ++file) {

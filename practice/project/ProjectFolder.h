@@ -29,7 +29,7 @@ public:
     [[nodiscard]] static std::optional<QMap<QString, QByteArray>> read(const QString &folder, QString *error);
 
     /// Writes @p files into @p folder and takes the files @p gone away. Each file is replaced whole, and none
-    /// before all of them could be written.
+    /// before all of them could be written. None is touched when the path of one leads out of the folder.
     [[nodiscard]] static bool write(const QString &folder, const QMap<QString, QByteArray> &files,
                                     const QStringList &gone, QString *error);
 };

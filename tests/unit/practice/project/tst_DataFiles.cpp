@@ -89,11 +89,14 @@ private Q_SLOTS:
     void linksAndPermissionsStay();
     void replacesAllFiles();
     void replacesNothingWhenOneIsBroken();
+    void replacesNothingWhenAPathLeadsOut_data();
+    void replacesNothingWhenAPathLeadsOut();
     void selectionsEndWithTheProject();
 
 private:
     void open();
 
+    const QTemporaryDir m_outside;
     std::unique_ptr<Folder> m_folder;
     std::unique_ptr<DataFiles> m_files;
     QString m_error;
@@ -442,6 +445,27 @@ void tst_DataFiles::replacesNothingWhenOneIsBroken()
     QVERIFY2(m_error.contains(m_folder->path(kActors)), qPrintable(m_error));
     QCOMPARE(m_folder->read(kItems), kItemsText);
     QCOMPARE(m_files->value(kItems, name(1)).toString(), QStringLiteral("Herb"));
+}
+
+void tst_DataFiles::replacesNothingWhenAPathLeadsOut_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("above") << QStringLiteral("../outside.json");
+    QTest::newRow("above, from a folder") << QStringLiteral("data/../../outside.json");
+    QTest::newRow("full") << m_outside.filePath(QStringLiteral("outside.json"));
+}
+
+void tst_DataFiles::replacesNothingWhenAPathLeadsOut()
+{
+    QFETCH(QString, path);
+    const QString target = QDir(m_folder->path()).filePath(path);
+    open();
+    QVERIFY(!m_files->replace({{kItems, QStringLiteral("[]")}, {path, QStringLiteral("[]")}}, &m_error));
+    QVERIFY2(m_error.contains(path), qPrintable(m_error));
+    QVERIFY(!QFile::exists(target));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
+    QCOMPARE(m_folder->read(kActors), QByteArray("[null]"));
+    QCOMPARE(m_files->names(), (QStringList{kActors, kItems}));
 }
 
 void tst_DataFiles::selectionsEndWithTheProject()
