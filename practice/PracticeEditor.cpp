@@ -123,6 +123,7 @@ void PracticeEditor::connectProject()
     connect(&m_session, &LessonSession::started, &m_lessonProject, &LessonProject::drop);
     connect(&m_session, &LessonSession::filesRequested, &m_lessonProject, &LessonProject::begin);
     connect(&m_session, &LessonSession::filesReceived, &m_lessonProject, &LessonProject::takeFiles);
+    connect(m_windows.get(), &EditorWindows::projectLeft, &m_lessonProject, &LessonProject::leaveProject);
     connect(m_windows.get(), &EditorWindows::projectCreated, &m_lessonProject, &LessonProject::takeProject);
     connect(&m_lessonProject, &LessonProject::complete, this, [this](const LessonProject::Files &files) {
         if (m_windows->replaceFiles(files)) {

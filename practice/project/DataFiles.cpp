@@ -216,6 +216,7 @@ void DataFiles::take(const QString &folder, const Files &files)
     forgetSelections();
     m_folder = folder;
     m_files = files;
+    Q_EMIT left();
     Q_EMIT changed();
 }
 

@@ -52,6 +52,10 @@ public:
     /// as it was then.
     [[nodiscard]] bool replace(const Texts &texts, QString *error);
 
+Q_SIGNALS:
+    /// What was open is gone: another project is open now, none, or the same one with other files.
+    void left();
+
 private:
     friend class DataStep;
 

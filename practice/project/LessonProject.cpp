@@ -47,6 +47,12 @@ void LessonProject::takeProject(const QString &name)
     }
 }
 
+void LessonProject::leaveProject()
+{
+    m_filesMissing.stop();
+    m_project.reset();
+}
+
 void LessonProject::tellWhenComplete()
 {
     if (m_files && m_project) {

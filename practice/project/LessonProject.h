@@ -31,6 +31,8 @@ public:
     /// The person has made a new project with this name. Ignored while no lesson waits: the project is then
     /// the person's own.
     void takeProject(const QString &name);
+    /// That project is open no more: files that come late wait for the next one that the person makes.
+    void leaveProject();
 
 Q_SIGNALS:
     /// Both are there: the open project is to get these files. Until drop() is called, the files wait for the

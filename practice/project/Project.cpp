@@ -21,6 +21,9 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     m_maps.addTo(m_commands, m_fields, m_sources);
     m_newProject.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
+    // What was typed belongs to the files that it was typed for.
+    connect(&m_files, &DataFiles::left, &m_drafts, &Drafts::clear);
+    connect(&m_files, &DataFiles::left, this, &Project::left);
     connect(&m_files, &DataLayer::changed, this, &Project::changed);
     connect(&m_drafts, &Drafts::changed, this, &Project::changed);
     connect(&m_tools, &EditorTools::changed, this, &Project::changed);
@@ -31,7 +34,7 @@ void Project::addOwnWords()
     m_fields.add(QStringLiteral("status"), [this](const DataLayer & /*layer*/) { return status(); });
     m_commands.add(QStringLiteral("newProject.accept"), [this] { m_files.close(); });
     m_commands.add(QStringLiteral("newProject.create"), [this] { create(); });
-    m_commands.add(QStringLiteral("project.open"), [this] { openChosen(); });
+    m_commands.add(QStringLiteral("project.open"), [this](DataLayer &layer) { openChosen(layer); });
     m_commands.add(QStringLiteral("project.save"), [this] { save(); });
     m_commands.add(QStringLiteral("edit.undo"), [this] { showMapOf(m_files.undo()); });
     m_commands.add(QStringLiteral("edit.redo"), [this] { showMapOf(m_files.redo()); });
@@ -62,10 +65,10 @@ void Project::create()
     Q_EMIT created(name());
 }
 
-void Project::openChosen()
+void Project::openChosen(const DataLayer &layer)
 {
     const QStringList projects = ProjectFolder::projectsIn(m_newProject.location());
-    const QString chosen = projects.value(m_sources.number(QStringLiteral("projects"), m_files));
+    const QString chosen = projects.value(m_sources.number(QStringLiteral("projects"), layer));
     QString error;
     if (!chosen.isEmpty() && !m_files.open(QDir(m_newProject.location()).filePath(chosen), &error)) {
         Q_EMIT failed(error);
@@ -93,7 +96,6 @@ bool Project::replaceFiles(const DataFiles::Texts &texts)
         Q_EMIT failed(error);
         return false;
     }
-    m_drafts.clear();
     return true;
 }
 

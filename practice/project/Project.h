@@ -51,6 +51,9 @@ public:
 Q_SIGNALS:
     /// Whatever the windows may show.
     void changed();
+    /// What was open is gone, and with it what was typed into dialogs: another project is open now, none, or
+    /// the same one with other files.
+    void left();
     /// The person has made a new project. It is open and stands on the disk, with the files that every new
     /// project has.
     void created(const QString &name);
@@ -60,7 +63,8 @@ Q_SIGNALS:
 private:
     void addOwnWords();
     void create();
-    void openChosen();
+    /// Opens the project that is selected in @p layer.
+    void openChosen(const DataLayer &layer);
     void save();
     /// Shows the map among the files that a step of the history has changed.
     void showMapOf(const QStringList &files);

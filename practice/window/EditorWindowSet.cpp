@@ -48,6 +48,7 @@ EditorWindowSet::EditorWindowSet(EditorGround ground, WindowBuilder::Windows win
         wire(window);
     }
     connect(m_ground.project.get(), &Project::changed, this, &EditorWindowSet::updateTitle);
+    connect(m_ground.project.get(), &Project::left, this, &EditorWindows::projectLeft);
     connect(m_ground.project.get(), &Project::created, this, &EditorWindows::projectCreated);
     connect(m_ground.project.get(), &Project::failed, this, &EditorWindows::problemFound);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {

@@ -33,6 +33,9 @@ public:
     [[nodiscard]] virtual QString projectFolder() const = 0;
 
 Q_SIGNALS:
+    /// What was open is gone: another project is open now, none, or the same one with other files.
+    void projectLeft();
+
     /// The person has made a new project, which is open; its folder is called @p name.
     void projectCreated(const QString &name);
 

@@ -80,6 +80,7 @@ private Q_SLOTS:
     void saysWhyThereIsNoFolder();
     void waitsForAnotherProjectAfterAFailure();
     void filesThatCannotBeWrittenWaitForTheNextProject();
+    void lateFilesLeaveAnotherProjectAlone();
     void saysWhenTheFilesDoNotCome();
 
 private:
@@ -111,6 +112,7 @@ void tst_LessonProject::init()
     QVERIFY2(m_windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
     m_windows->setProjectsFolder(m_room->path());
     m_lesson = std::make_unique<LessonProject>();
+    connect(m_windows.get(), &EditorWindows::projectLeft, m_lesson.get(), &LessonProject::leaveProject);
     connect(m_windows.get(), &EditorWindows::projectCreated, m_lesson.get(), &LessonProject::takeProject);
     connect(m_windows.get(), &EditorWindows::problemFound, this,
             [this](const QString &text) { m_problems.append(text); });
@@ -273,6 +275,25 @@ void tst_LessonProject::filesThatCannotBeWrittenWaitForTheNextProject()
     makeProject(kName);
     QCOMPARE(m_made, QStringList{m_room->filePath(kName)});
     QCOMPARE(filesIn(m_room->filePath(kName)), m_files);
+}
+
+void tst_LessonProject::lateFilesLeaveAnotherProjectAlone()
+{
+    makeProject(QStringLiteral("Own"));
+    const Files own = filesIn(m_room->filePath(QStringLiteral("Own")));
+    m_lesson->begin();
+    makeProject(kName);
+    Project *project = m_windows->project();
+    project->sources().setCurrentRow(QStringLiteral("projects"), 0, project->files());
+    project->run(QStringLiteral("project.open"), project->files());
+    QCOMPARE(project->name(), QStringLiteral("Own"));
+    m_lesson->takeFiles(m_files);
+    QVERIFY(m_made.isEmpty());
+    QCOMPARE(filesIn(m_room->filePath(QStringLiteral("Own"))), own);
+    // They are for the next project that the person makes.
+    makeProject(QStringLiteral("Next"));
+    QCOMPARE(m_made, QStringList{m_room->filePath(QStringLiteral("Next"))});
+    QCOMPARE(filesIn(m_room->filePath(QStringLiteral("Next"))), m_files);
 }
 
 void tst_LessonProject::saysWhenTheFilesDoNotCome()

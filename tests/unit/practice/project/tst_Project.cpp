@@ -25,6 +25,7 @@ private Q_SLOTS:
     void savingClearsModified();
     void aFailedSaveIsToldAndLosesNothing();
     void projectsOfTheFolderAreListed();
+    void whatIsTypedEndsWithTheProject();
     void aBrokenProjectIsNotOpened();
     void dataFilesReplaceWhatIsOpen();
     void dataFilesOfASampleProjectAreSavedAsTheyAre_data();
@@ -266,6 +267,25 @@ void tst_Project::projectsOfTheFolderAreListed()
     room.run("project.open");
     QCOMPARE(room.project.name(), str("b"));
     QCOMPARE(room.failures, QStringList());
+}
+
+void tst_Project::whatIsTypedEndsWithTheProject()
+{
+    ProjectRoom room;
+    room.create("b");
+    room.create("A");
+    DataLayer *draft = room.project.drafts().begin();
+    room.setField("data/Map{maps}/displayName", str("typed for A"));
+    // A window above a dialog selects in the dialog's draft.
+    room.choose("projects", 1);
+    QSignalSpy left(&room.project, &Project::left);
+    room.run("project.open");
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(room.project.name(), str("b"));
+    QCOMPARE(room.project.drafts().top(), draft);
+    QCOMPARE(room.field("data/Map{maps}/displayName").toString(), str("Village"));
+    draft->accept();
+    QVERIFY(!room.project.isModified());
 }
 
 void tst_Project::aBrokenProjectIsNotOpened()
