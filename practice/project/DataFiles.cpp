@@ -67,7 +67,20 @@ bool DataFiles::open(const QString &folder, QString *error)
 
 void DataFiles::close()
 {
-    take(QString(), {});
+    if (isOpen()) {
+        const QString folder = m_folder;
+        const Files files = m_files;
+        take(QString(), {});
+        m_closedFolder = folder;
+        m_closedFiles = files;
+    }
+}
+
+void DataFiles::takeBack()
+{
+    if (!m_closedFolder.isEmpty()) {
+        take(QString(m_closedFolder), Files(m_closedFiles));
+    }
 }
 
 QStringList DataFiles::names() const
@@ -216,6 +229,8 @@ void DataFiles::take(const QString &folder, const Files &files)
     forgetSelections();
     m_folder = folder;
     m_files = files;
+    m_closedFolder.clear();
+    m_closedFiles.clear();
     Q_EMIT left();
     Q_EMIT changed();
 }

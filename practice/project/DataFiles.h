@@ -22,7 +22,10 @@ public:
     /// Opens the project in @p folder. False with a text for the person when a file cannot be read or is no
     /// JSON; what was open stays open.
     [[nodiscard]] bool open(const QString &folder, QString *error);
+    /// What was open, with all that was not saved, can be taken back until the next project is open.
     void close();
+    /// Opens what was closed last as it was then, but for its history. Does nothing when that is past.
+    void takeBack();
 
     [[nodiscard]] bool isOpen() const { return !m_folder.isEmpty(); }
     /// Full path; empty while no project is open.
@@ -75,5 +78,8 @@ private:
 
     QString m_folder;
     Files m_files;
+    /// What was closed last; no folder when there is nothing to take back.
+    QString m_closedFolder;
+    Files m_closedFiles;
     QUndoStack m_history;
 };

@@ -59,6 +59,7 @@ void Project::create()
     const std::optional<QString> folder =
         ProjectFolder::create(m_newProject.location(), m_newProject.name(), m_start.files(), &error);
     if (!folder || !m_files.open(*folder, &error)) {
+        m_files.takeBack();
         Q_EMIT failed(error);
         return;
     }

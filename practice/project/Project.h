@@ -62,6 +62,7 @@ Q_SIGNALS:
 
 private:
     void addOwnWords();
+    /// Where there is no way, the project that was open stays the open one.
     void create();
     /// Opens the project that is selected in @p layer.
     void openChosen(const DataLayer &layer);

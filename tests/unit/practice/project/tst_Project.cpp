@@ -17,6 +17,7 @@ private Q_SLOTS:
     void startFilesAreThoseOfTheSampleProject();
     void aNameThatIsTakenGetsANumber();
     void aNameThatIsNoneIsRefused();
+    void aProjectThatCannotBeMadeLeavesWhatWasOpen();
     void aDroppedNameIsOfferedNoMore();
     void everyCommandIsSafeWithNoProject();
     void everyNameIsKnown();
@@ -118,6 +119,29 @@ void tst_Project::aNameThatIsNoneIsRefused()
     QVERIFY2(room.failures.constFirst().contains(str("a/b")), qPrintable(room.failures.constFirst()));
     QVERIFY(!room.project.isOpen());
     QVERIFY(created.isEmpty());
+}
+
+void tst_Project::aProjectThatCannotBeMadeLeavesWhatWasOpen()
+{
+    ProjectRoom room;
+    room.create();
+    room.choose("tiles", 4);
+    room.project.board().paint({{0, 0}});
+    room.run("newProject.accept");
+    QVERIFY(!room.project.isOpen());
+    room.create("a/b");
+    QCOMPARE(room.failures.size(), 1);
+    QCOMPARE(room.project.name(), str("Quest"));
+    QCOMPARE(room.map()->tile(0, {0, 0}), 4);
+    QVERIFY(room.project.isModified());
+    room.run("project.save");
+    QVERIFY(!room.project.isModified());
+
+    // What is past is not taken back.
+    room.run("newProject.accept");
+    room.create("Other");
+    room.create("a/b");
+    QCOMPARE(room.project.name(), str("Other"));
 }
 
 void tst_Project::aDroppedNameIsOfferedNoMore()
