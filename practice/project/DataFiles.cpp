@@ -4,6 +4,7 @@
 #include "project/ProjectFolder.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -150,14 +151,16 @@ QStringList DataFiles::redo()
 
 bool DataFiles::save(QString *error)
 {
-    // Where somebody has taken the folder away, all there is goes into a new one.
-    const bool isGone = !QDir(m_folder).exists();
+    // Where somebody has taken a folder away, all there was in it goes into a new one.
+    const auto isGone = [this](const QString &name) {
+        return !QFileInfo(QDir(m_folder).filePath(name)).dir().exists();
+    };
     QMap<QString, QByteArray> texts;
     QStringList gone;
     for (auto file = m_files.begin(); file != m_files.end(); ++file) {
         if (file->now.isUndefined()) {
             gone.append(file.key());
-        } else if (file->now != file->saved || isGone) {
+        } else if (file->now != file->saved || isGone(file.key())) {
             texts.insert(file.key(), JsonText::rewritten(file->text, file->now));
         }
     }
@@ -170,7 +173,7 @@ bool DataFiles::save(QString *error)
         return false;
     }
     for (const QString &name : qAsConst(gone)) {
-        m_files[name] = File();
+        m_files[name].saved = QJsonValue(QJsonValue::Undefined);
     }
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
         File &file = m_files[text.key()];

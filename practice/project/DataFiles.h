@@ -64,7 +64,7 @@ private:
 
     struct File
     {
-        /// As it is on the disk; empty when it is not there.
+        /// As it is on the disk, or was there last; empty when it never was.
         QByteArray text;
         QJsonValue saved = QJsonValue::Undefined;
         QJsonValue now = QJsonValue::Undefined;

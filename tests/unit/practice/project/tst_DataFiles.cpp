@@ -86,6 +86,8 @@ private Q_SLOTS:
     void whatIsTypedAfterSavingIsAStepOfItsOwn();
     void savesNoneWhenOneCannotBeWritten();
     void savesIntoAFolderThatIsGone();
+    void savesIntoADataFolderThatIsGone();
+    void aFileThatComesBackKeepsItsBytes();
     void linksAndPermissionsStay();
     void replacesAllFiles();
     void replacesNothingWhenOneIsBroken();
@@ -406,6 +408,29 @@ void tst_DataFiles::savesIntoAFolderThatIsGone()
     QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
     QCOMPARE(m_folder->read(kActors), QByteArray("[null]"));
     QVERIFY(m_folder->read(kItems).contains("Bread"));
+}
+
+void tst_DataFiles::savesIntoADataFolderThatIsGone()
+{
+    open();
+    m_files->set(kActors, QStringLiteral("/1"), QStringLiteral("Mila"));
+    QVERIFY(QDir(m_folder->path(QStringLiteral("data"))).removeRecursively());
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
+    QVERIFY(m_folder->read(kActors).contains("Mila"));
+}
+
+void tst_DataFiles::aFileThatComesBackKeepsItsBytes()
+{
+    open();
+    m_files->change({{kItems, QJsonValue(QJsonValue::Undefined)}}, QString());
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QCOMPARE(m_folder->all(), QStringList{QStringLiteral("Actors.json")});
+    QVERIFY(m_files->changedFiles().isEmpty());
+    m_files->undo();
+    QCOMPARE(m_files->changedFiles(), QStringList{kItems});
+    QVERIFY2(m_files->save(&m_error), qPrintable(m_error));
+    QCOMPARE(m_folder->read(kItems), kItemsText);
 }
 
 void tst_DataFiles::linksAndPermissionsStay()
