@@ -41,6 +41,11 @@ GameMap GameMap::fromFile(const QJsonValue &file)
     return map;
 }
 
+bool GameMap::fits(const QJsonValue &file) const
+{
+    return size == QSize(file[QLatin1String("width")].toInt(), file[QLatin1String("height")].toInt());
+}
+
 QJsonValue GameMap::toFile() const
 {
     const QJsonObject silence{{QStringLiteral("file"), QString()}, {QStringLiteral("volume"), 90}};

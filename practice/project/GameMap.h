@@ -34,9 +34,11 @@ struct GameMap
     /// A map of @p cells with the tile @p ground all over layer 0.
     static GameMap blank(const QSize &cells, int ground);
 
-    /// The map in a data file. Whatever the file lacks or has in another form is empty; the name stands
-    /// elsewhere. Numbers that no tile has stay what they are.
+    /// The map in a data file. Whatever the file lacks or has in another form is empty, and a side has 1 to
+    /// kLargest cells; the name stands elsewhere. Numbers that no tile has stay what they are.
     static GameMap fromFile(const QJsonValue &file);
+    /// Whether the file says this size: the cells of another one are not where placeInFile() has them.
+    [[nodiscard]] bool fits(const QJsonValue &file) const;
 
     /// The data file of a new map like this one, without events.
     [[nodiscard]] QJsonValue toFile() const;

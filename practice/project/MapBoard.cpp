@@ -70,6 +70,9 @@ void MapBoard::paint(const QVector<QPoint> &cells)
     }
     const QString name = MapTree::fileOf(number());
     QJsonObject file = m_files->file(name).toObject();
+    if (!shown->fits(file)) {
+        return;
+    }
     QJsonArray data = file.value(dataMember()).toArray();
     // A file with too few numbers gets the others: they count as empty.
     while (data.size() < GameMap::kLayers * shown->size.width() * shown->size.height()) {

@@ -26,7 +26,8 @@ public:
 
     /// What is painted from here on is a stroke of its own.
     void beginStroke();
-    /// Gives the cells the present tile, or empties them; those outside of the map are left out.
+    /// Gives the cells the present tile, or empties them; those outside of the map are left out. A map that
+    /// is larger than this editor's maps is left as it is.
     void paint(const QVector<QPoint> &cells);
 
 private:

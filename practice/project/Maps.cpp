@@ -106,10 +106,10 @@ void Maps::accept(DataLayer &layer) const
     const QJsonValue file = layer.file(name);
     const QJsonValue before =
         layer.below() != nullptr ? layer.below()->file(name) : QJsonValue(QJsonValue::Undefined);
-    const QSize size(file[QLatin1String("width")].toInt(), file[QLatin1String("height")].toInt());
+    const QSize size = GameMap::fromFile(file).size;
     // The cells follow the size here and not while it is typed: half a number must not cut the map.
     GameMap map = before.isUndefined() ? GameMap::blank(size, kGround) : GameMap::fromFile(before);
-    if (file.isObject() && !size.isEmpty() && (before.isUndefined() || map.size != size)) {
+    if (file.isObject() && (before.isUndefined() || map.size != size)) {
         map.resize(size, kGround);
         layer.set(name, QStringLiteral("/data"), map.cellsForFile());
     }

@@ -1,6 +1,8 @@
 #include "ProjectFixture.h"
 #include "project/MapTree.h"
 
+#include <QJsonObject>
+
 namespace {
 
 /// A window's draft, as the map's properties are one.
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void newMapStandsBehindTheSelectedOneAndThoseBelowIt();
     void newMapThatIsNotAcceptedIsGone();
     void newMapHasTheSizeThatWasTyped();
+    void aMapThatIsTooLargeKeepsItsCells();
     void newMapIsOneStepAndIsUndone();
     void deletingTheLastMapSelectsTheOneBefore();
     void deletedMapComesBackWithItsCells();
@@ -169,6 +172,28 @@ void tst_Maps::newMapHasTheSizeThatWasTyped()
     QCOMPARE(room.map()->size, QSize(10, 9));
     QCOMPARE(room.map()->layers[0], GameMap::Layer(90, 0));
     QCOMPARE(room.map()->layers[1], GameMap::Layer(90, GameMap::kEmpty));
+}
+
+void tst_Maps::aMapThatIsTooLargeKeepsItsCells()
+{
+    ProjectRoom room;
+    room.create();
+    const QString large = MapTree::fileOf(1);
+    QJsonArray cells;
+    for (int cell = 0; cell < 300 * 2; ++cell) {
+        cells.append(cell % 7);
+    }
+    room.project.files().change(
+        {{large, QJsonObject{{str("width"), 300}, {str("height"), 2}, {str("data"), cells}}}}, QString());
+    room.choose("tiles", 4);
+    room.project.board().paint({{0, 1}, {5, 0}});
+    QCOMPARE(room.project.files().value(large, str("/data")), QJsonValue(cells));
+    const Dialog dialog(&room);
+    room.setField("data/Map{maps}/displayName", str("Desert"));
+    room.run("map.accept");
+    QCOMPARE(room.project.files().value(large, str("/displayName")).toString(), str("Desert"));
+    QCOMPARE(room.project.files().value(large, str("/width")).toInt(), 300);
+    QCOMPARE(room.project.files().value(large, str("/data")), QJsonValue(cells));
 }
 
 void tst_Maps::newMapIsOneStepAndIsUndone()
