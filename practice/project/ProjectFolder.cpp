@@ -74,7 +74,7 @@ QStringList ProjectFolder::projectsIn(const QString &location)
     const QDir place(location);
     QStringList projects;
     const QStringList folders =
-        place.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+        place.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString &folder : folders) {
         if (QFileInfo::exists(place.filePath(folder + QStringLiteral("/data/MapInfos.json")))) {
             projects.append(folder);

@@ -248,13 +248,14 @@ void tst_ProjectFolder::listsFoldersThatHoldAProject()
     QVERIFY(ProjectFolder::projectsIn(room.filePath(QStringLiteral("nowhere"))).isEmpty());
     MadeFolder store;
     QString error;
-    for (const char *name : {"b", "A", "c"}) {
+    for (const char *name : {"b", "A", "c", ".quiet", "50% (%1)"}) {
         QVERIFY(store.create(room.path(), QString::fromLatin1(name),
                              {{QStringLiteral("data/MapInfos.json"), QStringLiteral("[]")}}, &error));
     }
     QVERIFY(store.create(room.path(), QStringLiteral("pictures"), {}, &error));
     QCOMPARE(ProjectFolder::projectsIn(room.path()),
-             (QStringList{QStringLiteral("A"), QStringLiteral("b"), QStringLiteral("c")}));
+             (QStringList{QStringLiteral(".quiet"), QStringLiteral("50% (%1)"), QStringLiteral("A"),
+                          QStringLiteral("b"), QStringLiteral("c")}));
 }
 
 void tst_ProjectFolder::writtenFilesHaveTheUsualPermissions()
