@@ -37,7 +37,7 @@ void MapTree::appendBelow(int parent, int level, QVector<Entry> *entries) const
     QVector<int> children;
     for (int number = 1; number < m_infos.size(); ++number) {
         // An entry that is no object has no number of its own.
-        if (valueOf(number, "id") == number && valueOf(number, "parentId") == parent) {
+        if (valueOf(number, "id") == number && parentOf(number) == parent) {
             children.append(number);
         }
     }
@@ -74,7 +74,7 @@ int MapTree::insertBehind(int neighbour, const QString &name)
             setValue(number, "order", valueOf(number, "order") + 1);
         }
     }
-    return add(name, valueOf(neighbour, "parentId"), order + 1);
+    return add(name, parentOf(neighbour), order + 1);
 }
 
 void MapTree::remove(int number)
@@ -82,13 +82,19 @@ void MapTree::remove(int number)
     if (number < 1 || number >= m_infos.size()) {
         return;
     }
-    const int parent = valueOf(number, "parentId");
+    const int parent = parentOf(number);
     for (int child = 1; child < m_infos.size(); ++child) {
         if (m_infos.at(child).isObject() && valueOf(child, "parentId") == number) {
             setValue(child, "parentId", parent);
         }
     }
     m_infos.replace(number, QJsonValue());
+}
+
+int MapTree::parentOf(int number) const
+{
+    const int parent = valueOf(number, "parentId");
+    return parent > 0 && valueOf(parent, "id") == parent ? parent : 0;
 }
 
 int MapTree::valueOf(int number, const char *member) const

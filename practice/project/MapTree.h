@@ -29,7 +29,8 @@ public:
 
     [[nodiscard]] QJsonValue toFile() const { return m_infos; }
 
-    /// All maps, each behind the one it belongs to. A map that belongs to itself is left out.
+    /// All maps, each behind the one it belongs to; on top where that one is not there. A map that belongs to
+    /// itself, by way of others or not, is left out.
     [[nodiscard]] QVector<Entry> entries() const;
 
     /// Adds a map behind all others and gives its number; it belongs to @p parent, 0 for none.
@@ -42,6 +43,8 @@ public:
 
 private:
     void appendBelow(int parent, int level, QVector<Entry> *entries) const;
+    /// Number of the map that a map belongs to, 0 where there is none.
+    [[nodiscard]] int parentOf(int number) const;
     [[nodiscard]] int valueOf(int number, const char *member) const;
     void setValue(int number, const char *member, int value);
     [[nodiscard]] int lastOrder() const;

@@ -46,6 +46,7 @@ class tst_MapTree : public QObject
 
 private Q_SLOTS:
     void readsMapsInTheOrderOfTheirTree();
+    void mapsWithoutTheirParentStandOnTop();
     void survivesListsOfAnotherShape_data();
     void survivesListsOfAnotherShape();
     void namesFilesWithThreeDigits();
@@ -60,6 +61,17 @@ void tst_MapTree::readsMapsInTheOrderOfTheirTree()
 {
     QCOMPARE(shown(tree(kMaps)), lines({"0 1 Village", "1 5 Inn", "1 3 Shop", "0 2 Forest"}));
     QCOMPARE(tree(kMaps).toFile(), QJsonValue(QJsonDocument::fromJson(kMaps).array()));
+}
+
+void tst_MapTree::mapsWithoutTheirParentStandOnTop()
+{
+    const MapTree read = tree(R"([null, {"id": 1, "name": "Shop", "parentId": 9, "order": 2}, null,
+        {"id": 3, "name": "Cellar", "parentId": 1, "order": 3},
+        {"id": 4, "name": "Inn", "parentId": 2, "order": 4},
+        {"id": 5, "name": "Attic", "parentId": -1, "order": 5},
+        {"id": 6, "name": "East", "parentId": 7, "order": 6},
+        {"id": 7, "name": "West", "parentId": 6, "order": 7}])");
+    QCOMPARE(shown(read), lines({"0 1 Shop", "1 3 Cellar", "0 4 Inn", "0 5 Attic"}));
 }
 
 void tst_MapTree::survivesListsOfAnotherShape_data()
