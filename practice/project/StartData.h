@@ -20,7 +20,7 @@ struct StartData
     {
         QString name;
         QString image;
-        QColor tint;
+        QColor tint = Qt::transparent;
     };
     struct StartMap
     {

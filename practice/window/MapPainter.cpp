@@ -11,7 +11,9 @@ MapPainter::MapPainter(const StartData *data)
 
 QPixmap MapPainter::tile(int number, int tileSet, int pixels)
 {
-    const quint64 key = (quint64(number) << 32U) | (quint64(tileSet) << 16U) | quint64(pixels);
+    // A file may name a tile set that is not there: its tiles have no tint.
+    const int set = qBound(0, tileSet, int(m_data->tileSets.size()));
+    const quint64 key = (quint64(number) << 32U) | (quint64(set) << 16U) | quint64(pixels);
     const auto kept = m_tiles.constFind(key);
     if (kept != m_tiles.constEnd()) {
         return *kept;
@@ -19,7 +21,7 @@ QPixmap MapPainter::tile(int number, int tileSet, int pixels)
     QPixmap pixmap = drawTile(m_data->tiles.value(number).drawing, pixels);
     QPainter painter(&pixmap);
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(pixmap.rect(), m_data->tileSets.value(tileSet).tint);
+    painter.fillRect(pixmap.rect(), m_data->tileSets.value(set).tint);
     painter.end();
     m_tiles.insert(key, pixmap);
     return pixmap;

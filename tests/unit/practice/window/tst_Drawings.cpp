@@ -1,3 +1,4 @@
+#include "window/MapPainter.h"
 #include "window/TileDrawing.h"
 #include "window/ToolIcon.h"
 
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void anObjectLeavesTheGroundVisible();
     void aDisabledIconIsPale();
     void anUnknownNameHasNoPicture();
+    void aTileSetThatIsNotThereHasNoTint();
 };
 
 void tst_Drawings::everySourceIsADrawing()
@@ -114,6 +116,20 @@ void tst_Drawings::anUnknownNameHasNoPicture()
     const QImage picture = tile("none", 32);
     QCOMPARE(picture.size(), QSize(32, 32));
     QCOMPARE(strongestAlpha(picture), 0);
+}
+
+void tst_Drawings::aTileSetThatIsNotThereHasNoTint()
+{
+    StartData start;
+    start.tiles.append({QStringLiteral("grass"), QStringLiteral("g"), QString()});
+    start.tileSets.append({QString(), QString(), QColor(255, 0, 0, 200)});
+    MapPainter painter(&start);
+    const QImage plain = tile("grass", 32);
+    QVERIFY(painter.tile(0, 0, 32).toImage() != plain);
+    for (const int set : {1, 7, 1 << 16, 1 << 30}) {
+        const QImage drawn = painter.tile(0, set, 32).toImage();
+        QCOMPARE(drawn.pixelColor(16, 16), plain.pixelColor(16, 16));
+    }
 }
 
 QTEST_MAIN(tst_Drawings)
