@@ -53,7 +53,7 @@ EditorWindowSet::EditorWindowSet(EditorGround ground, WindowBuilder::Windows win
     connect(m_ground.project.get(), &Project::failed, this, &EditorWindows::problemFound);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive && m_popup != nullptr) {
-            std::exchange(m_popup, nullptr)->hide();
+            takePopupAway();
             Q_EMIT popupAbandoned();
         }
     });
@@ -246,8 +246,15 @@ void EditorWindowSet::hidePopup()
     if (m_popup == nullptr) {
         return;
     }
-    std::exchange(m_popup, nullptr)->hide();
+    takePopupAway();
     Q_EMIT popped(popupEntry());
+}
+
+void EditorWindowSet::takePopupAway()
+{
+    EditorWindow *popup = std::exchange(m_popup, nullptr);
+    popup->hide();
+    popup->setLayer(&m_ground.project->files());
 }
 
 void EditorWindowSet::tellPlace(const QString &key)

@@ -57,6 +57,8 @@ private:
     void closeTop();
     void showPopup(const QString &name, const QPoint &position);
     void hidePopup();
+    /// Hides it and tells nobody.
+    void takePopupAway();
     void tellPlace(const QString &key);
     void tellPlaces(EditorWindow *window);
     void updateVisible();

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void popupClosesAtAPressElsewhere();
     void popupClosesWithEscape();
     void popupIsReplacedByTheNext();
+    void aClosedPopupKeepsNoDraft();
     void popupIsAbandonedToAnotherProgram();
     void dialogsBlockTheEditorAndNothingElse();
     void windowsHaveTitles();
@@ -307,6 +308,24 @@ void tst_EditorWindowSet::popupIsReplacedByTheNext()
     editor.click("MapPopup", "deleteMap");
     QCOMPARE(editor.takeTold(), QStringList{str("pop Popup")});
     QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 3);
+}
+
+void tst_EditorWindowSet::aClosedPopupKeepsNoDraft()
+{
+    Editor editor;
+    editor.openProject();
+    const EditorWindow *popup = editor->window(str("MapPopup"));
+    const auto openAbove = [&editor, popup] {
+        editor->open(str("MapProperties"));
+        editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+        return &popup->layer() == &editor->window(str("MapProperties"))->layer();
+    };
+    QVERIFY(openAbove());
+    editor->close(str("MapProperties"));
+    QCOMPARE(&popup->layer(), static_cast<DataLayer *>(&editor->project()->files()));
+    QVERIFY(openAbove());
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(&popup->layer(), static_cast<DataLayer *>(&editor->project()->files()));
 }
 
 void tst_EditorWindowSet::popupIsAbandonedToAnotherProgram()
