@@ -22,7 +22,7 @@ private:
 void tst_RenderedPictures::initTestCase()
 {
     if (QStandardPaths::findExecutable(QStringLiteral("rsvg-convert")).isEmpty()) {
-        QSKIP("rsvg-convert is not installed (package librsvg2-bin)");
+        QSKIP("rsvg-convert is not installed (package librsvg2-bin)", "");
     }
     QProcess render;
     render.setProcessChannelMode(QProcess::MergedChannels);
