@@ -118,7 +118,8 @@ bool ProjectFolder::write(const QString &folder, const QMap<QString, QByteArray>
             tr("The project's file \"%1\" cannot be written (%2).").arg(file.fileName(), file.errorString());
         return false;
     };
-    const QStringList names = files.keys() + gone;
+    QStringList names = files.keys();
+    names.append(gone);
     const auto leadsOut = std::find_if_not(names.cbegin(), names.cend(), staysInside);
     if (leadsOut != names.cend()) {
         //: %1 is a path inside the project.
