@@ -1,5 +1,7 @@
 #include "CompanionWindowsTest.h"
 
+#include "FilledParts.h"
+
 #include <QPainter>
 #include <QtTest>
 
@@ -41,7 +43,7 @@ void CompanionWindowsTest::cleanup()
     QVERIFY(m_host->waitForEnd());
     QCOMPARE(m_host->process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(m_host->process().exitCode(), 0);
-    const QStringList lines = m_host->log().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = filledParts(m_host->log(), QLatin1Char('\n'));
     for (const QString &line : lines) {
         QVERIFY2(line.startsWith(QStringLiteral("..\\..\\tutorial\\")), qPrintable(line));
     }

@@ -1,5 +1,7 @@
 #include "XWindows.h"
 
+#include "FilledParts.h"
+
 #include <QCoreApplication>
 #include <QProcess>
 #include <QRegularExpression>
@@ -40,9 +42,9 @@ QVector<Window> mapped(qint64 processId)
     // All of a process' windows share the upper bits of their ids, so one of them finds the others in the
     // tree.
     const QStringList visible =
-        run(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                        QStringLiteral("--pid"), QString::number(processId)})
-            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        filledParts(run(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                                    QStringLiteral("--pid"), QString::number(processId)}),
+                    QLatin1Char('\n'));
     const QString tree = run(QStringLiteral("xwininfo"), {QStringLiteral("-root"), QStringLiteral("-tree")});
     static const QRegularExpression line(
         QStringLiteral("^ *(0x[0-9a-f]+) .* (\\d+)x(\\d+)\\+-?\\d+\\+-?\\d+  \\+(-?\\d+)\\+(-?\\d+)$"),

@@ -1,4 +1,5 @@
 #include "FakeHost.h"
+#include "FilledParts.h"
 #include "PatchBytes.h"
 
 #include <QDir>
@@ -46,7 +47,7 @@ void tst_Dispatch::ignoresUnknownWordsSilently()
     QVERIFY(host.syncBothWays());
     QString after = host.log().mid(before.size());
     // Only the heartbeat and the answer that sync() waits for may stand there.
-    const QStringList lines = after.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = filledParts(after, QLatin1Char('\n'));
     for (const QString &line : lines) {
         QVERIFY2(line.contains(QStringLiteral("\"alive\"")) ||
                      line.contains(QStringLiteral("setApplicationWindowSize")),

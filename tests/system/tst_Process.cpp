@@ -1,4 +1,5 @@
 #include "FakeHost.h"
+#include "FilledParts.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -49,9 +50,8 @@ void tst_Process::endsWithStatus0WhenTheLinkGoesDown()
     QCOMPARE(host.process().exitCode(), 0);
     // By its own clock it takes no second to notice, and then nothing comes in between.
     QVERIFY2(host.heartbeats() <= heartbeats + 1, qPrintable(host.log()));
-    const QStringList end = host.log()
-                                .section(QStringLiteral("TutorialManager::onDisconnected 414"), 1)
-                                .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList end = filledParts(
+        host.log().section(QStringLiteral("TutorialManager::onDisconnected 414"), 1), QLatin1Char('\n'));
     QCOMPARE(end.size(), 1);
     QVERIFY2(end.constFirst().endsWith(QStringLiteral("TutorialManager::requestClose 1535")),
              qPrintable(end.constFirst()));

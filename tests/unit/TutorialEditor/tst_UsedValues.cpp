@@ -1,3 +1,4 @@
+#include "FilledParts.h"
 #include "TutorialEditor/ItemTreeOperations.h"
 #include "TutorialEditor/UsedValues.h"
 
@@ -8,7 +9,7 @@ namespace {
 
 QStringList words(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return filledParts(QString::fromLatin1(text), QLatin1Char(' '));
 }
 
 QList<int> numbers(const char *text)
