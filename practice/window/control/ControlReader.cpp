@@ -19,7 +19,7 @@ QString ControlReader::label()
 
 QString ControlReader::field()
 {
-    const QString name = m_json.text(QStringLiteral("field"));
+    QString name = m_json.text(QStringLiteral("field"));
     const QString problem = m_context->project->fields().problemOf(name);
     if (!name.isEmpty() && !problem.isEmpty()) {
         m_json.addError(QStringLiteral("field"), problem);
@@ -29,7 +29,7 @@ QString ControlReader::field()
 
 QString ControlReader::source()
 {
-    const QString name = m_json.text(QStringLiteral("source"));
+    QString name = m_json.text(QStringLiteral("source"));
     const QString problem = m_context->project->sources().problemOf(name);
     if (!name.isEmpty() && !problem.isEmpty()) {
         m_json.addError(QStringLiteral("source"), problem);
