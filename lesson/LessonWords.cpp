@@ -27,4 +27,12 @@ QString presetStep(const QString &command)
     return form.match(command).captured(1);
 }
 
+bool saysDrag(const QString &hint)
+{
+    // Not "dragon".
+    static const QRegularExpression words(QStringLiteral("\\bdrag(ging)?\\b|\u30C9\u30E9\u30C3\u30B0|\u62D6"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    return hint.contains(words);
+}
+
 } // namespace LessonWords

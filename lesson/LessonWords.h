@@ -32,4 +32,8 @@ int iconKind(const QString &name);
 /// other text; no command has another form.
 QString presetStep(const QString &command);
 
+/// Whether a hint asks to press a mouse button and to let go of it elsewhere: no other field of an item
+/// tells. It is so in every language when the hint has the language's word for it.
+bool saysDrag(const QString &hint);
+
 } // namespace LessonWords

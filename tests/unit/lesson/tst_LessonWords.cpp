@@ -11,6 +11,8 @@ private Q_SLOTS:
     void readsTheStepOfACommand_data();
     void readsTheStepOfACommand();
     void namesEnglishFirst();
+    void knowsAHintThatAsksToDrag_data();
+    void knowsAHintThatAsksToDrag();
 };
 
 void tst_LessonWords::givesIconsTheirNumberInTheLink()
@@ -56,6 +58,30 @@ void tst_LessonWords::namesEnglishFirst()
 {
     QCOMPARE(LessonWords::locales(),
              (QStringList{QStringLiteral("en_US"), QStringLiteral("ja_JP"), QStringLiteral("zh_CN")}));
+}
+
+void tst_LessonWords::knowsAHintThatAsksToDrag_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<bool>("drags");
+    const auto row = [](const char *hint, bool drags) {
+        QTest::newRow(hint) << QString::fromUtf8(hint) << drags;
+    };
+    row("Press the mouse button here, drag to the lower right and let go.", true);
+    row("Drag to the right.", true);
+    row("Keep dragging.", true);
+    row("ここでマウスのボタンを押し、右下へドラッグして離してください。", true);
+    row("在这里按下鼠标左键，向右拖动后松开。", true);
+    row("Press the left mouse button here.", false);
+    row("Click “Dragon”. It guards the cave.", false);
+    row("「ドラゴン」をクリックしてください。", false);
+    row("", false);
+}
+
+void tst_LessonWords::knowsAHintThatAsksToDrag()
+{
+    QFETCH(QString, hint);
+    QTEST(LessonWords::saysDrag(hint), "drags");
 }
 
 QTEST_APPLESS_MAIN(tst_LessonWords)
