@@ -1,6 +1,6 @@
 #include "FakeOverlayHost.h"
 #include "TestIndicator.h"
-#include "Tutorial/overlay/EditorTooltip.h"
+#include "TestTooltip.h"
 #include "Tutorial/overlay/OverlayStyle.h"
 #include "XWindows.h"
 
@@ -68,6 +68,7 @@ private:
     void verifyPassesThrough(QWidget *overlay, const QVector<QPoint> &spots);
 
     FakeOverlayHost m_host;
+    std::unique_ptr<TestTooltip> m_tooltip;
     std::unique_ptr<WindowBelow> m_below;
     std::unique_ptr<TestIndicator> m_indicator;
 };
@@ -86,11 +87,12 @@ void tst_OverlayWindows::init()
     m_below->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_below.get(), kSoonMs));
     m_indicator = std::make_unique<TestIndicator>(&m_host);
+    m_tooltip = std::make_unique<TestTooltip>(&m_host);
 }
 
 void tst_OverlayWindows::cleanup()
 {
-    delete m_host.tooltip;
+    m_tooltip.reset();
     m_indicator.reset();
     m_below.reset();
 }
@@ -135,9 +137,9 @@ void tst_OverlayWindows::clicksPassThroughTheBubble()
 
 void tst_OverlayWindows::clicksPassThroughTheTooltip()
 {
-    EditorTooltip::show(&m_host, QStringLiteral("Click through this tooltip"), 400, 300);
-    m_host.tooltip->setWindowOpacity(1.0);
-    verifyPassesThrough(m_host.tooltip, {{10, 10}, {60, 12}, {200, 200}});
+    m_tooltip->show(QStringLiteral("Click through this tooltip"), 400, 300);
+    m_tooltip->setWindowOpacity(1.0);
+    verifyPassesThrough(m_tooltip.get(), {{10, 10}, {60, 12}, {200, 200}});
 }
 
 void tst_OverlayWindows::buttonsTakeTheirClicks()
@@ -167,10 +169,10 @@ void tst_OverlayWindows::focusStaysBelow()
     m_indicator->setHint(QStringLiteral("Here"));
     m_indicator->init(true, true);
     m_indicator->showTooltip();
-    EditorTooltip::show(&m_host, QStringLiteral("There"), 400, 300);
+    m_tooltip->show(QStringLiteral("There"), 400, 300);
     QVERIFY(QTest::qWaitForWindowExposed(m_indicator->tooltip(), kSoonMs));
     QVERIFY(QTest::qWaitForWindowExposed(TestIndicator::no(), kSoonMs));
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip, kSoonMs));
+    QVERIFY(QTest::qWaitForWindowExposed(m_tooltip.get(), kSoonMs));
     QCOMPARE(XWindows::activeWindow(), quintptr(m_below->winId()));
     QCOMPARE(QApplication::activeWindow(), m_below.get());
 }
@@ -187,7 +189,7 @@ void tst_OverlayWindows::bubbleReachesBeyondTheScreen_data()
 void tst_OverlayWindows::bubbleReachesBeyondTheScreen()
 {
     QFETCH(QPoint, target);
-    m_host.rect = QRect(QPoint(0, 0), QGuiApplication::primaryScreen()->size());
+    m_indicator->setHostRect({QPoint(0, 0), QGuiApplication::primaryScreen()->size()});
     m_indicator->setTargetWindowOffset(target.x(), target.y(), QString(), true);
     m_indicator->tick(80);
     const QPoint rest(m_indicator->state("lastX").toInt(), m_indicator->state("lastY").toInt());
@@ -208,10 +210,10 @@ void tst_OverlayWindows::tooltipReachesBeyondTheScreen()
 {
     const QSize screen = QGuiApplication::primaryScreen()->size();
     const QPoint point(screen.width() - 60, screen.height() - 40);
-    EditorTooltip::show(&m_host, QStringLiteral("At the edge"), point.x(), point.y());
-    const QWidget *const text = m_host.tooltip->findChild<QTextEdit *>();
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.tooltip, kSoonMs));
-    QTRY_COMPARE_WITH_TIMEOUT(positionOf(m_host.tooltip),
+    m_tooltip->show(QStringLiteral("At the edge"), point.x(), point.y());
+    const QWidget *const text = m_tooltip->findChild<QTextEdit *>();
+    QVERIFY(QTest::qWaitForWindowExposed(m_tooltip.get(), kSoonMs));
+    QTRY_COMPARE_WITH_TIMEOUT(positionOf(m_tooltip.get()),
                               point - QPoint(text->width() / 2, text->height() / 2), kSoonMs);
 }
 

@@ -52,19 +52,11 @@ EditorTooltip::~EditorTooltip()
     }
 }
 
-void EditorTooltip::show(OverlayHost *manager, const QString &text, int x, int y)
-{
-    if (manager->editorTooltip() == nullptr) {
-        manager->setEditorTooltip(new EditorTooltip(nullptr, manager));
-    }
-    manager->editorTooltip()->present(text, x, y);
-}
-
-void EditorTooltip::present(const QString &text, int x, int y)
+void EditorTooltip::show(const QString &text, int x, int y, const QFont &font)
 {
     m_text = text;
     if (!text.isEmpty()) {
-        setText(text);
+        setText(text, font);
         m_textEdit->show();
         const QSizeF size = m_textEdit->document()->size();
         logDebug(kSource, "EditorTooltip::show", 74) << text << size.width() << size.height();
@@ -82,9 +74,9 @@ void EditorTooltip::present(const QString &text, int x, int y)
     show();
 }
 
-void EditorTooltip::setText(const QString &text)
+void EditorTooltip::setText(const QString &text, const QFont &font)
 {
-    m_textEdit->setFont(m_manager->overlayFont());
+    m_textEdit->setFont(font);
     setHostText(m_textEdit, text);
 }
 
@@ -99,12 +91,12 @@ QVariantMap EditorTooltip::getSettings() const
             {QStringLiteral("fade"), m_fade}};
 }
 
-void EditorTooltip::setSettings(const QVariantMap &settings)
+void EditorTooltip::setSettings(const QVariantMap &settings, const QFont &font)
 {
     logDebug(kSource, "EditorTooltip::setSettings", 106) << settings;
     m_text = settings.value(QStringLiteral("text")).toString();
     if (!m_text.isEmpty()) {
-        setText(m_text);
+        setText(m_text, font);
         m_textEdit->show();
         m_textEdit->resize(settings.value(QStringLiteral("width")).toInt(),
                            settings.value(QStringLiteral("height")).toInt());
@@ -170,5 +162,5 @@ void EditorTooltip::closeEvent(QCloseEvent *event)
     }
     delete m_textEdit;
     m_textEdit = nullptr;
-    m_manager->setEditorTooltip(nullptr);
+    m_manager->onEditorTooltipClosed();
 }

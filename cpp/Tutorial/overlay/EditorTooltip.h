@@ -6,12 +6,13 @@
 
 class MayLeaveScreen;
 class OverlayHost;
+class QFont;
 class QTextEdit;
 
 /// A short-lived text bubble at a screen point: after a second it fades in, stays for 5 seconds and fades
 /// out, then stands invisible until it is hidden or shown anew. It takes no input. One tick is 10 ms; a
-/// hidden window's ticks do not count. Closing it deletes the text edit and makes the manager forget the
-/// window; it does not delete the window.
+/// hidden window's ticks do not count. Closing it deletes the text edit and tells the manager; it does not
+/// delete the window.
 class EditorTooltip : public QWidget
 {
     Q_OBJECT
@@ -22,14 +23,14 @@ public:
     ~EditorTooltip() override;
 
     using QWidget::show;
-    /// Shows @p text on the manager's tooltip, centred on (@p x, @p y) in screen pixels; builds the tooltip
-    /// and hands it to the manager if there is none. An empty text shows the window without its text edit.
-    static void show(OverlayHost *manager, const QString &text, int x, int y);
+    /// Shows @p text in @p font, centred on (@p x, @p y) in screen pixels. An empty text shows the window
+    /// without its text edit.
+    void show(const QString &text, int x, int y, const QFont &font);
 
     /// The state that a rebuilt tooltip takes over. The opacity is not part of what is read back: it starts
-    /// from 0 and stays there until the next step of a fade.
+    /// from 0 and stays there until the next step of a fade. @p font: of the text.
     [[nodiscard]] QVariantMap getSettings() const;
-    void setSettings(const QVariantMap &settings);
+    void setSettings(const QVariantMap &settings, const QFont &font);
 
 protected Q_SLOTS:
     void changeEvent(QEvent *event) override;
@@ -39,8 +40,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void present(const QString &text, int x, int y);
-    void setText(const QString &text);
+    void setText(const QString &text, const QFont &font);
     void moveTo(const QPoint &place);
     void applyOpacity(double opacity);
 

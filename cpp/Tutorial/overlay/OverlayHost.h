@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QFont>
-#include <QRect>
 #include <QString>
 
-class EditorTooltip;
-
-/// What an overlay needs from whoever owns it. The overlays keep a plain pointer to it and never own it.
+/// Whom an overlay tells what happened to it: whoever owns it. The overlays keep a plain pointer to it, never
+/// own it and never ask it for anything; what they have to know is handed down to them.
 class OverlayHost
 {
 public:
@@ -19,18 +16,8 @@ public:
     /// Shows or hides all overlays together, as the present state asks. Allocates nothing.
     virtual void updateOverlayVisibility() = 0;
 
-    /// Whether a playback is on.
-    [[nodiscard]] virtual bool running() const = 0;
-
-    /// The host editor's rectangle in screen pixels; a null rectangle until it has said so.
-    [[nodiscard]] virtual QRect hostRect() const = 0;
-
-    /// The font of hints and buttons for the present locale.
-    [[nodiscard]] virtual QFont overlayFont() = 0;
-
-    /// The one transient tooltip, or null while there is none.
-    [[nodiscard]] virtual EditorTooltip *editorTooltip() const = 0;
-    virtual void setEditorTooltip(EditorTooltip *tooltip) = 0;
+    /// The transient tooltip was closed: it must not be asked for anything any more.
+    virtual void onEditorTooltipClosed() = 0;
 
 protected:
     OverlayHost() = default;

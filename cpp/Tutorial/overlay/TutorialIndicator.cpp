@@ -23,7 +23,7 @@ constexpr int kTickMs = 100;
 
 } // namespace
 
-TutorialIndicator::TutorialIndicator(QWidget *parent, OverlayHost *manager)
+TutorialIndicator::TutorialIndicator(QWidget *parent, OverlayHost *manager, const QFont &font)
     : QWidget(parent)
     , m_manager(manager)
     , m_pictures(IndicatorPictures::load())
@@ -31,8 +31,7 @@ TutorialIndicator::TutorialIndicator(QWidget *parent, OverlayHost *manager)
     setAttribute(Qt::WA_QuitOnClose, false);
     makeTooltip();
     m_buttons = std::make_unique<IndicatorButtons>(
-        std::array<QString, IndicatorButtons::kCount>{tr("Next"), tr("Yes"), tr("No")},
-        m_manager->overlayFont());
+        std::array<QString, IndicatorButtons::kCount>{tr("Next"), tr("Yes"), tr("No")}, font);
     m_timerId = startTimer(kTickMs, Qt::CoarseTimer);
     connectButtons();
     m_elapsed.start();
@@ -80,10 +79,10 @@ void TutorialIndicator::makeTooltip()
     connect(&events, &BubbleEvents::closed, this, [this] { m_tooltip = nullptr; });
 }
 
-void TutorialIndicator::showStep(const IndicatorUpdate &update)
+void TutorialIndicator::showStep(const IndicatorUpdate &update, const QFont &font)
 {
     setTargetWindowOffset(update.target.x(), update.target.y(), update.windowKey, update.arrow);
-    setHint(update.hint);
+    setHint(update.hint, font);
     init(update.next, update.yesNo);
     setIconKind(update.iconKind);
     showTooltip();
@@ -102,7 +101,7 @@ void TutorialIndicator::setNewXy(int x, int y)
     m_state.placement.newY = y;
 }
 
-void TutorialIndicator::setHint(const QString &hint)
+void TutorialIndicator::setHint(const QString &hint, const QFont &font)
 {
     makeTooltip();
     m_state.setHint(hint);
@@ -112,12 +111,12 @@ void TutorialIndicator::setHint(const QString &hint)
     }
     // Text edits go on using it, closed bubbles and new ones alike, so it lives as long as the process.
     static auto *const document = new QTextDocument;
-    showHintIn(document);
+    showHintIn(document, font);
 }
 
-void TutorialIndicator::showHintIn(QTextDocument *document)
+void TutorialIndicator::showHintIn(QTextDocument *document, const QFont &font)
 {
-    fillHintDocument(document, m_state.hint, m_manager->overlayFont());
+    fillHintDocument(document, m_state.hint, font);
     m_tooltip->showHint(document);
     m_state.updateTextEditSize = true;
 }
@@ -179,7 +178,7 @@ QVariantMap TutorialIndicator::getSettings() const
     return settings.toMap();
 }
 
-void TutorialIndicator::setSettings(const QVariantMap &settings)
+void TutorialIndicator::setSettings(const QVariantMap &settings, const QFont &font)
 {
     logDebug(kSource, "TutorialIndicator::setSettings", 215) << settings;
     const IndicatorSettings stored = IndicatorSettings::fromMap(settings);
@@ -194,7 +193,7 @@ void TutorialIndicator::setSettings(const QVariantMap &settings)
         } else {
             // Not the document of setHint: that one may still belong to a bubble that is on its way out.
             static auto *const document = new QTextDocument;
-            showHintIn(document);
+            showHintIn(document, font);
         }
     }
     m_buttons->move(IndicatorButtons::kNext, stored.nextButton);
@@ -269,12 +268,12 @@ qint64 TutorialIndicator::elapsedMs() const
 void TutorialIndicator::place()
 {
     const int arrowWidth = m_pictures.arrow.width();
-    const qint64 hostRight = static_cast<qint64>(m_manager->hostRect().right()) + 1;
+    const qint64 hostRight = static_cast<qint64>(m_hostRect.right()) + 1;
     const PlacementStep step = m_state.turn(hostRight, arrowWidth);
     if (step.changedSides && m_tooltip != nullptr) {
         m_tooltip->moveHintToItsSide();
     }
-    if (m_tooltip == nullptr && m_manager->running()) {
+    if (m_tooltip == nullptr && m_running) {
         makeTooltip();
     }
     const bool measured = std::exchange(m_state.updateTextEditSize, false);

@@ -5,6 +5,7 @@
 #include "Tutorial/overlay/IndicatorState.h"
 
 #include <QElapsedTimer>
+#include <QRect>
 #include <QString>
 #include <QVariantMap>
 #include <QWidget>
@@ -13,6 +14,7 @@
 #include <vector>
 
 class OverlayHost;
+class QFont;
 class QTextDocument;
 class TutorialTooltip;
 
@@ -28,12 +30,18 @@ class TutorialIndicator : public QWidget
     Q_OBJECT
 
 public:
-    /// @p manager must outlive the indicator; it is not owned.
-    TutorialIndicator(QWidget *parent, OverlayHost *manager);
+    /// @p manager must outlive the indicator; it is not owned. @p font: of the buttons.
+    TutorialIndicator(QWidget *parent, OverlayHost *manager, const QFont &font);
     ~TutorialIndicator() override;
 
-    /// Shows @p update: its target, hint, buttons and icon, and the bubble's window.
-    void showStep(const IndicatorUpdate &update);
+    /// The host editor's rectangle in screen pixels; a null rectangle until it has said so.
+    void setHostRect(const QRect &rect) { m_hostRect = rect; }
+
+    /// Whether a playback is on: a bubble that was closed alone comes back then.
+    void setRunning(bool running) { m_running = running; }
+
+    /// Shows @p update: its target, hint in @p font, buttons and icon, and the bubble's window.
+    void showStep(const IndicatorUpdate &update, const QFont &font);
 
     /// Sets where the bubble goes; x and y both -9999 turn the arrow off and leave the target as it was.
     /// @p windowKey is recorded only.
@@ -44,7 +52,7 @@ public:
 
     /// Shows @p hint, plain text, in the bubble; an empty one hides the text. The bubble's height follows on
     /// the next tick. Of a hint longer than any screen the front is kept.
-    void setHint(const QString &hint);
+    void setHint(const QString &hint, const QFont &font);
 
     /// Begins a step: restarts the bounce and shows or hides the buttons.
     void init(bool next, bool yesNo);
@@ -70,9 +78,9 @@ public:
     [[nodiscard]] bool isActive() const;
 
     /// The state that a rebuilt indicator takes over with setSettings. What is missing there reads as 0 or
-    /// false.
+    /// false. @p font: of the hint.
     [[nodiscard]] QVariantMap getSettings() const;
-    void setSettings(const QVariantMap &settings);
+    void setSettings(const QVariantMap &settings, const QFont &font);
 
 public Q_SLOTS:
     void nextClicked();
@@ -92,7 +100,7 @@ protected:
 private:
     void makeTooltip();
     void connectButtons();
-    void showHintIn(QTextDocument *document);
+    void showHintIn(QTextDocument *document, const QFont &font);
     void place();
     void repaintTooltip();
 
@@ -100,6 +108,8 @@ private:
     OverlayHost *const m_manager;
     const IndicatorPictures m_pictures;
     IndicatorState m_state;
+    QRect m_hostRect;
+    bool m_running = false;
     QElapsedTimer m_elapsed;
     bool m_activatePending = false;
 

@@ -7,6 +7,22 @@
 
 #include <utility>
 
+void Overlays::setHostRect(const QRect &rect)
+{
+    m_hostRect = rect;
+    if (m_indicator != nullptr) {
+        m_indicator->setHostRect(rect);
+    }
+}
+
+void Overlays::setRunning(bool running)
+{
+    m_running = running;
+    if (m_indicator != nullptr) {
+        m_indicator->setRunning(running);
+    }
+}
+
 void Overlays::createLog()
 {
     if (m_log == nullptr) {
@@ -14,10 +30,12 @@ void Overlays::createLog()
     }
 }
 
-void Overlays::createIndicator()
+void Overlays::createIndicator(const QFont &font)
 {
     if (m_indicator == nullptr) {
-        m_indicator = new TutorialIndicator(nullptr, &m_host);
+        m_indicator = new TutorialIndicator(nullptr, &m_host, font);
+        m_indicator->setHostRect(m_hostRect);
+        m_indicator->setRunning(m_running);
     }
 }
 
@@ -30,10 +48,18 @@ void Overlays::createOrShowLog()
     }
 }
 
-void Overlays::showStep(const IndicatorUpdate &update) const
+void Overlays::showTooltip(const QString &text, const QPoint &centre, const QFont &font)
+{
+    if (m_editorTooltip == nullptr) {
+        m_editorTooltip = new EditorTooltip(nullptr, &m_host);
+    }
+    m_editorTooltip->show(text, centre.x(), centre.y(), font);
+}
+
+void Overlays::showStep(const IndicatorUpdate &update, const QFont &font) const
 {
     if (m_indicator != nullptr) {
-        m_indicator->showStep(update);
+        m_indicator->showStep(update, font);
     }
 }
 
@@ -93,7 +119,7 @@ void Overlays::retire(QWidget *old)
     closeOverlay(old);
 }
 
-void Overlays::rebuild()
+void Overlays::rebuild(const QFont &font)
 {
     // Seconds have passed since these were closed. Their windows take a megabyte.
     for (const QPointer<QWidget> &retired : std::exchange(m_retired, {})) {
@@ -110,13 +136,13 @@ void Overlays::rebuild()
     if (TutorialIndicator *old = std::exchange(m_indicator, nullptr)) {
         const QVariantMap settings = old->getSettings();
         retire(old);
-        createIndicator();
-        m_indicator->setSettings(settings);
+        createIndicator(font);
+        m_indicator->setSettings(settings, font);
     }
     if (EditorTooltip *old = std::exchange(m_editorTooltip, nullptr)) {
         const QVariantMap settings = old->getSettings();
         retire(old);
         m_editorTooltip = new EditorTooltip(nullptr, &m_host);
-        m_editorTooltip->setSettings(settings);
+        m_editorTooltip->setSettings(settings, font);
     }
 }

@@ -1,6 +1,5 @@
 #include "Tutorial/playback/Playback.h"
 
-#include "Tutorial/overlay/EditorTooltip.h"
 #include "tool/LogLine.h"
 #include "tool/LogSource.h"
 
@@ -21,6 +20,7 @@ void Playback::start()
     if (!m_visibility.start()) {
         return;
     }
+    m_overlays.setRunning(true);
     m_windows.clear();
     Q_EMIT currentWindowKeyChanged();
     m_overlays.createOrShowLog();
@@ -30,6 +30,7 @@ void Playback::start()
 void Playback::stop()
 {
     if (m_visibility.stop()) {
+        m_overlays.setRunning(false);
         m_overlays.hideIndicator();
         m_overlays.hideLog();
     }
@@ -38,12 +39,12 @@ void Playback::stop()
 void Playback::createOverlays()
 {
     m_overlays.createLog();
-    m_overlays.createIndicator();
+    m_overlays.createIndicator(m_font.getFont());
 }
 
 void Playback::showTooltip(const QString &text, const QPoint &centre)
 {
-    EditorTooltip::show(this, text, centre.x(), centre.y());
+    m_overlays.showTooltip(text, centre, m_font.getFont());
 }
 
 void Playback::hostCameBack()
@@ -72,7 +73,7 @@ void Playback::tick()
     if (due.showAgain) {
         logDebug(kSource, "TutorialManager::timerEvent", 427) << due.hiddenTicks;
         if (due.rebuild) {
-            m_overlays.rebuild();
+            m_overlays.rebuild(m_font.getFont());
         }
         m_overlays.showLog();
         updateOverlayVisibility();

@@ -28,17 +28,19 @@ public:
     /// Begins with no window open. Nothing happens when one is on already.
     void start();
     void stop();
-    [[nodiscard]] bool running() const override { return m_visibility.running(); }
+    [[nodiscard]] bool running() const { return m_visibility.running(); }
 
     /// Makes the overlays of a step unless they are there. Nothing shows before a playback, or a step.
     void createOverlays();
     /// Shows a step, also without a playback. Nothing happens in these three before createOverlays().
-    void showStep(const IndicatorUpdate &update) const { m_overlays.showStep(update); }
+    void showStep(const IndicatorUpdate &update) { m_overlays.showStep(update, m_font.getFont()); }
     void moveTarget(const QPoint &target) const { m_overlays.moveTarget(target); }
     void aim(const QPoint &target, const QString &windowKey) const { m_overlays.aim(target, windowKey); }
     /// Shows @p text, centred on @p centre, in the transient tooltip.
     void showTooltip(const QString &text, const QPoint &centre);
     void hideTooltip() const { m_overlays.hideEditorTooltip(); }
+    /// The transient tooltip, or null while there is none.
+    [[nodiscard]] const EditorTooltip *editorTooltip() const { return m_overlays.editorTooltip(); }
     /// Which font the overlays take when they are made, and hints and tooltips with their next text.
     void setFontLocale(const QString &locale) { m_font.setLocale(locale); }
 
@@ -58,15 +60,14 @@ public:
     void popWindow();
     void setPosition(const QString &key, const QPoint &position) { m_windows.setPosition(key, position); }
     void setApplicationSize(const QSize &size);
-    void setHostRect(const QRect &rect) { m_hostRect = rect; }
+    /// The host editor's rectangle; a null rectangle until it has said so.
+    void setHostRect(const QRect &rect) { m_overlays.setHostRect(rect); }
+    [[nodiscard]] QRect hostRect() const { return m_overlays.hostRect(); }
 
-    // What the overlays ask for.
+    // What the overlays tell.
     void send(const QString &text) override { Q_EMIT answered(text); }
     void onOverlayActivated() override;
-    [[nodiscard]] QRect hostRect() const override { return m_hostRect; }
-    [[nodiscard]] QFont overlayFont() override { return m_font.getFont(); }
-    [[nodiscard]] EditorTooltip *editorTooltip() const override { return m_overlays.editorTooltip(); }
-    void setEditorTooltip(EditorTooltip *tooltip) override { m_overlays.setEditorTooltip(tooltip); }
+    void onEditorTooltipClosed() override { m_overlays.forgetEditorTooltip(); }
 
 Q_SIGNALS:
     /// The learner answered with a button: the command for the host editor.
@@ -77,6 +78,5 @@ private:
     Overlays m_overlays;
     HostWindows m_windows;
     PlaybackVisibility m_visibility;
-    QRect m_hostRect;
     TutorialFont m_font;
 };

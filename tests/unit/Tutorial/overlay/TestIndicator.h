@@ -4,18 +4,25 @@
 #include "Tutorial/overlay/TutorialTooltip.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPushButton>
 #include <QTextEdit>
 #include <QTimerEvent>
 
-/// A TutorialIndicator whose clock and ticks are in the test's hands. One at a time.
+/// A TutorialIndicator whose clock and ticks are in the test's hands, on a host of 1920 x 1080. One at a
+/// time.
 class TestIndicator final : public TutorialIndicator
 {
 public:
-    explicit TestIndicator(OverlayHost *manager)
-        : TutorialIndicator(nullptr, manager)
+    explicit TestIndicator(OverlayHost *manager, const QFont &font = {})
+        : TutorialIndicator(nullptr, manager, font)
+        , font(font)
     {
+        setHostRect({0, 0, 1920, 1080});
     }
+
+    void setHint(const QString &hint) { TutorialIndicator::setHint(hint, font); }
+    void setSettings(const QVariantMap &settings) { TutorialIndicator::setSettings(settings, font); }
 
     void tick(int count = 1)
     {
@@ -44,6 +51,7 @@ public:
     [[nodiscard]] static QPushButton *no() { return button("noButton"); }
 
     qint64 clockMs = 0;
+    QFont font; ///< of the next hint
 
 protected:
     [[nodiscard]] qint64 elapsedMs() const override { return clockMs; }

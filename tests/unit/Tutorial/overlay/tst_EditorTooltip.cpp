@@ -1,14 +1,14 @@
 #include "FakeOverlayHost.h"
 #include "LogCapture.h"
-#include "Tutorial/overlay/EditorTooltip.h"
+#include "TestTooltip.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPointer>
 #include <QTextDocument>
-#include <QTextEdit>
 #include <QtTest>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -51,8 +51,8 @@ private Q_SLOTS:
 
     void isBuiltHidden();
     void methodTableIsComplete();
-    void firstShowBuildsIt();
-    void laterShowUsesTheSame();
+    void showsTheText();
+    void laterTextTakesItsPlace();
     void isCentredOnItsTextEdit_data();
     void isCentredOnItsTextEdit();
     void textEditIsAsLargeAsItsDocument();
@@ -69,31 +69,31 @@ private Q_SLOTS:
     void anyPointIsTaken_data();
     void anyPointIsTaken();
     void changesAreLogged();
-    void closingForgetsIt();
+    void closingIsToldAndEndsIt();
     void destructionEndsTheTimerAndLogs();
 
 private:
-    void show(const QString &text, int x = 300, int y = 200) { EditorTooltip::show(&m_host, text, x, y); }
-    EditorTooltip *tooltip() { return m_host.tooltip; }
-    QTextEdit *textEdit() { return m_host.tooltip->findChild<QTextEdit *>(); }
+    void show(const QString &text, int x = 300, int y = 200) { m_tooltip->show(text, x, y); }
+    TestTooltip *tooltip() { return m_tooltip.get(); }
+    QTextEdit *textEdit() { return m_tooltip->textEdit(); }
 
     FakeOverlayHost m_host;
+    std::unique_ptr<TestTooltip> m_tooltip;
 };
 
 void tst_EditorTooltip::init()
 {
     m_host = FakeOverlayHost();
+    m_tooltip = std::make_unique<TestTooltip>(&m_host);
 }
 
 void tst_EditorTooltip::cleanup()
 {
-    delete m_host.tooltip;
-    m_host.tooltip = nullptr;
+    m_tooltip.reset();
 }
 
 void tst_EditorTooltip::isBuiltHidden()
 {
-    m_host.tooltip = new EditorTooltip(nullptr, &m_host);
     QVERIFY(tooltip()->isHidden());
     QCOMPARE(tooltip()->geometry(), QRect(0, 0, 320, 240));
     QCOMPARE(tooltip()->windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -123,10 +123,11 @@ void tst_EditorTooltip::methodTableIsComplete()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
 }
 
-void tst_EditorTooltip::firstShowBuildsIt()
+void tst_EditorTooltip::showsTheText()
 {
+    tooltip()->font = QFont(QStringLiteral("Some Family"));
     show(QStringLiteral("Map list"));
-    QVERIFY(tooltip() != nullptr);
+    QCOMPARE(textEdit()->font().family(), QStringLiteral("Some Family"));
     QVERIFY(tooltip()->isVisible());
     QVERIFY(textEdit()->isVisible());
     QCOMPARE(textEdit()->toPlainText(), QStringLiteral("Map list"));
@@ -137,13 +138,11 @@ void tst_EditorTooltip::firstShowBuildsIt()
     QCOMPARE(tooltip()->size(), QSize(320, 240));
 }
 
-void tst_EditorTooltip::laterShowUsesTheSame()
+void tst_EditorTooltip::laterTextTakesItsPlace()
 {
     show(QStringLiteral("one"));
-    EditorTooltip *const first = tooltip();
     LogCapture log;
     show(QStringLiteral("two"));
-    QCOMPARE(tooltip(), first);
     QCOMPARE(textEdit()->toPlainText(), QStringLiteral("two"));
     const QSizeF size = textEdit()->document()->size();
     QString line;
@@ -286,15 +285,15 @@ void tst_EditorTooltip::settingsCarryAllButTheOpacity()
     show(QStringLiteral("text"), 333, 222);
     tick(tooltip(), 130);
     QVariantMap settings = tooltip()->getSettings();
-    EditorTooltip rebuilt(nullptr, &m_host);
+    TestTooltip rebuilt(&m_host);
     LogCapture log;
     rebuilt.setSettings(settings);
     QVERIFY(log.contains(QStringLiteral("EditorTooltip::setSettings 106 QMap((\"delay\"")));
     QCOMPARE(rebuilt.windowOpacity(), 0.0);
     settings.insert(QStringLiteral("windowOpacity"), 0.0);
     QCOMPARE(rebuilt.getSettings(), settings);
-    QCOMPARE(rebuilt.findChild<QTextEdit *>()->toPlainText(), QStringLiteral("text"));
-    QVERIFY(!rebuilt.findChild<QTextEdit *>()->isHidden());
+    QCOMPARE(rebuilt.textEdit()->toPlainText(), QStringLiteral("text"));
+    QVERIFY(!rebuilt.textEdit()->isHidden());
     QVERIFY(rebuilt.isHidden());
     rebuilt.show();
     tick(&rebuilt, 495);
@@ -352,7 +351,6 @@ void tst_EditorTooltip::anyPointIsTaken()
 
 void tst_EditorTooltip::changesAreLogged()
 {
-    m_host.tooltip = new EditorTooltip(nullptr, &m_host);
     LogCapture log;
     QEvent event(QEvent::ActivationChange);
     QCoreApplication::sendEvent(tooltip(), &event);
@@ -361,21 +359,16 @@ void tst_EditorTooltip::changesAreLogged()
     QVERIFY(m_host.calls.isEmpty());
 }
 
-void tst_EditorTooltip::closingForgetsIt()
+void tst_EditorTooltip::closingIsToldAndEndsIt()
 {
     show(QStringLiteral("text"));
-    const QPointer<EditorTooltip> closed = tooltip();
     const QPointer<QTextEdit> text = textEdit();
-    closed->close();
-    QCOMPARE(m_host.tooltip, nullptr);
+    tooltip()->close();
+    QCOMPARE(m_host.calls, QStringList(QStringLiteral("tooltip closed")));
     QVERIFY(text.isNull());
-    QVERIFY(!closed.isNull());
-    QVERIFY(closed->isHidden());
-    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(closed).isEmpty());
-    QCOMPARE(closed->getSettings().value(QStringLiteral("width")).toInt(), 0);
-    show(QStringLiteral("again"));
-    QVERIFY(tooltip() != closed);
-    delete closed;
+    QVERIFY(tooltip()->isHidden());
+    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(tooltip()).isEmpty());
+    QCOMPARE(tooltip()->getSettings().value(QStringLiteral("width")).toInt(), 0);
 }
 
 void tst_EditorTooltip::destructionEndsTheTimerAndLogs()

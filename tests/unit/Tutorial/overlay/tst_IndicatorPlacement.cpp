@@ -94,7 +94,7 @@ void tst_IndicatorPlacement::mirroringMovesTheTextAside()
 
 void tst_IndicatorPlacement::nullHostRectMirrors()
 {
-    m_host.rect = QRect();
+    m_indicator->setHostRect(QRect());
     settleAt(100, 100);
     QVERIFY(m_indicator->state("mirror").toBool());
     QCOMPARE(m_indicator->textEdit()->pos(), QPoint(0, 56));
@@ -102,7 +102,7 @@ void tst_IndicatorPlacement::nullHostRectMirrors()
 
 void tst_IndicatorPlacement::hostRectCountsFromItsLeft()
 {
-    m_host.rect = QRect(100, 50, 900, 700); // ends at column 1000
+    m_indicator->setHostRect({100, 50, 900, 700}); // ends at column 1000
     settleAt(1000 - 384, 300);
     QVERIFY(!m_indicator->state("mirror").toBool());
     settleAt(1000 - 383, 300);
@@ -184,7 +184,7 @@ void tst_IndicatorPlacement::measuringWorksBeforeTheBubbleWasEverShown()
 
 void tst_IndicatorPlacement::replacedBubbleIsAsHighAsItsHint()
 {
-    m_host.isRunning = true;
+    m_indicator->setRunning(true);
     m_indicator->showTooltip();
     m_indicator->setHint(
         QStringLiteral("A hint that is long enough to be broken into several lines at 256 pixels, "

@@ -106,7 +106,7 @@ void tst_IndicatorSettings::hintOfTheMapHasADocumentOfItsOwn()
 {
     m_indicator->setHint(QStringLiteral("one"));
     const QPointer<QTextDocument> ofHint = m_indicator->textEdit()->document();
-    m_host.font = QFont(QStringLiteral("Another Family"));
+    m_indicator->font = QFont(QStringLiteral("Another Family"));
     m_indicator->setSettings(m_indicator->getSettings());
     const QPointer<QTextDocument> ofMap = m_indicator->textEdit()->document();
     QVERIFY(ofMap != ofHint);

@@ -1,5 +1,5 @@
 #include "IndicatorTest.h"
-#include "Tutorial/overlay/EditorTooltip.h"
+#include "TestTooltip.h"
 #include "Tutorial/overlay/OverlayStyle.h"
 
 #include <QPainter>
@@ -192,17 +192,16 @@ void tst_OverlayStyle::hintHasRoomAroundIt()
 
 void tst_OverlayStyle::tooltipHasRoomAroundIt()
 {
-    m_host.font = QFont(QStringLiteral("DejaVu Serif"), 11);
-    EditorTooltip::show(&m_host, QStringLiteral("The list of all maps"), 300, 200);
-    auto *const textEdit = m_host.tooltip->findChild<QTextEdit *>();
+    TestTooltip tooltip(&m_host, QFont(QStringLiteral("DejaVu Serif"), 11));
+    tooltip.show(QStringLiteral("The list of all maps"));
+    QTextEdit *const textEdit = tooltip.textEdit();
     QCOMPARE(textEdit->viewport()->geometry(), textEdit->rect());
-    QCOMPARE(textEdit->document()->defaultFont().family(), m_host.font.family());
+    QCOMPARE(textEdit->document()->defaultFont().family(), tooltip.font.family());
     const QImage tight = textEdit->grab().toImage();
     const QRect ink = inkOf(tight);
     QVERIFY(tight.rect().adjusted(8, 8, -8, -8).contains(ink));
     textEdit->resize(textEdit->size() + QSize(40, 40));
     QCOMPARE(inkOf(textEdit->grab().toImage()), ink);
-    delete m_host.tooltip;
 }
 
 void tst_OverlayStyle::panelIsLightUnderDarkTextWhateverThePalette()

@@ -100,10 +100,7 @@ void tst_TutorialIndicator::isBuiltHidden()
 void tst_TutorialIndicator::buttonsAreBuiltAlike()
 {
     m_indicator.reset();
-    m_host.font = QFont(QStringLiteral("Some Family"));
-    m_host.fontRequests = 0;
-    m_indicator = std::make_unique<TestIndicator>(&m_host);
-    QCOMPARE(m_host.fontRequests, 1);
+    m_indicator = std::make_unique<TestIndicator>(&m_host, QFont(QStringLiteral("Some Family")));
     const QList<QPair<QPushButton *, QString>> buttons{{TestIndicator::next(), QStringLiteral("Next")},
                                                        {TestIndicator::yes(), QStringLiteral("Yes")},
                                                        {TestIndicator::no(), QStringLiteral("No")}};
@@ -355,7 +352,7 @@ void tst_TutorialIndicator::closedTooltipIsReplaced()
     QCOMPARE(m_indicator->tooltip(), nullptr);
     m_indicator->tick();
     QCOMPARE(m_indicator->tooltip(), nullptr);
-    m_host.isRunning = true;
+    m_indicator->setRunning(true);
     m_indicator->tick();
     QVERIFY(m_indicator->tooltip() != nullptr);
     QVERIFY(m_indicator->tooltip() != first);

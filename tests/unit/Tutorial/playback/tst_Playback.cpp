@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextEdit>
 
 #include <memory>
 
@@ -473,12 +475,16 @@ void tst_Playback::keepsPositionsAndSizes()
 void tst_Playback::takesTheFontForTheLocale()
 {
     LogCapture log;
-    const QString latin = m_playback->overlayFont().family();
+    const auto familyOfAStep = [this] {
+        m_playback->showStep(step());
+        return m_indicator->tooltip()->findChild<QTextEdit *>()->document()->defaultFont().family();
+    };
+    const QString latin = familyOfAStep();
     m_playback->setFontLocale(QStringLiteral("zh_CN"));
-    const QString chinese = m_playback->overlayFont().family();
+    const QString chinese = familyOfAStep();
     QVERIFY(chinese != latin);
     m_playback->setFontLocale(QStringLiteral("en_US"));
-    QCOMPARE(m_playback->overlayFont().family(), latin);
+    QCOMPARE(familyOfAStep(), latin);
 }
 
 QTEST_MAIN(tst_Playback)
