@@ -14,9 +14,10 @@ constexpr int kNoPosition = -9999;
 /// "jump" and "jumpNo" of an item that goes on with the next.
 constexpr int kNoJump = -1;
 
-/// From the top left corner of the bubble's window to the tip of its arrow, in pixels: an item that points at
-/// a place in a window has that place less this as its position.
-constexpr QPoint kTip{38, 150};
+/// From the top left corner of the bubble's window to the spot that its arrow points at, in pixels: an item
+/// that points at a place in a window has that place less this as its position. Upright, the tip is on it
+/// while the arrow rests and up to 16 rows above while it hops; upside down, 33 to 49 rows below.
+constexpr QPoint kTip{38, 132};
 
 /// The names of icons; the number of an icon in the link is its place here.
 constexpr std::array<const char *, 6> kIcons = {"click", "doubleClick", "rightClick",

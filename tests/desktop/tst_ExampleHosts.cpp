@@ -17,7 +17,7 @@ constexpr int kLimitMs = 60000; // only what never happens takes this long
 constexpr QSize kBubble(640, 480);
 constexpr QSize kButton(64, 32);
 constexpr QPoint kInButton(21, 16);
-constexpr QPoint kTip(38, 150);
+constexpr QPoint kTip(38, 132);
 constexpr int kRestingShort = 3;
 
 QByteArray contentsOf(const QString &path)

@@ -59,7 +59,7 @@ void tst_Spot::pointsIntoAControl()
 void tst_Spot::leavesRoomForTheArrow()
 {
     const Spot spot(m_windows.controlsIn(QStringLiteral("MainWindow")), {QStringLiteral("tools")});
-    QCOMPARE(spot.position(), QPoint(100 - 38, 28 - 150));
+    QCOMPARE(spot.position(), QPoint(100 - 38, 28 - 132));
 }
 
 void tst_Spot::refusesWordsThatNameNoSpot_data()

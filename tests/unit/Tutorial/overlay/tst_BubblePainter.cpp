@@ -69,6 +69,8 @@ private Q_SLOTS:
     void kindWithoutAnIconDrawsNone();
     void picturesThatDidNotLoadDrawNothing();
     void ownPicturesAreThere();
+    void ownArrowEndsInAPoint_data();
+    void ownArrowEndsInAPoint();
 };
 
 void tst_BubblePainter::arrowAndIconStandWhereTheStateSays_data()
@@ -180,6 +182,40 @@ void tst_BubblePainter::ownPicturesAreThere()
         QVERIFY(pictures.icon(kind) != nullptr);
         QCOMPARE(pictures.icon(kind)->size(), sizes.at(kind));
     }
+}
+
+void tst_BubblePainter::ownArrowEndsInAPoint_data()
+{
+    QTest::addColumn<bool>("upsideDown");
+    QTest::addColumn<bool>("mirror");
+    QTest::addColumn<QRect>("tip"); // the outermost row
+    QTest::newRow("upright") << false << false << QRect(37, 133, 2, 1);
+    QTest::newRow("mirrored") << false << true << QRect(345, 133, 2, 1);
+    QTest::newRow("upside down") << true << false << QRect(37, 0, 2, 1);
+    QTest::newRow("both") << true << true << QRect(345, 0, 2, 1);
+}
+
+void tst_BubblePainter::ownArrowEndsInAPoint()
+{
+    QFETCH(bool, upsideDown);
+    IndicatorState state;
+    state.placement.upsideDown = upsideDown;
+    QFETCH(bool, mirror);
+    state.placement.mirror = mirror;
+    state.repaintAll = true;
+    const QImage image = paint(state, IndicatorPictures::load(), 1000);
+    QRect painted;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            painted |= image.pixelColor(x, y).alpha() > 0 ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    const int row = upsideDown ? painted.top() : painted.bottom();
+    QRect tip;
+    for (int x = 0; x < image.width(); ++x) {
+        tip |= image.pixelColor(x, row).alpha() > 0 ? QRect(x, row, 1, 1) : QRect();
+    }
+    QTEST(tip, "tip");
 }
 
 QTEST_MAIN(tst_BubblePainter)

@@ -68,7 +68,7 @@ void tst_LessonScenario::namesTheFinding_data()
     row("missing field", "\"x\":0,\n", "", IN_SCENARIO "36: item 3, \"x\": the field is missing");
     row("field twice", "\"x\":0,\n", "\"x\":0,\n\"x\":0,\n",
         IN_SCENARIO "42: item 3, \"x\": the field stands twice");
-    row("fields out of order", "\"x\":0,\n\"y\":-122,\n", "\"y\":-122,\n\"x\":0,\n",
+    row("fields out of order", "\"x\":0,\n\"y\":-104,\n", "\"y\":-104,\n\"x\":0,\n",
         IN_SCENARIO "42: item 3, \"x\": the field has to stand before \"y\"");
     row("number in quotes", "\"x\":0,", "\"x\":\"0\",",
         IN_SCENARIO "41: item 3, \"x\": \"0\" is not a whole number");
@@ -111,9 +111,9 @@ void tst_LessonScenario::namesTheFinding_data()
         IN_SCENARIO "53: item 4, \"x\": the arrow's tip would be at -1, outside the window's width of 800");
     row("right of the window", "\"x\":62,", "\"x\":762,",
         IN_SCENARIO "53: item 4, \"x\": the arrow's tip would be at 800, outside the window's width of 800");
-    row("above the window", "\"y\":100,", "\"y\":-151,",
+    row("above the window", "\"y\":118,", "\"y\":-133,",
         IN_SCENARIO "70: item 5, \"y\": the arrow's tip would be at -1, outside the window's height of 600");
-    row("below the window", "\"y\":100,", "\"y\":450,",
+    row("below the window", "\"y\":118,", "\"y\":468,",
         IN_SCENARIO "70: item 5, \"y\": the arrow's tip would be at 600, outside the window's height of 600");
     row("arrow that points at nothing", "\"x\":62,", "\"x\":400,",
         IN_SCENARIO

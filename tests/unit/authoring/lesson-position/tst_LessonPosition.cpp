@@ -22,7 +22,7 @@ void tst_LessonPosition::answers_data()
     const QString window = QStringLiteral("MainWindow");
     QTest::newRow("a position") << QStringList({tree, fixture, window, QStringLiteral("rows"),
                                                 QStringLiteral("row"), QStringLiteral("1")})
-                                << 0 << QStringLiteral("\"x\":7,\n\"y\":-45,\n") << QString();
+                                << 0 << QStringLiteral("\"x\":7,\n\"y\":-27,\n") << QString();
     QTest::newRow("the controls of a window") << QStringList({tree, fixture, window}) << 0
                                               << QStringLiteral("tools\nrows\ntabs\nmap\n") << QString();
     QTest::newRow("no window") << QStringList({tree, fixture}) << 2 << QString()

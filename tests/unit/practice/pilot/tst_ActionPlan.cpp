@@ -5,7 +5,7 @@
 
 namespace {
 
-// A bubble that stands where it was sent, so that its arrow points at (438, 450).
+// A bubble that stands where it was sent, so that its arrow points at (438, 432).
 constexpr QPoint kPlace(400, 300);
 constexpr QRect kBubble(400, 300, 640, 480);
 const SeenOverlays::Window kLeft{QRect(600, 700, 64, 32), 7};
@@ -85,9 +85,9 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
         QTest::addRow("%s by %s", condition, icon)
             << QString::fromLatin1(condition) << QString::fromLatin1(icon) << QString::fromLatin1(actions);
     };
-    constexpr auto kClick = "a click at (438, 450)";
-    constexpr auto kDoubleClick = "a double click at (438, 450)";
-    constexpr auto kRightClick = "a right click at (438, 450)";
+    constexpr auto kClick = "a click at (438, 432)";
+    constexpr auto kDoubleClick = "a double click at (438, 432)";
+    constexpr auto kRightClick = "a right click at (438, 432)";
     constexpr auto kNext = "a click on the companion's button";
 
     row("windowState,NewProject,open", "click", kClick);
@@ -103,18 +103,18 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("list,2", "doubleClick", kDoubleClick);
     row("popup,MapPopup", "rightClick", kRightClick);
 
-    row("spinBox,=,35 %", "keyboard", "a click at (438, 450); Ctrl+A; typing \"35\"; Enter");
-    row("spinBox,=,-7", "keyboard", "a click at (438, 450); Ctrl+A; typing \"-7\"; Enter");
-    row("textLength,name,4", "keyboard", "a click at (438, 450); Ctrl+A; typing \"aaaa\"");
-    row("textLength,name,0", "keyboard", "a click at (438, 450); Ctrl+A; typing \"a\"");
+    row("spinBox,=,35 %", "keyboard", "a click at (438, 432); Ctrl+A; typing \"35\"; Enter");
+    row("spinBox,=,-7", "keyboard", "a click at (438, 432); Ctrl+A; typing \"-7\"; Enter");
+    row("textLength,name,4", "keyboard", "a click at (438, 432); Ctrl+A; typing \"aaaa\"");
+    row("textLength,name,0", "keyboard", "a click at (438, 432); Ctrl+A; typing \"a\"");
     row("windowState,MapProperties,close", "keyboard",
-        "a click at (438, 450); Ctrl+A; typing \"Village\"; Enter");
+        "a click at (438, 432); Ctrl+A; typing \"Village\"; Enter");
     row("click,", "keyboard",
-        "a click at (438, 450); Ctrl+A; typing \"Village\"; a click on the companion's button");
+        "a click at (438, 432); Ctrl+A; typing \"Village\"; a click on the companion's button");
 
     row("click,", "eye", kNext);
     row("", "eye", kNext);
-    row("click,", "click", "a click at (438, 450); a click on the companion's button");
+    row("click,", "click", "a click at (438, 432); a click on the companion's button");
     row("yesNo", "eye", kNext);
     row("windowState,Copying,close", "wait", "");
     row("wait,700", "wait", "");
@@ -130,7 +130,7 @@ void tst_ActionPlan::doesWhatTheIconSays()
     const std::optional<ActionPlan> plan =
         ActionPlan::make(stepOf(condition, icon), sightWith(buttonsOf(condition)), true);
     QVERIFY(plan);
-    QCOMPARE(*plan->spot, QPoint(438, 450));
+    QCOMPARE(*plan->spot, QPoint(438, 432));
     QTEST(wordsOf(*plan), "actions");
 }
 
@@ -172,7 +172,7 @@ void tst_ActionPlan::readsAConditionThatIsNoneAsNext()
     QCOMPARE(problems.size(), 1);
     const std::optional<ActionPlan> plan = ActionPlan::make(scenario.step(0), sightWith({kLeft}), true);
     QVERIFY(plan);
-    QCOMPARE(wordsOf(*plan), QStringLiteral("a click at (438, 450); a click on the companion's button"));
+    QCOMPARE(wordsOf(*plan), QStringLiteral("a click at (438, 432); a click on the companion's button"));
 }
 
 void tst_ActionPlan::isPatientWithWhatTakesTime_data()

@@ -14,7 +14,7 @@ constexpr int kSoonMs = 10000;
 constexpr int kSeveral = 6;
 
 constexpr QRect kBubble(100, 170, 640, 480); // where the steps below that point send it
-constexpr QRect kMiddle(601, 399, 640, 480); // where it is sent before the first step
+constexpr QRect kMiddle(601, 417, 640, 480); // where it is sent before the first step
 const SeenOverlays::Window kNext{QRect(300, 500, 64, 32), 7};
 
 const QString kClicking = QStringLiteral(
@@ -192,7 +192,7 @@ void tst_Pilot::waitsForTheBubbleToStand()
     QVERIFY(m_scene.acts.isEmpty());
     glides = false;
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
-    QCOMPARE(m_scene.acts.constFirst().place, QPoint(138, 320) + shift);
+    QCOMPARE(m_scene.acts.constFirst().place, QPoint(138, 302) + shift);
 }
 
 void tst_Pilot::aLookThatFailedIsNone()
@@ -307,7 +307,7 @@ void tst_Pilot::aConditionThatStaysFalseIsBroken()
     QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
     QCOMPARE(*m_failure,
              QStringLiteral("lesson 1 (en_US) is broken: step 1/1 id 1 MainWindow list,2: the condition does "
-                            "not come true after a click at (138, 320)"));
+                            "not come true after a click at (138, 302)"));
     QCOMPARE(m_scene.pictures,
              (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-broken.png")}));
 }
@@ -332,7 +332,7 @@ void tst_Pilot::aFocusThatDoesNotComeIsBroken()
     begin({kTyping});
     QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
     QVERIFY2(
-        m_failure->endsWith(QStringLiteral("the window does not get the focus after a click at (138, 320)")),
+        m_failure->endsWith(QStringLiteral("the window does not get the focus after a click at (138, 302)")),
         qPrintable(*m_failure));
 }
 
