@@ -2,6 +2,7 @@
 
 #ifdef TUTORIAL_PILOT
 
+#include "PilotProgress.h"
 #include "PracticeEditor.h"
 #include "pilot/x11/XConnection.h"
 #include "pilot/x11/XEye.h"
@@ -10,16 +11,7 @@
 #include <QGuiApplication>
 
 #include <cstdio>
-
-namespace {
-
-void printLine(std::FILE *stream, const QString &line)
-{
-    std::fprintf(stream, "%s\n", line.toUtf8().constData());
-    std::fflush(stream); // whoever looks on through a pipe sees it now
-}
-
-} // namespace
+#include <memory>
 
 bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QString *error)
 {
@@ -35,17 +27,23 @@ bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QStri
     auto eye = std::make_unique<XEye>(x);
     XEye *const seeing = eye.get();
     auto *pilot = new Pilot(&editor->session(), settings, std::move(eye), std::make_unique<XHand>(x), editor);
+    const auto progress = std::make_shared<PilotProgress>(settings.title);
+    const auto lacks = std::make_shared<bool>(false);
     QObject::connect(editor, &PracticeEditor::companionConnected, pilot,
                      [seeing](qint64 pid) { seeing->setCompanion(pid); });
     QObject::connect(editor, &PracticeEditor::troubled, pilot, &Pilot::fail);
-    QObject::connect(pilot, &Pilot::progress, pilot, [](const QString &line) { printLine(stdout, line); });
+    QObject::connect(
+        pilot, &Pilot::stepReached, pilot,
+        [progress](int index, int count, const QString &line) { progress->showStep(index, count, line); });
+    QObject::connect(pilot, &Pilot::refused, pilot, [lacks] { *lacks = true; });
     QObject::connect(
         pilot, &Pilot::ended, pilot,
-        [](const QString &failure) {
-            if (!failure.isEmpty()) {
-                printLine(stderr, failure);
+        [progress, lacks](const QStringList &failures) {
+            progress->showEnd(failures.isEmpty());
+            for (const QString &failure : failures) {
+                std::fprintf(stderr, "%s\n", failure.toUtf8().constData());
             }
-            QCoreApplication::exit(failure.isEmpty() ? 0 : 1);
+            QCoreApplication::exit(failures.isEmpty() ? 0 : *lacks ? kLessonLacks : 1);
         },
         Qt::QueuedConnection);
     return true;

@@ -4,8 +4,11 @@
 
 class PracticeEditor;
 
+/// The exit status when the companion has no file of the lesson.
+constexpr int kLessonLacks = 3;
+
 /// Lets a pilot play the lesson that @p editor opens; to be called before its start. The pilot lives as long
-/// as the editor, writes its progress to the standard output, and ends the application: with status 0 when
-/// the lesson came to its end, else with 1 and a message. False, with a sentence in @p error, where no pilot
-/// can play.
+/// as the editor, tells of its progress on the standard output (in a terminal with a bar), and ends the
+/// application: with status 0 when the lesson came to its end, kLessonLacks, or 1 with a line for each
+/// broken step on the error output. False, with a sentence in @p error, where no pilot can play.
 [[nodiscard]] bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QString *error);

@@ -44,7 +44,7 @@ public:
     /// Opens the main window and starts the companion. False with a text for the person when that fails.
     [[nodiscard]] bool start(QString *error);
 
-    [[nodiscard]] const LessonSession &session() const { return m_session; }
+    [[nodiscard]] LessonSession &session() { return m_session; }
 
 Q_SIGNALS:
     /// The editor is to end with this exit status.

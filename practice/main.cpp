@@ -1,4 +1,6 @@
+#include "PilotPlay.h"
 #include "PilotRun.h"
+#include "PilotSeries.h"
 #include "PracticeEditor.h"
 #include "PracticeTranslator.h"
 #include "lesson/LessonWords.h"
@@ -16,6 +18,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
 #include <unistd.h>
 
@@ -67,7 +70,7 @@ void endOnSignals(QApplication *application)
 }
 
 /// Empty when the options make sense.
-QString problemOf(const PracticeEditor::Options &options, const QString &lesson, const QString &answer)
+QString problemOf(const PracticeEditor::Options &options, const QString &lesson)
 {
     if (!lesson.isEmpty() && (options.lesson < 1 || options.lesson > 19)) {
         return QStringLiteral("there is no lesson %1; --lesson takes 1 to 19").arg(lesson);
@@ -75,12 +78,6 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson,
     if (!LessonWords::locales().contains(options.locale)) {
         return QStringLiteral("there is no locale %1; --locale takes %2")
             .arg(options.locale, LessonWords::locales().join(QStringLiteral(", ")));
-    }
-    if (options.unattended && options.lesson == 0) {
-        return QStringLiteral("--pilot needs to know which lesson: add --lesson N");
-    }
-    if (answer != QLatin1String("yes") && answer != QLatin1String("no")) {
-        return QStringLiteral("--answers takes yes or no, not \"%1\"").arg(answer);
     }
     return {};
 }
@@ -94,13 +91,23 @@ struct CommandLine
                               QStringLiteral("name"), defaultLocale()};
     QCommandLineOption pilot{QStringLiteral("pilot"),
                              QStringLiteral("Let the lesson play itself, with real mouse and key events.")};
-    QCommandLineOption answers{
-        QStringLiteral("answers"),
-        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default) or no."),
+    QCommandLineOption way{
+        QStringLiteral("way"),
+        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default), no, or "
+                       "both, one after the other. --lesson and --locale take all, too."),
         QStringLiteral("answer"), QStringLiteral("yes")};
     QCommandLineOption shots{QStringLiteral("shots"),
                              QStringLiteral("With --pilot: leave a picture of each step in this folder."),
                              QStringLiteral("folder")};
+    QCommandLineOption broken{
+        QStringLiteral("broken"),
+        QStringLiteral("With --pilot: leave pictures of broken steps in this folder, without --shots."),
+        QStringLiteral("folder"), QDir::temp().filePath(QStringLiteral("PracticeEditor-pilot"))};
+    QCommandLineOption clock{
+        QStringLiteral("clock"),
+        QStringLiteral("With --pilot: this program's clock runs so many times as fast as that of the X "
+                       "server, as under faketime (scripts/play-all)."),
+        QStringLiteral("times"), QStringLiteral("1")};
     QCommandLineOption companion{
         QStringLiteral("companion"),
         QStringLiteral("The companion program; by default Tutorial beside this one."), QStringLiteral("path"),
@@ -116,7 +123,7 @@ struct CommandLine
     CommandLine()
     {
         parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
-        parser.addOptions({lesson, locale, pilot, answers, shots, companion, key, help, version});
+        parser.addOptions({lesson, locale, pilot, way, shots, broken, clock, companion, key, help, version});
         isUnderstood = parser.parse(QCoreApplication::arguments());
     }
 };
@@ -169,14 +176,33 @@ int main(int argc, char **argv)
         return complain(QStringLiteral("it takes options only, not \"%1\"; --help tells which")
                             .arg(parser.positionalArguments().constFirst()));
     }
+    std::optional<PilotPlay> play;
+    const int clock = parser.value(line.clock).toInt();
+    if (parser.isSet(line.pilot)) {
+        QString problem;
+        const QVector<PilotPlay> plays = pilotPlays(parser, &problem);
+        if (problem.isEmpty() && clock < 1) {
+            problem = QStringLiteral("--clock takes a whole number from 1, not \"%1\"")
+                          .arg(parser.value(line.clock));
+        }
+        if (!problem.isEmpty()) {
+            return complain(problem);
+        }
+        if (plays.size() > 1) {
+            return playSeries(plays,
+                              {QStringLiteral("--companion=") + parser.value(line.companion),
+                               QStringLiteral("--clock=") + parser.value(line.clock)},
+                              parser.value(line.shots), parser.value(line.lesson) == QLatin1String("all"));
+        }
+        play = plays.constFirst();
+    }
     PracticeEditor::Options options;
     options.lesson = parser.value(line.lesson).toInt();
     options.locale = parser.value(line.locale);
     options.unattended = parser.isSet(line.pilot);
     options.companionProgram = parser.value(line.companion);
     options.key = parser.value(line.key);
-    if (const QString problem = problemOf(options, parser.value(line.lesson), parser.value(line.answers));
-        !problem.isEmpty()) {
+    if (const QString problem = problemOf(options, parser.value(line.lesson)); !problem.isEmpty()) {
         return complain(problem);
     }
     const PracticeTranslator translator(options.locale);
@@ -197,11 +223,13 @@ int main(int argc, char **argv)
                      Qt::QueuedConnection);
     endOnSignals(&application);
     QString error;
-    if (options.unattended) {
+    if (play) {
         Pilot::Settings settings;
-        settings.title = QStringLiteral("lesson %1 (%2)").arg(options.lesson).arg(options.locale);
-        settings.answersYes = parser.value(line.answers) != QLatin1String("no");
-        settings.shotsFolder = parser.value(line.shots);
+        settings.title = play->title();
+        settings.answersYes = play->way == QLatin1String("yes");
+        settings.picturesOfAll = parser.isSet(line.shots);
+        settings.picturesFolder = parser.value(settings.picturesOfAll ? line.shots : line.broken);
+        settings.speed = clock;
         if (!letPilotPlay(&editor, settings, &error)) {
             return complain(QStringLiteral("--pilot cannot play here: ") + error);
         }

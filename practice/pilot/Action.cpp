@@ -18,6 +18,12 @@ QString Action::inWords() const
         return QStringLiteral("a double click at ") + at(place);
     case Kind::kRightClick:
         return QStringLiteral("a right click at ") + at(place);
+    case Kind::kPress:
+        return QStringLiteral("a press at ") + at(place);
+    case Kind::kCarry:
+        return QStringLiteral("dragging to ") + at(place);
+    case Kind::kRelease:
+        return QStringLiteral("letting go at ") + at(place);
     case Kind::kPressButton:
         return QStringLiteral("a click on the companion's button");
     case Kind::kSelectAll:

@@ -11,6 +11,10 @@ struct Action
         kClick,
         kDoubleClick,
         kRightClick,
+        /// The left button goes down at place, is carried there while it is down, and comes up there.
+        kPress,
+        kCarry,
+        kRelease,
         /// A click at place inside of the companion's button window.
         kPressButton,
         /// With the keyboard.

@@ -2,6 +2,7 @@
 
 #include "lesson/Scenario.h"
 #include "pilot/ArrowSpot.h"
+#include "pilot/DragWay.h"
 
 namespace {
 
@@ -76,6 +77,18 @@ QVector<Action> typing(const Step &step)
     return actions;
 }
 
+/// A drag that the editor sees on its way, and not only where it begins and ends.
+QVector<Action> dragging(const QPoint &from, const QPoint &way)
+{
+    constexpr int kParts = 3;
+    QVector<Action> actions{{Kind::kPress, from, 0, {}}};
+    for (int part = 1; part <= kParts; ++part) {
+        actions.append({Kind::kCarry, from + way * part / kParts, 0, {}});
+    }
+    actions.append({Kind::kRelease, from + way, 0, {}});
+    return actions;
+}
+
 Action pressOf(const SeenOverlays::Window &button)
 {
     // A place inside of the window: it moves once more when its companion comes to lay out the hint only now.
@@ -104,7 +117,9 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
         plan.spot = arrowSpot(sight.overlays.bubble->topLeft(), *sight.place);
     }
     const std::optional<Kind> mouse = mouseAction(step.icon);
-    if (plan.spot && mouse) {
+    if (plan.spot && mouse == Kind::kClick && LessonWords::saysDrag(step.hint)) {
+        plan.actions = dragging(*plan.spot, dragWay(step.hint));
+    } else if (plan.spot && mouse) {
         plan.actions.append({*mouse, *plan.spot, 0, {}});
         if (step.icon == QLatin1String("keyboard")) {
             plan.actions += typing(step);

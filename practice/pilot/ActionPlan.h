@@ -20,8 +20,8 @@ struct Sight
     bool lacksWindow = false;
 };
 
-/// What a learner does in a step: at the spot at which the arrow points once what the icon says, and then the
-/// button, if the step ends with one.
+/// What a learner does in a step: at the spot at which the arrow points once what the icon says, or a drag
+/// from there where the hint asks for one, and then the button, if the step ends with one.
 struct ActionPlan
 {
     /// The spot, in global screen pixels; nothing when the step points nowhere.

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] virtual bool takesClickAt(const QPoint &spot) = 0;
     /// Whether keys would reach the window of the editor at @p spot.
     [[nodiscard]] virtual bool takesKeysAt(const QPoint &spot) = 0;
+    /// What a message tells of the editor's windows, such as their titles, the one with the focus first.
+    [[nodiscard]] virtual QString windows() = 0;
     /// Leaves a picture of the whole screen in the file @p path, a PNG. False when it cannot be written.
     [[nodiscard]] virtual bool takePicture(const QString &path) = 0;
 };

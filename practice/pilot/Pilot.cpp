@@ -9,12 +9,19 @@ namespace {
 constexpr int kTickMs = 60;
 // Longer than the companion's own tick: what has not moved for this long is at rest.
 constexpr int kRestMs = 110;
-// Two clicks that shall not be taken for one double click.
+// Two clicks that nobody shall take for one double click, nor the second for a slip of the first.
 constexpr int kBetweenClicksMs = 500;
+// Clicks farther apart than this, in pixels, are no double click.
+constexpr int kSameSpot = 10;
+
+QString orNothing(const QString &text)
+{
+    return text.isEmpty() ? QStringLiteral("nothing") : text;
+}
 
 } // namespace
 
-Pilot::Pilot(const LessonSession *session, const Settings &settings, std::unique_ptr<Eye> eye,
+Pilot::Pilot(LessonSession *session, const Settings &settings, std::unique_ptr<Eye> eye,
              std::unique_ptr<Hand> hand, QObject *parent)
     : QObject(parent)
     , m_session(session)
@@ -26,14 +33,14 @@ Pilot::Pilot(const LessonSession *session, const Settings &settings, std::unique
     m_limit.setSingleShot(true);
     connect(&m_ticks, &QTimer::timeout, this, &Pilot::onTick);
     connect(&m_limit, &QTimer::timeout, this, &Pilot::onLimit);
-    connect(session, &LessonSession::started, this, [this] {
-        m_sinceStart.start();
-        m_ticks.start();
-    });
+    connect(session, &LessonSession::started, this, [this] { m_ticks.start(); });
     connect(session, &LessonSession::stepReached, this, &Pilot::onStepReached);
     connect(session, &LessonSession::finished, this, &Pilot::onFinished);
     connect(session, &LessonSession::refused, this, [this] {
-        fail(QStringLiteral("the companion does not hand it over; has it a file of that lesson?"));
+        // On a fast clock it may still come.
+        if (m_phase == Phase::kIdle) {
+            m_limit.start(LessonSession::kHandOverMs * (m_settings.speed - 1) + 1);
+        }
     });
     connect(session, &LessonSession::problemFound, this, &Pilot::fail);
 }
@@ -43,25 +50,26 @@ void Pilot::fail(const QString &reason)
     if (m_phase == Phase::kOver) {
         return;
     }
-    QString text = QStringLiteral("%1 is broken: %2").arg(m_settings.title, reason);
-    if (m_sinceStart.isValid() && !takeShot(QStringLiteral("broken"))) {
-        text += QStringLiteral("\n") + shotProblem();
+    QString text = QStringLiteral("%1: broken: %2").arg(m_settings.title, reason);
+    if (m_phase != Phase::kIdle) {
+        text += QStringLiteral("; ") + evidence();
     }
-    end(text);
+    m_failures.append(text);
+    end();
 }
 
-void Pilot::end(const QString &failure)
+void Pilot::end()
 {
     m_phase = Phase::kOver;
     m_ticks.stop();
     m_limit.stop();
-    Q_EMIT ended(failure);
+    Q_EMIT ended(m_failures);
 }
 
 void Pilot::enter(Phase phase, int limitMs)
 {
     m_phase = phase;
-    m_limit.start(limitMs);
+    m_limit.start(limitMs * m_settings.speed);
 }
 
 void Pilot::onStepReached()
@@ -69,11 +77,13 @@ void Pilot::onStepReached()
     if (m_phase == Phase::kOver) {
         return;
     }
-    if (!m_current.isEmpty()) {
-        Q_EMIT progress(m_current + QStringLiteral(" ok"));
+    letGo();
+    if (!m_isPassing) {
+        m_brokenInARow = 0;
     }
-    m_current = stepText();
-    ++m_steps;
+    m_done.clear();
+    const ScenarioRunner &runner = m_session->runner();
+    Q_EMIT stepReached(runner.index() + 1, runner.scenario().size(), stepText());
     // So that what is there at the first look counts as just come.
     m_seen = {};
     m_sinceMoved.start();
@@ -85,7 +95,7 @@ void Pilot::onFinished()
     if (m_phase == Phase::kOver) {
         return;
     }
-    Q_EMIT progress(m_current + QStringLiteral(" ok"));
+    letGo();
     enter(Phase::kEnding, m_settings.settleMs);
 }
 
@@ -110,26 +120,75 @@ void Pilot::onTick()
 
 void Pilot::onLimit()
 {
-    const QString done =
-        m_done.isEmpty() ? QStringLiteral("reading and waiting") : m_done.join(QStringLiteral(", "));
     switch (m_phase) {
     case Phase::kWatching:
-        fail(QStringLiteral(
-                 "%1: the bubble does not come to rest where the step points, or its buttons do not show")
-                 .arg(m_current));
+        breakStep(QStringLiteral(
+            "the bubble does not come to rest where the step points, or its buttons do not show"));
         break;
     case Phase::kActing:
-        fail(QStringLiteral("%1: the window does not get the focus after %2").arg(m_current, done));
+        breakStep(QStringLiteral("the window does not get the focus"));
         break;
     case Phase::kAwaiting:
-        fail(QStringLiteral("%1: the condition does not come true after %2").arg(m_current, done));
+        breakStep(QStringLiteral("the condition does not come true"));
         break;
     case Phase::kEnding:
         fail(QStringLiteral("the bubble or its buttons stay on the screen after the last step"));
         break;
     case Phase::kIdle:
+        Q_EMIT refused();
+        fail(QStringLiteral("the companion does not hand it over; has it a file of that lesson?"));
+        break;
     case Phase::kOver:
         break;
+    }
+}
+
+void Pilot::breakStep(const QString &why)
+{
+    const ScenarioRunner &runner = m_session->runner();
+    if (!runner.isRunning()) {
+        fail(why);
+        return;
+    }
+    const Step &step = runner.step();
+    m_failures.append(QStringLiteral("%1: item %2, %3: %4; %5")
+                          .arg(m_settings.title)
+                          .arg(step.id)
+                          .arg(step.conditionText, why, evidence()));
+    if (++m_brokenInARow == kMostInARow) {
+        m_failures.append(QStringLiteral("%1: given up after %2 broken steps in a row")
+                              .arg(m_settings.title)
+                              .arg(kMostInARow));
+        end();
+        return;
+    }
+    m_isPassing = true;
+    m_session->skipStep();
+    m_isPassing = false;
+}
+
+QString Pilot::evidence()
+{
+    m_seen = m_eye->overlays().value_or(m_seen);
+    QString text =
+        QStringLiteral("done: %1; seen: %2, windows: %3")
+            .arg(orNothing(m_done.join(QStringLiteral(", "))), m_seen.inWords(), orNothing(m_eye->windows()));
+    const QString picture = takePicture(m_session->runner().isRunning()
+                                            ? QStringLiteral("id%1-broken").arg(m_session->runner().step().id)
+                                            : QStringLiteral("broken"));
+    if (!picture.isEmpty()) {
+        text += QStringLiteral("; picture: ") + picture;
+    }
+    return text;
+}
+
+void Pilot::letGo()
+{
+    for (; m_phase == Phase::kActing && m_next < m_plan.actions.size(); ++m_next) {
+        const Action &action = m_plan.actions.at(m_next);
+        if (action.kind == Action::Kind::kRelease) {
+            [[maybe_unused]] const Hand::Result result = m_hand->perform(action);
+        }
     }
 }
 
@@ -146,20 +205,39 @@ bool Pilot::isAtRest()
     return m_sinceMoved.hasExpired(kRestMs);
 }
 
+std::optional<QPoint> Pilot::mousePlace(const Action &action) const
+{
+    if (action.kind != Action::Kind::kPressButton) {
+        return action.isOfKeyboard() ? std::optional<QPoint>() : action.place;
+    }
+    for (const SeenOverlays::Window &button : m_seen.buttons) {
+        if (button.id == action.window) {
+            return button.rect.topLeft() + action.place;
+        }
+    }
+    return {};
+}
+
+bool Pilot::isTooSoon(const ActionPlan &plan) const
+{
+    if (!m_sinceClick.isValid() || plan.actions.isEmpty()) {
+        return false;
+    }
+    const std::optional<QPoint> place = mousePlace(plan.actions.constFirst());
+    const bool isSameSpot = place && (*place - m_lastClick).manhattanLength() <= kSameSpot;
+    return !m_sinceClick.hasExpired(kBetweenClicksMs * (isSameSpot ? m_settings.speed : 1));
+}
+
 void Pilot::watch()
 {
-    if (!m_session->runner().isRunning() || !isAtRest() ||
-        (m_sinceClick.isValid() && !m_sinceClick.hasExpired(kBetweenClicksMs))) {
+    if (!m_session->runner().isRunning() || !isAtRest()) {
         return;
     }
     const Step &step = m_session->runner().step();
     const std::optional<ActionPlan> plan = ActionPlan::make(
         step, {m_seen, m_session->bubblePlace(), m_session->lacksWindow()}, m_settings.answersYes);
-    if (!plan || (plan->spot && !m_eye->takesClickAt(*plan->spot))) {
-        return;
-    }
-    if (!takeShot(QStringLiteral("id%1").arg(step.id))) {
-        fail(shotProblem());
+    if (!plan || isTooSoon(*plan) || (plan->spot && !m_eye->takesClickAt(*plan->spot)) ||
+        !takeShot(QStringLiteral("id%1").arg(step.id))) {
         return;
     }
     m_plan = *plan;
@@ -175,12 +253,13 @@ void Pilot::act()
         enter(Phase::kAwaiting, m_settings.conditionMs + m_plan.waitMs);
         return;
     }
-    const Action &action = m_plan.actions.at(m_next);
+    const Action action = m_plan.actions.at(m_next);
     if (action.isOfKeyboard() && !m_eye->takesKeysAt(*m_plan.spot)) {
         return;
     }
-    if (!action.isOfKeyboard()) {
+    if (const std::optional<QPoint> place = mousePlace(action)) {
         m_sinceClick.start();
+        m_lastClick = *place;
     }
     switch (m_hand->perform(action)) {
     case Hand::Result::kDone:
@@ -192,43 +271,36 @@ void Pilot::act()
         enter(Phase::kWatching, m_settings.settleMs);
         break;
     case Hand::Result::kImpossible:
-        fail(QStringLiteral("%1: %2 cannot be done: the keyboard lacks a key for it")
-                 .arg(m_current, action.inWords()));
+        breakStep(QStringLiteral("%1 cannot be done: the keyboard lacks a key for it").arg(action.inWords()));
         break;
     }
 }
 
 void Pilot::watchEnd()
 {
-    if (!isAtRest() || m_seen != SeenOverlays()) {
-        return;
+    if (isAtRest() && m_seen == SeenOverlays() && takeShot(QStringLiteral("end"))) {
+        end();
     }
-    if (!takeShot(QStringLiteral("end"))) {
-        fail(shotProblem());
-        return;
+}
+
+QString Pilot::takePicture(const QString &name)
+{
+    if (m_settings.picturesFolder.isEmpty() || !QDir().mkpath(m_settings.picturesFolder)) {
+        return {};
     }
-    Q_EMIT progress(QStringLiteral("%1: played to its end, %2 steps in %3 s")
-                        .arg(m_settings.title)
-                        .arg(m_steps)
-                        .arg((m_sinceStart.elapsed() + 500) / 1000));
-    end(QString());
+    const QString file = QStringLiteral("%1-%2.png").arg(++m_pictures, 3, 10, QLatin1Char('0')).arg(name);
+    const QString path = QDir(m_settings.picturesFolder).filePath(file);
+    return m_eye->takePicture(path) ? path : QString();
 }
 
 bool Pilot::takeShot(const QString &name)
 {
-    if (m_settings.shotsFolder.isEmpty()) {
+    if (!m_settings.picturesOfAll || !takePicture(name).isEmpty()) {
         return true;
     }
-    const QString file = QStringLiteral("%1-%2.png").arg(++m_shots, 3, 10, QLatin1Char('0')).arg(name);
-    return QDir().mkpath(m_settings.shotsFolder) &&
-           m_eye->takePicture(QDir(m_settings.shotsFolder).filePath(file));
-}
-
-QString Pilot::shotProblem() const
-{
-    return QStringLiteral(
-               "no picture can be written to \"%1\": is the folder writable, and has the disk room?")
-        .arg(m_settings.shotsFolder);
+    fail(QStringLiteral("no picture can be written to \"%1\": is the folder writable, and has the disk room?")
+             .arg(m_settings.picturesFolder));
+    return false;
 }
 
 QString Pilot::stepText() const

@@ -15,9 +15,10 @@ class LessonSession;
 
 /// Plays a lesson as a learner does: it looks where the companion's windows are on the screen, acts at the
 /// spot that the arrow points at, in the way that the icon says, and clicks the real buttons. What it knows
-/// beyond that is which step is on, to tell when the bubble has arrived and what text to type.
+/// beyond that is which step is on, to tell when the bubble has arrived, what text to type and where to drag.
 ///
-/// A step whose condition does not come true that way is a broken lesson.
+/// A step whose condition does not come true that way is broken. The pilot tells of it, passes it by, and
+/// plays on, since the next may be broken for a reason of its own.
 class Pilot : public QObject
 {
     Q_OBJECT
@@ -25,30 +26,41 @@ class Pilot : public QObject
 public:
     struct Settings
     {
-        /// How the lesson is called in messages, such as "lesson 1 (ja_JP)".
+        /// How the play is called in messages, such as "lesson 1 (ja_JP, yes)".
         QString title;
         /// Which button it presses where a step asks a question: Yes, else No.
         bool answersYes = true;
-        /// Pictures of the whole screen go here, one for each step; none when empty.
-        QString shotsFolder;
+        /// Pictures of the whole screen go here, of each broken step, or of every step; none when empty.
+        QString picturesFolder;
+        bool picturesOfAll = false;
         /// How long the overlays and the focus may take to come, and a condition to come true, in
-        /// milliseconds. Only what is broken takes so long, on a machine with much else to do as well.
+        /// milliseconds of the X server's clock. Only what is broken takes so long, on a machine with much
+        /// else to do as well.
         int settleMs = 30000;
         int conditionMs = 20000;
+        /// How many times as fast as the X server's clock that of this program and the companion's runs. The
+        /// machine is no faster for it, and the server tells by its own clock what is a double click.
+        int speed = 1;
     };
 
+    /// A play is given up after so many broken steps in a row: what follows them tells nothing.
+    static constexpr int kMostInARow = 3;
+
     /// @p session stays the caller's and outlives this.
-    Pilot(const LessonSession *session, const Settings &settings, std::unique_ptr<Eye> eye,
+    Pilot(LessonSession *session, const Settings &settings, std::unique_ptr<Eye> eye,
           std::unique_ptr<Hand> hand, QObject *parent = nullptr);
 
     /// Ends the play as a failure.
     void fail(const QString &reason);
 
 Q_SIGNALS:
-    /// A line of progress.
-    void progress(const QString &line);
-    /// The play is over; @p failure is empty when the lesson was played to its end.
-    void ended(const QString &failure);
+    /// A step was reached, the @p index th of @p count, counted from 1; @p line names it.
+    void stepReached(int index, int count, const QString &line);
+    /// The companion does not hand over the lesson.
+    void refused();
+    /// The play is over; @p failures has a line for each broken step, and none when the lesson was played to
+    /// its end.
+    void ended(const QStringList &failures);
 
 private:
     enum class Phase {
@@ -65,6 +77,7 @@ private:
         kOver,
     };
 
+    /// @p limitMs of the X server's clock.
     void enter(Phase phase, int limitMs);
     void onStepReached();
     void onFinished();
@@ -73,30 +86,43 @@ private:
     void watch();
     void act();
     void watchEnd();
-    void end(const QString &failure);
+    void end();
+    /// Writes down that the present step is broken, and passes it by.
+    void breakStep(const QString &why);
+    /// What a message tells beside the reason: what was done, what is seen, and where the picture is.
+    [[nodiscard]] QString evidence();
+    /// Lets go of what is being dragged.
+    void letGo();
     /// Looks, and tells whether the overlays stand still. False also when the look failed.
     [[nodiscard]] bool isAtRest();
-    /// False when it cannot be written. True also where no pictures are asked for.
+    /// Whether a click there now would be the second half of a double click with the last one, or of a
+    /// person's who is too quick.
+    [[nodiscard]] bool isTooSoon(const ActionPlan &plan) const;
+    /// Where the mouse acts next, on the screen; nothing when the keyboard does.
+    [[nodiscard]] std::optional<QPoint> mousePlace(const Action &action) const;
+    /// Leaves a picture of the screen in a file with this name; its path, empty when there is none.
+    QString takePicture(const QString &name);
+    /// False, and the play is over, when a picture is asked for and cannot be written.
     [[nodiscard]] bool takeShot(const QString &name);
-    [[nodiscard]] QString shotProblem() const;
     [[nodiscard]] QString stepText() const;
 
-    const LessonSession *m_session;
+    LessonSession *m_session;
     Settings m_settings;
     std::unique_ptr<Eye> m_eye;
     std::unique_ptr<Hand> m_hand;
     Phase m_phase = Phase::kIdle;
     QTimer m_ticks;
     QTimer m_limit;
-    QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceMoved;
     QElapsedTimer m_sinceClick;
+    QPoint m_lastClick;
     SeenOverlays m_seen;
     ActionPlan m_plan;
     /// How many of the plan's actions are done, and which, in words.
     int m_next = 0;
     QStringList m_done;
-    int m_steps = 0;
-    int m_shots = 0;
-    QString m_current;
+    int m_pictures = 0;
+    int m_brokenInARow = 0;
+    bool m_isPassing = false;
+    QStringList m_failures;
 };

@@ -23,3 +23,17 @@ SeenOverlays SeenOverlays::among(const QVector<Window> &windows)
               [](const Window &a, const Window &b) { return a.rect.x() < b.rect.x(); });
     return overlays;
 }
+
+QString SeenOverlays::inWords() const
+{
+    const QString where = bubble ? QStringLiteral("the bubble at (%1, %2)").arg(bubble->x()).arg(bubble->y())
+                                 : QStringLiteral("no bubble");
+    switch (buttons.size()) {
+    case 0:
+        return where + QStringLiteral(", no button");
+    case 1:
+        return where + QStringLiteral(", 1 button");
+    default:
+        return where + QStringLiteral(", %1 buttons").arg(buttons.size());
+    }
+}

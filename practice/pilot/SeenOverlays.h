@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <QString>
 #include <QVector>
 
 #include <optional>
@@ -26,6 +27,9 @@ struct SeenOverlays
 
     /// Tells them by their sizes from whatever other windows the companion has.
     [[nodiscard]] static SeenOverlays among(const QVector<Window> &windows);
+
+    /// As a message says it, such as "the bubble at (10, 20), 2 buttons".
+    [[nodiscard]] QString inWords() const;
 
     [[nodiscard]] bool operator==(const SeenOverlays &other) const
     {

@@ -64,9 +64,10 @@ private:
         QTest::newRow("PracticeEditor")
             << QStringLiteral(PRACTICE_PROGRAM)
             << QStringList{
-                   QStringLiteral("--answers"), QStringLiteral("--companion"), QStringLiteral("--help"),
-                   QStringLiteral("--key"),     QStringLiteral("--lesson"),    QStringLiteral("--locale"),
-                   QStringLiteral("--pilot"),   QStringLiteral("--shots"),     QStringLiteral("--version")};
+                   QStringLiteral("--broken"),  QStringLiteral("--clock"), QStringLiteral("--companion"),
+                   QStringLiteral("--help"),    QStringLiteral("--key"),   QStringLiteral("--lesson"),
+                   QStringLiteral("--locale"),  QStringLiteral("--pilot"), QStringLiteral("--shots"),
+                   QStringLiteral("--version"), QStringLiteral("--way")};
     }
 };
 

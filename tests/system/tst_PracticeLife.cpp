@@ -290,7 +290,16 @@ void tst_PracticeLife::wrongOptionsAreSaid_data()
         << QStringList{QStringLiteral("--pilot"), QStringLiteral("--lesson"), QStringLiteral("1")}
         << QByteArray("--pilot cannot play here");
     QTest::newRow("an answer that is none")
-        << QStringList{QStringLiteral("--answers"), QStringLiteral("maybe")} << QByteArray("not \"maybe\"");
+        << QStringList{QStringLiteral("--pilot"), QStringLiteral("--lesson"), QStringLiteral("1"),
+                       QStringLiteral("--way"), QStringLiteral("maybe")}
+        << QByteArray("--way takes yes, no or both");
+    QTest::newRow("a lesson that no pilot knows")
+        << QStringList{QStringLiteral("--pilot"), QStringLiteral("--lesson"), QStringLiteral("20")}
+        << QByteArray("--lesson takes 1 to 19 or all");
+    QTest::newRow("a clock that stands still")
+        << QStringList{QStringLiteral("--pilot"), QStringLiteral("--lesson"), QStringLiteral("1"),
+                       QStringLiteral("--clock"), QStringLiteral("0")}
+        << QByteArray("--clock takes a whole number from 1");
     QTest::newRow("a key that names no server")
         << QStringList{QStringLiteral("--key"), QStringLiteral("a/b/c")} << QByteArray("cannot listen");
 }

@@ -151,6 +151,26 @@ bool XEye::takesKeysAt(const QPoint &spot)
     return window != nullptr && QGuiApplication::focusWindow() == window;
 }
 
+QString XEye::windows()
+{
+    QStringList titles;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (const QWindow *const window : windows) {
+        if (!window->isVisible()) {
+            continue;
+        }
+        const bool isMenu = window->type() == Qt::Popup;
+        const QString title =
+            isMenu ? QStringLiteral("a menu") : QStringLiteral("\"%1\"").arg(window->title());
+        if (isMenu || window == QGuiApplication::focusWindow()) {
+            titles.prepend(title);
+        } else if (!window->title().isEmpty()) {
+            titles.append(title);
+        }
+    }
+    return titles.join(QStringLiteral(", "));
+}
+
 bool XEye::takePicture(const QString &path)
 {
     // Window 0 is the screen as the person sees it, the companion's windows included.

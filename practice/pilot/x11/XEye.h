@@ -17,6 +17,7 @@ public:
     [[nodiscard]] std::optional<SeenOverlays> overlays() override;
     [[nodiscard]] bool takesClickAt(const QPoint &spot) override;
     [[nodiscard]] bool takesKeysAt(const QPoint &spot) override;
+    [[nodiscard]] QString windows() override;
     [[nodiscard]] bool takePicture(const QString &path) override;
 
 private:

@@ -15,6 +15,7 @@ namespace {
 
 constexpr uint8_t kLeftButton = 1;
 constexpr uint8_t kRightButton = 3;
+constexpr QPoint kBeside(2, 2);
 
 } // namespace
 
@@ -32,6 +33,10 @@ Hand::Result XHand::perform(const Action &action)
         return click(m_x->root(), action.place, kLeftButton, 2);
     case Action::Kind::kRightClick:
         return click(m_x->root(), action.place, kRightButton);
+    case Action::Kind::kPress:
+    case Action::Kind::kCarry:
+    case Action::Kind::kRelease:
+        return drag(action);
     case Action::Kind::kPressButton:
         return click(action.window, action.place, kLeftButton);
     case Action::Kind::kSelectAll:
@@ -58,8 +63,7 @@ Hand::Result XHand::click(xcb_window_t window, const QPoint &place, uint8_t butt
     xcb_grab_server(m_x->get());
     const bool isThere = isVisible(window);
     if (isThere) {
-        xcb_warp_pointer(m_x->get(), XCB_NONE, window, 0, 0, 0, 0, static_cast<int16_t>(place.x()),
-                         static_cast<int16_t>(place.y()));
+        goTo(window, place);
         for (int i = 0; i < times; ++i) {
             fake(XCB_BUTTON_PRESS, button);
             fake(XCB_BUTTON_RELEASE, button);
@@ -70,6 +74,28 @@ Hand::Result XHand::click(xcb_window_t window, const QPoint &place, uint8_t butt
     const bool isTooSlow =
         times > 1 && clock.hasExpired(QGuiApplication::styleHints()->mouseDoubleClickInterval());
     return isThere && !isTooSlow ? Result::kDone : Result::kMissed;
+}
+
+Hand::Result XHand::drag(const Action &action)
+{
+    goTo(m_x->root(), action.place);
+    if (action.kind == Action::Kind::kPress) {
+        fake(XCB_BUTTON_PRESS, kLeftButton);
+    } else if (action.kind == Action::Kind::kRelease) {
+        fake(XCB_BUTTON_RELEASE, kLeftButton);
+    }
+    m_x->sync();
+    return Result::kDone;
+}
+
+void XHand::goTo(xcb_window_t window, const QPoint &place)
+{
+    // The window below hears of a way and not only of a pointer that has come: to Qt a press is the second
+    // half of a double click, wherever it is, until the pointer has moved.
+    for (const QPoint &stop : {place + kBeside, place}) {
+        xcb_warp_pointer(m_x->get(), XCB_NONE, window, 0, 0, 0, 0, static_cast<int16_t>(stop.x()),
+                         static_cast<int16_t>(stop.y()));
+    }
 }
 
 Hand::Result XHand::strike(const QVector<std::optional<XKeyboard::Key>> &keys)

@@ -14,9 +14,9 @@
 class TestIndicator final : public TutorialIndicator
 {
 public:
-    explicit TestIndicator(OverlayHost *manager, const QFont &font = {})
-        : TutorialIndicator(nullptr, manager, font)
-        , font(font)
+    explicit TestIndicator(OverlayHost *manager, const QFont &first = {})
+        : TutorialIndicator(nullptr, manager, first)
+        , font(first)
     {
         setHostRect({0, 0, 1920, 1080});
     }

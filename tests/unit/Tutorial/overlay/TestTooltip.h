@@ -9,9 +9,9 @@
 class TestTooltip final : public EditorTooltip
 {
 public:
-    explicit TestTooltip(OverlayHost *manager, const QFont &font = {})
+    explicit TestTooltip(OverlayHost *manager, const QFont &first = {})
         : EditorTooltip(nullptr, manager)
-        , font(font)
+        , font(first)
     {
     }
 

@@ -203,7 +203,7 @@ void tst_BubblePainter::ownArrowEndsInAPoint()
     QFETCH(bool, mirror);
     state.placement.mirror = mirror;
     state.repaintAll = true;
-    const QImage image = paint(state, IndicatorPictures::load(), 1000);
+    const QImage image = paint(state, IndicatorPictures::load(), 500);
     QRect painted;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {

@@ -65,6 +65,7 @@ class tst_ActionPlan : public QObject
 private Q_SLOTS:
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
+    void dragsWhereTheHintSaysSo();
     void onlyReadsWhereNothingIsPointedAt();
     void answersWithTheButtonOnTheLeftOrRight();
     void pressesInsideTheButtonsWindow();
@@ -121,6 +122,20 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("wait", "", "");
     row("list,2", "", "");
     row("list,2", "drag", "");
+}
+
+void tst_ActionPlan::dragsWhereTheHintSaysSo()
+{
+    Step step = stepOf(QStringLiteral("mouseEvent,Map,click"), QStringLiteral("click"));
+    step.hint = QStringLiteral("Press here, drag to the right and let go.");
+    QCOMPARE(
+        wordsOf(*ActionPlan::make(step, sightWith({}), true)),
+        QStringLiteral("a press at (438, 432); dragging to (470, 432); dragging to (502, 432); dragging to "
+                       "(534, 432); letting go at (534, 432)"));
+    // A picture of a right click is not one of a drag.
+    step.icon = QStringLiteral("rightClick");
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
+             QStringLiteral("a right click at (438, 432)"));
 }
 
 void tst_ActionPlan::doesWhatTheIconSays()

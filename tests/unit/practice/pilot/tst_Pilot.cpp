@@ -21,6 +21,8 @@ const QString kClicking = QStringLiteral(
     R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
 const QString kTyping = QStringLiteral(
     R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
+const QString kDragging = QStringLiteral(
+    R"({"id":5,"x":10,"y":-20,"windowKey":"MainWindow","condition":"pressed,0,0","hint":"Drag to the right","icon":"click"})");
 const QString kReading = QStringLiteral(
     R"({"id":3,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"Read","icon":"eye"})");
 const QString kReadingOn = QStringLiteral(
@@ -65,6 +67,7 @@ public:
         ++m_scene->questionsForKeys;
         return m_scene->takesKeys;
     }
+    QString windows() override { return QStringLiteral("\"Editor\""); }
     bool takePicture(const QString &path) override
     {
         m_scene->pictures += path.section(QLatin1Char('/'), -1);
@@ -111,6 +114,10 @@ private Q_SLOTS:
     void keepsTwoClicksApart();
     void playsToTheEndAndSeesTheOverlaysGo();
     void aConditionThatStaysFalseIsBroken();
+    void playsOnBehindABrokenStep();
+    void threeBrokenStepsInARowAreEnough();
+    void letsGoWhenTheStepEndsUnderADrag();
+    void aFastClockLengthensTheLimits();
     void overlaysThatDoNotComeAreBroken();
     void aFocusThatDoesNotComeIsBroken();
     void overlaysThatDoNotGoAreBroken();
@@ -129,14 +136,14 @@ private:
     std::unique_ptr<FakeEditor> m_editor;
     std::unique_ptr<LessonSession> m_session;
     std::unique_ptr<Pilot> m_pilot;
-    QStringList m_progress;
-    std::optional<QString> m_failure;
+    QStringList m_steps;
+    std::optional<QStringList> m_failures; ///< once the play is over
 };
 
 Pilot::Settings tst_Pilot::settings()
 {
     Pilot::Settings settings;
-    settings.title = QStringLiteral("lesson 1 (en_US)");
+    settings.title = QStringLiteral("lesson 1 (en_US, yes)");
     return settings;
 }
 
@@ -147,8 +154,8 @@ void tst_Pilot::init()
     m_scene.look = [this] {
         return m_overlays;
     };
-    m_progress.clear();
-    m_failure.reset();
+    m_steps.clear();
+    m_failures.reset();
     m_editor = std::make_unique<FakeEditor>();
     m_session = std::make_unique<LessonSession>(m_editor.get());
     makePilot(settings());
@@ -165,8 +172,10 @@ void tst_Pilot::makePilot(const Pilot::Settings &settings)
 {
     m_pilot = std::make_unique<Pilot>(m_session.get(), settings, std::make_unique<SceneEye>(&m_scene),
                                       std::make_unique<SceneHand>(&m_scene));
-    connect(m_pilot.get(), &Pilot::progress, this, [this](const QString &line) { m_progress += line; });
-    connect(m_pilot.get(), &Pilot::ended, this, [this](const QString &failure) { m_failure = failure; });
+    connect(m_pilot.get(), &Pilot::stepReached, this,
+            [this](int, int, const QString &line) { m_steps += line; });
+    connect(m_pilot.get(), &Pilot::ended, this,
+            [this](const QStringList &failures) { m_failures = failures; });
 }
 
 void tst_Pilot::begin(const QStringList &steps)
@@ -268,7 +277,8 @@ void tst_Pilot::keepsTwoClicksApart()
 void tst_Pilot::playsToTheEndAndSeesTheOverlaysGo()
 {
     Pilot::Settings withShots = settings();
-    withShots.shotsFolder = QDir::tempPath();
+    withShots.picturesFolder = QDir::tempPath();
+    withShots.picturesOfAll = true;
     makePilot(withShots);
     m_scene.perform = [this](const Action &action) {
         if (action.kind == Action::Kind::kClick) {
@@ -284,15 +294,12 @@ void tst_Pilot::playsToTheEndAndSeesTheOverlaysGo()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
     const int looks = m_scene.looks;
     QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > looks + kSeveral, kSoonMs);
-    QVERIFY(!m_failure);
+    QVERIFY(!m_failures);
     m_overlays = {};
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QCOMPARE(*m_failure, QString());
-    QCOMPARE(m_progress.size(), 3);
-    QCOMPARE(m_progress.at(0), QStringLiteral("step 1/2 id 1 MainWindow list,2 ok"));
-    QCOMPARE(m_progress.at(1), QStringLiteral("step 2/2 id 3 - click, ok"));
-    QVERIFY2(m_progress.at(2).startsWith(QStringLiteral("lesson 1 (en_US): played to its end, 2 steps in ")),
-             qPrintable(m_progress.at(2)));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(*m_failures, QStringList());
+    QCOMPARE(m_steps, (QStringList{QStringLiteral("step 1/2 id 1 MainWindow list,2"),
+                                   QStringLiteral("step 2/2 id 3 - click,")}));
     QCOMPARE(m_scene.pictures, (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-id3.png"),
                                             QStringLiteral("003-end.png")}));
 }
@@ -301,15 +308,90 @@ void tst_Pilot::aConditionThatStaysFalseIsBroken()
 {
     Pilot::Settings hasty = settings();
     hasty.conditionMs = 100;
-    hasty.shotsFolder = QDir::tempPath();
+    hasty.picturesFolder = QDir::tempPath();
     makePilot(hasty);
     begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QCOMPARE(*m_failure,
-             QStringLiteral("lesson 1 (en_US) is broken: step 1/1 id 1 MainWindow list,2: the condition does "
-                            "not come true after a click at (138, 302)"));
-    QCOMPARE(m_scene.pictures,
-             (QStringList{QStringLiteral("001-id1.png"), QStringLiteral("002-broken.png")}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.pictures, QStringList(QStringLiteral("001-id1-broken.png")), kSoonMs);
+    m_overlays = {};
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(*m_failures,
+             QStringList(
+                 QStringLiteral(
+                     "lesson 1 (en_US, yes): item 1, list,2: the condition does not come true; done: a "
+                     "click at (138, 302); seen: the bubble at (100, 170), no button, windows: \"Editor\"; "
+                     "picture: %1/001-id1-broken.png")
+                     .arg(QDir::tempPath())));
+}
+
+void tst_Pilot::playsOnBehindABrokenStep()
+{
+    Pilot::Settings hasty = settings();
+    hasty.conditionMs = 100;
+    makePilot(hasty);
+    m_scene.perform = [this](const Action &action) {
+        m_overlays.buttons = {kNext};
+        if (action.kind == Action::Kind::kPressButton) {
+            m_overlays = {};
+            QTimer::singleShot(0, m_session.get(), [this] { m_session->receive(QStringLiteral("next")); });
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kClicking, kReading});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(m_failures->size(), 1);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("item 1, list,2: the condition")),
+             qPrintable(m_failures->constFirst()));
+    QCOMPARE(m_steps.size(), 2);
+}
+
+void tst_Pilot::threeBrokenStepsInARowAreEnough()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 100;
+    makePilot(hasty);
+    m_overlays = {};
+    begin({kClicking, kReading, kTyping, kReadingOn});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(m_failures->size(), 4);
+    QVERIFY2(m_failures->at(2).contains(QStringLiteral("the bubble does not come to rest")),
+             qPrintable(m_failures->at(2)));
+    QCOMPARE(m_failures->at(3),
+             QStringLiteral("lesson 1 (en_US, yes): given up after 3 broken steps in a row"));
+    QCOMPARE(m_steps.size(), 3);
+}
+
+void tst_Pilot::letsGoWhenTheStepEndsUnderADrag()
+{
+    m_scene.perform = [this](const Action &action) {
+        if (action.kind == Action::Kind::kPress) {
+            QTimer::singleShot(0, m_editor.get(), [this] {
+                m_editor->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"));
+            });
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kDragging, kReading});
+    QTRY_VERIFY_WITH_TIMEOUT(m_steps.size() == 2, kSoonMs);
+    QCOMPARE(m_scene.acts.constFirst().kind, Action::Kind::kPress);
+    QCOMPARE(m_scene.acts.constLast().kind, Action::Kind::kRelease);
+}
+
+void tst_Pilot::aFastClockLengthensTheLimits()
+{
+    Pilot::Settings fast = settings();
+    fast.conditionMs = 50;
+    fast.speed = 20;
+    makePilot(fast);
+    QElapsedTimer clock;
+    m_scene.perform = [&](const Action &) {
+        clock.start();
+        return Hand::Result::kDone;
+    };
+    begin({kClicking});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.acts.size() == 1, kSoonMs);
+    m_overlays = {};
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
 }
 
 void tst_Pilot::overlaysThatDoNotComeAreBroken()
@@ -319,8 +401,9 @@ void tst_Pilot::overlaysThatDoNotComeAreBroken()
     makePilot(hasty);
     m_overlays = {};
     begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(m_failure->contains(QStringLiteral("the bubble does not come to rest")), qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("the bubble does not come to rest")),
+             qPrintable(m_failures->constFirst()));
 }
 
 void tst_Pilot::aFocusThatDoesNotComeIsBroken()
@@ -330,10 +413,10 @@ void tst_Pilot::aFocusThatDoesNotComeIsBroken()
     makePilot(hasty);
     m_scene.takesKeys = false;
     begin({kTyping});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(
-        m_failure->endsWith(QStringLiteral("the window does not get the focus after a click at (138, 302)")),
-        qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(
+                 QStringLiteral("the window does not get the focus; done: a click at (138, 302); seen: ")),
+             qPrintable(m_failures->constFirst()));
 }
 
 void tst_Pilot::overlaysThatDoNotGoAreBroken()
@@ -343,38 +426,48 @@ void tst_Pilot::overlaysThatDoNotGoAreBroken()
     makePilot(hasty);
     begin({kClicking});
     m_editor->report(QStringLiteral("list"), QStringLiteral("2"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(m_failure->contains(QStringLiteral("stay on the screen")), qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("stay on the screen")),
+             qPrintable(m_failures->constFirst()));
 }
 
 void tst_Pilot::aKeyThatIsMissingIsBroken()
 {
-    m_scene.perform = [](const Action &action) {
-        return action.kind == Action::Kind::kType ? Hand::Result::kImpossible : Hand::Result::kDone;
+    m_scene.perform = [this](const Action &action) {
+        if (action.kind != Action::Kind::kType) {
+            return Hand::Result::kDone;
+        }
+        m_overlays = {};
+        return Hand::Result::kImpossible;
     };
     begin({kTyping});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(m_failure->contains(QStringLiteral("typing \"aa\" cannot be done: the keyboard lacks a key")),
-             qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(
+                 QStringLiteral("typing \"aa\" cannot be done: the keyboard lacks a key")),
+             qPrintable(m_failures->constFirst()));
 }
 
 void tst_Pilot::aPictureThatCannotBeWrittenEndsThePlay()
 {
     Pilot::Settings withShots = settings();
-    withShots.shotsFolder = QDir::tempPath();
+    withShots.picturesFolder = QDir::tempPath();
+    withShots.picturesOfAll = true;
     makePilot(withShots);
     m_scene.takesPictures = false;
     begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(m_failure->contains(QDir::tempPath()), qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QDir::tempPath()), qPrintable(m_failures->constFirst()));
     QVERIFY(m_scene.acts.isEmpty());
 }
 
 void tst_Pilot::aRefusedLessonIsBroken()
 {
+    const QSignalSpy refusals(m_pilot.get(), &Pilot::refused);
     m_session->request(QStringLiteral("TutorialStep9"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
-    QVERIFY2(m_failure->contains(QStringLiteral("does not hand it over")), qPrintable(*m_failure));
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("does not hand it over")),
+             qPrintable(m_failures->constFirst()));
+    QCOMPARE(refusals.size(), 1);
 }
 
 void tst_Pilot::aLessonThatIsStoppedIsBroken()
@@ -384,7 +477,7 @@ void tst_Pilot::aLessonThatIsStoppedIsBroken()
     makePilot(hasty);
     begin({kClicking});
     m_session->stop();
-    QTRY_VERIFY_WITH_TIMEOUT(m_failure.has_value(), kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
     QVERIFY(m_scene.acts.isEmpty());
 }
 

@@ -1,0 +1,66 @@
+#include "PilotPlay.h"
+
+#include "lesson/LessonWords.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+constexpr int kLessons = 19;
+const QString kAll = QStringLiteral("all");
+
+/// What the option @p name names of @p known: one, or all of them with @p all.
+QStringList chosen(const QCommandLineParser &parser, const QString &name, const QString &all,
+                   const QStringList &known, QString *problem)
+{
+    const QString value = parser.value(name);
+    if (value == all) {
+        return known;
+    }
+    if (!known.contains(value)) {
+        const QString range = known.size() > 3
+                                  ? QStringLiteral("%1 to %2").arg(known.constFirst(), known.constLast())
+                                  : known.join(QStringLiteral(", "));
+        *problem = QStringLiteral("there is no %1 \"%2\"; --%1 takes %3 or %4").arg(name, value, range, all);
+        return {};
+    }
+    return {value};
+}
+
+} // namespace
+
+QString PilotPlay::title() const
+{
+    return QStringLiteral("lesson %1 (%2, %3)").arg(lesson).arg(locale, way);
+}
+
+QString PilotPlay::folderName() const
+{
+    return QStringLiteral("lesson%1-%2-%3").arg(lesson).arg(locale, way);
+}
+
+QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem)
+{
+    QStringList numbers;
+    for (int number = 1; number <= kLessons; ++number) {
+        numbers += QString::number(number);
+    }
+    if (!parser.isSet(QStringLiteral("lesson"))) {
+        *problem = QStringLiteral("--pilot needs to know which lesson: add --lesson N, or --lesson all");
+        return {};
+    }
+    const QStringList lessons = chosen(parser, QStringLiteral("lesson"), kAll, numbers, problem);
+    const QStringList locales =
+        chosen(parser, QStringLiteral("locale"), kAll, LessonWords::locales(), problem);
+    const QStringList ways = chosen(parser, QStringLiteral("way"), QStringLiteral("both"),
+                                    {QStringLiteral("yes"), QStringLiteral("no")}, problem);
+    QVector<PilotPlay> plays;
+    for (const QString &lesson : lessons) {
+        for (const QString &locale : locales) {
+            for (const QString &way : ways) {
+                plays.append({lesson.toInt(), locale, way});
+            }
+        }
+    }
+    return plays;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "PilotPlay.h"
+
+#include <QStringList>
+
+/// Lets this program play @p plays one after the other, each in a process of its own with @p options, since
+/// its windows have one language; pictures go into a folder for each below @p pictures, if that is not empty.
+/// What a play says goes to this program's output. A lesson that the companion has no file of is left out,
+/// with a line that says so, when @p mayLack is true. Returns the exit status: 0 when all the others came to
+/// their ends.
+[[nodiscard]] int playSeries(const QVector<PilotPlay> &plays, const QStringList &options,
+                             const QString &pictures, bool mayLack);
