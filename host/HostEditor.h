@@ -1,5 +1,9 @@
 #pragma once
 
+#include "host/ControlUse.h"
+#include "host/EditorState.h"
+#include "host/Way.h"
+#include "lesson/Condition.h"
 #include "lesson/EditorEvent.h"
 
 #include <QObject>
@@ -10,6 +14,8 @@
 #include <QStringList>
 
 #include <optional>
+
+struct Step;
 
 /// What a lesson has to know of the editor that plays it: which windows are open, where they are, and what
 /// happens in them. The editor implements it once; LessonSession does the rest. All positions are global
@@ -38,6 +44,101 @@ public:
         return {};
     }
 
+    /// The entry of openWindows() that has to be on top for a person to use what this key names: the window
+    /// of a part, "Popup" for "Menu". Empty where that is no one window.
+    [[nodiscard]] virtual QString windowOf(const QString &windowKey) const
+    {
+        return windowKey == QLatin1String("Menu") ? QStringLiteral("Popup") : windowKey;
+    }
+
+    /// The control that has the point, in the pixels of positions in a lesson; with its row, tab or cell.
+    /// "Menu" is the open context menu. Nothing where there is none, and from an editor that does not tell:
+    /// then only what happens counts, and not where.
+    [[nodiscard]] virtual std::optional<ControlSpot> controlAt(const QString &windowKey,
+                                                               const QPoint &point) const
+    {
+        Q_UNUSED(windowKey)
+        Q_UNUSED(point)
+        return {};
+    }
+
+    /// Where it can be used at present, in global screen pixels. Nothing while it is hidden: its window
+    /// closed or below another one, its tab behind another one, its row scrolled away, a context menu over
+    /// it.
+    [[nodiscard]] virtual std::optional<QRect> rectOf(const ControlSpot &spot) const
+    {
+        Q_UNUSED(spot)
+        return {};
+    }
+    /// The middle of it.
+    [[nodiscard]] std::optional<QPoint> spotOf(const ControlSpot &spot) const
+    {
+        const std::optional<QRect> rect = rectOf(spot);
+        return rect ? std::optional(rect->center()) : std::nullopt;
+    }
+    /// Scrolls it into view, as far as scrolling helps.
+    virtual void reveal(const ControlSpot &spot) { Q_UNUSED(spot) }
+
+    /// Whether a person who uses the control brings the condition about with that alone. A field to type into
+    /// does not close its window, say.
+    [[nodiscard]] virtual bool canCause(const ControlSpot &spot, const Condition &condition) const
+    {
+        Q_UNUSED(spot)
+        Q_UNUSED(condition)
+        return true;
+    }
+
+    /// What leads where, as far as the editor knows; what is liked better stands first. A control that closes
+    /// its window and drops what was typed there is the best way out of it. The close button of a frame is
+    /// one, too: ControlSpot::dismiss().
+    [[nodiscard]] virtual Ways ways() const { return {}; }
+
+    /// What using the control means just now, in any words that differ when it means something else: the text
+    /// of a row; for a map which one it is and with what a person draws; that it is hidden or grey. Empty
+    /// while its window is closed, and where that is always the same.
+    [[nodiscard]] virtual QString meaningOf(const ControlSpot &spot) const
+    {
+        Q_UNUSED(spot)
+        return {};
+    }
+    /// What is in front, in the hand or chosen of what a person can switch with one click: tabs, tools, rows.
+    [[nodiscard]] virtual QVector<ControlSpot> chosen() const { return {}; }
+
+    /// Which project is open, in any words that differ for another one; empty for none.
+    [[nodiscard]] virtual QString projectId() const { return {}; }
+    /// Differs when the project's data do.
+    [[nodiscard]] virtual QString dataMark() const { return {}; }
+    [[nodiscard]] virtual EditorState state() const { return {}; }
+    /// Makes all as it was then, windows included, and tells of them as if a person had opened and closed
+    /// them. False when that cannot be done, as for a project that is gone; then as much as can be done is.
+    virtual bool restore(const EditorState &state)
+    {
+        Q_UNUSED(state)
+        return false;
+    }
+
+    /// Does what a person would, with all that follows from it. False where that cannot be done.
+    virtual bool perform(const ControlUse &use)
+    {
+        Q_UNUSED(use)
+        return false;
+    }
+
+    /// A short hint for a person who has strayed from @p step: what to do with the control of @p way to get
+    /// back. Empty for the hint of the step itself.
+    [[nodiscard]] virtual QString hintBack(const Way &way, const Step &step) const
+    {
+        Q_UNUSED(way)
+        Q_UNUSED(step)
+        return {};
+    }
+    /// The same where no control leads back, but LessonSession::putBack() does.
+    [[nodiscard]] virtual QString hintToPutBack(const Step &step) const
+    {
+        Q_UNUSED(step)
+        return {};
+    }
+
     /// Rectangle of the whole screen area of the editor.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 
@@ -63,6 +164,14 @@ Q_SIGNALS:
 
     /// A named control stands here; emitted when its window opens or moves.
     void controlMoved(const QString &controlName, const QPoint &position);
+
+    /// Something stands elsewhere within its window, as after scrolling, or is there or in front now and was
+    /// not.
+    void viewChanged();
+
+    /// The mouse rests on something that has a text to tell of it, whose middle is here; and left it.
+    void hovered(const QString &text, const QPoint &centre);
+    void unhovered();
 
     /// The editor as a whole became visible (true) or was minimised or hidden (false).
     void visibilityChanged(bool visible);

@@ -2,47 +2,62 @@
 
 #include "host/HostEditor.h"
 
+#include <utility>
+
+namespace {
+
+/// How long the arrow is away before it glides in again, so that the eye follows it.
+constexpr int kGlideMs = 600;
+
+} // namespace
+
+QString LessonFault::message() const
+{
+    return QStringLiteral(
+               "Lesson %1, item %2: %3. The lesson is not played. Correct \"%4\" in the lesson, or "
+               "play it with an editor that knows the word.")
+        .arg(lesson, QString::number(item), problem, word);
+}
+
 LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     : QObject(parent)
     , m_editor(editor)
+    , m_screen(editor)
     , m_runner([editor] { return editor->openWindows(); })
+    , m_guide(editor)
 {
     m_wait.setSingleShot(true);
     connect(&m_wait, &QTimer::timeout, &m_runner, &ScenarioRunner::elapsed);
     m_handOver.setSingleShot(true);
     m_handOver.setInterval(kHandOverMs);
     connect(&m_handOver, &QTimer::timeout, this, [this] { Q_EMIT refused(m_lessonName); });
+    m_glide.setSingleShot(true);
+    m_glide.setInterval(kGlideMs);
+    connect(&m_glide, &QTimer::timeout, this, &LessonSession::sendStep);
     connect(&m_runner, &ScenarioRunner::stepReached, this, &LessonSession::onStepReached);
     connect(&m_runner, &ScenarioRunner::commandRequested, this, &LessonSession::runCommand);
     connect(&m_runner, &ScenarioRunner::finished, this, [this] {
+        ++m_reached;
         end();
+        setBookmark({});
         Q_EMIT finished();
     });
-
-    connect(editor, &HostEditor::happened, &m_runner, &ScenarioRunner::handle);
-    connect(editor, &HostEditor::pushed, this, &LessonSession::sendPush);
-    connect(editor, &HostEditor::popped, this, [this] {
-        sendPop();
-        onWindowGone();
-    });
-    connect(editor, &HostEditor::popupAbandoned, this, [this] {
-        // Whether the companion has taken the popup off already cannot be known here: its stack is emptied,
-        // which one pop too many does not harm, and told anew.
-        const QStringList keys = m_editor->openWindows();
-        for (int i = 0; i <= keys.size(); ++i) {
-            sendPop();
-        }
-        for (const QString &key : keys) {
-            sendPush(key);
-        }
-        onWindowGone();
-    });
+    connect(&m_screen, &CompanionScreen::sends, this, &LessonSession::sends);
+    connectGuide();
+    connect(editor, &HostEditor::happened, this, &LessonSession::onHappened);
+    connect(editor, &HostEditor::popped, this, &LessonSession::onWindowGone);
+    connect(editor, &HostEditor::popupAbandoned, this, &LessonSession::onWindowGone);
     connect(editor, &HostEditor::moved, this, &LessonSession::onMoved);
-    connect(editor, &HostEditor::controlMoved, this, [this](const QString &name, const QPoint &position) {
-        Q_EMIT sends(HostCommands::controlPosition(name, position));
+}
+
+void LessonSession::connectGuide()
+{
+    connect(&m_guide, &LessonGuide::changed, this, [this] {
+        sendStep();
+        Q_EMIT astrayChanged();
     });
-    connect(editor, &HostEditor::visibilityChanged, this,
-            [this](bool visible) { Q_EMIT sends(HostCommands::state(visible)); });
+    connect(&m_guide, &LessonGuide::turned, this, &LessonSession::onTurned);
+    connect(&m_guide, &LessonGuide::helpOffered, this, &LessonSession::helpOffered);
 }
 
 void LessonSession::greet(const QString &locale)
@@ -54,9 +69,21 @@ void LessonSession::greet(const QString &locale)
 void LessonSession::request(const QString &lessonName)
 {
     stop();
+    m_resumed = {};
     m_lessonName = lessonName;
+    if (!m_listed.isEmpty() && !m_listed.contains(lessonName)) {
+        // The companion would hand over the lesson before.
+        Q_EMIT refused(lessonName);
+        return;
+    }
     m_handOver.start();
     Q_EMIT sends(HostCommands::tutorial(lessonName));
+}
+
+void LessonSession::resume(const QJsonObject &bookmark)
+{
+    request(LessonHistory::lessonOf(bookmark));
+    m_resumed = bookmark;
 }
 
 void LessonSession::stop()
@@ -70,7 +97,61 @@ void LessonSession::abandon()
 {
     m_handOver.stop();
     m_wait.stop();
+    m_glide.stop();
+    m_guide.end();
     m_runner.stop();
+}
+
+void LessonSession::back()
+{
+    if (!canGoBack()) {
+        return;
+    }
+    const LessonHistory::Visit visit = m_history.goBack();
+    m_wait.stop();
+    m_guide.end();
+    m_guide.restore(visit.start);
+    m_runner.goTo(visit.id);
+}
+
+void LessonSession::showMe()
+{
+    if (!m_runner.isRunning()) {
+        return;
+    }
+    if (std::exchange(m_shown, true)) {
+        doStep();
+        return;
+    }
+    const std::optional<Way> &way = m_guide.wayBack();
+    Q_EMIT showRequested(way ? way->by : m_guide.pointed().value_or(ControlSpot()));
+    m_screen.moveToMiddle();
+    m_glide.start();
+}
+
+void LessonSession::skipStep()
+{
+    const int before = m_reached;
+    doStep();
+    if (m_reached == before) {
+        m_runner.skip();
+    }
+}
+
+void LessonSession::doStep()
+{
+    if (!m_runner.isRunning()) {
+        return;
+    }
+    if (m_guide.isAstray()) {
+        m_guide.putBack();
+    }
+    const Step step = m_runner.step();
+    if (step.condition.type() == Condition::Type::kNext) {
+        m_runner.next();
+    } else if (const std::optional<ControlSpot> pointed = m_guide.pointed()) {
+        m_editor->perform(ControlUse::of(step, *pointed));
+    }
 }
 
 void LessonSession::receive(const QString &command)
@@ -85,18 +166,29 @@ void LessonSession::receive(const QString &command)
         begin(read.text, read.id.value_or(-1));
         break;
     case Kind::kNext:
-        m_runner.next();
+        Q_EMIT nextArrived();
+        // While what leads back is shown there is no such button; a press may be on its way.
+        if (!isAstray()) {
+            m_runner.next();
+        }
         break;
     case Kind::kYes:
     case Kind::kNo:
+        Q_EMIT nextArrived();
         m_runner.answer(read.kind == Kind::kYes);
         break;
     case Kind::kTutorialList:
+        m_listed.clear();
+        for (const Lesson &lesson : read.lessons) {
+            m_listed.append(lesson.name);
+        }
         Q_EMIT lessonsListed(read.lessons);
         break;
     case Kind::kFeedbackPresetData:
         if (read.problem.isEmpty()) {
             Q_EMIT filesReceived(read.files);
+            m_bookmarkDue = true;
+            m_guide.takeStartAnew();
         }
         break;
     case Kind::kUnknown:
@@ -112,9 +204,23 @@ std::optional<QPoint> LessonSession::bubbleTarget() const
     if (!m_runner.isRunning() || !m_runner.step().hasPosition()) {
         return {};
     }
+    if (isAstray()) {
+        const std::optional<Way> &way = m_guide.wayBack();
+        const std::optional<QPoint> spot = way ? m_editor->spotOf(way->by) : std::nullopt;
+        return spot ? std::optional(*spot - LessonWords::kTip) : std::nullopt;
+    }
     const Step &step = m_runner.step();
     const std::optional<QPoint> origin = m_editor->origin(step.windowKey);
-    return origin ? std::optional(*origin + QPoint(step.x, step.y)) : std::nullopt;
+    if (!origin) {
+        return {};
+    }
+    const QPoint place = *origin + QPoint(step.x, step.y);
+    // A row or cell that was scrolled or zoomed is what the step means, and not the place where it was.
+    const std::optional<ControlSpot> &pointed = m_guide.pointed();
+    const std::optional<QRect> rect =
+        pointed && pointed->part >= 0 ? m_editor->rectOf(*pointed) : std::nullopt;
+    const bool isElsewhere = rect && !rect->contains(place + LessonWords::kTip);
+    return isElsewhere ? rect->center() - LessonWords::kTip : place;
 }
 
 bool LessonSession::lacksWindow() const
@@ -152,57 +258,118 @@ void LessonSession::begin(const QString &scenarioText, int id)
     }
     m_handOver.stop();
     stop();
-    if (scenario.size() == 0) {
+    if (scenario.size() == 0 || !isAsked(scenario)) {
         Q_EMIT refused(m_lessonName);
         return;
     }
-    Q_EMIT sends(HostCommands::start(m_editor->screenRect()));
-    sendWindows();
-    sendFirstPlace();
+    m_lastScenario = scenario;
+    m_lastName = m_lessonName;
+    if (!scenario.unknownWords().isEmpty()) {
+        const UnknownWord &unknown = scenario.unknownWords().constFirst();
+        Q_EMIT stopped({m_lessonName, unknown.stepId, unknown.word, unknown.problem});
+        return;
+    }
+    const int first = takeUp(id);
+    m_screen.start();
     Q_EMIT started();
-    m_runner.start(scenario, id);
+    m_runner.start(scenario, first);
+}
+
+bool LessonSession::isAsked(const Scenario &scenario) const
+{
+    // Where the companion cannot open a lesson, it hands over the one before under the name of the new one.
+    return m_lessonName.isEmpty() || m_lastName.isEmpty() || m_lessonName == m_lastName ||
+           !scenario.isSameLesson(m_lastScenario);
+}
+
+int LessonSession::takeUp(int id)
+{
+    const QJsonObject bookmark = std::exchange(m_resumed, {});
+    const StepStart start = LessonHistory::startOf(bookmark);
+    if (!bookmark.isEmpty() && (start.state.isEmpty() || m_guide.restore(start))) {
+        m_history.resume(bookmark);
+        m_guide.beginLesson(start);
+        return LessonHistory::stepOf(bookmark);
+    }
+    if (!bookmark.isEmpty()) {
+        Q_EMIT problemFound(QStringLiteral("the state in which %1 was left cannot be brought back; it begins "
+                                           "again")
+                                .arg(m_lessonName));
+    }
+    m_history.begin(m_lessonName);
+    m_guide.beginLesson({});
+    return id;
 }
 
 void LessonSession::end()
 {
     m_wait.stop();
+    m_glide.stop();
+    m_guide.end();
     m_runner.stop();
-    Q_EMIT sends(HostCommands::stop());
+    m_screen.stop();
 }
 
 void LessonSession::runCommand(const QString &command)
 {
-    const QString presetStep = LessonWords::presetStep(command);
-    if (!presetStep.isEmpty()) {
-        Q_EMIT filesRequested();
-        Q_EMIT sends(HostCommands::requestPresetData(presetStep));
-    } else {
-        Q_EMIT problemFound(
-            QStringLiteral("step %1: the command \"%2\" is unknown").arg(m_runner.step().id).arg(command));
+    Q_EMIT filesRequested();
+    Q_EMIT sends(HostCommands::requestPresetData(LessonWords::presetStep(command)));
+}
+
+void LessonSession::onHappened(const EditorEvent &event)
+{
+    const bool meets =
+        m_runner.isRunning() && m_runner.step().condition.isMetBy(event, m_runner.step().windowKey);
+    if (m_guide.counts(event, meets)) {
+        m_runner.handle(event);
     }
 }
 
 void LessonSession::onStepReached()
 {
+    const Step &step = m_runner.step();
+    ++m_reached;
+    m_shown = false;
+    m_bookmarkDue = true;
     m_wait.stop();
-    if (m_runner.step().condition.type() == Condition::Type::kWait) {
-        m_wait.start(m_runner.step().condition.waitMs());
+    m_glide.stop();
+    if (step.condition.type() == Condition::Type::kWait) {
+        m_wait.start(step.condition.waitMs());
     }
+    m_history.enter(step.id);
+    m_guide.beginStep(step);
+    m_history.setStart(m_guide.start());
     sendStep();
     Q_EMIT stepReached();
 }
 
-void LessonSession::onMoved(const QString &windowKey, const QPoint &origin)
+void LessonSession::onTurned()
 {
-    Q_EMIT sends(HostCommands::windowPosition(windowKey, origin));
-    sendApplicationSize();
-    if (!m_runner.isRunning() || windowKey != m_runner.step().windowKey) {
+    if (std::exchange(m_bookmarkDue, false)) {
+        m_history.setStart(m_guide.start());
+        setBookmark(m_history.bookmark());
+    }
+    const std::optional<QPoint> target = bubbleTarget();
+    if (target && m_pointing && target != m_screen.place() && !m_glide.isActive()) {
+        m_screen.move(*target);
+    }
+}
+
+void LessonSession::setBookmark(const QJsonObject &bookmark)
+{
+    m_bookmark = bookmark;
+    Q_EMIT bookmarkChanged();
+}
+
+void LessonSession::onMoved(const QString &windowKey)
+{
+    if (!m_runner.isRunning()) {
         return;
     }
     const std::optional<QPoint> target = bubbleTarget();
-    if (target && m_pointing) {
-        sendPlace(*target);
-    } else if (target) {
+    if (target && m_pointing && target != m_screen.place()) {
+        m_screen.move(*target);
+    } else if (target && !m_pointing && windowKey == m_runner.step().windowKey) {
         sendStep();
     }
 }
@@ -214,60 +381,11 @@ void LessonSession::onWindowGone()
     }
 }
 
-void LessonSession::sendPush(const QString &windowKey)
-{
-    Q_EMIT sends(HostCommands::windowPush(windowKey));
-}
-
-void LessonSession::sendPop()
-{
-    Q_EMIT sends(HostCommands::windowPop());
-}
-
-void LessonSession::sendWindows()
-{
-    const QStringList keys = m_editor->openWindows();
-    for (const QString &key : keys) {
-        sendPush(key);
-        Q_EMIT sends(HostCommands::windowPosition(key, m_editor->origin(key).value_or(QPoint())));
-    }
-    m_applicationSize = QSize();
-    sendApplicationSize();
-}
-
-void LessonSession::sendFirstPlace()
-{
-    const QStringList keys = m_editor->openWindows();
-    if (!keys.isEmpty()) {
-        const QPoint origin = m_editor->origin(keys.constFirst()).value_or(QPoint());
-        const QRect contents(origin, m_editor->applicationSize());
-        sendPlace(contents.center() - LessonWords::kTip);
-    }
-}
-
-void LessonSession::sendPlace(const QPoint &place)
-{
-    m_place = place;
-    Q_EMIT sends(HostCommands::indicatorUpdateXy(place));
-}
-
-void LessonSession::sendApplicationSize()
-{
-    const QSize size = m_editor->applicationSize();
-    if (size != m_applicationSize) {
-        m_applicationSize = size;
-        Q_EMIT sends(HostCommands::applicationWindowSize(size));
-    }
-}
-
 void LessonSession::sendStep()
 {
     const Step &step = m_runner.step();
     const std::optional<QPoint> target = bubbleTarget();
     m_pointing = target.has_value();
-    if (m_pointing) {
-        m_place = target;
-    }
     IndicatorUpdate update;
     update.place = target;
     update.windowKey = step.windowKey;
@@ -276,6 +394,17 @@ void LessonSession::sendStep()
     update.yesNo = step.condition.type() == Condition::Type::kYesNo;
     update.arrow = step.showArrow;
     update.iconKind = LessonWords::iconKind(step.icon);
-    Q_EMIT sends(HostCommands::indicatorUpdate(update));
+    if (isAstray()) {
+        const std::optional<Way> &way = m_guide.wayBack();
+        const QString hint = way            ? m_editor->hintBack(*way, step)
+                             : canPutBack() ? m_editor->hintToPutBack(step)
+                                            : QString();
+        update.hint = hint.isEmpty() ? step.hint : hint;
+        update.next = false;
+        update.yesNo = false;
+        update.arrow = true;
+        update.iconKind = LessonWords::iconKind(way ? way->icon : QString());
+    }
+    m_screen.tell(update);
     Q_EMIT stepTold();
 }

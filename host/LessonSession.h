@@ -1,15 +1,30 @@
 #pragma once
 
+#include "host/CompanionScreen.h"
 #include "host/HostCommands.h"
+#include "host/LessonGuide.h"
+#include "host/LessonHistory.h"
 #include "host/ScenarioRunner.h"
 
-#include <QHash>
 #include <QMap>
 #include <QPoint>
-#include <QSize>
 #include <QTimer>
 
 class HostEditor;
+
+/// A word in a lesson that nobody knows.
+struct LessonFault
+{
+    QString lesson;
+    int item = 0;
+    /// The condition or command as it stands there.
+    QString word;
+    /// A sentence that says what is wrong with it.
+    QString problem;
+
+    /// All of it, and what to do, in English.
+    [[nodiscard]] QString message() const;
+};
 
 /// One lesson between the companion and the windows: asks for it, runs it, and keeps the companion's picture
 /// of the windows true. It speaks in commands; who carries them is not its business.
@@ -29,7 +44,7 @@ public:
     void request(const QString &lessonName);
     /// Ends the lesson that runs.
     void stop();
-    /// Forgets the lesson that runs, as its companion is gone.
+    /// Forgets the lesson that runs, as its companion is gone. Its bookmark() stays.
     void abandon();
 
     /// A command of the companion, fields separated by the byte 0x01.
@@ -39,14 +54,45 @@ public:
 
     [[nodiscard]] QString lessonName() const { return m_lessonName; }
     [[nodiscard]] const ScenarioRunner &runner() const { return m_runner; }
-    void skipStep() { m_runner.skip(); }
 
-    /// Where the bubble's window was sent for the present step, in global screen pixels; nothing when the
-    /// step points nowhere or its window is not open.
+    /// Whether the step cannot go on as things stand: its window is closed, another one is on top, a context
+    /// menu is gone, what it points at means something else, or another project is open. The companion then
+    /// shows what leads back in place of the step.
+    [[nodiscard]] bool isAstray() const { return m_guide.isAstray(); }
+    /// What to use next to get back: that is where the arrow points. Nothing when the person is not astray,
+    /// and when no control leads back.
+    [[nodiscard]] std::optional<Way> wayBack() const { return m_guide.wayBack(); }
+    /// Whether putBack() would mend something: the data are not what they were when the step was reached, and
+    /// there were wrong moves.
+    [[nodiscard]] bool canPutBack() const { return m_guide.canPutBack(); }
+    /// Brings back what there was when the step was reached.
+    void putBack() { m_guide.putBack(); }
+
+    /// Whether there is a step before this one that was played.
+    [[nodiscard]] bool canGoBack() const { return m_runner.isRunning() && m_history.canGoBack(); }
+    /// Goes back to it, and to what there was when it was reached.
+    void back();
+    /// Shows where the step points: the arrow glides in again. Called once more in the same step, does it.
+    void showMe();
+    /// Goes on. What the step asks for is done, as far as the editor can do it.
+    void skipStep();
+
+    /// What resume() needs to go on at the present step, or at the one that was the last when the lesson was
+    /// left. Empty before the first step and after the end of a lesson. It holds the editor's state when the
+    /// step was reached.
+    [[nodiscard]] QJsonObject bookmark() const { return m_bookmark; }
+    /// Asks for the lesson of the bookmark, to go on at its step with its state.
+    void resume(const QJsonObject &bookmark);
+
+    /// Help is offered in a step that was not done for so long, in milliseconds.
+    void setHelpAfterMs(int ms) { m_guide.setHelpAfterMs(ms); }
+
+    /// Where the bubble's window belongs at present, in global screen pixels: for the step, or for what leads
+    /// back to it. Nothing when that points nowhere or cannot be seen.
     [[nodiscard]] std::optional<QPoint> bubbleTarget() const;
     /// Where the bubble's window was sent last: for the present step, or before it when that one has no
     /// place; in global screen pixels. Nothing before the first lesson.
-    [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_place; }
+    [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_screen.place(); }
     /// Whether the present step points into a window that is not open.
     [[nodiscard]] bool lacksWindow() const;
     /// What the person has to open next for the present step: its window, or, as long as that one is opened
@@ -60,7 +106,7 @@ Q_SIGNALS:
     void lessonsListed(const QVector<LessonSession::Lesson> &lessons);
     void started();
     void stepReached();
-    /// The companion was told the step: it was reached, or its window closed or opened again.
+    /// The companion was told the step, or what leads back to it: it was reached, or things changed.
     void stepTold();
     /// The lesson was played to its end.
     void finished();
@@ -68,35 +114,68 @@ Q_SIGNALS:
     void filesRequested();
     /// The data files of a step came, file name to text.
     void filesReceived(const QMap<QString, QString> &files);
-    /// The companion has not handed over the lesson that was asked for.
+    /// The companion has not handed over the lesson that was asked for: nothing came, nothing that can be
+    /// read, or another lesson, as when the file of this one is missing.
     void refused(const QString &lessonName);
+    /// The lesson has a word that nobody knows, so it is not played.
+    void stopped(const LessonFault &fault);
+
+    /// isAstray(), wayBack() or canPutBack() changed.
+    void astrayChanged();
+    /// The person may want help: half a minute has passed in a step, or there were three wrong clicks.
+    void helpOffered();
+    /// What the step points at, or leads back to it, is to catch the eye.
+    void showRequested(const ControlSpot &spot);
+    void bookmarkChanged();
+    /// A button of the companion was pressed. The editor's top window wants the focus again, and a second
+    /// press, of a double click, is not meant for what lies below.
+    void nextArrived();
     /// Something in what the companion sent is wrong; the session goes on as well as it can.
     void problemFound(const QString &problem);
 
 private:
+    void connectGuide();
     void begin(const QString &scenarioText, int id);
+    /// Whether what was handed over is the lesson that was asked for.
+    [[nodiscard]] bool isAsked(const Scenario &scenario) const;
+    /// Brings back the state of the bookmark that is to be resumed, if one is. Gives the id of its step, or
+    /// @p id.
+    int takeUp(int id);
     void end();
     void runCommand(const QString &command);
+    void onHappened(const EditorEvent &event);
     void onStepReached();
-    void onMoved(const QString &windowKey, const QPoint &origin);
+    void onTurned();
+    /// Does what the step asks for, or nothing where that cannot be done.
+    void doStep();
+    void setBookmark(const QJsonObject &bookmark);
+    void onMoved(const QString &windowKey);
     void onWindowGone();
-    void sendPush(const QString &windowKey);
-    void sendPop();
-    void sendWindows();
-    /// A step without a position leaves the bubble where it is, and before the first it is in the screen's
-    /// corner: the middle of the main window is where a person looks.
-    void sendFirstPlace();
-    void sendApplicationSize();
     void sendStep();
-    void sendPlace(const QPoint &place);
 
     HostEditor *m_editor;
+    CompanionScreen m_screen;
     ScenarioRunner m_runner;
+    LessonGuide m_guide;
+    LessonHistory m_history;
+    QJsonObject m_bookmark;
+    /// The present step has to be written into the bookmark.
+    bool m_bookmarkDue = false;
+    /// To be resumed when its lesson comes.
+    QJsonObject m_resumed;
     QTimer m_wait;
     QTimer m_handOver;
+    QTimer m_glide;
     QString m_lessonName;
+    /// As the companion has listed them.
+    QStringList m_listed;
+    /// What was handed over last, and for which lesson.
+    Scenario m_lastScenario;
+    QString m_lastName;
+    /// How many steps were reached.
+    int m_reached = 0;
+    /// The step was shown by showMe() already.
+    bool m_shown = false;
     /// What the companion was told last: it points at the window of the step, or nowhere.
     bool m_pointing = false;
-    std::optional<QPoint> m_place;
-    QSize m_applicationSize;
 };

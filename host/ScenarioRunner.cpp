@@ -14,6 +14,18 @@ void ScenarioRunner::start(const Scenario &scenario, int id)
     reach(qMax(0, m_scenario.indexOf(id)));
 }
 
+void ScenarioRunner::goTo(int id)
+{
+    const int index = m_scenario.indexOf(id);
+    if (index < 0) {
+        return;
+    }
+    enter(index);
+    if (isRunning()) {
+        Q_EMIT stepReached();
+    }
+}
+
 void ScenarioRunner::stop()
 {
     m_index = -1;
@@ -60,14 +72,19 @@ void ScenarioRunner::goOn(int jump)
     reach(target < 0 ? m_index + 1 : target);
 }
 
+void ScenarioRunner::enter(int index)
+{
+    m_index = index;
+    if (!step().command.isEmpty()) {
+        Q_EMIT commandRequested(step().command);
+    }
+}
+
 void ScenarioRunner::reach(int index)
 {
     // Steps that have nothing to wait for are passed; jumps among them could go round for ever.
     for (int passed = 0; index < m_scenario.size(); ++passed) {
-        m_index = index;
-        if (!step().command.isEmpty()) {
-            Q_EMIT commandRequested(step().command);
-        }
+        enter(index);
         if (!isRunning()) {
             return;
         }

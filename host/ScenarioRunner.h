@@ -23,6 +23,10 @@ public:
     /// finishes at once.
     void start(const Scenario &scenario, int id);
 
+    /// Goes to the step with the id, which is reached even if nothing is left to do there. Does nothing for
+    /// an id that no step has.
+    void goTo(int id);
+
     /// Forgets the lesson; nothing is emitted.
     void stop();
 
@@ -54,6 +58,7 @@ Q_SIGNALS:
 private:
     void goOn(int jump);
     void reach(int index);
+    void enter(int index);
 
     OpenWindows m_openWindows;
     Scenario m_scenario;

@@ -144,6 +144,8 @@ bool Condition::isMetBy(const EditorEvent &event, const QString &windowKey) cons
         return event.target == m_target && (m_value.isEmpty() || event.value == m_value);
     case Type::kSpinBox:
         return withoutBlanks(event.value) == withoutBlanks(m_value);
+    case Type::kMouseEvent:
+        return event.target == m_target && (event.value == m_value || event.value == QLatin1String("drag"));
     case Type::kTextLength:
         return event.target == m_target && event.value.toInt() >= m_value.toInt();
     default:

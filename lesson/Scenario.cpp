@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 QString textOf(const QJsonObject &object, QLatin1String key)
@@ -12,7 +14,14 @@ QString textOf(const QJsonObject &object, QLatin1String key)
     return object.value(key).toString();
 }
 
-Step readStep(const QJsonObject &object, QStringList *problems)
+struct Reading
+{
+    QVector<Step> steps;
+    QVector<UnknownWord> unknownWords;
+    QStringList *problems = nullptr;
+};
+
+Step readStep(const QJsonObject &object, QVector<UnknownWord> *unknownWords)
 {
     Step step;
     step.id = object.value(QLatin1String("id")).toInt();
@@ -30,23 +39,27 @@ Step readStep(const QJsonObject &object, QStringList *problems)
     if (const std::optional<Condition> condition = Condition::parse(step.conditionText, &problem)) {
         step.condition = *condition;
     } else {
-        problems->append(
-            QStringLiteral("step %1: the condition %2; it waits for Next instead").arg(step.id).arg(problem));
+        unknownWords->append({step.id, step.conditionText, problem});
+    }
+    if (!step.command.isEmpty() && LessonWords::presetStep(step.command).isEmpty()) {
+        unknownWords->append(
+            {step.id, step.command,
+             QStringLiteral("\"%1\" is not a command; there is presetData,stepN").arg(step.command)});
     }
     return step;
 }
 
-void readSteps(const QJsonArray &items, QVector<Step> *steps, QStringList *problems)
+void readSteps(const QJsonArray &items, Reading *reading)
 {
     for (const QJsonValue &item : items) {
         const QJsonObject object = item.toObject();
         if (object.value(QLatin1String("folder")).toBool()) {
-            readSteps(object.value(QLatin1String("children")).toArray(), steps, problems);
+            readSteps(object.value(QLatin1String("children")).toArray(), reading);
         } else if (object.value(QLatin1String("id")).isDouble()) {
-            steps->append(readStep(object, problems));
+            reading->steps.append(readStep(object, &reading->unknownWords));
         } else {
-            problems->append(
-                QStringLiteral("an item after %1 steps has no id and is left out").arg(steps->size()));
+            reading->problems->append(QStringLiteral("an item after %1 steps has no id and is left out")
+                                          .arg(reading->steps.size()));
         }
     }
 }
@@ -65,7 +78,11 @@ Scenario Scenario::parse(const QString &text, QStringList *problems)
         problems->append(QStringLiteral("the scenario is no list of steps: %1").arg(error.errorString()));
         return scenario;
     }
-    readSteps(document.array(), &scenario.m_steps, problems);
+    Reading reading;
+    reading.problems = problems;
+    readSteps(document.array(), &reading);
+    scenario.m_steps = reading.steps;
+    scenario.m_unknownWords = reading.unknownWords;
 
     QSet<int> ids;
     for (const Step &step : qAsConst(scenario.m_steps)) {
@@ -85,6 +102,16 @@ Scenario Scenario::parse(const QString &text, QStringList *problems)
         }
     }
     return scenario;
+}
+
+bool Scenario::isSameLesson(const Scenario &other) const
+{
+    const auto isSame = [](const Step &one, const Step &another) {
+        return one.id == another.id && one.x == another.x && one.y == another.y &&
+               one.windowKey == another.windowKey && one.conditionText == another.conditionText &&
+               one.jump == another.jump && one.jumpNo == another.jumpNo && one.command == another.command;
+    };
+    return std::equal(m_steps.cbegin(), m_steps.cend(), other.m_steps.cbegin(), other.m_steps.cend(), isSame);
 }
 
 int Scenario::indexOf(int id) const

@@ -31,13 +31,22 @@ struct Step
     }
 };
 
+/// A word in a step that nobody knows, so that the lesson cannot be played.
+struct UnknownWord
+{
+    int stepId = 0;
+    /// The condition or command as it stands there.
+    QString word;
+    /// A sentence that says what is wrong with it.
+    QString problem;
+};
+
 /// A lesson: its steps in order, folders opened out.
 class Scenario
 {
 public:
     /// Reads the text "var scenario = [...];" or the bare array. Lines about what is wrong go to @p problems,
-    /// each with the id of the step. A condition that cannot be read becomes one that waits for the button
-    /// Next, so that nobody gets stuck. A text that is no array gives a scenario without steps.
+    /// each with the id of the step. A text that is no array gives a scenario without steps.
     [[nodiscard]] static Scenario parse(const QString &text, QStringList *problems);
 
     [[nodiscard]] int size() const { return m_steps.size(); }
@@ -46,6 +55,13 @@ public:
     /// -1 when no step has the id.
     [[nodiscard]] int indexOf(int id) const;
 
+    /// Conditions and commands that cannot be read; a step with such a condition has that of the button Next.
+    [[nodiscard]] const QVector<UnknownWord> &unknownWords() const { return m_unknownWords; }
+
+    /// Whether both have the same steps but for their texts: one lesson, in whatever language.
+    [[nodiscard]] bool isSameLesson(const Scenario &other) const;
+
 private:
     QVector<Step> m_steps;
+    QVector<UnknownWord> m_unknownWords;
 };

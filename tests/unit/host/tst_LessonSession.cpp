@@ -49,6 +49,11 @@ private Q_SLOTS:
     void asksForPresetDataAndPassesItOn();
     void saysWhatItDoesNotUnderstand_data();
     void saysWhatItDoesNotUnderstand();
+    void aLessonWithAnUnknownWordIsNotPlayed_data();
+    void aLessonWithAnUnknownWordIsNotPlayed();
+    void neverPlaysOneLessonUnderTheNameOfAnother();
+    void refusesALessonThatIsInNoList();
+    void showsTheEditorsTooltips();
     void anotherLessonStopsTheOneThatRuns();
     void anAbandonedLessonSaysNothing();
 
@@ -302,32 +307,32 @@ void tst_LessonSession::knowsWhenTheWindowOfTheStepIsClosed()
 
 void tst_LessonSession::namesTheWindowToOpenNext_data()
 {
-    using Ways = QHash<QString, QStringList>;
+    using From = QHash<QString, QStringList>;
     const QString main = QStringLiteral("MainWindow");
     const QString properties = QStringLiteral("MapProperties");
     const QString selector = QStringLiteral("ImageSelector");
     const QString other = QStringLiteral("Other");
-    QTest::addColumn<Ways>("ways");
+    QTest::addColumn<From>("ways");
     QTest::addColumn<QStringList>("open");
     QTest::addColumn<QString>("named");
-    QTest::newRow("unknown ways") << Ways() << QStringList() << selector;
-    QTest::newRow("from an open window") << Ways{{selector, {main}}} << QStringList() << selector;
+    QTest::newRow("unknown ways") << From() << QStringList() << selector;
+    QTest::newRow("from an open window") << From{{selector, {main}}} << QStringList() << selector;
     QTest::newRow("from a closed window")
-        << Ways{{selector, {properties}}, {properties, {main}}} << QStringList() << properties;
+        << From{{selector, {properties}}, {properties, {main}}} << QStringList() << properties;
     QTest::newRow("from one that was opened again")
-        << Ways{{selector, {properties}}, {properties, {main}}} << QStringList{properties} << selector;
+        << From{{selector, {properties}}, {properties, {main}}} << QStringList{properties} << selector;
     QTest::newRow("the nearer of two ways")
-        << Ways{{selector, {other, properties}}, {other, {QStringLiteral("Far")}}, {properties, {main}}}
+        << From{{selector, {other, properties}}, {other, {QStringLiteral("Far")}}, {properties, {main}}}
         << QStringList() << properties;
-    QTest::newRow("in a circle") << Ways{{selector, {properties}}, {properties, {selector}}} << QStringList()
+    QTest::newRow("in a circle") << From{{selector, {properties}}, {properties, {selector}}} << QStringList()
                                  << selector;
-    QTest::newRow("none is lacking") << Ways{{selector, {main}}} << QStringList{selector} << QString();
+    QTest::newRow("none is lacking") << From{{selector, {main}}} << QStringList{selector} << QString();
 }
 
 void tst_LessonSession::namesTheWindowToOpenNext()
 {
-    using Ways = QHash<QString, QStringList>;
-    QFETCH(Ways, ways);
+    using From = QHash<QString, QStringList>;
+    QFETCH(From, ways);
     QFETCH(QStringList, open);
     m_windows->m_openedFrom = ways;
     QCOMPARE(m_session->windowToOpen(), QString());
@@ -396,8 +401,6 @@ void tst_LessonSession::saysWhatItDoesNotUnderstand_data()
     QTest::newRow("no files") << QStringLiteral("feedbackPresetData\u0001[1]")
                               << QStringLiteral("data files");
     QTest::newRow("no id") << startCommand(kReading, QStringLiteral("x")) << QStringLiteral("names no step");
-    QTest::newRow("a lesson's command") << startCommand(QStringLiteral(R"({"id":8,"command":"dance,2"})"))
-                                        << QStringLiteral("step 8: the command \"dance,2\"");
 }
 
 void tst_LessonSession::saysWhatItDoesNotUnderstand()
@@ -407,6 +410,79 @@ void tst_LessonSession::saysWhatItDoesNotUnderstand()
     m_session->receive(command);
     QCOMPARE(m_problems.size(), 1);
     QVERIFY2(m_problems.constFirst().contains(problem), qPrintable(m_problems.constFirst()));
+}
+
+void tst_LessonSession::aLessonWithAnUnknownWordIsNotPlayed_data()
+{
+    QTest::addColumn<QString>("fields");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("a condition") << QStringLiteral(R"("condition":"dance,2")") << QStringLiteral("dance,2");
+    QTest::newRow("a command") << QStringLiteral(R"("command":"dance,2")") << QStringLiteral("dance,2");
+}
+
+void tst_LessonSession::aLessonWithAnUnknownWordIsNotPlayed()
+{
+    QFETCH(QString, fields);
+    QFETCH(QString, word);
+    LessonFault told;
+    connect(m_session, &LessonSession::stopped, this, [&told](const LessonFault &fault) { told = fault; });
+    m_session->request(QStringLiteral("TutorialStep3"));
+    sent();
+    m_session->receive(startCommand(kReading + QStringLiteral(R"(,{"id":8,%1})").arg(fields)));
+    QVERIFY(!m_session->runner().isRunning());
+    QCOMPARE(sent(), QStringList());
+    QCOMPARE(told.lesson, QStringLiteral("TutorialStep3"));
+    QCOMPARE(told.item, 8);
+    QCOMPARE(told.word, word);
+    for (const QString &part : {QStringLiteral("TutorialStep3"), QStringLiteral("item 8"), word}) {
+        QVERIFY2(told.message().contains(part), qPrintable(told.message()));
+    }
+}
+
+void tst_LessonSession::neverPlaysOneLessonUnderTheNameOfAnother()
+{
+    QSignalSpy refused(m_session, &LessonSession::refused);
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->receive(startCommand(kReading));
+    QVERIFY(m_session->runner().isRunning());
+    m_session->request(QStringLiteral("TutorialStep2"));
+    // The texts are those that the new lesson has under the same numbers.
+    m_session->receive(startCommand(QString(kReading).replace(QStringLiteral("Read"), QStringLiteral("#2"))));
+    QVERIFY(!m_session->runner().isRunning());
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused.constFirst().constFirst().toString(), QStringLiteral("TutorialStep2"));
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->receive(startCommand(kReading));
+    QVERIFY(m_session->runner().isRunning());
+    m_session->request(QStringLiteral("TutorialStep2"));
+    m_session->receive(startCommand(kPointing));
+    QVERIFY(m_session->runner().isRunning());
+    QCOMPARE(refused.size(), 1);
+}
+
+void tst_LessonSession::refusesALessonThatIsInNoList()
+{
+    QSignalSpy refused(m_session, &LessonSession::refused);
+    m_session->receive(
+        QStringLiteral("tutorialList\u0001[{\"filename\":\"TutorialStep1\",\"title\":\"Maps\"}]"));
+    m_session->request(QStringLiteral("TutorialStep77"));
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(sent(), QStringList());
+    m_session->request(QStringLiteral("TutorialStep1"));
+    QCOMPARE(sent(), QStringList{QStringLiteral("tutorial|TutorialStep1")});
+}
+
+void tst_LessonSession::showsTheEditorsTooltips()
+{
+    Q_EMIT m_windows->hovered(QStringLiteral("Save (Ctrl+S)"), QPoint(30, 40));
+    Q_EMIT m_windows->unhovered();
+    QCOMPARE(sent(),
+             (QStringList{QStringLiteral("showTooltip|Save (Ctrl+S)|30|40"), QStringLiteral("hideTooltip")}));
+    m_session->receive(startCommand(kReading));
+    sent();
+    Q_EMIT m_windows->unhovered();
+    // One that is hidden while a lesson plays would come back.
+    QCOMPARE(sent(), QStringList{QStringLiteral("showTooltip||0|0")});
 }
 
 void tst_LessonSession::anotherLessonStopsTheOneThatRuns()

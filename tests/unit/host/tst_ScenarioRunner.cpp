@@ -40,7 +40,9 @@ private Q_SLOTS:
     void opensFoldersOut();
     void saysWhatIsWrongWithAScenario_data();
     void saysWhatIsWrongWithAScenario();
-    void takesAnUnreadableConditionForNext();
+    void namesWordsThatNobodyKnows_data();
+    void namesWordsThatNobodyKnows();
+    void knowsTheSameLessonInAnotherLanguage();
     void numbersTheIcons_data();
     void numbersTheIcons();
 
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void passesAStepThatHasNothingToWaitFor();
     void passingGoesNotRoundForEver();
     void theCommandOfAPassedStepRuns();
+    void goesToAStepAlsoWhereNothingIsLeftToDo();
     void skipsAnyStep_data();
     void skipsAnyStep();
     void stopsSilently();
@@ -131,8 +134,6 @@ void tst_ScenarioRunner::saysWhatIsWrongWithAScenario_data()
                                  << QStringLiteral("step 4: the id") << 2;
     QTest::newRow("a jump to nowhere")
         << QStringLiteral("[{\"id\":4,\"jump\":9}]") << QStringLiteral("step 4: no step has the id 9") << 1;
-    QTest::newRow("a condition nobody knows") << QStringLiteral("[{\"id\":4,\"condition\":\"dance\"}]")
-                                              << QStringLiteral("step 4: the condition \"dance\"") << 1;
 }
 
 void tst_ScenarioRunner::saysWhatIsWrongWithAScenario()
@@ -146,12 +147,40 @@ void tst_ScenarioRunner::saysWhatIsWrongWithAScenario()
     QTEST(scenario.size(), "steps");
 }
 
-void tst_ScenarioRunner::takesAnUnreadableConditionForNext()
+void tst_ScenarioRunner::namesWordsThatNobodyKnows_data()
 {
-    ScenarioRunner runner([] { return QStringList(); });
-    runner.start(scenarioOf({item(1, QStringLiteral("dance")), item(2, QString())}), -1);
-    runner.next();
-    QCOMPARE(runner.step().id, 2);
+    QTest::addColumn<QString>("fields");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("a condition") << QStringLiteral(R"("condition":"dance,2")") << QStringLiteral("dance,2")
+                                 << QStringLiteral("\"dance\" is not a condition type");
+    QTest::newRow("a condition of another form") << QStringLiteral(R"("condition":"list,a")")
+                                                 << QStringLiteral("list,a") << QStringLiteral("\"list,2\"");
+    QTest::newRow("a command") << QStringLiteral(R"("command":"presetData,2")")
+                               << QStringLiteral("presetData,2") << QStringLiteral("presetData,stepN");
+}
+
+void tst_ScenarioRunner::namesWordsThatNobodyKnows()
+{
+    QFETCH(QString, fields);
+    QFETCH(QString, problem);
+    QStringList problems;
+    const Scenario scenario = scenarioOf({QStringLiteral(R"({"id":4,%1})").arg(fields)}, &problems);
+    QCOMPARE(problems, QStringList());
+    QCOMPARE(scenario.unknownWords().size(), 1);
+    const UnknownWord &unknown = scenario.unknownWords().constFirst();
+    QCOMPARE(unknown.stepId, 4);
+    QTEST(unknown.word, "word");
+    QVERIFY2(unknown.problem.contains(problem), qPrintable(unknown.problem));
+}
+
+void tst_ScenarioRunner::knowsTheSameLessonInAnotherLanguage()
+{
+    const QString form = QStringLiteral(R"({"id":1,"x":%1,"condition":"click,","hint":"%2"})");
+    const Scenario english = scenarioOf({form.arg(3).arg(QStringLiteral("Read"))});
+    QVERIFY(english.isSameLesson(scenarioOf({form.arg(3).arg(QStringLiteral("Lies"))})));
+    QVERIFY(!english.isSameLesson(scenarioOf({form.arg(4).arg(QStringLiteral("Read"))})));
+    QVERIFY(!english.isSameLesson(Scenario()));
 }
 
 void tst_ScenarioRunner::numbersTheIcons_data()
@@ -338,6 +367,19 @@ void tst_ScenarioRunner::theCommandOfAPassedStepRuns()
                  -1);
     QCOMPARE(runner.step().id, 2);
     QCOMPARE(commands.size(), 1);
+}
+
+void tst_ScenarioRunner::goesToAStepAlsoWhereNothingIsLeftToDo()
+{
+    ScenarioRunner runner([] { return QStringList{QStringLiteral("Copying")}; });
+    QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
+    runner.start(scenarioOf({item(1, QStringLiteral("windowState,Copying,open")), item(2, QString())}), -1);
+    QCOMPARE(runner.step().id, 2);
+    runner.goTo(1);
+    QCOMPARE(runner.step().id, 1);
+    QCOMPARE(reached.size(), 2);
+    runner.goTo(77);
+    QCOMPARE(runner.step().id, 1);
 }
 
 void tst_ScenarioRunner::skipsAnyStep_data()

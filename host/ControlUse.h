@@ -1,0 +1,33 @@
+#pragma once
+
+#include "lesson/ControlSpot.h"
+
+struct Step;
+struct Way;
+
+/// One use of a control, as the icons of lessons tell it.
+struct ControlUse
+{
+    enum class Kind {
+        kClick,
+        kDoubleClick,
+        kRightClick,
+        /// Press there, go some way to the right and down, let go.
+        kDrag,
+        /// Click there and type the text in place of what stands there; then press Enter if the step ends
+        /// with something else than the text.
+        kType,
+        /// Choose the entry with the number in the text.
+        kChoose,
+    };
+
+    ControlSpot spot;
+    Kind kind = Kind::kClick;
+    /// Of kType; empty leaves what stands there.
+    QString text;
+    bool pressesEnter = false;
+
+    /// What a person does for the step at @p spot.
+    static ControlUse of(const Step &step, const ControlSpot &spot);
+    static ControlUse of(const Way &way);
+};

@@ -1,0 +1,43 @@
+#include "host/StepStart.h"
+
+#include "host/HostEditor.h"
+
+#include <QJsonArray>
+
+StepStart StepStart::of(const HostEditor &editor, const WindowTrail &trail,
+                        const std::optional<ControlSpot> &pointed)
+{
+    return {editor.state(),     trail.open(),      trail.lastCauses(),
+            editor.projectId(), editor.dataMark(), pointed ? editor.meaningOf(*pointed) : QString(),
+            editor.chosen()};
+}
+
+QJsonObject StepStart::toJson() const
+{
+    QJsonArray windows;
+    for (const OpenWindow &window : open) {
+        windows.append(WindowTrail::toJson(window));
+    }
+    QJsonObject causes;
+    for (auto cause = lastCauses.cbegin(); cause != lastCauses.cend(); ++cause) {
+        causes.insert(cause.key(), WindowTrail::toJson(cause.value()));
+    }
+    return {{QStringLiteral("state"), state.toJson()},
+            {QStringLiteral("windows"), windows},
+            {QStringLiteral("causes"), causes}};
+}
+
+StepStart StepStart::fromJson(const QJsonObject &json)
+{
+    StepStart start;
+    start.state = EditorState::fromJson(json.value(QLatin1String("state")).toObject());
+    const QJsonArray windows = json.value(QLatin1String("windows")).toArray();
+    for (const QJsonValue &window : windows) {
+        start.open.append(WindowTrail::fromJson(window.toObject()));
+    }
+    const QJsonObject causes = json.value(QLatin1String("causes")).toObject();
+    for (auto cause = causes.begin(); cause != causes.end(); ++cause) {
+        start.lastCauses.insert(cause.key(), WindowTrail::spotFromJson(cause.value().toObject()));
+    }
+    return start;
+}

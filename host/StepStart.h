@@ -1,0 +1,29 @@
+#pragma once
+
+#include "host/EditorState.h"
+#include "host/WindowTrail.h"
+
+#include <optional>
+
+class HostEditor;
+
+/// What there was in the editor when a step was reached: the measure of whether the person has strayed, and
+/// what can be brought back.
+struct StepStart
+{
+    EditorState state;
+    OpenWindows open;
+    QHash<QString, ControlSpot> lastCauses;
+    QString project;
+    QString dataMark;
+    /// What using the control that the step points at meant.
+    QString meaning;
+    QVector<ControlSpot> chosen;
+
+    static StepStart of(const HostEditor &editor, const WindowTrail &trail,
+                        const std::optional<ControlSpot> &pointed);
+
+    /// What another run needs of it: the state, and how the windows came up.
+    [[nodiscard]] QJsonObject toJson() const;
+    static StepStart fromJson(const QJsonObject &json);
+};

@@ -1,0 +1,388 @@
+#include "SessionFixture.h"
+
+namespace {
+
+using Does = Way::Does;
+
+const char *const kProperties = "MapProperties";
+
+Way way(const char *window, const char *control, const char *icon, const char *from, Does does,
+        const char *to, bool drops = false)
+{
+    return {Played::spot(window, control), QString::fromLatin1(icon),
+            QString::fromLatin1(from),     does,
+            QString::fromLatin1(to),       drops};
+}
+
+/// A main window with a list, whose rows open a dialog by a double click and a menu by a right click; the
+/// menu opens the dialog, too.
+Ways someWays()
+{
+    return {way(kProperties, "cancel", "click", kProperties, Does::kCloses, kProperties, true),
+            way(kProperties, "ok", "click", kProperties, Does::kCloses, kProperties),
+            way("MainWindow", "maps", "doubleClick", "MainWindow", Does::kOpens, kProperties),
+            way("MainWindow", "maps", "rightClick", "MainWindow", Does::kPopsUp, "MapPopup"),
+            way("Menu", "MapPopup/newMap", "click", "MapPopup", Does::kOpens, kProperties),
+            way("Menu", "@dismiss", "click", "MapPopup", Does::kCloses, "MapPopup")};
+}
+
+QString str(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+/// A learner who strays, and what leads back.
+class tst_BackOnTrack : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leadsBackIntoAWindowThatWasClosed();
+    void leadsOutOfADialogThatIsInTheWay();
+    void opensTheWindowAgainForTheSameRow();
+    void aWindowThatCameUpInAnotherWayIsLeft();
+    void opensAMenuAgainAtTheSameRow();
+    void aMenuAboveTheControlHasToGo();
+    void bringsTheTabBackThatTheStepIsAbout();
+    void doesNotMindWhatTheStepIsNotAbout();
+    void anotherProjectIsPutBack();
+    void theDataArePutBackAfterAWrongMove();
+    void aTaskThatChangesTheDataIsNothingToPutBack();
+    void takesTheFilesOfALessonForItsOwn();
+    void isNotAstrayWhereTheStepPointsNowhere();
+    void saysNothingOfWhatHappensWithinOneTurn();
+    void theStepIsToldAnewInPlaceOfNext();
+    void followsARowThatWasScrolled();
+};
+
+void tst_BackOnTrack::leadsBackIntoAWindowThatWasClosed()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str(kProperties), Played::spot(kProperties, "picture"));
+    played.editor.open(str(kProperties));
+    QSignalSpy changed(&played.session, &LessonSession::astrayChanged);
+    played.play({Played::item(1, kProperties, "action,picture,")});
+    QVERIFY(!played.session.isAstray());
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps"));
+    QCOMPARE(played.session.wayBack()->icon, str("doubleClick"));
+    // The middle of the list, less the way from the bubble to the arrow's tip; a double click, and no button.
+    const QPoint spot = QPoint(90, 190) + QPoint(999, 999) - LessonWords::kTip;
+    QCOMPARE(
+        played.lastTold(),
+        QStringLiteral("indicator|update|%1|%2|MapProperties|use maps -1|4|1").arg(spot.x()).arg(spot.y()));
+    played.use("MainWindow", "maps", 2);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.lastTold(), str("indicator|update|305|406|MapProperties|Hint|4|0"));
+}
+
+void tst_BackOnTrack::leadsOutOfADialogThatIsInTheWay()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot(kProperties, "cancel"));
+    // Whatever happens in there is not what the step asks for.
+    played.use(kProperties, "images", 1);
+    played.editor.report(str("list"), str("1"));
+    QCOMPARE(played.id(), 1);
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::opensTheWindowAgainForTheSameRow()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 4));
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 Played::item(2, kProperties, "action,picture,")});
+    played.use("MainWindow", "maps", 4);
+    played.editor.open(str(kProperties));
+    QCOMPARE(played.id(), 2);
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 4));
+}
+
+void tst_BackOnTrack::aWindowThatCameUpInAnotherWayIsLeft()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 4));
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 Played::item(2, kProperties, "action,picture,")});
+    played.use("MainWindow", "maps", 4);
+    played.editor.open(str(kProperties));
+    QCOMPARE(played.id(), 2);
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    QCOMPARE(played.id(), 2);
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QCOMPARE(played.session.wayBack()->by, Played::spot(kProperties, "cancel"));
+}
+
+void tst_BackOnTrack::opensAMenuAgainAtTheSameRow()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 3));
+    played.editor.m_controls.insert(str("Menu"), Played::spot("Menu", "MapPopup/newMap"));
+    played.play({Played::item(1, "MainWindow", "popup,MapPopup", "rightClick"),
+                 Played::item(2, "Menu", "windowState,MapProperties,open"),
+                 Played::item(3, kProperties, "list,1")});
+    played.use("MainWindow", "maps", 3);
+    played.editor.popUp(str("MapPopup"));
+    QCOMPARE(played.id(), 2);
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.editor.closeMenu();
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 3));
+    QCOMPARE(played.session.wayBack()->icon, str("rightClick"));
+    // At another row it is another menu.
+    played.use("MainWindow", "maps", 1);
+    played.editor.popUp(str("MapPopup"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 3));
+    played.editor.closeMenu();
+    played.use("MainWindow", "maps", 3);
+    played.editor.popUp(str("MapPopup"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.use("Menu", "MapPopup/newMap");
+    played.editor.closeMenu();
+    played.editor.open(str(kProperties));
+    QCOMPARE(played.id(), 3);
+    played.turn();
+    // The dialog belongs to the row whose menu opened it.
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 3));
+    QCOMPARE(played.session.wayBack()->icon, str("rightClick"));
+}
+
+void tst_BackOnTrack::aMenuAboveTheControlHasToGo()
+{
+    const ControlSpot tiles = Played::spot("MainWindow", "tiles", 1);
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), tiles);
+    played.play({Played::item(1, "MainWindow", "list,1"), QStringLiteral(R"("id":2)")});
+    played.use("MainWindow", "maps", 1);
+    played.editor.popUp(str("MapPopup"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.editor.closeMenu();
+    played.editor.m_hidden.append(tiles);
+    played.editor.popUp(str("MapPopup"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("Menu", "@dismiss"));
+    // A press beside it closes it and does what the step asks for: that counts.
+    played.editor.m_cause = tiles;
+    played.editor.closeMenu();
+    played.editor.report(str("list"), str("1"));
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_BackOnTrack::bringsTheTabBackThatTheStepIsAbout()
+{
+    const ControlSpot ground = Played::spot("MainWindow", "palette", 0);
+    const ControlSpot nature = Played::spot("MainWindow", "palette", 1);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "tiles", 4));
+    played.editor.m_meanings.insert(str("tiles"), str("Water"));
+    played.editor.m_chosen = {ground};
+    played.play({Played::item(1, "MainWindow", "list,4"), QStringLiteral(R"("id":2)")});
+    played.editor.m_meanings.insert(str("tiles"), str("Rock"));
+    played.editor.m_chosen = {nature};
+    played.use("MainWindow", "palette", 1);
+    played.editor.report(str("tabView"), str("tabview"), str("1"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, ground);
+    QCOMPARE(played.session.wayBack()->does, Does::kShows);
+    played.use("MainWindow", "tiles", 4);
+    played.editor.report(str("list"), str("4"));
+    QCOMPARE(played.id(), 1);
+    played.editor.m_meanings.insert(str("tiles"), str("Water"));
+    played.editor.m_chosen = {ground};
+    played.use("MainWindow", "palette", 0);
+    played.editor.report(str("tabView"), str("tabview"), str("0"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.use("MainWindow", "tiles", 4);
+    played.editor.report(str("list"), str("4"));
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_BackOnTrack::doesNotMindWhatTheStepIsNotAbout()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "fill"));
+    played.editor.m_chosen = {Played::spot("MainWindow", "pencil")};
+    played.play({Played::item(1, "MainWindow", "action,fill,")});
+    played.editor.m_chosen = {Played::spot("MainWindow", "ellipse")};
+    played.use("MainWindow", "ellipse");
+    played.editor.report(str("action"), str("ellipse"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::anotherProjectIsPutBack()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    played.editor.m_project = str("/games/other");
+    played.editor.m_data = str("other");
+    played.use("MainWindow", "new");
+    played.editor.report(str("action"), str("fileNew"), str("open"));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.session.canPutBack());
+    QCOMPARE(played.lastTold(), str("indicator|update|-9999|-9999|MainWindow|put it back|4|6"));
+    played.session.putBack();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.editor.m_project, str("/games/mine"));
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.lastTold(), str("indicator|update|95|196|MainWindow|Hint|4|0"));
+}
+
+void tst_BackOnTrack::theDataArePutBackAfterAWrongMove()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "tiles", 1));
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    QVERIFY(!played.session.canPutBack());
+    played.use(kProperties, "ok");
+    played.editor.m_data = str("a map renamed");
+    played.editor.report(str("action"), str("ok"));
+    QVERIFY(played.session.canPutBack());
+    QVERIFY(!played.session.isAstray());
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.editor.m_stack, QStringList{str("MainWindow")});
+    QVERIFY(!played.session.isAstray());
+    QVERIFY(!played.session.canPutBack());
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_BackOnTrack::aTaskThatChangesTheDataIsNothingToPutBack()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "name"));
+    played.play({Played::item(1, "MainWindow", "click,", "keyboard")});
+    played.use("MainWindow", "name");
+    played.editor.m_data = str("a name typed");
+    played.editor.report(str("textLength"), str("name"), str("3"));
+    played.turn();
+    QVERIFY(!played.session.canPutBack());
+}
+
+void tst_BackOnTrack::takesTheFilesOfALessonForItsOwn()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    connect(&played.session, &LessonSession::filesReceived, this,
+            [&played] { played.editor.m_data = str("the lesson's files"); });
+    played.session.receive(QStringLiteral("feedbackPresetData\u0001{\"data/Actors.json\":\"[]\"}"));
+    played.turn();
+    played.use("MainWindow", "maps", 5);
+    played.editor.report(str("list"), str("5"));
+    QVERIFY(!played.session.canPutBack());
+    played.editor.m_data = str("and a wrong move");
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("the lesson's files"));
+}
+
+void tst_BackOnTrack::isNotAstrayWhereTheStepPointsNowhere()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.play(
+        {QStringLiteral(R"("id":1,"x":-9999,"y":-9999,"windowKey":"MainWindow","condition":"click,")")});
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::saysNothingOfWhatHappensWithinOneTurn()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    QSignalSpy changed(&played.session, &LessonSession::astrayChanged);
+    played.editor.open(str(kProperties));
+    played.play({Played::item(1, kProperties, "windowState,MapProperties,close"),
+                 Played::item(2, "Second", "list,1")});
+    played.use(kProperties, "ok");
+    played.editor.close(str(kProperties));
+    QCOMPARE(played.id(), 2);
+    played.editor.open(str("Second"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_BackOnTrack::theStepIsToldAnewInPlaceOfNext()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.play({Played::item(1, "MainWindow", "click,", "eye"), QStringLiteral(R"("id":2)")});
+    QVERIFY(played.lastTold().endsWith(str("|Hint|5|3")));
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QVERIFY2(played.lastTold().endsWith(str("|use cancel -1|4|0")), qPrintable(played.lastTold()));
+    // One that was on its way.
+    played.session.receive(str("next"));
+    QCOMPARE(played.id(), 1);
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QVERIFY(played.lastTold().endsWith(str("|Hint|5|3")));
+    played.session.receive(str("next"));
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_BackOnTrack::followsARowThatWasScrolled()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 2));
+    played.play({Played::item(1, "MainWindow", "list,2")});
+    QCOMPARE(played.session.bubbleTarget(), QPoint(95, 196));
+    // The fake editor's controls are where their windows begin.
+    played.editor.m_origins.insert(str("MainWindow"), QPoint(400, 500));
+    Q_EMIT played.editor.viewChanged();
+    played.turn();
+    QCOMPARE(played.session.bubblePlace(), QPoint(405, 506));
+}
+
+QTEST_GUILESS_MAIN(tst_BackOnTrack)
+#include "tst_BackOnTrack.moc"

@@ -1,0 +1,301 @@
+#include "SessionFixture.h"
+
+#include <QJsonDocument>
+
+namespace {
+
+QString str(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+/// Going back, being shown, skipping and resuming.
+class tst_LessonMemory : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void goesBackWithTheStateOfThen();
+    void goesBackStepByStepAndForthAgain();
+    void showsAndThenDoes();
+    void doesWhatTheIconSays_data();
+    void doesWhatTheIconSays();
+    void skippingDoesTheStep();
+    void skippingGoesOnWhereNothingCanBeDone();
+    void skippingAStepThatWaitsForNextPressesNext();
+    void resumesWhereALessonWasLeft();
+    void resumesKnowingHowTheWindowsCameUp();
+    void beginsAgainWhenTheStateIsGone();
+    void theBookmarkOutlivesTheCompanionAndNotTheLesson();
+    void tellsOfThePressOfAButton();
+};
+
+void tst_LessonMemory::goesBackWithTheStateOfThen()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1"), Played::item(2, "MainWindow", "list,2"),
+                 Played::item(3, "MainWindow", "list,3")});
+    QVERIFY(!played.session.canGoBack());
+    played.use("MainWindow", "maps", 1);
+    played.editor.m_data = str("after the first");
+    played.editor.report(str("list"), str("1"));
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QVERIFY(played.session.canGoBack());
+    played.editor.m_data = str("something else");
+    played.editor.open(str("NewProject"));
+    played.session.back();
+    QCOMPARE(played.id(), 1);
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.editor.m_stack, QStringList{str("MainWindow")});
+    QVERIFY(!played.session.canGoBack());
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_LessonMemory::goesBackStepByStepAndForthAgain()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                 Played::item(3, "MainWindow", "click,")});
+    const auto next = [&played] {
+        played.session.receive(str("next"));
+        played.turn();
+    };
+    next();
+    next();
+    QCOMPARE(played.id(), 3);
+    played.session.back();
+    QCOMPARE(played.id(), 2);
+    next();
+    QCOMPARE(played.id(), 3);
+    played.session.back();
+    played.session.back();
+    QCOMPARE(played.id(), 1);
+    QVERIFY(!played.session.canGoBack());
+    played.session.back();
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_LessonMemory::showsAndThenDoes()
+{
+    Played played;
+    ControlSpot shown;
+    connect(&played.session, &LessonSession::showRequested, this,
+            [&shown](const ControlSpot &spot) { shown = spot; });
+    const ControlSpot row = Played::spot("MainWindow", "maps", 1);
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "list,1"), QStringLiteral(R"("id":2)")});
+    played.told.clear();
+    played.session.showMe();
+    QCOMPARE(shown, row);
+    QVERIFY(played.editor.m_performed.isEmpty());
+    QTRY_VERIFY(!played.lastTold().isEmpty());
+    // Away, and back from there.
+    QCOMPARE(played.told, (QStringList{str("indicator|updateXy|601|%1").arg(549 - LessonWords::kTip.y()),
+                                       str("indicator|update|95|196|MainWindow|Hint|4|0")}));
+    played.editor.m_onPerform = [&played] {
+        played.editor.report(str("list"), str("1"));
+    };
+    played.session.showMe();
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, row);
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_LessonMemory::doesWhatTheIconSays_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("enter");
+    using Kind = ControlUse::Kind;
+    const auto row = [](const char *name, const char *condition, const char *icon, const char *hint,
+                        Kind kind, const char *text = "", bool enter = false) {
+        QTest::newRow(name) << str(condition) << str(icon) << str(hint) << static_cast<int>(kind) << str(text)
+                            << enter;
+    };
+    row("click", "list,1", "click", "", Kind::kClick);
+    row("double click", "windowState,MapProperties,open", "doubleClick", "", Kind::kDoubleClick);
+    row("right click", "popup,MapPopup", "rightClick", "", Kind::kRightClick);
+    row("drag", "mouseEvent,Map,click", "click", "Press here and drag.", Kind::kDrag);
+    row("Enter", "windowState,MapProperties,close", "keyboard", "", Kind::kType, "", true);
+    row("a number", "spinBox,=,35 %", "keyboard", "", Kind::kType, "35");
+    row("a text", "textLength,name,4", "keyboard", "", Kind::kType, "aaaa");
+    row("a choice", "comboBox,moveType,2", "click", "", Kind::kChoose, "2");
+}
+
+void tst_LessonMemory::doesWhatTheIconSays()
+{
+    QFETCH(QString, condition);
+    QFETCH(QString, icon);
+    QFETCH(QString, hint);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "control"));
+    if (condition.endsWith(str("close"))) {
+        played.editor.open(str("MapProperties"));
+        played.editor.m_controls.insert(str("MapProperties"), Played::spot("MapProperties", "control"));
+    }
+    const QString key = played.editor.m_stack.constLast();
+    played.play({Played::item(1, key.toLatin1().constData(), condition.toLatin1().constData(),
+                              icon.toLatin1().constData(), hint.toLatin1().constData()),
+                 QStringLiteral(R"("id":2)")});
+    QCOMPARE(played.id(), 1);
+    played.session.skipStep();
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    const ControlUse use = played.editor.m_performed.constFirst();
+    QTEST(static_cast<int>(use.kind), "kind");
+    QTEST(use.text, "text");
+    QTEST(use.pressesEnter, "enter");
+}
+
+void tst_LessonMemory::skippingDoesTheStep()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 1));
+    played.editor.m_onPerform = [&played] {
+        played.editor.report(str("list"), str("1"));
+    };
+    played.play(
+        {Played::item(1, "MainWindow", "list,1"), QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
+    played.session.skipStep();
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_LessonMemory::skippingGoesOnWhereNothingCanBeDone()
+{
+    Played played;
+    played.play(
+        {Played::item(1, "MainWindow", "list,1"), QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
+    played.session.skipStep();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_data, str("as it was"));
+}
+
+void tst_LessonMemory::skippingAStepThatWaitsForNextPressesNext()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 1));
+    played.play(
+        {Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
+    played.session.skipStep();
+    QCOMPARE(played.id(), 2);
+    QVERIFY(played.editor.m_performed.isEmpty());
+}
+
+void tst_LessonMemory::resumesWhereALessonWasLeft()
+{
+    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "list,1"),
+                            Played::item(3, "MainWindow", "click,")};
+    QJsonObject bookmark;
+    {
+        Played first;
+        first.session.request(str("TutorialStep1"));
+        first.play(items);
+        first.editor.m_data = str("drawn on");
+        QSignalSpy changed(&first.session, &LessonSession::bookmarkChanged);
+        first.session.receive(str("next"));
+        first.turn();
+        QCOMPARE(changed.size(), 1);
+        first.editor.m_data = str("and a wrong move later");
+        bookmark = QJsonDocument::fromJson(QJsonDocument(first.session.bookmark()).toJson()).object();
+    }
+    Played second;
+    second.session.resume(bookmark);
+    QCOMPARE(second.told, QStringList{str("tutorial|TutorialStep1")});
+    second.play(items);
+    QCOMPARE(second.id(), 2);
+    QCOMPARE(second.editor.m_data, str("drawn on"));
+    QVERIFY(!second.session.isAstray());
+    QCOMPARE(second.session.bookmark(), bookmark);
+    // What came before is known, though not how things were then.
+    QVERIFY(second.session.canGoBack());
+    second.session.back();
+    QCOMPARE(second.id(), 1);
+    // The next time it begins at the first step again.
+    second.session.request(str("TutorialStep1"));
+    second.play(items);
+    QCOMPARE(second.id(), 1);
+}
+
+void tst_LessonMemory::resumesKnowingHowTheWindowsCameUp()
+{
+    const QString key = str("MapProperties");
+    const QStringList items{Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                            Played::item(2, "MapProperties", "action,picture,")};
+    const Ways ways{{Played::spot("MainWindow", "maps"), str("doubleClick"), str("MainWindow"),
+                     Way::Does::kOpens, key, false}};
+    Played first;
+    first.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 4));
+    first.session.request(str("TutorialStep1"));
+    first.play(items);
+    first.use("MainWindow", "maps", 4);
+    first.editor.open(key);
+    first.turn();
+    QCOMPARE(first.id(), 2);
+    Played second;
+    second.editor.m_ways = ways;
+    second.session.resume(first.session.bookmark());
+    second.play(items);
+    QCOMPARE(second.id(), 2);
+    QVERIFY(second.editor.m_stack.contains(key));
+    second.use("MapProperties", "cancel");
+    second.editor.close(key);
+    second.turn();
+    QCOMPARE(second.session.wayBack()->by, Played::spot("MainWindow", "maps", 4));
+}
+
+void tst_LessonMemory::beginsAgainWhenTheStateIsGone()
+{
+    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "list,1")};
+    Played first;
+    first.session.request(str("TutorialStep1"));
+    first.play(items);
+    first.session.receive(str("next"));
+    first.turn();
+    Played second;
+    QSignalSpy problems(&second.session, &LessonSession::problemFound);
+    second.editor.m_canRestore = false;
+    second.session.resume(first.session.bookmark());
+    second.play(items);
+    QCOMPARE(second.id(), 1);
+    QCOMPARE(problems.size(), 1);
+}
+
+void tst_LessonMemory::theBookmarkOutlivesTheCompanionAndNotTheLesson()
+{
+    Played played;
+    played.session.request(str("TutorialStep1"));
+    QVERIFY(played.session.bookmark().isEmpty());
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
+    played.session.abandon();
+    const QJsonObject bookmark = played.session.bookmark();
+    QCOMPARE(bookmark.value(str("lesson")).toString(), str("TutorialStep1"));
+    played.session.resume(bookmark);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
+    played.session.receive(str("next"));
+    played.turn();
+    played.session.stop();
+    QVERIFY(!played.session.bookmark().isEmpty());
+    played.session.resume(played.session.bookmark());
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
+    QCOMPARE(played.id(), 2);
+    played.session.receive(str("next"));
+    QVERIFY(played.session.bookmark().isEmpty());
+}
+
+void tst_LessonMemory::tellsOfThePressOfAButton()
+{
+    Played played;
+    QSignalSpy pressed(&played.session, &LessonSession::nextArrived);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "yesNo")});
+    played.session.receive(str("next"));
+    played.session.receive(str("yes"));
+    QCOMPARE(pressed.size(), 2);
+}
+
+QTEST_GUILESS_MAIN(tst_LessonMemory)
+#include "tst_LessonMemory.moc"
