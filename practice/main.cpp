@@ -6,6 +6,7 @@
 #include "lesson/LessonWords.h"
 #include "platform/Platform.h"
 #include "window/EditorWindowSet.h"
+#include "window/ToolIcon.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -164,6 +165,7 @@ int main(int argc, char **argv)
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("PracticeEditor"));
+    QApplication::setWindowIcon(editorIcon());
     // The frameless windows and hidden dialogs come and go; the main window alone decides.
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -218,6 +220,7 @@ int main(int argc, char **argv)
     if (windows == nullptr) {
         return complain(errors.join(QLatin1Char('\n')));
     }
+    windows->setUnattended(options.unattended);
     PracticeEditor editor(options, std::move(windows));
     QObject::connect(&editor, &PracticeEditor::ended, &application, &QApplication::exit,
                      Qt::QueuedConnection);

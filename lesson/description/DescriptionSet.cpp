@@ -49,6 +49,15 @@ struct ReferenceCheck
         }
     }
 
+    void menu(const MenuDescription &menu) const
+    {
+        for (const MenuEntryDescription &entry : menu.entries) {
+            if (commands != nullptr) {
+                oneOf(QStringLiteral("menus.run"), entry.run, *commands);
+            }
+        }
+    }
+
     void control(const ControlDescription &control) const
     {
         action(control.name + QStringLiteral(".click"), control.click);
@@ -196,6 +205,9 @@ void DescriptionSet::check(const QStringList *commands, QStringList *errors) con
             check.window(QStringLiteral("areaOf"), window.owner);
         }
         check.action(QStringLiteral("after"), window.after);
+        for (const MenuDescription &menu : window.menus) {
+            check.menu(menu);
+        }
         for (const ControlDescription &control : window.controls) {
             check.control(control);
         }

@@ -50,12 +50,28 @@ int readSize(JsonReader &reader, const QString &field)
     return size;
 }
 
+Stretch readStretch(JsonReader &reader)
+{
+    Stretch stretch;
+    if (reader.has(str("grows"))) {
+        const QString way = reader.choice(str("grows"), {str("right"), str("down"), str("both")});
+        stretch.right = way != str("down");
+        stretch.down = way != str("right");
+    }
+    if (reader.has(str("anchor"))) {
+        reader.choice(str("anchor"), {str("bottom")});
+        stretch.isAtBottom = true;
+    }
+    return stretch;
+}
+
 ControlDescription readControl(JsonReader &reader)
 {
     ControlDescription control;
     control.type = reader.text(str("type"));
     control.name = reader.text(str("name"));
     control.geometry = reader.rect(str("geometry"));
+    control.stretch = readStretch(reader);
     if (reader.has(str("label"))) {
         control.label = reader.localText(str("label"));
     }
@@ -90,6 +106,17 @@ QVector<ControlDescription> readControls(JsonReader &parent, const QSize &size)
     return controls;
 }
 
+QStringList toolButtonsOf(const QVector<ControlDescription> &controls)
+{
+    QStringList names;
+    for (const ControlDescription &control : controls) {
+        if (control.type == str("toolButton")) {
+            names.append(control.name);
+        }
+    }
+    return names;
+}
+
 WindowDescription::Kind readKind(JsonReader &reader)
 {
     const QStringList names{str("window"), str("part"), str("popup"), str("area")};
@@ -101,6 +128,7 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
     using Kind = WindowDescription::Kind;
     if (window.kind == Kind::kPart) {
         window.owner = reader.text(str("partOf"));
+        window.stretch = readStretch(reader);
     }
     if (window.kind == Kind::kArea) {
         window.owner = reader.text(str("areaOf"));
@@ -111,6 +139,10 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
     }
     if (window.kind == Kind::kWindow) {
         window.isDraft = reader.flag(str("draft"));
+        window.menus = MenuDescription::read(reader, toolButtonsOf(window.controls));
+    }
+    if (window.kind == Kind::kWindow && reader.has(str("minimumSize"))) {
+        window.minimumSize = reader.size(str("minimumSize"));
     }
     if (window.kind == Kind::kWindow && reader.has(str("closesAfterMs"))) {
         window.closesAfterMs = reader.number(str("closesAfterMs"));
@@ -129,6 +161,12 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
 }
 
 } // namespace
+
+QRect Stretch::apply(const QRect &described, const QSize &growth) const
+{
+    const QRect grown = described.adjusted(0, 0, right ? growth.width() : 0, down ? growth.height() : 0);
+    return isAtBottom ? grown.translated(0, growth.height()) : grown;
+}
 
 bool ControlAction::isEmpty() const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lesson/description/JsonReader.h"
+#include "lesson/description/MenuDescription.h"
 
 #include <QRect>
 #include <QString>
@@ -23,6 +24,19 @@ struct ControlAction
     [[nodiscard]] bool isEmpty() const;
 };
 
+/// How a control or a part follows when its window is made larger or smaller than its description says.
+/// Without any of these it keeps place and size.
+struct Stretch
+{
+    bool right = false;
+    bool down = false;
+    /// Keeps its distance from the lower edge.
+    bool isAtBottom = false;
+
+    /// Where @p described goes when the window has grown by @p growth, in pixels.
+    [[nodiscard]] QRect apply(const QRect &described, const QSize &growth) const;
+};
+
 /// One control of a window: what a lesson has to know of it. Geometry is relative to the contents of its
 /// window or part, in pixels.
 struct ControlDescription
@@ -30,6 +44,7 @@ struct ControlDescription
     QString type;
     QString name;
     QRect geometry;
+    Stretch stretch;
     LocalText label;
     /// Words of the action event; no event when the name is empty.
     QString actionName;
@@ -63,13 +78,18 @@ struct WindowDescription
     QString owner;
     LocalText title;
     QSize size;
+    /// Of a window that the person can resize; empty for all others.
+    QSize minimumSize;
     QPoint place;
+    /// Of a part.
+    Stretch stretch;
     /// What is changed in the window is dropped when it closes, unless a command accepts it.
     bool isDraft = false;
     int closesAfterMs = 0;
     ControlAction after;
     QVector<ControlDescription> controls;
     QVector<PopupDescription> popups;
+    QVector<MenuDescription> menus;
 
     /// Reads the file at @p path. Adds one line to @p errors for each thing that is wrong with it, naming the
     /// file, the place and the mend; the result is then of no use.

@@ -10,10 +10,15 @@ NewProject::NewProject(QString name, QString location)
 {
 }
 
-void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources)
+void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources,
+                       const std::function<void()> &changed)
 {
-    fields.add(QStringLiteral("newProject.name"), reader(&Form::name), writer(&Form::name));
-    fields.add(QStringLiteral("newProject.location"), reader(&Form::location), writer(&Form::location));
+    fields.add(QStringLiteral("newProject.name"), reader(&Form::name), writer(&Form::name, changed));
+    fields.add(QStringLiteral("newProject.location"), reader(&Form::location),
+               writer(&Form::location, changed));
+    fields.add(QStringLiteral("newProject.folder"), [this](const DataLayer & /*layer*/) {
+        return m_typed.name.isEmpty() ? QString() : ProjectFolder::freeName(m_typed.location, m_typed.name);
+    });
     commands.add(QStringLiteral("newProject.begin"), [this] { m_typed = m_accepted; });
     sources.add(QStringLiteral("projects"), [this](const DataLayer & /*layer*/) {
         QVector<Row> rows;
@@ -38,9 +43,10 @@ Fields::Read NewProject::reader(QString Form::*text) const
     };
 }
 
-Fields::Write NewProject::writer(QString Form::*text)
+Fields::Write NewProject::writer(QString Form::*text, const std::function<void()> &changed)
 {
-    return [this, text](DataLayer & /*layer*/, const QVariant &value) {
+    return [this, text, changed](DataLayer & /*layer*/, const QVariant &value) {
         m_typed.*text = value.toString();
+        changed();
     };
 }

@@ -10,8 +10,9 @@ public:
     /// @p name is offered for a project, @p location for the folder that holds all of them.
     NewProject(QString name, QString location);
 
-    /// Adds what the dialogs show and do until a project is made or opened.
-    void addTo(Commands &commands, Fields &fields, RowSources &sources);
+    /// Adds what the dialogs show and do until a project is made or opened. @p changed is called when
+    /// something was typed.
+    void addTo(Commands &commands, Fields &fields, RowSources &sources, const std::function<void()> &changed);
 
     /// Offers another folder.
     void setLocation(const QString &location);
@@ -30,7 +31,7 @@ private:
 
     /// A field that shows and changes a text of what is typed.
     Fields::Read reader(QString Form::*text) const;
-    Fields::Write writer(QString Form::*text);
+    Fields::Write writer(QString Form::*text, const std::function<void()> &changed);
 
     Form m_typed;
     /// What was typed when the dialog was accepted last.

@@ -19,7 +19,7 @@ Project::Project(StartData start, const QString &location, QObject *parent)
 {
     m_tools.addTo(m_commands, m_sources);
     m_maps.addTo(m_commands, m_fields, m_sources);
-    m_newProject.addTo(m_commands, m_fields, m_sources);
+    m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
     addOwnWords();
     // What was typed belongs to the files that it was typed for.
     connect(&m_files, &DataFiles::left, &m_drafts, &Drafts::clear);
@@ -50,6 +50,12 @@ void Project::run(const QString &command, DataLayer &layer)
 {
     m_commands.run(command, layer);
     Q_EMIT changed();
+}
+
+bool Project::losesChanges(const QString &command) const
+{
+    return isModified() &&
+           (command == QLatin1String("newProject.accept") || command == QLatin1String("project.open"));
 }
 
 void Project::create()

@@ -37,6 +37,9 @@ public:
     /// That of its folder; empty while no project is open.
     [[nodiscard]] QString name() const;
 
+    /// Whether the command would drop changes that are not saved.
+    [[nodiscard]] bool losesChanges(const QString &command) const;
+
     /// Runs a command for a window that stands in @p layer. Does nothing where it makes no sense, such as
     /// undo with nothing to undo.
     void run(const QString &command, DataLayer &layer);

@@ -57,16 +57,22 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
     if (!write(made, bytes, {}, error)) {
         return std::nullopt;
     }
-    QString path = QDir(location).absoluteFilePath(name);
-    for (int number = 2; isTaken(path); ++number) {
-        path = QDir(location).absoluteFilePath(QStringLiteral("%1 (%2)").arg(name, QString::number(number)));
-    }
+    const QString path = QDir(location).absoluteFilePath(freeName(location, name));
     if (!QDir().rename(made, path)) {
         //: %1 is the folder's path.
         *error = tr("The project's folder \"%1\" cannot be made. Choose another name or place.").arg(path);
         return std::nullopt;
     }
     return path;
+}
+
+QString ProjectFolder::freeName(const QString &location, const QString &name)
+{
+    QString free = name;
+    for (int number = 2; isTaken(QDir(location).absoluteFilePath(free)); ++number) {
+        free = QStringLiteral("%1 (%2)").arg(name, QString::number(number));
+    }
+    return free;
 }
 
 QStringList ProjectFolder::projectsIn(const QString &location)
@@ -86,8 +92,16 @@ QStringList ProjectFolder::projectsIn(const QString &location)
 std::optional<QMap<QString, QByteArray>> ProjectFolder::read(const QString &folder, QString *error)
 {
     const QDir project(folder);
-    const QStringList names = QDir(project.filePath(QStringLiteral("data")))
-                                  .entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    const QFileInfo data(project.filePath(QStringLiteral("data")));
+    if (data.isDir() && !(data.isReadable() && data.isExecutable())) {
+        //: %1 is a folder.
+        *error = tr("The project's folder \"%1\" cannot be read: you are not permitted to list its files. "
+                    "Permit it, and open the project again.")
+                     .arg(data.filePath());
+        return std::nullopt;
+    }
+    const QStringList names =
+        QDir(data.filePath()).entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     if (names.isEmpty()) {
         //: %1 is a folder.
         *error =

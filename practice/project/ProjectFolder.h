@@ -21,6 +21,10 @@ public:
     [[nodiscard]] static std::optional<QString> create(const QString &location, const QString &name,
                                                        const QMap<QString, QString> &files, QString *error);
 
+    /// The name that a new folder @p name gets in @p location: with a number behind it where there is one
+    /// already.
+    [[nodiscard]] static QString freeName(const QString &location, const QString &name);
+
     /// Names of the folders in @p location that hold a project, in alphabetical order.
     [[nodiscard]] static QStringList projectsIn(const QString &location);
 

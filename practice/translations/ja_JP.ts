@@ -15,6 +15,33 @@
     </message>
 </context>
 <context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Save the changes in &quot;%1&quot;?</source>
+        <extracomment>%1 is the name of the open project.</extracomment>
+        <translation>「%1」の変更を保存しますか？</translation>
+    </message>
+    <message>
+        <source>What you have changed since you saved it last is lost otherwise.</source>
+        <translation>保存しないと、最後に保存したあとの変更は失われます。</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>A button: save the project, then leave it.</extracomment>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Don&apos;t save</source>
+        <extracomment>A button: leave the project without saving it.</extracomment>
+        <translation>保存しない(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>A button: go on with the project as it is.</extracomment>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>LessonPanel</name>
     <message>
         <source>Start</source>
@@ -138,6 +165,11 @@ Restart it? The lesson begins again.</source>
         <source>The project&apos;s file &quot;%1&quot; cannot be read (%2). Permit reading it, and open the project again.</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>プロジェクトのファイル「%1」を読み込めません（%2）。読み取りを許可してから、もう一度プロジェクトを開いてください。</translation>
+    </message>
+    <message>
+        <source>The project&apos;s folder &quot;%1&quot; cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
+        <extracomment>%1 is a folder.</extracomment>
+        <translation>プロジェクトのフォルダー「%1」を読み込めません。中のファイルを一覧する許可がないためです。許可してから、もう一度プロジェクトを開いてください。</translation>
     </message>
 </context>
 </TS>

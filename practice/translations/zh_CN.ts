@@ -15,6 +15,33 @@
     </message>
 </context>
 <context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Save the changes in &quot;%1&quot;?</source>
+        <extracomment>%1 is the name of the open project.</extracomment>
+        <translation>要保存“%1”中的更改吗？</translation>
+    </message>
+    <message>
+        <source>What you have changed since you saved it last is lost otherwise.</source>
+        <translation>如果不保存，上次保存之后的更改将会丢失。</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>A button: save the project, then leave it.</extracomment>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Don&apos;t save</source>
+        <extracomment>A button: leave the project without saving it.</extracomment>
+        <translation>不保存(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>A button: go on with the project as it is.</extracomment>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>LessonPanel</name>
     <message>
         <source>Start</source>
@@ -138,6 +165,11 @@ Restart it? The lesson begins again.</source>
         <source>The project&apos;s file &quot;%1&quot; cannot be read (%2). Permit reading it, and open the project again.</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>无法读取项目中的文件“%1”（%2）。请允许读取它，然后重新打开项目。</translation>
+    </message>
+    <message>
+        <source>The project&apos;s folder &quot;%1&quot; cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
+        <extracomment>%1 is a folder.</extracomment>
+        <translation>无法读取项目文件夹“%1”：你没有列出其中文件的权限。请授予权限，然后重新打开项目。</translation>
     </message>
 </context>
 </TS>

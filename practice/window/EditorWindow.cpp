@@ -1,9 +1,12 @@
 #include "window/EditorWindow.h"
 
+#include <QAbstractSpinBox>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QTabBar>
 
 namespace {
 
@@ -17,12 +20,15 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
     : QWidget(parent, flags)
     , m_project(project)
     , m_layer(&project->files())
+    , m_size(size)
 {
     setObjectName(key);
-    setFixedSize(size);
-    QFont pixelFont = font();
-    pixelFont.setPixelSize(kFontPixels);
-    setFont(pixelFont);
+    if (isWindow()) {
+        setFixedSize(size);
+    } else {
+        resize(size);
+    }
+    takePixelFont(this);
     connect(project, &Project::changed, this, [this] {
         if (isVisible()) {
             Q_EMIT refreshed();
@@ -30,11 +36,28 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
     });
 }
 
+void EditorWindow::takePixelFont(QWidget *widget)
+{
+    QFont pixelFont = widget->font();
+    pixelFont.setPixelSize(kFontPixels);
+    widget->setFont(pixelFont);
+}
+
 void EditorWindow::add(QWidget *control, const ControlDescription &description)
 {
     control->setObjectName(description.name);
-    control->setGeometry(description.geometry);
+    place(control, description.geometry, description.stretch);
     m_controls.append(control);
+    // Where it has the focus, the return key is its own and not the default button's.
+    if (auto *button = qobject_cast<QPushButton *>(control); button != nullptr && !button->isFlat()) {
+        button->setAutoDefault(true);
+    }
+}
+
+void EditorWindow::place(QWidget *child, const QRect &geometry, const Stretch &stretch)
+{
+    m_placed.append({child, geometry, stretch});
+    child->setGeometry(stretch.apply(geometry, size() - m_size));
 }
 
 QVector<QPair<QString, QPoint>> EditorWindow::controlPlaces() const
@@ -93,6 +116,15 @@ void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition
     if (action.isEmpty()) {
         return;
     }
+    if (m_project->losesChanges(action.run)) {
+        Q_EMIT leaveAsked(action, screenPosition);
+        return;
+    }
+    carryOut(action, screenPosition);
+}
+
+void EditorWindow::carryOut(const ControlAction &action, const QPoint &screenPosition)
+{
     run(action.run);
     Q_EMIT asked(action, screenPosition);
 }
@@ -101,6 +133,24 @@ void EditorWindow::setDefaultButton(QPushButton *button)
 {
     m_defaultButton = button;
     button->setDefault(true);
+}
+
+void EditorWindow::focusFirst()
+{
+    for (QWidget *control : qAsConst(m_controls)) {
+        const bool canBe = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabledTo(this) &&
+                           control->isVisibleTo(this);
+        if (canBe && qobject_cast<QTabBar *>(control) == nullptr) {
+            control->setFocus(Qt::TabFocusReason);
+            // The window is not the active one yet, so the reason alone selects nothing.
+            if (auto *edit = qobject_cast<QLineEdit *>(control)) {
+                edit->selectAll();
+            } else if (auto *spin = qobject_cast<QAbstractSpinBox *>(control)) {
+                spin->selectAll();
+            }
+            return;
+        }
+    }
 }
 
 void EditorWindow::setTimedAction(int ms, const ControlAction &action)
@@ -136,6 +186,15 @@ void EditorWindow::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Dark));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void EditorWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    for (const Placed &placed : qAsConst(m_placed)) {
+        placed.widget->setGeometry(placed.stretch.apply(placed.geometry, size() - m_size));
+    }
+    Q_EMIT laidOut();
 }
 
 void EditorWindow::showEvent(QShowEvent *event)

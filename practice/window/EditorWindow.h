@@ -16,16 +16,21 @@ class EditorWindow : public QWidget
     Q_OBJECT
 
 public:
-    /// @p project outlives the window. @p flags of the top level window; without any it is a part of @p
-    /// parent.
+    /// @p project outlives the window. @p flags of the top level window, which keeps its size; without any it
+    /// is a part of @p parent.
     EditorWindow(const QString &key, const QSize &size, Project *project, QWidget *parent,
                  Qt::WindowFlags flags);
+
+    /// Gives @p widget the font that the sizes in the descriptions are made for, whatever the desktop's is.
+    static void takePixelFont(QWidget *widget);
 
     [[nodiscard]] QString key() const { return objectName(); }
     [[nodiscard]] Project &project() const { return *m_project; }
 
     /// Puts a control, which is a child of the window already, at its place.
     void add(QWidget *control, const ControlDescription &description);
+    /// Puts a child at its place, from where it follows the window's size.
+    void place(QWidget *child, const QRect &geometry, const Stretch &stretch);
     /// Names of the controls with their places in this window, in pixels.
     [[nodiscard]] QVector<QPair<QString, QPoint>> controlPlaces() const;
 
@@ -45,22 +50,33 @@ public:
     /// Passes on what a control did: called by the controls. @p screenPosition is where the mouse was.
     void report(const QString &type, const QString &target, const QString &value);
     void act(const ControlAction &action, const QPoint &screenPosition);
+    /// What act() does once nothing is lost by it.
+    void carryOut(const ControlAction &action, const QPoint &screenPosition);
 
     /// The button that the return key presses.
     void setDefaultButton(QPushButton *button);
+    /// Gives the focus to the first control that a person fills in or chooses from, all of its text selected.
+    void focusFirst();
 
     /// Lets the window do @p action by itself @p ms after it came up; until then nobody can close it.
     void setTimedAction(int ms, const ControlAction &action);
     [[nodiscard]] bool hasTimedAction() const { return m_timer.interval() > 0; }
 
+    [[nodiscard]] QSize sizeHint() const override { return m_size; }
+
 Q_SIGNALS:
     /// The controls are to show what there is now: the project changed, or the window comes up. A window that
     /// nobody sees waits until then.
     void refreshed();
+    /// The controls have followed the window to another size.
+    void laidOut();
     /// Something that a condition may wait for, in its words.
     void happened(const QString &type, const QString &target, const QString &value);
     /// A control was used that closes or opens something; its command has run already.
     void asked(const ControlAction &action, const QPoint &screenPosition);
+    /// A control was used that would drop what was not saved. Nothing has happened so far: carryOut() does
+    /// it.
+    void leaveAsked(const ControlAction &action, const QPoint &screenPosition);
     /// The frame's close button or the escape key was used. The window is still open.
     void closeRequested();
 
@@ -68,13 +84,24 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
+    struct Placed
+    {
+        QWidget *widget;
+        QRect geometry;
+        Stretch stretch;
+    };
+
     Project *m_project;
     DataLayer *m_layer;
+    /// As described.
+    QSize m_size;
     QVector<QWidget *> m_controls;
+    QVector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;
 };

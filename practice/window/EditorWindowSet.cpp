@@ -1,28 +1,13 @@
 #include "window/EditorWindowSet.h"
 
 #include <QApplication>
-#include <QMouseEvent>
-#include <QScreen>
-#include <QWindow>
+#include <QEvent>
 
 #include <utility>
 
 namespace {
 
 using Kind = WindowDescription::Kind;
-
-/// The entry of the window stack that stands for any open context menu.
-QString popupEntry()
-{
-    return QStringLiteral("Popup");
-}
-
-/// The place nearest to @p place at which @p size fits into @p screen.
-QPoint fitted(const QPoint &place, const QSize &size, const QRect &screen)
-{
-    const QPoint last = screen.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
-    return {qMax(screen.left(), qMin(place.x(), last.x())), qMax(screen.top(), qMin(place.y(), last.y()))};
-}
 
 } // namespace
 
@@ -41,27 +26,45 @@ std::unique_ptr<EditorWindowSet> EditorWindowSet::create(const QString &locale, 
 
 EditorWindowSet::EditorWindowSet(EditorGround ground, WindowBuilder::Windows windows)
     : m_ground(std::move(ground))
-    , m_main(std::move(windows.main))
+    , m_frame(std::move(windows.frame))
+    , m_main(windows.main)
     , m_windows(std::move(windows.byName))
+    , m_block(m_frame.get())
+    , m_places(&m_ground.descriptions, m_frame.get(), &m_popup, &m_windows)
 {
     for (EditorWindow *window : qAsConst(m_windows)) {
         wire(window);
     }
-    connect(m_ground.project.get(), &Project::changed, this, &EditorWindowSet::updateTitle);
-    connect(m_ground.project.get(), &Project::left, this, &EditorWindows::projectLeft);
-    connect(m_ground.project.get(), &Project::created, this, &EditorWindows::projectCreated);
-    connect(m_ground.project.get(), &Project::failed, this, &EditorWindows::problemFound);
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationInactive && m_popup != nullptr) {
-            takePopupAway();
-            Q_EMIT popupAbandoned();
-        }
-    });
+    wireEditor();
     qApp->installEventFilter(this);
     updateTitle();
 }
 
-EditorWindowSet::~EditorWindowSet() = default;
+EditorWindowSet::~EditorWindowSet()
+{
+    // The windows hide while they go away, which is nothing to tell any more.
+    qApp->removeEventFilter(this);
+}
+
+void EditorWindowSet::wireEditor()
+{
+    connect(m_frame.get(), &MainFrame::closeRequested, this,
+            [this] { onCloseRequested(WindowBuilder::mainKey()); });
+    connect(m_main, &EditorWindow::laidOut, this, [this] {
+        if (m_main->isVisible()) {
+            m_places.forgetTold();
+            m_places.tell(m_main);
+        }
+    });
+    connect(&m_popup, &OpenPopup::closed, this, [this] { Q_EMIT popped(OpenPopup::stackEntry()); });
+    connect(&m_popup, &OpenPopup::abandoned, this, &EditorWindows::popupAbandoned);
+    connect(&m_places, &WindowPlaces::moved, this, &EditorWindows::moved);
+    connect(&m_places, &WindowPlaces::controlMoved, this, &EditorWindows::controlMoved);
+    connect(m_ground.project.get(), &Project::changed, this, &EditorWindowSet::updateTitle);
+    connect(m_ground.project.get(), &Project::left, this, &EditorWindows::projectLeft);
+    connect(m_ground.project.get(), &Project::created, this, &EditorWindows::projectCreated);
+    connect(m_ground.project.get(), &Project::failed, this, &EditorWindows::problemFound);
+}
 
 void EditorWindowSet::wire(EditorWindow *window)
 {
@@ -75,6 +78,10 @@ void EditorWindowSet::wire(EditorWindow *window)
     connect(window, &EditorWindow::asked, this,
             [this, window](const ControlAction &action, const QPoint &position) {
                 onAsked(window, action, position);
+            });
+    connect(window, &EditorWindow::leaveAsked, this,
+            [this, window](const ControlAction &action, const QPoint &position) {
+                askToLeave(window, [window, action, position] { window->carryOut(action, position); });
             });
     connect(window, &EditorWindow::closeRequested, this, [this, window] { onCloseRequested(window->key()); });
 }
@@ -97,37 +104,32 @@ bool EditorWindowSet::openWith(const QString &windowKey, const QString &begin)
         return false;
     }
     EditorWindow *window = m_windows[windowKey];
-    hidePopup();
+    m_popup.close();
     if (m_stack.contains(windowKey)) {
-        window->raise();
+        window->window()->raise();
         window->activateWindow();
         return true;
     }
-    place(window, description);
+    m_places.place(window);
     window->setLayer(description.isDraft ? m_ground.project->drafts().begin()
                                          : m_ground.project->drafts().top());
     window->run(begin);
-    window->show();
+    window->window()->show();
     window->activateWindow();
+    window->focusFirst();
     m_stack.append(windowKey);
+    m_block.setTop(window);
     Q_EMIT pushed(windowKey);
-    m_toldOrigins.clear();
-    tellPlaces(window);
+    m_places.forgetTold();
+    m_places.tell(window);
     tellState(windowKey, "open");
     return true;
 }
 
-void EditorWindowSet::place(EditorWindow *window, const WindowDescription &description) const
-{
-    const QRect screen = screenRect();
-    const QPoint base = window == m_main.get() ? screen.topLeft() : m_main->mapToGlobal(QPoint());
-    window->setGeometry(QRect(fitted(base + description.place, description.size, screen), description.size));
-}
-
 void EditorWindowSet::close(const QString &windowKey)
 {
-    if (windowKey == popupEntry() || windowKey == m_ground.descriptions.popupKey()) {
-        hidePopup();
+    if (windowKey == OpenPopup::stackEntry() || windowKey == m_ground.descriptions.popupKey()) {
+        m_popup.close();
         return;
     }
     // What stands above a window belongs to it and goes with it.
@@ -138,16 +140,19 @@ void EditorWindowSet::close(const QString &windowKey)
 
 void EditorWindowSet::closeTop()
 {
-    hidePopup();
+    m_popup.close();
+    m_question.takeBack();
     const QString key = m_stack.takeLast();
     EditorWindow *window = m_windows[key];
-    window->hide();
+    window->window()->hide();
     if (m_ground.descriptions[key].isDraft) {
         m_ground.project->drafts().drop(&window->layer());
     }
     window->setLayer(&m_ground.project->files());
-    if (!m_stack.isEmpty()) {
-        m_windows[m_stack.last()]->activateWindow();
+    EditorWindow *const top = m_stack.isEmpty() ? nullptr : m_windows[m_stack.last()];
+    m_block.setTop(top);
+    if (top != nullptr) {
+        top->activateWindow();
     }
     Q_EMIT popped(key);
     tellState(key, "close");
@@ -155,24 +160,7 @@ void EditorWindowSet::closeTop()
 
 QStringList EditorWindowSet::openWindows() const
 {
-    return m_popup != nullptr ? m_stack + QStringList{popupEntry()} : m_stack;
-}
-
-std::optional<QPoint> EditorWindowSet::origin(const QString &windowKey) const
-{
-    if (windowKey == popupEntry() || windowKey == m_ground.descriptions.popupKey()) {
-        return m_popup != nullptr ? std::optional(m_popup->mapToGlobal(QPoint())) : std::nullopt;
-    }
-    if (!m_ground.descriptions.contains(windowKey)) {
-        return {};
-    }
-    const WindowDescription &description = m_ground.descriptions[windowKey];
-    if (description.kind == Kind::kArea) {
-        return m_ground.descriptions.contains(description.owner) ? origin(description.owner)
-                                                                 : screenRect().topLeft();
-    }
-    const EditorWindow *window = m_windows[windowKey];
-    return window->isVisible() ? std::optional(window->mapToGlobal(QPoint())) : std::nullopt;
+    return m_popup.window() != nullptr ? m_stack + QStringList{OpenPopup::stackEntry()} : m_stack;
 }
 
 QString EditorWindowSet::title(const QString &windowKey) const
@@ -181,12 +169,6 @@ QString EditorWindowSet::title(const QString &windowKey) const
         return {};
     }
     return m_ground.descriptions[windowKey].title.value(m_ground.locale);
-}
-
-QRect EditorWindowSet::screenRect() const
-{
-    const QWindow *handle = m_main->windowHandle();
-    return (handle != nullptr ? handle->screen() : QApplication::primaryScreen())->geometry();
 }
 
 void EditorWindowSet::setProjectsFolder(const QString &folder)
@@ -206,7 +188,7 @@ EditorWindow *EditorWindowSet::window(const QString &keyOrPopup) const
 
 void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position)
 {
-    hidePopup();
+    m_popup.close();
     if (action.close) {
         close(window->key());
     }
@@ -220,84 +202,48 @@ void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action,
 
 void EditorWindowSet::onCloseRequested(const QString &key)
 {
-    if (m_windows[key]->hasTimedAction()) {
+    EditorWindow *const window = m_windows[key];
+    if (window->hasTimedAction() || m_block.blocks(window)) {
         return;
     }
-    close(key);
-    if (key == WindowBuilder::mainKey()) {
-        Q_EMIT mainWindowClosed();
+    if (key != WindowBuilder::mainKey()) {
+        close(key);
+        return;
     }
+    askToLeave(window, [this, key] {
+        close(key);
+        Q_EMIT mainWindowClosed();
+    });
+}
+
+void EditorWindowSet::askToLeave(EditorWindow *window, const std::function<void()> &leave)
+{
+    Project *const project = m_ground.project.get();
+    if (m_isUnattended || !project->isModified()) {
+        leave();
+        return;
+    }
+    const auto save = [project, leave] {
+        project->run(QStringLiteral("project.save"), project->files());
+        if (!project->isModified()) {
+            leave();
+        }
+    };
+    m_question.ask(window, project->name(), save, leave);
 }
 
 void EditorWindowSet::showPopup(const QString &name, const QPoint &position)
 {
-    hidePopup();
-    m_popup = m_windows[name];
-    m_popup->setLayer(m_ground.project->drafts().top());
-    m_popup->move(fitted(position, m_popup->size(), screenRect()));
-    m_popup->show();
-    Q_EMIT pushed(popupEntry());
-    tellPlaces(m_popup);
+    EditorWindow *const popup = m_windows[name];
+    m_popup.open(popup, m_places.popupCorner(position, popup->size()));
+    Q_EMIT pushed(OpenPopup::stackEntry());
+    m_places.tellPopup();
     Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_ground.descriptions.popupKey()});
-}
-
-void EditorWindowSet::hidePopup()
-{
-    if (m_popup == nullptr) {
-        return;
-    }
-    takePopupAway();
-    Q_EMIT popped(popupEntry());
-}
-
-void EditorWindowSet::takePopupAway()
-{
-    EditorWindow *popup = std::exchange(m_popup, nullptr);
-    popup->hide();
-    popup->setLayer(&m_ground.project->files());
-}
-
-void EditorWindowSet::tellPlace(const QString &key)
-{
-    Q_EMIT moved(key, origin(key).value_or(QPoint()));
-}
-
-void EditorWindowSet::tellPlaces(EditorWindow *window)
-{
-    const QPoint at = window->mapToGlobal(QPoint());
-    if (window == m_popup) {
-        tellPlace(m_ground.descriptions.popupKey());
-        tellPlace(popupEntry());
-        return;
-    }
-    const QString &key = window->key();
-    const auto told = m_toldOrigins.constFind(key);
-    if (told != m_toldOrigins.constEnd() && *told == at) {
-        return;
-    }
-    m_toldOrigins.insert(key, at);
-    tellPlace(key);
-    const auto places = window->controlPlaces();
-    for (const auto &[name, position] : places) {
-        Q_EMIT controlMoved(key + QLatin1Char('_') + name, at + position);
-    }
-    const QStringList keys = m_ground.descriptions.keys();
-    for (const QString &other : keys) {
-        const WindowDescription &description = m_ground.descriptions[other];
-        if (description.owner != key) {
-            continue;
-        }
-        if (description.kind == Kind::kPart) {
-            tellPlaces(m_windows[other]);
-        } else {
-            tellPlace(other);
-        }
-    }
 }
 
 void EditorWindowSet::updateVisible()
 {
-    const bool visible = m_main->isVisible() && !m_main->isMinimized();
+    const bool visible = m_frame->isVisible() && !m_frame->isMinimized();
     if (std::exchange(m_visible, visible) != visible) {
         Q_EMIT visibilityChanged(visible);
     }
@@ -309,8 +255,8 @@ void EditorWindowSet::updateTitle()
     if (m_ground.project->isOpen()) {
         title = QStringLiteral("%1[*] \u2013 %2").arg(m_ground.project->name(), title);
     }
-    m_main->setWindowTitle(title);
-    m_main->setWindowModified(m_ground.project->isOpen() && m_ground.project->isModified());
+    m_frame->setWindowTitle(title);
+    m_frame->setWindowModified(m_ground.project->isOpen() && m_ground.project->isModified());
 }
 
 void EditorWindowSet::tellState(const QString &key, const char *state)
@@ -321,28 +267,18 @@ void EditorWindowSet::tellState(const QString &key, const char *state)
 bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        if (auto *widget = qobject_cast<QWidget *>(watched);
-            widget != nullptr && widget->window() != m_popup) {
-            hidePopup();
-        }
-        break;
-    case QEvent::KeyPress:
-        if (m_popup != nullptr && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-            hidePopup();
-            return true;
-        }
-        break;
     case QEvent::Move:
-        if (auto *window = qobject_cast<EditorWindow *>(watched);
-            window != nullptr && m_stack.contains(window->key())) {
-            tellPlaces(window);
+        if (watched == m_frame.get() || watched == m_main) {
+            m_places.tell(m_main);
+        } else if (auto *window = qobject_cast<EditorWindow *>(watched);
+                   window != nullptr && m_stack.contains(window->key())) {
+            m_places.tell(window);
         }
         break;
     case QEvent::WindowStateChange:
     case QEvent::Show:
     case QEvent::Hide:
-        if (watched == m_main.get()) {
+        if (watched == m_frame.get()) {
             updateVisible();
         }
         break;

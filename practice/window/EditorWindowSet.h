@@ -3,7 +3,12 @@
 #include "window/EditorGround.h"
 #include "window/EditorWindow.h"
 #include "window/EditorWindows.h"
+#include "window/InputBlock.h"
+#include "window/LeaveQuestion.h"
+#include "window/MenuKey.h"
+#include "window/OpenPopup.h"
 #include "window/WindowBuilder.h"
+#include "window/WindowPlaces.h"
 
 #include <QHash>
 
@@ -26,13 +31,18 @@ public:
     bool open(const QString &windowKey) override;
     void close(const QString &windowKey) override;
     [[nodiscard]] QStringList openWindows() const override;
-    [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override;
+    [[nodiscard]] std::optional<QPoint> origin(const QString &windowKey) const override
+    {
+        return m_places.origin(windowKey);
+    }
     [[nodiscard]] QStringList openedFrom(const QString &windowKey) const override
     {
         return m_ground.descriptions.openedFrom(windowKey);
     }
+    void dock(QWidget *strip) override { m_frame->dock(strip); }
+    void setUnattended(bool unattended) override { m_isUnattended = unattended; }
     [[nodiscard]] QString title(const QString &windowKey) const override;
-    [[nodiscard]] QRect screenRect() const override;
+    [[nodiscard]] QRect screenRect() const override { return m_places.screen(); }
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 
     void setProjectsFolder(const QString &folder) override;
@@ -51,28 +61,31 @@ private:
     EditorWindowSet(EditorGround ground, WindowBuilder::Windows windows);
 
     void wire(EditorWindow *window);
+    void wireEditor();
     /// Opens the window, in which the command @p begin is run.
     bool openWith(const QString &windowKey, const QString &begin);
-    void place(EditorWindow *window, const WindowDescription &description) const;
     void closeTop();
     void showPopup(const QString &name, const QPoint &position);
-    void hidePopup();
-    /// Hides it and tells nobody.
-    void takePopupAway();
-    void tellPlace(const QString &key);
-    void tellPlaces(EditorWindow *window);
     void updateVisible();
     void updateTitle();
     void onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position);
     void onCloseRequested(const QString &key);
+    /// Goes on with @p leave when nothing is lost by it, or the person wants it so; asks above @p window.
+    void askToLeave(EditorWindow *window, const std::function<void()> &leave);
     void tellState(const QString &key, const char *state);
 
     EditorGround m_ground;
-    std::unique_ptr<EditorWindow> m_main;
+    std::unique_ptr<MainFrame> m_frame;
+    /// The contents of the frame.
+    EditorWindow *m_main;
     /// Windows and parts by key, context menus by name.
     QHash<QString, EditorWindow *> m_windows;
     QStringList m_stack;
-    EditorWindow *m_popup = nullptr;
-    QHash<QString, QPoint> m_toldOrigins;
+    MenuKey m_menuKey;
+    InputBlock m_block;
+    OpenPopup m_popup;
+    WindowPlaces m_places;
+    LeaveQuestion m_question;
+    bool m_isUnattended = false;
     bool m_visible = false;
 };

@@ -4,6 +4,8 @@
 
 #include <QMap>
 
+class QWidget;
+
 /// What the rest of the practice editor knows of its windows, beside what any host editor tells a lesson. The
 /// windows themselves are built from descriptions; nothing outside this folder sees a widget.
 class EditorWindows : public HostEditor
@@ -18,6 +20,13 @@ public:
 
     /// Closes the window if it is open.
     virtual void close(const QString &windowKey) = 0;
+
+    /// Takes @p strip over and shows it in the main window, below the contents, as wide as they are and as
+    /// high as its size hint. It stays of use while a dialog is open.
+    virtual void dock(QWidget *strip) = 0;
+
+    /// Nobody is there to ask: what is not saved is dropped without a question.
+    virtual void setUnattended(bool unattended) = 0;
 
     /// How the window is called in the person's language; empty when no description has the key, or no title.
     [[nodiscard]] virtual QString title(const QString &windowKey) const = 0;

@@ -44,3 +44,8 @@ QIcon toolIcon(const QString &name)
     }
     return icon;
 }
+
+QIcon editorIcon()
+{
+    return QIcon(Pictures::load(QStringLiteral("editor"), QStringLiteral("icon")));
+}

@@ -1,6 +1,11 @@
 #include "window/WindowBuilder.h"
 
+#include "window/AccessibleNames.h"
+#include "window/MainMenu.h"
+#include "window/Mnemonics.h"
 #include "window/control/ControlTypes.h"
+
+#include <QAbstractButton>
 
 namespace {
 
@@ -38,15 +43,12 @@ void WindowBuilder::read(const QString &window, const QVector<ControlDescription
 WindowBuilder::Windows WindowBuilder::make() const
 {
     Windows windows;
-    windows.main.reset(makeWindow(mainKey(), m_descriptions[mainKey()].size, nullptr, Qt::Window));
-    windows.byName.insert(mainKey(), windows.main.get());
+    makeMain(&windows);
     const QStringList keys = m_descriptions.keys();
     for (const QString &key : keys) {
         const WindowDescription &description = m_descriptions[key];
         if (description.kind == Kind::kPart) {
-            EditorWindow *part = makeWindow(key, description.size, windows.main.get(), Qt::Widget);
-            part->move(description.place);
-            windows.byName.insert(key, part);
+            makePart(description, &windows);
         } else if (description.kind == Kind::kWindow && key != mainKey()) {
             makeDialog(description, &windows);
         }
@@ -57,12 +59,33 @@ WindowBuilder::Windows WindowBuilder::make() const
     return windows;
 }
 
+void WindowBuilder::makeMain(Windows *windows) const
+{
+    const WindowDescription &description = m_descriptions[mainKey()];
+    windows->frame = std::make_unique<MainFrame>();
+    windows->main = makeWindow(mainKey(), description.size, windows->frame.get(), Qt::Widget);
+    if (description.minimumSize.isValid()) {
+        windows->main->setMinimumSize(description.minimumSize);
+    }
+    fillMenuBar(windows->frame->menuBar(), description.menus, windows->main, m_context.locale);
+    windows->frame->setContents(windows->main);
+    windows->byName.insert(mainKey(), windows->main);
+    nameControls(windows->main, description.controls, description.title.value(m_context.locale));
+}
+
+void WindowBuilder::makePart(const WindowDescription &description, Windows *windows) const
+{
+    EditorWindow *part = makeWindow(description.key, description.size, windows->main, Qt::Widget);
+    windows->main->place(part, {description.place, description.size}, description.stretch);
+    windows->byName.insert(description.key, part);
+    nameControls(part, description.controls, description.title.value(m_context.locale));
+}
+
 void WindowBuilder::makeDialog(const WindowDescription &description, Windows *windows) const
 {
-    EditorWindow *dialog = makeWindow(description.key, description.size, windows->main.get(), Qt::Dialog);
-    // Blocks the editor, and not the lesson strip, with which the person passes a step.
-    dialog->setWindowModality(Qt::WindowModal);
+    EditorWindow *dialog = makeWindow(description.key, description.size, windows->main, Qt::Dialog);
     dialog->setWindowTitle(description.title.value(m_context.locale));
+    nameControls(dialog, description.controls, dialog->windowTitle());
     if (description.closesAfterMs > 0) {
         dialog->setTimedAction(description.closesAfterMs, description.after);
     }
@@ -71,10 +94,21 @@ void WindowBuilder::makeDialog(const WindowDescription &description, Windows *wi
 
 void WindowBuilder::makePopup(const PopupDescription &popup, const LocalText &title, Windows *windows) const
 {
-    EditorWindow *menu = makeWindow(popup.name, popup.size, windows->main.get(),
+    EditorWindow *menu = makeWindow(popup.name, popup.size, windows->main,
                                     Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     menu->setAttribute(Qt::WA_ShowWithoutActivating);
     menu->setWindowTitle(title.value(m_context.locale));
+    QVector<LocalText> labels;
+    for (const ControlDescription &entry : popup.controls) {
+        labels.append(entry.label);
+    }
+    const QStringList texts = Mnemonics::give(labels, m_context.locale);
+    for (int entry = 0; entry < texts.size(); ++entry) {
+        const QString &name = popup.controls.at(entry).name;
+        if (auto *button = menu->findChild<QAbstractButton *>(name, Qt::FindDirectChildrenOnly)) {
+            button->setText(texts.at(entry));
+        }
+    }
     windows->byName.insert(popup.name, menu);
 }
 

@@ -2,6 +2,7 @@
 
 #include "lesson/description/DescriptionSet.h"
 #include "window/EditorWindow.h"
+#include "window/MainFrame.h"
 #include "window/control/ControlReader.h"
 
 #include <QHash>
@@ -12,10 +13,11 @@
 class WindowBuilder
 {
 public:
-    /// The windows that were made. The main window owns the others.
+    /// The windows that were made. The frame owns them all.
     struct Windows
     {
-        std::unique_ptr<EditorWindow> main;
+        std::unique_ptr<MainFrame> frame;
+        EditorWindow *main = nullptr;
         /// Windows and parts by key, context menus by name.
         QHash<QString, EditorWindow *> byName;
     };
@@ -40,6 +42,8 @@ private:
     void read(const QString &window, const QVector<ControlDescription> &controls, QStringList *errors);
     EditorWindow *makeWindow(const QString &name, const QSize &size, QWidget *parent,
                              Qt::WindowFlags flags) const;
+    void makeMain(Windows *windows) const;
+    void makePart(const WindowDescription &description, Windows *windows) const;
     void makeDialog(const WindowDescription &description, Windows *windows) const;
     void makePopup(const PopupDescription &popup, const LocalText &title, Windows *windows) const;
 

@@ -81,7 +81,9 @@ private:
     [[nodiscard]] bool isPointing() const;
     [[nodiscard]] int stepId() const;
     [[nodiscard]] bool clickSpot() const;
-    [[nodiscard]] QWidget *mainWindow() const { return m_windows->window(QStringLiteral("MainWindow")); }
+    /// The contents of the main window, and the window around them.
+    [[nodiscard]] QWidget *contents() const { return m_windows->window(QStringLiteral("MainWindow")); }
+    [[nodiscard]] QWidget *mainWindow() const { return contents()->window(); }
     void openNewProject();
 
     QTemporaryDir m_projects;
@@ -138,7 +140,7 @@ SeenOverlays tst_PracticeWindows::overlays() const
 bool tst_PracticeWindows::isReadable() const
 {
     const SeenOverlays seen = overlays();
-    const QPoint middle = mainWindow()->mapToGlobal(mainWindow()->rect().center());
+    const QPoint middle = contents()->mapToGlobal(contents()->rect().center());
     return seen.buttons.size() == 1 && seen.bubble &&
            arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
 }

@@ -11,7 +11,7 @@ ControlMaker readEntry(ControlReader &reader)
         entry->setFocusPolicy(Qt::NoFocus);
         entry->setStyleSheet(QStringLiteral(
             "QPushButton { text-align: left; padding-left: 10px; border: none; }"
-            "QPushButton:hover { background: palette(highlight); color: palette(highlighted-text); }"));
+            "QPushButton:default { background: palette(highlight); color: palette(highlighted-text); }"));
         wireClick(entry, description, window);
         return entry;
     };

@@ -1,5 +1,6 @@
 #include "window/control/MapControl.h"
 
+#include "window/control/MapKeys.h"
 #include "window/control/MapView.h"
 
 #include <QScrollArea>
@@ -15,6 +16,8 @@ ControlMaker readMap(ControlReader &reader)
         area->setBackgroundRole(QPalette::Dark);
         auto *view = new MapView(&window->project().board(), &window->project().tools(), painter);
         area->setWidget(view);
+        area->setFocusPolicy(Qt::NoFocus); // the map itself has the keys
+        new MapKeys(view);
         keepFresh(view, window, [view] { view->refresh(); });
         QObject::connect(view, &MapView::pressed, window, [window] {
             window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"));

@@ -12,6 +12,7 @@ MapView::MapView(MapBoard *board, const EditorTools *tools, MapPainter *painter,
     , m_tools(tools)
     , m_painter(painter)
 {
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void MapView::refresh()
@@ -20,6 +21,40 @@ void MapView::refresh()
     setVisible(map != nullptr);
     resize(map != nullptr ? map->size * m_tools->cellPixels() : QSize());
     update();
+}
+
+void MapView::setMarkedCell(const QPoint &cell)
+{
+    const GameMap *map = m_board->map();
+    if (map == nullptr) {
+        return;
+    }
+    m_cursor = {qBound(0, cell.x(), map->size.width() - 1), qBound(0, cell.y(), map->size.height() - 1)};
+    m_isAtKeyboard = hasFocus();
+    update();
+}
+
+QRect MapView::rectOf(const QPoint &cell) const
+{
+    const int pixels = m_tools->cellPixels();
+    return {cell * pixels, QSize(pixels, pixels)};
+}
+
+QVariant MapView::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return query == Qt::ImCursorRectangle ? QVariant(rectOf(m_cursor)) : QWidget::inputMethodQuery(query);
+}
+
+void MapView::focusInEvent(QFocusEvent *event)
+{
+    m_isAtKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QWidget::focusInEvent(event);
+}
+
+void MapView::focusOutEvent(QFocusEvent *event)
+{
+    m_isAtKeyboard = false;
+    QWidget::focusOutEvent(event);
 }
 
 QPoint MapView::cellAt(const QPoint &position) const
@@ -53,10 +88,13 @@ void MapView::paintEvent(QPaintEvent *event)
             painter.drawLine(0, y, width(), y);
         }
     }
-    if (m_tools->isEventMode()) {
+    if (m_tools->isEventMode() || m_isAtKeyboard) {
+        painter.setPen(QPen(Qt::black, 1));
+        painter.drawRect(rectOf(m_cursor).adjusted(0, 0, -1, -1));
         painter.setPen(QPen(Qt::white, 3));
-        painter.drawRect(QRect(m_cursor * pixels, QSize(pixels, pixels)).adjusted(1, 1, -2, -2));
-    } else if (m_drawing && drawsOnRelease()) {
+        painter.drawRect(rectOf(m_cursor).adjusted(2, 2, -3, -3));
+    }
+    if (m_drawing && drawsOnRelease()) {
         const QVector<QPoint> cells = m_board->cellsOfStroke(m_strokeStart, m_strokeEnd);
         for (const QPoint &cell : cells) {
             painter.fillRect(QRect(cell * pixels, QSize(pixels, pixels)), QColor(255, 255, 255, 110));
@@ -71,8 +109,9 @@ void MapView::mousePressEvent(QMouseEvent *event)
     }
     m_strokeStart = cellAt(event->pos());
     m_strokeEnd = m_strokeStart;
+    m_cursor = m_strokeStart;
+    m_isAtKeyboard = false;
     if (m_tools->isEventMode()) {
-        m_cursor = m_strokeStart;
         update();
     } else {
         m_drawing = true;

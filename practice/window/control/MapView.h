@@ -20,6 +20,16 @@ public:
     /// Shows what there is now.
     void refresh();
 
+    /// The cell that the keyboard is at, and the one that was pressed last; it is marked in event mode, and
+    /// while the keyboard is used.
+    [[nodiscard]] QPoint markedCell() const { return m_cursor; }
+    /// Marks the cell of the map that is nearest to @p cell.
+    void setMarkedCell(const QPoint &cell);
+    /// Of a cell, in pixels.
+    [[nodiscard]] QRect rectOf(const QPoint &cell) const;
+    /// Tells where the marked cell is.
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
 Q_SIGNALS:
     /// The left button went down on the map.
     void pressed();
@@ -29,6 +39,8 @@ Q_SIGNALS:
     void menuRequested(const QPoint &position);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -44,6 +56,6 @@ private:
     bool m_drawing = false;
     QPoint m_strokeStart;
     QPoint m_strokeEnd;
-    /// The cell that is marked in event mode.
     QPoint m_cursor;
+    bool m_isAtKeyboard = false;
 };

@@ -25,7 +25,9 @@ private Q_SLOTS:
     void undoAndRedoShowTheMapThatTheyChange();
     void savingClearsModified();
     void aFailedSaveIsToldAndLosesNothing();
+    void theDialogShowsThePlaceThatIsUsed();
     void projectsOfTheFolderAreListed();
+    void whatWouldBeLostIsKnown();
     void whatIsTypedEndsWithTheProject();
     void aBrokenProjectIsNotOpened();
     void dataFilesReplaceWhatIsOpen();
@@ -275,6 +277,50 @@ void tst_Project::aFailedSaveIsToldAndLosesNothing()
     room.run("project.save");
     QVERIFY(room.bytes(str("Quest/data/Map001.json")) != before);
     QVERIFY(!room.project.isModified());
+}
+
+void tst_Project::theDialogShowsThePlaceThatIsUsed()
+{
+    ProjectRoom room;
+    const QString games = room.path(str("elsewhere"));
+    const QSignalSpy changed(&room.project, &Project::changed);
+    room.project.setProjectsFolder(games);
+    QCOMPARE(changed.size(), 1);
+    room.run("newProject.begin");
+    QCOMPARE(room.field("newProject.location").toString(), games);
+    const int before = changed.size();
+    room.setField("newProject.name", str("Quest"));
+    QVERIFY(changed.size() > before);
+    QCOMPARE(room.field("newProject.folder").toString(), str("Quest"));
+    room.run("newProject.create");
+    QCOMPARE(room.project.files().folder(), games + str("/Quest"));
+    // The name is taken now.
+    QCOMPARE(room.field("newProject.folder").toString(), str("Quest (2)"));
+    room.run("newProject.create");
+    QCOMPARE(room.project.files().folder(), games + str("/Quest (2)"));
+    room.setField("newProject.location", room.path(str("more")));
+    QCOMPARE(room.field("newProject.folder").toString(), str("Quest"));
+    room.setField("newProject.name", QString());
+    QCOMPARE(room.field("newProject.folder").toString(), QString());
+}
+
+void tst_Project::whatWouldBeLostIsKnown()
+{
+    ProjectRoom room;
+    room.create();
+    const QStringList leaving{str("newProject.accept"), str("project.open")};
+    for (const QString &command : leaving) {
+        QVERIFY(!room.project.losesChanges(command));
+    }
+    room.choose("tiles", 4);
+    room.project.board().paint({{0, 0}});
+    for (const QString &command : leaving) {
+        QVERIFY(room.project.losesChanges(command));
+    }
+    QVERIFY(!room.project.losesChanges(str("project.save")));
+    QVERIFY(!room.project.losesChanges(QString()));
+    room.run("edit.undo");
+    QVERIFY(!room.project.losesChanges(leaving.constFirst()));
 }
 
 void tst_Project::projectsOfTheFolderAreListed()

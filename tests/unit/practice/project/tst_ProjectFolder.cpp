@@ -57,6 +57,8 @@ private Q_SLOTS:
     void leavesNothingBehindWhenAFileCannotBeWritten();
     void listsFoldersThatHoldAProject();
     void writtenFilesHaveTheUsualPermissions();
+    void saysThatAFolderMayNotBeListed_data();
+    void saysThatAFolderMayNotBeListed();
 };
 
 void tst_ProjectFolder::writesTheFilesIntoANewFolder()
@@ -266,6 +268,32 @@ void tst_ProjectFolder::writtenFilesHaveTheUsualPermissions()
     QString error;
     QVERIFY(ProjectFolder::write(room.path(), {{QStringLiteral("data/a.json"), "[]"}}, {}, &error));
     QCOMPARE(QFile::permissions(room.filePath(QStringLiteral("data/a.json"))), usual.permissions());
+}
+
+void tst_ProjectFolder::saysThatAFolderMayNotBeListed_data()
+{
+    QTest::addColumn<int>("permissions");
+    QTest::newRow("not listed") << int(QFile::WriteOwner | QFile::ExeOwner | QFile::ExeOther);
+    QTest::newRow("not entered") << int(QFile::ReadOwner | QFile::ReadOther);
+}
+
+void tst_ProjectFolder::saysThatAFolderMayNotBeListed()
+{
+    QFETCH(int, permissions);
+    const QTemporaryDir room;
+    MadeFolder store;
+    QString error;
+    QVERIFY(store.create(room.path(), QStringLiteral("P"),
+                         {{QStringLiteral("data/MapInfos.json"), QStringLiteral("[]")}}, &error));
+    const QString data = store.path() + QStringLiteral("/data");
+    QCOMPARE(chmod(qPrintable(room.path()), 0755), 0);
+    QVERIFY(QFile::setPermissions(data, QFile::Permissions(permissions)));
+    {
+        const Unprivileged nobody;
+        QVERIFY(!ProjectFolder::read(store.path(), &error));
+    }
+    QVERIFY(QFile::setPermissions(data, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVERIFY2(error.contains(data) && error.contains(QStringLiteral("not permitted")), qPrintable(error));
 }
 
 QTEST_GUILESS_MAIN(tst_ProjectFolder)

@@ -61,6 +61,27 @@ public:
 
     EditorWindowSet *operator->() const { return m_set.get(); }
 
+    /// The main window as the desktop has it, around its contents.
+    [[nodiscard]] QWidget *frame() const { return m_set->window(str("MainWindow"))->window(); }
+
+    /// Presses and releases a key as the window system does: in whatever has the focus, or as its shortcut.
+    static void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(focusWindow(), Qt::Key(key), modifiers);
+    }
+    static void type(const char *text)
+    {
+        for (const char *letter = text; *letter != 0; ++letter) {
+            QTest::keyClick(focusWindow(), *letter);
+        }
+    }
+    /// Once the window system knows of the window that came up or went away last.
+    static QWindow *focusWindow()
+    {
+        QCoreApplication::processEvents();
+        return QGuiApplication::focusWindow();
+    }
+
     template<typename Widget>
     Widget *find(const char *window, const char *name) const
     {

@@ -166,7 +166,7 @@ void tst_EditorControls::mapPaintsWithEachTool()
     QVERIFY(editor.map()->grab().toImage() != pictureBefore);
     QTest::mouseRelease(editor.map(), Qt::LeftButton, {}, QPoint(176, 176));
     QCOMPARE(editor.shownMap()->tile(0, painted), tile);
-    QVERIFY(editor->window(str("MainWindow"))->isWindowModified());
+    QVERIFY(editor.frame()->isWindowModified());
     editor.click("MainWindow", "editUndo");
     QCOMPARE(editor.shownMap()->tile(0, painted), before);
     QCOMPARE(editor.map()->grab().toImage(), pictureBefore);

@@ -191,7 +191,7 @@ void tst_EditorWindowSet::newProjectIsCopiedThenOpen()
     QVERIFY(!editor->project()->isOpen());
     QTRY_COMPARE(editor.told, closed("Copying"));
     QVERIFY(editor->project()->isOpen());
-    QCOMPARE(editor->window(str("MainWindow"))->windowTitle(), str("Quest[*] – Map Maker"));
+    QCOMPARE(editor.frame()->windowTitle(), str("Quest[*] – Map Maker"));
     QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 4);
     QCOMPARE(editor.map()->size(), QSize(768, 512));
 }
@@ -213,7 +213,8 @@ void tst_EditorWindowSet::originsFollowTheWindows()
     QVERIFY(!editor->origin(str("MainWindow")));
     QSignalSpy moved(editor.operator->(), &EditorWindows::moved);
     editor->open(str("MainWindow"));
-    EditorWindow *main = editor->window(str("MainWindow"));
+    const EditorWindow *main = editor->window(str("MainWindow"));
+    QWidget *frame = editor.frame();
     const auto told = [&moved](const char *key) {
         for (int index = moved.size() - 1; index >= 0; --index) {
             if (moved[index][0].toString() == str(key)) {
@@ -222,8 +223,8 @@ void tst_EditorWindowSet::originsFollowTheWindows()
         }
         return QPoint(-1, -1);
     };
-    for (const QPoint &place : {main->pos(), QPoint(33, 44)}) {
-        main->move(place);
+    for (const QPoint &place : {frame->pos(), QPoint(33, 44)}) {
+        frame->move(place);
         const QPoint at = main->mapToGlobal(QPoint());
         QCOMPARE(editor->origin(str("MainWindow")), at);
         QCOMPARE(told("MainWindow"), at);
@@ -237,7 +238,7 @@ void tst_EditorWindowSet::originsFollowTheWindows()
     QVERIFY(!editor->origin(str("Other")));
     QVERIFY(!editor->origin(str("Menu")));
 
-    main->move(0, 0);
+    frame->move(0, 0);
     moved.clear();
     editor->open(str("MapProperties"));
     QCOMPARE(told("MapProperties"), main->mapToGlobal(QPoint(320, 150)));
@@ -250,7 +251,7 @@ void tst_EditorWindowSet::controlsAreToldWithTheirWindow()
     QSignalSpy told(editor.operator->(), &EditorWindows::controlMoved);
     editor->open(str("NewProject"));
     const QPoint at = editor->origin(str("NewProject")).value();
-    QCOMPARE(told.size(), 6);
+    QCOMPARE(told.size(), 8);
     QCOMPARE(told[1][0].toString(), str("NewProject_name"));
     QCOMPARE(told[1][1].toPoint(), at + QPoint(130, 20));
 }
@@ -317,7 +318,9 @@ void tst_EditorWindowSet::aClosedPopupKeepsNoDraft()
     const EditorWindow *popup = editor->window(str("MapPopup"));
     const auto openAbove = [&editor, popup] {
         editor->open(str("MapProperties"));
-        editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+        ControlAction openMenu;
+        openMenu.popup = str("MapPopup");
+        editor->window(str("MapProperties"))->act(openMenu, QPoint(50, 50));
         return &popup->layer() == &editor->window(str("MapProperties"))->layer();
     };
     QVERIFY(openAbove());
@@ -345,37 +348,38 @@ void tst_EditorWindowSet::dialogsBlockTheEditorAndNothingElse()
 {
     Editor editor;
     editor.openProject();
-    // The lesson strip is such a window.
-    QPushButton strip;
-    strip.resize(100, 40);
-    strip.show();
-    QSignalSpy stripClicked(&strip, &QPushButton::clicked);
-    const auto clickIn = [](QWidget *window, const QPoint &position) {
-        // Through the window system, which is where blocked windows lose their events.
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, position);
+    auto *strip = new QPushButton(str("Next"));
+    editor->dock(strip);
+    QVERIFY(QTest::qWaitFor([strip] { return strip->height() > 0; }));
+    QSignalSpy stripClicked(strip, &QPushButton::clicked);
+    const auto click = [](const QWidget *widget) {
+        // Through the window system, as a person does it.
+        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
+                          widget->mapTo(widget->window(), widget->rect().center()));
     };
-    QWidget *const main = editor->window(str("MainWindow"));
-    auto *undo = editor.find<QAbstractButton>("MainWindow", "editUndo");
-    QSignalSpy mainClicked(undo, &QAbstractButton::clicked);
-    undo->setEnabled(true);
-    const QPoint undoSpot = undo->geometry().center();
+    auto *grid = editor.find<QAbstractButton>("MainWindow", "viewGrid");
+    QSignalSpy mainClicked(grid, &QAbstractButton::clicked);
 
-    clickIn(main, undoSpot);
+    click(grid);
     QCOMPARE(mainClicked.size(), 1);
     editor->open(str("MapProperties"));
     editor->open(str("ImageSelector"));
-    clickIn(main, undoSpot);
+    click(grid);
+    QCOMPARE(mainClicked.size(), 1);
+    QTest::keyClick(editor.frame()->windowHandle(), Qt::Key_G, Qt::ControlModifier);
     QCOMPARE(mainClicked.size(), 1);
     auto *cancel = editor.find<QAbstractButton>("MapProperties", "cancel");
     QSignalSpy cancelled(cancel, &QAbstractButton::clicked);
-    clickIn(cancel->window(), cancel->geometry().center());
+    click(cancel);
     QCOMPARE(cancelled.size(), 0);
-    clickIn(&strip, QPoint(50, 20));
+    editor.frame()->close();
+    QCOMPARE(editor->openWindows().size(), 3);
+    click(strip);
     QCOMPARE(stripClicked.size(), 1);
     editor->close(str("ImageSelector"));
-    clickIn(cancel->window(), cancel->geometry().center());
+    click(cancel);
     QCOMPARE(cancelled.size(), 1);
-    clickIn(main, undoSpot);
+    click(grid);
     QCOMPARE(mainClicked.size(), 2);
 }
 
@@ -391,9 +395,9 @@ void tst_EditorWindowSet::minimisingIsTold()
 {
     Editor editor;
     editor.openProject();
-    editor->window(str("MainWindow"))->showMinimized();
+    editor.frame()->showMinimized();
     QTRY_COMPARE(editor.told, QStringList{str("invisible")});
-    editor->window(str("MainWindow"))->showNormal();
+    editor.frame()->showNormal();
     QTRY_COMPARE(editor.told, (QStringList{str("invisible"), str("visible")}));
 }
 
@@ -401,7 +405,7 @@ void tst_EditorWindowSet::closingTheMainWindowEndsEverything()
 {
     Editor editor;
     editor.openProject();
-    editor->window(str("MainWindow"))->close();
+    editor.frame()->close();
     QCOMPARE(editor.takeTold(),
              (QStringList{str("invisible"), str("pop MainWindow"),
                           str("windowState,MainWindow,close in MainWindow"), str("main window closed")}));

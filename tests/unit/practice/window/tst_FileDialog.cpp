@@ -52,7 +52,7 @@ void tst_FileDialog::opensTheChosenProject()
     }
     QCOMPARE(editor->project()->name(), str("My first game"));
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    QCOMPARE(editor->window(str("MainWindow"))->windowTitle(), str("My first game[*] – Map Maker"));
+    QCOMPARE(editor.frame()->windowTitle(), str("My first game[*] – Map Maker"));
 }
 
 void tst_FileDialog::cancelLeavesTheProjectOpen()
@@ -73,9 +73,9 @@ void tst_FileDialog::whatWasDrawnAndSavedIsThereAgain()
     first.clickRow("MapEditTreeBox", "maps", 3);
     first.clickRow("MainWindow", "tiles", 4);
     QTest::mouseClick(first.map(), Qt::LeftButton, {}, QPoint(48, 48));
-    QVERIFY(first->window(str("MainWindow"))->isWindowModified());
+    QVERIFY(first.frame()->isWindowModified());
     first.click("MainWindow", "fileSave");
-    QVERIFY(!first->window(str("MainWindow"))->isWindowModified());
+    QVERIFY(!first.frame()->isWindowModified());
     const QImage drawn = first.map()->grab().toImage();
 
     Editor second;

@@ -1,0 +1,65 @@
+#include "window/InputBlock.h"
+
+#include "window/EditorWindow.h"
+#include "window/MainFrame.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMenuBar>
+
+InputBlock::InputBlock(MainFrame *frame, QObject *parent)
+    : QObject(parent)
+    , m_frame(frame)
+{
+    qApp->installEventFilter(this);
+}
+
+void InputBlock::setTop(QWidget *window)
+{
+    m_top = window != nullptr && window->isWindow() ? window : nullptr;
+    // Its keys go with it.
+    m_frame->menuBar()->setEnabled(m_top == nullptr);
+}
+
+bool InputBlock::blocks(const QWidget *widget) const
+{
+    if (m_top == nullptr) {
+        return false;
+    }
+    const QWidget *const window = widget->window();
+    if (window == m_frame) {
+        return !m_frame->isDocked(widget);
+    }
+    // Other windows are context menus and questions, which stand above the one on top.
+    return window != m_top && window->windowType() == Qt::Dialog &&
+           qobject_cast<const EditorWindow *>(window) != nullptr;
+}
+
+bool InputBlock::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::KeyPress:
+        if (auto *widget = qobject_cast<QWidget *>(watched); widget != nullptr && blocks(widget)) {
+            m_top->raise();
+            m_top->activateWindow();
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyRelease:
+    case QEvent::ContextMenu:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        if (auto *widget = qobject_cast<QWidget *>(watched); widget != nullptr && blocks(widget)) {
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,106 @@
+#include "window/MainMenu.h"
+
+#include "window/EditorWindow.h"
+#include "window/Mnemonics.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+namespace {
+
+struct KeyOfWord
+{
+    const char *word;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+};
+
+constexpr KeyOfWord kKeys[] = {{"copy", Qt::Key_C, Qt::ControlModifier},
+                               {"paste", Qt::Key_V, Qt::ControlModifier},
+                               {"delete", Qt::Key_Delete, Qt::NoModifier}};
+
+/// Presses the action's key in what has the focus in the main window.
+void press(QAction *action, const KeyOfWord &key, const EditorWindow *main)
+{
+    QWidget *const focus = main->window()->focusWidget();
+    if (focus == nullptr || !main->isAncestorOf(focus)) {
+        return;
+    }
+    // It is the action's own shortcut, which would take it.
+    action->setEnabled(false);
+    QKeyEvent down(QEvent::KeyPress, key.key, key.modifiers);
+    QApplication::sendEvent(focus, &down);
+    QKeyEvent up(QEvent::KeyRelease, key.key, key.modifiers);
+    QApplication::sendEvent(focus, &up);
+    action->setEnabled(true);
+}
+
+/// Lets the action be as its tool button, now and always.
+void follow(QAction *action, QAbstractButton *button, EditorWindow *main)
+{
+    const auto take = [action, button, main] {
+        action->setVisible(button->isVisibleTo(main));
+        action->setEnabled(button->isEnabledTo(main));
+        action->setCheckable(button->isCheckable());
+        action->setChecked(button->isChecked());
+    };
+    QObject::connect(main, &EditorWindow::refreshed, action, take);
+    QObject::connect(action, &QAction::triggered, button, [button, take] {
+        button->click();
+        take(); // a click that changed nothing must not change the mark either
+    });
+    const QString name = Mnemonics::plain(action->text());
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    button->setToolTip(keys.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, keys));
+    take();
+}
+
+void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main)
+{
+    if (!entry.button.isEmpty()) {
+        follow(action, main->findChild<QAbstractButton *>(entry.button, Qt::FindDirectChildrenOnly), main);
+        return;
+    }
+    if (!entry.run.isEmpty()) {
+        QObject::connect(action, &QAction::triggered, main,
+                         [main, command = entry.run] { main->run(command); });
+        return;
+    }
+    for (const KeyOfWord &key : kKeys) {
+        if (entry.does == QLatin1String(key.word)) {
+            QObject::connect(action, &QAction::triggered, main,
+                             [action, main, key] { press(action, key, main); });
+            return;
+        }
+    }
+    QObject::connect(action, &QAction::triggered, main, [main] { main->window()->close(); });
+}
+
+} // namespace
+
+void fillMenuBar(QMenuBar *bar, const QVector<MenuDescription> &menus, EditorWindow *main,
+                 const QString &locale)
+{
+    for (const MenuDescription &description : menus) {
+        if (description.entries.isEmpty()) {
+            continue;
+        }
+        QMenu *const menu = bar->addMenu(description.label.value(locale));
+        for (const MenuEntryDescription &entry : description.entries) {
+            if (entry.isLine()) {
+                menu->addSeparator();
+                continue;
+            }
+            QAction *const action = menu->addAction(entry.label.value(locale));
+            QList<QKeySequence> keys;
+            for (const QString &key : entry.keys) {
+                keys.append(QKeySequence::fromString(key, QKeySequence::PortableText));
+            }
+            action->setShortcuts(keys);
+            wire(action, entry, main);
+        }
+    }
+}
