@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QUuid>
 
 namespace {
 
@@ -26,6 +27,9 @@ public:
     }
 
     [[nodiscard]] QStringList names() const { return m_after.keys(); }
+    [[nodiscard]] const DataRoots &before() const { return m_before; }
+    /// Unlike that of any other step of this run.
+    [[nodiscard]] QString name() const { return QString::number(m_number); }
 
     void undo() override { m_files->assign(m_before); }
     void redo() override { m_files->assign(m_after); }
@@ -38,6 +42,7 @@ public:
             return false;
         }
         m_after = step->m_after;
+        m_number = step->m_number;
         setObsolete(m_after == m_before);
         return true;
     }
@@ -47,6 +52,13 @@ private:
     DataRoots m_before;
     DataRoots m_after;
     QString m_mergeKey;
+    int m_number = nextNumber();
+
+    static int nextNumber()
+    {
+        static int last = 0;
+        return ++last;
+    }
 };
 
 DataFiles::DataFiles(QObject *parent)
@@ -149,6 +161,30 @@ QStringList DataFiles::redo()
     return names;
 }
 
+QString DataFiles::lastStep() const
+{
+    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
+    return m_opened + (step != nullptr ? step->name() : QString());
+}
+
+DataRoots DataFiles::beforeLastStep() const
+{
+    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
+    return step != nullptr ? step->before() : DataRoots();
+}
+
+bool DataFiles::goToStep(const QString &name)
+{
+    for (int index = 0; index <= m_history.count(); ++index) {
+        const auto *step = static_cast<const DataStep *>(m_history.command(index - 1));
+        if (m_opened + (step != nullptr ? step->name() : QString()) == name) {
+            m_history.setIndex(index);
+            return true;
+        }
+    }
+    return false;
+}
+
 bool DataFiles::save(QString *error)
 {
     // Where somebody has taken a folder away, all there was in it goes into a new one.
@@ -229,6 +265,7 @@ std::optional<DataFiles::Files> DataFiles::parsed(const QMap<QString, QByteArray
 void DataFiles::take(const QString &folder, const Files &files)
 {
     m_history.clear();
+    m_opened = QUuid::createUuid().toString() + QLatin1Char(' ');
     forgetSelections();
     m_folder = folder;
     m_files = files;

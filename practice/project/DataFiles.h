@@ -46,6 +46,15 @@ public:
     QStringList redo();
     [[nodiscard]] const QUndoStack &history() const { return m_history; }
 
+    /// A name for what the data are now: that of the project as it was opened with the last step of its
+    /// history, unlike those of all other steps, projects and runs.
+    [[nodiscard]] QString lastStep() const;
+    /// The files that the last step changed, as they were before it; none when there is no step.
+    [[nodiscard]] DataRoots beforeLastStep() const;
+    /// Undoes or does again until the data are what they were when lastStep() said this. False, with nothing
+    /// done, when the history has no such step.
+    bool goToStep(const QString &name);
+
     /// Writes the changed files into the project's folder: all of them, or none but for a disk that fails in
     /// the last moment. False with a text for the person; the changes are kept then, and can be saved again.
     [[nodiscard]] bool save(QString *error);
@@ -82,4 +91,6 @@ private:
     QString m_closedFolder;
     Files m_closedFiles;
     QUndoStack m_history;
+    /// Name of the project as it was opened, or given its files.
+    QString m_opened;
 };

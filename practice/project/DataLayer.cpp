@@ -2,6 +2,15 @@
 
 #include "project/JsonPointer.h"
 
+namespace {
+
+QString selectedMember()
+{
+    return QStringLiteral("selected");
+}
+
+} // namespace
+
 DataLayer::DataLayer(DataLayer *below, QObject *parent)
     : QObject(parent)
     , m_below(below)
@@ -36,5 +45,24 @@ int DataLayer::selected(const QString &list) const
 void DataLayer::select(const QString &list, int number)
 {
     m_selected.insert(list, number);
+    Q_EMIT changed();
+}
+
+QJsonObject DataLayer::saveSelf() const
+{
+    QJsonObject selected;
+    for (auto list = m_selected.cbegin(); list != m_selected.cend(); ++list) {
+        selected.insert(list.key(), list.value());
+    }
+    return {{selectedMember(), selected}};
+}
+
+void DataLayer::loadSelf(const QJsonObject &state)
+{
+    const QJsonObject selected = state.value(selectedMember()).toObject();
+    m_selected.clear();
+    for (auto list = selected.begin(); list != selected.end(); ++list) {
+        m_selected.insert(list.key(), list.value().toInt());
+    }
     Q_EMIT changed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QMap>
 #include <QObject>
@@ -42,6 +43,10 @@ public:
     /// Number of the entry that is selected in a list; -1 when none was.
     [[nodiscard]] int selected(const QString &list) const;
     void select(const QString &list, int number);
+
+    /// What the layer has of its own and nobody else keeps, as JSON, and back.
+    [[nodiscard]] virtual QJsonObject saveSelf() const;
+    virtual void loadSelf(const QJsonObject &state);
 
 Q_SIGNALS:
     /// A file or a selection did.

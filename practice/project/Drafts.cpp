@@ -1,6 +1,17 @@
 #include "project/Drafts.h"
 
+#include "project/DataRootsJson.h"
+
 #include <algorithm>
+
+namespace {
+
+QString draftMember()
+{
+    return QStringLiteral("draft");
+}
+
+} // namespace
 
 QJsonValue Draft::file(const QString &name) const
 {
@@ -34,6 +45,19 @@ void Draft::accept()
         below()->select(list.key(), list.value());
     }
     Q_EMIT changed();
+}
+
+QJsonObject Draft::saveSelf() const
+{
+    QJsonObject state = DataLayer::saveSelf();
+    state.insert(draftMember(), DataRootsJson::save(m_files));
+    return state;
+}
+
+void Draft::loadSelf(const QJsonObject &state)
+{
+    m_files = DataRootsJson::load(state.value(draftMember()).toObject());
+    DataLayer::loadSelf(state);
 }
 
 void Draft::clear()

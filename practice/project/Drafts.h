@@ -18,6 +18,8 @@ public:
     void change(const DataRoots &files, const QString &mergeKey) override;
     /// The draft is empty afterwards and can be typed into again.
     void accept() override;
+    [[nodiscard]] QJsonObject saveSelf() const override;
+    void loadSelf(const QJsonObject &state) override;
     /// Drops what was typed.
     void clear();
 

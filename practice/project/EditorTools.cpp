@@ -4,6 +4,7 @@ namespace {
 
 constexpr int kSmallest = 8;
 constexpr int kLargest = 64;
+constexpr int kTools = 5;
 
 } // namespace
 
@@ -63,6 +64,31 @@ void EditorTools::addTo(Commands &commands, RowSources &sources)
         [this](int row) {
             m_tile = qBound(0, m_tileTab * StartData::kTilesPerTab + row, int(m_start->tiles.size()) - 1);
             Q_EMIT changed();
+        });
+}
+
+void EditorTools::addTo(StateParts &states)
+{
+    states.add(
+        QStringLiteral("tools"),
+        [this] {
+            return QJsonObject{{QStringLiteral("tool"), static_cast<int>(m_tool)},
+                               {QStringLiteral("layer"), m_layer},
+                               {QStringLiteral("tab"), m_tileTab},
+                               {QStringLiteral("tile"), m_tile},
+                               {QStringLiteral("events"), m_eventMode},
+                               {QStringLiteral("grid"), m_grid},
+                               {QStringLiteral("cell"), m_cellPixels}};
+        },
+        [this](const QJsonValue &value) {
+            const QJsonObject state = value.toObject();
+            m_tool = static_cast<Tool>(qBound(0, state.value(QLatin1String("tool")).toInt(), kTools - 1));
+            m_layer = qBound(0, state.value(QLatin1String("layer")).toInt(), GameMap::kLayers - 1);
+            m_tileTab = qMax(0, state.value(QLatin1String("tab")).toInt());
+            m_tile = qBound(0, state.value(QLatin1String("tile")).toInt(), int(m_start->tiles.size()) - 1);
+            m_eventMode = state.value(QLatin1String("events")).toBool();
+            m_grid = state.value(QLatin1String("grid")).toBool();
+            setCellPixels(state.value(QLatin1String("cell")).toInt(kFullSize));
         });
 }
 

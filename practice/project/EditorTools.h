@@ -3,6 +3,7 @@
 #include "project/Commands.h"
 #include "project/RowSources.h"
 #include "project/StartData.h"
+#include "project/StateParts.h"
 
 /// What the person draws with and how the map is shown: tool, layer, tile, mode, zoom and grid. None of it
 /// belongs to a project.
@@ -21,6 +22,9 @@ public:
 
     /// Adds the commands that choose tools, and the lists of tiles.
     void addTo(Commands &commands, RowSources &sources);
+
+    /// Keeps all of it as a part of the editor's state.
+    void addTo(StateParts &states);
 
     [[nodiscard]] Tool tool() const { return m_tool; }
     [[nodiscard]] int layer() const { return m_layer; }

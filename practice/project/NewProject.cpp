@@ -30,6 +30,21 @@ void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources,
     });
 }
 
+void NewProject::addTo(StateParts &states)
+{
+    const QString name = QStringLiteral("name");
+    const QString location = QStringLiteral("location");
+    states.add(
+        QStringLiteral("newProject"),
+        [this, name, location] {
+            return QJsonObject{{name, m_typed.name}, {location, m_typed.location}};
+        },
+        [this, name, location](const QJsonValue &value) {
+            const QJsonObject typed = value.toObject();
+            m_typed = {typed.value(name).toString(), typed.value(location).toString()};
+        });
+}
+
 void NewProject::setLocation(const QString &location)
 {
     m_typed.location = location;

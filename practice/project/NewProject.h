@@ -2,6 +2,7 @@
 
 #include "project/Commands.h"
 #include "project/Fields.h"
+#include "project/StateParts.h"
 
 /// What is typed into the dialog for a new project, and the projects there are in the place that it names.
 class NewProject
@@ -13,6 +14,9 @@ public:
     /// Adds what the dialogs show and do until a project is made or opened. @p changed is called when
     /// something was typed.
     void addTo(Commands &commands, Fields &fields, RowSources &sources, const std::function<void()> &changed);
+
+    /// Keeps what is typed as a part of the editor's state.
+    void addTo(StateParts &states);
 
     /// Offers another folder.
     void setLocation(const QString &location);

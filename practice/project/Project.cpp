@@ -21,6 +21,8 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     m_maps.addTo(m_commands, m_fields, m_sources);
     m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
     addOwnWords();
+    m_tools.addTo(m_states);
+    m_newProject.addTo(m_states);
     // What was typed belongs to the files that it was typed for.
     connect(&m_files, &DataFiles::left, &m_drafts, &Drafts::clear);
     connect(&m_files, &DataFiles::left, this, &Project::left);

@@ -9,6 +9,7 @@
 #include "project/Maps.h"
 #include "project/NewProject.h"
 #include "project/StartData.h"
+#include "project/StateParts.h"
 
 /// The open project with all that windows show of it and do with it: the one owner of its data files, their
 /// history and their drafts. Windows know fields, lists and commands by the names that descriptions use, and
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] Drafts &drafts() { return m_drafts; }
     [[nodiscard]] const EditorTools &tools() const { return m_tools; }
     [[nodiscard]] MapBoard &board() { return m_board; }
+    /// What there is beside data files and layers.
+    [[nodiscard]] StateParts &states() { return m_states; }
 
     [[nodiscard]] bool isOpen() const { return m_files.isOpen(); }
     [[nodiscard]] bool isModified() const { return !m_files.changedFiles().isEmpty(); }
@@ -84,4 +87,5 @@ private:
     MapBoard m_board;
     Maps m_maps;
     NewProject m_newProject;
+    StateParts m_states;
 };
