@@ -24,6 +24,7 @@ QMap<QString, QJsonValue> filesOf(ProjectRoom &room)
 
 void draw(ProjectRoom &room, int column)
 {
+    room.choose("tiles", 4);
     room.project.board().beginStroke();
     room.project.board().paint({{column, 3}});
 }
