@@ -7,6 +7,7 @@
 #include "lesson-check/ScenarioReader.h"
 #include "lesson-check/StepCheck.h"
 #include "lesson-check/TextCheck.h"
+#include "lesson-check/WindowCheck.h"
 #include "tool/DataSupport.h"
 
 #include <QDir>
@@ -165,6 +166,7 @@ void LessonLibrary::checkLessons()
             continue;
         }
         m_findings += checkFlow(lesson);
+        m_findings += checkWindows(lesson, windows);
         m_findings += census.check(lesson);
         m_findings += checkNumbers(lesson);
         for (const Catalogue &catalogue : qAsConst(m_catalogues)) {

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void refusesWhatTheCompanionCannotLoad();
     void namesAClickThatEndsTwoSteps_data();
     void namesAClickThatEndsTwoSteps();
+    void namesAWaitForAWindowThatNoWayHasOpened_data();
+    void namesAWaitForAWindowThatNoWayHasOpened();
 };
 
 void tst_LessonScenario::acceptsCrLfInAScenario()
@@ -283,6 +285,33 @@ void tst_LessonScenario::namesAClickThatEndsTwoSteps()
     QVERIFY(!errors().contains(wrong.arg(4)));
     replace(scenarioFile(), "action,fileOpen,open", first);
     QCOMPARE(errors().contains(wrong.arg(4)), isWrong);
+}
+
+void tst_LessonScenario::namesAWaitForAWindowThatNoWayHasOpened_data()
+{
+    QTest::addColumn<QByteArray>("condition");
+    QTest::addColumn<bool>("isWrong");
+    QTest::newRow("opened on one of two ways") << QByteArray("windowState,NewProject,close") << false;
+    QTest::newRow("opened by the control of a step") << QByteArray("windowState,FileDialog,close") << false;
+    QTest::newRow("opened by nothing") << QByteArray("windowState,Copying,close") << true;
+    QTest::newRow("asked to open") << QByteArray("windowState,Copying,open") << false;
+}
+
+void tst_LessonScenario::namesAWaitForAWindowThatNoWayHasOpened()
+{
+    QFETCH(QByteArray, condition);
+    QFETCH(bool, isWrong);
+    replace(scenarioFile(),
+            "\"condition\":\"click,\",\n\"hint\":qsTr(\"#1\"),\n\"icon\":\"eye\",\n\"jump\":-1,\n"
+            "\"jumpNo\":-1,\n\"command\":\"\",\n\"showArrow\":true,\n\"prohibited\":false    \n    }\n];",
+            "\"condition\":\"" + condition +
+                "\",\n\"hint\":qsTr(\"#1\"),\n\"icon\":\"eye\",\n\"jump\":-1,\n\"jumpNo\":-1,\n\"command\":"
+                "\"\",\n\"showArrow\":true,\n\"prohibited\":false    \n    }\n];");
+    const QString wrong =
+        QStringLiteral("resource/qml/Tutorial/TutorialStep1.js:70: item 5, \"condition\": \"Copying\" is not "
+                       "open here, so the "
+                       "step would be passed at once; wait for it to open in a step before");
+    QCOMPARE(errors().contains(wrong), isWrong);
 }
 
 QTEST_MAIN(tst_LessonScenario)
