@@ -27,6 +27,14 @@ struct ReferenceCheck
         }
     }
 
+    /// An argument is for the editor to judge.
+    void commandsOf(const QString &place, const QStringList &texts) const
+    {
+        for (const QString &text : texts) {
+            oneOf(place, text.section(QLatin1Char(' '), 0, 0), *commands);
+        }
+    }
+
     void window(const QString &place, const QString &key) const
     {
         if (!key.isEmpty() && (!set.contains(key) || set[key].kind != WindowDescription::Kind::kWindow)) {
@@ -38,8 +46,8 @@ struct ReferenceCheck
     void action(const QString &place, const ControlAction &action) const
     {
         if (commands != nullptr) {
-            oneOf(place + QStringLiteral(".run"), action.run, *commands);
-            oneOf(place + QStringLiteral(".begin"), action.begin, *commands);
+            commandsOf(place + QStringLiteral(".run"), action.run);
+            commandsOf(place + QStringLiteral(".begin"), action.begin);
         }
         window(place + QStringLiteral(".open"), action.open);
         if (!action.popup.isEmpty() && set.popup(action.popup) == nullptr) {
@@ -60,9 +68,10 @@ struct ReferenceCheck
 
     void control(const ControlDescription &control) const
     {
-        action(control.name + QStringLiteral(".click"), control.click);
-        action(control.name + QStringLiteral(".doubleClick"), control.doubleClick);
-        action(control.name + QStringLiteral(".contextMenu"), control.contextMenu);
+        const auto actions = control.actions();
+        for (const auto &[field, done] : actions) {
+            action(control.name + QLatin1Char('.') + field, done);
+        }
     }
 };
 
@@ -137,8 +146,9 @@ QStringList DescriptionSet::openedFrom(const QString &key) const
     QStringList windows;
     for (const WindowDescription &window : m_windows) {
         const auto opensIt = [this, &key](const ControlDescription &control) {
-            return leadsTo(key, control.click) || leadsTo(key, control.doubleClick) ||
-                   leadsTo(key, control.contextMenu);
+            const auto actions = control.actions();
+            return std::any_of(actions.cbegin(), actions.cend(),
+                               [this, &key](const auto &action) { return leadsTo(key, action.second); });
         };
         if (std::any_of(window.controls.cbegin(), window.controls.cend(), opensIt)) {
             windows += window.kind == WindowDescription::Kind::kPart ? window.owner : window.key;

@@ -195,6 +195,23 @@ std::optional<JsonReader> JsonReader::object(const QString &field)
     return JsonReader({m_from.file, m_from.place + field + QLatin1Char('.'), value.toObject()}, m_errors);
 }
 
+QVector<JsonReader> JsonReader::oneOrMoreObjects(const QString &field)
+{
+    if (!m_from.object.value(field).isObject()) {
+        return objects(field);
+    }
+    return {*object(field)};
+}
+
+QStringList JsonReader::oneOrMoreTexts(const QString &field)
+{
+    const QJsonValue value = m_from.object.value(field);
+    if (has(field) && !value.isArray()) {
+        return {text(field)};
+    }
+    return texts(field);
+}
+
 JsonPlace JsonReader::rest() const
 {
     JsonPlace rest = m_from;

@@ -58,6 +58,13 @@ public:
     QStringList texts(const QString &field);
     std::optional<JsonReader> object(const QString &field);
 
+    /// One or several of them: a list, or the object or text itself; empty when absent.
+    QVector<JsonReader> oneOrMoreObjects(const QString &field);
+    QStringList oneOrMoreTexts(const QString &field);
+
+    /// The value, whatever it is; undefined when absent.
+    QJsonValue value(const QString &field) { return take(field); }
+
     /// The fields that nothing has asked for, to be read by somebody else.
     [[nodiscard]] JsonPlace rest() const;
 

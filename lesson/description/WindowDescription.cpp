@@ -14,17 +14,23 @@ ControlAction readAction(JsonReader &parent, const QString &field)
 {
     ControlAction action;
     if (auto reader = parent.object(field)) {
-        action.run = reader->text(str("run"), QString());
+        action.run = reader->oneOrMoreTexts(str("run"));
         action.close = reader->flag(str("close"));
         action.open = reader->text(str("open"), QString());
-        action.begin = reader->text(str("begin"), QString());
+        action.begin = reader->oneOrMoreTexts(str("begin"));
         action.popup = reader->text(str("popup"), QString());
+        if (reader->has(str("entry"))) {
+            action.entry = reader->value(str("entry"));
+        }
         reader->reportUnknownFields();
         if (action.isEmpty()) {
             parent.addError(field, str("does nothing; give it a run, close, open or popup, or remove it"));
         }
         if (!action.begin.isEmpty() && action.open.isEmpty()) {
             parent.addError(field, str("begins something in no window; give it an open, too"));
+        }
+        if (!action.entry.isUndefined() && action.run.isEmpty() && action.begin.isEmpty()) {
+            parent.addError(field, str("has an entry that nothing adds; give it a run or begin that does"));
         }
     }
     return action;
@@ -83,6 +89,11 @@ ControlDescription readControl(JsonReader &reader)
     control.click = readAction(reader, str("click"));
     control.doubleClick = readAction(reader, str("doubleClick"));
     control.contextMenu = readAction(reader, str("contextMenu"));
+    control.deleteKey = readAction(reader, str("delete"));
+    control.copyKey = readAction(reader, str("copy"));
+    control.pasteKey = readAction(reader, str("paste"));
+    control.shownWhen = ControlRequirement::read(reader, str("shownWhen"));
+    control.enabledWhen = ControlRequirement::read(reader, str("enabledWhen"));
     control.own = reader.rest();
     return control;
 }
@@ -171,6 +182,16 @@ QRect Stretch::apply(const QRect &described, const QSize &growth) const
 bool ControlAction::isEmpty() const
 {
     return run.isEmpty() && !close && open.isEmpty() && popup.isEmpty();
+}
+
+QVector<QPair<QString, ControlAction>> ControlDescription::actions() const
+{
+    return {{str("click"), click},
+            {str("doubleClick"), doubleClick},
+            {str("contextMenu"), contextMenu},
+            {str("delete"), deleteKey},
+            {str("copy"), copyKey},
+            {str("paste"), pasteKey}};
 }
 
 WindowDescription WindowDescription::read(const QString &path, QStringList *errors)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lesson/description/ControlRequirement.h"
 #include "lesson/description/JsonReader.h"
 #include "lesson/description/MenuDescription.h"
 
@@ -10,16 +11,18 @@
 /// What a control does when it is used; carried out in the order of the members, empty ones skipped.
 struct ControlAction
 {
-    /// A command of the editor.
-    QString run;
+    /// Commands of the editor, one after the other: the name of each, with its argument behind a blank.
+    QStringList run;
     /// Closes the window that the control stands in.
     bool close = false;
     /// Key of the window to open.
     QString open;
-    /// A command of the editor, run in the window that was opened.
-    QString begin;
+    /// Commands of the editor, run in the window that was opened.
+    QStringList begin;
     /// Name of the context menu to pop up at the mouse.
     QString popup;
+    /// What a command adds to a list; undefined where nothing is said of it.
+    QJsonValue entry = QJsonValue::Undefined;
 
     [[nodiscard]] bool isEmpty() const;
 };
@@ -55,8 +58,18 @@ struct ControlDescription
     ControlAction click;
     ControlAction doubleClick;
     ControlAction contextMenu;
+    /// What the keys for deleting, copying and pasting do in a list.
+    ControlAction deleteKey;
+    ControlAction copyKey;
+    ControlAction pasteKey;
+    /// The control is there while all of these hold, and of use while all of those do.
+    QVector<ControlRequirement> shownWhen;
+    QVector<ControlRequirement> enabledWhen;
     /// The fields that only controls of its type have; who makes the controls reads them.
     JsonPlace own;
+
+    /// All that it does, by the field that says so.
+    [[nodiscard]] QVector<QPair<QString, ControlAction>> actions() const;
 };
 
 /// A context menu: all of them share one window key.

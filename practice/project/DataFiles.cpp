@@ -1,5 +1,6 @@
 #include "project/DataFiles.h"
 
+#include "project/JsonDelta.h"
 #include "project/JsonText.h"
 #include "project/ProjectFolder.h"
 
@@ -13,8 +14,9 @@ constexpr int kSteps = 1000;
 
 } // namespace
 
-/// One step of the history: the files that it changes, whole, as they are before and after it. What a change
-/// leaves alone is shared with the file itself.
+/// One step of the history: the files that it changes, as they are before and after it. A step that others
+/// may still join has them whole; settle() leaves what differs, so that a thousand strokes on a large map do
+/// not keep a thousand maps.
 class DataStep : public QUndoCommand
 {
 public:
@@ -26,14 +28,39 @@ public:
     {
     }
 
-    [[nodiscard]] QStringList names() const { return m_after.keys(); }
-    [[nodiscard]] const DataRoots &before() const { return m_before; }
+    [[nodiscard]] QStringList names() const { return m_isSettled ? m_deltas.keys() : m_after.keys(); }
+    /// The files as they were, while this is the last step that was done.
+    [[nodiscard]] DataRoots before() const { return m_isSettled ? roots(&JsonDelta::undone) : m_before; }
     /// Unlike that of any other step of this run.
     [[nodiscard]] QString name() const { return QString::number(m_number); }
 
-    void undo() override { m_files->assign(m_before); }
-    void redo() override { m_files->assign(m_after); }
-    [[nodiscard]] int id() const override { return m_mergeKey.isEmpty() ? -1 : 0; }
+    void undo() override { m_files->assign(m_isSettled ? roots(&JsonDelta::undone) : m_before); }
+    void redo() override { m_files->assign(m_isSettled ? roots(&JsonDelta::done) : m_after); }
+    [[nodiscard]] int id() const override { return m_mergeKey.isEmpty() || m_isSettled ? -1 : 0; }
+
+    /// Changes nothing that can be seen, but that no step joins this one any more.
+    void settle() const
+    {
+        if (m_isSettled) {
+            return;
+        }
+        for (auto file = m_after.cbegin(); file != m_after.cend(); ++file) {
+            m_deltas.insert(file.key(), JsonDelta::between(m_before.value(file.key()), file.value()));
+        }
+        m_before.clear();
+        m_after.clear();
+        m_isSettled = true;
+    }
+
+    /// How many values it keeps.
+    [[nodiscard]] int size() const
+    {
+        int size = 0;
+        for (const JsonDelta &delta : m_deltas) {
+            size += delta.size();
+        }
+        return size;
+    }
 
     bool mergeWith(const QUndoCommand *next) override
     {
@@ -48,9 +75,20 @@ public:
     }
 
 private:
+    [[nodiscard]] DataRoots roots(QJsonValue (JsonDelta::*way)(const QJsonValue &) const) const
+    {
+        DataRoots roots;
+        for (auto delta = m_deltas.cbegin(); delta != m_deltas.cend(); ++delta) {
+            roots.insert(delta.key(), (delta.value().*way)(m_files->file(delta.key())));
+        }
+        return roots;
+    }
+
     DataFiles *m_files;
-    DataRoots m_before;
-    DataRoots m_after;
+    mutable DataRoots m_before;
+    mutable DataRoots m_after;
+    mutable QMap<QString, JsonDelta> m_deltas;
+    mutable bool m_isSettled = false;
     QString m_mergeKey;
     int m_number = nextNumber();
 
@@ -125,7 +163,26 @@ void DataFiles::change(const DataRoots &files, const QString &mergeKey)
     }
     if (isOpen() && !after.isEmpty()) {
         m_history.push(new DataStep(this, before, after, mergeKey));
+        if (m_history.index() > 1) {
+            stepAt(m_history.index() - 2)->settle();
+        }
+        // Not before the history has the step: who hears of it asks what can be undone.
+        Q_EMIT changed();
     }
+}
+
+const DataStep *DataFiles::stepAt(int index) const
+{
+    return static_cast<const DataStep *>(m_history.command(index));
+}
+
+int DataFiles::historySize() const
+{
+    int size = 0;
+    for (int index = 0; index < m_history.count(); ++index) {
+        size += stepAt(index)->size();
+    }
+    return size;
 }
 
 QStringList DataFiles::changedFiles() const
@@ -144,9 +201,9 @@ QStringList DataFiles::undo()
     if (!m_history.canUndo()) {
         return {};
     }
-    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
-    QStringList names = step->names();
+    QStringList names = stepAt(m_history.index() - 1)->names();
     m_history.undo();
+    Q_EMIT changed();
     return names;
 }
 
@@ -155,30 +212,31 @@ QStringList DataFiles::redo()
     if (!m_history.canRedo()) {
         return {};
     }
-    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index()));
-    QStringList names = step->names();
+    QStringList names = stepAt(m_history.index())->names();
     m_history.redo();
+    Q_EMIT changed();
     return names;
 }
 
 QString DataFiles::lastStep() const
 {
-    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
+    const DataStep *step = stepAt(m_history.index() - 1);
     return m_opened + (step != nullptr ? step->name() : QString());
 }
 
 DataRoots DataFiles::beforeLastStep() const
 {
-    const auto *step = static_cast<const DataStep *>(m_history.command(m_history.index() - 1));
+    const DataStep *step = stepAt(m_history.index() - 1);
     return step != nullptr ? step->before() : DataRoots();
 }
 
 bool DataFiles::goToStep(const QString &name)
 {
     for (int index = 0; index <= m_history.count(); ++index) {
-        const auto *step = static_cast<const DataStep *>(m_history.command(index - 1));
+        const DataStep *step = stepAt(index - 1);
         if (m_opened + (step != nullptr ? step->name() : QString()) == name) {
             m_history.setIndex(index);
+            Q_EMIT changed();
             return true;
         }
     }
@@ -267,6 +325,7 @@ void DataFiles::take(const QString &folder, const Files &files)
     m_history.clear();
     m_opened = QUuid::createUuid().toString() + QLatin1Char(' ');
     forgetSelections();
+    forgetMarks();
     m_folder = folder;
     m_files = files;
     m_closedFolder.clear();
@@ -280,5 +339,4 @@ void DataFiles::assign(const DataRoots &files)
     for (auto file = files.begin(); file != files.end(); ++file) {
         m_files[file.key()].now = file.value();
     }
-    Q_EMIT changed();
 }

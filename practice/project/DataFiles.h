@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class DataStep;
+
 /// The data files of the open project, the one history of all their changes, and the one way to save them. A
 /// file that was not changed is not written, and one that was keeps every byte that the change leaves alone.
 class DataFiles : public DataLayer
@@ -45,6 +47,8 @@ public:
     QStringList undo();
     QStringList redo();
     [[nodiscard]] const QUndoStack &history() const { return m_history; }
+    /// How many values the history keeps in all steps but the last.
+    [[nodiscard]] int historySize() const;
 
     /// A name for what the data are now: that of the project as it was opened with the last step of its
     /// history, unlike those of all other steps, projects and runs.
@@ -83,7 +87,10 @@ private:
     static std::optional<Files> parsed(const QMap<QString, QByteArray> &texts, const QString &folder,
                                        QString *error);
     void take(const QString &folder, const Files &files);
+    /// Tells nobody.
     void assign(const DataRoots &files);
+    /// nullptr for an index that no step has.
+    [[nodiscard]] const DataStep *stepAt(int index) const;
 
     QString m_folder;
     Files m_files;

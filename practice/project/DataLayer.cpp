@@ -2,11 +2,19 @@
 
 #include "project/JsonPointer.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 namespace {
 
 QString selectedMember()
 {
     return QStringLiteral("selected");
+}
+
+QString marksMember()
+{
+    return QStringLiteral("marks");
 }
 
 } // namespace
@@ -25,7 +33,7 @@ QJsonValue DataLayer::value(const QString &name, const QString &pointer) const
 bool DataLayer::set(const QString &name, const QString &pointer, const QJsonValue &value)
 {
     const QJsonValue old = file(name);
-    const std::optional<QJsonValue> wanted = JsonPointer::with(old, pointer, value);
+    const std::optional<QJsonValue> wanted = JsonPointer::withWay(old, pointer, value);
     if (!wanted || (old.isUndefined() && !pointer.isEmpty())) {
         return false;
     }
@@ -48,13 +56,32 @@ void DataLayer::select(const QString &list, int number)
     Q_EMIT changed();
 }
 
+std::optional<DataPlace> DataLayer::mark(const QString &name) const
+{
+    const auto own = m_marks.constFind(name);
+    if (own != m_marks.constEnd()) {
+        return *own;
+    }
+    return m_below != nullptr ? m_below->mark(name) : std::nullopt;
+}
+
+void DataLayer::setMark(const QString &name, const DataPlace &place)
+{
+    m_marks.insert(name, place);
+    Q_EMIT changed();
+}
+
 QJsonObject DataLayer::saveSelf() const
 {
     QJsonObject selected;
     for (auto list = m_selected.cbegin(); list != m_selected.cend(); ++list) {
         selected.insert(list.key(), list.value());
     }
-    return {{selectedMember(), selected}};
+    QJsonObject marks;
+    for (auto mark = m_marks.cbegin(); mark != m_marks.cend(); ++mark) {
+        marks.insert(mark.key(), QJsonArray{mark->file, mark->pointer});
+    }
+    return {{selectedMember(), selected}, {marksMember(), marks}};
 }
 
 void DataLayer::loadSelf(const QJsonObject &state)
@@ -63,6 +90,12 @@ void DataLayer::loadSelf(const QJsonObject &state)
     m_selected.clear();
     for (auto list = selected.begin(); list != selected.end(); ++list) {
         m_selected.insert(list.key(), list.value().toInt());
+    }
+    const QJsonObject marks = state.value(marksMember()).toObject();
+    m_marks.clear();
+    for (auto mark = marks.begin(); mark != marks.end(); ++mark) {
+        const QJsonArray place = mark.value().toArray();
+        m_marks.insert(mark.key(), {place.at(0).toString(), place.at(1).toString()});
     }
     Q_EMIT changed();
 }

@@ -19,20 +19,23 @@ QString spokenName(const QString &path)
 
 } // namespace
 
-bool DataPath::isPath(const QString &text)
+bool DataPath::isPath(const QString &text, const QStringList &roots)
 {
-    return text.startsWith(QLatin1String("data/"));
+    return text.startsWith(QLatin1String("data/")) || roots.contains(text.section(QLatin1Char('/'), 0, 0));
 }
 
-DataPath::DataPath(const QString &text, const QStringList &lists)
+DataPath::DataPath(const QString &text, const QStringList &lists, const QStringList &roots)
 {
     QStringList words = text.split(QLatin1Char('/'));
     QString wayThere = words.takeFirst();
+    if (roots.contains(wayThere)) {
+        m_root = wayThere;
+    }
     for (const QString &word : qAsConst(words)) {
         addWord(word, lists, wayThere);
         wayThere += QLatin1Char('/') + word;
     }
-    if (m_words.isEmpty()) {
+    if (m_words.isEmpty() && m_root.isEmpty()) {
         m_problem = QStringLiteral("must begin with \"data/\" and the name of a data file");
     }
 }
@@ -47,7 +50,7 @@ void DataPath::addWord(const QString &text, const QStringList &lists, const QStr
             QStringLiteral("\"%1\" is no word of a path; write a name, or a list in braces").arg(text);
     } else if (list.isEmpty() || lists.contains(list)) {
         m_words.append({match.captured(1), list});
-    } else if (!m_words.isEmpty() && list == spokenName(wayThere)) {
+    } else if ((!m_words.isEmpty() || !m_root.isEmpty()) && list == spokenName(wayThere)) {
         m_words.append({match.captured(1), wayThere});
     } else {
         m_problem = QStringLiteral("\"{%1}\" is neither the list before it, \"%2\", nor one of: %3")
@@ -55,9 +58,9 @@ void DataPath::addWord(const QString &text, const QStringList &lists, const QStr
     }
 }
 
-std::optional<DataPath::Place> DataPath::place(const Numbers &numbers) const
+std::optional<DataPlace> DataPath::place(const Numbers &numbers, const DataPlace &base) const
 {
-    Place place;
+    DataPlace place = m_root.isEmpty() ? DataPlace() : base;
     for (const Word &word : m_words) {
         QString text = word.text;
         if (!word.list.isEmpty()) {

@@ -64,6 +64,7 @@ void Draft::clear()
 {
     m_files.clear();
     forgetSelections();
+    forgetMarks();
     Q_EMIT changed();
 }
 

@@ -14,8 +14,8 @@ void Fields::add(const QString &name, Read read, Write write)
 
 QString Fields::problemOf(const QString &name) const
 {
-    if (DataPath::isPath(name)) {
-        return DataPath(name, m_sources->names()).problem();
+    if (!m_fields.contains(name) && m_sources->isPath(name)) {
+        return m_sources->problemOfPath(name);
     }
     return m_fields.contains(name)
                ? QString()
@@ -30,7 +30,7 @@ QVariant Fields::value(const QString &name, const DataLayer &layer) const
     if (field != m_fields.constEnd()) {
         return field->read(layer);
     }
-    const std::optional<DataPath::Place> place = m_sources->place(name, layer);
+    const std::optional<DataPlace> place = m_sources->place(name, layer);
     return place ? layer.value(place->file, place->pointer).toVariant() : QVariant();
 }
 
@@ -39,7 +39,7 @@ void Fields::setValue(const QString &name, const QVariant &value, DataLayer &lay
     const auto field = m_fields.constFind(name);
     if (field != m_fields.constEnd() && field->write) {
         field->write(layer, value);
-    } else if (const std::optional<DataPath::Place> place = m_sources->place(name, layer)) {
+    } else if (const std::optional<DataPlace> place = m_sources->place(name, layer)) {
         layer.set(place->file, place->pointer, QJsonValue::fromVariant(value));
     }
 }

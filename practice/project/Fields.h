@@ -24,6 +24,7 @@ public:
 
     /// Invalid when there is no such thing at present.
     [[nodiscard]] QVariant value(const QString &name, const DataLayer &layer) const;
+    /// Members that are missing on the way of a path are made.
     void setValue(const QString &name, const QVariant &value, DataLayer &layer) const;
 
 private:

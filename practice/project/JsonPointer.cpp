@@ -18,10 +18,45 @@ int indexIn(int size, const QString &word)
     return isNumber && word == QString::number(index) && index >= 0 && index <= size ? index : -1;
 }
 
+const QLatin1String kName("@name");
+const QLatin1String kValue("@value");
+
+/// Whether @p word speaks of the member that is the only one of @p object.
+bool isOfOnlyMember(const QJsonObject &object, const QString &word)
+{
+    return (word == kName || word == kValue) && !object.contains(word);
+}
+
+QJsonValue ofOnlyMember(const QJsonObject &object, const QString &word)
+{
+    if (object.size() != 1) {
+        return QJsonValue(QJsonValue::Undefined);
+    }
+    const auto member = object.begin();
+    return word == kName ? QJsonValue(member.key()) : QJsonValue(member.value());
+}
+
+std::optional<QJsonValue> withOnlyMember(const QJsonObject &object, const QString &word,
+                                         const QJsonValue &value)
+{
+    if (object.size() > 1) {
+        return std::nullopt;
+    }
+    const bool isEmpty = object.isEmpty();
+    if (word == kName && !value.toString().isEmpty()) {
+        return QJsonObject{{value.toString(), isEmpty ? QJsonValue(0) : QJsonValue(object.begin().value())}};
+    }
+    if (word == kValue && !isEmpty && !value.isUndefined()) {
+        return QJsonObject{{object.begin().key(), value}};
+    }
+    return std::nullopt;
+}
+
 QJsonValue child(const QJsonValue &parent, const QString &word)
 {
     if (parent.isObject()) {
-        return parent.toObject().value(word);
+        const QJsonObject object = parent.toObject();
+        return isOfOnlyMember(object, word) ? ofOnlyMember(object, word) : object.value(word);
     }
     const QJsonArray array = parent.toArray();
     const int index = indexIn(int(array.size()), word);
@@ -32,6 +67,9 @@ std::optional<QJsonValue> withChild(const QJsonValue &parent, const QString &wor
 {
     if (parent.isObject()) {
         QJsonObject object = parent.toObject();
+        if (isOfOnlyMember(object, word)) {
+            return withOnlyMember(object, word, value);
+        }
         if (value.isUndefined()) {
             object.remove(word);
         } else {
@@ -55,19 +93,24 @@ std::optional<QJsonValue> withChild(const QJsonValue &parent, const QString &wor
     return array;
 }
 
+enum class Way { kAsItIs, kMade };
+
 std::optional<QJsonValue> withAt(const QJsonValue &root, const QStringList &words, int depth,
-                                 const QJsonValue &value)
+                                 const QJsonValue &value, Way way)
 {
     if (depth == words.size()) {
         return value;
     }
     const QString &word = words.at(depth);
     const bool isLast = depth + 1 == words.size();
-    const QJsonValue old = child(root, word);
+    QJsonValue old = child(root, word);
+    if (!isLast && way == Way::kMade && root.isObject() && (old.isUndefined() || old.isNull())) {
+        old = QJsonObject();
+    }
     if (!isLast && old.isUndefined()) {
         return std::nullopt;
     }
-    const std::optional<QJsonValue> changed = withAt(old, words, depth + 1, value);
+    const std::optional<QJsonValue> changed = withAt(old, words, depth + 1, value, way);
     return changed ? withChild(root, word, *changed) : std::nullopt;
 }
 
@@ -120,7 +163,13 @@ QJsonValue value(const QJsonValue &root, const QString &pointer)
 std::optional<QJsonValue> with(const QJsonValue &root, const QString &pointer, const QJsonValue &value)
 {
     const std::optional<QStringList> way = words(pointer);
-    return way ? withAt(root, *way, 0, value) : std::nullopt;
+    return way ? withAt(root, *way, 0, value, Way::kAsItIs) : std::nullopt;
+}
+
+std::optional<QJsonValue> withWay(const QJsonValue &root, const QString &pointer, const QJsonValue &value)
+{
+    const std::optional<QStringList> way = words(pointer);
+    return way ? withAt(root, *way, 0, value, Way::kMade) : std::nullopt;
 }
 
 } // namespace JsonPointer

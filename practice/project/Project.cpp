@@ -16,10 +16,12 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     , m_board(&m_files, &m_sources, &m_tools)
     , m_maps(&m_start, &m_sources)
     , m_newProject(m_start.texts.value(QStringLiteral("projectName")), location)
+    , m_lists(&m_sources)
 {
     m_tools.addTo(m_commands, m_sources);
     m_maps.addTo(m_commands, m_fields, m_sources);
     m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
+    m_lists.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
     m_tools.addTo(m_states);
     m_newProject.addTo(m_states);
@@ -38,8 +40,16 @@ void Project::addOwnWords()
     m_commands.add(QStringLiteral("newProject.create"), [this] { create(); });
     m_commands.add(QStringLiteral("project.open"), [this](DataLayer &layer) { openChosen(layer); });
     m_commands.add(QStringLiteral("project.save"), [this] { save(); });
-    m_commands.add(QStringLiteral("edit.undo"), [this] { showMapOf(m_files.undo()); });
-    m_commands.add(QStringLiteral("edit.redo"), [this] { showMapOf(m_files.redo()); });
+    m_commands.add(
+        QStringLiteral("edit.undo"), [this] { showMapOf(m_files.undo()); }, {},
+        [this](const DataLayer & /*layer*/, const QString & /*argument*/) {
+            return m_files.history().canUndo();
+        });
+    m_commands.add(
+        QStringLiteral("edit.redo"), [this] { showMapOf(m_files.redo()); }, {},
+        [this](const DataLayer & /*layer*/, const QString & /*argument*/) {
+            return m_files.history().canRedo();
+        });
     m_commands.add(QStringLiteral("draft.accept"), [](DataLayer &layer) { layer.accept(); });
 }
 
@@ -48,9 +58,9 @@ QString Project::name() const
     return isOpen() ? QDir(m_files.folder()).dirName() : QString();
 }
 
-void Project::run(const QString &command, DataLayer &layer)
+void Project::run(const QString &command, DataLayer &layer, const QJsonValue &entry)
 {
-    m_commands.run(command, layer);
+    m_commands.run(command, layer, entry);
     Q_EMIT changed();
 }
 
@@ -58,6 +68,13 @@ bool Project::losesChanges(const QString &command) const
 {
     return isModified() &&
            (command == QLatin1String("newProject.accept") || command == QLatin1String("project.open"));
+}
+
+QString Project::problemOf(const QString &command) const
+{
+    const QString problem = m_commands.problemOf(command);
+    const QString argument = Commands::argumentOf(command);
+    return problem.isEmpty() && m_sources.isPath(argument) ? m_sources.problemOfPath(argument) : problem;
 }
 
 void Project::create()

@@ -5,6 +5,7 @@
 #include "project/Drafts.h"
 #include "project/EditorTools.h"
 #include "project/Fields.h"
+#include "project/ListCommands.h"
 #include "project/MapBoard.h"
 #include "project/Maps.h"
 #include "project/NewProject.h"
@@ -43,9 +44,15 @@ public:
     /// Whether the command would drop changes that are not saved.
     [[nodiscard]] bool losesChanges(const QString &command) const;
 
-    /// Runs a command for a window that stands in @p layer. Does nothing where it makes no sense, such as
-    /// undo with nothing to undo.
-    void run(const QString &command, DataLayer &layer);
+    /// Runs a command, with its argument, for a window that stands in @p layer; @p entry is what it adds to a
+    /// list. Does nothing where it makes no sense, such as undo with nothing to undo.
+    void run(const QString &command, DataLayer &layer,
+             const QJsonValue &entry = QJsonValue(QJsonValue::Undefined));
+    /// What is wrong with a command or its argument, and how to mend it; empty when nothing is.
+    [[nodiscard]] QString problemOf(const QString &command) const;
+
+    /// Adds the list of a row of tabs that a description calls @p name.
+    void addTabs(const QString &name, int count) { m_sources.addTabs(name, count); }
 
     /// Offers @p folder as the place of projects.
     void setProjectsFolder(const QString &folder);
@@ -88,4 +95,5 @@ private:
     Maps m_maps;
     NewProject m_newProject;
     StateParts m_states;
+    ListCommands m_lists;
 };

@@ -18,6 +18,9 @@ QVector<Row> rowsOf(const QJsonArray &list)
     QVector<Row> rows;
     for (int number = firstNumber(list); number < list.size(); ++number) {
         const QJsonValue entry = list.at(number);
+        if (entry.isNull()) {
+            continue;
+        }
         const QString name = entry.toObject().value(QLatin1String("name")).toString();
         rows.append({entry.isString() ? entry.toString() : name, number});
     }
@@ -36,10 +39,39 @@ void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent
     m_sources.insert(name, {std::move(rows), std::move(current), std::move(setCurrent)});
 }
 
+void RowSources::addTabs(const QString &name, int count)
+{
+    if (m_sources.contains(name)) {
+        return;
+    }
+    add(name, [count](const DataLayer & /*layer*/) {
+        QVector<Row> rows;
+        for (int tab = 0; tab < count; ++tab) {
+            rows.append({QString(), tab});
+        }
+        return rows;
+    });
+}
+
+void RowSources::addRoot(const QString &name, Root root)
+{
+    m_roots.insert(name, std::move(root));
+}
+
+bool RowSources::isPath(const QString &text) const
+{
+    return !m_sources.contains(text) && DataPath::isPath(text, m_roots.keys());
+}
+
+QString RowSources::problemOfPath(const QString &path) const
+{
+    return DataPath(path, names(), m_roots.keys()).problem();
+}
+
 QString RowSources::problemOf(const QString &name) const
 {
-    if (DataPath::isPath(name)) {
-        return DataPath(name, names()).problem();
+    if (isPath(name)) {
+        return problemOfPath(name);
     }
     return m_sources.contains(name)
                ? QString()
@@ -54,7 +86,7 @@ QVector<Row> RowSources::rows(const QString &name, const DataLayer &layer) const
     if (source != m_sources.constEnd()) {
         return source->rows(layer);
     }
-    const std::optional<DataPath::Place> list = place(name, layer);
+    const std::optional<DataPlace> list = place(name, layer);
     return list ? rowsOf(layer.value(list->file, list->pointer).toArray()) : QVector<Row>();
 }
 
@@ -98,10 +130,23 @@ int RowSources::number(const QString &name, const DataLayer &layer) const
     return row >= 0 && row < all.size() ? all.at(row).number : -1;
 }
 
-std::optional<DataPath::Place> RowSources::place(const QString &path, const DataLayer &layer) const
+std::optional<DataPlace> RowSources::place(const QString &path, const DataLayer &layer) const
 {
-    if (!DataPath::isPath(path)) {
+    if (!isPath(path)) {
         return std::nullopt;
     }
-    return DataPath(path, names()).place([this, &layer](const QString &list) { return number(list, layer); });
+    const DataPath way(path, names(), m_roots.keys());
+    const std::optional<DataPlace> base =
+        way.root().isEmpty() ? DataPlace() : m_roots.value(way.root())(layer);
+    if (!base) {
+        return std::nullopt;
+    }
+    return way.place([this, &layer](const QString &list) { return number(list, layer); }, *base);
+}
+
+QJsonValue RowSources::entry(const QString &path, int number, const DataLayer &layer) const
+{
+    const std::optional<DataPlace> list = place(path, layer);
+    return list ? layer.value(list->file, QStringLiteral("%1/%2").arg(list->pointer, QString::number(number)))
+                : QJsonValue(QJsonValue::Undefined);
 }

@@ -15,26 +15,41 @@ struct Row
     int level = 0;
     /// Number of the tile to draw before the text; -1 for none.
     int tile = -1;
+    /// What a field gets when the row is chosen for it; undefined for the number.
+    QJsonValue value = QJsonValue::Undefined;
+
+    [[nodiscard]] QJsonValue chosen() const { return value.isUndefined() ? QJsonValue(number) : value; }
 
     bool operator==(const Row &other) const
     {
-        return text == other.text && number == other.number && level == other.level && tile == other.tile;
+        return text == other.text && number == other.number && level == other.level && tile == other.tile &&
+               value == other.value;
     }
 };
 
 /// Where lists get their rows from, by name. A list in a data file needs no entry here: its path, such as
-/// "data/Items", is its name, and its rows are the names of its entries.
+/// "data/Items", is its name, and its rows are the names of its entries; those that are null have none.
 class RowSources
 {
 public:
     using Rows = std::function<QVector<Row>(const DataLayer &)>;
     using Current = std::function<int()>;
     using SetCurrent = std::function<void(int row)>;
+    using Root = std::function<std::optional<DataPlace>(const DataLayer &)>;
 
     /// Which row is the current one is kept in the layer.
     void add(const QString &name, Rows rows);
     /// Which row is the current one is kept elsewhere: @p current gives it, -1 for none.
     void add(const QString &name, Rows rows, Current current, SetCurrent setCurrent);
+    /// A list that is @p count tabs, of which the layer keeps the current one. A name that is there stays
+    /// what it is.
+    void addTabs(const QString &name, int count);
+
+    /// Lets paths begin with @p name: @p root gives the place that it stands for at present, nothing for
+    /// none.
+    void addRoot(const QString &name, Root root);
+    /// Whether @p text is a path: it begins with "data/" or with a root, and no list has it as its name.
+    [[nodiscard]] bool isPath(const QString &text) const;
 
     [[nodiscard]] QStringList names() const { return m_sources.keys(); }
     /// What is wrong with the name and how to mend it; empty when nothing is.
@@ -49,7 +64,13 @@ public:
     [[nodiscard]] int number(const QString &name, const DataLayer &layer) const;
 
     /// The place that a path means at present in @p layer; nothing when it means none.
-    [[nodiscard]] std::optional<DataPath::Place> place(const QString &path, const DataLayer &layer) const;
+    [[nodiscard]] std::optional<DataPlace> place(const QString &path, const DataLayer &layer) const;
+    /// What is wrong with the path and how to mend it; empty when nothing is.
+    [[nodiscard]] QString problemOfPath(const QString &path) const;
+
+    /// The entry with this number in the list that a path leads to; undefined when there is none, and for the
+    /// editor's own lists.
+    [[nodiscard]] QJsonValue entry(const QString &path, int number, const DataLayer &layer) const;
 
 private:
     struct Source
@@ -60,4 +81,5 @@ private:
     };
 
     QMap<QString, Source> m_sources;
+    QMap<QString, Root> m_roots;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lesson/description/JsonReader.h"
+#include "project/ChoiceSets.h"
 #include "project/GameMap.h"
 
 #include <QColor>
@@ -40,6 +41,8 @@ struct StartData
     /// Data files that are the same in each new project, by name.
     QMap<QString, QString> startFiles;
     QMap<QString, QString> texts;
+    /// Read by ChoiceSets::read().
+    ChoiceSets choices;
 
     /// Texts of the data files that a new project has, by name, such as "data/Items.json".
     [[nodiscard]] QMap<QString, QString> files() const;

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace {
 
 /// Sizes in the descriptions are made for this font, whatever the desktop's own is.
@@ -99,34 +101,41 @@ void EditorWindow::setCurrentRow(const QString &source, int row)
     }
 }
 
-void EditorWindow::run(const QString &command)
+void EditorWindow::run(const QString &command, const QJsonValue &entry)
 {
     if (!command.isEmpty()) {
-        m_project->run(command, *m_layer);
+        m_project->run(command, *m_layer, entry);
     }
 }
 
-void EditorWindow::report(const QString &type, const QString &target, const QString &value)
+void EditorWindow::report(const QString &type, const QString &target, const QString &value,
+                          const ControlSpot &cause)
 {
-    Q_EMIT happened(type, target, value);
+    Q_EMIT happened(type, target, value, cause);
 }
 
-void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition)
+void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause)
 {
     if (action.isEmpty()) {
         return;
     }
-    if (m_project->losesChanges(action.run)) {
-        Q_EMIT leaveAsked(action, screenPosition);
+    const auto loses = [this](const QString &command) {
+        return m_project->losesChanges(command);
+    };
+    if (std::any_of(action.run.cbegin(), action.run.cend(), loses)) {
+        Q_EMIT leaveAsked(action, screenPosition, cause);
         return;
     }
-    carryOut(action, screenPosition);
+    carryOut(action, screenPosition, cause);
 }
 
-void EditorWindow::carryOut(const ControlAction &action, const QPoint &screenPosition)
+void EditorWindow::carryOut(const ControlAction &action, const QPoint &screenPosition,
+                            const ControlSpot &cause)
 {
-    run(action.run);
-    Q_EMIT asked(action, screenPosition);
+    for (const QString &command : action.run) {
+        run(command, action.entry);
+    }
+    Q_EMIT asked(action, screenPosition, cause);
 }
 
 void EditorWindow::setDefaultButton(QPushButton *button)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lesson/EditorEvent.h"
 #include "lesson/description/WindowDescription.h"
 #include "project/Project.h"
 
@@ -45,13 +46,20 @@ public:
     [[nodiscard]] QVector<Row> rows(const QString &source) const;
     [[nodiscard]] int currentRow(const QString &source) const;
     void setCurrentRow(const QString &source, int row);
-    void run(const QString &command);
+    /// @p command may have an argument; @p entry is what it adds to a list.
+    void run(const QString &command, const QJsonValue &entry = QJsonValue(QJsonValue::Undefined));
 
+    /// A control of this window, or a row, tab or cell in it, as the cause of what it does.
+    [[nodiscard]] ControlSpot spot(const QString &control, int part = -1) const
+    {
+        return {key(), control, part};
+    }
     /// Passes on what a control did: called by the controls. @p screenPosition is where the mouse was.
-    void report(const QString &type, const QString &target, const QString &value);
-    void act(const ControlAction &action, const QPoint &screenPosition);
+    void report(const QString &type, const QString &target, const QString &value,
+                const ControlSpot &cause = {});
+    void act(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause = {});
     /// What act() does once nothing is lost by it.
-    void carryOut(const ControlAction &action, const QPoint &screenPosition);
+    void carryOut(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause);
 
     /// The button that the return key presses.
     void setDefaultButton(QPushButton *button);
@@ -71,12 +79,12 @@ Q_SIGNALS:
     /// The controls have followed the window to another size.
     void laidOut();
     /// Something that a condition may wait for, in its words.
-    void happened(const QString &type, const QString &target, const QString &value);
-    /// A control was used that closes or opens something; its command has run already.
-    void asked(const ControlAction &action, const QPoint &screenPosition);
+    void happened(const QString &type, const QString &target, const QString &value, const ControlSpot &cause);
+    /// A control was used that closes or opens something; its commands have run already.
+    void asked(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause);
     /// A control was used that would drop what was not saved. Nothing has happened so far: carryOut() does
     /// it.
-    void leaveAsked(const ControlAction &action, const QPoint &screenPosition);
+    void leaveAsked(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause);
     /// The frame's close button or the escape key was used. The window is still open.
     void closeRequested();
 

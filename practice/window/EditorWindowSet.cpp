@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -69,29 +70,31 @@ void EditorWindowSet::wireEditor()
 void EditorWindowSet::wire(EditorWindow *window)
 {
     connect(window, &EditorWindow::happened, this,
-            [this, window](const QString &type, const QString &target, const QString &value) {
+            [this, window](const QString &type, const QString &target, const QString &value,
+                           const ControlSpot &cause) {
                 const QString key = m_ground.descriptions.contains(window->key())
                                         ? window->key()
                                         : m_ground.descriptions.popupKey();
-                Q_EMIT happened({type, target, value, key});
+                Q_EMIT happened({type, target, value, key, toldSpot(cause)});
             });
     connect(window, &EditorWindow::asked, this,
-            [this, window](const ControlAction &action, const QPoint &position) {
-                onAsked(window, action, position);
+            [this, window](const ControlAction &action, const QPoint &position, const ControlSpot &cause) {
+                onAsked(window, action, position, cause);
             });
     connect(window, &EditorWindow::leaveAsked, this,
-            [this, window](const ControlAction &action, const QPoint &position) {
-                askToLeave(window, [window, action, position] { window->carryOut(action, position); });
+            [this, window](const ControlAction &action, const QPoint &position, const ControlSpot &cause) {
+                askToLeave(window,
+                           [window, action, position, cause] { window->carryOut(action, position, cause); });
             });
     connect(window, &EditorWindow::closeRequested, this, [this, window] { onCloseRequested(window->key()); });
 }
 
 bool EditorWindowSet::open(const QString &windowKey)
 {
-    return openWith(windowKey, QString());
+    return openWith(windowKey, {});
 }
 
-bool EditorWindowSet::openWith(const QString &windowKey, const QString &begin)
+bool EditorWindowSet::openWith(const QString &windowKey, const ControlAction &action)
 {
     if (!m_ground.descriptions.contains(windowKey)) {
         return false;
@@ -113,7 +116,9 @@ bool EditorWindowSet::openWith(const QString &windowKey, const QString &begin)
     m_places.place(window);
     window->setLayer(description.isDraft ? m_ground.project->drafts().begin()
                                          : m_ground.project->drafts().top());
-    window->run(begin);
+    for (const QString &command : action.begin) {
+        window->run(command, action.entry);
+    }
     window->window()->show();
     window->activateWindow();
     window->focusFirst();
@@ -186,14 +191,24 @@ EditorWindow *EditorWindowSet::window(const QString &keyOrPopup) const
     return m_windows.value(keyOrPopup);
 }
 
-void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position)
+ControlSpot EditorWindowSet::toldSpot(const ControlSpot &spot) const
 {
+    if (spot.windowKey.isEmpty() || m_ground.descriptions.contains(spot.windowKey)) {
+        return spot;
+    }
+    return {m_ground.descriptions.popupKey(), spot.windowKey + QLatin1Char('/') + spot.control, spot.part};
+}
+
+void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position,
+                              const ControlSpot &cause)
+{
+    const QScopedValueRollback<ControlSpot> now(m_cause, toldSpot(cause));
     m_popup.close();
     if (action.close) {
         close(window->key());
     }
     if (!action.open.isEmpty()) {
-        openWith(action.open, action.begin);
+        openWith(action.open, action);
     }
     if (!action.popup.isEmpty()) {
         showPopup(action.popup, position);
@@ -207,10 +222,12 @@ void EditorWindowSet::onCloseRequested(const QString &key)
         return;
     }
     if (key != WindowBuilder::mainKey()) {
+        const QScopedValueRollback<ControlSpot> now(m_cause, {key, ControlSpot::dismiss()});
         close(key);
         return;
     }
     askToLeave(window, [this, key] {
+        const QScopedValueRollback<ControlSpot> now(m_cause, {key, ControlSpot::dismiss()});
         close(key);
         Q_EMIT mainWindowClosed();
     });
@@ -238,7 +255,7 @@ void EditorWindowSet::showPopup(const QString &name, const QPoint &position)
     m_popup.open(popup, m_places.popupCorner(position, popup->size()));
     Q_EMIT pushed(OpenPopup::stackEntry());
     m_places.tellPopup();
-    Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_ground.descriptions.popupKey()});
+    Q_EMIT happened({QStringLiteral("popup"), name, QString(), m_ground.descriptions.popupKey(), m_cause});
 }
 
 void EditorWindowSet::updateVisible()
@@ -261,7 +278,7 @@ void EditorWindowSet::updateTitle()
 
 void EditorWindowSet::tellState(const QString &key, const char *state)
 {
-    Q_EMIT happened({QStringLiteral("windowState"), key, QString::fromLatin1(state), key});
+    Q_EMIT happened({QStringLiteral("windowState"), key, QString::fromLatin1(state), key, m_cause});
 }
 
 bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)

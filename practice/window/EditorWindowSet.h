@@ -62,13 +62,16 @@ private:
 
     void wire(EditorWindow *window);
     void wireEditor();
-    /// Opens the window, in which the command @p begin is run.
-    bool openWith(const QString &windowKey, const QString &begin);
+    /// Opens the window, in which what @p action begins is run.
+    bool openWith(const QString &windowKey, const ControlAction &action);
     void closeTop();
     void showPopup(const QString &name, const QPoint &position);
     void updateVisible();
     void updateTitle();
-    void onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position);
+    void onAsked(EditorWindow *window, const ControlAction &action, const QPoint &position,
+                 const ControlSpot &cause);
+    /// As a lesson knows it: the entries of all context menus stand in one window.
+    [[nodiscard]] ControlSpot toldSpot(const ControlSpot &spot) const;
     void onCloseRequested(const QString &key);
     /// Goes on with @p leave when nothing is lost by it, or the person wants it so; asks above @p window.
     void askToLeave(EditorWindow *window, const std::function<void()> &leave);
@@ -86,6 +89,8 @@ private:
     OpenPopup m_popup;
     WindowPlaces m_places;
     LeaveQuestion m_question;
+    /// Through which control windows open and close just now.
+    ControlSpot m_cause;
     bool m_isUnattended = false;
     bool m_visible = false;
 };

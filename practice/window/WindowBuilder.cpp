@@ -4,6 +4,7 @@
 #include "window/MainMenu.h"
 #include "window/Mnemonics.h"
 #include "window/control/ControlTypes.h"
+#include "window/control/TabsControl.h"
 
 #include <QAbstractButton>
 
@@ -24,6 +25,9 @@ WindowBuilder::WindowBuilder(const DescriptionSet &descriptions, const ControlCo
     , m_context(context)
 {
     const QStringList keys = descriptions.keys();
+    for (const QString &key : keys) {
+        declareTabs(descriptions[key].controls, context.project);
+    }
     for (const QString &key : keys) {
         read(key, descriptions[key].controls, errors);
         for (const PopupDescription &popup : descriptions[key].popups) {

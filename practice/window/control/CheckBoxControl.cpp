@@ -11,7 +11,8 @@ ControlMaker readCheckBox(ControlReader &reader)
         keepFresh(box, window, [box, window, field] { box->setChecked(window->field(field).toBool()); });
         QObject::connect(box, &QCheckBox::clicked, window, [window, field, name](bool checked) {
             window->setField(field, checked);
-            window->report(QStringLiteral("checked"), name, QString::number(checked ? 1 : 0));
+            window->report(QStringLiteral("checked"), name, QString::number(checked ? 1 : 0),
+                           window->spot(name));
         });
         return box;
     };

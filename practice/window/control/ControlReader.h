@@ -4,9 +4,12 @@
 #include "window/EditorWindow.h"
 
 #include <functional>
+#include <memory>
+#include <utility>
 
 class MapPainter;
 class QAbstractButton;
+class RowText;
 
 /// What the controls of all windows share; the pointers outlive the windows.
 struct ControlContext
@@ -18,6 +21,9 @@ struct ControlContext
 
 /// Makes the control that a description has told of, as a child of the window. The window owns it.
 using ControlMaker = std::function<QWidget *(EditorWindow *window)>;
+
+/// What there is to choose from at present.
+using Rows = std::function<QVector<Row>(const EditorWindow *window)>;
 
 /// Reads what a description says of one control. Each thing that is wrong is one line in the list of errors,
 /// with file, place and mend.
@@ -39,22 +45,40 @@ public:
     [[nodiscard]] int rowHeight();
     [[nodiscard]] int tabWidth();
     void readAction();
+    /// What there is to choose from: "choices", or a "source" with the text of its rows in "rowText" and,
+    /// where
+    /// @p hasNone, a first row for the number 0 in "none".
+    [[nodiscard]] Rows rows(bool hasNone);
+    [[nodiscard]] bool hasChoices() const { return has(QStringLiteral("choices")); }
 
     [[nodiscard]] bool has(const QString &field) const { return m_json.has(field); }
 
     /// Adds an error when @p value, which stands in @p field, is none of @p allowed.
     void oneOf(const QString &field, const QString &value, const QStringList &allowed);
 
-    /// Adds an error for each field that no control of this type has.
+    /// The control is grey where @p isOfUse says so, whatever else its description has about that.
+    void enableWhen(std::function<bool(const EditorWindow *window)> isOfUse)
+    {
+        m_isOfUse = std::move(isOfUse);
+    }
+    [[nodiscard]] const std::function<bool(const EditorWindow *window)> &isOfUse() const { return m_isOfUse; }
+
+    /// Adds an error for each field that no control of this type has, and for what it does or requires with
+    /// names that the editor does not know.
     void finish();
 
 private:
     void require(const QString &field, bool isThere);
+    [[nodiscard]] Rows choices();
+    [[nodiscard]] std::shared_ptr<const RowText> rowText();
+    void checkCommands();
+    void checkRequirements();
 
     const ControlDescription *m_description;
     const ControlContext *m_context;
     JsonReader m_json;
     QStringList m_taken;
+    std::function<bool(const EditorWindow *window)> m_isOfUse;
 };
 
 /// Runs @p refresh now and whenever the window is to show what there is, as long as @p widget lives.
@@ -64,6 +88,12 @@ void keepFresh(QWidget *widget, EditorWindow *window, Refresh refresh)
     QObject::connect(window, &EditorWindow::refreshed, widget, refresh);
     refresh();
 }
+
+/// The value of a field as it would stand in a data file; undefined where there is none.
+[[nodiscard]] QJsonValue fieldValue(const EditorWindow *window, const QString &field);
+
+/// The first of @p rows that is chosen when @p value stands in a field; -1 for none.
+[[nodiscard]] int rowWith(const QVector<Row> &rows, const QJsonValue &value);
 
 /// Carries out what a click on the button does and reports the action, if it is one.
 void wireClick(QAbstractButton *button, const ControlDescription &description, EditorWindow *window);

@@ -2,6 +2,9 @@
 
 #include "window/control/ButtonControl.h"
 #include "window/control/CheckBoxControl.h"
+#include "window/control/ComboBoxControl.h"
+#include "window/control/ControlState.h"
+#include "window/control/CurveControl.h"
 #include "window/control/EntryControl.h"
 #include "window/control/LabelControl.h"
 #include "window/control/LineEditControl.h"
@@ -9,8 +12,10 @@
 #include "window/control/MapControl.h"
 #include "window/control/PictureControl.h"
 #include "window/control/ProgressControl.h"
+#include "window/control/RadioButtonControl.h"
 #include "window/control/SpinBoxControl.h"
 #include "window/control/TabsControl.h"
+#include "window/control/TextEditControl.h"
 #include "window/control/ToolButtonControl.h"
 
 #include <QMap>
@@ -23,11 +28,13 @@ const QMap<QString, Read> &readers()
 {
     static const QMap<QString, Read> readers{
         {QStringLiteral("button"), readButton},     {QStringLiteral("checkBox"), readCheckBox},
+        {QStringLiteral("comboBox"), readComboBox}, {QStringLiteral("curve"), readCurve},
         {QStringLiteral("entry"), readEntry},       {QStringLiteral("label"), readLabel},
         {QStringLiteral("lineEdit"), readLineEdit}, {QStringLiteral("list"), readList},
         {QStringLiteral("map"), readMap},           {QStringLiteral("picture"), readPicture},
-        {QStringLiteral("progress"), readProgress}, {QStringLiteral("spinBox"), readSpinBox},
-        {QStringLiteral("tabs"), readTabs},         {QStringLiteral("toolButton"), readToolButton},
+        {QStringLiteral("progress"), readProgress}, {QStringLiteral("radioButton"), readRadioButton},
+        {QStringLiteral("spinBox"), readSpinBox},   {QStringLiteral("tabs"), readTabs},
+        {QStringLiteral("textEdit"), readTextEdit}, {QStringLiteral("toolButton"), readToolButton},
     };
     return readers;
 }
@@ -48,7 +55,7 @@ ControlMaker readControl(const ControlDescription &description, const ControlCon
         reader.oneOf(QStringLiteral("type"), description.type, controlTypes());
         return {};
     }
-    ControlMaker maker = (*read)(reader);
+    const ControlMaker maker = (*read)(reader);
     reader.finish();
-    return maker;
+    return withState(maker, reader);
 }

@@ -4,7 +4,7 @@
 
 ControlMaker readLineEdit(ControlReader &reader)
 {
-    return [field = reader.field()](EditorWindow *window) {
+    return [field = reader.field(), name = reader.description().name](EditorWindow *window) {
         auto *edit = new QLineEdit(window);
         keepFresh(edit, window, [edit, window, field] {
             // The cursor stays where it is while the text does.
@@ -13,8 +13,11 @@ ControlMaker readLineEdit(ControlReader &reader)
                 edit->setText(text);
             }
         });
-        QObject::connect(edit, &QLineEdit::textEdited, window,
-                         [window, field](const QString &text) { window->setField(field, text); });
+        QObject::connect(edit, &QLineEdit::textEdited, window, [window, field, name](const QString &text) {
+            window->setField(field, text);
+            window->report(QStringLiteral("textLength"), name, QString::number(text.size()),
+                           window->spot(name));
+        });
         return edit;
     };
 }

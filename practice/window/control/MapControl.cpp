@@ -10,7 +10,7 @@ ControlMaker readMap(ControlReader &reader)
     const QString target = reader.json().text(QStringLiteral("target"));
     MapPainter *painter = reader.context().painter;
     const ControlAction contextMenu = reader.description().contextMenu;
-    return [target, painter, contextMenu](EditorWindow *window) {
+    return [target, painter, contextMenu, name = reader.description().name](EditorWindow *window) {
         auto *area = new QScrollArea(window);
         area->setFrameShape(QFrame::NoFrame);
         area->setBackgroundRole(QPalette::Dark);
@@ -19,16 +19,18 @@ ControlMaker readMap(ControlReader &reader)
         area->setFocusPolicy(Qt::NoFocus); // the map itself has the keys
         new MapKeys(view);
         keepFresh(view, window, [view] { view->refresh(); });
-        QObject::connect(view, &MapView::pressed, window, [window] {
-            window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"));
+        QObject::connect(view, &MapView::pressed, window, [window, name] {
+            window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"),
+                           window->spot(name));
         });
-        QObject::connect(view, &MapView::clicked, window, [window, target] {
-            window->report(QStringLiteral("mouseEvent"), target, QStringLiteral("click"));
+        QObject::connect(view, &MapView::clicked, window, [window, target, name] {
+            window->report(QStringLiteral("mouseEvent"), target, QStringLiteral("click"), window->spot(name));
         });
         QObject::connect(view, &MapView::menuRequested, window,
-                         [window, target, contextMenu](const QPoint &at) {
-                             window->report(QStringLiteral("menuEvent"), target, QStringLiteral("click"));
-                             window->act(contextMenu, at);
+                         [window, target, contextMenu, name](const QPoint &at) {
+                             window->report(QStringLiteral("menuEvent"), target, QStringLiteral("click"),
+                                            window->spot(name));
+                             window->act(contextMenu, at, window->spot(name));
                          });
         return area;
     };

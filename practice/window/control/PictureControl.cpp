@@ -1,29 +1,48 @@
 #include "window/control/PictureControl.h"
 
 #include "window/MapPainter.h"
+#include "window/Pictures.h"
 #include "window/control/PictureBox.h"
 
 #include <QMap>
 
 namespace {
 
-/// Draws what has this number into a picture of this size, in pixels.
-using Draw = QPixmap (*)(const ControlContext &context, int number, const QSize &size);
+/// Draws what @p value says into a picture of this size, in pixels.
+using Draw = std::function<QPixmap(const ControlContext &context, const QVariant &value, const QSize &size)>;
 
-QPixmap tileSet(const ControlContext &context, int number, const QSize &size)
+QPixmap tileSet(const ControlContext &context, const QVariant &value, const QSize &size)
 {
-    return context.painter->tileSetPicture(qMax(0, number - 1), size);
+    return context.painter->tileSetPicture(qMax(0, value.toInt() - 1), size);
 }
 
-QPixmap sampleMap(const ControlContext &context, int number, const QSize &size)
+QPixmap sampleMap(const ControlContext &context, const QVariant &value, const QSize &size)
 {
-    return context.painter->mapPicture(context.project->start().sampleMaps.value(number), size);
+    return context.painter->mapPicture(context.project->start().sampleMaps.value(value.toInt()), size);
+}
+
+/// The drawing with this name in a folder of pictures; nothing for a name that has none.
+Draw ofFolder(const QString &folder)
+{
+    return [folder](const ControlContext & /*context*/, const QVariant &value, const QSize &size) {
+        const QPixmap picture =
+            value.toString().isEmpty() ? QPixmap() : Pictures::load(folder, value.toString());
+        return picture.isNull() ? picture
+                                : picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    };
 }
 
 const QMap<QString, Draw> &drawings()
 {
-    static const QMap<QString, Draw> drawings{{QStringLiteral("tileSet"), tileSet},
-                                              {QStringLiteral("sampleMap"), sampleMap}};
+    static const QMap<QString, Draw> drawings{
+        {QStringLiteral("tileSet"), tileSet},
+        {QStringLiteral("sampleMap"), sampleMap},
+        {QStringLiteral("backdrop"), ofFolder(QStringLiteral("backdrop"))},
+        {QStringLiteral("character"), ofFolder(QStringLiteral("character"))},
+        {QStringLiteral("enemy"), ofFolder(QStringLiteral("enemy"))},
+        {QStringLiteral("face"), ofFolder(QStringLiteral("face"))},
+        {QStringLiteral("title"), ofFolder(QStringLiteral("title"))},
+    };
     return drawings;
 }
 
@@ -39,11 +58,17 @@ ControlMaker readPicture(ControlReader &reader)
             description = reader.description()](EditorWindow *window) {
         auto *box = new PictureBox(
             [picture, hasField, name, context, window](const QSize &size) {
-                const int number = hasField ? window->field(name).toInt()
-                                            : context.project->sources().number(name, window->layer());
-                return drawings().value(picture)(context, number, size);
+                if (hasField) {
+                    return drawings().value(picture)(context, window->field(name), size);
+                }
+                const Row row = window->rows(name).value(window->currentRow(name), {QString(), -1});
+                return drawings().value(picture)(context, row.chosen().toVariant(), size);
             },
             window);
+        // A picture that nothing comes of is no stop of the tabulator key.
+        if (description.click.isEmpty()) {
+            box->setFocusPolicy(Qt::NoFocus);
+        }
         keepFresh(box, window, [box] { box->update(); });
         wireClick(box, description, window);
         return box;

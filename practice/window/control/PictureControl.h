@@ -2,5 +2,5 @@
 
 #include "window/control/ControlReader.h"
 
-/// A "picture" of what has the number in a "field" or is the current row of a "source".
+/// A "picture" of what has the number or name in a "field", or is the current row of a "source".
 [[nodiscard]] ControlMaker readPicture(ControlReader &reader);

@@ -1,13 +1,11 @@
 #include "window/control/RowList.h"
 
-#include "window/EditorWindow.h"
 #include "window/MapPainter.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -16,13 +14,11 @@ constexpr int kTilePixels = 22;
 
 } // namespace
 
-RowList::RowList(EditorWindow *window, MapPainter *painter, QString source, QString field, int rowHeight)
+RowList::RowList(EditorWindow *window, MapPainter *painter, Settings settings)
     : QListWidget(window)
     , m_window(window)
     , m_painter(painter)
-    , m_source(std::move(source))
-    , m_field(std::move(field))
-    , m_rowHeight(rowHeight)
+    , m_settings(std::move(settings))
 {
     setFrameShape(QFrame::NoFrame);
     setUniformItemSizes(true);
@@ -31,10 +27,52 @@ RowList::RowList(EditorWindow *window, MapPainter *painter, QString source, QStr
     connect(this, &QListWidget::currentRowChanged, this, &RowList::onCurrentRowChanged);
     connect(this, &QListWidget::itemClicked, this,
             [this](QListWidgetItem *item) { Q_EMIT rowChosen(row(item)); });
+    connect(this, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem *item) { Q_EMIT rowOpened(row(item)); });
+}
+
+std::function<void()> RowList::wishOf(const QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && m_settings.isOpened && currentRow() >= 0) {
+        return [this] {
+            Q_EMIT rowOpened(currentRow());
+        };
+    }
+    if (event->matches(QKeySequence::Delete) && m_settings.isDeletedFrom) {
+        return [this] {
+            Q_EMIT deleteRequested();
+        };
+    }
+    if (event->matches(QKeySequence::Copy) && m_settings.isCopiedFrom) {
+        return [this] {
+            Q_EMIT copyRequested();
+        };
+    }
+    if (event->matches(QKeySequence::Paste) && m_settings.isPastedTo) {
+        return [this] {
+            Q_EMIT pasteRequested();
+        };
+    }
+    return {};
+}
+
+bool RowList::event(QEvent *event)
+{
+    // The list's own keys go before those of the menu bar.
+    if (event->type() == QEvent::ShortcutOverride && wishOf(static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
+    return QListWidget::event(event);
 }
 
 void RowList::keyPressEvent(QKeyEvent *event)
 {
+    if (const std::function<void()> wish = wishOf(event)) {
+        wish();
+        return;
+    }
     const int before = currentRow();
     QListWidget::keyPressEvent(event);
     if (currentRow() != before) {
@@ -53,13 +91,13 @@ void RowList::mouseReleaseEvent(QMouseEvent *event)
 void RowList::refresh()
 {
     const QSignalBlocker quiet(this);
-    const QVector<Row> rows = m_window->rows(m_source);
+    const QVector<Row> rows = m_settings.rows(m_window);
     if (rows != m_rows) {
         m_rows = rows;
         clear();
         for (const Row &row : rows) {
             auto *item = new QListWidgetItem(QString(row.level * 4, QChar::Space) + row.text, this);
-            item->setSizeHint({0, m_rowHeight});
+            item->setSizeHint({0, m_settings.rowHeight});
             if (row.tile != GameMap::kEmpty) {
                 item->setIcon(m_painter->tile(row.tile, 0, kTilePixels));
             }
@@ -70,15 +108,8 @@ void RowList::refresh()
 
 int RowList::rowToShow() const
 {
-    if (m_field.isEmpty()) {
-        return m_window->currentRow(m_source);
-    }
-    const int number = m_window->field(m_field).toInt();
-    const auto isIt = [number](const Row &row) {
-        return row.number == number;
-    };
-    const auto found = std::find_if(m_rows.cbegin(), m_rows.cend(), isIt);
-    return found != m_rows.cend() ? int(found - m_rows.cbegin()) : -1;
+    return m_settings.field.isEmpty() ? m_window->currentRow(m_settings.source)
+                                      : rowWith(m_rows, fieldValue(m_window, m_settings.field));
 }
 
 void RowList::onCurrentRowChanged(int row)
@@ -86,9 +117,9 @@ void RowList::onCurrentRowChanged(int row)
     if (row < 0 || row >= m_rows.size()) {
         return;
     }
-    if (m_field.isEmpty()) {
-        m_window->setCurrentRow(m_source, row);
+    if (m_settings.field.isEmpty()) {
+        m_window->setCurrentRow(m_settings.source, row);
     } else {
-        m_window->setField(m_field, m_rows.at(row).number);
+        m_window->setField(m_settings.field, m_rows.at(row).chosen().toVariant());
     }
 }

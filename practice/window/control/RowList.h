@@ -1,21 +1,34 @@
 #pragma once
 
-#include "project/RowSources.h"
+#include "window/control/ControlReader.h"
 
 #include <QListWidget>
 
-class EditorWindow;
-class MapPainter;
-
-/// A list or flattened tree of rows of one height, kept the same as a source of rows.
+/// A list or flattened tree of rows of one height, kept the same as what there is to show.
 class RowList : public QListWidget
 {
     Q_OBJECT
 
 public:
-    /// A list in @p window. @p painter outlives it. The current row is the one whose number stands in @p
-    /// field, or, without a field, what the source has. @p rowHeight in pixels.
-    RowList(EditorWindow *window, MapPainter *painter, QString source, QString field, int rowHeight);
+    struct Settings
+    {
+        Rows rows;
+        /// Which row is the current one is kept for this source, or, where there is a field, the row is the
+        /// one that stands in it.
+        QString source;
+        QString field;
+        /// In pixels.
+        int rowHeight = 0;
+        /// Whether the keys that open, delete, copy and paste are the list's: otherwise they are left to the
+        /// window.
+        bool isOpened = false;
+        bool isDeletedFrom = false;
+        bool isCopiedFrom = false;
+        bool isPastedTo = false;
+    };
+
+    /// A list in @p window. @p painter outlives it.
+    RowList(EditorWindow *window, MapPainter *painter, Settings settings);
 
     /// Shows what there is now.
     void refresh();
@@ -23,22 +36,29 @@ public:
 Q_SIGNALS:
     /// The person chose a row with mouse or keyboard, also when it was the selected one already.
     void rowChosen(int row);
+    /// A row was clicked twice, or the return key was pressed on it.
+    void rowOpened(int row);
     /// The right button was clicked; @p position in global screen pixels. The row under it is selected by
     /// then.
     void menuRequested(const QPoint &position);
+    /// The keys that delete, copy and paste were pressed.
+    void deleteRequested();
+    void copyRequested();
+    void pasteRequested();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    /// What the key asks for; nothing for a key that the list leaves to others.
+    [[nodiscard]] std::function<void()> wishOf(const QKeyEvent *event);
     [[nodiscard]] int rowToShow() const;
     void onCurrentRowChanged(int row);
 
     EditorWindow *m_window;
     MapPainter *m_painter;
-    QString m_source;
-    QString m_field;
-    int m_rowHeight;
+    Settings m_settings;
     QVector<Row> m_rows;
 };

@@ -8,7 +8,7 @@ ControlMaker readSpinBox(ControlReader &reader)
     const QString field = reader.field();
     const QVector<int> range = reader.json().numbers(QStringLiteral("range"), 2);
     const QString suffix = reader.json().text(QStringLiteral("suffix"), QString());
-    return [field, range, suffix](EditorWindow *window) {
+    return [field, range, suffix, name = reader.description().name](EditorWindow *window) {
         auto *spin = new QSpinBox(window);
         spin->setRange(range.at(0), range.at(1));
         spin->setSuffix(suffix);
@@ -17,9 +17,10 @@ ControlMaker readSpinBox(ControlReader &reader)
             spin->setValue(window->field(field).toInt());
         });
         QObject::connect(spin, qOverload<int>(&QSpinBox::valueChanged), window,
-                         [spin, window, field](int value) {
+                         [spin, window, field, name](int value) {
                              window->setField(field, value);
-                             window->report(QStringLiteral("spinBox"), QStringLiteral("="), spin->text());
+                             window->report(QStringLiteral("spinBox"), QStringLiteral("="), spin->text(),
+                                            window->spot(name));
                          });
         return spin;
     };

@@ -2,7 +2,19 @@
 
 #include "window/control/TabRow.h"
 
+#include <QJsonArray>
 #include <QSignalBlocker>
+
+void declareTabs(const QVector<ControlDescription> &controls, Project *project)
+{
+    for (const ControlDescription &control : controls) {
+        const QString source = control.own.object.value(QStringLiteral("source")).toString();
+        if (control.type == QLatin1String("tabs") && !source.isEmpty() &&
+            !project->sources().isPath(source)) {
+            project->addTabs(source, int(control.own.object.value(QStringLiteral("tabs")).toArray().size()));
+        }
+    }
+}
 
 ControlMaker readTabs(ControlReader &reader)
 {
@@ -13,15 +25,16 @@ ControlMaker readTabs(ControlReader &reader)
     }
     const QString source = reader.source();
     const int tabWidth = reader.tabWidth();
-    return [texts, source, tabWidth](EditorWindow *window) {
+    return [texts, source, tabWidth, name = reader.description().name](EditorWindow *window) {
         auto *tabs = new TabRow(texts, tabWidth, window);
         keepFresh(tabs, window, [tabs, window, source] {
             const QSignalBlocker quiet(tabs);
             tabs->setCurrentIndex(window->currentRow(source));
         });
-        const auto choose = [window, source](int index) {
+        const auto choose = [window, source, name](int index) {
             window->setCurrentRow(source, index);
-            window->report(QStringLiteral("tabView"), QStringLiteral("tabview"), QString::number(index));
+            window->report(QStringLiteral("tabView"), QStringLiteral("tabview"), QString::number(index),
+                           window->spot(name, index));
         };
         // A click on the current tab counts too; currentChanged() alone would only tell of the others.
         QObject::connect(tabs, &QTabBar::tabBarClicked, window, [choose](int index) {

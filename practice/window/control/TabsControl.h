@@ -2,5 +2,9 @@
 
 #include "window/control/ControlReader.h"
 
+/// Lets other controls require the tabs of these by the "source" that they name: to be called before any of
+/// the controls is read. A source that the editor has stays what it is.
+void declareTabs(const QVector<ControlDescription> &controls, Project *project);
+
 /// A row of "tabs"; the current one is that of a "source".
 [[nodiscard]] ControlMaker readTabs(ControlReader &reader);

@@ -12,7 +12,9 @@ ControlMaker readToolButton(ControlReader &reader)
     const QString needs = reader.json().text(QStringLiteral("needs"), QString());
     reader.oneOf(QStringLiteral("needs"), needs, {QStringLiteral("project")});
     reader.readAction();
-    return [label, icon, needs, description = reader.description()](EditorWindow *window) {
+    reader.enableWhen(
+        [needs](const EditorWindow *window) { return needs.isEmpty() || window->project().isOpen(); });
+    return [label, icon, description = reader.description()](EditorWindow *window) {
         constexpr int kFontPixels = 10;
         constexpr int kIconPixels = 24;
         auto *button = new QToolButton(window);
@@ -25,10 +27,8 @@ ControlMaker readToolButton(ControlReader &reader)
         QFont small = window->font();
         small.setPixelSize(kFontPixels);
         button->setFont(small);
-        keepFresh(button, window, [button, window, needs, command = description.click.run] {
-            const Project &project = window->project();
-            button->setEnabled(needs.isEmpty() || project.isOpen());
-            const std::optional<bool> on = project.commands().isOn(command);
+        keepFresh(button, window, [button, window, command = description.click.run.value(0)] {
+            const std::optional<bool> on = window->project().commands().isOn(command);
             button->setCheckable(on.has_value());
             button->setChecked(on.value_or(false));
         });

@@ -56,22 +56,22 @@ void tst_DescriptionSet::controlsOfAWindowDoNotOverlap()
     const auto set = DescriptionSet::read(kShipped, nullptr, &errors);
     const QStringList keys = set.keys();
     for (const QString &key : keys) {
-        QVector<QPair<QString, QRect>> places;
-        for (const ControlDescription &control : set[key].controls) {
-            places.append({control.name, control.geometry});
-        }
+        QVector<ControlDescription> places = set[key].controls;
         for (const QString &part : keys) {
             if (set[part].kind == WindowDescription::Kind::kPart && set[part].owner == key) {
-                places.append({part, QRect(set[part].place, set[part].size)});
+                places.append(ControlDescription());
+                places.last().name = part;
+                places.last().geometry = QRect(set[part].place, set[part].size);
             }
         }
         for (int left = 0; left < places.size(); ++left) {
-            QVERIFY2(QRect(QPoint(), set[key].size).contains(places[left].second),
-                     qPrintable(places[left].first));
+            QVERIFY2(QRect(QPoint(), set[key].size).contains(places[left].geometry),
+                     qPrintable(places[left].name));
             for (int right = left + 1; right < places.size(); ++right) {
-                QVERIFY2(!places[left].second.intersects(places[right].second),
-                         qPrintable(key + QLatin1Char(' ') + places[left].first + QLatin1Char(' ') +
-                                    places[right].first));
+                QVERIFY2(!places[left].geometry.intersects(places[right].geometry) ||
+                             excludeEachOther(places[left].shownWhen, places[right].shownWhen),
+                         qPrintable(key + QLatin1Char(' ') + places[left].name + QLatin1Char(' ') +
+                                    places[right].name));
             }
         }
     }
@@ -86,6 +86,13 @@ void tst_DescriptionSet::everyFileIsCompiledIn()
     QVERIFY(!names.isEmpty());
     for (const QString &name : names) {
         QVERIFY2(text.contains(QStringLiteral("<file alias=\"%1\">descriptions/%1</file>").arg(name)),
+                 qPrintable(name));
+    }
+    const QStringList choices =
+        QDir(kShipped + QStringLiteral("/choices")).entryList({QStringLiteral("*.json")}, QDir::Files);
+    for (const QString &name : choices) {
+        QVERIFY2(text.contains(
+                     QStringLiteral("<file alias=\"choices/%1\">descriptions/choices/%1</file>").arg(name)),
                  qPrintable(name));
     }
 }
@@ -115,6 +122,8 @@ void tst_DescriptionSet::tellsBadReferences_data()
     row("command in a window that opens",
         R"("type": "progress", "click": {"open": "Box", "begin": "map.eat"})",
         "it.click.begin: \"map.eat\" is unknown; use one of: map.edit, map.new");
+    row("command with an argument", R"("type": "list", "delete": {"run": ["map.new", "map.eat data/Items"]})",
+        "it.delete.run: \"map.eat\" is unknown; use one of: map.edit, map.new");
 }
 
 void tst_DescriptionSet::tellsBadReferences()

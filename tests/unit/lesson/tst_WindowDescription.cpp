@@ -34,6 +34,8 @@ private Q_SLOTS:
     void readsAWindow();
     void readsAListATabRowAndAnAction();
     void leavesTheFieldsOfATypeToItsReader();
+    void readsListsOfCommandsAndWhatTheyAdd();
+    void readsWhatAControlRequires();
     void readsContextMenus();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
@@ -57,7 +59,7 @@ void tst_WindowDescription::readsAWindow()
     const ControlDescription &button = window.controls.first();
     QCOMPARE(button.geometry, QRect(100, 60, 90, 30));
     QCOMPARE(button.label.value(QStringLiteral("zh_CN")), QStringLiteral("c"));
-    QCOMPARE(button.click.run, QStringLiteral("map.undo"));
+    QCOMPARE(button.click.run, QStringList{QStringLiteral("map.undo")});
     QVERIFY(button.click.close);
     QCOMPARE(button.click.open, QStringLiteral("Other"));
     QVERIFY(button.doubleClick.isEmpty());
@@ -89,7 +91,7 @@ void tst_WindowDescription::readsAListATabRowAndAnAction()
     QCOMPARE(part.controls[1].tabWidth, 45);
     QCOMPARE(part.controls[2].actionName, QStringLiteral("fileOpen"));
     QCOMPARE(part.controls[2].actionState, QStringLiteral("open"));
-    QCOMPARE(part.controls[2].click.begin, QStringLiteral("map.new"));
+    QCOMPARE(part.controls[2].click.begin, QStringList{QStringLiteral("map.new")});
 }
 
 void tst_WindowDescription::leavesTheFieldsOfATypeToItsReader()
@@ -104,6 +106,43 @@ void tst_WindowDescription::leavesTheFieldsOfATypeToItsReader()
     QCOMPARE(own.file, path);
     QCOMPARE(own.place, QStringLiteral("controls[0]."));
     QCOMPARE(own.object.keys(), (QStringList{QStringLiteral("range"), QStringLiteral("suffix")}));
+}
+
+void tst_WindowDescription::readsListsOfCommandsAndWhatTheyAdd()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path = files.write(
+        QStringLiteral("Box.json"),
+        box(R"("run": "map.undo")",
+            R"("run": ["map.undo", "list.add data/Items"], "begin": ["list.edit data/Items"], "entry": {"hp": 1})"));
+    const ControlAction click = WindowDescription::read(path, &errors).controls.value(0).click;
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(click.run, (QStringList{QStringLiteral("map.undo"), QStringLiteral("list.add data/Items")}));
+    QCOMPARE(click.begin, QStringList{QStringLiteral("list.edit data/Items")});
+    QCOMPARE(click.entry, QJsonValue(QJsonObject{{QStringLiteral("hp"), 1}}));
+    const QString plain = files.write(QStringLiteral("Box.json"), box());
+    QVERIFY(WindowDescription::read(plain, &errors).controls.value(0).click.entry.isUndefined());
+}
+
+void tst_WindowDescription::readsWhatAControlRequires()
+{
+    const DescriptionFiles files;
+    QStringList errors;
+    const QString path =
+        files.write(QStringLiteral("Box.json"), box(R"("default": true)",
+                                                    R"("shownWhen": {"source": "databaseTab", "rows": [0, 3]},
+               "enabledWhen": [{"field": "kind", "is": ["hp", 1]}, {"field": "on", "is": [true]}])"));
+    const ControlDescription control = WindowDescription::read(path, &errors).controls.value(0);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(control.shownWhen.size(), 1);
+    QCOMPARE(control.shownWhen[0].source, QStringLiteral("databaseTab"));
+    QCOMPARE(control.shownWhen[0].rows, (QVector<int>{0, 3}));
+    QCOMPARE(control.enabledWhen.size(), 2);
+    QCOMPARE(control.enabledWhen[0].field, QStringLiteral("kind"));
+    QCOMPARE(control.enabledWhen[0].values, (QVector<QJsonValue>{QStringLiteral("hp"), 1}));
+    QCOMPARE(control.enabledWhen[1].values, QVector<QJsonValue>{true});
+    QVERIFY(control.own.object.isEmpty());
 }
 
 void tst_WindowDescription::readsContextMenus()
@@ -153,6 +192,19 @@ void tst_WindowDescription::tellsWhatIsWrong_data()
         "controls[0]: must be an object, { ... }");
     row("an action that does nothing", R"({"run": "map.undo", "close": true, "open": "Other"})", "{}",
         "controls[0].click: does nothing; give it a run, close, open or popup, or remove it");
+    row("an entry that nothing adds", R"("run": "map.undo", "close": true)", R"("close": true, "entry": 1)",
+        "controls[0].click: has an entry that nothing adds; give it a run or begin that does");
+    row("commands that are no texts", R"("run": "map.undo")", R"("run": ["map.undo", 7])",
+        "controls[0].click.run: must be a list of texts");
+    row("rows that are none", R"("default": true)", R"("shownWhen": {"source": "tabs", "rows": [-1]})",
+        "controls[0].shownWhen.rows: must be a list of rows, counted from 0");
+    row("no values", R"("default": true)", R"("enabledWhen": [{"field": "kind"}])",
+        "controls[0].enabledWhen[0].is: must be a list of the values that will do");
+    row("a requirement of nothing", R"("default": true)", R"("enabledWhen": {"is": [1]})",
+        "controls[0].enabledWhen.field: must be a text");
+    row("a misspelt requirement", R"("default": true)",
+        R"("enabledWhen": {"field": "a", "is": [1], "row": 1})",
+        "controls[0].enabledWhen.row: is not a field that is known here; remove it or correct its name");
     row("an action that is no object", R"({"run": "map.undo", "close": true, "open": "Other"})", R"("close")",
         "controls[0].click: must be an object, { ... }");
     row("twice the same name", R"("controls": [)",

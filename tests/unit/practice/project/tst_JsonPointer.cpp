@@ -27,6 +27,12 @@ private Q_SLOTS:
     void changesValues();
     void refusesWaysThroughNothing_data();
     void refusesWaysThroughNothing();
+    void makesMembersOnTheWay_data();
+    void makesMembersOnTheWay();
+    void theOnlyMemberHasANameAndAValue_data();
+    void theOnlyMemberHasANameAndAValue();
+    void theOnlyMemberIsChanged_data();
+    void theOnlyMemberIsChanged();
     void escapedWordsAreFoundAgain_data();
     void escapedWordsAreFoundAgain();
 };
@@ -114,6 +120,93 @@ void tst_JsonPointer::refusesWaysThroughNothing()
     QFETCH(QString, pointer);
     const QJsonValue root = json(R"({"a": 0, "b": [1, {"c": 2}]})");
     QVERIFY(!JsonPointer::with(root, pointer, 7).has_value());
+}
+
+void tst_JsonPointer::makesMembersOnTheWay_data()
+{
+    QTest::addColumn<QString>("pointer");
+    QTest::addColumn<QByteArray>("result");
+    const auto row = [](const char *pointer, const char *result) {
+        QTest::newRow(pointer) << QString::fromLatin1(pointer) << QByteArray(result);
+    };
+    row("/n", R"({"a": 0, "b": [1, {"c": null}], "n": 7})");
+    row("/n/name", R"({"a": 0, "b": [1, {"c": null}], "n": {"name": 7}})");
+    row("/b/1/c/d/e", R"({"a": 0, "b": [1, {"c": {"d": {"e": 7}}}]})");
+    row("/b/2", R"({"a": 0, "b": [1, {"c": null}, 7]})");
+    // What is there is not made into something else, and no element is made for its members.
+    row("/a/name", "");
+    row("/b/0/name", "");
+    row("/b/2/name", "");
+    row("/b/5", "");
+}
+
+void tst_JsonPointer::makesMembersOnTheWay()
+{
+    QFETCH(QString, pointer);
+    QFETCH(QByteArray, result);
+    const auto changed = JsonPointer::withWay(json(R"({"a": 0, "b": [1, {"c": null}]})"), pointer, 7);
+    QCOMPARE(changed.has_value(), !result.isEmpty());
+    QVERIFY(!changed || *changed == json(result));
+}
+
+void tst_JsonPointer::theOnlyMemberHasANameAndAValue_data()
+{
+    QTest::addColumn<QByteArray>("object");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("one member") << QByteArray(R"({"hp": 30})") << QByteArray(R"("hp")") << QByteArray("30");
+    QTest::newRow("with a slash") << QByteArray(R"({"a/b": {"c": 1}})") << QByteArray(R"("a/b")")
+                                  << QByteArray(R"({"c": 1})");
+    QTest::newRow("no member") << QByteArray("{}") << QByteArray() << QByteArray();
+    QTest::newRow("two members") << QByteArray(R"({"a": 1, "b": 2})") << QByteArray() << QByteArray();
+    QTest::newRow("members of that name")
+        << QByteArray(R"({"@name": 1})") << QByteArray("1") << QByteArray("1");
+    QTest::newRow("no object") << QByteArray("[5]") << QByteArray() << QByteArray();
+}
+
+void tst_JsonPointer::theOnlyMemberHasANameAndAValue()
+{
+    QFETCH(QByteArray, object);
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, value);
+    const QJsonValue root = json(object);
+    const auto isFound = [&root](const char *pointer, const QByteArray &wanted) {
+        const QJsonValue found = JsonPointer::value(root, QString::fromLatin1(pointer));
+        return wanted.isEmpty() ? found.isUndefined() : found == json(wanted);
+    };
+    QVERIFY(isFound("/@name", name));
+    QVERIFY(isFound("/@value", value));
+}
+
+void tst_JsonPointer::theOnlyMemberIsChanged_data()
+{
+    QTest::addColumn<QString>("pointer");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QByteArray>("result");
+    const auto row = [](const char *name, const char *pointer, const char *value, const char *result) {
+        QTest::newRow(name) << QString::fromLatin1(pointer) << QByteArray(value) << QByteArray(result);
+    };
+    row("its name", "/one/@name", R"("mp")", R"({"one": {"mp": 30}, "none": {}, "two": {"a": 1, "b": 2}})");
+    row("its value", "/one/@value", "5", R"({"one": {"hp": 5}, "none": {}, "two": {"a": 1, "b": 2}})");
+    row("the name of none", "/none/@name", R"("hp")",
+        R"({"one": {"hp": 30}, "none": {"hp": 0}, "two": {"a": 1, "b": 2}})");
+    row("the value of none", "/none/@value", "5", "");
+    row("the name of two", "/two/@name", R"("hp")", "");
+    row("an empty name", "/one/@name", R"("")", "");
+    row("a number as a name", "/one/@name", "7", "");
+    row("no value", "/one/@value", "", "");
+}
+
+void tst_JsonPointer::theOnlyMemberIsChanged()
+{
+    QFETCH(QString, pointer);
+    QFETCH(QByteArray, value);
+    QFETCH(QByteArray, result);
+    const QJsonValue root = json(R"({"one": {"hp": 30}, "none": {}, "two": {"a": 1, "b": 2}})");
+    const QJsonValue wanted = value.isEmpty() ? QJsonValue(QJsonValue::Undefined) : json(value);
+    const std::optional<QJsonValue> changed = JsonPointer::with(root, pointer, wanted);
+    QCOMPARE(changed.has_value(), !result.isEmpty());
+    QVERIFY(!changed || *changed == json(result));
 }
 
 void tst_JsonPointer::escapedWordsAreFoundAgain_data()

@@ -1,48 +1,11 @@
+#include "DataLayerFixture.h"
 #include "project/Commands.h"
 #include "project/Drafts.h"
 #include "project/Fields.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QtTest>
 
 namespace {
-
-QString str(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-/// Files that are nowhere on a disk.
-class Files : public DataLayer
-{
-public:
-    Files()
-        : DataLayer(nullptr)
-    {
-    }
-    [[nodiscard]] QJsonValue file(const QString &name) const override
-    {
-        return m_files.value(name, QJsonValue(QJsonValue::Undefined));
-    }
-    void change(const DataRoots &files, const QString & /*mergeKey*/) override
-    {
-        for (auto file = files.begin(); file != files.end(); ++file) {
-            m_files.insert(file.key(), file.value());
-        }
-    }
-    void accept() override {}
-
-    void put(const char *name, const char *text)
-    {
-        m_files.insert(str(name),
-                       QJsonDocument::fromJson(QByteArray('[' + QByteArray(text) + ']')).array().at(0));
-    }
-
-private:
-    DataRoots m_files;
-};
 
 QStringList texts(const QVector<Row> &rows)
 {
@@ -65,16 +28,25 @@ private Q_SLOTS:
 
     void commandsRunInTheirLayer();
     void commandsTellWhatIsOn();
+    void commandsGetTheirArgumentAndEntry();
+    void commandsTellWhetherTheyCanRun();
+    void mistakesInCommandsAreTold();
     void ownFieldsAreReadAndWritten();
     void pathsAreFields_data();
     void pathsAreFields();
     void fieldsOfNothingAreInvalid_data();
     void fieldsOfNothingAreInvalid();
     void fieldsKeepTheirKind();
+    void missingMembersAreMadeWhenTheyChange();
+    void pathsMayBeginWithARoot();
+    void namesGoBeforeRoots();
+    void marksAreThoseOfTheLayer();
     void mistakesInNamesAreTold_data();
     void mistakesInNamesAreTold();
     void listsOfFilesAreSources_data();
     void listsOfFilesAreSources();
+    void entriesThatAreNullHaveNoRow();
+    void tabsAreSources();
     void theCurrentRowIsKeptInTheLayer();
     void theCurrentRowMayBeKeptElsewhere();
     void aSelectedEntryThatIsGoneGivesWayToTheOneBefore();
@@ -142,6 +114,48 @@ void tst_Words::commandsTellWhatIsOn()
     QVERIFY(!commands.isOn(str("other")).has_value());
 }
 
+void tst_Words::commandsGetTheirArgumentAndEntry()
+{
+    Commands commands;
+    CommandCall got;
+    commands.add(str("list.add"), [&got](DataLayer & /*layer*/, const CommandCall &call) { got = call; });
+    commands.run(str("list.add data/Items/{items}/a b"), m_files, 7);
+    QCOMPARE(got.argument, str("data/Items/{items}/a b"));
+    QCOMPARE(got.entry, QJsonValue(7));
+    commands.run(str("list.add data/Items"), m_files);
+    QVERIFY(got.entry.isUndefined());
+}
+
+void tst_Words::commandsTellWhetherTheyCanRun()
+{
+    Commands commands;
+    const auto isItems = [](const DataLayer & /*layer*/, const QString &argument) {
+        return argument == str("data/Items");
+    };
+    commands.add(
+        str("list.add"), [](DataLayer & /*layer*/, const CommandCall & /*call*/) {}, {}, isItems);
+    commands.add(str("save"), [] {});
+    QVERIFY(commands.canRun(str("list.add data/Items"), m_files));
+    QVERIFY(!commands.canRun(str("list.add data/Skills"), m_files));
+    QVERIFY(commands.canRun(str("save"), m_files));
+    QVERIFY(commands.canRun(str("other"), m_files));
+}
+
+void tst_Words::mistakesInCommandsAreTold()
+{
+    Commands commands;
+    commands.add(str("list.add"), [](DataLayer & /*layer*/, const CommandCall & /*call*/) {});
+    commands.add(str("save"), [] {});
+    QCOMPARE(commands.problemOf(str("save")), QString());
+    QCOMPARE(commands.problemOf(str("list.add data/Items")), QString());
+    QCOMPARE(commands.problemOf(str("list.eat data/Items")),
+             str("\"list.eat\" is unknown; use one of: list.add, save"));
+    QCOMPARE(commands.problemOf(str("list.add")),
+             str("\"list.add\" needs what it is for, behind a blank, as in \"list.add data/Items\""));
+    QCOMPARE(commands.problemOf(str("save data/Items")),
+             str("\"save\" takes no argument; remove \"data/Items\""));
+}
+
 void tst_Words::ownFieldsAreReadAndWritten()
 {
     m_fields->setValue(str("typed"), str("Quest"), m_files);
@@ -206,6 +220,72 @@ void tst_Words::fieldsKeepTheirKind()
     QVERIFY(m_files.value(str("data/Items.json"), str("/1/name")).isString());
 }
 
+void tst_Words::missingMembersAreMadeWhenTheyChange()
+{
+    const QJsonValue before = m_files.file(str("data/Items.json"));
+    const QString turn = str("data/Items/{items}/conditions/turn");
+    QVERIFY(!m_fields->value(turn, m_files).isValid());
+    QCOMPARE(m_files.file(str("data/Items.json")), before);
+    m_fields->setValue(turn, 3, m_files);
+    QCOMPARE(m_files.value(str("data/Items.json"), str("/2/conditions")),
+             QJsonValue(QJsonObject{{str("turn"), 3}}));
+    m_fields->setValue(str("data/System/gold/coin"), str("Taler"), m_files);
+    QCOMPARE(m_fields->value(str("data/System/gold/coin"), m_files).toString(), str("Taler"));
+}
+
+void tst_Words::pathsMayBeginWithARoot()
+{
+    std::optional<DataPlace> command;
+    m_sources.addRoot(str("command"), [&command](const DataLayer & /*layer*/) { return command; });
+    for (const char *path : {"command", "command/price", "command/effects/{effects}/hp"}) {
+        QCOMPARE(m_fields->problemOf(str(path)), QString());
+        QVERIFY(!m_fields->value(str(path), m_files).isValid());
+        m_fields->setValue(str(path), 1, m_files);
+    }
+    QVERIFY(m_sources.rows(str("command/effects"), m_files).isEmpty());
+    command = DataPlace{str("data/Items.json"), str("/2")};
+    QCOMPARE(m_fields->value(str("command/price"), m_files).toInt(), 3);
+    QCOMPARE(m_sources.rows(str("command/effects"), m_files).size(), 2);
+    m_files.select(str("command/effects"), 1);
+    m_fields->setValue(str("command/effects/{effects}/hp"), 9, m_files);
+    QCOMPARE(m_files.value(str("data/Items.json"), str("/2/effects/1/hp")).toInt(), 9);
+    QCOMPARE(m_sources.entry(str("command/effects"), 0, m_files), QJsonValue(QJsonObject{{str("hp"), 1}}));
+    command = DataPlace{str("data/System.json"), str("/switches/1")};
+    QCOMPARE(m_fields->value(str("command"), m_files).toString(), str("Gate"));
+    QCOMPARE(m_fields->problemOf(str("command/{items}/price")),
+             str("\"{items}\" is neither the list before it, \"command\", nor one of: maps, tiles"));
+}
+
+void tst_Words::namesGoBeforeRoots()
+{
+    m_sources.addRoot(str("command"), [](const DataLayer & /*layer*/) {
+        return std::optional<DataPlace>(DataPlace{str("data/Items.json"), QString()});
+    });
+    m_fields->add(str("command/lines"), [](const DataLayer & /*layer*/) { return str("Hello"); });
+    m_sources.add(str("command/rows"), [](const DataLayer & /*layer*/) {
+        return QVector<Row>{{str("Own"), 5}};
+    });
+    QCOMPARE(m_fields->problemOf(str("command/lines")), QString());
+    QCOMPARE(m_fields->value(str("command/lines"), m_files).toString(), str("Hello"));
+    QCOMPARE(m_sources.problemOf(str("command/rows")), QString());
+    QCOMPARE(m_sources.number(str("command/rows"), m_files), 5);
+}
+
+void tst_Words::marksAreThoseOfTheLayer()
+{
+    const DataPlace item{str("data/Items.json"), str("/1")};
+    Draft draft(&m_files);
+    QVERIFY(!draft.mark(str("entry")).has_value());
+    m_files.setMark(str("entry"), item);
+    QCOMPARE(draft.mark(str("entry")), std::optional<DataPlace>(item));
+    draft.setMark(str("entry"), {str("data/Items.json"), str("/2")});
+    QCOMPARE(m_files.mark(str("entry")), std::optional<DataPlace>(item));
+    draft.accept();
+    QCOMPARE(m_files.mark(str("entry")), std::optional<DataPlace>(item));
+    draft.clear();
+    QCOMPARE(draft.mark(str("entry")), std::optional<DataPlace>(item));
+}
+
 void tst_Words::mistakesInNamesAreTold_data()
 {
     QTest::addColumn<QString>("name");
@@ -259,6 +339,29 @@ void tst_Words::listsOfFilesAreSources()
     QCOMPARE(texts(m_sources.rows(source, m_files)), rows);
     QCOMPARE(m_sources.currentRow(source, m_files) < 0, rows.isEmpty());
     QCOMPARE(m_sources.number(source, m_files) < 0, rows.isEmpty());
+}
+
+void tst_Words::entriesThatAreNullHaveNoRow()
+{
+    m_files.put("data/Map001.json", R"({"events": [null, null, {"name": "Bat"}, null, {"name": "Cat"}]})");
+    const QString events = str("data/Map001/events");
+    QCOMPARE(texts(m_sources.rows(events, m_files)), (QStringList{str("2 Bat"), str("4 Cat")}));
+    m_sources.setCurrentRow(events, 1, m_files);
+    QCOMPARE(m_fields->value(str("data/Map001/events/{events}/name"), m_files).toString(), str("Cat"));
+}
+
+void tst_Words::tabsAreSources()
+{
+    m_sources.addTabs(str("databaseTab"), 3);
+    // The editor's own lists stay what they are.
+    m_sources.addTabs(str("tiles"), 9);
+    QCOMPARE(m_sources.problemOf(str("databaseTab")), QString());
+    QCOMPARE(m_sources.currentRow(str("databaseTab"), m_files), 0);
+    m_sources.setCurrentRow(str("databaseTab"), 2, m_files);
+    QCOMPARE(m_sources.currentRow(str("databaseTab"), m_files), 2);
+    m_sources.setCurrentRow(str("databaseTab"), 3, m_files);
+    QCOMPARE(m_sources.currentRow(str("databaseTab"), m_files), 2);
+    QCOMPARE(m_sources.rows(str("tiles"), m_files).size(), 2);
 }
 
 void tst_Words::theCurrentRowIsKeptInTheLayer()

@@ -1,73 +1,9 @@
-#include "DescriptionFiles.h"
-#include "EditorFixture.h"
-#include "window/TileDrawing.h"
-#include "window/control/ControlTypes.h"
+#include "ControlBench.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
-
-namespace {
-
-/// A control of a window that a test describes itself, in a project of its own.
-class Bench
-{
-public:
-    Bench()
-        : project(start(), m_folder.path())
-        , painter(&project.start())
-        , window(str("Box"), QSize(200, 200), &project, nullptr, Qt::Window)
-    {
-        project.run(str("newProject.create"), project.files());
-    }
-
-    /// Makes the control that @p description describes. nullptr when something is wrong with it.
-    QWidget *make(const QByteArray &description)
-    {
-        const QByteArray text =
-            R"({"key": "Box", "kind": "window", "size": [200, 200], "place": [0, 0], "title": TEXT,
-            "controls": [{"name": "it", "geometry": [0, 0, 90, 90], )" +
-            description + "}]}";
-        const QString path =
-            m_files.write(str("Box.json"),
-                          QByteArray(text).replace("TEXT", R"({"en_US": "a", "ja_JP": "b", "zh_CN": "c"})"));
-        errors.clear();
-        const ControlDescription control = WindowDescription::read(path, &errors).controls.value(0);
-        if (!errors.isEmpty()) {
-            return nullptr;
-        }
-        const ControlMaker maker = readControl(control, {&project, &painter, str("zh_CN")}, &errors);
-        for (QString &error : errors) {
-            error.remove(path + str(": controls[0]."));
-        }
-        return errors.isEmpty() ? maker(&window) : nullptr;
-    }
-
-    [[nodiscard]] QJsonValue value(const char *file, const char *pointer)
-    {
-        return project.files().value(str(file), str(pointer));
-    }
-
-private:
-    static StartData start()
-    {
-        QStringList errors;
-        return StartData::read(str(TUTORIAL_SOURCE_DIR "/practice/descriptions/data"), tileDrawings(),
-                               str("en_US"), &errors);
-    }
-
-    DescriptionFiles m_files;
-    QTemporaryDir m_folder;
-
-public:
-    QStringList errors;
-    Project project;
-    MapPainter painter;
-    EditorWindow window;
-};
-
-} // namespace
 
 /// What each type of control reads of its description, and how a description alone binds it to data files.
 class tst_ControlTypes : public QObject
@@ -93,6 +29,8 @@ void tst_ControlTypes::everyTypeIsMade_data()
     QTest::addColumn<QByteArray>("own");
     QTest::newRow("button") << QByteArray(R"("label": TEXT, "default": true)");
     QTest::newRow("checkBox") << QByteArray(R"("label": TEXT, "field": "map.showName")");
+    QTest::newRow("comboBox") << QByteArray(R"("field": "data/Map{maps}/tilesetId", "source": "tileSets")");
+    QTest::newRow("curve") << QByteArray(R"("field": "data/Classes/{classes}/growth/hp")");
     QTest::newRow("entry") << QByteArray(R"("label": TEXT, "click": {"run": "map.delete"})");
     QTest::newRow("label") << QByteArray(R"("label": TEXT)");
     QTest::newRow("lineEdit") << QByteArray(R"("field": "newProject.name")");
@@ -100,8 +38,11 @@ void tst_ControlTypes::everyTypeIsMade_data()
     QTest::newRow("map") << QByteArray(R"("target": "Map")");
     QTest::newRow("picture") << QByteArray(R"("picture": "sampleMap", "source": "sampleMaps")");
     QTest::newRow("progress") << QByteArray(R"("click": {"close": true})");
+    QTest::newRow("radioButton") << QByteArray(
+        R"("label": TEXT, "field": "data/Items/{items}/scope", "value": 7, "index": 2)");
     QTest::newRow("spinBox") << QByteArray(R"("field": "data/Map{maps}/width", "range": [1, 9])");
     QTest::newRow("tabs") << QByteArray(R"("source": "tileTab", "tabs": [TEXT, TEXT], "tabWidth": 40)");
+    QTest::newRow("textEdit") << QByteArray(R"("field": "data/Map{maps}/note")");
     QTest::newRow("toolButton") << QByteArray(
         R"("label": TEXT, "icon": "save", "needs": "project", "action": "x", "actionState": "")");
 }
@@ -116,7 +57,7 @@ void tst_ControlTypes::everyTypeIsMade()
     QVERIFY2(control != nullptr, qPrintable(bench.errors.join(QLatin1Char('\n'))));
     QCOMPARE(control->parentWidget(), &bench.window);
     // And each has a row above.
-    QCOMPARE(controlTypes().size(), 12);
+    QCOMPARE(controlTypes().size(), 16);
 }
 
 void tst_ControlTypes::tellsWhatIsWrong_data()
@@ -127,9 +68,9 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
         QTest::newRow(name) << QByteArray(control) << str(error);
     };
     row("unknown type", R"("type": "buton")",
-        "type: \"buton\" is unknown; use one of: button, checkBox, entry, label, lineEdit, list, map, "
-        "picture, "
-        "progress, spinBox, tabs, toolButton");
+        "type: \"buton\" is unknown; use one of: button, checkBox, comboBox, curve, entry, label, lineEdit, "
+        "list, "
+        "map, picture, progress, radioButton, spinBox, tabs, textEdit, toolButton");
     row("misspelt field", R"("type": "button", "label": TEXT, "defualt": true)",
         "defualt: is not a field that is known here; remove it or correct its name");
     row("a field of another type", R"("type": "button", "label": TEXT, "tabWidth": 9)",
@@ -149,8 +90,9 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
         "rowHeight: is missing; controls of this type need it");
     row("range", R"("type": "spinBox", "field": "newProject.name", "range": [1])",
         "range: must be a list of 2 whole numbers");
-    row("picture", R"("type": "picture", "picture": "face", "source": "maps")",
-        "picture: \"face\" is unknown; use one of: sampleMap, tileSet");
+    row("picture", R"("type": "picture", "picture": "faces", "source": "maps")",
+        "picture: \"faces\" is unknown; use one of: backdrop, character, enemy, face, sampleMap, tileSet, "
+        "title");
     row("icon", R"("type": "toolButton", "icon": "axe", "action": "x", "actionState": "", "label": TEXT)",
         "icon: \"axe\" is unknown; use one of: ");
     row("need",
@@ -158,6 +100,29 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
         "needs: \"luck\" is unknown; use one of: project");
     row("no action", R"("type": "toolButton", "icon": "save", "label": TEXT)",
         "action: is missing; controls of this type need it");
+    row("choices", R"("type": "comboBox", "field": "newProject.name", "choices": "colours")",
+        "choices: there is no set of choices \"colours\"; add choices/colours.json, or use one of: kinds");
+    row("choices that are none", R"("type": "comboBox", "field": "newProject.name", "choices": [])",
+        "choices: must be a list of texts in the three languages");
+    row("text of a row",
+        R"("type": "list", "source": "data/Items", "rowHeight": 9, "rowText": "{kind:colours}")",
+        "rowText: there is no set of choices \"colours\"; ");
+    row("choices for nothing", R"("type": "list", "choices": "kinds", "rowHeight": 9)",
+        "field: must be a text");
+    row("none in a list", R"("type": "list", "source": "data/Items", "rowHeight": 9, "none": TEXT)",
+        "none: is not a field that is known here; remove it or correct its name");
+    row("a value of nothing",
+        R"("type": "radioButton", "label": TEXT, "field": "newProject.name", "index": 1)",
+        "value: is missing; write the field's value that the button stands for");
+    row("a command's argument", R"("type": "button", "label": TEXT, "click": {"run": "list.add"})",
+        "click: \"list.add\" needs what it is for, behind a blank, as in \"list.add data/Items\"");
+    row("a command's path",
+        R"("type": "button", "label": TEXT, "click": {"run": "list.add data/Items/{actors}"})",
+        "click: \"{actors}\" is neither the list before it, \"items\", nor one of: ");
+    row("what shows it", R"("type": "button", "label": TEXT, "shownWhen": {"source": "worlds", "rows": [1]})",
+        "shownWhen: \"worlds\" is unknown; use the path of a list");
+    row("what enables it", R"("type": "button", "label": TEXT, "enabledWhen": {"field": "age", "is": [1]})",
+        "enabledWhen: \"age\" is unknown; use a path in the data files");
     row("a row of no tabs", R"("type": "tabs", "source": "tileTab", "tabWidth": 9, "tabs": [])",
         "tabs: must be a list of texts in the three languages");
 }

@@ -47,6 +47,14 @@ void tst_EditorControls::actionsAreTold()
     QFETCH(QString, state);
     Editor editor;
     editor.openProject();
+    // Two steps that can be taken back, and two that can be done again.
+    for (int column = 0; column < 4; ++column) {
+        editor.run("layer.3");
+        QTest::mouseClick(editor.map(), Qt::LeftButton, {}, QPoint(32 * column + 16, 16));
+    }
+    editor.run("edit.undo");
+    editor.run("edit.undo");
+    editor.takeTold();
     const QStringList told{str("action,%1,%2 in MainWindow").arg(QString::fromLatin1(name), state)};
     editor.click("MainWindow", name.constData());
     QCOMPARE(editor.takeTold(), told);
@@ -211,6 +219,7 @@ void tst_EditorControls::propertiesAreKeptWithOkOnly()
         QCOMPARE(name->text(), str("Village"));
         name->selectAll();
         QTest::keyClicks(name, str("Town"));
+        QCOMPARE(editor.takeTold().constLast(), str("textLength,name,4 in MapProperties"));
         editor.click("MapProperties", button);
         QCOMPARE(editor.takeTold(), closed("MapProperties"));
         QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->item(0)->text(),

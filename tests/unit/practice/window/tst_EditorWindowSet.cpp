@@ -186,6 +186,7 @@ void tst_EditorWindowSet::newProjectIsCopiedThenOpen()
     QCOMPARE(name->text(), str("My first game"));
     name->selectAll();
     QTest::keyClicks(name, str("Quest"));
+    QCOMPARE(editor.takeTold().constLast(), str("textLength,name,5 in NewProject"));
     editor.click("NewProject", "ok");
     QCOMPARE(editor.takeTold(), closed("NewProject") + opened("Copying"));
     QVERIFY(!editor->project()->isOpen());

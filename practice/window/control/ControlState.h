@@ -1,0 +1,10 @@
+#pragma once
+
+#include "window/control/ControlReader.h"
+
+/// Whether there is anything to do for the first command of the action; the others may need what it does.
+[[nodiscard]] bool canRun(const ControlAction &action, const EditorWindow *window);
+
+/// Makes the control of @p maker so that it is there only while the description has it shown, and grey while
+/// it is of no use: while what enables it does not hold, or what a click on it runs cannot run.
+[[nodiscard]] ControlMaker withState(const ControlMaker &maker, const ControlReader &reader);

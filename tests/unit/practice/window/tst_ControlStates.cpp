@@ -1,0 +1,194 @@
+#include "ControlBench.h"
+#include "window/control/TabRow.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
+
+/// When a control is there, when it is of use, and through which control something came about.
+class tst_ControlStates : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void controlsAreThereOnTheirTab();
+    void controlsAreThereForAValue();
+    void allRequirementsMustHold();
+    void controlsAreGreyForAValue();
+    void buttonsAreGreyWhileTheirCommandsCannotRun();
+    void severalCommandsRunInTurn();
+    void entriesAreAddedInTheWindowThatOpens();
+    void controlsTellThroughWhichTheyAct();
+    void windowsTellThroughWhichControlTheyOpenAndClose();
+    void everyControlIsAStopOfTheTabulatorKey();
+};
+
+void tst_ControlStates::controlsAreThereOnTheirTab()
+{
+    Bench bench;
+    auto *tabs =
+        bench.make<TabRow>(R"("type": "tabs", "source": "boxTab", "tabs": [TEXT, TEXT], "tabWidth": 40)");
+    auto *first = bench.make<QPushButton>(
+        R"("type": "button", "label": TEXT, "shownWhen": {"source": "boxTab", "rows": [0]})");
+    auto *second = bench.make<QPushButton>(
+        R"("type": "button", "label": TEXT, "shownWhen": {"source": "boxTab", "rows": [1]})");
+    bench.window.show();
+    QVERIFY(first->isVisible() && !second->isVisible());
+    tabs->setCurrentIndex(1);
+    QVERIFY(!first->isVisible() && second->isVisible());
+}
+
+void tst_ControlStates::controlsAreThereForAValue()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"effects": [{"hp": 30}]}, {"effects": []}])"));
+    auto *spin =
+        bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/effects/{effects}/@value",
+        "range": [0, 99],
+        "shownWhen": {"field": "data/Items/{items}/effects/{effects}/@name", "is": ["hp", "mp"]})");
+    bench.window.show();
+    QVERIFY(spin->isVisible());
+    const QString name = str("data/Items/{items}/effects/{effects}/@name");
+    bench.window.setField(name, str("addState"));
+    QVERIFY(!spin->isVisible());
+    bench.window.setField(name, str("mp"));
+    QVERIFY(spin->isVisible());
+    bench.window.setCurrentRow(str("data/Items"), 1);
+    QVERIFY(!spin->isVisible());
+}
+
+void tst_ControlStates::allRequirementsMustHold()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"a": 1}])"));
+    auto *button = bench.make<QPushButton>(R"("type": "button", "label": TEXT, "shownWhen": [
+        {"field": "data/Items/{items}/a", "is": [1]}, {"field": "data/Items/{items}/b", "is": [0]}])");
+    bench.window.show();
+    QVERIFY(button->isVisible());
+    bench.window.setField(str("data/Items/{items}/b"), 1);
+    QVERIFY(!button->isVisible());
+}
+
+void tst_ControlStates::controlsAreGreyForAValue()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"timed": false}])"));
+    auto *spin =
+        bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/turns", "range": [0, 9],
+        "enabledWhen": {"field": "data/Items/{items}/timed", "is": [true]})");
+    bench.window.show();
+    QVERIFY(spin->isVisible() && !spin->isEnabled());
+    bench.window.setField(str("data/Items/{items}/timed"), true);
+    QVERIFY(spin->isEnabled());
+}
+
+void tst_ControlStates::buttonsAreGreyWhileTheirCommandsCannotRun()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"effects": []}])"));
+    const auto make = [&bench](const char *command) {
+        return bench.make<QPushButton>(QByteArray(R"("type": "button", "label": TEXT, "click": {"run": ")") +
+                                       command + R"("})");
+    };
+    auto *undo = make("edit.undo");
+    auto *redo = make("edit.redo");
+    auto *remove = make("list.remove data/Items/{items}/effects");
+    auto *add = make("list.add data/Items/{items}/effects");
+    bench.window.show();
+    QVERIFY(!undo->isEnabled() && !redo->isEnabled() && !remove->isEnabled() && add->isEnabled());
+    add->click();
+    QVERIFY(undo->isEnabled() && !redo->isEnabled() && remove->isEnabled());
+    undo->click();
+    QVERIFY(!undo->isEnabled() && redo->isEnabled() && !remove->isEnabled());
+}
+
+void tst_ControlStates::severalCommandsRunInTurn()
+{
+    Bench bench;
+    QVERIFY(bench.setItems("[1, 2]"));
+    auto *button = bench.make<QPushButton>(R"("type": "button", "label": TEXT,
+        "click": {"run": ["list.add data/Items", "list.copy data/Items", "list.paste data/Items"], "entry": 7})");
+    bench.window.show();
+    button->click();
+    QCOMPARE(bench.value("data/Items.json", ""), QJsonValue(QJsonDocument::fromJson("[1, 7, 7, 2]").array()));
+}
+
+void tst_ControlStates::entriesAreAddedInTheWindowThatOpens()
+{
+    const ControlAction action{{}, false, str("MapProperties"), {str("list.add data/MapInfos")}, {}, 7};
+    Editor editor;
+    editor.openProject();
+    EditorWindow *main = editor->window(str("MainWindow"));
+    const QJsonValue before = editor->project()->files().file(str("data/MapInfos.json"));
+    main->act(action, QPoint());
+    EditorWindow *properties = editor->window(str("MapProperties"));
+    QCOMPARE(properties->layer().file(str("data/MapInfos.json")).toArray().last(), QJsonValue(7));
+    QCOMPARE(editor->project()->files().file(str("data/MapInfos.json")), before);
+}
+
+void tst_ControlStates::controlsTellThroughWhichTheyAct()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"price": 8}])"));
+    auto *spin = bench.make<QSpinBox>(
+        R"("type": "spinBox", "field": "data/Items/{items}/price", "range": [0, 99], "suffix": " G")");
+    auto *box =
+        bench.make<QCheckBox>(R"("type": "checkBox", "label": TEXT, "field": "data/Items/{items}/keyItem")");
+    auto *button = bench.make<QToolButton>(
+        R"("type": "toolButton", "label": TEXT, "icon": "save", "action": "fileSave", "actionState": "close")");
+    bench.window.show();
+    QTest::keyClick(spin, Qt::Key_Up);
+    QTest::keyClick(box, Qt::Key_Space);
+    button->click();
+    QCOMPARE(bench.told, (QStringList{str("spinBox,=,9 G by it -1"), str("checked,it,1 by it -1"),
+                                      str("action,fileSave,close by it -1")}));
+}
+
+void tst_ControlStates::windowsTellThroughWhichControlTheyOpenAndClose()
+{
+    Editor editor;
+    editor.openProject();
+    QStringList causes;
+    connect(editor.operator->(), &EditorWindows::happened, this, [&causes](const EditorEvent &event) {
+        if (event.type == str("windowState") || event.type == str("popup")) {
+            causes.append(str("%1 %2 by %3 %4 %5")
+                              .arg(event.target, event.value, event.cause.windowKey, event.cause.control,
+                                   QString::number(event.cause.part)));
+        }
+    });
+    editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+    editor.click("MapPopup", "mapProperties");
+    QTest::keyClick(editor->window(str("MapProperties")), Qt::Key_Return);
+    editor.doubleClickRow("MapEditTreeBox", "maps", 1);
+    QTest::keyClick(editor->window(str("MapProperties")), Qt::Key_Escape);
+    editor->open(str("MapLoader"));
+    editor->window(str("MapLoader"))->close();
+    QCOMPARE(causes,
+             (QStringList{str("MapPopup  by MapEditTreeBox maps 1"),
+                          str("MapProperties open by Menu MapPopup/mapProperties -1"),
+                          str("MapProperties close by MapProperties ok -1"),
+                          str("MapProperties open by MapEditTreeBox maps 1"),
+                          str("MapProperties close by MapProperties @dismiss -1"),
+                          str("MapLoader open by   -1"), str("MapLoader close by MapLoader @dismiss -1")}));
+}
+
+void tst_ControlStates::everyControlIsAStopOfTheTabulatorKey()
+{
+    Editor editor;
+    editor.openProject();
+    for (const char *key : {"FileDialog", "NewProject", "MapProperties", "ImageSelector", "MapLoader"}) {
+        const EditorWindow *window = editor->window(str(key));
+        const auto controls = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *control : controls) {
+            const bool isStop = control->focusPolicy() & Qt::TabFocus;
+            const bool isUsed =
+                qobject_cast<const QLabel *>(control) == nullptr && control->objectName() != str("preview");
+            QVERIFY2(isStop == isUsed, qPrintable(str(key) + QLatin1Char(' ') + control->objectName()));
+        }
+    }
+}
+
+QTEST_MAIN(tst_ControlStates)
+#include "tst_ControlStates.moc"
