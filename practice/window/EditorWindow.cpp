@@ -9,6 +9,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -189,6 +190,11 @@ void EditorWindow::keyPressEvent(QKeyEvent *event)
 
 void EditorWindow::paintEvent(QPaintEvent * /*event*/)
 {
+    // Its time begins when it is seen: a window that goes before the window manager has shown it may leave its
+    // frame on the screen.
+    if (std::exchange(m_isToBeSeen, false)) {
+        m_timer.start();
+    }
     if (!windowFlags().testFlag(Qt::FramelessWindowHint)) {
         return;
     }
@@ -209,9 +215,7 @@ void EditorWindow::resizeEvent(QResizeEvent *event)
 void EditorWindow::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (hasTimedAction() && !event->spontaneous()) {
-        m_timer.start();
-    }
+    m_isToBeSeen = m_isToBeSeen || (hasTimedAction() && !event->spontaneous());
     Q_EMIT refreshed();
 }
 
@@ -219,6 +223,7 @@ void EditorWindow::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     if (!event->spontaneous()) {
+        m_isToBeSeen = false;
         m_timer.stop();
     }
 }

@@ -112,4 +112,5 @@ private:
     QVector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;
+    bool m_isToBeSeen = false;
 };
