@@ -147,8 +147,8 @@ void tst_ChoiceControls::arrowKeysGoFromButtonToButton()
         R"("type": "radioButton", "label": TEXT, "index": 0, "field": "data/Items/{items}/scope", "value": 7)");
     auto *two = bench.make<QRadioButton>(
         R"("type": "radioButton", "label": TEXT, "index": 1, "field": "data/Items/{items}/scope", "value": 1)");
-    two->move(0, 40);
     bench.window.show();
+    two->move(0, 40);
     bench.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&bench.window));
     one->setFocus();
