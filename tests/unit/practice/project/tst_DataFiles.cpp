@@ -23,6 +23,7 @@ private Q_SLOTS:
     void typingThatEndsAsItBeganIsNoStep();
     void aPlaceThatIsNotThereIsNotChanged();
     void filesComeAndGo();
+    void stepsKeepWhatDiffers();
     void anySequenceIsUndoneAndRedone();
     void selectionsEndWithTheProject();
 };
@@ -168,6 +169,41 @@ void tst_DataFiles::filesComeAndGo()
 }
 
 /// Random steps, undone and redone at random, against a plain list of all states there were.
+void tst_DataFiles::stepsKeepWhatDiffers()
+{
+    constexpr int kCells = 20000;
+    constexpr int kStrokes = 200;
+    QJsonArray cells;
+    for (int cell = 0; cell < kCells; ++cell) {
+        cells.append(0);
+    }
+    open();
+    m_files->change({{kItems, QJsonObject{{QStringLiteral("data"), cells}}}}, QString());
+    const QJsonValue blank = m_files->file(kItems);
+    for (int stroke = 0; stroke < kStrokes; ++stroke) {
+        const QString key = QStringLiteral("stroke %1").arg(stroke);
+        for (int cell = 0; cell < 3; ++cell) {
+            QJsonObject file = m_files->file(kItems).toObject();
+            cells.replace(stroke * 7 + cell, stroke + 1);
+            file.insert(QStringLiteral("data"), cells);
+            m_files->change({{kItems, file}}, key);
+        }
+    }
+    QCOMPARE(m_files->history().count(), 1 + kStrokes);
+    // The first step replaces the list that the file was; each other one has three cells, before and after.
+    QVERIFY2(m_files->historySize() <= 2 * kCells + kStrokes * 6,
+             qPrintable(QString::number(m_files->historySize())));
+    const QJsonValue drawn = m_files->file(kItems);
+    while (m_files->history().index() > 1) {
+        m_files->undo();
+    }
+    QCOMPARE(m_files->file(kItems), blank);
+    while (m_files->history().canRedo()) {
+        m_files->redo();
+    }
+    QCOMPARE(m_files->file(kItems), drawn);
+}
+
 void tst_DataFiles::anySequenceIsUndoneAndRedone()
 {
     const QStringList names{kItems, kActors, QStringLiteral("data/Map001.json")};
