@@ -4,6 +4,7 @@ file(MAKE_DIRECTORY "${runtime_dir}")
 file(CHMOD "${runtime_dir}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 set(TUTORIAL_TEST_ENVIRONMENT
     "LC_ALL=C.UTF-8"
+    "XDG_DATA_HOME=${runtime_dir}/data"
     "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 

@@ -405,6 +405,7 @@ void LessonSession::sendStep()
         update.arrow = true;
         update.iconKind = LessonWords::iconKind(way ? way->icon : QString());
     }
+    m_hint = update.hint;
     m_screen.tell(update);
     Q_EMIT stepTold();
 }

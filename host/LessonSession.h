@@ -93,6 +93,8 @@ public:
     /// Where the bubble's window was sent last: for the present step, or before it when that one has no
     /// place; in global screen pixels. Nothing before the first lesson.
     [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_screen.place(); }
+    /// What the bubble says: the hint of the step, or of what leads back to it.
+    [[nodiscard]] QString hint() const { return m_hint; }
     /// Whether the present step points into a window that is not open.
     [[nodiscard]] bool lacksWindow() const;
     /// What the person has to open next for the present step: its window, or, as long as that one is opened
@@ -167,6 +169,7 @@ private:
     QTimer m_handOver;
     QTimer m_glide;
     QString m_lessonName;
+    QString m_hint;
     /// As the companion has listed them.
     QStringList m_listed;
     /// What was handed over last, and for which lesson.

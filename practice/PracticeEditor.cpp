@@ -1,7 +1,11 @@
 #include "PracticeEditor.h"
 
+#include "strip/LessonStrip.h"
+#include "strip/StripControl.h"
+#include "window/Blink.h"
 #include "window/EditorWindows.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -9,7 +13,8 @@
 
 namespace {
 
-constexpr QPoint kPanelPlace(490, 40);
+/// From the corner of the bubble's window to where its text stands.
+constexpr QPoint kBubbleText(250, 200);
 
 void printLine(FILE *stream, const QString &line)
 {
@@ -23,24 +28,21 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     : m_options(options)
     , m_windows(std::move(windows))
     , m_session(m_windows.get())
+    , m_course(&m_session, options.locale, options.progressFolder)
+    , m_strip(new LessonStrip)
+    , m_control(new StripControl(&m_session, &m_course, m_strip, this))
     , m_link(options.companionProgram, options.key, options.locale)
 {
-    if (options.lesson > 0) {
-        m_lessonName = QStringLiteral("TutorialStep%1").arg(options.lesson);
-    }
-    connect(m_windows.get(), &EditorWindows::mainWindowClosed, this, [this] { Q_EMIT ended(0); });
-    connect(m_windows.get(), &EditorWindows::visibilityChanged, &m_panel, &QWidget::setVisible);
-    connect(&m_panel, &LessonPanel::lessonChosen, this, &PracticeEditor::play);
-    connect(&m_panel, &LessonPanel::skipRequested, this, [this] { m_session.skipStep(); });
-    connect(&m_link, &HostLink::connected, this, &PracticeEditor::onConnected);
-    connect(&m_link, &HostLink::received, &m_session, &LessonSession::receive);
-    connect(&m_link, &HostLink::problemFound, &m_session, &LessonSession::problemFound);
-    connect(&m_link, &HostLink::lost, this, &PracticeEditor::onLost);
-    connect(&m_link, &HostLink::silenceChanged, &m_panel, &LessonPanel::setSilent);
+    m_windows->dock(m_strip);
+    m_windows->setUnattended(options.unattended);
     if (!options.projectsFolder.isEmpty()) {
         m_windows->setProjectsFolder(options.projectsFolder);
     }
+    connect(m_windows.get(), &EditorWindows::mainWindowClosed, this, [this] { Q_EMIT ended(0); });
+    connect(m_windows.get(), &EditorWindows::problemFound, this, &PracticeEditor::tellPerson);
+    connectLink();
     connectSession();
+    connectStrip();
     connectProject();
 }
 
@@ -57,8 +59,6 @@ bool PracticeEditor::start(QString *error)
         *error = QStringLiteral("The main window has no description.");
         return false;
     }
-    m_panel.move(kPanelPlace);
-    m_panel.show();
     return startLink(error);
 }
 
@@ -70,52 +70,61 @@ bool PracticeEditor::startLink(QString *error)
     }
     if (failure.what == HostLink::Failure::What::kListen) {
         //: %1 is the name of a local server, %2 the system's reason.
-        *error = tr("The editor cannot listen on \"%1\": %2. Start it again with another --key, or without "
+        *error = tr("The editor cannot listen on “%1”: %2. Start it again with another --key, or without "
                     "one.")
                      .arg(failure.name, failure.reason);
     } else {
         //: The guide is the companion program; %1 is its path, %2 the system's reason.
-        *error = tr("The guide \"%1\" does not start: %2. Build the target Tutorial, or name the program "
+        *error = tr("The guide “%1” does not start: %2. Build the target Tutorial, or name the program "
                     "with --companion.")
                      .arg(failure.name, failure.reason);
     }
     return false;
 }
 
-void PracticeEditor::connectSession()
+void PracticeEditor::connectLink()
 {
+    connect(&m_link, &HostLink::connected, this, &PracticeEditor::onConnected);
+    connect(&m_link, &HostLink::received, &m_session, &LessonSession::receive);
+    connect(&m_link, &HostLink::problemFound, &m_session, &LessonSession::problemFound);
+    connect(&m_link, &HostLink::lost, this, &PracticeEditor::onLost);
+    connect(&m_link, &HostLink::silenceChanged, m_control, &StripControl::setSilent);
     connect(&m_session, &LessonSession::sends, &m_link, &HostLink::send);
-    connect(&m_session, &LessonSession::problemFound, this,
-            [](const QString &problem) { printLine(stderr, problem); });
-    connect(&m_session, &LessonSession::lessonsListed, this,
-            [this](const QVector<LessonSession::Lesson> &lessons) {
-                m_panel.setLessons(lessons);
-                if (!m_lessonName.isEmpty()) {
-                    m_session.request(m_lessonName);
-                }
-            });
-    connect(&m_session, &LessonSession::stepTold, this, &PracticeEditor::showStep);
-    // On the way back to the step's window.
-    connect(m_windows.get(), &EditorWindows::pushed, this, &PracticeEditor::showStep);
-    connect(m_windows.get(), &EditorWindows::popped, this, &PracticeEditor::showStep);
-    connect(&m_session, &LessonSession::finished, this, [this] {
-        m_lessonName.clear();
-        m_panel.showFinished();
-    });
-    connect(&m_session, &LessonSession::refused, &m_panel, &LessonPanel::showRefused);
 }
 
-void PracticeEditor::showStep()
+void PracticeEditor::connectSession()
 {
-    const ScenarioRunner &runner = m_session.runner();
-    if (!runner.isRunning()) {
-        return;
-    }
-    m_panel.showStep(m_session.lessonName(), runner.index() + 1, runner.scenario().size());
-    const QString toOpen = m_session.windowToOpen();
-    if (!toOpen.isEmpty()) {
-        m_panel.showClosed(m_windows->title(toOpen));
-    }
+    connect(&m_session, &LessonSession::problemFound, this,
+            [](const QString &problem) { printLine(stderr, problem); });
+    connect(&m_session, &LessonSession::stopped, this, [this](const LessonFault &fault) {
+        printLine(stderr, fault.message());
+        //: %1 is the title of a lesson, %2 the number of one of its steps, %3 a word of its script.
+        tellPerson(tr("“%1” cannot be played: its step %2 has the word “%3”, which this editor does not "
+                      "know. Install "
+                      "the newest version of the editor, or tell whoever wrote the lesson.")
+                       .arg(m_course.entry(fault.lesson).title)
+                       .arg(fault.item)
+                       .arg(fault.word));
+    });
+    connect(&m_session, &LessonSession::lessonsListed, this, &PracticeEditor::onListed);
+    connect(&m_session, &LessonSession::showRequested, this, [this](const ControlSpot &spot) {
+        if (const std::optional<QRect> rect = m_windows->rectOf(spot)) {
+            Blink::around(*rect);
+        }
+    });
+    connect(&m_course, &LessonCourse::lessonWanted, this, &PracticeEditor::onLessonWanted);
+    connect(&m_course, &LessonCourse::problemFound, this, &PracticeEditor::tellPerson);
+}
+
+void PracticeEditor::connectStrip()
+{
+    connect(m_strip, &LessonStrip::used, this, &PracticeEditor::returnFocus);
+    connect(m_control, &StripControl::praised, this, [this](const QString &praise) {
+        // Where the person has just read the last hint.
+        if (const std::optional<QPoint> bubble = m_session.bubblePlace()) {
+            m_link.send(HostCommands::showTooltip(praise, *bubble + kBubbleText));
+        }
+    });
 }
 
 void PracticeEditor::connectProject()
@@ -133,7 +142,6 @@ void PracticeEditor::connectProject()
                 QStringLiteral("The project of the lesson stands in %1").arg(m_windows->projectFolder()));
         }
     });
-    connect(m_windows.get(), &EditorWindows::problemFound, this, &PracticeEditor::tellPerson);
     connect(&m_lessonProject, &LessonProject::failed, this, &PracticeEditor::tellPerson);
 }
 
@@ -143,19 +151,53 @@ void PracticeEditor::onConnected()
     m_session.greet(m_options.locale);
 }
 
+void PracticeEditor::onListed()
+{
+    if (!m_course.wanted().isEmpty()) {
+        m_course.ask(); // the companion was started again
+        return;
+    }
+    if (std::exchange(m_isBegun, true)) {
+        return;
+    }
+    const QString lesson =
+        m_options.lesson > 0 ? QStringLiteral("TutorialStep%1").arg(m_options.lesson) : QString();
+    if (lesson.isEmpty() || m_course.entry(lesson).progress.step > 0) {
+        m_control->openChooser(lesson); // which one, or from where
+    } else {
+        m_course.begin(lesson);
+    }
+}
+
+void PracticeEditor::onLessonWanted()
+{
+    m_session.stop();
+    closeDialogs();
+    if (m_link.isConnected()) {
+        m_course.ask();
+    } else {
+        restartCompanion();
+    }
+}
+
 void PracticeEditor::onLost(const QString &lastWords)
 {
     m_session.abandon();
+    m_control->showLost();
     printLine(stderr, QStringLiteral("The companion ended unexpectedly. Its last lines were:\n") + lastWords);
     Q_EMIT troubled(QStringLiteral("the companion ended"));
     if (m_options.unattended) {
         return;
     }
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"),
-                                //: Asks whether the guide is to be started again.
-                                tr("The guide ended unexpectedly. Your project is not affected.\n"
-                                   "Restart it? The lesson begins again."));
+                                tr("The guide ended unexpectedly. Your project is not affected."),
+                                QMessageBox::NoButton, m_strip->window());
     box->setObjectName(QStringLiteral("lostMessageBox"));
+    box->setInformativeText(m_course.wanted().isEmpty()
+                                //: Asks whether the guide is to be started again.
+                                ? tr("Restart it?")
+                                //: Asks whether the guide is to be started again.
+                                : tr("Restart it? The lesson goes on at the step where you are."));
     box->setAttribute(Qt::WA_DeleteOnClose);
     //: A button: start the guide again.
     QPushButton *const restart = box->addButton(tr("Restart"), QMessageBox::AcceptRole);
@@ -166,7 +208,6 @@ void PracticeEditor::onLost(const QString &lastWords)
             restartCompanion();
         }
     });
-    m_lostBox = box;
     box->open();
 }
 
@@ -194,22 +235,21 @@ void PracticeEditor::tellPerson(const QString &text)
         return;
     }
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"), tr("Something went wrong."),
-                                QMessageBox::Ok);
+                                QMessageBox::Ok, m_strip->window());
     box->setInformativeText(text);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }
 
-void PracticeEditor::play(const QString &lessonName)
+void PracticeEditor::returnFocus()
 {
-    m_lessonName = lessonName;
-    if (m_lostBox != nullptr) {
-        m_lostBox->close();
+    if (QApplication::activeModalWidget() != nullptr) {
+        return; // a question, or the list of lessons
     }
-    closeDialogs();
-    if (m_link.isConnected()) {
-        m_session.request(lessonName);
-    } else {
-        restartCompanion();
+    const QStringList open = m_windows->openWindows();
+    for (int i = open.size() - 1; i >= 0; --i) {
+        if (m_windows->open(open.at(i))) {
+            return; // a popup cannot be opened by its key
+        }
     }
 }

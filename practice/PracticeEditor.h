@@ -1,17 +1,17 @@
 #pragma once
 
-#include "LessonPanel.h"
 #include "host/HostLink.h"
 #include "host/LessonSession.h"
 #include "project/LessonProject.h"
+#include "strip/LessonCourse.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
 class EditorWindows;
-class QMessageBox;
+class LessonStrip;
+class StripControl;
 
 /// The practice editor as a whole: joins the windows, the link and the lesson.
 class PracticeEditor : public QObject
@@ -21,7 +21,7 @@ class PracticeEditor : public QObject
 public:
     struct Options
     {
-        /// Number of the lesson to begin with; 0 lets the person choose.
+        /// Number of the lesson to play; 0 lets the person choose.
         int lesson = 0;
         QString locale;
         /// Nobody is there to answer a message box: what goes wrong is told by troubled() alone.
@@ -31,6 +31,8 @@ public:
         QString key;
         /// Where new projects are offered to go; empty for the windows' own choice.
         QString projectsFolder;
+        /// Where the progress of the lessons is kept from run to run; empty: nowhere.
+        QString progressFolder;
     };
 
     PracticeEditor(const Options &options, std::unique_ptr<EditorWindows> windows);
@@ -56,24 +58,29 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] bool startLink(QString *error);
+    void connectLink();
     void connectSession();
+    void connectStrip();
     void connectProject();
-    void showStep();
     void onConnected();
+    void onListed();
+    void onLessonWanted();
     void onLost(const QString &lastWords);
     void restartCompanion();
     void tellPerson(const QString &text);
     void closeDialogs();
-    void play(const QString &lessonName);
+    /// The keyboard goes to the window in which the person works.
+    void returnFocus();
 
     Options m_options;
     std::unique_ptr<EditorWindows> m_windows;
     LessonSession m_session;
-    LessonPanel m_panel;
+    LessonCourse m_course;
+    /// Below the contents of the main window, which owns it.
+    LessonStrip *m_strip;
+    StripControl *m_control;
     LessonProject m_lessonProject;
     HostLink m_link;
-    /// Asks about a companion that is gone.
-    QPointer<QMessageBox> m_lostBox;
-    /// The lesson to ask for once the companion is there.
-    QString m_lessonName;
+    /// What the person wanted from the start has been seen to.
+    bool m_isBegun = false;
 };

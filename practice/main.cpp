@@ -214,6 +214,9 @@ int main(int argc, char **argv)
                                  ? pilotProjects.path()
                                  : QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
                                        .filePath(QStringLiteral("Practice projects"));
+    if (!options.unattended) {
+        options.progressFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    }
 
     QStringList errors;
     std::unique_ptr<EditorWindows> windows = EditorWindowSet::create(options.locale, &errors);

@@ -42,45 +42,99 @@
     </message>
 </context>
 <context>
-    <name>LessonPanel</name>
+    <name>LessonChooser</name>
     <message>
         <source>Start</source>
+        <extracomment>A button: begin the lesson.</extracomment>
         <translation>始める</translation>
     </message>
     <message>
-        <source>Skip step</source>
-        <translation>この手順を飛ばす</translation>
+        <source>Go on</source>
+        <extracomment>A button: go on with the lesson where it was left.</extracomment>
+        <translation>続きから</translation>
     </message>
     <message>
         <source>Lessons</source>
         <translation>レッスン</translation>
     </message>
     <message>
-        <source>Start again</source>
-        <translation>最初から</translation>
+        <source>Lesson</source>
+        <translation>レッスン</translation>
     </message>
     <message>
-        <source>Step %1 of %2</source>
-        <extracomment>How far the lesson is: %1 is the number of the step, %2 how many there are.</extracomment>
+        <source>What you do in it</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <extracomment>Head of a column: how long a lesson takes.</extracomment>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <extracomment>Head of a column: how far the person has come in a lesson.</extracomment>
+        <translation>進み具合</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>A button: leave the list of lessons.</extracomment>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>✓ done</source>
+        <extracomment>The person has played the lesson to its end.</extracomment>
+        <translation>✓ 修了</translation>
+    </message>
+    <message>
+        <source>step %1 of %2</source>
+        <extracomment>The lesson goes on here: %1 is the number of the step, %2 how many there are.</extracomment>
         <translation>手順 %1 / %2</translation>
     </message>
     <message>
-        <source>Open &quot;%1&quot; again, or skip the step.</source>
-        <extracomment>%1 is the title of a window that the person has closed.</extracomment>
-        <translation>「%1」をもう一度開くか、手順を飛ばしてください。</translation>
+        <source>not there yet</source>
+        <extracomment>The lesson does not exist yet.</extracomment>
+        <translation>準備中</translation>
     </message>
     <message>
-        <source>The lesson is finished.</source>
-        <translation>レッスンが終わりました。</translation>
+        <source>cannot be opened</source>
+        <extracomment>The lesson is not in the program.</extracomment>
+        <translation>開けません</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>%1 min</source>
+        <extracomment>How long a lesson takes.</extracomment>
+        <translation>%1分</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <extracomment>A button: begin the lesson anew.</extracomment>
+        <translation>最初から</translation>
+    </message>
+</context>
+<context>
+    <name>LessonCourse</name>
+    <message>
+        <source>“%1” cannot go on where it was left: the project in which you were is gone or has changed. It begins again.</source>
         <extracomment>%1 is the title of a lesson.</extracomment>
-        <translation>「%1」を開けません。</translation>
+        <translation>「%1」をやめた所から続けられません。使っていたプロジェクトがなくなったか、変わったためです。レッスンは最初から始まります。</translation>
+    </message>
+</context>
+<context>
+    <name>LessonProgress</name>
+    <message>
+        <source>Your progress cannot be read from “%1” (%2). Permit reading the file and start the editor again.</source>
+        <extracomment>%1 is the path of a file, %2 the system&apos;s reason.</extracomment>
+        <translation>進み具合を「%1」から読み込めません（%2）。ファイルの読み取りを許可してから、エディターをもう一度起動してください。</translation>
     </message>
     <message>
-        <source>The guide does not answer.</source>
-        <translation>ガイドが応答しません。</translation>
+        <source>The file “%1” with your progress is damaged, so the lessons begin anew. It is kept as “%2”.</source>
+        <extracomment>%1 and %2 are paths of files.</extracomment>
+        <translation>進み具合のファイル「%1」が壊れているため、レッスンは最初から始まります。ファイルは「%2」として残してあります。</translation>
+    </message>
+    <message>
+        <source>Your progress cannot be kept in “%1” (%2). Make room on the disk, or permit writing. You can play on meanwhile.</source>
+        <extracomment>%1 is the path of a file, %2 the system&apos;s reason.</extracomment>
+        <translation>進み具合を「%1」に保存できません（%2）。ディスクの空きを増やすか、書き込みを許可してください。レッスンはこのまま続けられます。</translation>
     </message>
 </context>
 <context>
@@ -92,24 +146,83 @@
     </message>
 </context>
 <context>
+    <name>LessonStrip</name>
+    <message>
+        <source>Lessons…</source>
+        <extracomment>Opens the list of lessons.</extracomment>
+        <translation>レッスン一覧…</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>最初から</translation>
+    </message>
+    <message>
+        <source>Leave lesson</source>
+        <translation>レッスンをやめる</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>One step back.</extracomment>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <extracomment>As on the button beside the bubble.</extracomment>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <extracomment>As on the button beside the bubble.</extracomment>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <extracomment>As on the button beside the bubble.</extracomment>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Show me</source>
+        <extracomment>Help: the arrow shows the place again; pressed once more, the step is done for the person.</extracomment>
+        <translation>教えて</translation>
+    </message>
+    <message>
+        <source>Put it back</source>
+        <extracomment>Makes everything as it was when the step began.</extracomment>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Skip step</source>
+        <extracomment>The step is done for the person, and the lesson goes on.</extracomment>
+        <translation>この手順を飛ばす</translation>
+    </message>
+    <message>
+        <source>Next lesson</source>
+        <translation>次のレッスン</translation>
+    </message>
+    <message>
+        <source>Progress of the lesson</source>
+        <translation>レッスンの進み具合</translation>
+    </message>
+    <message>
+        <source>Picture of dragging: press the mouse button, move, let go</source>
+        <translation>ドラッグの絵：マウスのボタンを押し、動かして、離す</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>How far the lesson is: %1 is the number of the step, %2 how many there are.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>あと約%1分</translation>
+    </message>
+    <message>
+        <source>about a minute left</source>
+        <translation>あと約1分</translation>
+    </message>
+</context>
+<context>
     <name>PracticeEditor</name>
-    <message>
-        <source>The editor cannot listen on &quot;%1&quot;: %2. Start it again with another --key, or without one.</source>
-        <extracomment>%1 is the name of a local server, %2 the system&apos;s reason.</extracomment>
-        <translation>「%1」で接続を待てません（%2）。別の --key を付けるか、--key を付けずに、もう一度起動してください。</translation>
-    </message>
-    <message>
-        <source>The guide &quot;%1&quot; does not start: %2. Build the target Tutorial, or name the program with --companion.</source>
-        <extracomment>The guide is the companion program; %1 is its path, %2 the system&apos;s reason.</extracomment>
-        <translation>ガイド「%1」を起動できません（%2）。ターゲット Tutorial をビルドするか、--companion でプログラムを指定してください。</translation>
-    </message>
-    <message>
-        <source>The guide ended unexpectedly. Your project is not affected.
-Restart it? The lesson begins again.</source>
-        <extracomment>Asks whether the guide is to be started again.</extracomment>
-        <translation>ガイドが突然終了しました。プロジェクトには影響ありません。
-もう一度起動しますか？レッスンは最初から始まります。</translation>
-    </message>
     <message>
         <source>Restart</source>
         <extracomment>A button: start the guide again.</extracomment>
@@ -127,6 +240,33 @@ Restart it? The lesson begins again.</source>
     <message>
         <source>Practice editor</source>
         <translation>練習用エディター</translation>
+    </message>
+    <message>
+        <source>The editor cannot listen on “%1”: %2. Start it again with another --key, or without one.</source>
+        <extracomment>%1 is the name of a local server, %2 the system&apos;s reason.</extracomment>
+        <translation>「%1」で接続を待てません（%2）。別の --key を付けるか、--key を付けずに、もう一度起動してください。</translation>
+    </message>
+    <message>
+        <source>The guide “%1” does not start: %2. Build the target Tutorial, or name the program with --companion.</source>
+        <extracomment>The guide is the companion program; %1 is its path, %2 the system&apos;s reason.</extracomment>
+        <translation>ガイド「%1」を起動できません（%2）。ターゲット Tutorial をビルドするか、--companion でプログラムを指定してください。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be played: its step %2 has the word “%3”, which this editor does not know. Install the newest version of the editor, or tell whoever wrote the lesson.</source>
+        <extracomment>%1 is the title of a lesson, %2 the number of one of its steps, %3 a word of its script.</extracomment>
+        <translation>「%1」は再生できません。手順%2に、このエディターの知らない語「%3」があります。最新版のエディターを入れるか、レッスンの作者に知らせてください。</translation>
+    </message>
+    <message>
+        <source>The guide ended unexpectedly. Your project is not affected.</source>
+        <translation>ガイドが突然終了しました。プロジェクトには影響ありません。</translation>
+    </message>
+    <message>
+        <source>Restart it?</source>
+        <translation>もう一度起動しますか？</translation>
+    </message>
+    <message>
+        <source>Restart it? The lesson goes on at the step where you are.</source>
+        <translation>もう一度起動しますか？レッスンは今の手順から続きます。</translation>
     </message>
 </context>
 <context>
@@ -170,6 +310,65 @@ Restart it? The lesson begins again.</source>
         <source>The project&apos;s folder &quot;%1&quot; cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
         <extracomment>%1 is a folder.</extracomment>
         <translation>プロジェクトのフォルダー「%1」を読み込めません。中のファイルを一覧する許可がないためです。許可してから、もう一度プロジェクトを開いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>StripControl</name>
+    <message>
+        <source>The guide does not answer.</source>
+        <translation>ガイドが応答しません。</translation>
+    </message>
+    <message>
+        <source>In the lessons you make a game step by step. Choose one with “Lessons…”.</source>
+        <extracomment>&quot;Lessons…&quot; is a button.</extracomment>
+        <translation>レッスンでは、ゲームを少しずつ作っていきます。「レッスン一覧…」から選んでください。</translation>
+    </message>
+    <message>
+        <source>The lesson is being opened…</source>
+        <translation>レッスンを開いています…</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened. Choose another lesson with “Lessons…”.</source>
+        <extracomment>%1 is the title of a lesson. &quot;Lessons…&quot; is a button.</extracomment>
+        <translation>「%1」を開けません。「レッスン一覧…」から別のレッスンを選んでください。</translation>
+    </message>
+    <message>
+        <source>You have left the lesson. It goes on at step %1: choose it with “Lessons…”, then “Go on”.</source>
+        <extracomment>&quot;Lessons…&quot; and &quot;Go on&quot; are buttons. %1 is the number of a step.</extracomment>
+        <translation>レッスンをやめました。「レッスン一覧…」で選んで「続きから」をクリックすると、手順%1から続きます。</translation>
+    </message>
+    <message>
+        <source>You have left the lesson. Choose another one with “Lessons…”.</source>
+        <translation>レッスンをやめました。「レッスン一覧…」から別のレッスンを選べます。</translation>
+    </message>
+    <message>
+        <source>The guide is gone. To go on with a lesson, choose it with “Lessons…”.</source>
+        <extracomment>The guide is the companion program. &quot;Lessons…&quot; is a button.</extracomment>
+        <translation>ガイドが終了しました。続けるには、「レッスン一覧…」でレッスンを選んでください。</translation>
+    </message>
+    <message>
+        <source>Well done! You have finished “%1”.</source>
+        <extracomment>%1 is the title of a lesson.</extracomment>
+        <translation>お疲れさまでした！「%1」を修了しました。</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <extracomment>A button: begin the lesson anew.</extracomment>
+        <translation>最初から</translation>
+    </message>
+    <message>
+        <source>Start “%1” again from the beginning? You are at step %2.</source>
+        <extracomment>%1 is the title of a lesson, %2 the number of a step.</extracomment>
+        <translation>「%1」を最初から始めますか？今は手順%2です。</translation>
+    </message>
+    <message>
+        <source>What you have made so far stays in your project.</source>
+        <translation>これまでに作ったものは、プロジェクトに残ります。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>A button: nothing changes.</extracomment>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "PracticeEditor.h"
 #include "PracticeTranslator.h"
+#include "host/LessonHistory.h"
 #include "window/EditorWindowSet.h"
 
 #include <QDir>
@@ -64,7 +65,9 @@ private Q_SLOTS:
     void aKilledCompanionIsRestartedOnRequest();
     void aLossIsToldInThePersonsLanguage_data();
     void aLossIsToldInThePersonsLanguage();
-    void startAgainBringsALostCompanionBack();
+    void aLessonThatIsChosenBringsALostCompanionBack();
+    void aLessonGoesOnAtItsStepWhenTheCompanionDied();
+    void aLessonGoesOnAtItsStepInTheNextRun();
     void aMissingCompanionIsSaid();
     void wrongOptionsAreSaid_data();
     void wrongOptionsAreSaid();
@@ -75,6 +78,8 @@ private:
     /// The message box that is open; nullptr when there is none.
     static QMessageBox *messageBox();
     static QAbstractButton *acceptButton(const QMessageBox &box);
+    /// Presses the button with this name, wherever it is.
+    static void press(const char *name);
 };
 
 PracticeEditor::Options tst_PracticeLife::options()
@@ -108,6 +113,18 @@ QAbstractButton *tst_PracticeLife::acceptButton(const QMessageBox &box)
     return nullptr;
 }
 
+void tst_PracticeLife::press(const char *name)
+{
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (const QWidget *widget : topLevels) {
+        if (auto *button = widget->findChild<QAbstractButton *>(QString::fromLatin1(name))) {
+            button->click();
+            return;
+        }
+    }
+    QFAIL(name);
+}
+
 void tst_PracticeLife::closingTheEditorEndsTheCompanion()
 {
     qint64 companion = 0;
@@ -121,7 +138,7 @@ void tst_PracticeLife::closingTheEditorEndsTheCompanion()
         QSignalSpy ended(&editor, &PracticeEditor::ended);
         const QWidgetList topLevels = QApplication::topLevelWidgets();
         for (QWidget *widget : topLevels) {
-            if (widget->objectName() == QLatin1String("MainWindow")) {
+            if (widget->findChild<QWidget *>(QStringLiteral("MainWindow")) != nullptr) {
                 widget->close();
             }
         }
@@ -242,7 +259,7 @@ void tst_PracticeLife::aLossIsToldInThePersonsLanguage()
     QTRY_VERIFY_WITH_TIMEOUT(messageBox() == nullptr, kSoonMs);
 }
 
-void tst_PracticeLife::startAgainBringsALostCompanionBack()
+void tst_PracticeLife::aLessonThatIsChosenBringsALostCompanionBack()
 {
     PracticeEditor editor(options(), windows());
     QString error;
@@ -250,18 +267,56 @@ void tst_PracticeLife::startAgainBringsALostCompanionBack()
     QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
     end(childrenOf(QCoreApplication::applicationPid()).value(0), SIGKILL);
     QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr, kSoonMs);
-    QAbstractButton *start = nullptr;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *widget : topLevels) {
-        if (start == nullptr) {
-            start = widget->findChild<QAbstractButton *>(QStringLiteral("startButton"));
-        }
-    }
-    QVERIFY(start != nullptr);
-    start->click();
+    messageBox()->reject(); // on without the guide
     QTRY_VERIFY_WITH_TIMEOUT(messageBox() == nullptr, kSoonMs);
+    press("lessonsButton");
+    press("beginButton");
     QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
     QCOMPARE(childrenOf(QCoreApplication::applicationPid()).size(), 1);
+}
+
+void tst_PracticeLife::aLessonGoesOnAtItsStepWhenTheCompanionDied()
+{
+    PracticeEditor editor(options(), windows());
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    press("nextButton");
+    QTRY_COMPARE_WITH_TIMEOUT(editor.session().runner().index(), 1, kSoonMs);
+    // A place is kept once the step has begun, at the end of the turn.
+    QTRY_COMPARE_WITH_TIMEOUT(LessonHistory::stepOf(editor.session().bookmark()), 2, kSoonMs);
+    end(childrenOf(QCoreApplication::applicationPid()).value(0), SIGKILL);
+    QTRY_VERIFY_WITH_TIMEOUT(messageBox() != nullptr, kSoonMs);
+    acceptButton(*messageBox())->click();
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    QCOMPARE(editor.session().runner().index(), 1);
+}
+
+void tst_PracticeLife::aLessonGoesOnAtItsStepInTheNextRun()
+{
+    const QTemporaryDir folder;
+    PracticeEditor::Options kept = options();
+    kept.progressFolder = folder.path();
+    const QString progress = folder.filePath(QStringLiteral("progress.json"));
+    {
+        PracticeEditor editor(kept, windows());
+        QString error;
+        QVERIFY2(editor.start(&error), qPrintable(error));
+        QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+        press("nextButton");
+        press("skipButton");
+        QTRY_COMPARE_WITH_TIMEOUT(editor.session().runner().index(), 2, kSoonMs);
+        QTRY_VERIFY_WITH_TIMEOUT(contentsOf(progress).contains("\"step\":3"), kSoonMs);
+    }
+    PracticeEditor editor(kept, windows());
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    // It asks: from where?
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() != nullptr, kSoonMs);
+    QVERIFY(!editor.session().runner().isRunning());
+    press("goOnButton");
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    QCOMPARE(editor.session().runner().index(), 2);
 }
 
 void tst_PracticeLife::aMissingCompanionIsSaid()

@@ -36,7 +36,7 @@ QStringList problemsOf(const QByteArray &catalogue)
 
 QByteArray catalogueWith(const QString &source, const QString &translation)
 {
-    return QStringLiteral("<context><name>LessonPanel</name><message><source>%1</source>"
+    return QStringLiteral("<context><name>LessonStrip</name><message><source>%1</source>"
                           "<translation>%2</translation></message></context></TS>")
         .arg(source, translation)
         .toUtf8();
@@ -91,14 +91,14 @@ void tst_PracticeTexts::aMistakeInACatalogueIsFound_data()
     QTest::addColumn<QString>("problem");
     QTest::newRow("a text that is gone from the sources")
         << catalogueWith(QStringLiteral("Nobody says this."), QStringLiteral("x"))
-        << QStringLiteral("vanished LessonPanel: Nobody says this.");
+        << QStringLiteral("vanished LessonStrip: Nobody says this.");
     QTest::newRow("a text without a translation")
-        << catalogueWith(QStringLiteral("Start"), QString()) << QStringLiteral("empty LessonPanel: Start");
+        << catalogueWith(QStringLiteral("Back"), QString()) << QStringLiteral("empty LessonStrip: Back");
     QTest::newRow("a text that leaves a value out")
-        << catalogueWith(QStringLiteral("Step %1 of %2"), QStringLiteral("%2"))
-        << QStringLiteral("other values in LessonPanel: Step %1 of %2");
-    QTest::newRow("a text that is missing") << catalogueWith(QStringLiteral("Start"), QStringLiteral("x"))
-                                            << QStringLiteral("unfinished LessonPanel: Lessons");
+        << catalogueWith(QStringLiteral("%1 of %2"), QStringLiteral("%2"))
+        << QStringLiteral("other values in LessonStrip: %1 of %2");
+    QTest::newRow("a text that is missing") << catalogueWith(QStringLiteral("Back"), QStringLiteral("x"))
+                                            << QStringLiteral("unfinished LessonStrip: Leave lesson");
 }
 
 void tst_PracticeTexts::aMistakeInACatalogueIsFound()
