@@ -56,7 +56,7 @@ public:
     [[nodiscard]] int size() const
     {
         int size = 0;
-        for (const JsonDelta &delta : m_deltas) {
+        for (const JsonDelta &delta : qAsConst(m_deltas)) {
             size += delta.size();
         }
         return size;
