@@ -1,6 +1,8 @@
 #include "window/EditorWindow.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -32,6 +34,11 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
         resize(size);
     }
     takePixelFont(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *left, const QWidget *taken) {
+        if ((left != nullptr && isAncestorOf(left)) || (taken != nullptr && isAncestorOf(taken))) {
+            update();
+        }
+    });
     connect(project, &Project::changed, this, [this] {
         if (isVisible()) {
             Q_EMIT refreshed();
@@ -190,17 +197,22 @@ void EditorWindow::keyPressEvent(QKeyEvent *event)
 
 void EditorWindow::paintEvent(QPaintEvent * /*event*/)
 {
-    // Its time begins when it is seen: a window that goes before the window manager has shown it may leave its
-    // frame on the screen.
+    // Its time begins when it is seen: a window that goes before the window manager has shown it may leave
+    // its frame on the screen.
     if (std::exchange(m_isToBeSeen, false)) {
         m_timer.start();
     }
-    if (!windowFlags().testFlag(Qt::FramelessWindowHint)) {
-        return;
-    }
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Dark));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (windowFlags().testFlag(Qt::FramelessWindowHint)) {
+        painter.setPen(palette().color(QPalette::Dark));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    // A list without a frame looks the same with the focus and without.
+    const QWidget *const focus = QApplication::focusWidget();
+    if (qobject_cast<const QAbstractItemView *>(focus) != nullptr && focus->parentWidget() == this) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(focus->geometry().adjusted(-1, -1, 1, 1));
+    }
 }
 
 void EditorWindow::resizeEvent(QResizeEvent *event)

@@ -54,7 +54,10 @@ int MainFrame::heightAbove(int width) const
 
 int MainFrame::heightBelow() const
 {
-    return m_strip != nullptr ? m_strip->sizeHint().height() : 0;
+    if (m_strip == nullptr) {
+        return 0;
+    }
+    return qBound(m_strip->minimumHeight(), m_strip->sizeHint().height(), m_strip->maximumHeight());
 }
 
 void MainFrame::fit(const QPoint &place, const QSize &size, const QRect &screen)

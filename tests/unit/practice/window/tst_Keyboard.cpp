@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aGameIsMadeByKeysAlone();
     void dialogsOpenWithTheirFirstField_data();
     void dialogsOpenWithTheirFirstField();
+    void aListShowsThatItHasTheFocus();
     void tabGoesThroughTheControlsInOrder();
     void returnPressesTheButtonWithTheFocus();
     void theMenuKeyOpensTheMenuOfTheRow();
@@ -125,6 +126,21 @@ void tst_Keyboard::dialogsOpenWithTheirFirstField()
         Editor::key(Qt::Key_Escape);
         QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
     }
+}
+
+void tst_Keyboard::aListShowsThatItHasTheFocus()
+{
+    Editor editor;
+    editor.openProject();
+    const auto *maps = editor.find<RowList>("MapEditTreeBox", "maps");
+    const auto edge = [&editor, maps] {
+        const QPoint above(maps->geometry().center().x(), maps->geometry().top() - 1);
+        return editor->window(str("MapEditTreeBox"))->grab().toImage().pixelColor(above);
+    };
+    QVERIFY(tabTo("tiles"));
+    QVERIFY(edge() != QApplication::palette().color(QPalette::Highlight));
+    QVERIFY(tabTo("maps"));
+    QCOMPARE(edge(), QApplication::palette().color(QPalette::Highlight));
 }
 
 void tst_Keyboard::tabGoesThroughTheControlsInOrder()
