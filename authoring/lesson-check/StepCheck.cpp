@@ -1,5 +1,6 @@
 #include "lesson-check/StepCheck.h"
 
+#include "lesson-check/ControlCheck.h"
 #include "lesson/Condition.h"
 
 #include <QPoint>
@@ -108,6 +109,11 @@ private:
                    QStringLiteral("no window has the key \"%1\"").arg(condition->target()));
         } else if (condition->type() == Condition::Type::kAction) {
             checkAction(condition->target(), condition->value());
+        } else if (m_step->isRead("windowKey")) {
+            const QString missing = controlProblem(*condition, m_step->windowKey, m_windows);
+            if (!missing.isEmpty()) {
+                report(QStringLiteral("condition"), missing);
+            }
         }
         if (Condition::wordOf(m_step->condition) != QLatin1String("yesNo") &&
             m_step->jumpNo != LessonWords::kNoJump) {

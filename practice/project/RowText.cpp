@@ -90,8 +90,10 @@ QString RowText::text(const Piece &piece, const QJsonValue &entry, int number, c
     if (piece.member == QLatin1String("@number")) {
         return QString::number(number);
     }
-    const QJsonValue value =
-        piece.member.isEmpty() ? entry : JsonPointer::value(entry, QLatin1Char('/') + piece.member);
+    // A text is called what it says, as in a list of switches.
+    const bool isItself =
+        piece.member.isEmpty() || (entry.isString() && piece.member == QLatin1String("name"));
+    const QJsonValue value = isItself ? entry : JsonPointer::value(entry, QLatin1Char('/') + piece.member);
     if (!piece.set.isEmpty()) {
         const Choice choice = m_choices->choice(piece.set, value);
         if (!choice.row.isEmpty() && m_kind == Kind::kRow) {

@@ -10,7 +10,8 @@ class RowSources;
 
 /// The text of a row, written with members of its entry in braces:
 ///
-///     {name}                  the member, or what a JSON pointer without its first slash leads to
+///     {name}                  the member, or what a JSON pointer without its first slash leads to; the name of
+///                             a text is the text itself
 ///     {itemId>data/Items}     the name of the entry with this number in a list
 ///     {kind:effectKinds}      the text that a set of choices has for this value
 ///     {@name} {@value}        of an entry with one member

@@ -101,6 +101,18 @@ void tst_LessonScenario::namesTheFinding_data()
         IN_SCENARIO "53: item 4, \"condition\": no window has the action \"fileShut\"");
     row("action with another last word", "action,fileOpen,open", "action,fileOpen,",
         IN_SCENARIO "53: item 4, \"condition\": the action fileOpen reports \"action,fileOpen,open\"");
+    const auto noControl = [&row](const char *condition, const char *missing) {
+        const QByteArray error =
+            QByteArray(IN_SCENARIO "53: item 4, \"condition\": the window MainWindow has ") + missing +
+            "; lesson-position MainWindow lists its controls";
+        row(condition, "action,fileOpen,open", condition, error.constData());
+    };
+    noControl("tabView,tabview,1", "no row of tabs with a tab 1");
+    noControl("comboBox,moveType,1", "no combo box \"moveType\"");
+    noControl("checked,rows,1", "no check box \"rows\"");
+    noControl("radioButton,RadioButton,3", "no radio button with the index 3");
+    noControl("spinBox,=,35 %", "no number field that can show \"35 %\"");
+    noControl("textLength,name,3", "no text field \"name\"");
     row("unknown condition", "action,fileOpen,open", "act,fileOpen,open",
         IN_SCENARIO "53: item 4, \"condition\": \"act\" is not a condition type");
     row("unknown icon", "\"icon\":\"eye\"", "\"icon\":\"ear\"",

@@ -63,6 +63,7 @@ void tst_RowText::showsMembersOfTheEntry_data()
     row("null", "<{name}>", R"({"name": null})", "<>");
     row("the number", "{@number}: {name}", R"({"name": "Herb"})", "4: Herb");
     row("the entry itself", "{}", R"("Gate")", "Gate");
+    row("the name of a text", "{@number}: {name}", R"("Gate")", "4: Gate");
     row("a number of a list", "{itemId>data/Items}", R"({"itemId": 2})", "Bread");
     row("a number of a list in a list", "{itemId>data/Sets/{sets}/items}", R"({"itemId": 2})", "2");
     row("the entry as a number of a list", "{>data/Items}", "1", "Herb");
