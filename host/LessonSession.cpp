@@ -2,6 +2,7 @@
 
 #include "host/HostEditor.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -236,7 +237,10 @@ QString LessonSession::windowToOpen() const
     const QStringList open = m_editor->openWindows();
     QStringList closed = {m_runner.step().windowKey};
     for (int i = 0; i < closed.size(); ++i) {
-        const QStringList from = m_editor->openedFrom(closed.at(i));
+        // Of several windows, one that the lesson knows.
+        QStringList from = m_editor->openedFrom(closed.at(i));
+        std::stable_partition(from.begin(), from.end(),
+                              [this](const QString &key) { return m_runner.scenario().hasStepIn(key); });
         for (const QString &key : from) {
             if (open.contains(key)) {
                 return closed.at(i);

@@ -114,6 +114,12 @@ bool Scenario::isSameLesson(const Scenario &other) const
     return std::equal(m_steps.cbegin(), m_steps.cend(), other.m_steps.cbegin(), other.m_steps.cend(), isSame);
 }
 
+bool Scenario::hasStepIn(const QString &windowKey) const
+{
+    return std::any_of(m_steps.cbegin(), m_steps.cend(),
+                       [&windowKey](const Step &step) { return step.windowKey == windowKey; });
+}
+
 int Scenario::indexOf(int id) const
 {
     for (int index = 0; index < m_steps.size(); ++index) {

@@ -55,6 +55,9 @@ public:
     /// -1 when no step has the id.
     [[nodiscard]] int indexOf(int id) const;
 
+    /// Whether a step stands in this window.
+    [[nodiscard]] bool hasStepIn(const QString &windowKey) const;
+
     /// Conditions and commands that cannot be read; a step with such a condition has that of the button Next.
     [[nodiscard]] const QVector<UnknownWord> &unknownWords() const { return m_unknownWords; }
 

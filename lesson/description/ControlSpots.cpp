@@ -16,8 +16,8 @@ int partAt(const ControlDescription &control, const QPoint &inControl)
     if (control.rowHeight > 0) {
         return inControl.y() / control.rowHeight;
     }
-    if (control.tabWidth > 0) {
-        return inControl.x() / control.tabWidth;
+    if (!control.tabWidths.isEmpty()) {
+        return control.tabAt(inControl.x());
     }
     return isMap(control) ? ControlSpot::cell(inControl.x() / kCellPixels, inControl.y() / kCellPixels) : -1;
 }
@@ -32,8 +32,8 @@ QPoint middleOf(const ControlDescription &control, int part)
     if (control.rowHeight > 0) {
         return {middle.x(), place.y() + part * control.rowHeight + control.rowHeight / 2};
     }
-    if (control.tabWidth > 0) {
-        return {place.x() + part * control.tabWidth + control.tabWidth / 2, middle.y()};
+    if (!control.tabWidths.isEmpty()) {
+        return {place.x() + control.tabLeft(part) + control.tabWidth(part) / 2, middle.y()};
     }
     if (isMap(control)) {
         const QPoint cell(ControlSpot::columnOf(part), ControlSpot::rowOf(part));

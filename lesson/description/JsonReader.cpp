@@ -212,6 +212,12 @@ QStringList JsonReader::oneOrMoreTexts(const QString &field)
     return texts(field);
 }
 
+QVector<int> JsonReader::oneOrMoreNumbers(const QString &field)
+{
+    const QJsonValue value = m_from.object.value(field);
+    return value.isArray() ? numbers(field, int(value.toArray().size())) : QVector<int>{number(field)};
+}
+
 JsonPlace JsonReader::rest() const
 {
     JsonPlace rest = m_from;

@@ -61,6 +61,7 @@ public:
     /// One or several of them: a list, or the object or text itself; empty when absent.
     QVector<JsonReader> oneOrMoreObjects(const QString &field);
     QStringList oneOrMoreTexts(const QString &field);
+    QVector<int> oneOrMoreNumbers(const QString &field);
 
     /// The value, whatever it is; undefined when absent.
     QJsonValue value(const QString &field) { return take(field); }

@@ -36,8 +36,9 @@ Spot::Spot(const QVector<ControlDescription> &controls, const QStringList &words
         m_point = middle;
     } else if (what == QLatin1String("row") && numbers.size() == 1 && control->rowHeight > 0) {
         m_point = {middle.x(), place.y() + numbers.at(0) * control->rowHeight + control->rowHeight / 2};
-    } else if (what == QLatin1String("tab") && numbers.size() == 1 && control->tabWidth > 0) {
-        m_point = {place.x() + numbers.at(0) * control->tabWidth + control->tabWidth / 2, middle.y()};
+    } else if (what == QLatin1String("tab") && numbers.size() == 1 && !control->tabWidths.isEmpty()) {
+        m_point = {place.x() + control->tabLeft(numbers.at(0)) + control->tabWidth(numbers.at(0)) / 2,
+                   middle.y()};
     } else if (what == QLatin1String("cell") && numbers.size() == 2) {
         m_point = place.topLeft() + QPoint(numbers.at(0), numbers.at(1)) * kCellPixels +
                   QPoint(kCellPixels / 2, kCellPixels / 2);

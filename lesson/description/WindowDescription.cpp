@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 QString str(const char *text)
@@ -46,7 +48,7 @@ void readAction(JsonReader &reader, ControlDescription &control)
     }
 }
 
-/// A size of a list or of a row of tabs; 0 when there is none.
+/// A size of a list; 0 when there is none.
 int readSize(JsonReader &reader, const QString &field)
 {
     const int size = reader.number(field, 0);
@@ -71,6 +73,16 @@ Stretch readStretch(JsonReader &reader)
     return stretch;
 }
 
+/// The widths of tabs.
+QVector<int> readWidths(JsonReader &reader, const QString &field)
+{
+    const QVector<int> widths = reader.oneOrMoreNumbers(field);
+    if (widths.isEmpty() || *std::min_element(widths.cbegin(), widths.cend()) <= 0) {
+        reader.addError(field, str("must be above 0"));
+    }
+    return widths;
+}
+
 ControlDescription readControl(JsonReader &reader)
 {
     ControlDescription control;
@@ -85,7 +97,9 @@ ControlDescription readControl(JsonReader &reader)
         readAction(reader, control);
     }
     control.rowHeight = readSize(reader, str("rowHeight"));
-    control.tabWidth = readSize(reader, str("tabWidth"));
+    if (reader.has(str("tabWidth"))) {
+        control.tabWidths = readWidths(reader, str("tabWidth"));
+    }
     control.click = readAction(reader, str("click"));
     control.doubleClick = readAction(reader, str("doubleClick"));
     control.contextMenu = readAction(reader, str("contextMenu"));
@@ -182,6 +196,29 @@ QRect Stretch::apply(const QRect &described, const QSize &growth) const
 bool ControlAction::isEmpty() const
 {
     return run.isEmpty() && !close && open.isEmpty() && popup.isEmpty();
+}
+
+int ControlDescription::tabLeft(int tab) const
+{
+    int left = 0;
+    for (int before = 0; before < tab; ++before) {
+        left += tabWidth(before);
+    }
+    return left;
+}
+
+int ControlDescription::tabWidth(int tab) const
+{
+    return tabWidths.value(tab, tabWidths.isEmpty() ? 0 : tabWidths.constLast());
+}
+
+int ControlDescription::tabAt(int x) const
+{
+    int tab = 0;
+    while (tabWidth(tab) > 0 && x >= tabLeft(tab + 1)) {
+        ++tab;
+    }
+    return tab;
 }
 
 QVector<QPair<QString, ControlAction>> ControlDescription::actions() const

@@ -52,9 +52,10 @@ struct ControlDescription
     /// Words of the action event; no event when the name is empty.
     QString actionName;
     QString actionState;
-    /// Of a list, and of a row of tabs; 0 for other controls.
+    /// Of a list; 0 for other controls.
     int rowHeight = 0;
-    int tabWidth = 0;
+    /// Of a row of tabs: that of each tab, or one for all of them. Empty for other controls.
+    QVector<int> tabWidths;
     ControlAction click;
     ControlAction doubleClick;
     ControlAction contextMenu;
@@ -67,6 +68,13 @@ struct ControlDescription
     QVector<ControlRequirement> enabledWhen;
     /// The fields that only controls of its type have; who makes the controls reads them.
     JsonPlace own;
+
+    /// Where tab number @p tab begins, from the left of the row, and how wide it is. Tabs behind the last one
+    /// are as wide as that.
+    [[nodiscard]] int tabLeft(int tab) const;
+    [[nodiscard]] int tabWidth(int tab) const;
+    /// The tab at @p x from the left of the row, or, behind the last one, the tab that would be there.
+    [[nodiscard]] int tabAt(int x) const;
 
     /// All that it does, by the field that says so.
     [[nodiscard]] QVector<QPair<QString, ControlAction>> actions() const;

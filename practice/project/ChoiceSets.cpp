@@ -20,6 +20,8 @@ QVector<Choice> readChoices(JsonReader &file, const QString &locale)
         if (reader.has(QStringLiteral("row"))) {
             choice.row = reader.localText(QStringLiteral("row")).value(locale);
         }
+        choice.start = reader.value(QStringLiteral("start"));
+        choice.group = reader.text(QStringLiteral("group"), QString());
         const auto hasIt = [&choice](const Choice &other) {
             return other.value == choice.value;
         };
@@ -52,7 +54,14 @@ ChoiceSets ChoiceSets::read(const QString &folder, const QString &locale, QStrin
     const QStringList files = directory.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     for (const QString &name : files) {
         if (auto reader = JsonReader::open(directory.filePath(name), errors)) {
-            sets.m_sets.insert(QFileInfo(name).completeBaseName(), readChoices(*reader, locale));
+            const QString set = QFileInfo(name).completeBaseName();
+            const QVector<Choice> choices = readChoices(*reader, locale);
+            sets.m_sets.insert(set, choices);
+            for (const Choice &choice : choices) {
+                if (!choice.group.isEmpty()) {
+                    sets.m_sets[set + QLatin1Char('/') + choice.group].append(choice);
+                }
+            }
             reader->reportUnknownFields();
         }
     }
@@ -75,7 +84,9 @@ Choice ChoiceSets::choice(const QString &set, const QJsonValue &value) const
         return isSame(value, choice.value);
     };
     const auto found = std::find_if(all.cbegin(), all.cend(), isIt);
-    return found != all.cend() ? *found : Choice{value, QString(), QString()};
+    return found != all.cend()
+               ? *found
+               : Choice{value, QString(), QString(), QJsonValue(QJsonValue::Undefined), QString()};
 }
 
 bool ChoiceSets::isSame(const QJsonValue &value, const QJsonValue &wished)

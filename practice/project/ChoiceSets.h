@@ -14,9 +14,15 @@ struct Choice
     /// How a row of a list shows an entry with this value, where the text alone would not do: in the words of
     /// RowText. May be empty.
     QString row;
+    /// What an entry with one member holds when this becomes the member's name; undefined where it keeps what
+    /// it holds.
+    QJsonValue start = QJsonValue::Undefined;
+    /// The part of the set that it belongs to; may be empty.
+    QString group;
 };
 
-/// The values that members of data files can have, by the name of the set. Texts are those of one locale.
+/// The values that members of data files can have, by the name of the set, or of a set and one of its groups,
+/// such as "traits/states". Texts are those of one locale.
 class ChoiceSets
 {
 public:

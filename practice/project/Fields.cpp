@@ -40,6 +40,19 @@ void Fields::setValue(const QString &name, const QVariant &value, DataLayer &lay
     if (field != m_fields.constEnd() && field->write) {
         field->write(layer, value);
     } else if (const std::optional<DataPlace> place = m_sources->place(name, layer)) {
-        layer.set(place->file, place->pointer, QJsonValue::fromVariant(value));
+        layer.set(place->file, place->pointer,
+                  value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue(QJsonValue::Undefined));
+    }
+}
+
+void Fields::choose(const QString &name, const Row &row, DataLayer &layer) const
+{
+    const QLatin1String nameOfMember("/@name");
+    const QJsonValue chosen = row.chosen();
+    if (row.start.isUndefined() || !name.endsWith(nameOfMember)) {
+        setValue(name, chosen.toVariant(), layer);
+    } else if (value(name, layer).toString() != chosen.toString()) {
+        setValue(name.chopped(nameOfMember.size()), QVariantMap{{chosen.toString(), row.start.toVariant()}},
+                 layer);
     }
 }

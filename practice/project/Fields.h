@@ -25,7 +25,11 @@ public:
     /// Invalid when there is no such thing at present.
     [[nodiscard]] QVariant value(const QString &name, const DataLayer &layer) const;
     /// Members that are missing on the way of a path are made.
+    /// An invalid @p value takes away the member.
     void setValue(const QString &name, const QVariant &value, DataLayer &layer) const;
+    /// Gives the field what @p row stands for. Where that is the name of an entry's only member, and the row
+    /// says what it starts with, a new name begins with that: what the old one held means something else.
+    void choose(const QString &name, const Row &row, DataLayer &layer) const;
 
 private:
     struct Field

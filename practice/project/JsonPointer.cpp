@@ -20,6 +20,7 @@ int indexIn(int size, const QString &word)
 
 const QLatin1String kName("@name");
 const QLatin1String kValue("@value");
+const QLatin1String kThere("@there");
 
 /// Whether @p word speaks of the member that is the only one of @p object.
 bool isOfOnlyMember(const QJsonObject &object, const QString &word)
@@ -54,6 +55,9 @@ std::optional<QJsonValue> withOnlyMember(const QJsonObject &object, const QStrin
 
 QJsonValue child(const QJsonValue &parent, const QString &word)
 {
+    if (word == kThere) {
+        return !parent.isUndefined();
+    }
     if (parent.isObject()) {
         const QJsonObject object = parent.toObject();
         return isOfOnlyMember(object, word) ? ofOnlyMember(object, word) : object.value(word);
@@ -65,6 +69,9 @@ QJsonValue child(const QJsonValue &parent, const QString &word)
 
 std::optional<QJsonValue> withChild(const QJsonValue &parent, const QString &word, const QJsonValue &value)
 {
+    if (word == kThere) {
+        return std::nullopt;
+    }
     if (parent.isObject()) {
         QJsonObject object = parent.toObject();
         if (isOfOnlyMember(object, word)) {

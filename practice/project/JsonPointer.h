@@ -8,7 +8,8 @@
 
 /// Places in a JSON value, such as "/3/name": the member "name" of the fourth element. A word with a slash or
 /// a tilde in it has them as "~1" and "~0"; the empty pointer is the whole value. Behind an object with one
-/// member, such as {"hp": 30}, "@name" is the name of that member and "@value" its value.
+/// member, such as {"hp": 30}, "@name" is the name of that member and "@value" its value. "@there" at the
+/// end is whether there is anything; it cannot be changed.
 namespace JsonPointer {
 
 /// The words of @p pointer; nothing when it is none: it has to be empty or to begin with a slash, and a tilde

@@ -5,6 +5,7 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <utility>
 
 Project::Project(StartData start, const QString &location, QObject *parent)
@@ -17,11 +18,13 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     , m_maps(&m_start, &m_sources)
     , m_newProject(m_start.texts.value(QStringLiteral("projectName")), location)
     , m_lists(&m_sources)
+    , m_chooser(&m_sources)
 {
     m_tools.addTo(m_commands, m_sources);
     m_maps.addTo(m_commands, m_fields, m_sources);
     m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
     m_lists.addTo(m_commands, m_fields, m_sources);
+    m_chooser.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
     m_tools.addTo(m_states);
     m_newProject.addTo(m_states);
@@ -75,6 +78,36 @@ QString Project::problemOf(const QString &command) const
     const QString problem = m_commands.problemOf(command);
     const QString argument = Commands::argumentOf(command);
     return problem.isEmpty() && m_sources.isPath(argument) ? m_sources.problemOfPath(argument) : problem;
+}
+
+void Project::addTabs(const QString &name, const QString &field, const QStringList &sets)
+{
+    if (m_sources.names().contains(name)) {
+        return;
+    }
+    const auto rows = [sets](const DataLayer & /*layer*/) {
+        QVector<Row> tabs;
+        for (const QString &set : sets) {
+            tabs.append({set, int(tabs.size())});
+        }
+        return tabs;
+    };
+    const auto tabOf = [this, field, sets](const DataLayer &layer) {
+        const QJsonValue value = QJsonValue::fromVariant(m_fields.value(field, layer));
+        const auto hasIt = [this, &value](const QString &set) {
+            return !m_start.choices.choice(set, value).text.isEmpty();
+        };
+        const auto found = std::find_if(sets.cbegin(), sets.cend(), hasIt);
+        return found != sets.cend() ? int(found - sets.cbegin()) : 0;
+    };
+    const auto choose = [this, field, sets, tabOf](int tab, DataLayer &layer) {
+        const QVector<Choice> choices = m_start.choices.choices(sets.value(tab));
+        if (tab != tabOf(layer) && !choices.isEmpty()) {
+            const Choice &first = choices.constFirst();
+            m_fields.choose(field, {first.text, 0, 0, GameMap::kEmpty, first.value, first.start}, layer);
+        }
+    };
+    m_sources.add(name, rows, RowSources::CurrentIn(tabOf), RowSources::SetCurrentIn(choose));
 }
 
 void Project::create()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/Chooser.h"
 #include "project/Commands.h"
 #include "project/DataFiles.h"
 #include "project/Drafts.h"
@@ -53,6 +54,9 @@ public:
 
     /// Adds the list of a row of tabs that a description calls @p name.
     void addTabs(const QString &name, int count) { m_sources.addTabs(name, count); }
+    /// The same of tabs that stand for the sets of choices @p sets: the current one is that whose set has the
+    /// value of @p field, and another one that is chosen gives the field its first choice.
+    void addTabs(const QString &name, const QString &field, const QStringList &sets);
 
     /// Offers @p folder as the place of projects.
     void setProjectsFolder(const QString &folder);
@@ -96,4 +100,5 @@ private:
     NewProject m_newProject;
     StateParts m_states;
     ListCommands m_lists;
+    Chooser m_chooser;
 };

@@ -36,6 +36,13 @@ void RowSources::add(const QString &name, Rows rows)
 
 void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent setCurrent)
 {
+    add(
+        name, std::move(rows), [current](const DataLayer & /*layer*/) { return current(); },
+        [setCurrent](int row, DataLayer & /*layer*/) { setCurrent(row); });
+}
+
+void RowSources::add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent)
+{
     m_sources.insert(name, {std::move(rows), std::move(current), std::move(setCurrent)});
 }
 
@@ -94,7 +101,7 @@ int RowSources::currentRow(const QString &name, const DataLayer &layer) const
 {
     const auto source = m_sources.constFind(name);
     if (source != m_sources.constEnd() && source->current) {
-        return source->current();
+        return source->current(layer);
     }
     const QVector<Row> all = rows(name, layer);
     const int selected = layer.selected(name);
@@ -114,7 +121,7 @@ void RowSources::setCurrentRow(const QString &name, int row, DataLayer &layer) c
 {
     const auto source = m_sources.constFind(name);
     if (source != m_sources.constEnd() && source->setCurrent) {
-        source->setCurrent(row);
+        source->setCurrent(row, layer);
         return;
     }
     const QVector<Row> all = rows(name, layer);

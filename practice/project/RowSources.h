@@ -17,6 +17,9 @@ struct Row
     int tile = -1;
     /// What a field gets when the row is chosen for it; undefined for the number.
     QJsonValue value = QJsonValue::Undefined;
+    /// What an entry with one member holds when the row becomes its name; undefined where it keeps what it
+    /// holds.
+    QJsonValue start = QJsonValue::Undefined;
 
     [[nodiscard]] QJsonValue chosen() const { return value.isUndefined() ? QJsonValue(number) : value; }
 
@@ -35,12 +38,16 @@ public:
     using Rows = std::function<QVector<Row>(const DataLayer &)>;
     using Current = std::function<int()>;
     using SetCurrent = std::function<void(int row)>;
+    using CurrentIn = std::function<int(const DataLayer &)>;
+    using SetCurrentIn = std::function<void(int row, DataLayer &)>;
     using Root = std::function<std::optional<DataPlace>(const DataLayer &)>;
 
     /// Which row is the current one is kept in the layer.
     void add(const QString &name, Rows rows);
     /// Which row is the current one is kept elsewhere: @p current gives it, -1 for none.
     void add(const QString &name, Rows rows, Current current, SetCurrent setCurrent);
+    /// Which row is the current one follows from what the layer holds.
+    void add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent);
     /// A list that is @p count tabs, of which the layer keeps the current one. A name that is there stays
     /// what it is.
     void addTabs(const QString &name, int count);
@@ -76,8 +83,8 @@ private:
     struct Source
     {
         Rows rows;
-        Current current;
-        SetCurrent setCurrent;
+        CurrentIn current;
+        SetCurrentIn setCurrent;
     };
 
     QMap<QString, Source> m_sources;

@@ -92,6 +92,13 @@ void EditorWindow::setField(const QString &name, const QVariant &value)
     }
 }
 
+void EditorWindow::choose(const QString &name, const Row &row)
+{
+    if (isVisible()) {
+        m_project->fields().choose(name, row, *m_layer);
+    }
+}
+
 QVector<Row> EditorWindow::rows(const QString &source) const
 {
     return m_project->sources().rows(source, *m_layer);

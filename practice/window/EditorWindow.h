@@ -43,6 +43,8 @@ public:
     /// when the focus leaves it, and must not get into the project that way.
     [[nodiscard]] QVariant field(const QString &name) const;
     void setField(const QString &name, const QVariant &value);
+    /// Gives the field what @p row stands for, as Fields::choose() does.
+    void choose(const QString &name, const Row &row);
     [[nodiscard]] QVector<Row> rows(const QString &source) const;
     [[nodiscard]] int currentRow(const QString &source) const;
     void setCurrentRow(const QString &source, int row);

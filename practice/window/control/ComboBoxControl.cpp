@@ -28,18 +28,20 @@ ControlMaker readComboBox(ControlReader &reader)
 {
     const QString field = reader.field();
     const Rows rows = reader.rows(true);
-    return [field, rows, name = reader.description().name](EditorWindow *window) {
+    const QJsonValue missing = reader.missing();
+    return [field, rows, missing, name = reader.description().name](EditorWindow *window) {
         auto *box = new QComboBox(window);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        keepFresh(box, window,
-                  [box, window, field, rows] { show(box, rows(window), fieldValue(window, field)); });
+        keepFresh(box, window, [box, window, field, rows, missing] {
+            show(box, rows(window), fieldValue(window, field, missing));
+        });
         QObject::connect(
             box, qOverload<int>(&QComboBox::activated), window, [window, field, rows, name](int index) {
                 const QVector<Row> all = rows(window);
                 if (index < 0 || index >= all.size()) {
                     return;
                 }
-                window->setField(field, all.at(index).chosen().toVariant());
+                window->choose(field, all.at(index));
                 window->report(QStringLiteral("comboBox"), name, QString::number(index), window->spot(name));
             });
         return box;

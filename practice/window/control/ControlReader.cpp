@@ -14,7 +14,7 @@ QVector<Row> rowsOf(const QVector<Choice> &choices)
 {
     QVector<Row> rows;
     for (const Choice &choice : choices) {
-        rows.append({choice.text, int(rows.size()), 0, GameMap::kEmpty, choice.value});
+        rows.append({choice.text, int(rows.size()), 0, GameMap::kEmpty, choice.value, choice.start});
     }
     return rows;
 }
@@ -61,10 +61,10 @@ int ControlReader::rowHeight()
     return m_description->rowHeight;
 }
 
-int ControlReader::tabWidth()
+QVector<int> ControlReader::tabWidths()
 {
-    require(QStringLiteral("tabWidth"), m_description->tabWidth != 0);
-    return m_description->tabWidth;
+    require(QStringLiteral("tabWidth"), !m_description->tabWidths.isEmpty());
+    return m_description->tabWidths;
 }
 
 void ControlReader::readAction()
@@ -152,7 +152,7 @@ void ControlReader::finish()
     const QVector<QPair<QString, bool>> shared{
         {QStringLiteral("label"), !m_description->label.isEmpty()},
         {QStringLiteral("rowHeight"), m_description->rowHeight != 0},
-        {QStringLiteral("tabWidth"), m_description->tabWidth != 0},
+        {QStringLiteral("tabWidth"), !m_description->tabWidths.isEmpty()},
         {QStringLiteral("action"), !m_description->actionName.isEmpty()}};
     for (const auto &[field, isThere] : shared) {
         if (isThere && !m_taken.contains(field)) {
@@ -208,6 +208,12 @@ QJsonValue fieldValue(const EditorWindow *window, const QString &field)
 {
     const QVariant value = window->field(field);
     return value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue(QJsonValue::Undefined);
+}
+
+QJsonValue fieldValue(const EditorWindow *window, const QString &field, const QJsonValue &missing)
+{
+    const QJsonValue value = fieldValue(window, field);
+    return value.isUndefined() ? missing : value;
 }
 
 int rowWith(const QVector<Row> &rows, const QJsonValue &value)

@@ -43,12 +43,16 @@ public:
     [[nodiscard]] QString field();
     [[nodiscard]] QString source();
     [[nodiscard]] int rowHeight();
-    [[nodiscard]] int tabWidth();
+    [[nodiscard]] QVector<int> tabWidths();
     void readAction();
     /// What there is to choose from: "choices", or a "source" with the text of its rows in "rowText" and,
     /// where
     /// @p hasNone, a first row for the number 0 in "none".
     [[nodiscard]] Rows rows(bool hasNone);
+    /// What the control shows while the member of its field is missing: "missing"; undefined for nothing.
+    [[nodiscard]] QJsonValue missing() { return m_json.value(QStringLiteral("missing")); }
+    /// The text of a row in "rowText"; nullptr where there is none.
+    [[nodiscard]] std::shared_ptr<const RowText> rowText();
     [[nodiscard]] bool hasChoices() const { return has(QStringLiteral("choices")); }
 
     [[nodiscard]] bool has(const QString &field) const { return m_json.has(field); }
@@ -70,7 +74,6 @@ public:
 private:
     void require(const QString &field, bool isThere);
     [[nodiscard]] Rows choices();
-    [[nodiscard]] std::shared_ptr<const RowText> rowText();
     void checkCommands();
     void checkRequirements();
 
@@ -91,6 +94,9 @@ void keepFresh(QWidget *widget, EditorWindow *window, Refresh refresh)
 
 /// The value of a field as it would stand in a data file; undefined where there is none.
 [[nodiscard]] QJsonValue fieldValue(const EditorWindow *window, const QString &field);
+/// The same, with @p missing in place of nothing.
+[[nodiscard]] QJsonValue fieldValue(const EditorWindow *window, const QString &field,
+                                    const QJsonValue &missing);
 
 /// The first of @p rows that is chosen when @p value stands in a field; -1 for none.
 [[nodiscard]] int rowWith(const QVector<Row> &rows, const QJsonValue &value);

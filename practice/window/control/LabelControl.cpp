@@ -1,5 +1,7 @@
 #include "window/control/LabelControl.h"
 
+#include "project/RowText.h"
+
 #include <QLabel>
 
 ControlMaker readLabel(ControlReader &reader)
@@ -9,9 +11,14 @@ ControlMaker readLabel(ControlReader &reader)
             return new QLabel(label, window);
         };
     }
-    return [field = reader.field()](EditorWindow *window) {
+    const QString field = reader.field();
+    const std::shared_ptr<const RowText> text = reader.rowText();
+    return [field, text](EditorWindow *window) {
         auto *label = new QLabel(window);
-        keepFresh(label, window, [label, window, field] { label->setText(window->field(field).toString()); });
+        keepFresh(label, window, [label, window, field, text] {
+            label->setText(text != nullptr ? text->text(fieldValue(window, field), 0, window->layer())
+                                           : window->field(field).toString());
+        });
         return label;
     };
 }

@@ -2,21 +2,48 @@
 
 #include "window/MapPainter.h"
 #include "window/Pictures.h"
+#include "window/TroopPicture.h"
 #include "window/control/PictureBox.h"
 
+#include <QJsonArray>
 #include <QMap>
+
+#include <algorithm>
 
 namespace {
 
-/// Draws what @p value says into a picture of this size, in pixels.
-using Draw = std::function<QPixmap(const ControlContext &context, const QVariant &value, const QSize &size)>;
+/// Draws what @p value says, for a window that stands in this layer, into a picture of this size, in pixels.
+using Draw = std::function<QPixmap(const ControlContext &context, const DataLayer &layer,
+                                   const QVariant &value, const QSize &size)>;
 
-QPixmap tileSet(const ControlContext &context, const QVariant &value, const QSize &size)
+QPixmap tileSet(const ControlContext &context, const DataLayer & /*layer*/, const QVariant &value,
+                const QSize &size)
 {
     return context.painter->tileSetPicture(qMax(0, value.toInt() - 1), size);
 }
 
-QPixmap sampleMap(const ControlContext &context, const QVariant &value, const QSize &size)
+/// The tile set whose picture has this name.
+QPixmap tileSetImage(const ControlContext &context, const DataLayer & /*layer*/, const QVariant &value,
+                     const QSize &size)
+{
+    const QVector<StartData::TileSet> &tileSets = context.project->start().tileSets;
+    const auto isIt = [name = value.toString()](const StartData::TileSet &tileSet) {
+        return tileSet.image == name;
+    };
+    const auto found = std::find_if(tileSets.cbegin(), tileSets.cend(), isIt);
+    return found != tileSets.cend() ? context.painter->tileSetPicture(int(found - tileSets.cbegin()), size)
+                                    : QPixmap();
+}
+
+QPixmap troop(const ControlContext & /*context*/, const DataLayer &layer, const QVariant &value,
+              const QSize &size)
+{
+    return troopPicture(QJsonArray::fromVariantList(value.toList()),
+                        layer.file(QStringLiteral("data/Enemies.json")).toArray(), size);
+}
+
+QPixmap sampleMap(const ControlContext &context, const DataLayer & /*layer*/, const QVariant &value,
+                  const QSize &size)
 {
     return context.painter->mapPicture(context.project->start().sampleMaps.value(value.toInt()), size);
 }
@@ -24,7 +51,8 @@ QPixmap sampleMap(const ControlContext &context, const QVariant &value, const QS
 /// The drawing with this name in a folder of pictures; nothing for a name that has none.
 Draw ofFolder(const QString &folder)
 {
-    return [folder](const ControlContext & /*context*/, const QVariant &value, const QSize &size) {
+    return [folder](const ControlContext & /*context*/, const DataLayer & /*layer*/, const QVariant &value,
+                    const QSize &size) {
         const QPixmap picture =
             value.toString().isEmpty() ? QPixmap() : Pictures::load(folder, value.toString());
         return picture.isNull() ? picture
@@ -36,12 +64,14 @@ const QMap<QString, Draw> &drawings()
 {
     static const QMap<QString, Draw> drawings{
         {QStringLiteral("tileSet"), tileSet},
+        {QStringLiteral("tileSetImage"), tileSetImage},
         {QStringLiteral("sampleMap"), sampleMap},
-        {QStringLiteral("backdrop"), ofFolder(QStringLiteral("backdrop"))},
-        {QStringLiteral("character"), ofFolder(QStringLiteral("character"))},
-        {QStringLiteral("enemy"), ofFolder(QStringLiteral("enemy"))},
-        {QStringLiteral("face"), ofFolder(QStringLiteral("face"))},
-        {QStringLiteral("title"), ofFolder(QStringLiteral("title"))},
+        {QStringLiteral("troop"), troop},
+        {QStringLiteral("backdrop"), ofFolder(QStringLiteral("backdrops"))},
+        {QStringLiteral("character"), ofFolder(QStringLiteral("characters"))},
+        {QStringLiteral("enemy"), ofFolder(QStringLiteral("enemies"))},
+        {QStringLiteral("face"), ofFolder(QStringLiteral("faces"))},
+        {QStringLiteral("title"), ofFolder(QStringLiteral("titles"))},
     };
     return drawings;
 }
@@ -59,10 +89,10 @@ ControlMaker readPicture(ControlReader &reader)
         auto *box = new PictureBox(
             [picture, hasField, name, context, window](const QSize &size) {
                 if (hasField) {
-                    return drawings().value(picture)(context, window->field(name), size);
+                    return drawings().value(picture)(context, window->layer(), window->field(name), size);
                 }
                 const Row row = window->rows(name).value(window->currentRow(name), {QString(), -1});
-                return drawings().value(picture)(context, row.chosen().toVariant(), size);
+                return drawings().value(picture)(context, window->layer(), row.chosen().toVariant(), size);
             },
             window);
         // A picture that nothing comes of is no stop of the tabulator key.

@@ -5,6 +5,16 @@
 
 namespace {
 
+/// Can be clicked wherever it is, beside its text, too: there an arrow points at it.
+class WideRadioButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    [[nodiscard]] bool hitButton(const QPoint &position) const override { return rect().contains(position); }
+};
+
 /// Those of the field in this window: one is on, and the arrow keys go from one to the next.
 QButtonGroup *groupOf(EditorWindow *window, const QString &field)
 {
@@ -41,14 +51,15 @@ ControlMaker readRadioButton(ControlReader &reader)
                                               "the button stands for"));
     }
     const int index = reader.json().number(QStringLiteral("index"));
-    return [label, field, value, index, name = reader.description().name](EditorWindow *window) {
-        auto *button = new QRadioButton(label, window);
+    const QJsonValue start = reader.json().value(QStringLiteral("start"));
+    return [label, field, value, start, index, name = reader.description().name](EditorWindow *window) {
+        auto *button = new WideRadioButton(label, window);
         groupOf(window, field)->addButton(button);
         keepFresh(button, window, [button, window, field, value] {
             show(button, ChoiceSets::isSame(fieldValue(window, field), value));
         });
-        QObject::connect(button, &QRadioButton::clicked, window, [window, field, value, index, name] {
-            window->setField(field, value.toVariant());
+        QObject::connect(button, &QRadioButton::clicked, window, [window, field, value, start, index, name] {
+            window->choose(field, {QString(), 0, 0, GameMap::kEmpty, value, start});
             window->report(QStringLiteral("radioButton"), QStringLiteral("RadioButton"),
                            QString::number(index), window->spot(name));
         });

@@ -120,6 +120,6 @@ void RowList::onCurrentRowChanged(int row)
     if (m_settings.field.isEmpty()) {
         m_window->setCurrentRow(m_settings.source, row);
     } else {
-        m_window->setField(m_settings.field, m_rows.at(row).chosen().toVariant());
+        m_window->choose(m_settings.field, m_rows.at(row));
     }
 }

@@ -8,13 +8,14 @@ ControlMaker readSpinBox(ControlReader &reader)
     const QString field = reader.field();
     const QVector<int> range = reader.json().numbers(QStringLiteral("range"), 2);
     const QString suffix = reader.json().text(QStringLiteral("suffix"), QString());
-    return [field, range, suffix, name = reader.description().name](EditorWindow *window) {
+    const QJsonValue missing = reader.missing();
+    return [field, range, suffix, missing, name = reader.description().name](EditorWindow *window) {
         auto *spin = new QSpinBox(window);
         spin->setRange(range.at(0), range.at(1));
         spin->setSuffix(suffix);
-        keepFresh(spin, window, [spin, window, field] {
+        keepFresh(spin, window, [spin, window, field, missing] {
             const QSignalBlocker quiet(spin);
-            spin->setValue(window->field(field).toInt());
+            spin->setValue(fieldValue(window, field, missing).toInt());
         });
         QObject::connect(spin, qOverload<int>(&QSpinBox::valueChanged), window,
                          [spin, window, field, name](int value) {

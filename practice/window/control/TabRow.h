@@ -2,19 +2,20 @@
 
 #include <QTabBar>
 
-/// A row of tabs that are all equally wide, whatever is written on them.
+/// A row of tabs that are as wide as they are told to be, whatever is written on them.
 class TabRow : public QTabBar
 {
     Q_OBJECT
 
 public:
-    /// @p tabWidth in pixels; a tab is as high as the row.
-    TabRow(const QStringList &tabs, int tabWidth, QWidget *parent = nullptr);
+    /// @p tabWidths in pixels: that of each tab, the last one for all that have none. A tab is as high as the
+    /// row.
+    TabRow(const QStringList &tabs, QVector<int> tabWidths, QWidget *parent = nullptr);
 
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
     [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
 
 private:
-    int m_tabWidth;
+    QVector<int> m_tabWidths;
 };

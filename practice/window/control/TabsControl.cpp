@@ -5,13 +5,54 @@
 #include <QJsonArray>
 #include <QSignalBlocker>
 
+namespace {
+
+/// The sets of choices that the tabs stand for; none for tabs that only take turns.
+QStringList setsOf(const ControlDescription &control)
+{
+    QStringList sets;
+    const QJsonArray names = control.own.object.value(QStringLiteral("choices")).toArray();
+    for (const QJsonValue &name : names) {
+        sets.append(name.toString());
+    }
+    return sets;
+}
+
+/// Reads the sets and the field of tabs that stand for sets of choices.
+void readSets(ControlReader &reader, int tabs)
+{
+    const QString kChoices = QStringLiteral("choices");
+    if (!reader.hasChoices()) {
+        return;
+    }
+    Q_UNUSED(reader.field());
+    const QStringList sets = reader.json().texts(kChoices);
+    for (const QString &set : sets) {
+        const QString problem = reader.context().project->start().choices.problemOf(set);
+        if (!problem.isEmpty()) {
+            reader.json().addError(kChoices, problem);
+        }
+    }
+    if (sets.size() != tabs) {
+        reader.json().addError(kChoices, QStringLiteral("must have a set for each tab"));
+    }
+}
+
+} // namespace
+
 void declareTabs(const QVector<ControlDescription> &controls, Project *project)
 {
     for (const ControlDescription &control : controls) {
         const QString source = control.own.object.value(QStringLiteral("source")).toString();
         if (control.type == QLatin1String("tabs") && !source.isEmpty() &&
             !project->sources().isPath(source)) {
-            project->addTabs(source, int(control.own.object.value(QStringLiteral("tabs")).toArray().size()));
+            const QStringList sets = setsOf(control);
+            if (sets.isEmpty()) {
+                project->addTabs(source,
+                                 int(control.own.object.value(QStringLiteral("tabs")).toArray().size()));
+            } else {
+                project->addTabs(source, control.own.object.value(QStringLiteral("field")).toString(), sets);
+            }
         }
     }
 }
@@ -24,9 +65,10 @@ ControlMaker readTabs(ControlReader &reader)
         texts.append(label.value(reader.context().locale));
     }
     const QString source = reader.source();
-    const int tabWidth = reader.tabWidth();
-    return [texts, source, tabWidth, name = reader.description().name](EditorWindow *window) {
-        auto *tabs = new TabRow(texts, tabWidth, window);
+    readSets(reader, int(texts.size()));
+    const QVector<int> tabWidths = reader.tabWidths();
+    return [texts, source, tabWidths, name = reader.description().name](EditorWindow *window) {
+        auto *tabs = new TabRow(texts, tabWidths, window);
         keepFresh(tabs, window, [tabs, window, source] {
             const QSignalBlocker quiet(tabs);
             tabs->setCurrentIndex(window->currentRow(source));

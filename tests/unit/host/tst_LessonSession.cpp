@@ -324,6 +324,9 @@ void tst_LessonSession::namesTheWindowToOpenNext_data()
     QTest::newRow("the nearer of two ways")
         << From{{selector, {other, properties}}, {other, {QStringLiteral("Far")}}, {properties, {main}}}
         << QStringList() << properties;
+    QTest::newRow("that of two ways which the lesson knows")
+        << From{{selector, {other, properties}}, {other, {main}}, {properties, {main}}} << QStringList()
+        << properties;
     QTest::newRow("in a circle") << From{{selector, {properties}}, {properties, {selector}}} << QStringList()
                                  << selector;
     QTest::newRow("none is lacking") << From{{selector, {main}}} << QStringList{selector} << QString();
@@ -337,7 +340,8 @@ void tst_LessonSession::namesTheWindowToOpenNext()
     m_windows->m_openedFrom = ways;
     QCOMPARE(m_session->windowToOpen(), QString());
     m_session->receive(startCommand(QStringLiteral(
-        R"({"id":1,"x":1,"y":2,"windowKey":"ImageSelector","condition":"list,1","hint":"h"})")));
+        R"({"id":1,"x":1,"y":2,"windowKey":"ImageSelector","condition":"list,1","hint":"h"},
+           {"id":2,"windowKey":"MapProperties","condition":"click,","hint":"h"})")));
     for (const QString &key : qAsConst(open)) {
         m_windows->open(key);
     }

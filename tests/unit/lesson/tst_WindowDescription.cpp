@@ -86,9 +86,9 @@ void tst_WindowDescription::readsAListATabRowAndAnAction()
     QVERIFY(part.kind == WindowDescription::Kind::kPart);
     QCOMPARE(part.owner, QStringLiteral("Box"));
     QCOMPARE(part.controls[0].rowHeight, 24);
-    QCOMPARE(part.controls[0].tabWidth, 0);
+    QCOMPARE(part.controls[0].tabWidths, QVector<int>());
     QCOMPARE(part.controls[0].contextMenu.popup, QStringLiteral("MapPopup"));
-    QCOMPARE(part.controls[1].tabWidth, 45);
+    QCOMPARE(part.controls[1].tabWidths, QVector<int>{45});
     QCOMPARE(part.controls[2].actionName, QStringLiteral("fileOpen"));
     QCOMPARE(part.controls[2].actionState, QStringLiteral("open"));
     QCOMPARE(part.controls[2].click.begin, QStringList{QStringLiteral("map.new")});

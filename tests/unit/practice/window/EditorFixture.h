@@ -120,8 +120,10 @@ public:
     QStringList told;
 
 private:
-    static QPoint rowCentre(const RowList *list, int row)
+    static QPoint rowCentre(RowList *list, int row)
     {
+        // Rows that have only just changed are laid out when there is time.
+        list->doItemsLayout();
         return list->visualItemRect(list->item(row)).center();
     }
 
