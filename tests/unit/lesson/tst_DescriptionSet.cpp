@@ -203,7 +203,8 @@ void tst_DescriptionSet::knowsFromWhichWindowsOneIsOpened()
     // By a double click in a part of it, and by its context menus.
     QCOMPARE(set.openedFrom(QStringLiteral("MapProperties")), fromMain);
     QCOMPARE(set.openedFrom(QStringLiteral("MapLoader")), fromMain);
-    QCOMPARE(set.openedFrom(QStringLiteral("ImageSelector")), QStringList{QStringLiteral("MapProperties")});
+    QVERIFY(set.openedFrom(QStringLiteral("ImageSelector")).contains(QStringLiteral("MapProperties")));
+    QVERIFY(set.openedFrom(QStringLiteral("ImageSelector")).contains(QStringLiteral("DatabaseMain")));
     QCOMPARE(set.openedFrom(QStringLiteral("MainWindow")), QStringList());
     QCOMPARE(set.openedFrom(QStringLiteral("Other")), QStringList());
 }

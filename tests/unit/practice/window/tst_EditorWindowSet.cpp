@@ -241,8 +241,8 @@ void tst_EditorWindowSet::originsFollowTheWindows()
 
     frame->move(0, 0);
     moved.clear();
-    editor->open(str("MapProperties"));
-    QCOMPARE(told("MapProperties"), main->mapToGlobal(QPoint(320, 150)));
+    editor->open(str("NewProject"));
+    QCOMPARE(told("NewProject"), main->mapToGlobal(QPoint(330, 220)));
     QCOMPARE(told("MainWindow"), QPoint(-1, -1));
 }
 
