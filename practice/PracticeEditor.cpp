@@ -119,6 +119,8 @@ void PracticeEditor::connectSession()
 void PracticeEditor::connectStrip()
 {
     connect(m_strip, &LessonStrip::used, this, &PracticeEditor::returnFocus);
+    connect(m_control, &StripControl::interrupted, this,
+            [this](bool isInterrupted) { m_link.send(HostCommands::state(!isInterrupted)); });
     connect(m_control, &StripControl::praised, this, [this](const QString &praise) {
         // Where the person has just read the last hint.
         if (const std::optional<QPoint> bubble = m_session.bubblePlace()) {
@@ -208,7 +210,7 @@ void PracticeEditor::onLost(const QString &lastWords)
             restartCompanion();
         }
     });
-    box->open();
+    m_control->open(box);
 }
 
 void PracticeEditor::closeDialogs()
@@ -238,7 +240,7 @@ void PracticeEditor::tellPerson(const QString &text)
                                 QMessageBox::Ok, m_strip->window());
     box->setInformativeText(text);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    m_control->open(box);
 }
 
 void PracticeEditor::returnFocus()

@@ -133,9 +133,10 @@ void LessonCourse::onStepReached()
     const int awaited = std::exchange(m_awaited, 0);
     if (awaited > 1 && m_session->runner().index() == 0) {
         //: %1 is the title of a lesson.
-        Q_EMIT problemFound(tr("“%1” cannot go on where it was left: the project in which you were is gone or has "
-                               "changed. It begins again.")
-                                .arg(entry(m_session->lessonName()).title));
+        Q_EMIT problemFound(
+            tr("“%1” cannot go on where it was left: the project in which you were is gone or has "
+               "changed. It begins again.")
+                .arg(entry(m_session->lessonName()).title));
     }
 }
 
