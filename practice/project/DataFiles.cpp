@@ -310,7 +310,7 @@ std::optional<DataFiles::Files> DataFiles::parsed(const QMap<QString, QByteArray
         if (!value) {
             //: %1 is a file's path, %2 the number of a line, %3 what the JSON reader says of it.
             *error =
-                tr("The project's file \"%1\" is damaged at line %2 (%3). Mend that line, or put a whole "
+                tr("The project's file “%1” is damaged at line %2 (%3). Mend that line, or put a whole "
                    "copy of the file in its place, and open the project again.")
                     .arg(QDir(folder).filePath(text.key()), QString::number(problem.line), problem.reason);
             return std::nullopt;

@@ -7,7 +7,7 @@ LessonProject::LessonProject(QObject *parent)
     m_filesMissing.setInterval(kFilesMs);
     connect(&m_filesMissing, &QTimer::timeout, this, [this] {
         //: %1 is the name of the project.
-        Q_EMIT failed(tr("The data files of the lesson have not come, so \"%1\" is without them. "
+        Q_EMIT failed(tr("The data files of the lesson have not come, so “%1” is without them. "
                          "Start the lesson again.")
                           .arg(*m_project));
     });

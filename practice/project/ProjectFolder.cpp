@@ -32,8 +32,8 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
 {
     if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
         //: %1 is the name that the person gave a new project.
-        *error = tr("A project cannot have the name \"%1\": its folder is named "
-                    "after it. Choose another name, without \"/\".")
+        *error = tr("A project cannot have the name “%1”: its folder is named "
+                    "after it. Choose another name, without “/”.")
                      .arg(name);
         return std::nullopt;
     }
@@ -46,7 +46,7 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
     QTemporaryDir room(QDir(location).filePath(QStringLiteral(".new-XXXXXX")));
     if (!room.isValid()) {
         //: %1 is a folder, %2 the system's reason.
-        *error = tr("The project's folder cannot be made in \"%1\" (%2). Choose "
+        *error = tr("The project's folder cannot be made in “%1” (%2). Choose "
                     "another place.")
                      .arg(location, room.errorString());
         return std::nullopt;
@@ -60,7 +60,7 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
     const QString path = QDir(location).absoluteFilePath(freeName(location, name));
     if (!QDir().rename(made, path)) {
         //: %1 is the folder's path.
-        *error = tr("The project's folder \"%1\" cannot be made. Choose another name or place.").arg(path);
+        *error = tr("The project's folder “%1” cannot be made. Choose another name or place.").arg(path);
         return std::nullopt;
     }
     return path;
@@ -95,7 +95,7 @@ std::optional<QMap<QString, QByteArray>> ProjectFolder::read(const QString &fold
     const QFileInfo data(project.filePath(QStringLiteral("data")));
     if (data.isDir() && !(data.isReadable() && data.isExecutable())) {
         //: %1 is a folder.
-        *error = tr("The project's folder \"%1\" cannot be read: you are not permitted to list its files. "
+        *error = tr("The project's folder “%1” cannot be read: you are not permitted to list its files. "
                     "Permit it, and open the project again.")
                      .arg(data.filePath());
         return std::nullopt;
@@ -105,7 +105,7 @@ std::optional<QMap<QString, QByteArray>> ProjectFolder::read(const QString &fold
     if (names.isEmpty()) {
         //: %1 is a folder.
         *error =
-            tr("\"%1\" holds no project: it has no data files. Choose another folder.").arg(project.path());
+            tr("“%1” holds no project: it has no data files. Choose another folder.").arg(project.path());
         return std::nullopt;
     }
     QMap<QString, QByteArray> files;
@@ -113,7 +113,7 @@ std::optional<QMap<QString, QByteArray>> ProjectFolder::read(const QString &fold
         QFile file(project.filePath(QStringLiteral("data/") + name));
         if (!file.open(QIODevice::ReadOnly)) {
             //: %1 is the file's path, %2 the system's reason.
-            *error = tr("The project's file \"%1\" cannot be read (%2). Permit reading it, and open the "
+            *error = tr("The project's file “%1” cannot be read (%2). Permit reading it, and open the "
                         "project again.")
                          .arg(file.fileName(), file.errorString());
             return std::nullopt;
@@ -129,7 +129,7 @@ bool ProjectFolder::write(const QString &folder, const QMap<QString, QByteArray>
     const auto fail = [error](const QFileDevice &file) {
         //: %1 is the file's path, %2 the system's reason.
         *error =
-            tr("The project's file \"%1\" cannot be written (%2).").arg(file.fileName(), file.errorString());
+            tr("The project's file “%1” cannot be written (%2).").arg(file.fileName(), file.errorString());
         return false;
     };
     QStringList names = files.keys();
@@ -137,7 +137,7 @@ bool ProjectFolder::write(const QString &folder, const QMap<QString, QByteArray>
     const auto leadsOut = std::find_if_not(names.cbegin(), names.cend(), staysInside);
     if (leadsOut != names.cend()) {
         //: %1 is a path inside the project.
-        *error = tr("The project cannot hold the file \"%1\": it would lie outside of the project's folder.")
+        *error = tr("The project cannot hold the file “%1”: it would lie outside of the project's folder.")
                      .arg(*leadsOut);
         return false;
     }

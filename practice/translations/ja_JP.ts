@@ -9,7 +9,7 @@
         <translation>%1変更はすべてエディターに残っています。ディスクの空きを増やすか、書き込みを許可してから、もう一度保存してください。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
+        <source>The project&apos;s file “%1” is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
         <extracomment>%1 is a file&apos;s path, %2 the number of a line, %3 what the JSON reader says of it.</extracomment>
         <translation>プロジェクトのファイル「%1」は%2行目が壊れています（%3）。その行を直すか、壊れていないファイルと置き換えてから、もう一度プロジェクトを開いてください。</translation>
     </message>
@@ -17,7 +17,7 @@
 <context>
     <name>LeaveQuestion</name>
     <message>
-        <source>Save the changes in &quot;%1&quot;?</source>
+        <source>Save the changes in “%1”?</source>
         <extracomment>%1 is the name of the open project.</extracomment>
         <translation>「%1」の変更を保存しますか？</translation>
     </message>
@@ -140,7 +140,7 @@
 <context>
     <name>LessonProject</name>
     <message>
-        <source>The data files of the lesson have not come, so &quot;%1&quot; is without them. Start the lesson again.</source>
+        <source>The data files of the lesson have not come, so “%1” is without them. Start the lesson again.</source>
         <extracomment>%1 is the name of the project.</extracomment>
         <translation>レッスンのデータファイルが届いていないため、「%1」にはデータファイルがありません。もう一度、レッスンを最初から始めてください。</translation>
     </message>
@@ -272,42 +272,42 @@
 <context>
     <name>ProjectFolder</name>
     <message>
-        <source>A project cannot have the name &quot;%1&quot;: its folder is named after it. Choose another name, without &quot;/&quot;.</source>
+        <source>A project cannot have the name “%1”: its folder is named after it. Choose another name, without “/”.</source>
         <extracomment>%1 is the name that the person gave a new project.</extracomment>
         <translation>プロジェクトの名前を「%1」にはできません。プロジェクトの名前は、フォルダーの名前にもなるためです。「/」を含まない別の名前にしてください。</translation>
     </message>
     <message>
-        <source>The project cannot hold the file &quot;%1&quot;: it would lie outside of the project&apos;s folder.</source>
+        <source>The project cannot hold the file “%1”: it would lie outside of the project&apos;s folder.</source>
         <extracomment>%1 is a path inside the project.</extracomment>
         <translation>ファイル「%1」は、プロジェクトのフォルダーの外に置かれてしまうため、プロジェクトに入れられません。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder cannot be made in &quot;%1&quot; (%2). Choose another place.</source>
+        <source>The project&apos;s folder cannot be made in “%1” (%2). Choose another place.</source>
         <extracomment>%1 is a folder, %2 the system&apos;s reason.</extracomment>
         <translation>「%1」にプロジェクトのフォルダーを作れません（%2）。別の場所を選んでください。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be made. Choose another name or place.</source>
+        <source>The project&apos;s folder “%1” cannot be made. Choose another name or place.</source>
         <extracomment>%1 is the folder&apos;s path.</extracomment>
         <translation>プロジェクトのフォルダー「%1」を作れません。名前か場所を変えてください。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be written (%2).</source>
+        <source>The project&apos;s file “%1” cannot be written (%2).</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>プロジェクトのファイル「%1」に書き込めません（%2）。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds no project: it has no data files. Choose another folder.</source>
+        <source>“%1” holds no project: it has no data files. Choose another folder.</source>
         <extracomment>%1 is a folder.</extracomment>
         <translation>「%1」にはデータファイルがなく、プロジェクトではありません。別のフォルダーを選んでください。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be read (%2). Permit reading it, and open the project again.</source>
+        <source>The project&apos;s file “%1” cannot be read (%2). Permit reading it, and open the project again.</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>プロジェクトのファイル「%1」を読み込めません（%2）。読み取りを許可してから、もう一度プロジェクトを開いてください。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
+        <source>The project&apos;s folder “%1” cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
         <extracomment>%1 is a folder.</extracomment>
         <translation>プロジェクトのフォルダー「%1」を読み込めません。中のファイルを一覧する許可がないためです。許可してから、もう一度プロジェクトを開いてください。</translation>
     </message>

@@ -9,7 +9,7 @@
         <translation>%1所有改动都还保留在编辑器里，没有丢失。请腾出磁盘空间，或允许写入，然后重新保存。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
+        <source>The project&apos;s file “%1” is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
         <extracomment>%1 is a file&apos;s path, %2 the number of a line, %3 what the JSON reader says of it.</extracomment>
         <translation>项目文件“%1”的第 %2 行已损坏（%3）。请修好这一行，或换上完好的文件副本，然后重新打开项目。</translation>
     </message>
@@ -17,7 +17,7 @@
 <context>
     <name>LeaveQuestion</name>
     <message>
-        <source>Save the changes in &quot;%1&quot;?</source>
+        <source>Save the changes in “%1”?</source>
         <extracomment>%1 is the name of the open project.</extracomment>
         <translation>要保存“%1”中的更改吗？</translation>
     </message>
@@ -140,7 +140,7 @@
 <context>
     <name>LessonProject</name>
     <message>
-        <source>The data files of the lesson have not come, so &quot;%1&quot; is without them. Start the lesson again.</source>
+        <source>The data files of the lesson have not come, so “%1” is without them. Start the lesson again.</source>
         <extracomment>%1 is the name of the project.</extracomment>
         <translation>没有收到本课的数据文件，所以项目“%1”里没有这些文件。请重新开始本课。</translation>
     </message>
@@ -272,42 +272,42 @@
 <context>
     <name>ProjectFolder</name>
     <message>
-        <source>A project cannot have the name &quot;%1&quot;: its folder is named after it. Choose another name, without &quot;/&quot;.</source>
+        <source>A project cannot have the name “%1”: its folder is named after it. Choose another name, without “/”.</source>
         <extracomment>%1 is the name that the person gave a new project.</extracomment>
         <translation>项目不能叫“%1”，因为项目文件夹也用这个名称。请换一个不含“/”的名称。</translation>
     </message>
     <message>
-        <source>The project cannot hold the file &quot;%1&quot;: it would lie outside of the project&apos;s folder.</source>
+        <source>The project cannot hold the file “%1”: it would lie outside of the project&apos;s folder.</source>
         <extracomment>%1 is a path inside the project.</extracomment>
         <translation>项目不能包含文件“%1”，因为该文件会位于项目文件夹之外。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder cannot be made in &quot;%1&quot; (%2). Choose another place.</source>
+        <source>The project&apos;s folder cannot be made in “%1” (%2). Choose another place.</source>
         <extracomment>%1 is a folder, %2 the system&apos;s reason.</extracomment>
         <translation>无法在“%1”里建立项目文件夹（%2）。请换一个位置。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be made. Choose another name or place.</source>
+        <source>The project&apos;s folder “%1” cannot be made. Choose another name or place.</source>
         <extracomment>%1 is the folder&apos;s path.</extracomment>
         <translation>无法建立项目文件夹“%1”。请换一个名称或位置。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be written (%2).</source>
+        <source>The project&apos;s file “%1” cannot be written (%2).</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>无法写入项目中的文件“%1”（%2）。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds no project: it has no data files. Choose another folder.</source>
+        <source>“%1” holds no project: it has no data files. Choose another folder.</source>
         <extracomment>%1 is a folder.</extracomment>
         <translation>“%1”里没有数据文件，不是项目。请选择别的文件夹。</translation>
     </message>
     <message>
-        <source>The project&apos;s file &quot;%1&quot; cannot be read (%2). Permit reading it, and open the project again.</source>
+        <source>The project&apos;s file “%1” cannot be read (%2). Permit reading it, and open the project again.</source>
         <extracomment>%1 is the file&apos;s path, %2 the system&apos;s reason.</extracomment>
         <translation>无法读取项目中的文件“%1”（%2）。请允许读取它，然后重新打开项目。</translation>
     </message>
     <message>
-        <source>The project&apos;s folder &quot;%1&quot; cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
+        <source>The project&apos;s folder “%1” cannot be read: you are not permitted to list its files. Permit it, and open the project again.</source>
         <extracomment>%1 is a folder.</extracomment>
         <translation>无法读取项目文件夹“%1”：你没有列出其中文件的权限。请授予权限，然后重新打开项目。</translation>
     </message>

@@ -9,7 +9,7 @@ void LeaveQuestion::ask(QWidget *window, const QString &name, const std::functio
     takeBack();
     //: %1 is the name of the open project.
     auto *box = new QMessageBox(QMessageBox::Question, window->window()->windowTitle(),
-                                tr("Save the changes in \"%1\"?").arg(name), QMessageBox::NoButton, window);
+                                tr("Save the changes in “%1”?").arg(name), QMessageBox::NoButton, window);
     box->setObjectName(QStringLiteral("leaveMessageBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(tr("What you have changed since you saved it last is lost otherwise."));

@@ -193,7 +193,7 @@ void tst_ProjectFolder::refusesNamesThatAreNoFolder()
 void tst_ProjectFolder::refusesInTheLanguageOfThePerson_data()
 {
     QTest::addColumn<QString>("refusal");
-    QTest::newRow("en_US") << QStringLiteral("A project cannot have the name \"a/b\"");
+    QTest::newRow("en_US") << QStringLiteral("A project cannot have the name “a/b”");
     QTest::newRow("ja_JP") << QStringLiteral("プロジェクトの名前を「a/b」にはできません。");
     QTest::newRow("zh_CN") << QStringLiteral("项目不能叫“a/b”");
 }
