@@ -223,7 +223,6 @@ int main(int argc, char **argv)
     if (windows == nullptr) {
         return complain(errors.join(QLatin1Char('\n')));
     }
-    windows->setUnattended(options.unattended);
     PracticeEditor editor(options, std::move(windows));
     QObject::connect(&editor, &PracticeEditor::ended, &application, &QApplication::exit,
                      Qt::QueuedConnection);

@@ -92,9 +92,10 @@ bool showsText(const QWidget *widget)
     const auto *label = qobject_cast<const QLabel *>(widget);
     const auto *button = qobject_cast<const QAbstractButton *>(widget);
     const auto *edit = qobject_cast<const QLineEdit *>(widget);
+    const auto *list = qobject_cast<const RowList *>(widget);
     return (label != nullptr && !label->text().isEmpty()) ||
            (button != nullptr && !button->text().isEmpty()) || (edit != nullptr && !edit->text().isEmpty()) ||
-           qobject_cast<const RowList *>(widget) != nullptr;
+           (list != nullptr && list->count() > 0);
 }
 
 } // namespace
