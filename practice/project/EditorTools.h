@@ -20,6 +20,8 @@ public:
     /// @p start outlives the tools.
     explicit EditorTools(const StartData *start, QObject *parent = nullptr);
 
+    [[nodiscard]] const StartData &start() const { return *m_start; }
+
     /// Adds the commands that choose tools, and the lists of tiles.
     void addTo(Commands &commands, RowSources &sources);
 

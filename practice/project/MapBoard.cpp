@@ -1,6 +1,7 @@
 #include "project/MapBoard.h"
 
 #include "project/MapTree.h"
+#include "project/TileSets.h"
 
 #include <QJsonObject>
 
@@ -36,6 +37,7 @@ const GameMap *MapBoard::map() const
     }
     if (!m_map) {
         m_map = GameMap::fromFile(m_files->file(MapTree::fileOf(shown)));
+        m_map->tileSet = TileSets::lookOf(m_map->tileSet + 1, *m_files, m_tools->start());
         m_map->name = m_files->value(MapTree::file(), QStringLiteral("/%1/name").arg(shown)).toString();
     }
     return &*m_map;

@@ -2,6 +2,7 @@
 
 #include "project/GameMap.h"
 #include "project/MapTree.h"
+#include "project/TileSets.h"
 
 #include <QJsonObject>
 
@@ -44,13 +45,8 @@ void Maps::addTo(Commands &commands, Fields &fields, RowSources &sources)
         }
         return rows;
     });
-    sources.add(QStringLiteral("tileSets"), [this](const DataLayer & /*layer*/) {
-        QVector<Row> rows;
-        for (const StartData::TileSet &set : m_start->tileSets) {
-            rows.append({set.name, int(rows.size()) + 1});
-        }
-        return rows;
-    });
+    sources.add(QStringLiteral("tileSets"),
+                [this](const DataLayer &layer) { return TileSets::rows(layer, *m_start); });
     // A map whose file does not say it shows its name.
     fields.add(
         QStringLiteral("map.showName"),

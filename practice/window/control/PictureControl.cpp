@@ -1,5 +1,6 @@
 #include "window/control/PictureControl.h"
 
+#include "project/TileSets.h"
 #include "window/MapPainter.h"
 #include "window/Pictures.h"
 #include "window/TroopPicture.h"
@@ -16,10 +17,11 @@ namespace {
 using Draw = std::function<QPixmap(const ControlContext &context, const DataLayer &layer,
                                    const QVariant &value, const QSize &size)>;
 
-QPixmap tileSet(const ControlContext &context, const DataLayer & /*layer*/, const QVariant &value,
+QPixmap tileSet(const ControlContext &context, const DataLayer &layer, const QVariant &value,
                 const QSize &size)
 {
-    return context.painter->tileSetPicture(qMax(0, value.toInt() - 1), size);
+    return context.painter->tileSetPicture(TileSets::lookOf(value.toInt(), layer, context.project->start()),
+                                           size);
 }
 
 /// The tile set whose picture has this name.

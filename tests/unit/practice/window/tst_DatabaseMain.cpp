@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aPictureIsChosen();
     void entriesHaveReadableRows_data();
     void entriesHaveReadableRows();
+    void aTileSetLooksLikeItsPicture();
     void theGameHasItsParty();
     void musicIsChosenWithItsVolume();
     void lookingChangesNothing();
@@ -229,6 +230,20 @@ void tst_DatabaseMain::entriesHaveReadableRows()
     editor.openDatabase(tab);
     editor.clickRow("DatabaseMain", list.constData(), row);
     QCOMPARE(editor.texts("DatabaseMain", rows.constData()), texts);
+}
+
+void tst_DatabaseMain::aTileSetLooksLikeItsPicture()
+{
+    SampleEditor editor;
+    editor.clickRow("MapEditTreeBox", "maps", 0);
+    QCOMPARE(editor.shownMap()->tileSet, 0);
+    editor.openDatabase(10);
+    editor.choose("DatabaseMain", "tilesetImage", 2);
+    editor.type("DatabaseMain", "tilesetName", str("Snow"));
+    editor.click("DatabaseMain", "ok");
+    QCOMPARE(editor.value("Tilesets", "/1/image"), QJsonValue(str("winter")));
+    QCOMPARE(editor.shownMap()->tileSet, 2);
+    QCOMPARE(editor.rows("tileSets").constFirst().text, str("Snow"));
 }
 
 void tst_DatabaseMain::theGameHasItsParty()
