@@ -1,4 +1,6 @@
+#include "project/ChoiceSets.h"
 #include "window/MapPainter.h"
+#include "window/Pictures.h"
 #include "window/TileDrawing.h"
 #include "window/ToolIcon.h"
 
@@ -44,6 +46,8 @@ class tst_Drawings : public QObject
 
 private Q_SLOTS:
     void everySourceIsADrawing();
+    void everyDrawingCanBeChosen_data();
+    void everyDrawingCanBeChosen();
     void aTileIsDrawnInEverySize_data();
     void aTileIsDrawnInEverySize();
     void linesAreOnePixelWideAtFullSize();
@@ -59,6 +63,33 @@ void tst_Drawings::everySourceIsADrawing()
     QCOMPARE(tileDrawings(), sourcesIn(QStringLiteral("tiles")));
     QVERIFY(!sourcesIn(QStringLiteral("icons")).isEmpty());
     QCOMPARE(toolIcons(), sourcesIn(QStringLiteral("icons")));
+}
+
+void tst_Drawings::everyDrawingCanBeChosen_data()
+{
+    QTest::addColumn<QString>("folder");
+    for (const char *folder : {"characters", "faces", "enemies", "backdrops", "titles"}) {
+        QTest::newRow(folder) << QString::fromLatin1(folder);
+    }
+}
+
+void tst_Drawings::everyDrawingCanBeChosen()
+{
+    QFETCH(QString, folder);
+    QStringList errors;
+    const auto sets = ChoiceSets::read(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions/choices"),
+                                       QStringLiteral("en_US"), &errors);
+    QCOMPARE(errors, QStringList());
+    QStringList names;
+    const QVector<Choice> choices = sets.choices(folder);
+    for (const Choice &choice : choices) {
+        names.append(choice.value.toString());
+    }
+    // The first is none.
+    QCOMPARE(names.takeFirst(), QString());
+    names.sort();
+    QCOMPARE(names, Pictures::namesIn(folder));
+    QCOMPARE(names, sourcesIn(folder));
 }
 
 void tst_Drawings::aTileIsDrawnInEverySize_data()
