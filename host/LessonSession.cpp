@@ -253,6 +253,14 @@ QString LessonSession::windowToOpen() const
     return closed.constFirst();
 }
 
+void LessonSession::play(const QString &lessonName, const QString &scenarioText, int id)
+{
+    m_resumed = {};
+    m_lessonName = lessonName;
+    m_lastName = lessonName; // nothing was asked for
+    begin(scenarioText, id);
+}
+
 void LessonSession::begin(const QString &scenarioText, int id)
 {
     QStringList problems;
@@ -273,7 +281,7 @@ void LessonSession::begin(const QString &scenarioText, int id)
         Q_EMIT stopped({m_lessonName, unknown.stepId, unknown.word, unknown.problem});
         return;
     }
-    const int first = takeUp(id);
+    const int first = takeUp(std::exchange(m_firstStep, std::nullopt).value_or(id));
     m_screen.start();
     Q_EMIT started();
     m_runner.start(scenario, first);

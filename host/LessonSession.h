@@ -42,6 +42,10 @@ public:
     void greet(const QString &locale);
     /// Asks for the lesson. A lesson that runs is stopped first.
     void request(const QString &lessonName);
+    /// Begins a lesson that the host has itself, such as one from a file on disk, at the step with this id.
+    void play(const QString &lessonName, const QString &scenarioText, int id);
+    /// The lesson that is asked for next begins at the step with this id.
+    void setFirstStep(int id) { m_firstStep = id; }
     /// Ends the lesson that runs.
     void stop();
     /// Forgets the lesson that runs, as its companion is gone. Its bookmark() stays.
@@ -165,6 +169,7 @@ private:
     bool m_bookmarkDue = false;
     /// To be resumed when its lesson comes.
     QJsonObject m_resumed;
+    std::optional<int> m_firstStep;
     QTimer m_wait;
     QTimer m_handOver;
     QTimer m_glide;

@@ -3,6 +3,7 @@
 #include "lesson/LessonWords.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace {
 
@@ -31,12 +32,16 @@ QStringList chosen(const QCommandLineParser &parser, const QString &name, const 
 
 QString PilotPlay::title() const
 {
-    return QStringLiteral("lesson %1 (%2, %3)").arg(lesson).arg(locale, way);
+    const QString name =
+        lesson > 0 ? QStringLiteral("lesson %1").arg(lesson) : QFileInfo(scenario).completeBaseName();
+    return QStringLiteral("%1 (%2, %3)").arg(name, locale, way);
 }
 
 QString PilotPlay::folderName() const
 {
-    return QStringLiteral("lesson%1-%2-%3").arg(lesson).arg(locale, way);
+    const QString name =
+        lesson > 0 ? QStringLiteral("lesson%1").arg(lesson) : QFileInfo(scenario).completeBaseName();
+    return QStringLiteral("%1-%2-%3").arg(name, locale, way);
 }
 
 QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem)
@@ -45,11 +50,15 @@ QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem
     for (int number = 1; number <= kLessons; ++number) {
         numbers += QString::number(number);
     }
-    if (!parser.isSet(QStringLiteral("lesson"))) {
-        *problem = QStringLiteral("--pilot needs to know which lesson: add --lesson N, or --lesson all");
+    const QString scenario = parser.value(QStringLiteral("scenario"));
+    if (!parser.isSet(QStringLiteral("lesson")) && scenario.isEmpty()) {
+        *problem = QStringLiteral(
+            "--pilot needs to know which lesson: add --lesson N, --lesson all, or --scenario FILE");
         return {};
     }
-    const QStringList lessons = chosen(parser, QStringLiteral("lesson"), kAll, numbers, problem);
+    const QStringList lessons = scenario.isEmpty()
+                                    ? chosen(parser, QStringLiteral("lesson"), kAll, numbers, problem)
+                                    : QStringList(QStringLiteral("0"));
     const QStringList locales =
         chosen(parser, QStringLiteral("locale"), kAll, LessonWords::locales(), problem);
     const QStringList ways = chosen(parser, QStringLiteral("way"), QStringLiteral("both"),
@@ -58,7 +67,7 @@ QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem
     for (const QString &lesson : lessons) {
         for (const QString &locale : locales) {
             for (const QString &way : ways) {
-                plays.append({lesson.toInt(), locale, way});
+                plays.append({lesson.toInt(), scenario, locale, way});
             }
         }
     }

@@ -18,8 +18,10 @@ int playSeries(const QVector<PilotPlay> &plays, const QStringList &options, cons
         if (lacking.contains(play.lesson)) {
             continue;
         }
-        QStringList arguments{QStringLiteral("--pilot"), QStringLiteral("--lesson=%1").arg(play.lesson),
-                              QStringLiteral("--locale=") + play.locale, QStringLiteral("--way=") + play.way};
+        const QString lesson = play.lesson > 0 ? QStringLiteral("--lesson=%1").arg(play.lesson)
+                                               : QStringLiteral("--scenario=") + play.scenario;
+        QStringList arguments{QStringLiteral("--pilot"), lesson, QStringLiteral("--locale=") + play.locale,
+                              QStringLiteral("--way=") + play.way};
         if (!pictures.isEmpty()) {
             arguments += QStringLiteral("--shots=") + QDir(pictures).filePath(play.folderName());
         }

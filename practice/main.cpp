@@ -1,3 +1,4 @@
+#include "AuthorRun.h"
 #include "PilotPlay.h"
 #include "PilotRun.h"
 #include "PilotSeries.h"
@@ -115,6 +116,7 @@ struct CommandLine
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("Tutorial"))};
     QCommandLineOption key{QStringLiteral("key"), QStringLiteral("Key of the link; by default a random one."),
                            QStringLiteral("key")};
+    AuthorOptions author;
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
     QCommandLineParser parser;
@@ -125,15 +127,18 @@ struct CommandLine
     {
         parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
         parser.addOptions({lesson, locale, pilot, way, shots, broken, clock, companion, key, help, version});
+        author.addTo(&parser);
         isUnderstood = parser.parse(QCoreApplication::arguments());
     }
 };
 
-/// Prints what --help and --version ask for, without a display. False when neither is asked for.
+/// Prints what --help, --version and --dump-controls ask for, without a display. False when none is asked
+/// for.
 bool describe(int argc, char **argv)
 {
     const auto asks = [](const char *word) {
-        return qstrcmp(word, "--help") == 0 || qstrcmp(word, "-h") == 0 || qstrcmp(word, "--version") == 0;
+        return qstrcmp(word, "--help") == 0 || qstrcmp(word, "-h") == 0 || qstrcmp(word, "--version") == 0 ||
+               qstrcmp(word, "--dump-controls") == 0;
     };
     if (std::none_of(argv, argv + argc, asks)) {
         return false;
@@ -146,6 +151,12 @@ bool describe(int argc, char **argv)
     }
     if (line.parser.isSet(line.version)) {
         std::fputs("PracticeEditor " TUTORIAL_VERSION "\n", stdout);
+        return true;
+    }
+    if (line.parser.isSet(line.author.dumpControls)) {
+        QStringList errors;
+        std::fputs(controlsForAuthors(&errors).constData(), stdout);
+        std::fputs(qPrintable(errors.join(QLatin1Char('\n'))), stderr);
         return true;
     }
     return false; // the word is an option's value
@@ -177,6 +188,9 @@ int main(int argc, char **argv)
     if (!parser.positionalArguments().isEmpty()) {
         return complain(QStringLiteral("it takes options only, not \"%1\"; --help tells which")
                             .arg(parser.positionalArguments().constFirst()));
+    }
+    if (const QString problem = line.author.problemOf(parser); !problem.isEmpty()) {
+        return complain(problem);
     }
     std::optional<PilotPlay> play;
     const int clock = parser.value(line.clock).toInt();
@@ -223,7 +237,9 @@ int main(int argc, char **argv)
     if (windows == nullptr) {
         return complain(errors.join(QLatin1Char('\n')));
     }
+    EditorWindows *const shown = windows.get();
     PracticeEditor editor(options, std::move(windows));
+    line.author.apply(parser, options.locale, &editor, shown);
     QObject::connect(&editor, &PracticeEditor::ended, &application, &QApplication::exit,
                      Qt::QueuedConnection);
     endOnSignals(&application);

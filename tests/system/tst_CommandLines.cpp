@@ -63,11 +63,14 @@ private:
             << QStringList{QStringLiteral("--help"), QStringLiteral("--tree"), QStringLiteral("--version")};
         QTest::newRow("PracticeEditor")
             << QStringLiteral(PRACTICE_PROGRAM)
-            << QStringList{
-                   QStringLiteral("--broken"),  QStringLiteral("--clock"), QStringLiteral("--companion"),
-                   QStringLiteral("--help"),    QStringLiteral("--key"),   QStringLiteral("--lesson"),
-                   QStringLiteral("--locale"),  QStringLiteral("--pilot"), QStringLiteral("--shots"),
-                   QStringLiteral("--version"), QStringLiteral("--way")};
+            << QStringList{QStringLiteral("--broken"),    QStringLiteral("--clock"),
+                           QStringLiteral("--companion"), QStringLiteral("--dump-controls"),
+                           QStringLiteral("--from"),      QStringLiteral("--help"),
+                           QStringLiteral("--key"),       QStringLiteral("--lesson"),
+                           QStringLiteral("--locale"),    QStringLiteral("--pilot"),
+                           QStringLiteral("--record"),    QStringLiteral("--scenario"),
+                           QStringLiteral("--shots"),     QStringLiteral("--version"),
+                           QStringLiteral("--way")};
     }
 };
 

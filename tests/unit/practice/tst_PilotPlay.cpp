@@ -10,6 +10,7 @@ QStringList titlesFor(const QStringList &options)
 {
     QCommandLineParser parser;
     parser.addOptions({{QStringLiteral("lesson"), QString(), QStringLiteral("N")},
+                       {QStringLiteral("scenario"), QString(), QStringLiteral("file")},
                        {QStringLiteral("locale"), QString(), QStringLiteral("name"), QStringLiteral("ja_JP")},
                        {QStringLiteral("way"), QString(), QStringLiteral("answer"), QStringLiteral("yes")}});
     if (!parser.parse(QStringList{QStringLiteral("program")} + options)) {
@@ -33,6 +34,7 @@ class tst_PilotPlay : public QObject
 private Q_SLOTS:
     void oneLesson();
     void everyWayThroughAllOfThem();
+    void oneFromAFile();
     void whatThereIsNot_data();
     void whatThereIsNot();
 };
@@ -52,14 +54,21 @@ void tst_PilotPlay::everyWayThroughAllOfThem()
     QCOMPARE(titles.constLast(), QStringLiteral("lesson 19 (zh_CN, no)"));
 }
 
+void tst_PilotPlay::oneFromAFile()
+{
+    QCOMPARE(titlesFor({QStringLiteral("--scenario=/lessons/Harbor.js"), QStringLiteral("--way=both")}),
+             (QStringList{QStringLiteral("Harbor (ja_JP, yes)"), QStringLiteral("Harbor (ja_JP, no)")}));
+}
+
 void tst_PilotPlay::whatThereIsNot_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("problem");
     const QString first = QStringLiteral("--lesson=1");
     QTest::newRow("no lesson") << QStringList()
-                               << QStringLiteral("--pilot needs to know which lesson: add --lesson N, or "
-                                                 "--lesson all");
+                               << QStringLiteral(
+                                      "--pilot needs to know which lesson: add --lesson N, --lesson all, "
+                                      "or --scenario FILE");
     QTest::newRow("lesson") << QStringList(QStringLiteral("--lesson=20"))
                             << QStringLiteral("there is no lesson \"20\"; --lesson takes 1 to 19 or all");
     QTest::newRow("locale") << QStringList{first, QStringLiteral("--locale=fr_FR")}
