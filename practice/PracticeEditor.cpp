@@ -106,6 +106,7 @@ void PracticeEditor::connectSession()
                        .arg(fault.item)
                        .arg(fault.word));
     });
+    connect(&m_session, &LessonSession::nextArrived, m_windows.get(), &EditorWindows::takeFocusBack);
     connect(&m_session, &LessonSession::lessonsListed, this, &PracticeEditor::onListed);
     connect(&m_session, &LessonSession::showRequested, this, [this](const ControlSpot &spot) {
         if (const std::optional<QRect> rect = m_windows->rectOf(spot)) {
@@ -150,6 +151,7 @@ void PracticeEditor::connectProject()
 void PracticeEditor::onConnected()
 {
     Q_EMIT companionConnected(m_link.companionPid());
+    m_windows->setTipsShownElsewhere(true);
     m_session.greet(m_options.locale);
 }
 
@@ -185,6 +187,7 @@ void PracticeEditor::onLessonWanted()
 void PracticeEditor::onLost(const QString &lastWords)
 {
     m_session.abandon();
+    m_windows->setTipsShownElsewhere(false);
     m_control->showLost();
     printLine(stderr, QStringLiteral("The companion ended unexpectedly. Its last lines were:\n") + lastWords);
     Q_EMIT troubled(QStringLiteral("the companion ended"));

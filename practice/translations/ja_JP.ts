@@ -2,6 +2,46 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>BackHints</name>
+    <message>
+        <source>This lesson goes on in “%1”.</source>
+        <extracomment>%1 is the title of a window; a sentence with what to do follows.</extracomment>
+        <translation>このレッスンは「%1」で続きます。</translation>
+    </message>
+    <message>
+        <source>Press Esc: the menu closes.</source>
+        <translation>Esc キーを押すと、メニューが閉じます。</translation>
+    </message>
+    <message>
+        <source>Press Esc: this window closes.</source>
+        <translation>Esc キーを押すと、このウィンドウが閉じます。</translation>
+    </message>
+    <message>
+        <source>Click “%1”.</source>
+        <extracomment>%1 is the text of a button that closes a window.</extracomment>
+        <translation>「%1」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Double-click “%1” again.</source>
+        <extracomment>%1 is what stands in the row of a list.</extracomment>
+        <translation>もう一度「%1」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Right-click “%1” again.</source>
+        <extracomment>%1 is what stands in the row of a list, or the name of a part of the window.</extracomment>
+        <translation>もう一度「%1」を右クリックしてください。</translation>
+    </message>
+    <message>
+        <source>Click “%1” again.</source>
+        <extracomment>%1 is the text of a button, tab or row of a list.</extracomment>
+        <translation>もう一度「%1」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Something is different from what this step needs. Click “Put it back” in the lesson strip.</source>
+        <translation>今の状態では、この手順を続けられません。レッスンの帯にある「元に戻す」をクリックしてください。</translation>
+    </message>
+</context>
+<context>
     <name>DataFiles</name>
     <message>
         <source>%1 Nothing is lost: the editor keeps all your changes. Make room on the disk, or permit writing, and save again.</source>

@@ -2,6 +2,46 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>BackHints</name>
+    <message>
+        <source>This lesson goes on in “%1”.</source>
+        <extracomment>%1 is the title of a window; a sentence with what to do follows.</extracomment>
+        <translation>课程在“%1”窗口中继续。</translation>
+    </message>
+    <message>
+        <source>Press Esc: the menu closes.</source>
+        <translation>按 Esc 键，菜单就会关闭。</translation>
+    </message>
+    <message>
+        <source>Press Esc: this window closes.</source>
+        <translation>按 Esc 键，这个窗口就会关闭。</translation>
+    </message>
+    <message>
+        <source>Click “%1”.</source>
+        <extracomment>%1 is the text of a button that closes a window.</extracomment>
+        <translation>请单击“%1”。</translation>
+    </message>
+    <message>
+        <source>Double-click “%1” again.</source>
+        <extracomment>%1 is what stands in the row of a list.</extracomment>
+        <translation>请再次双击“%1”。</translation>
+    </message>
+    <message>
+        <source>Right-click “%1” again.</source>
+        <extracomment>%1 is what stands in the row of a list, or the name of a part of the window.</extracomment>
+        <translation>请再次右键单击“%1”。</translation>
+    </message>
+    <message>
+        <source>Click “%1” again.</source>
+        <extracomment>%1 is the text of a button, tab or row of a list.</extracomment>
+        <translation>请再次单击“%1”。</translation>
+    </message>
+    <message>
+        <source>Something is different from what this step needs. Click “Put it back” in the lesson strip.</source>
+        <translation>现在的状态和这一步需要的不一样。请单击课程栏中的“恢复原样”。</translation>
+    </message>
+</context>
+<context>
     <name>DataFiles</name>
     <message>
         <source>%1 Nothing is lost: the editor keeps all your changes. Make room on the disk, or permit writing, and save again.</source>

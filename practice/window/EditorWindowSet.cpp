@@ -37,6 +37,10 @@ EditorWindowSet::EditorWindowSet(EditorGround ground, WindowBuilder::Windows win
         wire(window);
     }
     wireEditor();
+    setView({&m_ground.descriptions, m_ground.project.get(),
+             [this](const QString &key) { return window(key); }, [this] { return m_popup.window(); },
+             &m_stack, m_ground.locale},
+            [this](const QString &name, const QPoint &position) { showPopup(name, position); });
     qApp->installEventFilter(this);
     updateTitle();
 }
@@ -302,5 +306,5 @@ bool EditorWindowSet::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
-    return EditorWindows::eventFilter(watched, event);
+    return GuidedWindows::eventFilter(watched, event);
 }

@@ -2,7 +2,7 @@
 
 #include "window/EditorGround.h"
 #include "window/EditorWindow.h"
-#include "window/EditorWindows.h"
+#include "window/GuidedWindows.h"
 #include "window/InputBlock.h"
 #include "window/LeaveQuestion.h"
 #include "window/MenuKey.h"
@@ -16,7 +16,7 @@
 
 /// All windows of the editor, and what is open of them. The windows exist from the start and are shown and
 /// hidden; the set owns them and the project behind them.
-class EditorWindowSet : public EditorWindows
+class EditorWindowSet : public GuidedWindows
 {
     Q_OBJECT
 

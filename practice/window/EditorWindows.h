@@ -25,6 +25,13 @@ public:
     /// high as its size hint. It stays of use while a dialog is open.
     virtual void dock(QWidget *strip) = 0;
 
+    /// A button of the companion was pressed: the window on top gets the focus, and what the person presses
+    /// in the editor for a moment is the rest of a double click and not meant for it.
+    virtual void takeFocusBack() = 0;
+
+    /// Whether somebody else shows what hovered() tells: then no tool tips of the toolkit show.
+    virtual void setTipsShownElsewhere(bool shown) = 0;
+
     /// Nobody is there to ask: what is not saved is dropped without a question.
     virtual void setUnattended(bool unattended) = 0;
 

@@ -5,6 +5,18 @@
 
 #include <QScrollArea>
 
+namespace {
+
+/// The cell in which a stroke began; the whole map for a tool to which all of its cells are one.
+ControlSpot strokeSpot(const EditorWindow &window, const MapView &view, const QString &name)
+{
+    const bool fills = window.project().tools().tool() == EditorTools::Tool::kFill;
+    const QPoint cell = view.strokeStart();
+    return window.spot(name, fills ? -1 : ControlSpot::cell(cell.x(), cell.y()));
+}
+
+} // namespace
+
 ControlMaker readMap(ControlReader &reader)
 {
     const QString target = reader.json().text(QStringLiteral("target"));
@@ -19,12 +31,13 @@ ControlMaker readMap(ControlReader &reader)
         area->setFocusPolicy(Qt::NoFocus); // the map itself has the keys
         new MapKeys(view);
         keepFresh(view, window, [view] { view->refresh(); });
-        QObject::connect(view, &MapView::pressed, window, [window, name] {
+        QObject::connect(view, &MapView::pressed, window, [window, view, name] {
             window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"),
-                           window->spot(name));
+                           strokeSpot(*window, *view, name));
         });
-        QObject::connect(view, &MapView::clicked, window, [window, target, name] {
-            window->report(QStringLiteral("mouseEvent"), target, QStringLiteral("click"), window->spot(name));
+        QObject::connect(view, &MapView::clicked, window, [window, view, target, name] {
+            const QString how = QLatin1String(view->strokeEnd() == view->strokeStart() ? "click" : "drag");
+            window->report(QStringLiteral("mouseEvent"), target, how, strokeSpot(*window, *view, name));
         });
         QObject::connect(view, &MapView::menuRequested, window,
                          [window, target, contextMenu, name](const QPoint &at) {

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QPoint markedCell() const { return m_cursor; }
     /// Marks the cell of the map that is nearest to @p cell.
     void setMarkedCell(const QPoint &cell);
+    /// The cell in which the left button went down last, and the one to which the mouse went on from there.
+    [[nodiscard]] QPoint strokeStart() const { return m_strokeStart; }
+    [[nodiscard]] QPoint strokeEnd() const { return m_strokeEnd; }
     /// Of a cell, in pixels.
     [[nodiscard]] QRect rectOf(const QPoint &cell) const;
     /// Tells where the marked cell is.

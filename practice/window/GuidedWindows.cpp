@@ -1,0 +1,134 @@
+#include "window/GuidedWindows.h"
+
+#include "window/EditorWindow.h"
+
+#include <QAbstractScrollArea>
+#include <QScrollBar>
+
+#include <utility>
+
+struct GuidedWindows::Guides
+{
+    EditorWays ways;
+    ControlFinder finder;
+    ControlHand hand;
+    BackHints hints;
+    StateKeeper keeper;
+};
+
+GuidedWindows::GuidedWindows()
+{
+    connect(&m_tips, &HoverTips::hovered, this, &HostEditor::hovered);
+    connect(&m_tips, &HoverTips::unhovered, this, &HostEditor::unhovered);
+}
+
+GuidedWindows::~GuidedWindows() = default;
+
+void GuidedWindows::setView(const EditorView &view,
+                            std::function<void(const QString &, const QPoint &)> popUp)
+{
+    m_view = view;
+    m_guides.reset(new Guides{EditorWays(view.descriptions), ControlFinder(view), ControlHand(nullptr),
+                              BackHints(view, nullptr), StateKeeper(this, view, std::move(popUp))});
+    m_guides->hand = ControlHand(&m_guides->finder);
+    m_guides->hints = BackHints(view, &m_guides->finder);
+    const QStringList keys = view.descriptions->keys();
+    for (const QString &key : keys) {
+        const EditorWindow *const window = view.window(key);
+        const auto areas = window != nullptr ? window->findChildren<QAbstractScrollArea *>()
+                                             : QList<QAbstractScrollArea *>();
+        for (const QAbstractScrollArea *const area : areas) {
+            for (const QScrollBar *const bar : {area->verticalScrollBar(), area->horizontalScrollBar()}) {
+                connect(bar, &QScrollBar::valueChanged, this, &HostEditor::viewChanged);
+            }
+        }
+    }
+}
+
+QString GuidedWindows::windowOf(const QString &windowKey) const
+{
+    return m_guides->ways.windowOf(windowKey);
+}
+
+std::optional<ControlSpot> GuidedWindows::controlAt(const QString &windowKey, const QPoint &point) const
+{
+    return m_guides->finder.controlAt(windowKey, point);
+}
+
+std::optional<QRect> GuidedWindows::rectOf(const ControlSpot &spot) const
+{
+    return m_guides->finder.rectOf(spot);
+}
+
+void GuidedWindows::reveal(const ControlSpot &spot)
+{
+    m_guides->finder.reveal(spot);
+}
+
+bool GuidedWindows::canCause(const ControlSpot &spot, const Condition &condition) const
+{
+    return m_guides->ways.canCause(spot, condition);
+}
+
+Ways GuidedWindows::ways() const
+{
+    return m_guides->ways.all();
+}
+
+QString GuidedWindows::meaningOf(const ControlSpot &spot) const
+{
+    return m_guides->finder.meaningOf(spot);
+}
+
+QVector<ControlSpot> GuidedWindows::chosen() const
+{
+    return m_guides->finder.chosen();
+}
+
+QString GuidedWindows::projectId() const
+{
+    return projectFolder();
+}
+
+QString GuidedWindows::dataMark() const
+{
+    return m_view.project->files().lastStep();
+}
+
+EditorState GuidedWindows::state() const
+{
+    return m_guides->keeper.state();
+}
+
+bool GuidedWindows::restore(const EditorState &state)
+{
+    return m_guides->keeper.restore(state);
+}
+
+bool GuidedWindows::perform(const ControlUse &use)
+{
+    return m_guides->hand.perform(use);
+}
+
+QString GuidedWindows::hintBack(const Way &way, const Step &step) const
+{
+    return m_guides->hints.hint(way, step);
+}
+
+QString GuidedWindows::hintToPutBack(const Step & /*step*/) const
+{
+    return BackHints::hintToPutBack();
+}
+
+void GuidedWindows::takeFocusBack()
+{
+    m_presses.begin();
+    if (!m_view.stack->isEmpty()) {
+        m_view.window(m_view.stack->constLast())->window()->activateWindow();
+    }
+}
+
+void GuidedWindows::setTipsShownElsewhere(bool shown)
+{
+    m_tips.setShownElsewhere(shown);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "window/BackHints.h"
+#include "window/ControlFinder.h"
+#include "window/ControlHand.h"
+#include "window/EditorWays.h"
+#include "window/EditorWindows.h"
+#include "window/HoverTips.h"
+#include "window/PressGuard.h"
+#include "window/StateKeeper.h"
+
+#include <memory>
+
+/// The part of the windows that guides a person: what a lesson asks of an editor beside which windows are
+/// open. Each answer is given by a class of its own.
+class GuidedWindows : public EditorWindows
+{
+    Q_OBJECT
+
+public:
+    GuidedWindows();
+    ~GuidedWindows() override;
+
+    [[nodiscard]] QString windowOf(const QString &windowKey) const override;
+    [[nodiscard]] std::optional<ControlSpot> controlAt(const QString &windowKey,
+                                                       const QPoint &point) const override;
+    [[nodiscard]] std::optional<QRect> rectOf(const ControlSpot &spot) const override;
+    void reveal(const ControlSpot &spot) override;
+    [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const override;
+    [[nodiscard]] Ways ways() const override;
+    [[nodiscard]] QString meaningOf(const ControlSpot &spot) const override;
+    [[nodiscard]] QVector<ControlSpot> chosen() const override;
+    [[nodiscard]] QString projectId() const override;
+    [[nodiscard]] QString dataMark() const override;
+    [[nodiscard]] EditorState state() const override;
+    bool restore(const EditorState &state) override;
+    bool perform(const ControlUse &use) override;
+    [[nodiscard]] QString hintBack(const Way &way, const Step &step) const override;
+    [[nodiscard]] QString hintToPutBack(const Step &step) const override;
+
+    void takeFocusBack() override;
+    void setTipsShownElsewhere(bool shown) override;
+
+protected:
+    /// What there is to guide through; once, before anything is asked. @p popUp shows the context menu with a
+    /// name at a place on the screen.
+    void setView(const EditorView &view, std::function<void(const QString &, const QPoint &)> popUp);
+
+private:
+    struct Guides;
+
+    EditorView m_view;
+    std::unique_ptr<Guides> m_guides;
+    PressGuard m_presses;
+    HoverTips m_tips;
+};
