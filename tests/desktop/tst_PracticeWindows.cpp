@@ -52,6 +52,12 @@ Widget *find(const char *name)
     qFatal("there is no %s", name);
 }
 
+/// What the lesson strip says; a control of a window may have the same name.
+const QLabel *stripText()
+{
+    return find<QWidget>("lessonStrip")->findChild<QLabel *>(QStringLiteral("textLabel"));
+}
+
 } // namespace
 
 /// What a learner may do beside the lesson, in real windows and with the real companion.
@@ -241,7 +247,7 @@ void tst_PracticeWindows::theArrowComesBackToADialogThatWasClosed()
     if (QTest::currentTestFailed()) {
         return;
     }
-    const QLabel *status = find<QLabel>("textLabel");
+    const QLabel *status = stripText();
     const QString step = status->text();
     QVERIFY(clickOn(m_windows->window(QStringLiteral("NewProject"))
                         ->findChild<QAbstractButton *>(QStringLiteral("cancel"))));
@@ -314,7 +320,7 @@ void tst_PracticeWindows::theStripSaysWhatTheBubbleSays()
         find<QPushButton>("skipButton")->click();
     }
     QVERIFY(runner.isRunning());
-    const auto *const strip = find<QLabel>("textLabel");
+    const QLabel *const strip = stripText();
     QTRY_COMPARE_WITH_TIMEOUT(strip->text(), m_editor->session().hint(), kSoonMs);
     m_windows->open(properties);
     QTRY_COMPARE_WITH_TIMEOUT(strip->text(), m_editor->session().hint(), kSoonMs);
