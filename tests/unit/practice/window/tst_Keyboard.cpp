@@ -278,7 +278,7 @@ void tst_Keyboard::keysDrawOnTheMap()
     QVERIFY(!editor->project()->isModified());
     QTest::keyRelease(Editor::focusWindow(), Qt::Key_Space);
     QCOMPARE(editor.takeTold(), (QStringList{str("pressed,0,0 in MainWindowClient_mapEditorView"),
-                                             str("mouseEvent,Map,click in MainWindowClient_mapEditorView")}));
+                                             str("mouseEvent,Map,drag in MainWindowClient_mapEditorView")}));
     for (const QPoint &cell : {QPoint(5, 5), QPoint(6, 5), QPoint(5, 6), QPoint(6, 6)}) {
         QCOMPARE(editor.shownMap()->tile(0, cell), 4);
     }
