@@ -122,7 +122,7 @@ QJsonObject LessonProgress::read(const QString &fileName)
                      .arg(file.fileName(), file.errorString()));
         return {};
     }
-    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
     file.close();
     if (object.isEmpty()) {
         putAside(fileName);

@@ -17,7 +17,7 @@ BackHints::BackHints(const EditorView &view, const ControlFinder *finder)
 
 QString BackHints::hint(const Way &way, const Step &step) const
 {
-    const QString todo = action(way);
+    QString todo = action(way);
     const QString title = titleOf(step.windowKey);
     if (way.does == Does::kShows || title.isEmpty()) {
         return todo;

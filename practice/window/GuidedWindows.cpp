@@ -9,6 +9,16 @@
 
 struct GuidedWindows::Guides
 {
+    Guides(GuidedWindows *windows, const EditorView &view,
+           std::function<void(const QString &, const QPoint &)> popUp)
+        : ways(view.descriptions)
+        , finder(view)
+        , hand(&finder)
+        , hints(view, &finder)
+        , keeper(windows, view, std::move(popUp))
+    {
+    }
+
     EditorWays ways;
     ControlFinder finder;
     ControlHand hand;
@@ -28,10 +38,7 @@ void GuidedWindows::setView(const EditorView &view,
                             std::function<void(const QString &, const QPoint &)> popUp)
 {
     m_view = view;
-    m_guides.reset(new Guides{EditorWays(view.descriptions), ControlFinder(view), ControlHand(nullptr),
-                              BackHints(view, nullptr), StateKeeper(this, view, std::move(popUp))});
-    m_guides->hand = ControlHand(&m_guides->finder);
-    m_guides->hints = BackHints(view, &m_guides->finder);
+    m_guides = std::make_unique<Guides>(this, view, std::move(popUp));
     const QStringList keys = view.descriptions->keys();
     for (const QString &key : keys) {
         const EditorWindow *const window = view.window(key);
