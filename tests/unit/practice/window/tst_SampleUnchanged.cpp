@@ -8,8 +8,6 @@ namespace {
 
 /// How many windows may stand on top of each other while all are looked at.
 constexpr int kDeepest = 4;
-/// Of how many rows of a list the further windows are looked at; the rows themselves are all looked at.
-constexpr int kRowsWithWindows = 2;
 
 const QString kPreset = QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset");
 
@@ -27,7 +25,7 @@ QMap<QString, QByteArray> filesIn(const QString &folder)
 }
 
 /// Goes through the windows of an editor as far as that changes nothing: every tab, every row, and whatever
-/// window a control opens, which is left with OK.
+/// window a control opens, which is left with OK. What a control opens is looked at once.
 class Visitor
 {
 public:
@@ -61,9 +59,7 @@ private:
     void visit(const QString &key, int depth)
     {
         m_visited.insert(key);
-        if (depth < kDeepest) {
-            visitWindowsOf(key, depth);
-        }
+        visitWindowsOf(key, depth);
         visitRows(key, str("tabs"), depth);
         visitRows(key, str("list"), depth);
     }
@@ -73,7 +69,8 @@ private:
         EditorWindow *window = m_editor->window(key);
         for (const ControlDescription &control : m_windows[key].controls) {
             const QString source = control.own.object.value(str("source")).toString();
-            if (control.type != type || source.isEmpty() || control.own.object.contains(str("field"))) {
+            if (control.type != type || source.isEmpty() || control.own.object.contains(str("field")) ||
+                !isSeen(window, control.name)) {
                 continue;
             }
             const int count = int(window->rows(source).size());
@@ -83,9 +80,8 @@ private:
                 look(key, str("%1 %2").arg(control.name, QString::number(row)));
                 if (type == str("tabs")) {
                     visitRows(key, str("list"), depth);
-                } else if (row < kRowsWithWindows && depth < kDeepest) {
-                    visitWindowsOf(key, depth);
                 }
+                visitWindowsOf(key, depth);
             }
         }
     }
@@ -94,12 +90,14 @@ private:
     {
         EditorWindow *window = m_editor->window(key);
         for (const ControlDescription &control : m_windows[key].controls) {
-            const auto *widget = window->findChild<QWidget *>(control.name, Qt::FindDirectChildrenOnly);
             const ControlAction &action = control.click.isEmpty() ? control.doubleClick : control.click;
-            if (widget == nullptr || !widget->isVisible() || !widget->isEnabled() || action.open.isEmpty() ||
-                action.close || changesSomething(action) || m_editor->openWindows().contains(action.open)) {
+            const QString opener = key + QLatin1Char(' ') + control.name;
+            if (depth == kDeepest || m_opened.contains(opener) || action.open.isEmpty() ||
+                !isSeen(window, control.name) || action.close || changesSomething(action) ||
+                m_editor->openWindows().contains(action.open)) {
                 continue;
             }
+            m_opened.insert(opener);
             window->act(action, QPoint());
             if (m_editor->openWindows().constLast() == action.open) {
                 visit(action.open, depth + 1);
@@ -107,6 +105,12 @@ private:
                 look(key, control.name);
             }
         }
+    }
+
+    static bool isSeen(const EditorWindow *window, const QString &name)
+    {
+        const auto *widget = window->findChild<QWidget *>(name, Qt::FindDirectChildrenOnly);
+        return widget != nullptr && widget->isVisible() && widget->isEnabled();
     }
 
     static bool changesSomething(const ControlAction &action)
@@ -143,6 +147,8 @@ private:
     Editor &m_editor;
     const DescriptionSet &m_windows;
     QSet<QString> m_visited;
+    /// Controls whose windows were looked at.
+    QSet<QString> m_opened;
     int m_rows = 0;
     QString m_change;
 };
