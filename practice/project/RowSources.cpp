@@ -32,6 +32,7 @@ QVector<Row> rowsOf(const QJsonArray &list)
 void RowSources::add(const QString &name, Rows rows)
 {
     m_sources.insert(name, {std::move(rows), {}, {}});
+    m_ways.clear();
 }
 
 void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent setCurrent)
@@ -44,6 +45,7 @@ void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent
 void RowSources::add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent)
 {
     m_sources.insert(name, {std::move(rows), std::move(current), std::move(setCurrent)});
+    m_ways.clear();
 }
 
 void RowSources::addTabs(const QString &name, int count)
@@ -63,6 +65,7 @@ void RowSources::addTabs(const QString &name, int count)
 void RowSources::addRoot(const QString &name, Root root)
 {
     m_roots.insert(name, std::move(root));
+    m_ways.clear();
 }
 
 bool RowSources::isPath(const QString &text) const
@@ -72,7 +75,7 @@ bool RowSources::isPath(const QString &text) const
 
 QString RowSources::problemOfPath(const QString &path) const
 {
-    return DataPath(path, names(), m_roots.keys()).problem();
+    return way(path).problem();
 }
 
 QString RowSources::problemOf(const QString &name) const
@@ -132,9 +135,26 @@ void RowSources::setCurrentRow(const QString &name, int row, DataLayer &layer) c
 
 int RowSources::number(const QString &name, const DataLayer &layer) const
 {
+    // What windows ask most of all, and no rows are needed for it: whether the selected entry is still there.
+    const int selected = layer.selected(name);
+    if (selected >= 0 && isPath(name)) {
+        const QJsonValue chosen = entry(name, selected, layer);
+        if (!chosen.isUndefined() && !chosen.isNull()) {
+            return selected;
+        }
+    }
     const int row = currentRow(name, layer);
     const QVector<Row> all = rows(name, layer);
     return row >= 0 && row < all.size() ? all.at(row).number : -1;
+}
+
+DataPath RowSources::way(const QString &path) const
+{
+    auto known = m_ways.constFind(path);
+    if (known == m_ways.constEnd()) {
+        known = m_ways.insert(path, DataPath(path, names(), m_roots.keys()));
+    }
+    return *known;
 }
 
 std::optional<DataPlace> RowSources::place(const QString &path, const DataLayer &layer) const
@@ -142,13 +162,13 @@ std::optional<DataPlace> RowSources::place(const QString &path, const DataLayer 
     if (!isPath(path)) {
         return std::nullopt;
     }
-    const DataPath way(path, names(), m_roots.keys());
+    const DataPath found = way(path);
     const std::optional<DataPlace> base =
-        way.root().isEmpty() ? DataPlace() : m_roots.value(way.root())(layer);
+        found.root().isEmpty() ? DataPlace() : m_roots.value(found.root())(layer);
     if (!base) {
         return std::nullopt;
     }
-    return way.place([this, &layer](const QString &list) { return number(list, layer); }, *base);
+    return found.place([this, &layer](const QString &list) { return number(list, layer); }, *base);
 }
 
 QJsonValue RowSources::entry(const QString &path, int number, const DataLayer &layer) const

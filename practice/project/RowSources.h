@@ -87,6 +87,10 @@ private:
         SetCurrentIn setCurrent;
     };
 
+    /// The path, which is read once and kept.
+    [[nodiscard]] DataPath way(const QString &path) const;
+
     QMap<QString, Source> m_sources;
     QMap<QString, Root> m_roots;
+    mutable QHash<QString, DataPath> m_ways;
 };

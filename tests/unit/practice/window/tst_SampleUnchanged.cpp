@@ -62,6 +62,7 @@ private:
         visitWindowsOf(key, depth);
         visitRows(key, str("tabs"), depth);
         visitRows(key, str("list"), depth);
+        look(key, str("its rows"));
     }
 
     void visitRows(const QString &key, const QString &type, int depth)
@@ -77,7 +78,6 @@ private:
             for (int row = 0; row < count; ++row) {
                 window->setCurrentRow(source, row);
                 ++m_rows;
-                look(key, str("%1 %2").arg(control.name, QString::number(row)));
                 if (type == str("tabs")) {
                     visitRows(key, str("list"), depth);
                 }
