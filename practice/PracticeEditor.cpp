@@ -161,7 +161,7 @@ void PracticeEditor::onListed()
         m_course.ask(); // the companion was started again
         return;
     }
-    if (std::exchange(m_isBegun, true)) {
+    if (std::exchange(m_isBegun, true) || m_options.hasLessonOfItsOwn) {
         return;
     }
     const QString lesson =

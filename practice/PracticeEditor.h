@@ -23,6 +23,8 @@ public:
     {
         /// Number of the lesson to play; 0 lets the person choose.
         int lesson = 0;
+        /// Somebody else begins a lesson with session(): nobody is asked to choose one.
+        bool hasLessonOfItsOwn = false;
         QString locale;
         /// Nobody is there to answer a message box: what goes wrong is told by troubled() alone.
         bool unattended = false;

@@ -214,6 +214,7 @@ int main(int argc, char **argv)
     }
     PracticeEditor::Options options;
     options.lesson = parser.value(line.lesson).toInt();
+    options.hasLessonOfItsOwn = parser.isSet(line.author.scenario);
     options.locale = parser.value(line.locale);
     options.unattended = parser.isSet(line.pilot);
     options.companionProgram = parser.value(line.companion);

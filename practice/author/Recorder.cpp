@@ -34,7 +34,9 @@ QString conditionOf(const EditorEvent &event)
 {
     const QString text = event.type + QLatin1Char(',') + event.target;
     const bool hasLast = !event.value.isEmpty() || event.type == QLatin1String("action");
-    return hasLast ? text + QLatin1Char(',') + event.value : text;
+    // The hint says that a click is to be a drag, and no condition does.
+    const QString last = event.value == QLatin1String("drag") ? QStringLiteral("click") : event.value;
+    return hasLast ? text + QLatin1Char(',') + last : text;
 }
 
 } // namespace

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void aClickIsWhatCameOfIt();
     void theMostTellingOfSeveralEffectsCounts();
     void aDoubleClickIsOneStep();
+    void aDragIsAClickToTheCondition();
     void aRightClickOpensAMenu();
     void typingIsAStepAtTheFieldThatWasClicked();
     void typedAndLeftIsFollowedByNext();
@@ -104,6 +105,14 @@ void tst_Recorder::aDoubleClickIsOneStep()
     m_editor->open(QStringLiteral("MapProperties"));
     QCOMPARE(steps(),
              QStringList(QStringLiteral("doubleClick windowState,MapProperties,open MainWindow (10, -92)")));
+}
+
+void tst_Recorder::aDragIsAClickToTheCondition()
+{
+    m_recorder->press(Press::kClick, kClick);
+    m_editor->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"));
+    m_editor->report(QStringLiteral("mouseEvent"), QStringLiteral("Map"), QStringLiteral("drag"));
+    QCOMPARE(steps(), QStringList(QStringLiteral("click mouseEvent,Map,click MainWindow (10, -92)")));
 }
 
 void tst_Recorder::aRightClickOpensAMenu()
