@@ -6,8 +6,10 @@
 #include "window/EditorWindows.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -59,7 +61,17 @@ bool PracticeEditor::start(QString *error)
         *error = QStringLiteral("The main window has no description.");
         return false;
     }
+    m_strip->window()->windowHandle()->installEventFilter(this);
     return startLink(error);
+}
+
+/// The companion's windows stay above all others, and would lie over a question or the list of lessons.
+bool PracticeEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked) {
+        m_link.send(HostCommands::state(event->type() == QEvent::WindowUnblocked));
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 bool PracticeEditor::startLink(QString *error)
@@ -120,8 +132,6 @@ void PracticeEditor::connectSession()
 void PracticeEditor::connectStrip()
 {
     connect(m_strip, &LessonStrip::used, this, &PracticeEditor::returnFocus);
-    connect(m_control, &StripControl::interrupted, this,
-            [this](bool isInterrupted) { m_link.send(HostCommands::state(!isInterrupted)); });
     connect(m_control, &StripControl::praised, this, [this](const QString &praise) {
         // Where the person has just read the last hint.
         if (const std::optional<QPoint> bubble = m_session.bubblePlace()) {
@@ -213,7 +223,7 @@ void PracticeEditor::onLost(const QString &lastWords)
             restartCompanion();
         }
     });
-    m_control->open(box);
+    box->open();
 }
 
 void PracticeEditor::closeDialogs()
@@ -243,7 +253,7 @@ void PracticeEditor::tellPerson(const QString &text)
                                 QMessageBox::Ok, m_strip->window());
     box->setInformativeText(text);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    m_control->open(box);
+    box->open();
 }
 
 void PracticeEditor::returnFocus()

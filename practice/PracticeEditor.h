@@ -58,6 +58,9 @@ Q_SIGNALS:
     /// Something went wrong that a person has to know, in words for messages.
     void troubled(const QString &what);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     [[nodiscard]] bool startLink(QString *error);
     void connectLink();

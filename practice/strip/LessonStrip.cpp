@@ -128,7 +128,7 @@ void LessonStrip::buildTop()
     top->addWidget(m_progress);
     top->addWidget(m_minutes);
     top->addStretch();
-    for (QPushButton *button : {m_lessons, m_startAgain, m_leave}) {
+    for (QPushButton *button : {m_startAgain, m_leave, m_lessons}) {
         top->addWidget(button);
     }
     static_cast<QVBoxLayout *>(layout())->addLayout(top);

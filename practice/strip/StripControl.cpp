@@ -77,19 +77,6 @@ void StripControl::showLost()
     talk(Talk::kLost, m_session->lessonName());
 }
 
-void StripControl::open(QDialog *dialog)
-{
-    ++m_dialogs;
-    Q_EMIT interrupted(true);
-    connect(dialog, &QDialog::finished, this, [this] {
-        --m_dialogs;
-        if (m_dialogs == 0) {
-            Q_EMIT interrupted(false);
-        }
-    });
-    dialog->open();
-}
-
 void StripControl::talk(Talk talk, const QString &lessonName)
 {
     m_talk = talk;
@@ -180,7 +167,7 @@ void StripControl::openChooser(const QString &lessonName)
         connect(m_chooser, &LessonChooser::beginRequested, this, &StripControl::begin);
         connect(m_chooser, &LessonChooser::goOnRequested, this, &StripControl::goOn);
         fillChooser();
-        open(m_chooser);
+        m_chooser->open();
     }
     m_chooser->raise();
     m_chooser->activateWindow();
@@ -224,7 +211,7 @@ void StripControl::begin(const QString &lessonName)
             m_course->begin(lessonName);
         }
     });
-    open(m_question);
+    m_question->open();
 }
 
 void StripControl::goOn(const QString &lessonName)

@@ -9,7 +9,6 @@ class LessonChooser;
 class LessonCourse;
 class LessonSession;
 class LessonStrip;
-class QDialog;
 class QMessageBox;
 
 /// Lets the strip and the list of lessons show what the lesson is at, and does what the person asks for
@@ -30,15 +29,9 @@ public:
     /// The companion is gone.
     void showLost();
 
-    /// Opens a dialog that is not the lesson's business: until it is closed, the companion's windows, which
-    /// stay above all others, are not to cover it.
-    void open(QDialog *dialog);
-
 Q_SIGNALS:
     /// The lesson that was called @p title is done: praise the person in these words.
     void praised(const QString &praise);
-    /// A dialog of open() is there (true), or the last one was closed.
-    void interrupted(bool isInterrupted);
 
 private:
     /// What the strip tells while no lesson runs.
@@ -67,6 +60,4 @@ private:
     QString m_lessonName;
     bool m_offersHelp = false;
     bool m_isSilent = false;
-    /// Dialogs of open() that are there.
-    int m_dialogs = 0;
 };

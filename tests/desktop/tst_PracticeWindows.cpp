@@ -76,6 +76,7 @@ private Q_SLOTS:
     void theArrowComesBackToADialogThatWasClosed();
     void anotherDialogDoesNotTakeTheArrowAway();
     void startAgainClosesTheDialogs();
+    void theOverlaysDoNotCoverTheListOfLessons();
     void aPopupIsAbandonedToTheCompanion();
     void theStripSaysWhatTheBubbleSays();
 
@@ -294,6 +295,14 @@ void tst_PracticeWindows::startAgainClosesTheDialogs()
     QTRY_COMPARE_WITH_TIMEOUT(started.size(), 1, kSoonMs);
     QCOMPARE(stepId(), 1);
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
+}
+
+void tst_PracticeWindows::theOverlaysDoNotCoverTheListOfLessons()
+{
+    QVERIFY(clickOn(find<QAbstractButton>("lessonsButton")));
+    QTRY_VERIFY_WITH_TIMEOUT(!overlays().bubble && overlays().buttons.isEmpty(), kSoonMs);
+    QVERIFY(clickOn(find<QAbstractButton>("closeButton")));
+    QTRY_VERIFY_WITH_TIMEOUT(isReadable(), kSoonMs);
 }
 
 void tst_PracticeWindows::aPopupIsAbandonedToTheCompanion()

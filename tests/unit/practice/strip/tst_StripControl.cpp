@@ -33,7 +33,6 @@ private Q_SLOTS:
     void aRefusedLessonIsNamed();
     void silenceIsSaidAndLeavesNothingBehind();
     void aLostGuideIsSaid();
-    void dialogsInterruptTheLesson();
     void theChooserStartsALesson();
     void theChooserShowsTheProgress();
 
@@ -241,23 +240,6 @@ void tst_StripControl::aLostGuideIsSaid()
     m_lessons->m_session.abandon();
     m_control->showLost();
     QVERIFY2(text().startsWith(QStringLiteral("The guide is gone.")), qPrintable(text()));
-}
-
-void tst_StripControl::dialogsInterruptTheLesson()
-{
-    playToTheSecond();
-    QVector<bool> interruptions;
-    connect(m_control.get(), &StripControl::interrupted, this,
-            [&interruptions](bool isInterrupted) { interruptions.append(isInterrupted); });
-    button("lessonsButton")->click();
-    QCOMPARE(interruptions, QVector<bool>{true});
-    chooser()->findChild<QPushButton *>(QStringLiteral("beginButton"))->click();
-    QVERIFY(question() != nullptr); // above the chooser
-    interruptions.clear();
-    answer(*question(), QMessageBox::RejectRole);
-    QCOMPARE(interruptions, QVector<bool>{}); // the chooser is still there
-    chooser()->close();
-    QCOMPARE(interruptions, QVector<bool>{false});
 }
 
 void tst_StripControl::theChooserStartsALesson()
