@@ -126,12 +126,14 @@ void MapView::mousePressEvent(QMouseEvent *event)
 void MapView::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint cell = cellAt(event->pos());
-    if (!m_drawing || cell == m_strokeEnd) {
+    const bool isHeld = m_drawing || event->buttons().testFlag(Qt::LeftButton);
+    if (!isHeld || cell == m_strokeEnd) {
         return;
     }
-    if (drawsOnRelease()) {
+    // In event mode nothing is drawn, and yet it is a drag.
+    if (m_drawing && drawsOnRelease()) {
         update();
-    } else {
+    } else if (m_drawing) {
         m_board->paint(m_board->cellsOfStroke(m_strokeEnd, cell));
     }
     m_strokeEnd = cell;
