@@ -120,9 +120,18 @@ void Recorder::add(const RecordedStep &step)
 
 RecordedStep Recorder::stepAt(const QPoint &place) const
 {
-    const QStringList open = m_editor->openWindows();
-    const QString top = open.isEmpty() ? QStringLiteral("ApplicationWindow") : open.constLast();
-    const QString key = top == QLatin1String("Popup") ? QStringLiteral("Menu") : top;
+    QStringList open = m_editor->openWindows();
+    const std::optional<QPoint> menu = m_editor->origin(QStringLiteral("Menu"));
+    QString key;
+    if (!open.isEmpty() && open.constLast() == QLatin1String("Popup")) {
+        // A press beside the menu closes it, and is for the window below.
+        const bool isInMenu = menu && m_editor->controlAt(QStringLiteral("Menu"), place - *menu);
+        key = isInMenu ? QStringLiteral("Menu") : QString();
+        open.removeLast();
+    }
+    if (key.isEmpty()) {
+        key = open.isEmpty() ? QStringLiteral("ApplicationWindow") : open.constLast();
+    }
     RecordedStep step{key, {}, key, {}, {}};
     const std::optional<QPoint> origin = m_editor->origin(key);
     if (!origin) {

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aDoubleClickIsOneStep();
     void aDragIsAClickToTheCondition();
     void aRightClickOpensAMenu();
+    void aPressBesideAMenuIsForTheWindowBelow();
     void typingIsAStepAtTheFieldThatWasClicked();
     void typedAndLeftIsFollowedByNext();
     void aWindowThatClosesByItselfIsWaitedFor();
@@ -121,6 +122,15 @@ void tst_Recorder::aRightClickOpensAMenu()
     m_editor->report(QStringLiteral("popup"), QStringLiteral("MapPopup"));
     m_editor->report(QStringLiteral("menuEvent"), QStringLiteral("Map"), QStringLiteral("click"));
     QCOMPARE(steps(), QStringList(QStringLiteral("rightClick popup,MapPopup MainWindow (10, -92)")));
+}
+
+void tst_Recorder::aPressBesideAMenuIsForTheWindowBelow()
+{
+    m_editor->m_stack.append(QStringLiteral("Popup"));
+    m_recorder->press(Press::kClick, kClick);
+    m_editor->m_stack.removeLast();
+    m_editor->report(QStringLiteral("list"), QStringLiteral("3"));
+    QCOMPARE(steps(), QStringList(QStringLiteral("click list,3 MainWindow (10, -92)")));
 }
 
 void tst_Recorder::typingIsAStepAtTheFieldThatWasClicked()
