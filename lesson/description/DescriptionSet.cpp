@@ -1,5 +1,7 @@
 #include "lesson/description/DescriptionSet.h"
 
+#include "lesson/description/FormDescription.h"
+
 #include <QDir>
 
 #include <algorithm>
@@ -91,10 +93,32 @@ DescriptionSet DescriptionSet::read(const QString &folder, const QStringList *co
         set.m_windows.insert(window.key, window);
         set.m_paths.insert(window.key, path);
     }
+    const QDir forms(directory.filePath(QStringLiteral("commands")));
+    const QStringList formFiles = forms.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    for (const QString &name : formFiles) {
+        set.addForm(forms.filePath(name), errors);
+    }
     if (errors->isEmpty()) {
         set.check(commands, errors);
     }
     return set;
+}
+
+void DescriptionSet::addForm(const QString &path, QStringList *errors)
+{
+    const QString key = QStringLiteral("EventCommand");
+    const auto window = m_windows.find(key);
+    auto reader = JsonReader::open(path, errors);
+    if (!reader) {
+        return;
+    }
+    if (window == m_windows.end()) {
+        reader->addError(QStringLiteral("controls"), QStringLiteral("need the window \"%1.json\"").arg(key));
+        return;
+    }
+    for (const ControlDescription &control : FormDescription::read(*reader, window->size)) {
+        window->controls.append(control);
+    }
 }
 
 bool DescriptionSet::contains(const QString &key) const

@@ -8,10 +8,11 @@
 class DescriptionSet
 {
 public:
-    /// Reads every description in @p folder and checks what they say of each other: windows that are opened,
-    /// context menus that pop up, owners of parts; and, where @p commands are given, that they run no others.
-    /// Adds a line to @p errors for each thing that is wrong, which begins with the file's path, a colon and
-    /// a blank; a set with errors must not be built from.
+    /// Reads every description in @p folder, with the forms of event commands in its "commands", and checks
+    /// what they say of each other: windows that are opened, context menus that pop up, owners of parts; and,
+    /// where @p commands are given, that they run no others. Adds a line to @p errors for each thing that is
+    /// wrong, which begins with the file's path, a colon and a blank; a set with errors must not be built
+    /// from.
     static DescriptionSet read(const QString &folder, const QStringList *commands, QStringList *errors);
 
     [[nodiscard]] bool contains(const QString &key) const;
@@ -43,6 +44,8 @@ public:
     [[nodiscard]] QStringList actionStates(const QString &name) const;
 
 private:
+    /// Adds the controls of an event command's form to the window in which commands are edited.
+    void addForm(const QString &path, QStringList *errors);
     [[nodiscard]] bool leadsTo(const QString &key, const ControlAction &action) const;
     void check(const QStringList *commands, QStringList *errors) const;
 

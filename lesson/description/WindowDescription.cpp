@@ -24,6 +24,13 @@ ControlAction readAction(JsonReader &parent, const QString &field)
         if (reader->has(str("entry"))) {
             action.entry = reader->value(str("entry"));
         }
+        action.when = ControlRequirement::read(*reader, str("when"));
+        if (reader->has(str("otherwise"))) {
+            action.otherwise = std::make_shared<ControlAction>(readAction(*reader, str("otherwise")));
+            if (action.when.isEmpty()) {
+                reader->addError(str("otherwise"), str("never happens; give the action a when, too"));
+            }
+        }
         reader->reportUnknownFields();
         if (action.isEmpty()) {
             parent.addError(field, str("does nothing; give it a run, close, open or popup, or remove it"));
@@ -112,25 +119,6 @@ ControlDescription readControl(JsonReader &reader)
     return control;
 }
 
-QVector<ControlDescription> readControls(JsonReader &parent, const QSize &size)
-{
-    QVector<ControlDescription> controls;
-    QSet<QString> names;
-    for (JsonReader &reader : parent.objects(str("controls"))) {
-        const ControlDescription control = readControl(reader);
-        if (names.contains(control.name)) {
-            reader.addError(str("name"),
-                            str("\"%1\" stands here twice; give each control its own").arg(control.name));
-        }
-        if (!QRect(QPoint(), size).contains(control.geometry)) {
-            reader.addError(str("geometry"), str("reaches out of the window; keep it inside its size"));
-        }
-        names.insert(control.name);
-        controls.append(control);
-    }
-    return controls;
-}
-
 QStringList toolButtonsOf(const QVector<ControlDescription> &controls)
 {
     QStringList names;
@@ -160,7 +148,7 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
     }
     if (window.kind == Kind::kWindow || window.kind == Kind::kPart) {
         window.place = reader.point(str("place"));
-        window.controls = readControls(reader, window.size);
+        window.controls = ControlDescription::readAll(reader, window.size);
     }
     if (window.kind == Kind::kWindow) {
         window.isDraft = reader.flag(str("draft"));
@@ -178,7 +166,7 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
             PopupDescription popup;
             popup.name = popupReader.text(str("name"));
             popup.size = popupReader.size(str("size"));
-            popup.controls = readControls(popupReader, popup.size);
+            popup.controls = ControlDescription::readAll(popupReader, popup.size);
             popupReader.reportUnknownFields();
             window.popups.append(popup);
         }
@@ -223,12 +211,37 @@ int ControlDescription::tabAt(int x) const
 
 QVector<QPair<QString, ControlAction>> ControlDescription::actions() const
 {
-    return {{str("click"), click},
-            {str("doubleClick"), doubleClick},
-            {str("contextMenu"), contextMenu},
-            {str("delete"), deleteKey},
-            {str("copy"), copyKey},
-            {str("paste"), pasteKey}};
+    QVector<QPair<QString, ControlAction>> actions{{str("click"), click},
+                                                   {str("doubleClick"), doubleClick},
+                                                   {str("contextMenu"), contextMenu},
+                                                   {str("delete"), deleteKey},
+                                                   {str("copy"), copyKey},
+                                                   {str("paste"), pasteKey}};
+    for (int i = 0; i < actions.size(); ++i) {
+        if (const auto otherwise = actions.at(i).second.otherwise) {
+            actions.append({actions.at(i).first, *otherwise});
+        }
+    }
+    return actions;
+}
+
+QVector<ControlDescription> ControlDescription::readAll(JsonReader &parent, const QSize &size)
+{
+    QVector<ControlDescription> controls;
+    QSet<QString> names;
+    for (JsonReader &reader : parent.objects(str("controls"))) {
+        const ControlDescription control = readControl(reader);
+        if (names.contains(control.name)) {
+            reader.addError(str("name"),
+                            str("\"%1\" stands here twice; give each control its own").arg(control.name));
+        }
+        if (!QRect(QPoint(), size).contains(control.geometry)) {
+            reader.addError(str("geometry"), str("reaches out of the window; keep it inside its size"));
+        }
+        names.insert(control.name);
+        controls.append(control);
+    }
+    return controls;
 }
 
 WindowDescription WindowDescription::read(const QString &path, QStringList *errors)

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
 /// What a control does when it is used; carried out in the order of the members, empty ones skipped.
 struct ControlAction
 {
@@ -23,6 +25,9 @@ struct ControlAction
     QString popup;
     /// What a command adds to a list; undefined where nothing is said of it.
     QJsonValue entry = QJsonValue::Undefined;
+    /// What has to hold for it. Where it does not, what stands in @c otherwise happens instead, if anything.
+    QVector<ControlRequirement> when;
+    std::shared_ptr<const ControlAction> otherwise;
 
     [[nodiscard]] bool isEmpty() const;
 };
@@ -76,8 +81,11 @@ struct ControlDescription
     /// The tab at @p x from the left of the row, or, behind the last one, the tab that would be there.
     [[nodiscard]] int tabAt(int x) const;
 
-    /// All that it does, by the field that says so.
+    /// All that it does, by the field that says so, with what it does otherwise.
     [[nodiscard]] QVector<QPair<QString, ControlAction>> actions() const;
+
+    /// Reads the list "controls" of @p parent; each has to stand inside of @p size.
+    static QVector<ControlDescription> readAll(JsonReader &parent, const QSize &size);
 };
 
 /// A context menu: all of them share one window key.

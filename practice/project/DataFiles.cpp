@@ -1,5 +1,6 @@
 #include "project/DataFiles.h"
 
+#include "project/DataPath.h"
 #include "project/JsonDelta.h"
 #include "project/JsonText.h"
 #include "project/ProjectFolder.h"
@@ -156,7 +157,8 @@ void DataFiles::change(const DataRoots &files, const QString &mergeKey)
     DataRoots before;
     DataRoots after;
     for (auto wanted = files.begin(); wanted != files.end(); ++wanted) {
-        if (file(wanted.key()) != wanted.value()) {
+        // What is only being made in a window has a name of another form, and is no part of the project.
+        if (DataPath::isFile(wanted.key()) && file(wanted.key()) != wanted.value()) {
             before.insert(wanted.key(), file(wanted.key()));
             after.insert(wanted.key(), wanted.value());
         }

@@ -24,6 +24,11 @@ bool DataPath::isPath(const QString &text, const QStringList &roots)
     return text.startsWith(QLatin1String("data/")) || roots.contains(text.section(QLatin1Char('/'), 0, 0));
 }
 
+bool DataPath::isFile(const QString &name)
+{
+    return name.startsWith(QLatin1String("data/"));
+}
+
 DataPath::DataPath(const QString &text, const QStringList &lists, const QStringList &roots)
 {
     QStringList words = text.split(QLatin1Char('/'));

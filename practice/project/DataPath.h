@@ -28,6 +28,9 @@ public:
     /// Whether @p text means to be a path: it begins with "data/", or with one of @p roots.
     [[nodiscard]] static bool isPath(const QString &text, const QStringList &roots);
 
+    /// Whether a file with this name is one of the project.
+    [[nodiscard]] static bool isFile(const QString &name);
+
     /// @p lists: names of the lists that the editor has. A first word that is none of @p roots is "data".
     DataPath(const QString &text, const QStringList &lists, const QStringList &roots);
 

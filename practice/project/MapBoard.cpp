@@ -43,6 +43,51 @@ const GameMap *MapBoard::map() const
     return &*m_map;
 }
 
+QPoint MapBoard::cursor() const
+{
+    const QSize size = map() != nullptr ? map()->size : QSize(1, 1);
+    return {qBound(0, m_cursor.x(), size.width() - 1), qBound(0, m_cursor.y(), size.height() - 1)};
+}
+
+void MapBoard::setCursor(const QPoint &cell)
+{
+    m_cursor = cell;
+    m_cursor = cursor();
+    m_files->select(MapEvents::path(), MapEvents(m_files->file(MapTree::fileOf(number()))).at(m_cursor));
+}
+
+void MapBoard::addTo(StateParts &states)
+{
+    states.add(
+        QStringLiteral("markedCell"),
+        [this] {
+            return QJsonArray{m_cursor.x(), m_cursor.y()};
+        },
+        [this](const QJsonValue &cell) {
+            if (cell.isArray()) {
+                m_cursor = {cell[0].toInt(), cell[1].toInt()};
+            }
+        });
+}
+
+QVector<MapEvents::Event> MapBoard::events() const
+{
+    return MapEvents(m_files->file(MapTree::fileOf(number()))).all();
+}
+
+bool MapBoard::moveEvent(const QPoint &from, const QPoint &to)
+{
+    const QString name = MapTree::fileOf(number());
+    MapEvents events(m_files->file(name));
+    if (events.at(from) == 0 || !events.isFree(to)) {
+        return false;
+    }
+    events.move(events.at(from), to);
+    m_files->change({{name, events.toFile()}}, QString());
+    setCursor(to);
+    return true;
+}
+
 QVector<QPoint> MapBoard::cellsOfStroke(const QPoint &from, const QPoint &to) const
 {
     switch (m_tools->tool()) {

@@ -3,6 +3,7 @@
 #include "project/GameMap.h"
 #include "project/MapTree.h"
 #include "project/TileSets.h"
+#include "project/events/MapEvents.h"
 
 #include <QJsonObject>
 
@@ -107,7 +108,12 @@ void Maps::accept(DataLayer &layer) const
     GameMap map = before.isUndefined() ? GameMap::blank(size, kGround) : GameMap::fromFile(before);
     if (file.isObject() && (before.isUndefined() || map.size != size)) {
         map.resize(size, kGround);
-        layer.set(name, QStringLiteral("/data"), map.cellsForFile());
+        MapEvents events(file);
+        // None is lost with the cells under it.
+        events.keepInside(size);
+        QJsonObject resized = events.toFile().toObject();
+        resized.insert(QStringLiteral("data"), map.cellsForFile());
+        layer.change({{name, resized}}, QString());
     }
     layer.accept();
 }

@@ -19,15 +19,18 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     , m_newProject(m_start.texts.value(QStringLiteral("projectName")), location)
     , m_lists(&m_sources)
     , m_chooser(&m_sources)
+    , m_events({&m_start, &m_files, &m_sources, &m_board, &m_tools})
 {
     m_tools.addTo(m_commands, m_sources);
     m_maps.addTo(m_commands, m_fields, m_sources);
     m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
     m_lists.addTo(m_commands, m_fields, m_sources);
     m_chooser.addTo(m_commands, m_fields, m_sources);
+    m_events.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
     m_tools.addTo(m_states);
     m_newProject.addTo(m_states);
+    m_board.addTo(m_states);
     // What was typed belongs to the files that it was typed for.
     connect(&m_files, &DataFiles::left, &m_drafts, &Drafts::clear);
     connect(&m_files, &DataFiles::left, this, &Project::left);

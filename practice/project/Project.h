@@ -12,6 +12,7 @@
 #include "project/NewProject.h"
 #include "project/StartData.h"
 #include "project/StateParts.h"
+#include "project/events/Events.h"
 
 /// The open project with all that windows show of it and do with it: the one owner of its data files, their
 /// history and their drafts. Windows know fields, lists and commands by the names that descriptions use, and
@@ -101,4 +102,5 @@ private:
     StateParts m_states;
     ListCommands m_lists;
     Chooser m_chooser;
+    Events m_events;
 };

@@ -62,6 +62,18 @@ void RowSources::addTabs(const QString &name, int count)
     });
 }
 
+void RowSources::addFamily(const QString &name, RowsOf rows)
+{
+    m_families.insert(name, std::move(rows));
+}
+
+std::optional<QString> RowSources::argumentOf(const QString &name) const
+{
+    const int blank = int(name.indexOf(QLatin1Char(' ')));
+    return blank > 0 && m_families.contains(name.left(blank)) ? std::optional(name.mid(blank + 1))
+                                                              : std::nullopt;
+}
+
 void RowSources::addRoot(const QString &name, Root root)
 {
     m_roots.insert(name, std::move(root));
@@ -80,6 +92,9 @@ QString RowSources::problemOfPath(const QString &path) const
 
 QString RowSources::problemOf(const QString &name) const
 {
+    if (const std::optional<QString> argument = argumentOf(name)) {
+        return problemOfPath(*argument);
+    }
     if (isPath(name)) {
         return problemOfPath(name);
     }
@@ -95,6 +110,9 @@ QVector<Row> RowSources::rows(const QString &name, const DataLayer &layer) const
     const auto source = m_sources.constFind(name);
     if (source != m_sources.constEnd()) {
         return source->rows(layer);
+    }
+    if (const std::optional<QString> argument = argumentOf(name)) {
+        return m_families.value(name.section(QLatin1Char(' '), 0, 0))(*argument, layer);
     }
     const std::optional<DataPlace> list = place(name, layer);
     return list ? rowsOf(layer.value(list->file, list->pointer).toArray()) : QVector<Row>();
@@ -159,7 +177,8 @@ DataPath RowSources::way(const QString &path) const
 
 std::optional<DataPlace> RowSources::place(const QString &path, const DataLayer &layer) const
 {
-    if (!isPath(path)) {
+    // A list with a name of its own may be a path, too.
+    if (!DataPath::isPath(path, m_roots.keys())) {
         return std::nullopt;
     }
     const DataPath found = way(path);

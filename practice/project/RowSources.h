@@ -36,6 +36,7 @@ class RowSources
 {
 public:
     using Rows = std::function<QVector<Row>(const DataLayer &)>;
+    using RowsOf = std::function<QVector<Row>(const QString &argument, const DataLayer &)>;
     using Current = std::function<int()>;
     using SetCurrent = std::function<void(int row)>;
     using CurrentIn = std::function<int(const DataLayer &)>;
@@ -48,6 +49,9 @@ public:
     void add(const QString &name, Rows rows, Current current, SetCurrent setCurrent);
     /// Which row is the current one follows from what the layer holds.
     void add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent);
+    /// Lists that have an argument behind a blank, such as the path of what they show: "commands data/...".
+    /// Which row is the current one is kept in the layer, for each argument.
+    void addFamily(const QString &name, RowsOf rows);
     /// A list that is @p count tabs, of which the layer keeps the current one. A name that is there stays
     /// what it is.
     void addTabs(const QString &name, int count);
@@ -90,7 +94,11 @@ private:
     /// The path, which is read once and kept.
     [[nodiscard]] DataPath way(const QString &path) const;
 
+    /// The argument of a list of a family; nothing for another list.
+    [[nodiscard]] std::optional<QString> argumentOf(const QString &name) const;
+
     QMap<QString, Source> m_sources;
+    QMap<QString, RowsOf> m_families;
     QMap<QString, Root> m_roots;
     mutable QHash<QString, DataPath> m_ways;
 };

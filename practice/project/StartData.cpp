@@ -6,7 +6,35 @@
 #include <QDir>
 #include <QJsonObject>
 
+#include <array>
+
 namespace {
+
+/// Names of the texts that the editor says or writes itself.
+constexpr std::array kTexts{"projectName",
+                            "newMapName",
+                            "noProject",
+                            "status",
+                            "newEventName",
+                            "unknownCommand",
+                            "listSeparator",
+                            "player",
+                            "thisEvent",
+                            "yes",
+                            "no",
+                            "quickTransfer",
+                            "quickInn",
+                            "quickInnAsks",
+                            "quickInnMorning",
+                            "quickInnPoor",
+                            "quickTreasure",
+                            "quickTreasureGold",
+                            "quickTreasureFound",
+                            "quickBase",
+                            "quickBaseAsks",
+                            "quickBaseRest",
+                            "quickBaseSave",
+                            "quickBaseLeave"};
 
 QString str(const char *text)
 {
@@ -136,7 +164,7 @@ StartData StartData::read(const QString &folder, const QStringList &drawings, co
         data.startMaps.append({data.sampleMaps[sample], start.number(str("level"))});
     }
     auto texts = reader->object(str("texts"));
-    for (const char *name : {"projectName", "newMapName", "noProject", "status"}) {
+    for (const char *name : kTexts) {
         if (texts) {
             data.texts.insert(str(name), texts->localText(str(name)).value(locale));
         }

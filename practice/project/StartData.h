@@ -3,6 +3,7 @@
 #include "lesson/description/JsonReader.h"
 #include "project/ChoiceSets.h"
 #include "project/GameMap.h"
+#include "project/events/EventCommands.h"
 
 #include <QColor>
 
@@ -43,6 +44,8 @@ struct StartData
     QMap<QString, QString> texts;
     /// Read by ChoiceSets::read().
     ChoiceSets choices;
+    /// Read by EventCommands::read().
+    EventCommands eventCommands;
 
     /// Texts of the data files that a new project has, by name, such as "data/Items.json".
     [[nodiscard]] QMap<QString, QString> files() const;

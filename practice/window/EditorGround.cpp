@@ -31,6 +31,7 @@ EditorGround EditorGround::read(const QString &locale, const QString &folder, QS
     StartData start =
         StartData::read(folder + QStringLiteral("/data"), tileDrawings(), ground.locale, errors);
     start.choices = ChoiceSets::read(folder + QStringLiteral("/choices"), ground.locale, errors);
+    start.eventCommands = EventCommands::read(folder + QStringLiteral("/commands"), ground.locale, errors);
     ground.project = std::make_unique<Project>(std::move(start), usualProjectsFolder());
     ground.painter = std::make_unique<MapPainter>(&ground.project->start());
     const QStringList commands = ground.project->commands().names();

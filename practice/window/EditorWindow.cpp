@@ -129,19 +129,44 @@ void EditorWindow::report(const QString &type, const QString &target, const QStr
     Q_EMIT happened(type, target, value, cause);
 }
 
+bool EditorWindow::meets(const QVector<ControlRequirement> &requirements) const
+{
+    const auto holds = [this](const ControlRequirement &requirement) {
+        if (requirement.field.isEmpty()) {
+            return requirement.rows.contains(currentRow(requirement.source));
+        }
+        const QVariant value = field(requirement.field);
+        const QJsonValue json =
+            value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue(QJsonValue::Undefined);
+        return std::any_of(requirement.values.cbegin(), requirement.values.cend(),
+                           [&json](const QJsonValue &wished) { return ChoiceSets::isSame(json, wished); });
+    };
+    return std::all_of(requirements.cbegin(), requirements.cend(), holds);
+}
+
+const ControlAction *EditorWindow::chosen(const ControlAction &action) const
+{
+    const ControlAction *chosen = &action;
+    while (chosen != nullptr && !meets(chosen->when)) {
+        chosen = chosen->otherwise.get();
+    }
+    return chosen;
+}
+
 void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause)
 {
-    if (action.isEmpty()) {
+    const ControlAction *done = chosen(action);
+    if (done == nullptr || done->isEmpty()) {
         return;
     }
     const auto loses = [this](const QString &command) {
         return m_project->losesChanges(command);
     };
-    if (std::any_of(action.run.cbegin(), action.run.cend(), loses)) {
-        Q_EMIT leaveAsked(action, screenPosition, cause);
+    if (std::any_of(done->run.cbegin(), done->run.cend(), loses)) {
+        Q_EMIT leaveAsked(*done, screenPosition, cause);
         return;
     }
-    carryOut(action, screenPosition, cause);
+    carryOut(*done, screenPosition, cause);
 }
 
 void EditorWindow::carryOut(const ControlAction &action, const QPoint &screenPosition,

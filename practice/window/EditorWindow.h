@@ -59,6 +59,10 @@ public:
     /// Passes on what a control did: called by the controls. @p screenPosition is where the mouse was.
     void report(const QString &type, const QString &target, const QString &value,
                 const ControlSpot &cause = {});
+    /// Whether all of these hold at present.
+    [[nodiscard]] bool meets(const QVector<ControlRequirement> &requirements) const;
+    /// What happens at present when a control does @p action: itself, what it has in its place, or nothing.
+    [[nodiscard]] const ControlAction *chosen(const ControlAction &action) const;
     void act(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause = {});
     /// What act() does once nothing is lost by it.
     void carryOut(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause);

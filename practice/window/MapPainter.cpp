@@ -1,5 +1,6 @@
 #include "window/MapPainter.h"
 
+#include "window/Pictures.h"
 #include "window/TileDrawing.h"
 
 #include <QPainter>
@@ -47,6 +48,25 @@ void MapPainter::drawMap(QPainter &painter, const GameMap &map, int cellPixels, 
     }
 }
 
+void MapPainter::drawEvent(QPainter &painter, const QString &picture, const QRect &cell)
+{
+    auto person = m_people.find(picture);
+    if (person == m_people.end()) {
+        person = m_people.insert(picture, Pictures::load(QStringLiteral("characters"), picture));
+    }
+    const QRect frame = cell.adjusted(2, 2, -3, -3);
+    painter.fillRect(frame, QColor(0, 0, 0, 70));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!person->isNull()) {
+        const QSize size = person->size().scaled(frame.size(), Qt::KeepAspectRatio);
+        const QPoint at = frame.center() - QPoint(size.width() / 2, size.height() / 2);
+        painter.drawPixmap(QRect(at, size), *person);
+    }
+    painter.setPen(QColor(255, 255, 255, 190));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(frame);
+}
+
 QPixmap MapPainter::tileSetPicture(int tileSet, const QSize &size)
 {
     QPixmap picture(size);
@@ -63,15 +83,58 @@ QPixmap MapPainter::tileSetPicture(int tileSet, const QSize &size)
     return picture;
 }
 
+MapPainter::Fit MapPainter::fit(const GameMap &map, const QSize &size)
+{
+    const int pixels = qMax(1, qMin(size.width() / map.size.width(), size.height() / map.size.height()));
+    const QSize margins = (size - map.size * pixels) / 2;
+    return {QPoint(margins.width(), margins.height()), pixels};
+}
+
 QPixmap MapPainter::mapPicture(const GameMap &map, const QSize &size)
 {
     QPixmap picture(size);
     picture.fill(Qt::white);
-    const int pixels = qMax(1, qMin(size.width() / map.size.width(), size.height() / map.size.height()));
-    const QSize whole = map.size * pixels;
+    const Fit place = fit(map, size);
     QPainter painter(&picture);
-    const QSize margins = (size - whole) / 2;
-    painter.translate(margins.width(), margins.height());
-    drawMap(painter, map, pixels, QRect(QPoint(), whole));
+    painter.translate(place.corner);
+    drawMap(painter, map, place.cellPixels, QRect(QPoint(), map.size * place.cellPixels));
+    return picture;
+}
+
+QPixmap MapPainter::scene(const GameMap &map, const QVector<MapEvents::Event> &events, const QSize &size)
+{
+    QPixmap picture = mapPicture(map, size);
+    QPainter painter(&picture);
+    const Fit place = fit(map, size);
+    for (const MapEvents::Event &event : events) {
+        drawEvent(painter, event.picture, place.rectOf(event.cell));
+    }
+    return picture;
+}
+
+QPixmap MapPainter::wayPicture(const GameMap &map, const QVector<MapEvents::Event> &events,
+                               const QVector<QPoint> &cells, const QSize &size)
+{
+    QPixmap picture = scene(map, events, size);
+    const Fit place = fit(map, size);
+    QPolygon way;
+    for (const QPoint &cell : cells) {
+        way.append(place.rectOf(cell).center());
+    }
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const int width = qMax(2, place.cellPixels / 5);
+    painter.setPen(QPen(Qt::black, width + 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(way);
+    painter.setPen(QPen(QColor(0xff, 0xd0, 0x40), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(way);
+    // A ring where it begins, a disc where it ends.
+    const int radius = qMax(3, place.cellPixels / 3);
+    painter.setPen(QPen(Qt::black, 1));
+    painter.setBrush(QColor(0xff, 0xd0, 0x40));
+    painter.drawEllipse(way.constLast(), radius, radius);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 2));
+    painter.drawEllipse(way.constFirst(), radius, radius);
     return picture;
 }

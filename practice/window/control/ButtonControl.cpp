@@ -5,6 +5,9 @@
 ControlMaker readButton(ControlReader &reader)
 {
     const QString label = reader.label();
+    if (!reader.description().actionName.isEmpty()) {
+        reader.readAction();
+    }
     const bool isDefault = reader.json().flag(QStringLiteral("default"));
     return [label, isDefault, description = reader.description()](EditorWindow *window) {
         auto *button = new QPushButton(label, window);

@@ -163,13 +163,15 @@ void ControlReader::finish()
     }
     m_json.reportUnknownFields();
     checkCommands();
-    checkRequirements();
+    checkRequirements(QStringLiteral("shownWhen"), m_description->shownWhen);
+    checkRequirements(QStringLiteral("enabledWhen"), m_description->enabledWhen);
 }
 
 void ControlReader::checkCommands()
 {
     const auto actions = m_description->actions();
     for (const auto &[field, action] : actions) {
+        checkRequirements(field + QStringLiteral(".when"), action.when);
         const QStringList commands = action.run + action.begin;
         for (const QString &command : commands) {
             const QString problem = m_context->project->problemOf(command);
@@ -180,20 +182,16 @@ void ControlReader::checkCommands()
     }
 }
 
-void ControlReader::checkRequirements()
+void ControlReader::checkRequirements(const QString &place, const QVector<ControlRequirement> &requirements)
 {
-    const auto check = [this](const QString &place, const QVector<ControlRequirement> &requirements) {
-        for (const ControlRequirement &requirement : requirements) {
-            const QString problem = requirement.field.isEmpty()
-                                        ? m_context->project->sources().problemOf(requirement.source)
-                                        : m_context->project->fields().problemOf(requirement.field);
-            if (!problem.isEmpty()) {
-                m_json.addError(place, problem);
-            }
+    for (const ControlRequirement &requirement : requirements) {
+        const QString problem = requirement.field.isEmpty()
+                                    ? m_context->project->sources().problemOf(requirement.source)
+                                    : m_context->project->fields().problemOf(requirement.field);
+        if (!problem.isEmpty()) {
+            m_json.addError(place, problem);
         }
-    };
-    check(QStringLiteral("shownWhen"), m_description->shownWhen);
-    check(QStringLiteral("enabledWhen"), m_description->enabledWhen);
+    }
 }
 
 void ControlReader::require(const QString &field, bool isThere)

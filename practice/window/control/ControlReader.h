@@ -75,7 +75,7 @@ private:
     void require(const QString &field, bool isThere);
     [[nodiscard]] Rows choices();
     void checkCommands();
-    void checkRequirements();
+    void checkRequirements(const QString &place, const QVector<ControlRequirement> &requirements);
 
     const ControlDescription *m_description;
     const ControlContext *m_context;

@@ -9,6 +9,7 @@
 #include "window/control/LabelControl.h"
 #include "window/control/LineEditControl.h"
 #include "window/control/ListControl.h"
+#include "window/control/MapCellControl.h"
 #include "window/control/MapControl.h"
 #include "window/control/PictureControl.h"
 #include "window/control/ProgressControl.h"
@@ -27,14 +28,23 @@ using Read = ControlMaker (*)(ControlReader &);
 const QMap<QString, Read> &readers()
 {
     static const QMap<QString, Read> readers{
-        {QStringLiteral("button"), readButton},     {QStringLiteral("checkBox"), readCheckBox},
-        {QStringLiteral("comboBox"), readComboBox}, {QStringLiteral("curve"), readCurve},
-        {QStringLiteral("entry"), readEntry},       {QStringLiteral("label"), readLabel},
-        {QStringLiteral("lineEdit"), readLineEdit}, {QStringLiteral("list"), readList},
-        {QStringLiteral("map"), readMap},           {QStringLiteral("picture"), readPicture},
-        {QStringLiteral("progress"), readProgress}, {QStringLiteral("radioButton"), readRadioButton},
-        {QStringLiteral("spinBox"), readSpinBox},   {QStringLiteral("tabs"), readTabs},
-        {QStringLiteral("textEdit"), readTextEdit}, {QStringLiteral("toolButton"), readToolButton},
+        {QStringLiteral("button"), readButton},
+        {QStringLiteral("checkBox"), readCheckBox},
+        {QStringLiteral("comboBox"), readComboBox},
+        {QStringLiteral("curve"), readCurve},
+        {QStringLiteral("entry"), readEntry},
+        {QStringLiteral("label"), readLabel},
+        {QStringLiteral("lineEdit"), readLineEdit},
+        {QStringLiteral("list"), readList},
+        {QStringLiteral("map"), readMap},
+        {QStringLiteral("mapCell"), readMapCell},
+        {QStringLiteral("picture"), readPicture},
+        {QStringLiteral("progress"), readProgress},
+        {QStringLiteral("radioButton"), readRadioButton},
+        {QStringLiteral("spinBox"), readSpinBox},
+        {QStringLiteral("tabs"), readTabs},
+        {QStringLiteral("textEdit"), readTextEdit},
+        {QStringLiteral("toolButton"), readToolButton},
     };
     return readers;
 }

@@ -5,26 +5,53 @@
 
 #include <QCursor>
 
+namespace {
+
+/// Shows the list of event commands whose path stands in "list". Gives what says that this one is edited from
+/// here on.
+QString readCommands(ControlReader &reader, const QString &path, RowList::Settings *settings)
+{
+    const QString problem = reader.context().project->sources().problemOf(path);
+    if (!path.isEmpty() && !problem.isEmpty()) {
+        reader.json().addError(QStringLiteral("list"), problem);
+    }
+    settings->source = QStringLiteral("commands ") + path;
+    settings->rows = [source = settings->source](const EditorWindow *window) {
+        return window->rows(source);
+    };
+    return QStringLiteral("commands.of ") + path;
+}
+
+} // namespace
+
 ControlMaker readList(ControlReader &reader)
 {
     const ControlDescription &description = reader.description();
     RowList::Settings settings;
-    settings.rows = reader.rows(false);
+    QString begin;
+    if (reader.has(QStringLiteral("list"))) {
+        reader.oneOf(QStringLiteral("source"), reader.json().text(QStringLiteral("source")),
+                     {QStringLiteral("commands")});
+        begin = readCommands(reader, reader.json().text(QStringLiteral("list")), &settings);
+    } else {
+        settings.rows = reader.rows(false);
+        settings.source = description.own.object.value(QStringLiteral("source")).toString();
+    }
     if (reader.hasChoices() || reader.has(QStringLiteral("field"))) {
         settings.field = reader.field();
     }
-    settings.source = description.own.object.value(QStringLiteral("source")).toString();
     settings.rowHeight = reader.rowHeight();
     settings.isOpened = !description.doubleClick.isEmpty();
     settings.isDeletedFrom = !description.deleteKey.isEmpty();
     settings.isCopiedFrom = !description.copyKey.isEmpty();
     settings.isPastedTo = !description.pasteKey.isEmpty();
     MapPainter *painter = reader.context().painter;
-    return [settings, painter, description](EditorWindow *window) {
+    return [settings, painter, description, begin](EditorWindow *window) {
         auto *list = new RowList(window, painter, settings);
         keepFresh(list, window, [list] { list->refresh(); });
-        const auto act = [list, window, name = description.name](const ControlAction &action,
-                                                                 const QPoint &at) {
+        const auto act = [list, window, begin, name = description.name](const ControlAction &action,
+                                                                        const QPoint &at) {
+            window->run(begin);
             if (canRun(action, window)) {
                 window->act(action, at, window->spot(name, list->currentRow()));
             }

@@ -1,8 +1,10 @@
 #include "window/control/MapControl.h"
 
+#include "window/control/ControlState.h"
 #include "window/control/MapKeys.h"
 #include "window/control/MapView.h"
 
+#include <QCursor>
 #include <QScrollArea>
 
 namespace {
@@ -21,8 +23,8 @@ ControlMaker readMap(ControlReader &reader)
 {
     const QString target = reader.json().text(QStringLiteral("target"));
     MapPainter *painter = reader.context().painter;
-    const ControlAction contextMenu = reader.description().contextMenu;
-    return [target, painter, contextMenu, name = reader.description().name](EditorWindow *window) {
+    return [target, painter, description = reader.description()](EditorWindow *window) {
+        const QString name = description.name;
         auto *area = new QScrollArea(window);
         area->setFrameShape(QFrame::NoFrame);
         area->setBackgroundRole(QPalette::Dark);
@@ -40,11 +42,24 @@ ControlMaker readMap(ControlReader &reader)
             window->report(QStringLiteral("mouseEvent"), target, how, strokeSpot(*window, *view, name));
         });
         QObject::connect(view, &MapView::menuRequested, window,
-                         [window, target, contextMenu, name](const QPoint &at) {
+                         [window, target, description, name](const QPoint &at) {
                              window->report(QStringLiteral("menuEvent"), target, QStringLiteral("click"),
                                             window->spot(name));
-                             window->act(contextMenu, at, window->spot(name));
+                             window->act(description.contextMenu, at, window->spot(name));
                          });
+        QObject::connect(view, &MapView::opened, window, [window, description, name] {
+            window->act(description.doubleClick, QCursor::pos(), window->spot(name));
+        });
+        const auto onWish = [window, view, name](auto wish, const ControlAction &action) {
+            QObject::connect(view, wish, window, [window, action, name] {
+                if (canRun(action, window)) {
+                    window->act(action, QCursor::pos(), window->spot(name));
+                }
+            });
+        };
+        onWish(&MapView::deleteRequested, description.deleteKey);
+        onWish(&MapView::copyRequested, description.copyKey);
+        onWish(&MapView::pasteRequested, description.pasteKey);
         return area;
     };
 }

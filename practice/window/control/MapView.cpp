@@ -3,6 +3,7 @@
 #include "project/MapBoard.h"
 #include "window/MapPainter.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -23,15 +24,17 @@ void MapView::refresh()
     update();
 }
 
+QPoint MapView::markedCell() const
+{
+    return m_board->cursor();
+}
+
 void MapView::setMarkedCell(const QPoint &cell)
 {
-    const GameMap *map = m_board->map();
-    if (map == nullptr) {
-        return;
+    if (m_board->map() != nullptr) {
+        m_isAtKeyboard = hasFocus();
+        m_board->setCursor(cell);
     }
-    m_cursor = {qBound(0, cell.x(), map->size.width() - 1), qBound(0, cell.y(), map->size.height() - 1)};
-    m_isAtKeyboard = hasFocus();
-    update();
 }
 
 QRect MapView::rectOf(const QPoint &cell) const
@@ -42,7 +45,7 @@ QRect MapView::rectOf(const QPoint &cell) const
 
 QVariant MapView::inputMethodQuery(Qt::InputMethodQuery query) const
 {
-    return query == Qt::ImCursorRectangle ? QVariant(rectOf(m_cursor)) : QWidget::inputMethodQuery(query);
+    return query == Qt::ImCursorRectangle ? QVariant(rectOf(markedCell())) : QWidget::inputMethodQuery(query);
 }
 
 void MapView::focusInEvent(QFocusEvent *event)
@@ -55,6 +58,39 @@ void MapView::focusOutEvent(QFocusEvent *event)
 {
     m_isAtKeyboard = false;
     QWidget::focusOutEvent(event);
+}
+
+MapView::Wish MapView::wishOf(const QKeyEvent *event) const
+{
+    if (!m_tools->isEventMode()) {
+        return nullptr;
+    }
+    if (event->matches(QKeySequence::Delete)) {
+        return &MapView::deleteRequested;
+    }
+    if (event->matches(QKeySequence::Copy)) {
+        return &MapView::copyRequested;
+    }
+    return event->matches(QKeySequence::Paste) ? &MapView::pasteRequested : nullptr;
+}
+
+bool MapView::event(QEvent *event)
+{
+    // The map's own keys go before those of the menu bar.
+    if (event->type() == QEvent::ShortcutOverride && wishOf(static_cast<QKeyEvent *>(event)) != nullptr) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void MapView::keyPressEvent(QKeyEvent *event)
+{
+    if (const Wish wish = wishOf(event)) {
+        Q_EMIT(this->*wish)();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 QPoint MapView::cellAt(const QPoint &position) const
@@ -88,33 +124,53 @@ void MapView::paintEvent(QPaintEvent *event)
             painter.drawLine(0, y, width(), y);
         }
     }
-    if (m_tools->isEventMode() || m_isAtKeyboard) {
-        painter.setPen(QPen(Qt::black, 1));
-        painter.drawRect(rectOf(m_cursor).adjusted(0, 0, -1, -1));
-        painter.setPen(QPen(Qt::white, 3));
-        painter.drawRect(rectOf(m_cursor).adjusted(2, 2, -3, -3));
+    if (m_tools->isEventMode()) {
+        paintEvents(&painter);
     }
-    if (m_drawing && drawsOnRelease()) {
+    if (m_tools->isEventMode() || m_isAtKeyboard) {
+        paintMark(&painter);
+    }
+    if (m_drawing && !m_tools->isEventMode() && drawsOnRelease()) {
         const QVector<QPoint> cells = m_board->cellsOfStroke(m_strokeStart, m_strokeEnd);
         for (const QPoint &cell : cells) {
-            painter.fillRect(QRect(cell * pixels, QSize(pixels, pixels)), QColor(255, 255, 255, 110));
+            painter.fillRect(rectOf(cell), QColor(255, 255, 255, 110));
         }
     }
 }
 
+void MapView::paintEvents(QPainter *painter) const
+{
+    const QVector<MapEvents::Event> events = m_board->events();
+    for (const MapEvents::Event &event : events) {
+        const bool isMoved = m_drawing && event.cell == m_strokeStart;
+        m_painter->drawEvent(*painter, event.picture, rectOf(isMoved ? m_strokeEnd : event.cell));
+    }
+}
+
+void MapView::paintMark(QPainter *painter) const
+{
+    const bool isMoving = m_drawing && m_tools->isEventMode();
+    const QRect cell = rectOf(isMoving ? m_strokeEnd : markedCell());
+    painter->setPen(QPen(Qt::black, 1));
+    painter->drawRect(cell.adjusted(0, 0, -1, -1));
+    painter->setPen(QPen(Qt::white, 3));
+    painter->drawRect(cell.adjusted(2, 2, -3, -3));
+}
+
 void MapView::mousePressEvent(QMouseEvent *event)
 {
+    const QPoint cell = cellAt(event->pos());
+    if (event->button() == Qt::LeftButton || m_tools->isEventMode()) {
+        m_board->setCursor(cell);
+    }
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    m_strokeStart = cellAt(event->pos());
-    m_strokeEnd = m_strokeStart;
-    m_cursor = m_strokeStart;
+    m_strokeStart = cell;
+    m_strokeEnd = cell;
     m_isAtKeyboard = false;
-    if (m_tools->isEventMode()) {
-        update();
-    } else {
-        m_drawing = true;
+    m_drawing = true;
+    if (!m_tools->isEventMode()) {
         m_board->beginStroke();
         if (!drawsOnRelease()) {
             m_board->paint(m_board->cellsOfStroke(m_strokeStart, m_strokeEnd));
@@ -126,14 +182,12 @@ void MapView::mousePressEvent(QMouseEvent *event)
 void MapView::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint cell = cellAt(event->pos());
-    const bool isHeld = m_drawing || event->buttons().testFlag(Qt::LeftButton);
-    if (!isHeld || cell == m_strokeEnd) {
+    if (!m_drawing || cell == m_strokeEnd) {
         return;
     }
-    // In event mode nothing is drawn, and yet it is a drag.
-    if (m_drawing && drawsOnRelease()) {
+    if (m_tools->isEventMode() || drawsOnRelease()) {
         update();
-    } else if (m_drawing) {
+    } else {
         m_board->paint(m_board->cellsOfStroke(m_strokeEnd, cell));
     }
     m_strokeEnd = cell;
@@ -145,14 +199,35 @@ void MapView::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() == Qt::RightButton && inside) {
         Q_EMIT menuRequested(event->globalPos());
     }
-    if (event->button() != Qt::LeftButton) {
+    // The second click of two has no press of its own in event mode.
+    if (event->button() != Qt::LeftButton || !m_drawing) {
         return;
     }
-    if (m_drawing && drawsOnRelease()) {
-        m_board->paint(m_board->cellsOfStroke(m_strokeStart, m_strokeEnd));
-    }
-    m_drawing = false;
+    finishStroke();
     if (inside) {
         Q_EMIT clicked();
+    }
+}
+
+void MapView::finishStroke()
+{
+    m_drawing = false;
+    if (m_tools->isEventMode()) {
+        if (m_strokeEnd != m_strokeStart) {
+            m_board->moveEvent(m_strokeStart, m_strokeEnd);
+            update();
+        }
+    } else if (drawsOnRelease()) {
+        m_board->paint(m_board->cellsOfStroke(m_strokeStart, m_strokeEnd));
+    }
+}
+
+void MapView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (m_tools->isEventMode() && event->button() == Qt::LeftButton) {
+        m_board->setCursor(cellAt(event->pos()));
+        Q_EMIT opened();
+    } else {
+        mousePressEvent(event);
     }
 }

@@ -4,6 +4,7 @@
 #include "window/MapPainter.h"
 #include "window/Pictures.h"
 #include "window/TroopPicture.h"
+#include "window/control/EventPictures.h"
 #include "window/control/PictureBox.h"
 
 #include <QJsonArray>
@@ -78,18 +79,30 @@ const QMap<QString, Draw> &drawings()
     return drawings;
 }
 
+/// What is drawn of all that is being edited, and of no field alone.
+const QMap<QString, decltype(&EventPictures::message)> &drawingsOfWindow()
+{
+    static const QMap<QString, decltype(&EventPictures::message)> drawings{
+        {QStringLiteral("message"), EventPictures::message}, {QStringLiteral("route"), EventPictures::route}};
+    return drawings;
+}
+
 } // namespace
 
 ControlMaker readPicture(ControlReader &reader)
 {
     const QString picture = reader.json().text(QStringLiteral("picture"));
-    reader.oneOf(QStringLiteral("picture"), picture, drawings().keys());
+    reader.oneOf(QStringLiteral("picture"), picture, drawings().keys() + drawingsOfWindow().keys());
+    const auto ofWindow = drawingsOfWindow().value(picture);
     const bool hasField = reader.has(QStringLiteral("field"));
-    const QString name = hasField ? reader.field() : reader.source();
-    return [picture, hasField, name, context = reader.context(),
+    const QString name = hasField ? reader.field() : ofWindow == nullptr ? reader.source() : QString();
+    return [picture, ofWindow, hasField, name, context = reader.context(),
             description = reader.description()](EditorWindow *window) {
         auto *box = new PictureBox(
-            [picture, hasField, name, context, window](const QSize &size) {
+            [picture, ofWindow, hasField, name, context, window](const QSize &size) {
+                if (ofWindow != nullptr) {
+                    return ofWindow(context, *window, size);
+                }
                 if (hasField) {
                     return drawings().value(picture)(context, window->layer(), window->field(name), size);
                 }

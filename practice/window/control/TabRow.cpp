@@ -1,5 +1,6 @@
 #include "window/control/TabRow.h"
 
+#include <QMouseEvent>
 #include <QProxyStyle>
 
 #include <utility>
@@ -30,8 +31,28 @@ TabRow::TabRow(const QStringList &tabs, QVector<int> tabWidths, QWidget *parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setDrawBase(false);
-    for (const QString &tab : tabs) {
-        addTab(tab);
+    setTexts(tabs);
+}
+
+void TabRow::setTexts(const QStringList &tabs)
+{
+    while (count() > tabs.size()) {
+        removeTab(count() - 1);
+    }
+    for (int tab = 0; tab < tabs.size(); ++tab) {
+        if (tab == count()) {
+            addTab(tabs.at(tab));
+        } else if (tabText(tab) != tabs.at(tab)) {
+            setTabText(tab, tabs.at(tab));
+        }
+    }
+}
+
+void TabRow::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTabBar::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton && rect().contains(event->pos())) {
+        Q_EMIT menuRequested(tabAt(event->pos()), event->globalPos());
     }
 }
 

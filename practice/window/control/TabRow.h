@@ -12,7 +12,15 @@ public:
     /// row.
     TabRow(const QStringList &tabs, QVector<int> tabWidths, QWidget *parent = nullptr);
 
+    /// Shows these tabs in place of the others. The current one stays where its place is still there.
+    void setTexts(const QStringList &tabs);
+
+Q_SIGNALS:
+    /// The right button was clicked on a tab, -1 for none; @p position in global screen pixels.
+    void menuRequested(int index, const QPoint &position);
+
 protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
     [[nodiscard]] QSize tabSizeHint(int index) const override;
     [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
 

@@ -38,6 +38,15 @@ void readSets(ControlReader &reader, int tabs)
     }
 }
 
+QStringList textsOf(const QVector<Row> &rows)
+{
+    QStringList texts;
+    for (const Row &row : rows) {
+        texts.append(row.text);
+    }
+    return texts;
+}
+
 } // namespace
 
 void declareTabs(const QVector<ControlDescription> &controls, Project *project)
@@ -45,7 +54,7 @@ void declareTabs(const QVector<ControlDescription> &controls, Project *project)
     for (const ControlDescription &control : controls) {
         const QString source = control.own.object.value(QStringLiteral("source")).toString();
         if (control.type == QLatin1String("tabs") && !source.isEmpty() &&
-            !project->sources().isPath(source)) {
+            control.own.object.contains(QStringLiteral("tabs")) && !project->sources().isPath(source)) {
             const QStringList sets = setsOf(control);
             if (sets.isEmpty()) {
                 project->addTabs(source,
@@ -60,17 +69,24 @@ void declareTabs(const QVector<ControlDescription> &controls, Project *project)
 ControlMaker readTabs(ControlReader &reader)
 {
     QStringList texts;
-    const QVector<LocalText> labels = reader.json().localTexts(QStringLiteral("tabs"));
-    for (const LocalText &label : labels) {
-        texts.append(label.value(reader.context().locale));
+    const bool areRows = !reader.has(QStringLiteral("tabs"));
+    if (!areRows) {
+        const QVector<LocalText> labels = reader.json().localTexts(QStringLiteral("tabs"));
+        for (const LocalText &label : labels) {
+            texts.append(label.value(reader.context().locale));
+        }
     }
     const QString source = reader.source();
     readSets(reader, int(texts.size()));
     const QVector<int> tabWidths = reader.tabWidths();
-    return [texts, source, tabWidths, name = reader.description().name](EditorWindow *window) {
+    return [texts, areRows, source, tabWidths, description = reader.description()](EditorWindow *window) {
+        const QString name = description.name;
         auto *tabs = new TabRow(texts, tabWidths, window);
-        keepFresh(tabs, window, [tabs, window, source] {
+        keepFresh(tabs, window, [tabs, window, areRows, source] {
             const QSignalBlocker quiet(tabs);
+            if (areRows) {
+                tabs->setTexts(textsOf(window->rows(source)));
+            }
             tabs->setCurrentIndex(window->currentRow(source));
         });
         const auto choose = [window, source, name](int index) {
@@ -89,6 +105,13 @@ ControlMaker readTabs(ControlReader &reader)
                 choose(index);
             }
         });
+        QObject::connect(tabs, &TabRow::menuRequested, window,
+                         [choose, window, description](int index, const QPoint &at) {
+                             if (index >= 0) {
+                                 choose(index);
+                             }
+                             window->act(description.contextMenu, at, window->spot(description.name, index));
+                         });
         return tabs;
     };
 }

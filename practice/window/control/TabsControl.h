@@ -6,5 +6,5 @@
 /// the controls is read. A source that the editor has stays what it is.
 void declareTabs(const QVector<ControlDescription> &controls, Project *project);
 
-/// A row of "tabs"; the current one is that of a "source".
+/// A row of "tabs", or of the rows of a "source"; the current one is that of the source.
 [[nodiscard]] ControlMaker readTabs(ControlReader &reader);

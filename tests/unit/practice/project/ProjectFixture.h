@@ -22,6 +22,9 @@ inline StartData startData()
          str("rock"),  str("stump"),     str("reeds"), str("mushrooms"), str("wall"),  str("window"),
          str("door"),  str("roof"),      str("fence"), str("well"),      str("sign"),  str("bridge")},
         str("en_US"), &errors);
+    const QString descriptions = str(TUTORIAL_SOURCE_DIR "/practice/descriptions");
+    start.choices = ChoiceSets::read(descriptions + str("/choices"), str("en_US"), &errors);
+    start.eventCommands = EventCommands::read(descriptions + str("/commands"), str("en_US"), &errors);
     if (!errors.isEmpty()) {
         qFatal("%s", qPrintable(errors.join(QLatin1Char('\n'))));
     }

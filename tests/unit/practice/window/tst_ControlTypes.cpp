@@ -36,6 +36,8 @@ void tst_ControlTypes::everyTypeIsMade_data()
     QTest::newRow("lineEdit") << QByteArray(R"("field": "newProject.name")");
     QTest::newRow("list") << QByteArray(R"("source": "maps", "rowHeight": 20)");
     QTest::newRow("map") << QByteArray(R"("target": "Map")");
+    QTest::newRow("mapCell") << QByteArray(
+        R"("target": "Place", "map": "place/map", "x": "place/x", "y": "place/y")");
     QTest::newRow("picture") << QByteArray(R"("picture": "sampleMap", "source": "sampleMaps")");
     QTest::newRow("progress") << QByteArray(R"("click": {"close": true})");
     QTest::newRow("radioButton") << QByteArray(
@@ -57,7 +59,7 @@ void tst_ControlTypes::everyTypeIsMade()
     QVERIFY2(control != nullptr, qPrintable(bench.errors.join(QLatin1Char('\n'))));
     QCOMPARE(control->parentWidget(), &bench.window);
     // And each has a row above.
-    QCOMPARE(controlTypes().size(), 16);
+    QCOMPARE(controlTypes().size(), 17);
 }
 
 void tst_ControlTypes::tellsWhatIsWrong_data()
@@ -70,7 +72,7 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
     row("unknown type", R"("type": "buton")",
         "type: \"buton\" is unknown; use one of: button, checkBox, comboBox, curve, entry, label, lineEdit, "
         "list, "
-        "map, picture, progress, radioButton, spinBox, tabs, textEdit, toolButton");
+        "map, mapCell, picture, progress, radioButton, spinBox, tabs, textEdit, toolButton");
     row("misspelt field", R"("type": "button", "label": TEXT, "defualt": true)",
         "defualt: is not a field that is known here; remove it or correct its name");
     row("a field of another type", R"("type": "button", "label": TEXT, "tabWidth": 9)",
@@ -81,11 +83,12 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
     row("field", R"("type": "lineEdit", "field": "map.age")", "field: \"map.age\" is unknown; use ");
     row("no field", R"("type": "lineEdit")", "field: must be a text");
     row("path", R"("type": "lineEdit", "field": "data/Items/{actors}/name")",
-        "field: \"{actors}\" is neither the list before it, \"items\", nor one of: choice.number, maps, ");
+        "field: \"{actors}\" is neither the list before it, \"items\", nor one of: choice.number, "
+        "command/entries, ");
     row("source", R"("type": "list", "rowHeight": 9, "source": "worlds")",
         "source: \"worlds\" is unknown; use the path of a list in a data file, such as data/Items, or one "
         "of: "
-        "choice.number, maps, ");
+        "choice.number, command/entries, ");
     row("no height", R"("type": "list", "source": "maps")",
         "rowHeight: is missing; controls of this type need it");
     row("range", R"("type": "spinBox", "field": "newProject.name", "range": [1])",

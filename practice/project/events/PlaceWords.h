@@ -1,0 +1,35 @@
+#pragma once
+
+#include "project/Commands.h"
+#include "project/Fields.h"
+#include "project/StartData.h"
+
+/// Where something happens: the place on a map that is chosen in a window of its own, and the way that a
+/// movement route takes. Both are begun with the paths of what they change.
+///
+///     place.begin command/1 command/2 command/3 command/4     map, column, row, and the direction where one
+///     is route.begin command/1 command/0                         a route, and who takes it where that is
+///     asked
+///
+/// The root "place" of paths is then what is chosen, "route" the route.
+class PlaceWords
+{
+public:
+    /// Both outlive the words.
+    PlaceWords(const StartData *start, const RowSources *sources);
+
+    /// @p fields outlive the words, too.
+    void addTo(Commands &commands, Fields &fields, RowSources &sources);
+
+private:
+    void addRoutes(Commands &commands, Fields &fields, RowSources &sources);
+    void beginPlace(const QString &paths, const Fields &fields, DataLayer &layer) const;
+    static void acceptPlace(const Fields &fields, DataLayer &layer);
+    void beginRoute(const QString &paths, DataLayer &layer) const;
+    /// The cell where who takes the route stands; the middle of the map where that is not known.
+    [[nodiscard]] QPoint startOfRoute(const DataLayer &layer) const;
+    [[nodiscard]] QVector<Row> targets(const DataLayer &layer) const;
+
+    const StartData *m_start;
+    const RowSources *m_sources;
+};
