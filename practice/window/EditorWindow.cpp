@@ -66,7 +66,7 @@ void EditorWindow::add(QWidget *control, const ControlDescription &description)
 
 void EditorWindow::place(QWidget *child, const QRect &geometry, const Stretch &stretch)
 {
-    m_placed.append({child, geometry, stretch});
+    m_placed.push_back({child, geometry, stretch});
     child->setGeometry(stretch.apply(geometry, size() - m_size));
 }
 
@@ -250,7 +250,7 @@ void EditorWindow::paintEvent(QPaintEvent * /*event*/)
 void EditorWindow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    for (const Placed &placed : qAsConst(m_placed)) {
+    for (const Placed &placed : m_placed) {
         placed.widget->setGeometry(placed.stretch.apply(placed.geometry, size() - m_size));
     }
     Q_EMIT laidOut();

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <vector>
+
 class QPushButton;
 
 /// One window, part of a window or context menu, with its controls. It shows and changes what stands in its
@@ -115,7 +117,7 @@ private:
     /// As described.
     QSize m_size;
     QVector<QWidget *> m_controls;
-    QVector<Placed> m_placed;
+    std::vector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;
     bool m_isToBeSeen = false;
