@@ -38,11 +38,12 @@ void readSets(ControlReader &reader, int tabs)
     }
 }
 
+/// Rows without a text are counted from 1.
 QStringList textsOf(const QVector<Row> &rows)
 {
     QStringList texts;
     for (const Row &row : rows) {
-        texts.append(row.text);
+        texts.append(row.text.isEmpty() ? QString::number(texts.size() + 1) : row.text);
     }
     return texts;
 }

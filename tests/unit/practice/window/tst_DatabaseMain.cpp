@@ -27,6 +27,9 @@ private Q_SLOTS:
     void aTileSetLooksLikeItsPicture();
     void theGameHasItsParty();
     void musicIsChosenWithItsVolume();
+    void aTroopHasPagesOfCommands();
+    void aCommonEventHasCommands();
+    void theGameStartsAtAPlace();
     void lookingChangesNothing();
 };
 
@@ -278,6 +281,57 @@ void tst_DatabaseMain::musicIsChosenWithItsVolume()
     // What was not touched is not made.
     QCOMPARE(editor.value("System", "/battleMusic"),
              QJsonValue(QJsonObject{{str("file"), str("boss")}, {str("volume"), 35}}));
+}
+
+void tst_DatabaseMain::aTroopHasPagesOfCommands()
+{
+    SampleEditor editor;
+    editor.openDatabase(7);
+    editor.clickRow("DatabaseMain", "troops", 5);
+    QCOMPARE(editor.find<QTabBar>("DatabaseMain", "troopPages")->count(), 2);
+    QCOMPARE(editor.texts("DatabaseMain", "troopCommands").size(), 3);
+    editor.takeTold();
+    editor.clickTab("DatabaseMain", "troopPages", 1);
+    QCOMPARE(editor.takeTold(), QStringList{str("tabView,tabview,1 in DatabaseMain")});
+    QCOMPARE(editor.texts("DatabaseMain", "troopCommands").size(), 2);
+    editor.click("DatabaseMain", "troopPagesAdd");
+    QCOMPARE(editor.find<QTabBar>("DatabaseMain", "troopPages")->tabText(2), str("3"));
+    editor.clickRow("DatabaseMain", "troopCommands", 0);
+    editor.takeTold();
+    editor.openRow("DatabaseMain", "troopCommands", 0);
+    QVERIFY(editor.takeTold().contains(str("windowState,EventCommandSelect,open in EventCommandSelect")));
+    editor->close(str("EventCommandSelect"));
+    editor.click("DatabaseMain", "ok");
+    QCOMPARE(editor.value("Troops", "/6/pages").toArray().size(), 3);
+    QCOMPARE(editor.value("Troops", "/6/pages/2/list").toArray().size(), 1);
+}
+
+void tst_DatabaseMain::aCommonEventHasCommands()
+{
+    SampleEditor editor;
+    editor.openDatabase(11);
+    editor.clickRow("DatabaseMain", "commonEvents", 1);
+    // A message with its line in one row, a wait, and the end.
+    QCOMPARE(editor.texts("DatabaseMain", "commonEventCommands").size(), 3);
+    editor.clickRow("DatabaseMain", "commonEventCommands", 1);
+    QTest::keyClick(editor.find<RowList>("DatabaseMain", "commonEventCommands"), Qt::Key_Delete);
+    editor.click("DatabaseMain", "ok");
+    QCOMPARE(editor.value("CommonEvents", "/2/list").toArray().size(), 3);
+}
+
+void tst_DatabaseMain::theGameStartsAtAPlace()
+{
+    SampleEditor editor;
+    editor.openDatabase(12);
+    editor.click("DatabaseMain", "startChoose");
+    QVERIFY(editor->openWindows().contains(str("Location")));
+    editor.setNumber("Location", "x", 7);
+    editor.click("Location", "ok");
+    editor.click("DatabaseMain", "ok");
+    QVERIFY(editor.takeTold().contains(str("action,database,close in DatabaseMain")));
+    QCOMPARE(editor.value("System", "/startX"), QJsonValue(7));
+    QCOMPARE(editor.value("System", "/startY"), QJsonValue(11));
+    QCOMPARE(editor.value("System", "/startMapId"), QJsonValue(1));
 }
 
 void tst_DatabaseMain::lookingChangesNothing()
