@@ -138,6 +138,9 @@ QJsonArray parametersFrom(const EventCommands::Command *command, const QJsonObje
     if (command != nullptr && command->branches.areChoices && !parameters.isEmpty()) {
         parameters.replace(0, withoutEmptyEnd(parameters.at(0).toArray()));
     }
+    if (command != nullptr && command->isRange && form.value(str("single")).toBool()) {
+        parameters.replace(1, parameters.at(0));
+    }
     if (command == nullptr || command->entries == 0) {
         return parameters;
     }
@@ -264,6 +267,9 @@ QJsonObject form(const EventCommands &table, const QJsonArray &entries)
     }
     if (command->entries != 0) {
         form.insert(str("entries"), goodsOf(parameters, parts.followUps));
+    }
+    if (command->isRange) {
+        form.insert(str("single"), parameters.at(0) == parameters.at(1));
     }
     if (command->branches.otherwise != 0) {
         form.insert(str("else"), !parts.branches.isEmpty());

@@ -11,8 +11,8 @@
 /// Entries of codes that the table does not know, and members that nobody knows, stay what they are.
 ///
 /// A command is changed as a form: its parameters are the members "0", "1", ..., its lines of text one text
-/// in "lines", the entries that follow it a list in "entries", whether it has a second list stands in "else";
-/// "code" says what it is.
+/// in "lines", the entries that follow it a list in "entries", whether it has a second list stands in "else",
+/// and whether a range is that of one thing in "single"; "code" says what it is.
 class CommandList
 {
 public:

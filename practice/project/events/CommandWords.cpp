@@ -117,15 +117,6 @@ void CommandWords::addForms(Commands &commands, Fields &fields, RowSources &sour
     });
     // The goods of a shop: a kind and the number of an entry each.
     sources.add(str("command/entries"), [this](const DataLayer &layer) { return goods(layer); });
-    fields.add(
-        str("command/0+1"),
-        [](const DataLayer &layer) { return layer.value(formFile(), str("/0")).toVariant(); },
-        [](DataLayer &layer, const QVariant &value) {
-            QJsonObject form = layer.file(formFile()).toObject();
-            form.insert(str("0"), value.toInt());
-            form.insert(str("1"), value.toInt());
-            layer.change({{formFile(), form}}, QString());
-        });
     commands.add(str("command.new"), [this](DataLayer &layer) {
         QJsonObject form = CommandList::newForm(m_start->eventCommands, chosenCode(layer));
         form.insert(str("isNew"), true);

@@ -82,6 +82,7 @@ EventCommands::Command readCommand(JsonReader &reader, const QString &locale)
     }
     command.lines = reader.number(str("lines"), 0);
     command.entries = reader.number(str("entries"), 0);
+    command.isRange = reader.flag(str("range"));
     if (auto branches = reader.object(str("branches"))) {
         readBranches(*branches, &command.branches);
     }
@@ -91,13 +92,21 @@ EventCommands::Command readCommand(JsonReader &reader, const QString &locale)
     return command;
 }
 
+/// The value itself, or that of the member which it names.
+QJsonValue wished(const QJsonValue &value, const QJsonObject &form)
+{
+    const QString text = value.toString();
+    const bool isName = text.startsWith(QLatin1Char('{')) && text.endsWith(QLatin1Char('}'));
+    return isName ? form.value(text.mid(1, text.size() - 2)) : value;
+}
+
 } // namespace
 
 QString EventCommands::Command::rowOf(const QJsonObject &form) const
 {
     const auto fits = [&form](const RowForm &row) {
         for (auto member = row.is.begin(); member != row.is.end(); ++member) {
-            if (!ChoiceSets::isSame(form.value(member.key()), member.value())) {
+            if (!ChoiceSets::isSame(form.value(member.key()), wished(member.value(), form))) {
                 return false;
             }
         }

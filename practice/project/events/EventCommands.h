@@ -43,7 +43,7 @@ public:
     static constexpr int kWayOut = -2;
 
     /// What the row of a command says whose form has these members. One that is not there counts as 0, as the
-    /// empty text and as false.
+    /// empty text and as false; the text "{0}" stands for the member "0".
     struct RowForm
     {
         QJsonObject is;
@@ -64,6 +64,8 @@ public:
         int lines = 0;
         /// Code of the entries that follow it with parameters of their own; 0 for none.
         int entries = 0;
+        /// Whether parameters 0 and 1 are the first and the last of something.
+        bool isRange = false;
         Branches branches;
         /// Whether there is anything to be said of one.
         bool hasForm = false;

@@ -26,6 +26,10 @@ inline EventCommands table()
     };
     EventCommands::Command plain = add(230, {60});
     table.add(plain);
+    EventCommands::Command switches = add(121, {1, 1, 0});
+    switches.isRange = true;
+    switches.rows = {{{{str("1"), str("{0}")}}, str("one")}, {{}, str("several")}};
+    table.add(switches);
     EventCommands::Command message = add(101, {QString(), 0, 0, 2});
     message.lines = 401;
     table.add(message);

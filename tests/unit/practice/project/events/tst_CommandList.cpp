@@ -27,6 +27,8 @@ private Q_SLOTS:
     void theSecondListComesAndGoes();
     void outcomesComeWithTheirParameters();
     void goodsAreOneList();
+    void oneIsTheFirstAndTheLast();
+    void severalReachFromTheFirstToTheLast();
     void parametersBetweenAreFilled();
     void membersThatNobodyKnowsStay();
     void copiesAreIndentedFromZero();
@@ -277,6 +279,30 @@ void tst_CommandList::goodsAreOneList()
     edited.change(0, form);
     QCOMPARE(codes(edited.entries()), str("302 0"));
     QCOMPARE(edited.form(0).value(str("entries")).toArray(), QJsonArray());
+}
+
+void tst_CommandList::oneIsTheFirstAndTheLast()
+{
+    const EventCommands commands = table();
+    CommandList list(&commands, {CommandBlock::entry(121, 0, {4, 4, 1}), CommandBlock::entry(0, 0)});
+    QJsonObject form = list.form(0);
+    QCOMPARE(form.value(str("single")), QJsonValue(true));
+    QCOMPARE(commands.find(121)->rowOf(form), str("one"));
+    form.insert(str("0"), 6);
+    list.change(0, form);
+    QCOMPARE(list.entries().at(0), QJsonValue(CommandBlock::entry(121, 0, {6, 6, 1})));
+}
+
+void tst_CommandList::severalReachFromTheFirstToTheLast()
+{
+    const EventCommands commands = table();
+    CommandList list(&commands, {CommandBlock::entry(121, 0, {2, 5, 1}), CommandBlock::entry(0, 0)});
+    QJsonObject form = list.form(0);
+    QCOMPARE(form.value(str("single")), QJsonValue(false));
+    QCOMPARE(commands.find(121)->rowOf(form), str("several"));
+    form.insert(str("0"), 3);
+    list.change(0, form);
+    QCOMPARE(list.entries().at(0), QJsonValue(CommandBlock::entry(121, 0, {3, 5, 1})));
 }
 
 void tst_CommandList::parametersBetweenAreFilled()
