@@ -9,7 +9,8 @@ QVector<ControlDescription> FormDescription::read(JsonReader &file, const QSize 
         ControlRequirement isEdited;
         isEdited.field = QStringLiteral("command/code");
         isEdited.values = {code};
-        control.shownWhen.append(isEdited);
+        // What asks whose turn it is ends here for all other forms.
+        control.shownWhen.prepend(isEdited);
     }
     return controls;
 }

@@ -41,9 +41,25 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
     });
     connect(project, &Project::changed, this, [this] {
         if (isVisible()) {
-            Q_EMIT refreshed();
+            refresh();
         }
     });
+}
+
+void EditorWindow::refresh()
+{
+    Q_EMIT arranged();
+    Q_EMIT refreshed();
+}
+
+void EditorWindow::setAway(QWidget *control, bool isAway)
+{
+    control->setVisible(!isAway);
+    if (isAway) {
+        m_away.insert(control);
+    } else {
+        m_away.remove(control);
+    }
 }
 
 void EditorWindow::takePixelFont(QWidget *widget)
@@ -260,7 +276,7 @@ void EditorWindow::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_isToBeSeen = m_isToBeSeen || (hasTimedAction() && !event->spontaneous());
-    Q_EMIT refreshed();
+    refresh();
 }
 
 void EditorWindow::hideEvent(QHideEvent *event)

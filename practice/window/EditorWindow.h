@@ -4,6 +4,7 @@
 #include "lesson/description/WindowDescription.h"
 #include "project/Project.h"
 
+#include <QSet>
 #include <QTimer>
 #include <QWidget>
 
@@ -69,6 +70,10 @@ public:
     /// What act() does once nothing is lost by it.
     void carryOut(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause);
 
+    /// Controls take turns: what is away is not seen and need not be kept fresh.
+    void setAway(QWidget *control, bool isAway);
+    [[nodiscard]] bool isAway(const QWidget *control) const { return m_away.contains(control); }
+
     /// The button that the return key presses.
     void setDefaultButton(QPushButton *button);
     /// Gives the focus to the first control that a person fills in or chooses from, all of its text selected.
@@ -81,6 +86,8 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
 
 Q_SIGNALS:
+    /// Controls that take turns are to come and go, ahead of what those that are there show.
+    void arranged();
     /// The controls are to show what there is now: the project changed, or the window comes up. A window that
     /// nobody sees waits until then.
     void refreshed();
@@ -105,6 +112,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void refresh();
+
     struct Placed
     {
         QWidget *widget;
@@ -117,6 +126,7 @@ private:
     /// As described.
     QSize m_size;
     QVector<QWidget *> m_controls;
+    QSet<const QWidget *> m_away;
     std::vector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;

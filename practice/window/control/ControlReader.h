@@ -84,11 +84,16 @@ private:
     std::function<bool(const EditorWindow *window)> m_isOfUse;
 };
 
-/// Runs @p refresh now and whenever the window is to show what there is, as long as @p widget lives.
+/// Runs @p refresh now and whenever the window is to show what there is, as long as @p widget lives. One that
+/// is away waits until it is there.
 template<typename Refresh>
 void keepFresh(QWidget *widget, EditorWindow *window, Refresh refresh)
 {
-    QObject::connect(window, &EditorWindow::refreshed, widget, refresh);
+    QObject::connect(window, &EditorWindow::refreshed, widget, [widget, window, refresh] {
+        if (!window->isAway(widget)) {
+            refresh();
+        }
+    });
     refresh();
 }
 

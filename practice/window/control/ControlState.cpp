@@ -12,10 +12,14 @@ ControlMaker withState(const ControlMaker &maker, const ControlReader &reader)
     return [maker, shown = reader.description().shownWhen, enabled = reader.description().enabledWhen,
             click = reader.description().click, isOfUse = reader.isOfUse()](EditorWindow *window) {
         QWidget *control = maker(window);
-        keepFresh(control, window, [control, window, shown, enabled, click, isOfUse] {
-            if (!shown.isEmpty()) {
-                control->setVisible(window->meets(shown));
-            }
+        if (!shown.isEmpty()) {
+            const auto takeTurns = [control, window, shown] {
+                window->setAway(control, !window->meets(shown));
+            };
+            QObject::connect(window, &EditorWindow::arranged, control, takeTurns);
+            takeTurns();
+        }
+        keepFresh(control, window, [control, window, enabled, click, isOfUse] {
             control->setEnabled(window->meets(enabled) && canRun(click, window) &&
                                 (!isOfUse || isOfUse(window)));
         });
