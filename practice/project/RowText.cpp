@@ -107,7 +107,7 @@ QString RowText::text(const Piece &piece, const QJsonValue &entry, int number, c
             return row.chosen() == value;
         };
         const auto found = std::find_if(rows.cbegin(), rows.cend(), isIt);
-        return found != rows.cend() ? found->text : written(value);
+        return found != rows.cend() && !found->text.isEmpty() ? found->text : written(value);
     }
     return written(value);
 }

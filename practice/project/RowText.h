@@ -10,7 +10,8 @@ class RowSources;
 
 /// The text of a row, written with members of its entry in braces:
 ///
-///     {name}                  the member, or what a JSON pointer without its first slash leads to; the name of
+///     {name}                  the member, or what a JSON pointer without its first slash leads to; the name
+///     of
 ///                             a text is the text itself
 ///     {itemId>data/Items}     the name of the entry with this number in a list
 ///     {kind:effectKinds}      the text that a set of choices has for this value
@@ -28,7 +29,8 @@ public:
     /// What is wrong with the text and how to mend it; empty when nothing is.
     [[nodiscard]] const QString &problem() const { return m_problem; }
 
-    /// Numbers that no entry has, and values that are no choice, are shown as they are.
+    /// Numbers that no entry has, or one without a name, and values that are no choice, are shown as they
+    /// are.
     [[nodiscard]] QString text(const QJsonValue &entry, int number, const DataLayer &layer) const;
 
 private:
