@@ -117,7 +117,10 @@ void tst_ControlStates::severalCommandsRunInTurn()
 
 void tst_ControlStates::entriesAreAddedInTheWindowThatOpens()
 {
-    const ControlAction action{{}, false, str("MapProperties"), {str("list.add data/MapInfos")}, {}, 7};
+    ControlAction action;
+    action.open = str("MapProperties");
+    action.begin = QStringList{str("list.add data/MapInfos")};
+    action.entry = 7;
     Editor editor;
     editor.openProject();
     EditorWindow *main = editor->window(str("MainWindow"));
