@@ -26,8 +26,8 @@ struct ControlAction
     /// What a command adds to a list; undefined where nothing is said of it.
     QJsonValue entry = QJsonValue::Undefined;
     /// What has to hold for it. Where it does not, what stands in @c otherwise happens instead, if anything.
-    QVector<ControlRequirement> when;
-    std::shared_ptr<const ControlAction> otherwise;
+    QVector<ControlRequirement> when{};
+    std::shared_ptr<const ControlAction> otherwise{};
 
     [[nodiscard]] bool isEmpty() const;
 };

@@ -66,6 +66,9 @@ void EditorWays::addAction(const ControlAction &action, const ControlSpot &by, c
     if (!action.popup.isEmpty()) {
         m_ways.append({by, how, from, Does::kPopsUp, action.popup, false});
     }
+    if (action.otherwise != nullptr) {
+        addAction(*action.otherwise, by, icon, from);
+    }
 }
 
 void EditorWays::addDismissals(const QString &key)

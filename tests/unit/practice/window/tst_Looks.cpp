@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStyleFactory>
+#include <QTabBar>
 
 #include <cmath>
 
@@ -205,8 +206,11 @@ void tst_Looks::controlsHaveAccessibleNames()
             }
             QAccessibleInterface *const access = QAccessible::queryAccessibleInterface(widget);
             QVERIFY(access != nullptr);
-            QVERIFY2(!access->text(QAccessible::Name).isEmpty(),
-                     qPrintable(key + QLatin1Char(' ') + control.name));
+            // Qt calls a row of tabs as the current one; the pages of an event are none before it is open.
+            const auto *tabs = qobject_cast<QTabBar *>(widget);
+            const QString name = tabs != nullptr && tabs->count() == 0 ? widget->accessibleName()
+                                                                       : access->text(QAccessible::Name);
+            QVERIFY2(!name.isEmpty(), qPrintable(key + QLatin1Char(' ') + control.name));
             ++checked;
         }
     }
