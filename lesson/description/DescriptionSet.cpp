@@ -116,9 +116,7 @@ void DescriptionSet::addForm(const QString &path, QStringList *errors)
         reader->addError(QStringLiteral("controls"), QStringLiteral("need the window \"%1.json\"").arg(key));
         return;
     }
-    for (const ControlDescription &control : FormDescription::read(*reader, window->size)) {
-        window->controls.append(control);
-    }
+    window->controls += FormDescription::read(*reader, window->size);
 }
 
 bool DescriptionSet::contains(const QString &key) const

@@ -7,8 +7,8 @@
 /// sets as its picture.
 namespace TileSets {
 
-/// Which of @p start.tileSets the entry @p number looks like. Where there is no such entry, or none with such a
-/// picture, that in the same place.
+/// Which of @p start.tileSets the entry @p number looks like. Where there is no such entry, or none with such
+/// a picture, that in the same place.
 [[nodiscard]] int lookOf(int number, const DataLayer &layer, const StartData &start);
 
 /// The entries with their names; the editor's own where the project has none.

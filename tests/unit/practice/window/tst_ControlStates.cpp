@@ -186,8 +186,8 @@ void tst_ControlStates::everyControlIsAStopOfTheTabulatorKey()
         const auto controls = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         for (const QWidget *control : controls) {
             const bool isStop = control->focusPolicy() & Qt::TabFocus;
-            const bool isUsed =
-                qobject_cast<const QLabel *>(control) == nullptr && !control->objectName().endsWith(str("preview"), Qt::CaseInsensitive);
+            const bool isUsed = qobject_cast<const QLabel *>(control) == nullptr &&
+                                !control->objectName().endsWith(str("preview"), Qt::CaseInsensitive);
             QVERIFY2(isStop == isUsed, qPrintable(str(key) + QLatin1Char(' ') + control->objectName()));
         }
     }
