@@ -44,9 +44,8 @@ LessonGuide::LessonGuide(HostEditor *editor, QObject *parent)
     m_help.setSingleShot(true);
     m_help.setInterval(kHelpAfterMs);
     connect(&m_help, &QTimer::timeout, this, &LessonGuide::offerHelp);
-    for (const auto signal : {&HostEditor::pushed, &HostEditor::popped}) {
-        connect(editor, signal, this, [this] { follow(); });
-    }
+    connect(editor, &HostEditor::pushed, this, &LessonGuide::follow);
+    connect(editor, &HostEditor::popped, this, &LessonGuide::follow);
     connect(editor, &HostEditor::popupAbandoned, this, &LessonGuide::follow);
     connect(editor, &HostEditor::viewChanged, this, &LessonGuide::follow);
 }

@@ -38,8 +38,9 @@ void RowSources::add(const QString &name, Rows rows)
 void RowSources::add(const QString &name, Rows rows, Current current, SetCurrent setCurrent)
 {
     add(
-        name, std::move(rows), [current](const DataLayer & /*layer*/) { return current(); },
-        [setCurrent](int row, DataLayer & /*layer*/) { setCurrent(row); });
+        name, std::move(rows),
+        [current = std::move(current)](const DataLayer & /*layer*/) { return current(); },
+        [setCurrent = std::move(setCurrent)](int row, DataLayer & /*layer*/) { setCurrent(row); });
 }
 
 void RowSources::add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent)
@@ -62,9 +63,9 @@ void RowSources::addTabs(const QString &name, int count)
     });
 }
 
-void RowSources::addFamily(const QString &name, RowsOf rows)
+void RowSources::addFamily(const QString &name, const RowsOf &rows)
 {
-    m_families.insert(name, std::move(rows));
+    m_families.insert(name, rows);
 }
 
 std::optional<QString> RowSources::argumentOf(const QString &name) const
@@ -74,9 +75,9 @@ std::optional<QString> RowSources::argumentOf(const QString &name) const
                                                               : std::nullopt;
 }
 
-void RowSources::addRoot(const QString &name, Root root)
+void RowSources::addRoot(const QString &name, const Root &root)
 {
-    m_roots.insert(name, std::move(root));
+    m_roots.insert(name, root);
     m_ways.clear();
 }
 
@@ -168,11 +169,11 @@ int RowSources::number(const QString &name, const DataLayer &layer) const
 
 DataPath RowSources::way(const QString &path) const
 {
-    auto known = m_ways.constFind(path);
-    if (known == m_ways.constEnd()) {
-        known = m_ways.insert(path, DataPath(path, names(), m_roots.keys()));
+    const auto known = m_ways.constFind(path);
+    if (known != m_ways.constEnd()) {
+        return *known;
     }
-    return *known;
+    return *m_ways.insert(path, DataPath(path, names(), m_roots.keys()));
 }
 
 std::optional<DataPlace> RowSources::place(const QString &path, const DataLayer &layer) const

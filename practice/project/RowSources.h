@@ -51,14 +51,14 @@ public:
     void add(const QString &name, Rows rows, CurrentIn current, SetCurrentIn setCurrent);
     /// Lists that have an argument behind a blank, such as the path of what they show: "commands data/...".
     /// Which row is the current one is kept in the layer, for each argument.
-    void addFamily(const QString &name, RowsOf rows);
+    void addFamily(const QString &name, const RowsOf &rows);
     /// A list that is @p count tabs, of which the layer keeps the current one. A name that is there stays
     /// what it is.
     void addTabs(const QString &name, int count);
 
     /// Lets paths begin with @p name: @p root gives the place that it stands for at present, nothing for
     /// none.
-    void addRoot(const QString &name, Root root);
+    void addRoot(const QString &name, const Root &root);
     /// Whether @p text is a path: it begins with "data/" or with a root, and no list has it as its name.
     [[nodiscard]] bool isPath(const QString &text) const;
 
