@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 constexpr auto kByteOrderMark = "\xEF\xBB\xBF";
@@ -27,7 +29,7 @@ QString fromJson(const QString &quoted)
 
 int lineAt(const QString &text, int position)
 {
-    return text.left(position).count(QLatin1Char('\n')) + 1;
+    return int(std::count(text.cbegin(), text.cbegin() + position, QLatin1Char('\n'))) + 1;
 }
 
 /// Puts the texts of @p catalogue in the place of their calls. No line is added or lost.
@@ -47,7 +49,7 @@ QString withTexts(const QString &scenario, const Catalogue &catalogue, const QSt
                                  .arg(lineAt(scenario, match.capturedStart()))
                                  .arg(where, source));
         }
-        text += scenario.mid(done, match.capturedStart() - done);
+        text.append(scenario.constData() + done, match.capturedStart() - done);
         text += asJson(catalogue.contains(source) ? catalogue.text(source) : source);
         done = match.capturedEnd();
     }
