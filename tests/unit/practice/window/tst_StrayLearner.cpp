@@ -1,7 +1,9 @@
 #include "EditorFixture.h"
 #include "host/LessonSession.h"
 
+#include <QDir>
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 namespace {
@@ -223,9 +225,20 @@ class tst_StrayLearner : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void theEditorDoesEveryStepByItself();
     void everyStepIsReachedAgain();
+
+private:
+    QTemporaryDir m_here;
 };
+
+void tst_StrayLearner::init()
+{
+    // The place of a new project is typed into as well, and what is typed there may count from here.
+    QVERIFY(m_here.isValid());
+    QVERIFY(QDir::setCurrent(m_here.path()));
+}
 
 void tst_StrayLearner::theEditorDoesEveryStepByItself()
 {
