@@ -120,8 +120,8 @@ QString ScenarioFile::read(QStringList *problems) const
                              .arg(m_path, known.at(0), known.at(1)));
     }
     const Catalogue catalogue = used.isEmpty() ? Catalogue() : Catalogue::read(used, name(), problems);
-    const QString text = withTexts(QString::fromUtf8(bytes), catalogue, m_path,
-                                   used.isEmpty() ? QStringLiteral("no catalogue") : used, problems);
+    QString text = withTexts(QString::fromUtf8(bytes), catalogue, m_path,
+                             used.isEmpty() ? QStringLiteral("no catalogue") : used, problems);
     const QString problem = listProblem(text, m_path);
     if (!problem.isEmpty()) {
         problems->append(problem);

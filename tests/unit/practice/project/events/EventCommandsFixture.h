@@ -16,7 +16,7 @@ inline QString str(const char *text)
 inline EventCommands table()
 {
     EventCommands table;
-    const auto add = [&table](int code, const QJsonArray &parameters) {
+    const auto plainOf = [](int code, const QJsonArray &parameters) {
         EventCommands::Command command;
         command.code = code;
         command.name = str("command %1").arg(code);
@@ -24,30 +24,30 @@ inline EventCommands table()
         command.parameters = parameters;
         return command;
     };
-    EventCommands::Command plain = add(230, {60});
+    EventCommands::Command plain = plainOf(230, {60});
     table.add(plain);
-    EventCommands::Command switches = add(121, {1, 1, 0});
+    EventCommands::Command switches = plainOf(121, {1, 1, 0});
     switches.isRange = true;
     switches.rows = {{{{str("1"), str("{0}")}}, str("one")}, {{}, str("several")}};
     table.add(switches);
-    EventCommands::Command message = add(101, {QString(), 0, 0, 2});
+    EventCommands::Command message = plainOf(101, {QString(), 0, 0, 2});
     message.lines = 401;
     table.add(message);
-    EventCommands::Command shop = add(302, {0, 1, 0, 0, false});
+    EventCommands::Command shop = plainOf(302, {0, 1, 0, 0, false});
     shop.entries = 605;
     table.add(shop);
-    EventCommands::Command choices = add(102, {QJsonArray{str("Yes"), str("No")}, 1, 0, 2, 0});
+    EventCommands::Command choices = plainOf(102, {QJsonArray{str("Yes"), str("No")}, 1, 0, 2, 0});
     choices.branches.areChoices = true;
     choices.branches.end = 404;
     table.add(choices);
-    EventCommands::Command branch = add(111, {0, 1, 0});
+    EventCommands::Command branch = plainOf(111, {0, 1, 0});
     branch.branches.otherwise = 411;
     branch.branches.end = 412;
     table.add(branch);
-    EventCommands::Command loop = add(112, {});
+    EventCommands::Command loop = plainOf(112, {});
     loop.branches.end = 413;
     table.add(loop);
-    EventCommands::Command battle = add(301, {0, 1, false, false});
+    EventCommands::Command battle = plainOf(301, {0, 1, false, false});
     battle.branches.outcomes = {{601, EventCommands::kAny}, {602, 2}, {603, 3}};
     battle.branches.end = 604;
     table.add(battle);
