@@ -77,6 +77,7 @@ int CommandList::behind(int place) const
 {
     const EventCommands::Command *command = commandAt(place);
     const QVector<int> markers = command != nullptr ? command->markers() : QVector<int>();
+    const int end = command != nullptr ? command->branches.end : EventCommands::kEnd;
     int at = behindFollowUps(place);
     // What is indented further belongs to it, even to a command that nobody knows.
     while (at < m_entries.size() && codeAt(place) != EventCommands::kEnd) {
@@ -85,7 +86,7 @@ int CommandList::behind(int place) const
             break;
         }
         ++at;
-        if (isMarker && codeAt(at - 1) == command->branches.end) {
+        if (isMarker && codeAt(at - 1) == end) {
             break;
         }
     }
