@@ -62,7 +62,7 @@ QString RowText::problemOf(const Piece &piece) const
     if (piece.set.isEmpty()) {
         return {};
     }
-    const QString problem = m_choices->problemOf(piece.set);
+    QString problem = m_choices->problemOf(piece.set);
     if (!problem.isEmpty() || m_kind == Kind::kRowOfChoice) {
         return problem;
     }
