@@ -310,7 +310,8 @@ void tst_PracticeWindows::aPopupIsAbandonedToTheCompanion()
     m_windows->project()->run(QStringLiteral("newProject.create"), m_windows->project()->files());
     QSignalSpy abandoned(m_windows, &EditorWindows::popupAbandoned);
     QSignalSpy popped(m_windows, &EditorWindows::popped);
-    auto *maps = find<QListWidget>("maps");
+    const auto *const maps =
+        find<QWidget>("MapEditTreeBox")->findChild<QListWidget *>(QStringLiteral("maps"));
     QVERIFY(clickOn(maps->viewport(), maps->visualItemRect(maps->item(1)).center(), 3));
     QTRY_COMPARE_WITH_TIMEOUT(m_windows->openWindows().constLast(), QStringLiteral("Popup"), kSoonMs);
     const QRect next = overlays().buttons.constFirst().rect;
