@@ -67,7 +67,8 @@ void tst_MainFrame::fitsTheScreen()
     QTRY_VERIFY(main->height() + 96 < frame->height());
     const QRect whole(frame->mapToGlobal(QPoint()), frame->size());
     // Room for the frame that a window manager adds.
-    QVERIFY2(screen.adjusted(4, 28, -4, -4).contains(whole), QTest::toString(whole));
+    QVERIFY2(screen.adjusted(4, 28, -4, -4).contains(whole),
+             qPrintable(str("%1 x %2").arg(whole.width()).arg(whole.height())));
     if (contents.isValid()) {
         QCOMPARE(main->size(), contents);
         QCOMPARE(main->mapToGlobal(QPoint()).x(), place.x());
