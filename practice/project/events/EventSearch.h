@@ -10,6 +10,7 @@ namespace EventSearch {
 
 enum class By { kName, kSwitch, kVariable };
 
+/// What is looked for.
 struct Wanted
 {
     By by = By::kName;
@@ -19,10 +20,13 @@ struct Wanted
     int number = 0;
 };
 
+/// An event that was found.
 struct Found
 {
+    /// Numbers of the map and of the event on it.
     int map = 0;
     int event = 0;
+    /// Where it stands: column and row, from 0.
     QPoint cell;
     QString name;
 };
