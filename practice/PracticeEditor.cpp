@@ -50,8 +50,12 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
 
 PracticeEditor::~PracticeEditor()
 {
-    // What the windows do while they go away is nobody's business any more.
+    // What the windows do while they go away is nobody's business any more: a dialog that is open unblocks
+    // the main window when the link is gone already.
     m_windows->disconnect();
+    if (m_mainWindow != nullptr) {
+        m_mainWindow->removeEventFilter(this);
+    }
     m_link.stop();
 }
 
@@ -61,7 +65,8 @@ bool PracticeEditor::start(QString *error)
         *error = QStringLiteral("The main window has no description.");
         return false;
     }
-    m_strip->window()->windowHandle()->installEventFilter(this);
+    m_mainWindow = m_strip->window()->windowHandle();
+    m_mainWindow->installEventFilter(this);
     return startLink(error);
 }
 

@@ -6,11 +6,13 @@
 #include "strip/LessonCourse.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 class EditorWindows;
 class LessonStrip;
+class QWindow;
 class StripControl;
 
 /// The practice editor as a whole: joins the windows, the link and the lesson.
@@ -86,6 +88,7 @@ private:
     StripControl *m_control;
     LessonProject m_lessonProject;
     HostLink m_link;
+    QPointer<QWindow> m_mainWindow; ///< watched; null before start()
     /// What the person wanted from the start has been seen to.
     bool m_isBegun = false;
 };
