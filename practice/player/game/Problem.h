@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+namespace player {
+
+/// Something that could not be done, and the place in the project that asks for it.
+struct Problem
+{
+    /// Name of the data file, such as "data/Map001.json"; empty for what concerns no file.
+    QString file;
+    /// Number of the map, 0 for none.
+    int map = 0;
+    /// Number of the event on the map, of the common event or of the troop, 0 for none.
+    int event = 0;
+    /// Page of the event or troop, from 1, 0 for none.
+    int page = 0;
+    /// Row of the command in its list, from 1, 0 for none.
+    int line = 0;
+    QString text;
+
+    /// Place and text in one line.
+    [[nodiscard]] QString toString() const;
+
+    friend bool operator==(const Problem &left, const Problem &right)
+    {
+        return left.file == right.file && left.map == right.map && left.event == right.event &&
+               left.page == right.page && left.line == right.line && left.text == right.text;
+    }
+};
+
+} // namespace player
