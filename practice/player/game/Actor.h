@@ -9,6 +9,8 @@ namespace player {
 
 struct GameData;
 
+enum class Goods { kItem = 0, kWeapon = 1, kArmor = 2 };
+
 /// Somebody of the party, as he or she is now.
 struct Actor
 {
@@ -56,6 +58,8 @@ struct Actor
     void addState(int state, const GameData &data, int turns = 0);
     void removeState(int state, const GameData &data);
     void recoverAll(const GameData &data);
+    /// What is there of HP and MP stays within what there can be, after a change of what is worn.
+    void fitPoints(const GameData &data);
     void learn(int skill);
     void forget(int skill) { skills.removeAll(skill); }
     /// With the levels that it makes and takes; skills of new levels are learned. What traits add is in
@@ -74,7 +78,6 @@ struct Actor
 
 private:
     void learnUpTo(int level, const GameData &data);
-    void fitPoints(const GameData &data);
 };
 
 } // namespace player

@@ -46,11 +46,15 @@ struct Character
     bool hasRoute = false;
     /// Ticks until the next step of a route or of its own movement.
     int pause = 0;
+    /// Ticks that something has been in the way of the route.
+    int blockedTicks = 0;
 
     int balloon = 0;
     int balloonTicks = 0;
     int animation = 0;
+    /// Ticks that are left of it, and those that have passed.
     int animationTicks = 0;
+    int animationPassed = 0;
 
     [[nodiscard]] bool isMoving() const { return ticksLeft > 0; }
 };

@@ -123,7 +123,7 @@ struct EnemyEntry : Entry
 {
     QString image;
     int hp = 1;
-    int mp = 0;
+    int mp = 100;
     int attack = 0;
     int defense = 0;
     int exp = 0;
@@ -138,6 +138,8 @@ struct TroopMember
     int enemy = 0;
     /// Where its feet are, in game pixels.
     QPoint at;
+    /// Is not there until it appears.
+    bool isHidden = false;
 };
 
 /// Conditions of a battle event; those that are -1 or 0 do not count. With none, the page never begins.

@@ -7,8 +7,6 @@
 #include <QJsonValue>
 #include <QMap>
 
-#include <memory>
-
 namespace player {
 
 /// Entries by their numbers.
@@ -60,10 +58,6 @@ struct GameData
     QString fingerprint;
     /// What is missing, or wrong as a whole.
     QVector<Problem> problems;
-
-    /// @p tiles are the names of the drawings of the tiles, the first one being tile 1: they decide where one
-    /// can walk.
-    [[nodiscard]] static std::shared_ptr<const GameData> read(const Files &files, const QStringList &tiles);
 };
 
 } // namespace player

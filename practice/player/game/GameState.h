@@ -16,8 +16,6 @@ namespace player {
 
 struct GameData;
 
-enum class Goods { kItem = 0, kWeapon = 1, kArmor = 2 };
-
 /// What a game is at a moment: a value. Where the events of the map are is not part of it: they stand anew
 /// when a map is entered, also by loading a game.
 struct GameState
@@ -49,6 +47,9 @@ struct GameState
     int map = 0;
     Character hero;
 
+    /// A common event that an item or skill calls, to begin as soon as the map has the screen; 0 for none.
+    int waitingCommonEvent = 0;
+
     int timerTicks = 0;
     bool isTimerOn = false;
     qint64 ticks = 0;
@@ -68,6 +69,9 @@ struct GameState
     void addGold(qint64 amount);
     [[nodiscard]] int count(Goods kind, int id) const;
     void addGoods(Goods kind, int id, int number);
+    /// Puts a weapon or armor from the bag on somebody, and what was worn into it; 0 for none. False when the
+    /// bag has none.
+    bool equip(Actor *actor, Goods kind, int entry, const GameData &data);
 
     /// The actor as it is, made from the database when it is the first time; nullptr when there is none
     /// there.

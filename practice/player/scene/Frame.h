@@ -187,7 +187,7 @@ struct Frame
     /// Begun in this tick.
     QVector<Sound> sounds;
 
-    /// The last panel with rows; nullptr for none.
+    /// The last panel with rows of which one is the current one; nullptr for none.
     [[nodiscard]] const Panel *list() const;
     /// The last panel of this role; nullptr for none.
     [[nodiscard]] const Panel *panel(const char *role) const;

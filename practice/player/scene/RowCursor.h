@@ -16,6 +16,8 @@ public:
     /// Keeps the current row as far as it is there.
     void setRows(int rows, int columns = 1);
     void setCurrent(int row);
+    /// No row is the current one until a key moves.
+    void setNone() { m_current = -1; }
     /// -1 while there is none.
     [[nodiscard]] int current() const { return m_current; }
     [[nodiscard]] int rows() const { return m_rows; }

@@ -3,6 +3,7 @@
 #include "player/game/Input.h"
 #include "player/scene/Frame.h"
 #include "player/scene/RowCursor.h"
+#include "player/scene/TalkText.h"
 #include "player/script/Talk.h"
 
 #include <QVector>
@@ -33,32 +34,40 @@ public:
 private:
     enum class Kind { kNothing, kMessage, kChoices, kNumber, kItems, kScroll };
 
+    void readPage(const Game &game);
     void tickMessage(const Input &input, Game *game);
-    void tickChoices(const Input &input);
+    /// Shows further letters, up to a pause or a key; all of them with @p all.
+    void typeLetters(bool all);
+    void endPage(Game *game);
+    void tickChoices(const Input &input, Game *game);
     void tickNumber(const Input &input);
-    void tickItems(const Input &input);
+    void tickItems(const Input &input, Game *game);
     void tickScroll(const Input &input);
     void end(int answer);
-    void showMessage(const Game &game, Frame *frame) const;
-    void showChoices(const Game &game, Frame *frame) const;
-    void showNumber(Frame *frame) const;
-    void showItems(const Game &game, Frame *frame) const;
-    void showScroll(const Game &game, Frame *frame) const;
 
     Kind m_kind = Kind::kNothing;
+
     Message m_message;
-    /// The message is shown while its answer is asked for.
+    /// The message is on the screen, also while its answer is asked for.
     bool m_hasMessage = false;
-    int m_letters = 0;
+    /// The first line of the page that is shown; -1 before it is read.
+    int m_page = -1;
+    QVector<QVector<TalkText::Token>> m_lines;
+    /// Tokens of the page that are done with.
+    int m_done = 0;
     int m_pause = 0;
+    bool m_isInstant = false;
+    bool m_waitsForKey = false;
+    bool m_endsByItself = false;
+
     Choices m_choices;
-    NumberInput m_number;
+    int m_digits = 1;
+    int m_number = 0;
     ItemInput m_itemInput;
     QVector<int> m_items;
     ScrollingText m_scroll;
     double m_scrolled = 0;
     RowCursor m_cursor;
-    QVector<int> m_digits;
     int m_answer = 0;
 };
 

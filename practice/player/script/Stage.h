@@ -66,16 +66,15 @@ public:
 
     /// The hero for Character::kHero, or an event of the map that is shown; nullptr when there is none.
     virtual Character *character(int id);
-    virtual void transfer(const Transfer &transfer);
+    /// False when nobody can go anywhere here.
+    virtual bool transfer(const Transfer &transfer);
     [[nodiscard]] virtual bool isTransferring() const;
-    /// @p speed is 1 to 6.
-    virtual void scrollMap(int direction, int cells, int speed);
+    /// @p speed is 1 to 6. False where there is no map.
+    virtual bool scrollMap(int direction, int cells, int speed);
     [[nodiscard]] virtual bool isScrolling() const;
     virtual void erase(int event);
     /// Troops of the map's random encounters: one of them by weight, 0 for none.
     virtual int randomTroop();
-    /// Pictures that an animation of the database has, each four ticks long.
-    void animate(Character *character, int animation, int frames);
 
     // Another scene; false when there is none here.
     virtual bool openMenu();

@@ -15,6 +15,8 @@ struct Message
     QString speaker;
     /// With their control characters.
     QStringList lines;
+    /// Choices or an input follow at once: the message stays beside them and waits for no key.
+    bool asksNext = false;
 };
 
 struct Choices

@@ -1,0 +1,28 @@
+#include "player/game/Problem.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace player {
+
+QString Problem::toString() const
+{
+    QStringList place;
+    if (!file.isEmpty()) {
+        place.append(file);
+    }
+    const auto add = [&place](const QString &text, int number) {
+        if (number > 0) {
+            place.append(text.arg(number));
+        }
+    };
+    add(QCoreApplication::translate("TestPlay", "event %1"), event);
+    add(QCoreApplication::translate("TestPlay", "page %1"), page);
+    add(QCoreApplication::translate("TestPlay", "line %1"), line);
+    return place.isEmpty() ? text
+                           : QCoreApplication::translate("TestPlay", "%1: %2",
+                                                         "a place in the project, and what is wrong")
+                                 .arg(place.join(QStringLiteral(", ")), text);
+}
+
+} // namespace player

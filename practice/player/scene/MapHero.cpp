@@ -1,0 +1,125 @@
+#include "player/scene/MapHero.h"
+
+#include "player/game/Ways.h"
+#include "player/script/Walker.h"
+
+namespace player {
+
+namespace {
+
+int heldDirection(const Input &input)
+{
+    constexpr std::pair<GameKey, int> kKeys[] = {
+        {GameKey::kDown, kDown}, {GameKey::kLeft, kLeft}, {GameKey::kRight, kRight}, {GameKey::kUp, kUp}};
+    for (const auto &[key, direction] : kKeys) {
+        if (input.isHeld(key) || input.isPressed(key)) {
+            return direction;
+        }
+    }
+    return kNowhere;
+}
+
+bool isTouch(const World::Event &event)
+{
+    return event.page != nullptr &&
+           (event.page->trigger == Trigger::kTouched || event.page->trigger == Trigger::kMeetsPlayer);
+}
+
+} // namespace
+
+MapHero::MapHero(World *world)
+    : m_world(world)
+{
+}
+
+World::Event *MapHero::tick(const Input &input)
+{
+    if (input.cell) {
+        m_goal = input.cell;
+    }
+    if (input.isPressed(GameKey::kAct)) {
+        m_goal.reset();
+        return ask();
+    }
+    if (const int direction = heldDirection(input); direction != kNowhere) {
+        m_goal.reset();
+        return walk(direction);
+    }
+    return m_goal ? followWay() : nullptr;
+}
+
+World::Event *MapHero::walk(int direction)
+{
+    Character *const hero = &m_world->state().hero;
+    if (Walker::step(hero, direction, m_world)) {
+        return nullptr;
+    }
+    // What is in the way is touched.
+    return touchedAt(hero->cell + stepTo(direction));
+}
+
+World::Event *MapHero::touchedAt(const QPoint &cell) const
+{
+    for (World::Event &event : m_world->events()) {
+        if (event.character.cell == cell && isTouch(event)) {
+            return &event;
+        }
+    }
+    return nullptr;
+}
+
+World::Event *MapHero::arrive()
+{
+    return touchedAt(m_world->state().hero.cell);
+}
+
+World::Event *MapHero::ask()
+{
+    const Character &hero = m_world->state().hero;
+    World::Event *under = nullptr;
+    for (World::Event &event : m_world->events()) {
+        if (event.page == nullptr || event.page->trigger == Trigger::kByItself ||
+            event.page->trigger == Trigger::kParallel) {
+            continue;
+        }
+        const bool isBefore = event.character.cell == hero.cell + stepTo(hero.direction);
+        // A thing without a picture can be stood on; a touch begins where it is in the way.
+        if (isBefore && (event.page->trigger == Trigger::kAsked || World::isObstacle(event))) {
+            return &event;
+        }
+        if (event.character.cell == hero.cell && event.page->trigger == Trigger::kAsked) {
+            under = &event;
+        }
+    }
+    return under;
+}
+
+World::Event *MapHero::followWay()
+{
+    Character *const hero = &m_world->state().hero;
+    const MapData *const map = m_world->map();
+    const QPoint goal = *m_goal;
+    if (map == nullptr || goal == hero->cell) {
+        m_goal.reset();
+        return map == nullptr ? nullptr : ask();
+    }
+    const QVector<QPoint> way = Ways::find(map->size, hero->cell, goal, [this, hero](const QPoint &cell) {
+        // Not through what begins by a touch, unless one is sent there.
+        return m_world->canEnter(*hero, cell) && touchedAt(cell) == nullptr;
+    });
+    if (way.isEmpty()) {
+        m_goal.reset();
+        return nullptr;
+    }
+    const int direction = directionOf(way.constFirst() - hero->cell);
+    if (way.size() == 1 && !m_world->canEnter(*hero, goal)) {
+        // What stands there is asked, or touched.
+        m_goal.reset();
+        Walker::step(hero, direction, m_world);
+        World::Event *const touched = touchedAt(goal);
+        return touched != nullptr ? touched : ask();
+    }
+    return walk(direction);
+}
+
+} // namespace player

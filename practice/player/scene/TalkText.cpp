@@ -1,0 +1,148 @@
+#include "player/scene/TalkText.h"
+
+#include "player/scene/Game.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace player {
+
+namespace {
+
+using Token = TalkText::Token;
+using Kind = TalkText::Token::Kind;
+
+constexpr int kShortPause = 15;
+constexpr int kLongPause = 60;
+
+QString currencyOf(const GameData &data)
+{
+    return data.system.currency.isEmpty() ? QCoreApplication::translate("TestPlay", "G", "the currency")
+                                          : data.system.currency;
+}
+
+QString actorName(const Game &game, int id)
+{
+    const Actor *const known = game.state().knownActor(id);
+    return known != nullptr ? known->name : game.data().actors.name(id);
+}
+
+/// The control characters that stand for a text.
+QString replaced(const QString &line, const Game &game)
+{
+    static const QRegularExpression word(QStringLiteral("\\\\(?:([vnpVNP])\\[(\\d{1,9})\\]|([gG])|\\\\)"));
+    QString text;
+    int end = 0;
+    QRegularExpressionMatchIterator matches = word.globalMatch(line);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        text += line.mid(end, int(match.capturedStart()) - end);
+        end = int(match.capturedEnd());
+        const QString kind = match.captured(1).toLower();
+        const int number = match.captured(2).toInt();
+        if (kind == QLatin1String("v")) {
+            text += QString::number(game.state().variable(number));
+        } else if (kind == QLatin1String("n")) {
+            text += actorName(game, number);
+        } else if (kind == QLatin1String("p")) {
+            text += actorName(game, game.state().party.value(number - 1));
+        } else if (!match.captured(3).isEmpty()) {
+            text += currencyOf(game.data());
+        } else {
+            text += match.captured();
+        }
+    }
+    return text + line.mid(end);
+}
+
+/// What a control character without a number does; a letter for the others.
+Token tokenOf(QChar sign)
+{
+    switch (sign.unicode()) {
+    case '.':
+        return {Kind::kPause, {}, 0, kShortPause};
+    case '|':
+        return {Kind::kPause, {}, 0, kLongPause};
+    case '!':
+        return {Kind::kKey, {}, 0, 0};
+    case '>':
+        return {Kind::kInstantly, {}, 0, 0};
+    case '<':
+        return {Kind::kSlowly, {}, 0, 0};
+    case '^':
+        return {Kind::kNoKey, {}, 0, 0};
+    default:
+        return {Kind::kLetter, {}, 0, 0};
+    }
+}
+
+} // namespace
+
+QVector<TalkText::Token> TalkText::read(const QString &line, const Game &game)
+{
+    static const QRegularExpression colourWord(QStringLiteral("\\\\[cC]\\[(\\d{1,3})\\]"));
+    const QString text = replaced(line, game);
+    QVector<Token> tokens;
+    int colour = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar sign = text.at(i);
+        if (sign == QLatin1Char('\\') && i + 1 < text.size()) {
+            const QRegularExpressionMatch match = colourWord.match(text, i, QRegularExpression::NormalMatch,
+                                                                   QRegularExpression::AnchoredMatchOption);
+            if (match.hasMatch()) {
+                colour = match.captured(1).toInt();
+                i += int(match.capturedLength()) - 1;
+                continue;
+            }
+            const Token token = tokenOf(text.at(i + 1));
+            if (token.kind != Kind::kLetter || text.at(i + 1) == QLatin1Char('\\')) {
+                ++i;
+                tokens.append(token.kind != Kind::kLetter
+                                  ? token
+                                  : Token{Kind::kLetter, QStringLiteral("\\"), colour, 0});
+                continue;
+            }
+        }
+        if (sign.isLowSurrogate() && !tokens.isEmpty()) {
+            tokens.last().letter += sign;
+        } else {
+            tokens.append({Kind::kLetter, QString(sign), colour, 0});
+        }
+    }
+    return tokens;
+}
+
+PanelLine TalkText::shown(const QVector<Token> &tokens, int count)
+{
+    PanelLine line;
+    for (int i = 0; i < qMin(count, int(tokens.size())); ++i) {
+        const Token &token = tokens.at(i);
+        if (token.kind != Kind::kLetter) {
+            continue;
+        }
+        if (line.runs.isEmpty() || line.runs.constLast().colour != token.colour) {
+            line.runs.append({QString(), token.colour});
+        }
+        line.runs.last().text += token.letter;
+    }
+    return line;
+}
+
+PanelLine TalkText::shown(const QString &line, const Game &game)
+{
+    const QVector<Token> tokens = read(line, game);
+    return shown(tokens, int(tokens.size()));
+}
+
+int TalkText::width(const QString &text)
+{
+    constexpr int kNarrow = 9;
+    constexpr char16_t kFirstWide = 0x2E80;
+    int width = 0;
+    for (const QChar letter : text) {
+        width += letter.unicode() >= kFirstWide ? 2 * kNarrow : kNarrow;
+    }
+    return width;
+}
+
+} // namespace player

@@ -1,0 +1,7 @@
+#include "player/script/Battlefield.h"
+
+namespace player {
+
+Battlefield::~Battlefield() = default;
+
+} // namespace player
