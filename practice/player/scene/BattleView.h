@@ -1,0 +1,36 @@
+#pragma once
+
+#include "player/battle/Fighter.h"
+#include "player/scene/Frame.h"
+
+#include <QStringList>
+
+namespace player {
+
+class Battle;
+struct GameData;
+
+/// What is seen of a battle, apart from what is asked.
+struct BattleView
+{
+    /// Who is asked, and whom the cursor is on.
+    Fighter asked;
+    Fighter aimedAt;
+    /// What was said last, of which the last lines are seen.
+    QStringList log;
+    /// What has just happened to somebody, and how many ticks ago.
+    Note latest;
+    bool hasLatest = false;
+    int ticks = 0;
+    /// Number of an animation that is shown over whom the latest note is about; 0 for none.
+    int animation = 0;
+
+    void show(const Battle &battle, const GameData &data, Frame *frame) const;
+
+private:
+    void showEnemies(const Battle &battle, const GameData &data, Frame *frame) const;
+    void showParty(const Battle &battle, const GameData &data, Frame *frame) const;
+    void showLog(Frame *frame) const;
+};
+
+} // namespace player

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "player/scene/Scene.h"
+
+#include <QCoreApplication>
+
+namespace player {
+
+/// The game is lost; a key leads to the title.
+class GameOverScene : public Scene
+{
+    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+
+public:
+    GameOverScene();
+
+    void tick(const Input &input, Game *game) override;
+    void show(const Game &game, Frame *frame) const override;
+
+private:
+    int m_ticks = 0;
+};
+
+} // namespace player
