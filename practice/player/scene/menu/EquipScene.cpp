@@ -94,20 +94,7 @@ void EquipScene::putOn(Game *game)
 {
     GameState &state = game->state();
     Actor *its = state.actor(state.fighters().value(m_place), game->data());
-    const Goods kind = isWeapon() ? Goods::kWeapon : Goods::kArmor;
-    int &place = isWeapon() ? its->weapon : its->armor;
-    const int wanted = m_choices.current()->value;
-    if (wanted > 0) {
-        state.addGoods(kind, wanted, -1);
-    }
-    if (place > 0) {
-        state.addGoods(kind, place, 1);
-    }
-    place = wanted;
-    if (!its->isKnockedOut()) {
-        its->changeHp(0, game->data());
-    }
-    its->changeMp(0, game->data());
+    state.equip(its, isWeapon() ? Goods::kWeapon : Goods::kArmor, m_choices.current()->value, game->data());
     m_isChoosing = false;
     listWorn(*game);
 }
