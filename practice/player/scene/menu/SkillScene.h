@@ -5,6 +5,8 @@
 
 namespace player {
 
+struct Actor;
+
 /// The skills of one of the party.
 class SkillScene : public Scene
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "player/game/Database.h"
 #include "player/scene/ListPanel.h"
 
 #include <QCoreApplication>
