@@ -220,6 +220,9 @@ QStringList DescriptionSet::actionStates(const QString &name) const
         for (const ControlDescription &control : window.controls) {
             if (control.actionName == name) {
                 states.append(control.actionState);
+                if (control.actionEnds) {
+                    states.append(QStringLiteral("close"));
+                }
             }
         }
     }

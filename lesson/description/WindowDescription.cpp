@@ -53,6 +53,7 @@ void readAction(JsonReader &reader, ControlDescription &control)
         control.actionState != str("close")) {
         reader.addError(str("actionState"), str("must be \"open\", \"close\" or empty"));
     }
+    control.actionEnds = reader.flag(str("actionEnds"));
 }
 
 /// A size of a list; 0 when there is none.

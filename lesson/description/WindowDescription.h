@@ -57,6 +57,8 @@ struct ControlDescription
     /// Words of the action event; no event when the name is empty.
     QString actionName;
     QString actionState;
+    /// What the action opens is no window of the editor's: when it is over, the action's state is "close".
+    bool actionEnds = false;
     /// Of a list; 0 for other controls.
     int rowHeight = 0;
     /// Of a row of tabs: that of each tab, or one for all of them. Empty for other controls.

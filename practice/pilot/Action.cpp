@@ -32,6 +32,8 @@ QString Action::inWords() const
         return QStringLiteral("typing \"%1\"").arg(text);
     case Kind::kEnter:
         return QStringLiteral("Enter");
+    case Kind::kEscape:
+        return QStringLiteral("Esc");
     }
     return {};
 }

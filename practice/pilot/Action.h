@@ -21,6 +21,8 @@ struct Action
         kSelectAll,
         kType,
         kEnter,
+        /// In the window that has the keyboard, wherever the step points.
+        kEscape,
     };
 
     Kind kind = Kind::kClick;
@@ -31,10 +33,11 @@ struct Action
     /// What kType types.
     QString text;
 
-    /// Whether the window that the step is done in has to have the focus.
+    /// Whether it is done with the keyboard, and the window with the focus gets it.
     [[nodiscard]] bool isOfKeyboard() const
     {
-        return kind == Kind::kSelectAll || kind == Kind::kType || kind == Kind::kEnter;
+        return kind == Kind::kSelectAll || kind == Kind::kType || kind == Kind::kEnter ||
+               kind == Kind::kEscape;
     }
 
     /// As a message says it, such as "a click at (10, 20)".

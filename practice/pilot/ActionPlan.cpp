@@ -96,6 +96,13 @@ Action pressOf(const SeenOverlays::Window &button)
     return {Kind::kPressButton, {button.rect.width() / 3, button.rect.height() / 2}, button.id, {}};
 }
 
+/// Whether the step waits for the end of a game that is tried out, whose window is none of the lesson's.
+bool endsTheGame(const Step &step)
+{
+    return step.condition.type() == Type::kAction && step.condition.target() == QLatin1String("play") &&
+           step.condition.value() == QLatin1String("close");
+}
+
 int waitOf(const Step &step)
 {
     if (step.condition.type() == Type::kWait) {
@@ -113,6 +120,10 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
     }
     ActionPlan plan;
     plan.waitMs = waitOf(step);
+    if (endsTheGame(step)) {
+        plan.actions = {key(Kind::kEscape)};
+        return plan;
+    }
     if (step.hasPosition()) {
         plan.spot = arrowSpot(sight.overlays.bubble->topLeft(), *sight.place);
     }

@@ -254,7 +254,7 @@ void Pilot::act()
         return;
     }
     const Action action = m_plan.actions.at(m_next);
-    if (action.isOfKeyboard() && !m_eye->takesKeysAt(*m_plan.spot)) {
+    if (action.isOfKeyboard() && m_plan.spot && !m_eye->takesKeysAt(*m_plan.spot)) {
         return;
     }
     if (const std::optional<QPoint> place = mousePlace(action)) {

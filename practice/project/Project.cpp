@@ -19,6 +19,7 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     , m_newProject(m_start.texts.value(QStringLiteral("projectName")), location)
     , m_lists(&m_sources)
     , m_chooser(&m_sources)
+    , m_play(&m_start, &m_files, &m_sources)
     , m_events({&m_start, &m_files, &m_sources, &m_board, &m_tools})
 {
     m_tools.addTo(m_commands, m_sources);
@@ -26,6 +27,7 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     m_newProject.addTo(m_commands, m_fields, m_sources, [this] { Q_EMIT changed(); });
     m_lists.addTo(m_commands, m_fields, m_sources);
     m_chooser.addTo(m_commands, m_fields, m_sources);
+    m_play.addTo(m_commands);
     m_events.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
     m_tools.addTo(m_states);
@@ -143,6 +145,12 @@ void Project::save()
     if (!m_files.save(&error)) {
         Q_EMIT failed(error);
     }
+}
+
+void Project::setPlayer(const PlayWords::Play &play)
+{
+    m_play.setPlayer(play);
+    Q_EMIT changed();
 }
 
 void Project::setProjectsFolder(const QString &folder)

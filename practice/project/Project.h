@@ -10,6 +10,7 @@
 #include "project/MapBoard.h"
 #include "project/Maps.h"
 #include "project/NewProject.h"
+#include "project/PlayWords.h"
 #include "project/StartData.h"
 #include "project/StateParts.h"
 #include "project/events/Events.h"
@@ -59,6 +60,9 @@ public:
     /// value of @p field, and another one that is chosen gives the field its first choice.
     void addTabs(const QString &name, const QString &field, const QStringList &sets);
 
+    /// Hands in who plays the project: the commands for it can run from here on.
+    void setPlayer(const PlayWords::Play &play);
+
     /// Offers @p folder as the place of projects.
     void setProjectsFolder(const QString &folder);
 
@@ -102,5 +106,6 @@ private:
     StateParts m_states;
     ListCommands m_lists;
     Chooser m_chooser;
+    PlayWords m_play;
     Events m_events;
 };

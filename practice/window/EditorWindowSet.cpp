@@ -185,6 +185,16 @@ void EditorWindowSet::setProjectsFolder(const QString &folder)
     m_ground.project->setProjectsFolder(folder);
 }
 
+void EditorWindowSet::setPlayer(const PlayWords::Play &play)
+{
+    m_ground.project->setPlayer(play);
+}
+
+void EditorWindowSet::tellPlayed()
+{
+    Q_EMIT happened({QStringLiteral("action"), QStringLiteral("play"), QStringLiteral("close"), QString()});
+}
+
 bool EditorWindowSet::replaceFiles(const QMap<QString, QString> &files)
 {
     return m_ground.project->replaceFiles(files);

@@ -46,6 +46,8 @@ public:
     [[nodiscard]] QSize applicationSize() const override { return m_main->size(); }
 
     void setProjectsFolder(const QString &folder) override;
+    void setPlayer(const PlayWords::Play &play) override;
+    void tellPlayed() override;
     bool replaceFiles(const QMap<QString, QString> &files) override;
     [[nodiscard]] QString projectFolder() const override { return m_ground.project->files().folder(); }
 

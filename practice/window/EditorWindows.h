@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/HostEditor.h"
+#include "project/PlayWords.h"
+#include "project/events/EventPlace.h"
 
 #include <QMap>
 
@@ -44,6 +46,15 @@ public:
     /// Gives the open project these data files, path inside the project to text, in place of its own. False
     /// when that cannot be done, which problemFound() tells the person.
     virtual bool replaceFiles(const QMap<QString, QString> &files) = 0;
+
+    /// Hands in who plays the project when the person asks for it: the buttons for it are of use from here
+    /// on. The windows stay as they are meanwhile, and of use.
+    virtual void setPlayer(const PlayWords::Play &play) = 0;
+    /// What was played is over, which a lesson may wait for.
+    virtual void tellPlayed() = 0;
+    /// Shows a place among the event commands, ready to be changed. False when there is no such place any
+    /// more, or a dialog is open.
+    virtual bool showPlace(const EventPlace &place) = 0;
 
     /// Full path of the open project's folder; empty while none is open.
     [[nodiscard]] virtual QString projectFolder() const = 0;

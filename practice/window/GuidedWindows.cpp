@@ -1,6 +1,7 @@
 #include "window/GuidedWindows.h"
 
 #include "window/EditorWindow.h"
+#include "window/EventPlaces.h"
 
 #include <QAbstractScrollArea>
 #include <QScrollBar>
@@ -16,6 +17,7 @@ struct GuidedWindows::Guides
         , hand(&finder)
         , hints(view, &finder)
         , keeper(windows, view, std::move(popUp))
+        , places(windows, view)
     {
     }
 
@@ -24,6 +26,7 @@ struct GuidedWindows::Guides
     ControlHand hand;
     BackHints hints;
     StateKeeper keeper;
+    EventPlaces places;
 };
 
 GuidedWindows::GuidedWindows()
@@ -125,6 +128,11 @@ QString GuidedWindows::hintBack(const Way &way, const Step &step) const
 QString GuidedWindows::hintToPutBack(const Step & /*step*/) const
 {
     return BackHints::hintToPutBack();
+}
+
+bool GuidedWindows::showPlace(const EventPlace &place)
+{
+    return m_guides->places.show(place);
 }
 
 void GuidedWindows::takeFocusBack()

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] QString hintBack(const Way &way, const Step &step) const override;
     [[nodiscard]] QString hintToPutBack(const Step &step) const override;
 
+    bool showPlace(const EventPlace &place) override;
+
     void takeFocusBack() override;
     void setTipsShownElsewhere(bool shown) override;
 

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -221,6 +222,10 @@ void tst_HandAndEye::typesWhatTheKeyboardHas()
     QCOMPARE(entered.size(), 0);
     QCOMPARE(m_hand->perform({Action::Kind::kEnter, {}, 0, {}}), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(entered.size(), 1, kSoonMs);
+    const QShortcut escape(QKeySequence(Qt::Key_Escape), m_window.get());
+    QSignalSpy escaped(&escape, &QShortcut::activated);
+    QCOMPARE(m_hand->perform({Action::Kind::kEscape, {}, 0, {}}), Hand::Result::kDone);
+    QTRY_COMPARE_WITH_TIMEOUT(escaped.size(), 1, kSoonMs);
 }
 
 void tst_HandAndEye::typesNothingOfWhatItHasNot()

@@ -43,6 +43,8 @@ Hand::Result XHand::perform(const Action &action)
         return strike({XKeyboard(*m_x).withControl('a')});
     case Action::Kind::kEnter:
         return strike({XKeyboard(*m_x).enter()});
+    case Action::Kind::kEscape:
+        return strike({XKeyboard(*m_x).escape()});
     case Action::Kind::kType:
         break;
     }

@@ -3,6 +3,7 @@
 namespace {
 
 // Names of keys, as X11's keysymdef.h numbers them.
+constexpr xcb_keysym_t kEscape = 0xff1b;
 constexpr xcb_keysym_t kReturn = 0xff0d;
 constexpr xcb_keysym_t kShift = 0xffe1;
 constexpr xcb_keysym_t kControl = 0xffe3;
@@ -48,7 +49,17 @@ std::optional<XKeyboard::Key> XKeyboard::withControl(uint character) const
 
 std::optional<XKeyboard::Key> XKeyboard::enter() const
 {
-    const xcb_keycode_t code = find(kReturn, 0);
+    return alone(kReturn);
+}
+
+std::optional<XKeyboard::Key> XKeyboard::escape() const
+{
+    return alone(kEscape);
+}
+
+std::optional<XKeyboard::Key> XKeyboard::alone(xcb_keysym_t symbol) const
+{
+    const xcb_keycode_t code = find(symbol, 0);
     if (code == 0) {
         return {};
     }

@@ -192,6 +192,10 @@ void tst_DescriptionSet::knowsTheStatesOfActions()
         DescriptionSet::read(QStringLiteral(FIXTURE_DIR "/practice/descriptions"), nullptr, &errors);
     QCOMPARE(set.actionStates(QStringLiteral("fileOpen")), QStringList{QStringLiteral("open")});
     QCOMPARE(set.actionStates(QStringLiteral("fileClose")), QStringList());
+    // What an action begins may end by itself: a game that is tried out.
+    const auto shipped = DescriptionSet::read(kShipped, nullptr, &errors);
+    QCOMPARE(shipped.actionStates(QStringLiteral("play")).mid(0, 2),
+             (QStringList{QStringLiteral("open"), QStringLiteral("close")}));
 }
 
 void tst_DescriptionSet::knowsFromWhichWindowsOneIsOpened()

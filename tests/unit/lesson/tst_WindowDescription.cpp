@@ -77,7 +77,9 @@ void tst_WindowDescription::readsAListATabRowAndAnAction()
   {"type": "tabs", "name": "tabs", "geometry": [0, 50, 90, 24], "tabWidth": 45, "source": "tileTab",
    "tabs": [TEXT, TEXT]},
   {"type": "toolButton", "name": "open", "geometry": [90, 0, 90, 24], "action": "fileOpen",
-   "actionState": "open", "click": {"open": "Other", "begin": "map.new"}}
+   "actionState": "open", "click": {"open": "Other", "begin": "map.new"}},
+  {"type": "toolButton", "name": "play", "geometry": [90, 30, 90, 24], "action": "play",
+   "actionState": "open", "actionEnds": true, "click": {"run": "play.project"}}
  ]
 })")
                                 .replace("TEXT", kText);
@@ -91,6 +93,8 @@ void tst_WindowDescription::readsAListATabRowAndAnAction()
     QCOMPARE(part.controls[1].tabWidths, QVector<int>{45});
     QCOMPARE(part.controls[2].actionName, QStringLiteral("fileOpen"));
     QCOMPARE(part.controls[2].actionState, QStringLiteral("open"));
+    QVERIFY(!part.controls[2].actionEnds);
+    QVERIFY(part.controls[3].actionEnds);
     QCOMPARE(part.controls[2].click.begin, QStringList{QStringLiteral("map.new")});
 }
 

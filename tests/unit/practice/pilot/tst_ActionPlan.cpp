@@ -66,6 +66,7 @@ private Q_SLOTS:
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
     void dragsWhereTheHintSaysSo();
+    void leavesAGameWithTheEscapeKey();
     void onlyReadsWhereNothingIsPointedAt();
     void answersWithTheButtonOnTheLeftOrRight();
     void pressesInsideTheButtonsWindow();
@@ -136,6 +137,21 @@ void tst_ActionPlan::dragsWhereTheHintSaysSo()
     step.icon = QStringLiteral("rightClick");
     QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
              QStringLiteral("a right click at (438, 432)"));
+}
+
+void tst_ActionPlan::leavesAGameWithTheEscapeKey()
+{
+    const Step points = stepOf(QStringLiteral("action,play,close"), QStringLiteral("keyboard"));
+    const std::optional<ActionPlan> plan = ActionPlan::make(points, sightWith({}), true);
+    QCOMPARE(wordsOf(*plan), QStringLiteral("Esc"));
+    // Wherever the step points, the game has the keyboard.
+    QVERIFY(!plan->spot);
+    QVERIFY(plan->actions.constFirst().isOfKeyboard());
+    const Step pointless = pointlessStepOf(QStringLiteral("action,play,close"), QStringLiteral("keyboard"));
+    QCOMPARE(wordsOf(*ActionPlan::make(pointless, {{kBubble, {}}, {}, false}, true)), QStringLiteral("Esc"));
+    QCOMPARE(wordsOf(*ActionPlan::make(stepOf(QStringLiteral("action,play,open"), QStringLiteral("click")),
+                                       sightWith({}), true)),
+             QStringLiteral("a click at (438, 432)"));
 }
 
 void tst_ActionPlan::doesWhatTheIconSays()

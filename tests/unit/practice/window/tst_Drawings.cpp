@@ -48,6 +48,7 @@ private Q_SLOTS:
     void everySourceIsADrawing();
     void everyDrawingCanBeChosen_data();
     void everyDrawingCanBeChosen();
+    void whoTurnsIsACharacter();
     void aTileIsDrawnInEverySize_data();
     void aTileIsDrawnInEverySize();
     void linesAreOnePixelWideAtFullSize();
@@ -90,6 +91,24 @@ void tst_Drawings::everyDrawingCanBeChosen()
     names.sort();
     QCOMPARE(names, Pictures::namesIn(folder));
     QCOMPARE(names, sourcesIn(folder));
+}
+
+void tst_Drawings::whoTurnsIsACharacter()
+{
+    const QString folder = QStringLiteral("facing");
+    const QStringList turned = Pictures::namesIn(folder);
+    QCOMPARE(turned, sourcesIn(folder));
+    const QStringList characters = Pictures::namesIn(QStringLiteral("characters"));
+    for (const QString &name : turned) {
+        const QString character = name.section(QLatin1Char('-'), 0, 0);
+        QVERIFY2(characters.contains(character), qPrintable(name));
+        QCOMPARE(Pictures::load(folder, name).size(),
+                 Pictures::load(QStringLiteral("characters"), character).size());
+        // Whoever turns has both pictures.
+        QVERIFY2(turned.contains(character + QStringLiteral("-left")) &&
+                     turned.contains(character + QStringLiteral("-up")),
+                 qPrintable(name));
+    }
 }
 
 void tst_Drawings::aTileIsDrawnInEverySize_data()

@@ -1,0 +1,17 @@
+#pragma once
+
+/// A place among the event commands of a project. Numbers that are 0 are not known.
+struct EventPlace
+{
+    enum class In { kMap, kCommonEvents, kTroops };
+
+    In in = In::kMap;
+    /// Number of the map.
+    int map = 0;
+    /// Number of the event on it, of the common event or of the troop.
+    int event = 0;
+    /// Of the event or troop, from 1.
+    int page = 0;
+    /// Row of the list of commands, from 1.
+    int line = 0;
+};
