@@ -167,6 +167,13 @@ void EditorWindowSet::closeTop()
     tellState(key, "close");
 }
 
+void EditorWindowSet::takeFocusBack()
+{
+    // With some window managers the focus is back before anybody hears that it was gone.
+    m_popup.abandon();
+    GuidedWindows::takeFocusBack();
+}
+
 QStringList EditorWindowSet::openWindows() const
 {
     return m_popup.window() != nullptr ? m_stack + QStringList{OpenPopup::stackEntry()} : m_stack;

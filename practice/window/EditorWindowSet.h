@@ -39,6 +39,7 @@ public:
     {
         return m_ground.descriptions.openedFrom(windowKey);
     }
+    void takeFocusBack() override;
     void dock(QWidget *strip) override { m_frame->dock(strip); }
     void setUnattended(bool unattended) override { m_isUnattended = unattended; }
     [[nodiscard]] QString title(const QString &windowKey) const override;

@@ -13,9 +13,8 @@ OpenPopup::OpenPopup(QObject *parent)
     : QObject(parent)
 {
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationInactive && m_popup != nullptr) {
-            takeAway();
-            Q_EMIT abandoned();
+        if (state == Qt::ApplicationInactive) {
+            abandon();
         }
     });
     qApp->installEventFilter(this);
@@ -36,6 +35,14 @@ void OpenPopup::close()
     if (m_popup != nullptr) {
         takeAway();
         Q_EMIT closed();
+    }
+}
+
+void OpenPopup::abandon()
+{
+    if (m_popup != nullptr) {
+        takeAway();
+        Q_EMIT abandoned();
     }
 }
 

@@ -24,11 +24,13 @@ public:
     /// Shows @p popup with its corner at @p corner, in screen pixels, in place of the one that is open.
     void open(EditorWindow *popup, const QPoint &corner);
     void close();
+    /// Takes it away as another program that becomes active does. Does nothing when none is open.
+    void abandon();
 
 Q_SIGNALS:
     /// It was closed, or an entry was chosen.
     void closed();
-    /// It was closed because another program became the active one.
+    /// It went away because another program became the active one, or was used.
     void abandoned();
 
 protected:

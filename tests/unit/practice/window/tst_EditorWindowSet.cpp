@@ -30,6 +30,7 @@ private Q_SLOTS:
     void popupIsReplacedByTheNext();
     void aClosedPopupKeepsNoDraft();
     void popupIsAbandonedToAnotherProgram();
+    void popupIsAbandonedToAButtonOfTheCompanion();
     void dialogsBlockTheEditorAndNothingElse();
     void windowsHaveTitles();
     void minimisingIsTold();
@@ -342,6 +343,19 @@ void tst_EditorWindowSet::popupIsAbandonedToAnotherProgram()
     QCOMPARE(editor.takeTold(), QStringList{str("abandoned")});
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
     Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(editor.takeTold(), QStringList());
+}
+
+void tst_EditorWindowSet::popupIsAbandonedToAButtonOfTheCompanion()
+{
+    Editor editor;
+    editor.openProject();
+    editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+    editor.takeTold();
+    editor->takeFocusBack();
+    QCOMPARE(editor.takeTold(), QStringList{str("abandoned")});
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    editor->takeFocusBack();
     QCOMPARE(editor.takeTold(), QStringList());
 }
 
