@@ -42,6 +42,196 @@
     </message>
 </context>
 <context>
+    <name>Battle</name>
+    <message>
+        <source>There is no troop %1, so there is nobody to fight. Choose a troop that the database has.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>敵グループ %1 がないため、戦う相手がいません。データベースにある敵グループを選んでください。</translation>
+    </message>
+    <message>
+        <source>The troop “%1” has a member that is enemy %2, which the database does not have.</source>
+        <extracomment>%1 is the name of a troop, %2 a number.</extracomment>
+        <translation>敵グループ「%1」のメンバーに、データベースにない敵キャラ %2 がいます。</translation>
+    </message>
+    <message>
+        <source>The actions of “%1” name skills that the database does not have, so it just attacks.</source>
+        <extracomment>%1 is the name of an enemy.</extracomment>
+        <translation>「%1」の行動パターンのスキルがデータベースにないため、攻撃だけをします。</translation>
+    </message>
+    <message>
+        <source>The troop “%1” has no members, so there is nobody to fight.</source>
+        <extracomment>%1 is the name of a troop.</extracomment>
+        <translation>敵グループ「%1」にはメンバーがいないため、戦う相手がいません。</translation>
+    </message>
+    <message>
+        <source>For %1 turns nobody in this battle could act, so it was ended. Give the states that forbid to act an end.</source>
+        <translation>%1ターンの間、だれも行動できなかったため、この戦闘を終わらせました。行動できなくなるステートには、終わりを設定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>BattleMenu</name>
+    <message>
+        <source>Attack</source>
+        <translation>攻撃</translation>
+    </message>
+    <message>
+        <source>Hits an enemy with the weapon.</source>
+        <translation>武器で敵を攻撃します。</translation>
+    </message>
+    <message>
+        <source>Uses a skill.</source>
+        <translation>スキルを使います。</translation>
+    </message>
+    <message>
+        <source>No skills yet.</source>
+        <translation>まだスキルがありません。</translation>
+    </message>
+    <message>
+        <source>Uses an item from the bag.</source>
+        <translation>持っているアイテムを使います。</translation>
+    </message>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>何も持っていません。</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>防御</translation>
+    </message>
+    <message>
+        <source>Halves the damage of this turn.</source>
+        <translation>このターンに受けるダメージを半分にします。</translation>
+    </message>
+    <message>
+        <source>Flee</source>
+        <translation>逃げる</translation>
+    </message>
+    <message>
+        <source>All of you try to get away.</source>
+        <translation>全員で逃げようとします。</translation>
+    </message>
+    <message>
+        <source>There is no way out of this battle.</source>
+        <translation>この戦闘からは逃げられません。</translation>
+    </message>
+    <message>
+        <source>Not enough MP.</source>
+        <translation>MPが足りません。</translation>
+    </message>
+    <message>
+        <source>This cannot be used here.</source>
+        <translation>ここでは使えません。</translation>
+    </message>
+    <message>
+        <source>Whom?</source>
+        <translation>だれに？</translation>
+    </message>
+</context>
+<context>
+    <name>BattleWords</name>
+    <message>
+        <source>%1 attacks!</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1の攻撃！</translation>
+    </message>
+    <message>
+        <source>%1 uses %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill or an item.</extracomment>
+        <translation>%1は%2を使った！</translation>
+    </message>
+    <message>
+        <source>%1 guards.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1は身を守っている。</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 damage.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1は%2のダメージを受けた！</translation>
+    </message>
+    <message>
+        <source>%1 recovers %2 HP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1のHPが%2回復した！</translation>
+    </message>
+    <message>
+        <source>%1 loses %2 MP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1のMPが%2減った！</translation>
+    </message>
+    <message>
+        <source>%1 recovers %2 MP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1のMPが%2回復した！</translation>
+    </message>
+    <message>
+        <source>%1 learns %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill.</extracomment>
+        <translation>%1は%2を覚えた！</translation>
+    </message>
+    <message>
+        <source>Nothing happens to %1.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1には何も起こらなかった。</translation>
+    </message>
+    <message>
+        <source>%1 cannot use %2 now.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill.</extracomment>
+        <translation>%1は今%2を使えない。</translation>
+    </message>
+    <message>
+        <source>You get away safely!</source>
+        <translation>うまく逃げ切れた！</translation>
+    </message>
+    <message>
+        <source>You cannot get away!</source>
+        <translation>逃げられなかった！</translation>
+    </message>
+    <message>
+        <source>%1 falls!</source>
+        <extracomment>%1 is the name of somebody who has no HP left.</extracomment>
+        <translation>%1は倒れた！</translation>
+    </message>
+    <message>
+        <source>%1 cannot act.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1は動けない。</translation>
+    </message>
+    <message>
+        <source>%1 appears!</source>
+        <extracomment>%1 is the name of an enemy.</extracomment>
+        <translation>%1が現れた！</translation>
+    </message>
+    <message>
+        <source>You have won!</source>
+        <translation>戦闘に勝利した！</translation>
+    </message>
+    <message>
+        <source>You get %1.</source>
+        <extracomment>%1 is an amount of money with its unit.</extracomment>
+        <translation>%1を手に入れた。</translation>
+    </message>
+    <message>
+        <source>You find %1 × %2.</source>
+        <extracomment>%1 is the name of an item, %2 how many of it.</extracomment>
+        <translation>%1×%2を見つけた。</translation>
+    </message>
+    <message>
+        <source>%1 gets %2 EXP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points of experience.</extracomment>
+        <translation>%1は%2の経験値を得た。</translation>
+    </message>
+    <message>
+        <source>%1 is now level %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number.</extracomment>
+        <translation>%1はレベル%2になった！</translation>
+    </message>
+    <message>
+        <source>You have been defeated…</source>
+        <translation>戦いに敗れた……</translation>
+    </message>
+</context>
+<context>
     <name>DataFiles</name>
     <message>
         <source>%1 Nothing is lost: the editor keeps all your changes. Make room on the disk, or permit writing, and save again.</source>
@@ -52,6 +242,43 @@
         <source>The project&apos;s file “%1” is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
         <extracomment>%1 is a file&apos;s path, %2 the number of a line, %3 what the JSON reader says of it.</extracomment>
         <translation>プロジェクトのファイル「%1」は%2行目が壊れています（%3）。その行を直すか、壊れていないファイルと置き換えてから、もう一度プロジェクトを開いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>EquipScene</name>
+    <message>
+        <source>Take it off.</source>
+        <translation>装備を外します。</translation>
+    </message>
+    <message>
+        <source>Nothing is worn here.</source>
+        <translation>何も装備していません。</translation>
+    </message>
+</context>
+<context>
+    <name>GameOverScene</name>
+    <message>
+        <source>Game over</source>
+        <translation>ゲームオーバー</translation>
+    </message>
+    <message>
+        <source>Press Enter to return to the title.</source>
+        <translation>Enter キーでタイトルに戻ります。</translation>
+    </message>
+</context>
+<context>
+    <name>ItemScene</name>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>何も持っていません。</translation>
+    </message>
+    <message>
+        <source>Put it on in the menu, under Equipment.</source>
+        <translation>メニューの「装備」で身につけられます。</translation>
+    </message>
+    <message>
+        <source>It would do nothing.</source>
+        <translation>使っても効果がありません。</translation>
     </message>
 </context>
 <context>
@@ -262,6 +489,91 @@
     </message>
 </context>
 <context>
+    <name>MenuScene</name>
+    <message>
+        <source>There is nobody in the party.</source>
+        <translation>パーティーにだれもいません。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>セーブする場所がありません。先にエディターでプロジェクトを保存してください。</translation>
+    </message>
+    <message>
+        <source>Look into the bag.</source>
+        <translation>持ち物を見ます。</translation>
+    </message>
+    <message>
+        <source>Use a skill.</source>
+        <translation>スキルを使います。</translation>
+    </message>
+    <message>
+        <source>Equipment</source>
+        <translation>装備</translation>
+    </message>
+    <message>
+        <source>Change weapon and armor.</source>
+        <translation>武器と防具を変えます。</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>ステータス</translation>
+    </message>
+    <message>
+        <source>See what somebody can do.</source>
+        <translation>仲間の能力を見ます。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>セーブ</translation>
+    </message>
+    <message>
+        <source>Save the game.</source>
+        <translation>ゲームをセーブします。</translation>
+    </message>
+    <message>
+        <source>To the title</source>
+        <translation>タイトルへ</translation>
+    </message>
+    <message>
+        <source>Leave this game. What is not saved is lost.</source>
+        <translation>ゲームをやめます。セーブしていない分は失われます。</translation>
+    </message>
+    <message>
+        <source>Time %1</source>
+        <extracomment>How long the game has been played; %1 is a time.</extracomment>
+        <translation>時間 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NameScene</name>
+    <message>
+        <source>ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-&apos;. </source>
+        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 12 in a row. Take those that names in your language are written with.</extracomment>
+        <translation>あいうえおかきくけこさしすせそたちつてとなにぬねのはひふへほまみむめもやゆよらりるれろわをんがぎぐげござじずぜぞだぢづでどばびぶべぼぱぴぷぺぽゃゅょっーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤユヨラリルレロワヲンガギグゲゴザジズゼゾダヂヅデドバビブベボパピプペポャュョッァィゥェォ・</translation>
+    </message>
+    <message>
+        <source>Type a name, or choose its letters.</source>
+        <translation>名前を入力するか、文字を選んでください。</translation>
+    </message>
+    <message>
+        <source>A name has %1 letters at most.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>名前は%1文字までです。</translation>
+    </message>
+    <message>
+        <source>Type, or choose letters. “Done” takes the name.</source>
+        <translation>キーボードで入力するか、文字を選びます。「決定」で終わります。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>決定</translation>
+    </message>
+</context>
+<context>
     <name>PracticeEditor</name>
     <message>
         <source>Restart</source>
@@ -353,6 +665,170 @@
     </message>
 </context>
 <context>
+    <name>SaveFiles</name>
+    <message>
+        <source>This saved game cannot be read: “%1”.</source>
+        <extracomment>%1 is a file&apos;s path.</extracomment>
+        <translation>このセーブデータは読み込めません：「%1」</translation>
+    </message>
+    <message>
+        <source>This saved game is damaged and cannot be loaded.</source>
+        <translation>このセーブデータは壊れているため、読み込めません。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>セーブする場所がありません。先にエディターでプロジェクトを保存してください。</translation>
+    </message>
+    <message>
+        <source>The game could not be saved (%1). What was saved before is still there.</source>
+        <extracomment>%1 is the system&apos;s reason.</extracomment>
+        <translation>セーブできませんでした（%1）。前のセーブデータは残っています。</translation>
+    </message>
+</context>
+<context>
+    <name>SaveScene</name>
+    <message>
+        <source>Save</source>
+        <translation>セーブ</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>コンティニュー</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Nothing is saved here yet.</source>
+        <translation>ここにはまだセーブデータがありません。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>セーブする場所がありません。先にエディターでプロジェクトを保存してください。</translation>
+    </message>
+    <message>
+        <source>Save here?</source>
+        <translation>ここにセーブしますか？</translation>
+    </message>
+    <message>
+        <source>Go on from here?</source>
+        <translation>ここから続けますか？</translation>
+    </message>
+    <message>
+        <source>The game is saved.</source>
+        <translation>セーブしました。</translation>
+    </message>
+    <message>
+        <source>Replace what is saved here?</source>
+        <translation>上書きしますか？</translation>
+    </message>
+</context>
+<context>
+    <name>ShopScene</name>
+    <message>
+        <source>This shop only sells.</source>
+        <translation>この店では買い取りをしていません。</translation>
+    </message>
+    <message>
+        <source>Buy</source>
+        <translation>購入</translation>
+    </message>
+    <message>
+        <source>What would you like?</source>
+        <translation>何を買いますか？</translation>
+    </message>
+    <message>
+        <source>Sell</source>
+        <translation>売却</translation>
+    </message>
+    <message>
+        <source>Sell something from your bag.</source>
+        <translation>持ち物を売ります。</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>店を出る</translation>
+    </message>
+    <message>
+        <source>Come again!</source>
+        <translation>またどうぞ！</translation>
+    </message>
+    <message>
+        <source>You do not have enough money.</source>
+        <translation>お金が足りません。</translation>
+    </message>
+    <message>
+        <source>You cannot carry more of this.</source>
+        <translation>これ以上は持てません。</translation>
+    </message>
+    <message>
+        <source>There is nothing for sale.</source>
+        <translation>商品がありません。</translation>
+    </message>
+    <message>
+        <source>The shop does not buy this.</source>
+        <translation>この店では買い取れません。</translation>
+    </message>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>何も持っていません。</translation>
+    </message>
+    <message>
+        <source>How many?</source>
+        <translation>いくつ？</translation>
+    </message>
+    <message>
+        <source>In the bag: %1</source>
+        <extracomment>%1 is how many of a thing are in the bag.</extracomment>
+        <translation>持っている数：%1</translation>
+    </message>
+    <message>
+        <source>Left and right: by 1. Up and down: by 10.</source>
+        <translation>左右で1個、上下で10個ずつ変わります。</translation>
+    </message>
+</context>
+<context>
+    <name>SkillScene</name>
+    <message>
+        <source>No skills yet.</source>
+        <translation>まだスキルがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot use skills now.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1は今スキルを使えません。</translation>
+    </message>
+    <message>
+        <source>Not enough MP.</source>
+        <translation>MPが足りません。</translation>
+    </message>
+    <message>
+        <source>It would do nothing.</source>
+        <translation>使っても効果がありません。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusScene</name>
+    <message>
+        <source>%1 EXP to the next level</source>
+        <extracomment>%1 is a number of points of experience.</extracomment>
+        <translation>次のレベルまで 経験値%1</translation>
+    </message>
+    <message>
+        <source>No higher level.</source>
+        <translation>これ以上レベルは上がりません。</translation>
+    </message>
+    <message>
+        <source>Left and right: the others</source>
+        <translation>左右キー：ほかの仲間</translation>
+    </message>
+</context>
+<context>
     <name>StripControl</name>
     <message>
         <source>The guide does not answer.</source>
@@ -409,6 +885,109 @@
         <source>Cancel</source>
         <extracomment>A button: nothing changes.</extracomment>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Terms</name>
+    <message>
+        <source>G</source>
+        <extracomment>The unit of money in a game, behind the amount.</extracomment>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words of a list.</extracomment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>経験値</translation>
+    </message>
+    <message>
+        <source>Attack</source>
+        <translation>攻撃力</translation>
+    </message>
+    <message>
+        <source>Defense</source>
+        <translation>防御力</translation>
+    </message>
+    <message>
+        <source>Agility</source>
+        <translation>素早さ</translation>
+    </message>
+    <message>
+        <source>Weapon</source>
+        <translation>武器</translation>
+    </message>
+    <message>
+        <source>Armor</source>
+        <translation>防具</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>アイテム</translation>
+    </message>
+    <message>
+        <source>Skills</source>
+        <translation>スキル</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>TitleScene</name>
+    <message>
+        <source>New game</source>
+        <translation>ニューゲーム</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>コンティニュー</translation>
+    </message>
+    <message>
+        <source>There is no saved game yet.</source>
+        <translation>セーブデータがまだありません。</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>There is nothing to set in test play.</source>
+        <translation>テストプレイでは設定できるものがありません。</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>クレジット</translation>
+    </message>
+    <message>
+        <source>There are no credits in test play.</source>
+        <translation>テストプレイにはクレジットがありません。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>UseOnParty</name>
+    <message>
+        <source>It cannot be used.</source>
+        <translation>使えません。</translation>
+    </message>
+    <message>
+        <source>It is of use in battle only.</source>
+        <translation>戦闘中だけ使えます。</translation>
+    </message>
+    <message>
+        <source>Use it on whom?</source>
+        <translation>だれに使いますか？</translation>
     </message>
 </context>
 </TS>

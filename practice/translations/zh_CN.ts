@@ -42,6 +42,196 @@
     </message>
 </context>
 <context>
+    <name>Battle</name>
+    <message>
+        <source>There is no troop %1, so there is nobody to fight. Choose a troop that the database has.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>没有敌群 %1，因此没有对手。请选择数据库中有的敌群。</translation>
+    </message>
+    <message>
+        <source>The troop “%1” has a member that is enemy %2, which the database does not have.</source>
+        <extracomment>%1 is the name of a troop, %2 a number.</extracomment>
+        <translation>敌群“%1”中有数据库里不存在的敌人 %2。</translation>
+    </message>
+    <message>
+        <source>The actions of “%1” name skills that the database does not have, so it just attacks.</source>
+        <extracomment>%1 is the name of an enemy.</extracomment>
+        <translation>“%1”的行动模式所用的技能在数据库中不存在，因此它只会攻击。</translation>
+    </message>
+    <message>
+        <source>The troop “%1” has no members, so there is nobody to fight.</source>
+        <extracomment>%1 is the name of a troop.</extracomment>
+        <translation>敌群“%1”没有成员，因此没有对手。</translation>
+    </message>
+    <message>
+        <source>For %1 turns nobody in this battle could act, so it was ended. Give the states that forbid to act an end.</source>
+        <translation>这场战斗连续 %1 回合无人能行动，因此已结束。请为禁止行动的状态设置结束条件。</translation>
+    </message>
+</context>
+<context>
+    <name>BattleMenu</name>
+    <message>
+        <source>Attack</source>
+        <translation>攻击</translation>
+    </message>
+    <message>
+        <source>Hits an enemy with the weapon.</source>
+        <translation>用武器攻击一个敌人。</translation>
+    </message>
+    <message>
+        <source>Uses a skill.</source>
+        <translation>使用技能。</translation>
+    </message>
+    <message>
+        <source>No skills yet.</source>
+        <translation>还没有技能。</translation>
+    </message>
+    <message>
+        <source>Uses an item from the bag.</source>
+        <translation>使用背包里的物品。</translation>
+    </message>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>背包是空的。</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>防御</translation>
+    </message>
+    <message>
+        <source>Halves the damage of this turn.</source>
+        <translation>本回合受到的伤害减半。</translation>
+    </message>
+    <message>
+        <source>Flee</source>
+        <translation>逃跑</translation>
+    </message>
+    <message>
+        <source>All of you try to get away.</source>
+        <translation>全队一起尝试逃跑。</translation>
+    </message>
+    <message>
+        <source>There is no way out of this battle.</source>
+        <translation>这场战斗无法逃跑。</translation>
+    </message>
+    <message>
+        <source>Not enough MP.</source>
+        <translation>MP不足。</translation>
+    </message>
+    <message>
+        <source>This cannot be used here.</source>
+        <translation>这里不能使用。</translation>
+    </message>
+    <message>
+        <source>Whom?</source>
+        <translation>对谁？</translation>
+    </message>
+</context>
+<context>
+    <name>BattleWords</name>
+    <message>
+        <source>%1 attacks!</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1发动攻击！</translation>
+    </message>
+    <message>
+        <source>%1 uses %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill or an item.</extracomment>
+        <translation>%1使用了%2！</translation>
+    </message>
+    <message>
+        <source>%1 guards.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1正在防御。</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 damage.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1受到%2点伤害！</translation>
+    </message>
+    <message>
+        <source>%1 recovers %2 HP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1恢复了%2点HP！</translation>
+    </message>
+    <message>
+        <source>%1 loses %2 MP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1失去了%2点MP！</translation>
+    </message>
+    <message>
+        <source>%1 recovers %2 MP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points.</extracomment>
+        <translation>%1恢复了%2点MP！</translation>
+    </message>
+    <message>
+        <source>%1 learns %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill.</extracomment>
+        <translation>%1学会了%2！</translation>
+    </message>
+    <message>
+        <source>Nothing happens to %1.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>对%1没有任何效果。</translation>
+    </message>
+    <message>
+        <source>%1 cannot use %2 now.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 that of a skill.</extracomment>
+        <translation>%1现在无法使用%2。</translation>
+    </message>
+    <message>
+        <source>You get away safely!</source>
+        <translation>成功逃走了！</translation>
+    </message>
+    <message>
+        <source>You cannot get away!</source>
+        <translation>没能逃掉！</translation>
+    </message>
+    <message>
+        <source>%1 falls!</source>
+        <extracomment>%1 is the name of somebody who has no HP left.</extracomment>
+        <translation>%1倒下了！</translation>
+    </message>
+    <message>
+        <source>%1 cannot act.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1无法行动。</translation>
+    </message>
+    <message>
+        <source>%1 appears!</source>
+        <extracomment>%1 is the name of an enemy.</extracomment>
+        <translation>%1出现了！</translation>
+    </message>
+    <message>
+        <source>You have won!</source>
+        <translation>战斗胜利！</translation>
+    </message>
+    <message>
+        <source>You get %1.</source>
+        <extracomment>%1 is an amount of money with its unit.</extracomment>
+        <translation>获得%1。</translation>
+    </message>
+    <message>
+        <source>You find %1 × %2.</source>
+        <extracomment>%1 is the name of an item, %2 how many of it.</extracomment>
+        <translation>找到%1×%2。</translation>
+    </message>
+    <message>
+        <source>%1 gets %2 EXP.</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number of points of experience.</extracomment>
+        <translation>%1获得%2点经验值。</translation>
+    </message>
+    <message>
+        <source>%1 is now level %2!</source>
+        <extracomment>%1 is somebody&apos;s name, %2 a number.</extracomment>
+        <translation>%1升到%2级了！</translation>
+    </message>
+    <message>
+        <source>You have been defeated…</source>
+        <translation>战斗失败了……</translation>
+    </message>
+</context>
+<context>
     <name>DataFiles</name>
     <message>
         <source>%1 Nothing is lost: the editor keeps all your changes. Make room on the disk, or permit writing, and save again.</source>
@@ -52,6 +242,43 @@
         <source>The project&apos;s file “%1” is damaged at line %2 (%3). Mend that line, or put a whole copy of the file in its place, and open the project again.</source>
         <extracomment>%1 is a file&apos;s path, %2 the number of a line, %3 what the JSON reader says of it.</extracomment>
         <translation>项目文件“%1”的第 %2 行已损坏（%3）。请修好这一行，或换上完好的文件副本，然后重新打开项目。</translation>
+    </message>
+</context>
+<context>
+    <name>EquipScene</name>
+    <message>
+        <source>Take it off.</source>
+        <translation>卸下装备。</translation>
+    </message>
+    <message>
+        <source>Nothing is worn here.</source>
+        <translation>这里没有装备。</translation>
+    </message>
+</context>
+<context>
+    <name>GameOverScene</name>
+    <message>
+        <source>Game over</source>
+        <translation>游戏结束</translation>
+    </message>
+    <message>
+        <source>Press Enter to return to the title.</source>
+        <translation>按 Enter 键返回标题。</translation>
+    </message>
+</context>
+<context>
+    <name>ItemScene</name>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>背包是空的。</translation>
+    </message>
+    <message>
+        <source>Put it on in the menu, under Equipment.</source>
+        <translation>可在菜单的“装备”中穿戴。</translation>
+    </message>
+    <message>
+        <source>It would do nothing.</source>
+        <translation>使用了也没有效果。</translation>
     </message>
 </context>
 <context>
@@ -262,6 +489,91 @@
     </message>
 </context>
 <context>
+    <name>MenuScene</name>
+    <message>
+        <source>There is nobody in the party.</source>
+        <translation>队伍里没有人。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+    </message>
+    <message>
+        <source>Look into the bag.</source>
+        <translation>查看背包。</translation>
+    </message>
+    <message>
+        <source>Use a skill.</source>
+        <translation>使用技能。</translation>
+    </message>
+    <message>
+        <source>Equipment</source>
+        <translation>装备</translation>
+    </message>
+    <message>
+        <source>Change weapon and armor.</source>
+        <translation>更换武器和防具。</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>See what somebody can do.</source>
+        <translation>查看队员的能力。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>存档</translation>
+    </message>
+    <message>
+        <source>Save the game.</source>
+        <translation>保存游戏进度。</translation>
+    </message>
+    <message>
+        <source>To the title</source>
+        <translation>返回标题</translation>
+    </message>
+    <message>
+        <source>Leave this game. What is not saved is lost.</source>
+        <translation>离开游戏。未存档的进度会丢失。</translation>
+    </message>
+    <message>
+        <source>Time %1</source>
+        <extracomment>How long the game has been played; %1 is a time.</extracomment>
+        <translation>时间 %1</translation>
+    </message>
+</context>
+<context>
+    <name>NameScene</name>
+    <message>
+        <source>ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-&apos;. </source>
+        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 12 in a row. Take those that names in your language are written with.</extracomment>
+        <translation>小大明华文国志海天宇晨阳子安平乐宁林云星月雨雪风花春夏秋冬梅兰竹菊玉珠金银石山川江河湖龙虎凤鹤燕勇强军建东西南北中美丽红青白黑心思爱欣慧静雅婷娜莉ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz·</translation>
+    </message>
+    <message>
+        <source>Type a name, or choose its letters.</source>
+        <translation>请输入名字，或逐字选择。</translation>
+    </message>
+    <message>
+        <source>A name has %1 letters at most.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>名字最多 %1 个字。</translation>
+    </message>
+    <message>
+        <source>Type, or choose letters. “Done” takes the name.</source>
+        <translation>可用键盘输入或选字，选“完成”确定。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名字</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+</context>
+<context>
     <name>PracticeEditor</name>
     <message>
         <source>Restart</source>
@@ -353,6 +665,170 @@
     </message>
 </context>
 <context>
+    <name>SaveFiles</name>
+    <message>
+        <source>This saved game cannot be read: “%1”.</source>
+        <extracomment>%1 is a file&apos;s path.</extracomment>
+        <translation>无法读取此存档：“%1”。</translation>
+    </message>
+    <message>
+        <source>This saved game is damaged and cannot be loaded.</source>
+        <translation>此存档已损坏，无法读取。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+    </message>
+    <message>
+        <source>The game could not be saved (%1). What was saved before is still there.</source>
+        <extracomment>%1 is the system&apos;s reason.</extracomment>
+        <translation>存档失败（%1）。之前的存档仍然保留。</translation>
+    </message>
+</context>
+<context>
+    <name>SaveScene</name>
+    <message>
+        <source>Save</source>
+        <translation>存档</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续游戏</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Nothing is saved here yet.</source>
+        <translation>这里还没有存档。</translation>
+    </message>
+    <message>
+        <source>There is no place to save: save the project in the editor first.</source>
+        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+    </message>
+    <message>
+        <source>Save here?</source>
+        <translation>要存在这里吗？</translation>
+    </message>
+    <message>
+        <source>Go on from here?</source>
+        <translation>要从这里继续吗？</translation>
+    </message>
+    <message>
+        <source>The game is saved.</source>
+        <translation>已存档。</translation>
+    </message>
+    <message>
+        <source>Replace what is saved here?</source>
+        <translation>要覆盖这里的存档吗？</translation>
+    </message>
+</context>
+<context>
+    <name>ShopScene</name>
+    <message>
+        <source>This shop only sells.</source>
+        <translation>这家店不收购物品。</translation>
+    </message>
+    <message>
+        <source>Buy</source>
+        <translation>购买</translation>
+    </message>
+    <message>
+        <source>What would you like?</source>
+        <translation>想买什么？</translation>
+    </message>
+    <message>
+        <source>Sell</source>
+        <translation>出售</translation>
+    </message>
+    <message>
+        <source>Sell something from your bag.</source>
+        <translation>出售背包里的物品。</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>离开</translation>
+    </message>
+    <message>
+        <source>Come again!</source>
+        <translation>欢迎再来！</translation>
+    </message>
+    <message>
+        <source>You do not have enough money.</source>
+        <translation>钱不够。</translation>
+    </message>
+    <message>
+        <source>You cannot carry more of this.</source>
+        <translation>不能再多带了。</translation>
+    </message>
+    <message>
+        <source>There is nothing for sale.</source>
+        <translation>没有商品。</translation>
+    </message>
+    <message>
+        <source>The shop does not buy this.</source>
+        <translation>这家店不收购这个。</translation>
+    </message>
+    <message>
+        <source>The bag is empty.</source>
+        <translation>背包是空的。</translation>
+    </message>
+    <message>
+        <source>How many?</source>
+        <translation>数量？</translation>
+    </message>
+    <message>
+        <source>In the bag: %1</source>
+        <extracomment>%1 is how many of a thing are in the bag.</extracomment>
+        <translation>持有：%1</translation>
+    </message>
+    <message>
+        <source>Left and right: by 1. Up and down: by 10.</source>
+        <translation>左右键增减 1 个，上下键增减 10 个。</translation>
+    </message>
+</context>
+<context>
+    <name>SkillScene</name>
+    <message>
+        <source>No skills yet.</source>
+        <translation>还没有技能。</translation>
+    </message>
+    <message>
+        <source>%1 cannot use skills now.</source>
+        <extracomment>%1 is somebody&apos;s name.</extracomment>
+        <translation>%1现在不能使用技能。</translation>
+    </message>
+    <message>
+        <source>Not enough MP.</source>
+        <translation>MP不足。</translation>
+    </message>
+    <message>
+        <source>It would do nothing.</source>
+        <translation>使用了也没有效果。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusScene</name>
+    <message>
+        <source>%1 EXP to the next level</source>
+        <extracomment>%1 is a number of points of experience.</extracomment>
+        <translation>距下一级还需经验值 %1</translation>
+    </message>
+    <message>
+        <source>No higher level.</source>
+        <translation>等级已达上限。</translation>
+    </message>
+    <message>
+        <source>Left and right: the others</source>
+        <translation>左右键：查看其他队员</translation>
+    </message>
+</context>
+<context>
     <name>StripControl</name>
     <message>
         <source>The guide does not answer.</source>
@@ -409,6 +885,109 @@
         <source>Cancel</source>
         <extracomment>A button: nothing changes.</extracomment>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Terms</name>
+    <message>
+        <source>G</source>
+        <extracomment>The unit of money in a game, behind the amount.</extracomment>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words of a list.</extracomment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>等级</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>经验值</translation>
+    </message>
+    <message>
+        <source>Attack</source>
+        <translation>攻击力</translation>
+    </message>
+    <message>
+        <source>Defense</source>
+        <translation>防御力</translation>
+    </message>
+    <message>
+        <source>Agility</source>
+        <translation>敏捷</translation>
+    </message>
+    <message>
+        <source>Weapon</source>
+        <translation>武器</translation>
+    </message>
+    <message>
+        <source>Armor</source>
+        <translation>防具</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>物品</translation>
+    </message>
+    <message>
+        <source>Skills</source>
+        <translation>技能</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>TitleScene</name>
+    <message>
+        <source>New game</source>
+        <translation>新游戏</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续游戏</translation>
+    </message>
+    <message>
+        <source>There is no saved game yet.</source>
+        <translation>还没有存档。</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>There is nothing to set in test play.</source>
+        <translation>测试游戏中没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>制作人员</translation>
+    </message>
+    <message>
+        <source>There are no credits in test play.</source>
+        <translation>测试游戏中没有制作人员名单。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出游戏</translation>
+    </message>
+</context>
+<context>
+    <name>UseOnParty</name>
+    <message>
+        <source>It cannot be used.</source>
+        <translation>不能使用。</translation>
+    </message>
+    <message>
+        <source>It is of use in battle only.</source>
+        <translation>只能在战斗中使用。</translation>
+    </message>
+    <message>
+        <source>Use it on whom?</source>
+        <translation>对谁使用？</translation>
     </message>
 </context>
 </TS>

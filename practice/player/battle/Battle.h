@@ -17,7 +17,7 @@ struct GameState;
 /// deed. The party's points and states are those in the state of the game.
 class Battle
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(Battle)
 
 public:
     enum class Result { kGoesOn, kWon, kLost, kFled, kAborted };

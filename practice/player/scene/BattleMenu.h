@@ -16,7 +16,7 @@ struct GameState;
 /// Asks the party, one after the other, what to do in a turn, and gives it to the battle.
 class BattleMenu
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(BattleMenu)
 
 public:
     enum class Answer { kNone, kReady, kFlee };

@@ -13,7 +13,7 @@ struct GameState;
 /// What a battle says.
 class BattleWords
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(BattleWords)
 
 public:
     /// Empty where nothing is said of it.

@@ -9,7 +9,7 @@ namespace player {
 /// The game is lost; a key leads to the title.
 class GameOverScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(GameOverScene)
 
 public:
     GameOverScene();

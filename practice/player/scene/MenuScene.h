@@ -10,7 +10,7 @@ namespace player {
 /// The menu over the map. It closes when an item or skill asks for a common event, which the map runs.
 class MenuScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(MenuScene)
 
 public:
     MenuScene();

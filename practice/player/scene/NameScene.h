@@ -10,7 +10,7 @@ namespace player {
 /// Gives an actor a name, typed or chosen letter by letter.
 class NameScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(NameScene)
 
 public:
     /// @p actor is the number, @p letters how many the name may have.

@@ -26,7 +26,7 @@ struct SaveSlot
 /// whole or not at all.
 class SaveFiles
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(SaveFiles)
 
 public:
     static constexpr int kSlots = 10;

@@ -11,7 +11,7 @@ namespace player {
 /// The saved games of the project: one is written, or gone on with.
 class SaveScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(SaveScene)
 
 public:
     enum class Mode { kSave, kLoad };

@@ -12,7 +12,7 @@ namespace player {
 /// Buying and selling.
 class ShopScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(ShopScene)
 
 public:
     ShopScene(const QVector<ShopGoods> &goods, bool onlyBuys);

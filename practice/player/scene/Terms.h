@@ -11,7 +11,7 @@ struct GameData;
 /// The words that several screens of a game have in common.
 class Terms
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(Terms)
 
 public:
     static QString level() { return tr("Level"); }

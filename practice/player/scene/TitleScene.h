@@ -10,7 +10,7 @@ namespace player {
 /// What a game begins with: its picture, its title, and what can be done.
 class TitleScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(TitleScene)
 
 public:
     TitleScene();

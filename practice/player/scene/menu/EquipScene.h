@@ -12,7 +12,7 @@ struct Actor;
 /// What one of the party wears; what would change by other things from the bag is shown.
 class EquipScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(EquipScene)
 
 public:
     /// @p place in the party, from 0.

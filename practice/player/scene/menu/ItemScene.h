@@ -8,7 +8,7 @@ namespace player {
 /// What is in the bag.
 class ItemScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(ItemScene)
 
 public:
     ItemScene();

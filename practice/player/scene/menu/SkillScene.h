@@ -10,7 +10,7 @@ struct Actor;
 /// The skills of one of the party.
 class SkillScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(SkillScene)
 
 public:
     /// @p place in the party, from 0.

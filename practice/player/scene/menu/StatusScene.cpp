@@ -49,7 +49,9 @@ void StatusScene::show(const Game &game, Frame *frame) const
     who.rect = kWho;
     who.face = actor->image;
     const QString states = Terms::states(actor->states, data);
-    const bool isHighest = actor->level >= actor->maxLevel;
+    const int missing = Actor::expOfLevel(actor->level + 1) - actor->exp;
+    //: %1 is a number of points of experience.
+    const QString next = tr("%1 EXP to the next level").arg(missing);
     who.lines = {
         PanelLine(QStringLiteral("%1  %2").arg(actor->name, data.classes.name(actor->classId))),
         PanelLine(QStringLiteral("%1 %2  %3 %4")
@@ -57,10 +59,7 @@ void StatusScene::show(const Game &game, Frame *frame) const
                       .arg(actor->level)
                       .arg(Terms::exp())
                       .arg(actor->exp)),
-        //: %1 is a number of points of experience.
-        PanelLine(isHighest
-                      ? tr("No higher level.")
-                      : tr("%1 EXP to the next level").arg(Actor::expOfLevel(actor->level + 1) - actor->exp)),
+        PanelLine(actor->level >= actor->maxLevel ? tr("No higher level.") : next),
         PanelLine(states),
     };
     who.isWaiting = true;

@@ -9,7 +9,7 @@ namespace player {
 /// What one of the party is and can do; left and right turn to the others.
 class StatusScene : public Scene
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(StatusScene)
 
 public:
     /// @p place in the party, from 0.

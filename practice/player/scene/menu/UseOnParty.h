@@ -12,7 +12,7 @@ class Game;
 /// Chooses on whom of the party a skill or item is used, outside of battles, and does it.
 class UseOnParty
 {
-    Q_DECLARE_TR_FUNCTIONS(TestPlay)
+    Q_DECLARE_TR_FUNCTIONS(UseOnParty)
 
 public:
     enum class Result { kNone, kUsed, kCancelled };
