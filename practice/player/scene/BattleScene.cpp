@@ -2,6 +2,7 @@
 
 #include "player/battle/Battle.h"
 #include "player/battle/Spoils.h"
+#include "player/battle/TrialParty.h"
 #include "player/scene/BattleOrders.h"
 #include "player/scene/BattleWords.h"
 #include "player/scene/Game.h"
@@ -51,8 +52,9 @@ QVector<Message> messagesOf(const QStringList &lines)
 
 } // namespace
 
-BattleScene::BattleScene(const BattleWish &wish, bool, const Game &)
+BattleScene::BattleScene(const BattleWish &wish, bool isTest, const Game &)
     : m_wish(wish)
+    , m_isTest(isTest)
 {
 }
 
@@ -61,6 +63,9 @@ BattleScene::~BattleScene() = default;
 void BattleScene::begin(Game *game)
 {
     GameState &state = game->state();
+    if (m_isTest) {
+        joinTrialParty(game->data(), &state);
+    }
     m_battle = std::make_unique<Battle>(game->data(), &state, m_wish.troop, m_wish.canFlee);
     m_orders = std::make_unique<BattleOrders>(m_battle.get(), &game->data(), &state.random);
     m_interpreter = std::make_unique<Interpreter>(&game->data(), &state, this,

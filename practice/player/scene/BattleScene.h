@@ -20,6 +20,7 @@ class Interpreter;
 class BattleScene : public Scene, public Stage
 {
 public:
+    /// A trial battle, @p isTest, is fought by the party that the database has for it.
     BattleScene(const BattleWish &wish, bool isTest, const Game &game);
     ~BattleScene() override;
 
@@ -56,6 +57,7 @@ private:
     void sound(const Note &note, Game *game);
 
     BattleWish m_wish;
+    bool m_isTest;
     /// While a tick is on.
     Game *m_game = nullptr;
     std::unique_ptr<Battle> m_battle;
