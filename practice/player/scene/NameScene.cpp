@@ -61,7 +61,7 @@ void NameScene::type(const QString &text)
 {
     const QStringList letters = lettersOf(text);
     for (const QString &letter : letters) {
-        if (!isFull() && letter.at(0).isPrint()) {
+        if (!isFull() && QChar::isPrint(letter.toUcs4().constFirst())) {
             m_name.append(letter);
         }
     }

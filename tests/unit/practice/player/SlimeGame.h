@@ -108,16 +108,16 @@ private:
     void addState(int id, const QString &name, int restriction, int timing, int turns,
                   const player::NamedNumbers &traits)
     {
-        player::StateEntry state;
-        state.id = id;
-        state.name = name;
-        state.restriction = restriction;
-        state.autoRemovalTiming = timing;
-        state.minTurns = turns;
-        state.maxTurns = turns;
-        state.endsWithBattle = true;
-        state.traits = traits;
-        data->states.insert(state);
+        player::StateEntry entry;
+        entry.id = id;
+        entry.name = name;
+        entry.restriction = restriction;
+        entry.autoRemovalTiming = timing;
+        entry.minTurns = turns;
+        entry.maxTurns = turns;
+        entry.endsWithBattle = true;
+        entry.traits = traits;
+        data->states.insert(entry);
     }
 
     void addStates()

@@ -76,6 +76,7 @@ void tst_BattleScene::aBattleIsFoughtToItsVictory()
 {
     SlimeGame small;
     small.setTroop(2);
+    SlimeGame::change(&small.data->enemies, 1, [](EnemyEntry *slime) { slime->hp = 4; });
     small.begin();
     BattleRun run(small);
     QVERIFY(run.hurry("commands"));

@@ -113,7 +113,8 @@ void tst_ShopScene::thingsAreSoldForHalfTheirPrice()
     run.act();
     QCOMPARE(run.game.state().gold, 30);
     QCOMPARE(run.game.state().count(Goods::kItem, SlimeGame::kTonic), 0);
-    QVERIFY(run.rows().isEmpty());
+    QVERIFY(run.game.frame().panel("bag")->rows.isEmpty());
+    QCOMPARE(run.help(), QStringLiteral("The bag is empty."));
 }
 
 void tst_ShopScene::keyThingsAreNotBought()
