@@ -548,8 +548,8 @@
     <name>NameScene</name>
     <message>
         <source>ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-&apos;. </source>
-        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 12 in a row. Take those that names in your language are written with.</extracomment>
-        <translation>あいうえおかきくけこさしすせそたちつてとなにぬねのはひふへほまみむめもやゆよらりるれろわをんがぎぐげござじずぜぞだぢづでどばびぶべぼぱぴぷぺぽゃゅょっーアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤユヨラリルレロワヲンガギグゲゴザジズゼゾダヂヅデドバビブベボパピプペポャュョッァィゥェォ・</translation>
+        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 10 in a row. Take those that names in your language are written with.</extracomment>
+        <translation>あいうえおかきくけこさしすせそたちつてとなにぬねのはひふへほまみむめもらりるれろやゆよわをんゃゅょっがぎぐげござじずぜぞだぢづでどばびぶべぼぱぴぷぺぽぁぃぅぇぉアイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモラリルレロヤユヨワヲンャュョッガギグゲゴザジズゼゾダヂヅデドバビブベボパピプペポァィゥェォー・</translation>
     </message>
     <message>
         <source>Type a name, or choose its letters.</source>

@@ -548,7 +548,7 @@
     <name>NameScene</name>
     <message>
         <source>ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-&apos;. </source>
-        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 12 in a row. Take those that names in your language are written with.</extracomment>
+        <extracomment>The letters from which a name can be put together, in the order in which they are shown, 10 in a row. Take those that names in your language are written with.</extracomment>
         <translation>小大明华文国志海天宇晨阳子安平乐宁林云星月雨雪风花春夏秋冬梅兰竹菊玉珠金银石山川江河湖龙虎凤鹤燕勇强军建东西南北中美丽红青白黑心思爱欣慧静雅婷娜莉ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz·</translation>
     </message>
     <message>

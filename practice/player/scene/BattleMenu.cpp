@@ -12,7 +12,7 @@ namespace {
 
 const QRect kCommandRect(8, 184, 180, 168);
 const QRect kWideRect(8, 208, 624, 144);
-const QRect kTargetRect(8, 208, 300, 144);
+const QRect kTargetRect = kCommandRect;
 
 } // namespace
 
@@ -33,6 +33,12 @@ void BattleMenu::begin(const Battle &battle)
 Fighter BattleMenu::asked() const
 {
     return m_place < m_asked.size() ? m_asked.at(m_place) : Fighter();
+}
+
+bool BattleMenu::isWide() const
+{
+    const Step step = m_open.isEmpty() ? Step::kCommands : m_open.constLast().step;
+    return step == Step::kSkills || step == Step::kItems;
 }
 
 Fighter BattleMenu::aimedAt() const
@@ -207,9 +213,7 @@ void BattleMenu::listTargets(const Fighters &fighters, bool ofEnemies)
     QVector<ListRow> rows;
     const QVector<Fighter> possible = ofEnemies ? fighters.standing(true) : fighters.party();
     for (const Fighter &fighter : possible) {
-        const QString points =
-            QStringLiteral("HP %1/%2").arg(fighters.hp(fighter)).arg(fighters.maxHp(fighter));
-        rows.append({fighters.name(fighter), ofEnemies ? QString() : points, tr("Whom?"), {}, fighter.place});
+        rows.append({fighters.name(fighter), {}, tr("Whom?"), {}, fighter.place});
     }
     ListPanel list(ofEnemies ? QStringLiteral("enemies") : QStringLiteral("party"), kTargetRect);
     list.setRows(rows);
@@ -222,9 +226,7 @@ void BattleMenu::show(Frame *frame) const
         return;
     }
     frame->panels.append(ListPanel::helpPanel(m_open.constLast().list.help()));
-    for (const Open &open : m_open) {
-        frame->panels.append(open.list.panel());
-    }
+    frame->panels.append(m_open.constLast().list.panel());
 }
 
 } // namespace player

@@ -26,6 +26,8 @@ public:
     Answer tick(const Input &input, Battle *battle, const GameData &data, const GameState &state);
     void show(Frame *frame) const;
 
+    /// The list that is open takes the place of the party.
+    [[nodiscard]] bool isWide() const;
     /// Who is asked; nobody while none is.
     [[nodiscard]] Fighter asked() const;
     /// The fighter whom the cursor is on.

@@ -114,6 +114,7 @@ bool BattleScene::tickLog(const Input &input, Game *game)
         return true;
     }
     if (m_told.isEmpty()) {
+        m_view.seeAll();
         return false;
     }
     const Told told = m_told.takeFirst();
@@ -126,6 +127,7 @@ bool BattleScene::tickLog(const Input &input, Game *game)
     m_view.animation = told.animation;
     m_view.ticks = 0;
     if (told.hasNote) {
+        m_view.follow(told.note);
         sound(told.note, game);
     }
     return true;
@@ -145,19 +147,21 @@ void BattleScene::goOn(const Input &input, Game *game)
         return;
     }
     if (m_battle->hasForced()) {
+        m_view.keep(*m_battle);
         tell(m_battle->next());
         m_battle->pages().beginMoment();
         return;
     }
     switch (m_phase) {
     case Phase::kTurnBegins:
+        m_view.log.clear();
+        m_view.hasLatest = false;
         m_battle->beginTurn();
         m_battle->pages().beginMoment();
         m_menu.begin(*m_battle);
         m_phase = Phase::kCommands;
         break;
     case Phase::kCommands: {
-        m_view.hasLatest = false;
         const BattleMenu::Answer answer = m_menu.tick(input, m_battle.get(), game->data(), game->state());
         m_view.asked = m_menu.asked();
         m_view.aimedAt = m_menu.aimedAt();
@@ -175,8 +179,9 @@ void BattleScene::goOn(const Input &input, Game *game)
         break;
     }
     default:
+        m_view.log.clear();
+        m_view.keep(*m_battle);
         if (m_battle->hasNext()) {
-            m_view.log.clear();
             tell(m_battle->next());
         } else {
             tell(m_battle->endTurn());
@@ -287,9 +292,13 @@ void BattleScene::show(const Game &game, Frame *frame) const
     if (m_battle == nullptr) {
         return;
     }
-    m_view.show(*m_battle, game.data(), frame);
-    if (m_phase == Phase::kCommands && !m_talk.isTalking() && !m_interpreter->isRunning() &&
-        m_told.isEmpty()) {
+    const bool isAsking =
+        m_phase == Phase::kCommands && !m_talk.isTalking() && !m_interpreter->isRunning() && m_told.isEmpty();
+    BattleView view = m_view;
+    view.hidesParty = m_talk.isTalking() || (isAsking && m_menu.isWide());
+    view.hidesLog = isAsking;
+    view.show(*m_battle, game.data(), frame);
+    if (isAsking) {
         m_menu.show(frame);
     }
     m_talk.show(game, frame);

@@ -11,6 +11,8 @@ namespace {
 constexpr int kLinesOfLog = 2;
 const QRect kLog(8, 8, 624, 72);
 constexpr int kFlashTicks = 8;
+/// Of the opacity of who falls, in a tick.
+constexpr int kFadeAway = 7;
 constexpr int kTicksOfPicture = 4;
 
 /// The field of a troop is as high as the screen, and its members stand around their places. Here the lower
@@ -27,26 +29,66 @@ bool isPoints(Note::Kind kind)
 
 } // namespace
 
+void BattleView::keep(const Battle &battle)
+{
+    m_kept.clear();
+    const QVector<Fighter> fighters = battle.fighters().all();
+    for (const Fighter &fighter : fighters) {
+        m_kept.append({fighter, battle.fighters().hp(fighter)});
+    }
+}
+
+void BattleView::follow(const Note &note)
+{
+    for (Kept &kept : m_kept) {
+        if (kept.who == note.who && note.kind == Note::Kind::kLosesHp) {
+            kept.hp = qMax(0, kept.hp - note.amount);
+        } else if (kept.who == note.who && note.kind == Note::Kind::kGainsHp) {
+            kept.hp += note.amount;
+        }
+    }
+}
+
+int BattleView::hpOf(const Battle &battle, const Fighter &fighter) const
+{
+    for (const Kept &kept : m_kept) {
+        if (kept.who == fighter) {
+            return kept.hp;
+        }
+    }
+    return battle.fighters().hp(fighter);
+}
+
 void BattleView::show(const Battle &battle, const GameData &data, Frame *frame) const
 {
     showEnemies(battle, data, frame);
-    showParty(battle, data, frame);
-    showLog(frame);
+    if (!hidesParty) {
+        showParty(battle, data, frame);
+    }
+    if (!hidesLog) {
+        showLog(frame);
+    }
 }
 
 void BattleView::showEnemies(const Battle &battle, const GameData &data, Frame *frame) const
 {
-    const QVector<Fighter> troop = battle.fighters().standing(true);
+    const QVector<Fighter> troop = battle.fighters().present(true);
     for (const Fighter &fighter : troop) {
         const Enemy *enemy = battle.fighters().enemy(fighter);
+        const int hp = hpOf(battle, fighter);
+        const bool isStruck = hasLatest && latest.who == fighter;
+        if (hp <= 0 && !isStruck) {
+            continue;
+        }
         FrameBattler shown;
         shown.name = battle.fighters().name(fighter);
         shown.image = enemy->image;
         shown.at = feetOf(enemy->at);
-        shown.hp = enemy->hp;
+        shown.hp = hp;
+        shown.opacity = hp > 0 ? 255 : qMax(0, 255 - kFadeAway * ticks);
         shown.maxHp = enemy->maxHp(data);
         shown.isSelected = aimedAt == fighter;
-        if (hasLatest && latest.who == fighter) {
+        if (isStruck) {
             shown.flashes = latest.kind == Note::Kind::kLosesHp && ticks < kFlashTicks;
             shown.popup = isPoints(latest.kind) ? QString::number(latest.amount) : QString();
             const AnimationEntry *entry = data.animations.find(animation);
@@ -69,12 +111,16 @@ void BattleView::showParty(const Battle &battle, const GameData &data, Frame *fr
     panel.rect = QRect(196, Frame::kHeight - 8 - height, 436, height);
     for (const Fighter &fighter : party) {
         const Actor *actor = battle.fighters().actor(fighter);
+        if (actor == nullptr) {
+            continue;
+        }
         const QString states = Terms::states(battle.fighters().states(fighter), data);
         const QString name = battle.fighters().name(fighter);
         const int place = int(panel.lines.size());
         panel.lines.append(PanelLine(states.isEmpty() ? name : name + QStringLiteral(" · ") + states));
         const int top = 10 + 24 * place;
-        panel.gauges.append({Terms::hp(), actor->hp, actor->maxHp(data), QRect(212, top, 112, 22)});
+        panel.gauges.append(
+            {Terms::hp(), hpOf(battle, fighter), actor->maxHp(data), QRect(212, top, 112, 22)});
         panel.gauges.append({Terms::mp(), actor->mp, actor->maxMp(data), QRect(336, top, 88, 22)});
         if (fighter == asked || fighter == aimedAt) {
             panel.lines.last().runs.first().colour = 6;

@@ -4,6 +4,7 @@
 #include "player/scene/Frame.h"
 
 #include <QStringList>
+#include <QVector>
 
 namespace player {
 
@@ -25,12 +26,31 @@ struct BattleView
     /// Number of an animation that is shown over whom the latest note is about; 0 for none.
     int animation = 0;
 
+    /// Something lies over the places of these.
+    bool hidesParty = false;
+    bool hidesLog = false;
+
+    /// What happens from now on is seen when it is told, by follow(), and at once again after seeAll().
+    void keep(const Battle &battle);
+    void follow(const Note &note);
+    void seeAll() { m_kept.clear(); }
+
     void show(const Battle &battle, const GameData &data, Frame *frame) const;
 
 private:
+    struct Kept
+    {
+        Fighter who;
+        int hp = 0;
+    };
+
+    [[nodiscard]] int hpOf(const Battle &battle, const Fighter &fighter) const;
     void showEnemies(const Battle &battle, const GameData &data, Frame *frame) const;
     void showParty(const Battle &battle, const GameData &data, Frame *frame) const;
     void showLog(Frame *frame) const;
+
+    /// HP as they have been told.
+    QVector<Kept> m_kept;
 };
 
 } // namespace player

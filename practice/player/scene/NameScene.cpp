@@ -9,7 +9,7 @@ namespace player {
 
 namespace {
 
-constexpr int kColumns = 12;
+constexpr int kColumns = 10;
 constexpr int kMostLetters = 16;
 const QRect kName(8, 64, 624, 120);
 const QRect kGrid(8, 192, 624, 160);
@@ -46,7 +46,7 @@ void NameScene::begin(const Game &game)
         m_name = lettersOf(entry->name).mid(0, m_most);
         m_face = entry->image;
     }
-    //: The letters from which a name can be put together, in the order in which they are shown, 12 in a row.
+    //: The letters from which a name can be put together, in the order in which they are shown, 10 in a row.
     //: Take those that names in your language are written with.
     m_grid = lettersOf(tr("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-'. "));
     m_cursor = RowCursor(int(m_grid.size()) + 2, kColumns);
