@@ -1,7 +1,7 @@
 #include "lesson-check/StepCheck.h"
 
-#include "lesson-check/ControlCheck.h"
 #include "lesson/Condition.h"
+#include "lesson/description/KnownWords.h"
 
 #include <QPoint>
 
@@ -43,9 +43,9 @@ private:
 
     void checkWindow()
     {
-        if (!m_windows.contains(m_step->windowKey)) {
-            report(QStringLiteral("windowKey"),
-                   QStringLiteral("no window has the key \"%1\"").arg(m_step->windowKey));
+        const QString problem = KnownWords::windowProblem(m_step->windowKey, m_windows);
+        if (!problem.isEmpty()) {
+            report(QStringLiteral("windowKey"), problem);
         }
     }
 
@@ -101,19 +101,16 @@ private:
         QString problem = QStringLiteral("\"\" is not a condition type");
         const std::optional<Condition> condition =
             m_step->condition.isEmpty() ? std::nullopt : Condition::parse(m_step->condition, &problem);
-        if (!condition) {
+        if (condition) {
+            // What is of a control cannot be looked for without the window.
+            const bool hasWindow = !condition->isOfControl() || m_step->isRead("windowKey");
+            problem = hasWindow ? KnownWords::conditionProblem(*condition, m_step->windowKey, m_windows)
+                                : QString();
+        }
+        if (!problem.isEmpty()) {
             report(QStringLiteral("condition"), problem);
-        } else if (condition->type() == Condition::Type::kWindowState &&
-                   !m_windows.contains(condition->target())) {
-            report(QStringLiteral("condition"),
-                   QStringLiteral("no window has the key \"%1\"").arg(condition->target()));
-        } else if (condition->type() == Condition::Type::kAction) {
-            checkAction(condition->target(), condition->value());
-        } else if (m_step->isRead("windowKey")) {
-            const QString missing = controlProblem(*condition, m_step->windowKey, m_windows);
-            if (!missing.isEmpty()) {
-                report(QStringLiteral("condition"), missing);
-            }
+        } else if (condition && condition->type() == Condition::Type::kAction) {
+            checkActionState(condition->target(), condition->value());
         }
         if (Condition::wordOf(m_step->condition) != QLatin1String("yesNo") &&
             m_step->jumpNo != LessonWords::kNoJump) {
@@ -122,13 +119,10 @@ private:
         }
     }
 
-    void checkAction(const QString &action, const QString &state)
+    void checkActionState(const QString &action, const QString &state)
     {
         const QStringList states = m_windows.actionStates(action);
-        if (states.isEmpty()) {
-            report(QStringLiteral("condition"),
-                   QStringLiteral("no window has the action \"%1\"").arg(action));
-        } else if (!states.contains(state)) {
+        if (!states.contains(state)) {
             report(QStringLiteral("condition"),
                    QStringLiteral("the action %1 reports \"action,%1,%2\"").arg(action, states.first()));
         }

@@ -187,6 +187,11 @@ bool ControlAction::isEmpty() const
     return run.isEmpty() && !close && open.isEmpty() && popup.isEmpty();
 }
 
+bool ControlDescription::isCalled(const QString &word) const
+{
+    return name.section(QLatin1Char('/'), -1) == word;
+}
+
 int ControlDescription::tabLeft(int tab) const
 {
     int left = 0;
@@ -208,6 +213,11 @@ int ControlDescription::tabAt(int x) const
         ++tab;
     }
     return tab;
+}
+
+QString ControlDescription::target() const
+{
+    return own.object.value(str("target")).toString();
 }
 
 QVector<QPair<QString, ControlAction>> ControlDescription::actions() const

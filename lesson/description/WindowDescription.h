@@ -76,12 +76,19 @@ struct ControlDescription
     /// The fields that only controls of its type have; who makes the controls reads them.
     JsonPlace own;
 
+    /// What a click on a map or on one of its cells is reported of; empty for other controls.
+    [[nodiscard]] QString target() const;
+
     /// Where tab number @p tab begins, from the left of the row, and how wide it is. Tabs behind the last one
     /// are as wide as that.
     [[nodiscard]] int tabLeft(int tab) const;
     [[nodiscard]] int tabWidth(int tab) const;
     /// The tab at @p x from the left of the row, or, behind the last one, the tab that would be there.
     [[nodiscard]] int tabAt(int x) const;
+
+    /// Whether @p word is what events and conditions call it: its name, without the code of the command that
+    /// a form's controls have ahead.
+    [[nodiscard]] bool isCalled(const QString &word) const;
 
     /// All that it does, by the field that says so, with what it does otherwise.
     [[nodiscard]] QVector<QPair<QString, ControlAction>> actions() const;

@@ -125,17 +125,19 @@ bool EditorWays::reports(const ControlSpot &spot, const Condition &condition) co
     case Type::kSpinBox:
         return is("spinBox");
     case Type::kComboBox:
-        return is("comboBox") && control->name == condition.target();
+        return is("comboBox") && control->isCalled(condition.target());
     case Type::kChecked:
-        return is("checkBox") && control->name == condition.target();
+        return is("checkBox") && control->isCalled(condition.target());
     case Type::kTextLength:
-        return (is("lineEdit") || is("textEdit")) && control->name == condition.target();
+        return (is("lineEdit") || is("textEdit")) && control->isCalled(condition.target());
     case Type::kRadioButton:
         return is("radioButton") &&
                QString::number(control->own.object.value(QLatin1String("index")).toInt(-1)) ==
                    condition.value();
     case Type::kMouseEvent:
+        return control->target() == condition.target();
     case Type::kMenuEvent:
+        return is("map") && control->target() == condition.target();
     case Type::kPressed:
         return is("map");
     default:

@@ -142,7 +142,8 @@ void EditorWindow::run(const QString &command, const QJsonValue &entry)
 void EditorWindow::report(const QString &type, const QString &target, const QString &value,
                           const ControlSpot &cause)
 {
-    Q_EMIT happened(type, target, value, cause);
+    // A form's controls have the code of their command ahead, which no condition needs.
+    Q_EMIT happened(type, target.section(QLatin1Char('/'), -1), value, cause);
 }
 
 bool EditorWindow::meets(const QVector<ControlRequirement> &requirements) const

@@ -101,6 +101,12 @@ void tst_LessonScenario::namesTheFinding_data()
         IN_SCENARIO "53: item 4, \"condition\": no window has the action \"fileShut\"");
     row("action with another last word", "action,fileOpen,open", "action,fileOpen,",
         IN_SCENARIO "53: item 4, \"condition\": the action fileOpen reports \"action,fileOpen,open\"");
+    row("context menu that there is not", "action,fileOpen,open", "popup,RowPopup",
+        IN_SCENARIO "53: item 4, \"condition\": no context menu is called \"RowPopup\"");
+    row("click on what there is not", "action,fileOpen,open", "mouseEvent,Chart,click",
+        IN_SCENARIO "53: item 4, \"condition\": no window has the target \"Chart\"");
+    row("right click on what there is not", "action,fileOpen,open", "menuEvent,Chart,click",
+        IN_SCENARIO "53: item 4, \"condition\": no window has the target \"Chart\"");
     const auto noControl = [&row](const char *condition, const char *missing) {
         const QByteArray error =
             QByteArray(IN_SCENARIO "53: item 4, \"condition\": the window MainWindow has ") + missing +

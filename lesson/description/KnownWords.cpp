@@ -1,4 +1,4 @@
-#include "lesson-check/ControlCheck.h"
+#include "lesson/description/KnownWords.h"
 
 #include <QJsonArray>
 
@@ -7,12 +7,6 @@
 namespace {
 
 using Type = Condition::Type;
-
-bool isCalled(const ControlDescription &control, const QString &name)
-{
-    // A form's controls have the code of their command ahead.
-    return control.name == name || control.name.endsWith(QLatin1Char('/') + name);
-}
 
 bool isTextField(const ControlDescription &control)
 {
@@ -48,14 +42,14 @@ bool serves(const ControlDescription &control, const Condition &condition)
     case Type::kSpinBox:
         return canShow(control, condition.value());
     case Type::kComboBox:
-        return control.type == QLatin1String("comboBox") && isCalled(control, target);
+        return control.type == QLatin1String("comboBox") && control.isCalled(target);
     case Type::kChecked:
-        return control.type == QLatin1String("checkBox") && isCalled(control, target);
+        return control.type == QLatin1String("checkBox") && control.isCalled(target);
     case Type::kRadioButton:
         return control.type == QLatin1String("radioButton") &&
                control.own.object.value(QStringLiteral("index")).toInt(-1) == condition.value().toInt();
     case Type::kTextLength:
-        return isTextField(control) && isCalled(control, target);
+        return isTextField(control) && control.isCalled(target);
     default:
         return true;
     }
@@ -82,13 +76,10 @@ QString wanted(const Condition &condition)
     }
 }
 
-} // namespace
-
 QString controlProblem(const Condition &condition, const QString &windowKey, const DescriptionSet &windows)
 {
     // The keys of the screen and of the editor as a whole take any window.
-    if (!condition.isOfControl() || condition.type() == Type::kAction || !windows.contains(windowKey) ||
-        windows[windowKey].kind == WindowDescription::Kind::kArea) {
+    if (!windows.contains(windowKey) || windows[windowKey].kind == WindowDescription::Kind::kArea) {
         return {};
     }
     const QVector<ControlDescription> &controls = windows[windowKey].controls;
@@ -98,4 +89,47 @@ QString controlProblem(const Condition &condition, const QString &windowKey, con
     return isServed ? QString()
                     : QStringLiteral("the window %1 has %2; lesson-position %1 lists its controls")
                           .arg(windowKey, wanted(condition));
+}
+
+bool hasTarget(const DescriptionSet &windows, const QString &target)
+{
+    const QStringList keys = windows.keys();
+    return std::any_of(keys.cbegin(), keys.cend(), [&](const QString &key) {
+        const QVector<ControlDescription> &controls = windows[key].controls;
+        return std::any_of(controls.cbegin(), controls.cend(), [&target](const ControlDescription &control) {
+            return control.target() == target;
+        });
+    });
+}
+
+} // namespace
+
+QString KnownWords::windowProblem(const QString &windowKey, const DescriptionSet &windows)
+{
+    return windows.contains(windowKey) ? QString()
+                                       : QStringLiteral("no window has the key \"%1\"").arg(windowKey);
+}
+
+QString KnownWords::conditionProblem(const Condition &condition, const QString &windowKey,
+                                     const DescriptionSet &windows)
+{
+    const QString target = condition.target();
+    switch (condition.type()) {
+    case Type::kWindowState:
+        return windowProblem(target, windows);
+    case Type::kAction:
+        return !windows.actionStates(target).isEmpty()
+                   ? QString()
+                   : QStringLiteral("no window has the action \"%1\"").arg(target);
+    case Type::kPopup:
+        return windows.popup(target) != nullptr
+                   ? QString()
+                   : QStringLiteral("no context menu is called \"%1\"").arg(target);
+    case Type::kMouseEvent:
+    case Type::kMenuEvent:
+        return hasTarget(windows, target) ? QString()
+                                          : QStringLiteral("no window has the target \"%1\"").arg(target);
+    default:
+        return condition.isOfControl() ? controlProblem(condition, windowKey, windows) : QString();
+    }
 }
