@@ -1,13 +1,13 @@
 #include "PilotPlay.h"
 
 #include "lesson/LessonWords.h"
+#include "strip/LessonCatalog.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
 
 namespace {
 
-constexpr int kLessons = 19;
 const QString kAll = QStringLiteral("all");
 
 /// What the option @p name names of @p known: one, or all of them with @p all.
@@ -47,7 +47,8 @@ QString PilotPlay::folderName() const
 QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem)
 {
     QStringList numbers;
-    for (int number = 1; number <= kLessons; ++number) {
+    const int lessonCount = LessonCatalog(QString()).count();
+    for (int number = 1; number <= lessonCount; ++number) {
         numbers += QString::number(number);
     }
     const QString scenario = parser.value(QStringLiteral("scenario"));

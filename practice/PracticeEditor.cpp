@@ -33,12 +33,14 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_course(&m_session, options.locale, options.progressFolder)
     , m_strip(new LessonStrip)
     , m_control(new StripControl(&m_session, &m_course, m_strip, this))
+    , m_place(options.placeFile)
     , m_link(options.companionProgram, options.key, options.locale)
 {
     m_windows->dock(m_strip);
     m_windows->setUnattended(options.unattended);
-    if (!options.projectsFolder.isEmpty()) {
-        m_windows->setProjectsFolder(options.projectsFolder);
+    const QString chosen = m_place.place();
+    if (const QString place = chosen.isEmpty() ? options.projectsFolder : chosen; !place.isEmpty()) {
+        m_windows->setProjectsFolder(place);
     }
     connect(m_windows.get(), &EditorWindows::mainWindowClosed, this, [this] { Q_EMIT ended(0); });
     connect(m_windows.get(), &EditorWindows::problemFound, this, &PracticeEditor::tellPerson);
@@ -160,6 +162,8 @@ void PracticeEditor::connectProject()
                 QStringLiteral("The project of the lesson stands in %1").arg(m_windows->projectFolder()));
         }
     });
+    connect(m_windows.get(), &EditorWindows::projectLeft, this,
+            [this] { m_place.take(m_windows->projectFolder()); });
     connect(&m_lessonProject, &LessonProject::failed, this, &PracticeEditor::tellPerson);
 }
 
@@ -181,7 +185,7 @@ void PracticeEditor::onListed()
     }
     const QString lesson =
         m_options.lesson > 0 ? QStringLiteral("TutorialStep%1").arg(m_options.lesson) : QString();
-    if (lesson.isEmpty() || m_course.entry(lesson).progress.step > 0) {
+    if (lesson.isEmpty() || (!m_options.beginsAtOnce && m_course.entry(lesson).progress.step > 0)) {
         m_control->openChooser(lesson); // which one, or from where
     } else {
         m_course.begin(lesson);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PlaceMemory.h"
 #include "host/HostLink.h"
 #include "host/LessonSession.h"
 #include "project/LessonProject.h"
@@ -33,8 +34,13 @@ public:
         QString companionProgram;
         /// Key of the link; empty for a random one.
         QString key;
-        /// Where new projects are offered to go; empty for the windows' own choice.
+        /// The lesson begins without the question from where.
+        bool beginsAtOnce = false;
+        /// Where new projects are offered to go until the person has chosen a place; empty for the windows'
+        /// own choice.
         QString projectsFolder;
+        /// The file that keeps the place which the person has chosen from run to run; empty: none does.
+        QString placeFile;
         /// Where the progress of the lessons is kept from run to run; empty: nowhere.
         QString progressFolder;
     };
@@ -87,6 +93,7 @@ private:
     LessonStrip *m_strip;
     StripControl *m_control;
     LessonProject m_lessonProject;
+    PlaceMemory m_place;
     HostLink m_link;
     QPointer<QWindow> m_mainWindow; ///< watched; null before start()
     /// What the person wanted from the start has been seen to.

@@ -6,6 +6,7 @@
 #include "PracticeTranslator.h"
 #include "lesson/LessonWords.h"
 #include "platform/Platform.h"
+#include "strip/LessonCatalog.h"
 #include "window/EditorWindowSet.h"
 #include "window/ToolIcon.h"
 
@@ -30,6 +31,12 @@ QString defaultLocale()
 {
     const QString name = QLocale::system().name();
     return LessonWords::locales().contains(name) ? name : LessonWords::locales().constFirst();
+}
+
+/// How many lessons there are, which are asked for by their numbers.
+int lessonCount()
+{
+    return LessonCatalog(QString()).count();
 }
 
 void say(const QString &text)
@@ -74,8 +81,9 @@ void endOnSignals(QApplication *application)
 /// Empty when the options make sense.
 QString problemOf(const PracticeEditor::Options &options, const QString &lesson)
 {
-    if (!lesson.isEmpty() && (options.lesson < 1 || options.lesson > 19)) {
-        return QStringLiteral("there is no lesson %1; --lesson takes 1 to 19").arg(lesson);
+    if (!lesson.isEmpty() && (options.lesson < 1 || options.lesson > lessonCount())) {
+        return QStringLiteral("there is no lesson %1; --lesson takes 1 to %2")
+            .arg(lesson, QString::number(lessonCount()));
     }
     if (!LessonWords::locales().contains(options.locale)) {
         return QStringLiteral("there is no locale %1; --locale takes %2")
@@ -86,7 +94,8 @@ QString problemOf(const PracticeEditor::Options &options, const QString &lesson)
 
 struct CommandLine
 {
-    QCommandLineOption lesson{QStringLiteral("lesson"), QStringLiteral("Play this lesson, 1 to 19."),
+    QCommandLineOption lesson{QStringLiteral("lesson"),
+                              QStringLiteral("Play this lesson, 1 to %1.").arg(lessonCount()),
                               QStringLiteral("N")};
     QCommandLineOption locale{QStringLiteral("locale"),
                               QStringLiteral("Language: en_US, ja_JP or zh_CN; by default the system's."),
@@ -214,7 +223,10 @@ int main(int argc, char **argv)
     }
     PracticeEditor::Options options;
     options.lesson = parser.value(line.lesson).toInt();
-    options.hasLessonOfItsOwn = parser.isSet(line.author.scenario);
+    // An author who records begins with the editor as it is.
+    options.hasLessonOfItsOwn = parser.isSet(line.author.scenario) ||
+                                (parser.isSet(line.author.record) && !parser.isSet(line.lesson));
+    options.beginsAtOnce = parser.isSet(line.author.from);
     options.locale = parser.value(line.locale);
     options.unattended = parser.isSet(line.pilot);
     options.companionProgram = parser.value(line.companion);
@@ -230,7 +242,10 @@ int main(int argc, char **argv)
                                  : QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
                                        .filePath(QStringLiteral("Practice projects"));
     if (!options.unattended) {
-        options.progressFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        options.placeFile = QDir(own).filePath(QStringLiteral("places.ini"));
+        // What an author tries is no progress in the lesson of that name.
+        options.progressFolder = parser.isSet(line.author.scenario) ? QString() : own;
     }
 
     QStringList errors;

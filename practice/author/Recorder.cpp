@@ -1,6 +1,7 @@
 #include "author/Recorder.h"
 
 #include "host/HostEditor.h"
+#include "lesson/Condition.h"
 #include "lesson/LessonWords.h"
 #include "lesson/description/ControlSpots.h"
 
@@ -68,7 +69,7 @@ void Recorder::type()
         finish();
     }
     if (!m_step) {
-        m_step = RecordedStep{QStringLiteral("Keys"), {}, m_editor->openWindows().value(0), {}, {}};
+        m_step = RecordedStep{QStringLiteral("Keys"), {}, keyboardWindow(), {}, {}};
     }
     m_step->icon = QStringLiteral("keyboard");
 }
@@ -105,6 +106,10 @@ void Recorder::hear(const EditorEvent &event)
     if (m_step && rankOf(event) >= m_rank) {
         m_rank = rankOf(event);
         m_step->condition = conditionOf(event);
+        const std::optional<Condition> condition = Condition::parse(m_step->condition);
+        if (!m_step->position && condition && condition->isOfControl()) {
+            m_step->windowKey = event.windowKey; // where it counts
+        }
     }
 }
 
@@ -116,6 +121,13 @@ void Recorder::add(const RecordedStep &step)
         Q_EMIT problemFound(problem);
     }
     Q_EMIT recorded(step);
+}
+
+QString Recorder::keyboardWindow() const
+{
+    const QStringList open = m_editor->openWindows();
+    const QString top = open.isEmpty() ? QStringLiteral("ApplicationWindow") : open.constLast();
+    return top == QLatin1String("Popup") ? QStringLiteral("Menu") : top;
 }
 
 RecordedStep Recorder::stepAt(const QPoint &place) const

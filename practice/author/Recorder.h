@@ -41,6 +41,8 @@ Q_SIGNALS:
 private:
     void hear(const EditorEvent &event);
     void add(const RecordedStep &step);
+    /// Key of the window that has the keyboard.
+    [[nodiscard]] QString keyboardWindow() const;
     [[nodiscard]] RecordedStep stepAt(const QPoint &place) const;
 
     HostEditor *m_editor;

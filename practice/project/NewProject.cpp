@@ -2,10 +2,13 @@
 
 #include "project/ProjectFolder.h"
 
+#include <QDir>
+
 #include <utility>
 
 NewProject::NewProject(QString name, QString location)
-    : m_typed{std::move(name), std::move(location)}
+    : m_home(location)
+    , m_typed{std::move(name), std::move(location)}
     , m_accepted(m_typed)
 {
 }
@@ -17,12 +20,12 @@ void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources,
     fields.add(QStringLiteral("newProject.location"), reader(&Form::location),
                writer(&Form::location, changed));
     fields.add(QStringLiteral("newProject.folder"), [this](const DataLayer & /*layer*/) {
-        return m_typed.name.isEmpty() ? QString() : ProjectFolder::freeName(m_typed.location, m_typed.name);
+        return m_typed.name.isEmpty() ? QString() : ProjectFolder::freeName(location(), m_typed.name);
     });
     commands.add(QStringLiteral("newProject.begin"), [this] { m_typed = m_accepted; });
     sources.add(QStringLiteral("projects"), [this](const DataLayer & /*layer*/) {
         QVector<Row> rows;
-        const QStringList names = ProjectFolder::projectsIn(m_typed.location);
+        const QStringList names = ProjectFolder::projectsIn(location());
         for (const QString &name : names) {
             rows.append({name, int(rows.size())});
         }
@@ -47,8 +50,26 @@ void NewProject::addTo(StateParts &states)
 
 void NewProject::setLocation(const QString &location)
 {
+    m_home = location;
     m_typed.location = location;
     m_accepted.location = location;
+}
+
+void NewProject::accept()
+{
+    acceptLocation();
+    m_accepted = m_typed;
+}
+
+void NewProject::acceptLocation()
+{
+    m_typed.location = location();
+    m_accepted.location = m_typed.location;
+}
+
+QString NewProject::location() const
+{
+    return QDir::cleanPath(QDir(m_home).absoluteFilePath(m_typed.location.trimmed()));
 }
 
 Fields::Read NewProject::reader(QString Form::*text) const

@@ -20,11 +20,15 @@ public:
 
     /// Offers another folder.
     void setLocation(const QString &location);
-    /// What is typed now is offered the next time.
-    void accept() { m_accepted = m_typed; }
+    /// What is typed now is offered the next time, the place with its full path.
+    void accept();
+    /// The same of the place alone.
+    void acceptLocation();
 
     [[nodiscard]] QString name() const { return m_typed.name; }
-    [[nodiscard]] QString location() const { return m_typed.location; }
+    /// Full path of the place that is typed. What begins with no root is below the folder that was offered at
+    /// first, which is also what nothing stands for.
+    [[nodiscard]] QString location() const;
 
 private:
     struct Form
@@ -37,6 +41,8 @@ private:
     Fields::Read reader(QString Form::*text) const;
     Fields::Write writer(QString Form::*text, const std::function<void()> &changed);
 
+    /// The folder that was offered at first.
+    QString m_home;
     Form m_typed;
     /// What was typed when the dialog was accepted last.
     Form m_accepted;

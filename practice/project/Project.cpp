@@ -133,10 +133,15 @@ void Project::openChosen(const DataLayer &layer)
 {
     const QStringList projects = ProjectFolder::projectsIn(m_newProject.location());
     const QString chosen = projects.value(m_sources.number(QStringLiteral("projects"), layer));
-    QString error;
-    if (!chosen.isEmpty() && !m_files.open(QDir(m_newProject.location()).filePath(chosen), &error)) {
-        Q_EMIT failed(error);
+    if (chosen.isEmpty()) {
+        return;
     }
+    QString error;
+    if (!m_files.open(QDir(m_newProject.location()).filePath(chosen), &error)) {
+        Q_EMIT failed(error);
+        return;
+    }
+    m_newProject.acceptLocation();
 }
 
 void Project::save()

@@ -21,6 +21,9 @@ public:
     /// Texts in the language @p locale; English where that is not one of the three.
     explicit LessonCatalog(const QString &locale);
 
+    /// How many lessons there are, written or not.
+    [[nodiscard]] int count() const { return int(m_entries.size()); }
+
     /// Of a lesson that is not in here, nothing but that it may be asked for.
     [[nodiscard]] Entry entry(const QString &lessonName) const { return m_entries.value(lessonName); }
 

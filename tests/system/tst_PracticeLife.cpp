@@ -69,6 +69,8 @@ private Q_SLOTS:
     void aLessonThatIsChosenBringsALostCompanionBack();
     void aLessonGoesOnAtItsStepWhenTheCompanionDied();
     void aLessonGoesOnAtItsStepInTheNextRun();
+    void theNextRunOffersThePlaceOfTheLastProject();
+    void aLessonCanBeginAtOnceWhereverItWasLeft();
     void aMissingCompanionIsSaid();
     void wrongOptionsAreSaid_data();
     void wrongOptionsAreSaid();
@@ -338,6 +340,56 @@ void tst_PracticeLife::aLessonGoesOnAtItsStepInTheNextRun()
     press("goOnButton");
     QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
     QCOMPARE(editor.session().runner().index(), 2);
+}
+
+void tst_PracticeLife::theNextRunOffersThePlaceOfTheLastProject()
+{
+    const QTemporaryDir folder;
+    PracticeEditor::Options kept = options();
+    kept.projectsFolder = folder.filePath(QStringLiteral("usual"));
+    kept.placeFile = folder.filePath(QStringLiteral("places.ini"));
+    const QString chosen = folder.filePath(QStringLiteral("\u904A\u3073"));
+    const QString location = QStringLiteral("newProject.location");
+    for (const QString &offered : {kept.projectsFolder, chosen}) {
+        QStringList errors;
+        auto set = EditorWindowSet::create(kept.locale, &errors);
+        Project &project = *set->project();
+        const PracticeEditor editor(kept, std::move(set));
+        QCOMPARE(project.fields().value(location, project.files()).toString(), offered);
+        project.fields().setValue(location, chosen, project.files());
+        project.run(QStringLiteral("newProject.create"), project.files());
+        QVERIFY(project.isOpen());
+    }
+    QVERIFY(QDir(chosen).removeRecursively());
+    QStringList errors;
+    auto set = EditorWindowSet::create(kept.locale, &errors);
+    Project &project = *set->project();
+    const PracticeEditor editor(kept, std::move(set));
+    QCOMPARE(project.fields().value(location, project.files()).toString(), kept.projectsFolder);
+}
+
+void tst_PracticeLife::aLessonCanBeginAtOnceWhereverItWasLeft()
+{
+    const QTemporaryDir folder;
+    PracticeEditor::Options kept = options();
+    kept.progressFolder = folder.path();
+    {
+        PracticeEditor editor(kept, windows());
+        QString error;
+        QVERIFY2(editor.start(&error), qPrintable(error));
+        QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+        press("nextButton");
+        QTRY_VERIFY_WITH_TIMEOUT(
+            contentsOf(folder.filePath(QStringLiteral("progress.json"))).contains("\"step\":2"), kSoonMs);
+    }
+    kept.beginsAtOnce = true;
+    PracticeEditor editor(kept, windows());
+    editor.session().setFirstStep(7);
+    QString error;
+    QVERIFY2(editor.start(&error), qPrintable(error));
+    QTRY_VERIFY_WITH_TIMEOUT(editor.session().runner().isRunning(), kSoonMs);
+    QCOMPARE(editor.session().runner().step().id, 7);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
 }
 
 void tst_PracticeLife::aMissingCompanionIsSaid()

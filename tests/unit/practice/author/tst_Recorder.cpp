@@ -42,6 +42,7 @@ private Q_SLOTS:
     void aPressBesideAMenuIsForTheWindowBelow();
     void typingIsAStepAtTheFieldThatWasClicked();
     void typedAndLeftIsFollowedByNext();
+    void keysAloneAreOfTheWindowInWhichTheyAct();
     void aWindowThatClosesByItselfIsWaitedFor();
     void aClickWithoutEffectIsNoStep();
     void theFilesAreALessonThatCanBePlayed();
@@ -152,6 +153,17 @@ void tst_Recorder::typedAndLeftIsFollowedByNext()
     m_recorder->press(Press::kClick, kClick);
     m_recorder->type();
     QCOMPARE(steps(), QStringList(QStringLiteral("keyboard click, MainWindow (10, -92)")));
+}
+
+void tst_Recorder::keysAloneAreOfTheWindowInWhichTheyAct()
+{
+    m_editor->open(QStringLiteral("ImageSelector"));
+    m_recorder->type();
+    m_editor->report(QStringLiteral("list"), QStringLiteral("2"));
+    m_recorder->finish();
+    m_recorder->type();
+    QCOMPARE(steps(), (QStringList{QStringLiteral("keyboard list,2 ImageSelector (-9999, -9999)"),
+                                   QStringLiteral("keyboard click, ImageSelector (-9999, -9999)")}));
 }
 
 void tst_Recorder::aWindowThatClosesByItselfIsWaitedFor()

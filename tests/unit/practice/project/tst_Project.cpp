@@ -26,6 +26,8 @@ private Q_SLOTS:
     void savingClearsModified();
     void aFailedSaveIsToldAndLosesNothing();
     void theDialogShowsThePlaceThatIsUsed();
+    void aPlaceWithoutARootIsBelowThatOfProjects();
+    void aPlaceThatWasOpenedFromIsOfferedAgain();
     void projectsOfTheFolderAreListed();
     void whatWouldBeLostIsKnown();
     void whatIsTypedEndsWithTheProject();
@@ -306,6 +308,44 @@ void tst_Project::theDialogShowsThePlaceThatIsUsed()
     QCOMPARE(room.field("newProject.folder").toString(), str("Quest"));
     room.setField("newProject.name", QString());
     QCOMPARE(room.field("newProject.folder").toString(), QString());
+}
+
+void tst_Project::aPlaceWithoutARootIsBelowThatOfProjects()
+{
+    ProjectRoom room;
+    const QString games = room.path(str("games"));
+    room.project.setProjectsFolder(games);
+    room.run("newProject.begin");
+    room.setField("newProject.name", str("Quest"));
+    room.setField("newProject.location", str("mine/../of May "));
+    room.run("newProject.create");
+    QCOMPARE(room.project.files().folder(), games + str("/of May/Quest"));
+    // It is shown as what it is, and found there again.
+    room.run("newProject.begin");
+    QCOMPARE(room.field("newProject.location").toString(), games + str("/of May"));
+    QCOMPARE(room.texts("projects"), QStringList{str("Quest")});
+    room.setField("newProject.location", QString());
+    room.run("newProject.create");
+    QCOMPARE(room.project.files().folder(), games + str("/Quest"));
+    QVERIFY(!QFile::exists(QDir::current().filePath(str("of May"))));
+}
+
+void tst_Project::aPlaceThatWasOpenedFromIsOfferedAgain()
+{
+    ProjectRoom room;
+    const QString games = room.path(str("games"));
+    room.project.setProjectsFolder(games);
+    room.run("newProject.create");
+    room.project.setProjectsFolder(room.path(str("others")));
+    room.setField("newProject.location", games);
+    QCOMPARE(room.texts("projects"), QStringList{str("My first game")});
+    room.run("newProject.begin");
+    QCOMPARE(room.field("newProject.location").toString(), room.path(str("others")));
+    room.setField("newProject.location", games);
+    room.run("project.open");
+    QCOMPARE(room.project.files().folder(), games + str("/My first game"));
+    room.run("newProject.begin");
+    QCOMPARE(room.field("newProject.location").toString(), games);
 }
 
 void tst_Project::whatWouldBeLostIsKnown()

@@ -62,6 +62,7 @@ class tst_LessonCatalog : public QObject
 private Q_SLOTS:
     void everyLessonSaysWhatItTeaches_data();
     void everyLessonSaysWhatItTeaches();
+    void hasTheLessonsOfTheList();
     void justTheLessonsThatAreThereCountAsWritten();
     void theMinutesAreThoseOfTheLesson_data();
     void theMinutesAreThoseOfTheLesson();
@@ -91,6 +92,18 @@ void tst_LessonCatalog::everyLessonSaysWhatItTeaches()
         QVERIFY2(!entry.teaches.isEmpty() && !told.contains(entry.teaches), qPrintable(lesson));
         QVERIFY2(entry.minutes > 0, qPrintable(lesson));
         told.append(entry.teaches);
+    }
+}
+
+void tst_LessonCatalog::hasTheLessonsOfTheList()
+{
+    const LessonCatalog catalog(QStringLiteral("en_US"));
+    const QStringList names = listed();
+    QCOMPARE(catalog.count(), int(names.size()));
+    // They are asked for by their numbers.
+    for (int number = 1; number <= names.size(); ++number) {
+        QCOMPARE(names.at(number - 1), QStringLiteral("TutorialStep%1").arg(number));
+        QVERIFY2(!catalog.entry(names.at(number - 1)).teaches.isEmpty(), qPrintable(names.at(number - 1)));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "EditorFixture.h"
 
+#include <QLineEdit>
+
 /// The window that opens a project, which is nothing but a description.
 class tst_FileDialog : public QObject
 {
@@ -11,6 +13,7 @@ private Q_SLOTS:
     void opensTheChosenProject();
     void cancelLeavesTheProjectOpen();
     void whatWasDrawnAndSavedIsThereAgain();
+    void projectsOfAnotherPlaceAreFound();
 };
 
 void tst_FileDialog::opensFromTheToolBarAndIsTold()
@@ -88,6 +91,24 @@ void tst_FileDialog::whatWasDrawnAndSavedIsThereAgain()
     QCOMPARE(second.map()->grab().toImage(), drawn);
     second.click("MainWindow", "editUndo");
     QCOMPARE(second.shownMap()->tile(0, {1, 1}), 4);
+}
+
+void tst_FileDialog::projectsOfAnotherPlaceAreFound()
+{
+    Editor first;
+    first.openProject();
+    Editor second;
+    second->open(str("MainWindow"));
+    second.click("MainWindow", "fileOpen");
+    auto *list = second.find<RowList>("FileDialog", "projects");
+    QCOMPARE(list->count(), 0);
+    auto *location = second.find<QLineEdit>("FileDialog", "location");
+    QCOMPARE(location->text(), second.folder());
+    location->selectAll();
+    QTest::keyClicks(location, first.folder());
+    QCOMPARE(list->count(), 1);
+    second.click("FileDialog", "ok");
+    QCOMPARE(second->projectFolder(), first->projectFolder());
 }
 
 QTEST_MAIN(tst_FileDialog)
