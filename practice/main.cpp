@@ -1,5 +1,6 @@
 #include "AuthorRun.h"
 #include "PilotPlay.h"
+#include "PilotProject.h"
 #include "PilotRun.h"
 #include "PilotSeries.h"
 #include "PracticeEditor.h"
@@ -267,6 +268,9 @@ int main(int argc, char **argv)
         settings.picturesOfAll = parser.isSet(line.shots);
         settings.picturesFolder = parser.value(settings.picturesOfAll ? line.shots : line.broken);
         settings.speed = clock;
+        if (!settings.answersYes && !putProject(options.projectsFolder, options.locale, &error)) {
+            return complain(QStringLiteral("--pilot has no project to open: ") + error);
+        }
         if (!letPilotPlay(&editor, settings, &error)) {
             return complain(QStringLiteral("--pilot cannot play here: ") + error);
         }

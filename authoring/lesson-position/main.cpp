@@ -11,6 +11,54 @@ namespace {
 
 enum ExitStatus { kDone = 0, kUsage = 2 };
 
+/// What is printed, or why there is nothing to print.
+struct Answer
+{
+    QString text;
+    QString problem;
+};
+
+/// @p words: a window key, and if it is not only its controls that are asked for, one of them and a place in
+/// it. @p folder names the descriptions in a problem.
+Answer answerTo(QStringList words, const DescriptionSet &windows, const QString &folder)
+{
+    const QString key = words.takeFirst();
+    if (!windows.contains(key)) {
+        QStringList keys = windows.keys();
+        keys.removeAll(QString()); // the screen
+        return {{},
+                QStringLiteral("%1 describes no window \"%2\", only %3")
+                    .arg(folder, key, keys.join(QLatin1Char(' ')))};
+    }
+    const QVector<ControlDescription> controls = windows.controlsIn(key);
+    Answer answer;
+    if (words.isEmpty()) {
+        for (const ControlDescription &control : controls) {
+            answer.text += control.name + QLatin1Char('\n');
+        }
+        return answer;
+    }
+    const Spot spot(controls, words);
+    answer.problem = spot.problem();
+    if (answer.problem.isEmpty()) {
+        answer.text =
+            QStringLiteral("\"x\":%1,\n\"y\":%2,\n").arg(spot.position().x()).arg(spot.position().y());
+    }
+    return answer;
+}
+
+/// Answers each line of the standard input, which has the words of one question, in one line; a problem
+/// stands behind "! ".
+void answerLines(const DescriptionSet &windows, const QString &folder, QTextStream *out)
+{
+    QTextStream in(stdin);
+    for (QString line = in.readLine(); !line.isNull(); line = in.readLine()) {
+        const Answer answer = answerTo(line.split(QLatin1Char(' ')), windows, folder);
+        *out << (answer.problem.isEmpty() ? answer.text.simplified() : QStringLiteral("! ") + answer.problem)
+             << "\n";
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -34,7 +82,9 @@ int main(int argc, char *argv[])
                                   QStringLiteral("directory"), QStringLiteral("."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("show this"));
     const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("show the version"));
-    parser.addOptions({tree, help, version});
+    const QCommandLineOption lines(QStringLiteral("lines"),
+                                   QStringLiteral("read from the standard input, and answer each line"));
+    parser.addOptions({tree, lines, help, version});
     parser.addPositionalArgument(QStringLiteral("window"), QStringLiteral("a window key"));
     parser.addPositionalArgument(QStringLiteral("control"),
                                  QStringLiteral("a control's name, and a place in it"),
@@ -55,9 +105,9 @@ int main(int argc, char *argv[])
         return kDone;
     }
 
-    QStringList words = parser.positionalArguments();
-    if (words.isEmpty()) {
-        return complain(QStringLiteral("name a window; --help shows how"));
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty() != parser.isSet(lines)) {
+        return complain(QStringLiteral("name a window, or give --lines; --help shows how"));
     }
     const QString folder = QDir(parser.value(tree)).filePath(QStringLiteral("practice/descriptions"));
     QStringList errors;
@@ -65,24 +115,14 @@ int main(int argc, char *argv[])
     if (!errors.isEmpty()) {
         return complain(errors.constFirst());
     }
-    const QString key = words.takeFirst();
-    if (!windows.contains(key)) {
-        QStringList keys = windows.keys();
-        keys.removeAll(QString()); // the screen
-        return complain(QStringLiteral("%1 describes no window \"%2\", only %3")
-                            .arg(folder, key, keys.join(QLatin1Char(' '))));
-    }
-    const QVector<ControlDescription> controls = windows.controlsIn(key);
-    if (words.isEmpty()) {
-        for (const ControlDescription &control : controls) {
-            out << control.name << "\n";
-        }
+    if (parser.isSet(lines)) {
+        answerLines(windows, folder, &out);
         return kDone;
     }
-    const Spot spot(controls, words);
-    if (!spot.problem().isEmpty()) {
-        return complain(spot.problem());
+    const Answer answer = answerTo(words, windows, folder);
+    if (!answer.problem.isEmpty()) {
+        return complain(answer.problem);
     }
-    out << "\"x\":" << spot.position().x() << ",\n\"y\":" << spot.position().y() << ",\n";
+    out << answer.text;
     return kDone;
 }

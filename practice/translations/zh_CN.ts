@@ -19,7 +19,7 @@
     <message>
         <source>Click “%1”.</source>
         <extracomment>%1 is the text of a button that closes a window.</extracomment>
-        <translation>请单击“%1”。</translation>
+        <translation>请点击“%1”。</translation>
     </message>
     <message>
         <source>Double-click “%1” again.</source>
@@ -29,16 +29,16 @@
     <message>
         <source>Right-click “%1” again.</source>
         <extracomment>%1 is what stands in the row of a list, or the name of a part of the window.</extracomment>
-        <translation>请再次右键单击“%1”。</translation>
+        <translation>请再次右键点击“%1”。</translation>
     </message>
     <message>
         <source>Click “%1” again.</source>
         <extracomment>%1 is the text of a button, tab or row of a list.</extracomment>
-        <translation>请再次单击“%1”。</translation>
+        <translation>请再次点击“%1”。</translation>
     </message>
     <message>
         <source>Something is different from what this step needs. Click “Put it back” in the lesson strip.</source>
-        <translation>现在的状态和这一步需要的不一样。请单击课程栏中的“恢复原样”。</translation>
+        <translation>现在的状态和这一步需要的不一样。请点击课程栏中的“恢复原样”。</translation>
     </message>
 </context>
 <context>
@@ -496,7 +496,7 @@
     </message>
     <message>
         <source>There is no place to save: save the project in the editor first.</source>
-        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+        <translation>没有存档的位置：请先在编辑器中保存项目。</translation>
     </message>
     <message>
         <source>Look into the bag.</source>
@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>There is no place to save: save the project in the editor first.</source>
-        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+        <translation>没有存档的位置：请先在编辑器中保存项目。</translation>
     </message>
     <message>
         <source>The game could not be saved (%1). What was saved before is still there.</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>There is no place to save: save the project in the editor first.</source>
-        <translation>没有存档的位置：请先在编辑器中保存工程。</translation>
+        <translation>没有存档的位置：请先在编辑器中保存项目。</translation>
     </message>
     <message>
         <source>Save here?</source>

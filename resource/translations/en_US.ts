@@ -886,13 +886,12 @@
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>Welcome! In this lesson you draw your first map and find your way around the map view.
+      <translation>Welcome! In this lesson you draw your first map.
 Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>From here on an arrow shows where to act, and the picture beside it shows how: click, double-click, right-click or type.
-When you see “Next”, just read, then click it.</translation>
+      <translation>The arrow shows where to act, the picture beside it how. At “Next”, read and click it.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -904,7 +903,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#5</source>
-      <translation>Click “OK”. The project is made at the location shown above.</translation>
+      <translation>Click “OK”. Your game gets a folder of its own.</translation>
     </message>
     <message>
       <source>#6</source>
@@ -912,23 +911,23 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#7</source>
-      <translation>This is the map view. It shows the map that is open, here a village. Players will walk around on what you draw.</translation>
+      <translation>This is the map view. It shows the open map, a village. Players will walk on what you draw.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>These are the tiles: the pieces that maps are put together from. The tabs above sort them into “Ground”, “Nature” and “Buildings”.</translation>
+      <translation>These are the tiles that maps are put together from. Tabs sort them by what they show.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>These are the drawing tools, from “Pencil” to “Eraser”. You will try them all on a map of your own.</translation>
+      <translation>The drawing tools go from “Pencil” to “Eraser”. You will try them all on a map of your own.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>All maps of your game are in this list. Four came with the project. The highlighted one is open.</translation>
+      <translation>All maps of your game are in this list. Four came with the project. The blue one is open.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>Now you make a map of your own. The picture above this text stands for a right click, which opens a menu in many places.</translation>
+      <translation>Now for a map of your own. The picture above this text means a right click: it opens a menu.</translation>
     </message>
     <message>
       <source>#12</source>
@@ -940,7 +939,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Type a name for your map, such as “Meadow”, and press Enter. The new map opens at once.</translation>
+      <translation>Type a name for your map, such as Meadow, and press Enter. The new map opens at once.</translation>
     </message>
     <message>
       <source>#15</source>
@@ -984,7 +983,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>A map has three layers. Tiles on a higher layer cover the lower ones but do not replace them. So trees go on a layer above the ground.</translation>
+      <translation>A map has three layers. Tiles of a higher one lie over the others, so trees go above the ground.</translation>
     </message>
     <message>
       <source>#26</source>
@@ -1028,7 +1027,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>“Map” is the mode for drawing. People and doors are made in “Events” mode, which the next lesson uses.</translation>
+      <translation>“Map” is the mode for drawing. People are made in “Events”, which lesson 2 uses.</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1108,7 +1107,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>Right-click your own map and look at the last entry: “Delete map” removes a map and all that is drawn on it.</translation>
+      <translation>Right-click your own map. “Delete map” would remove it with all that you drew. Leave it.</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1196,7 +1195,7 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>Click “Save”. Your work is safe now.</translation>
+      <translation>Click “Save”. Your project is written into its folder.</translation>
     </message>
     <message>
       <source>#79</source>
@@ -1204,7 +1203,243 @@ When you see “Next”, just read, then click it.</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>In the next lesson you put a person on the map. Click “Next” to finish.</translation>
+      <translation>Lesson 2 puts the first person on a map. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep2</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson you put a boy on the map who speaks.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with a village, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The village of Amberfield will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The village is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>The boy will stand here. He is called Pip. Players walk up to him and talk to him.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events”. People on a map are events, and in this mode you make them.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Right-click this cell. A menu opens.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Click “New event…” to make Pip.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>This window is all about one event: how it looks, and what it does.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Every event has a name. Players never see it; it helps you to find the event again.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>An event can wait for something. Pip waits for nothing, so he is always there.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click the empty field below “Picture” to choose how Pip looks.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “Child”.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “OK” to take this picture.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>“Stays in place” means that Pip does not walk. A later lesson lets people walk.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Moves its feet while standing”: it makes Pip look alive. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>“When examined” means: the player stands before Pip and presses Enter.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “OK”. Pip takes his place on the map.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>There he stands, but he has nothing to say yet. Double-click him.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>What an event does stands here, line by line. “+” is the place for a new command.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Double-click “+” to add a command.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>All commands are in this window, on tabs. For what people say there is “Message”.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>“Show message” is selected already. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Type what Pip says, such as Good morning, Mila! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>A name in “Speaker” would stand above the text. The field can also stay empty.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click “Preview…” to see what the player will see.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>This is how your message looks in the game. Click “Close”.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “OK” to keep the message.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Your message is in the list now. It is the first thing that happens when Pip is talked to.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Double-click the new “+”. Pip has one thing more to say.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Type some news, such as The lamp is out! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Click “Apply”. It keeps what you have done, and the window stays open. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “OK” to go back to the map.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Double-click Pip again. Whatever an event does can be changed at any time.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Pip's news is a surprise. You now look over his words and show the surprise.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Double-click the first message. So you get back to what you typed.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click into the text and correct it, if there is anything to correct. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click the second message. It is selected: Ctrl+C would copy it now. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>A right click on a command opens a menu for copying, pasting and deleting.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Double-click “+” below the messages.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Click a few tabs to see what else an event can do. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click the “Scene” tab. Its commands change what is seen on the map.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Click “Show balloon”. It shows above a head what someone feels.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>The balloon comes up above the player, who hears the news.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>“Exclamation” is right for a surprise. This list has balloons for other feelings, too.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “OK” to add the balloon.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Commands run from top to bottom: first Pip speaks, then the balloon comes up.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>“Cancel” would drop whatever you have changed since you opened this window.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>You want to keep it all: click “OK”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Click “Map”. Events are hidden while you draw; Pip is still in his place.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Save” to write Pip and his words into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Done! You can make an event, choose its look and let it speak.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Lesson 3 makes a door and treasure chests. Click “Next” to finish.</translation>
     </message>
   </context>
 </TS>

@@ -168,7 +168,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>敵グループとバトルイベント</translation>
+      <translation>敵グループと戦闘イベント</translation>
     </message>
     <message>
       <source>#18</source>
@@ -886,13 +886,12 @@
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>ようこそ！このレッスンでは、初めてのマップを描きながら、マップ画面の使い方を覚えます。
-「次へ」をクリックすると始まります。</translation>
+      <translation>ようこそ！初めてのマップを描いてみましょう。
+「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>ここからは、矢印で操作する場所を、その横の絵で操作のしかた（クリック、ダブルクリック、右クリック、キー入力）を示します。
-「次へ」が出たら、説明を読んでからクリックしてください。</translation>
+      <translation>矢印は操作する場所、横の絵は操作のしかたです。「次へ」が出たら、読んでクリックします。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -904,7 +903,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>「OK」をクリックしてください。上の「場所」に書かれたフォルダーに、プロジェクトが作られます。</translation>
+      <translation>「OK」をクリックしてください。ゲーム専用のフォルダーが作られます。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -912,23 +911,23 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>ここがマップ画面です。今は、村のマップが表示されています。ここに描いた世界を、プレイヤーが歩き回ります。</translation>
+      <translation>ここがマップ画面です。今は村が見えています。ここに描いた所を、プレイヤーが歩きます。</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>これはタイル、つまりマップを組み立てる部品です。上のタブで「地面」「自然」「建物」に分かれています。</translation>
+      <translation>これがマップを組み立てるタイルです。タブで「地面」「自然」「建物」に分かれています。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>ここに並んでいるのが、「鉛筆」から「消しゴム」までの描画ツールです。このあと、自分のマップで全部試します。</translation>
+      <translation>「鉛筆」から「消しゴム」までが描画ツールです。このあと、自分のマップで試します。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>ゲームのマップは、すべてこの一覧に並びます。最初から4枚用意されています。色の付いた行が、開いているマップです。</translation>
+      <translation>ゲームのマップの一覧です。最初から4枚あります。色の付いた行が、今開いているマップです。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>次は、自分のマップを作ります。この説明の上にある絵は、右クリックを表します。右クリックすると、多くの場所でメニューが開きます。</translation>
+      <translation>次は自分のマップを作ります。この上の絵は右クリックを表します。メニューを開く操作です。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -940,7 +939,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>マップの名前（たとえば「野原」）を入力して、Enterキーを押してください。新しいマップがすぐに開きます。</translation>
+      <translation>マップの名前（野原など）を入力し、Enterキーを押してください。新しいマップが開きます。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -984,7 +983,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>マップには3枚のレイヤーがあります。上のレイヤーのタイルは、下のタイルを消さずに重なります。木は、地面より上のレイヤーに描きます。</translation>
+      <translation>レイヤーは3枚あり、上のタイルは下のタイルに重なります。木は地面より上に描きます。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -1016,7 +1015,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>「元に戻す」をクリックしてください。木が戻ります。描き間違えたときも、同じように取り消せます。</translation>
+      <translation>「元に戻す」をクリックしてください。木が戻ります。描き間違えたときも使えます。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -1028,7 +1027,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「マップ」は、マップを描くためのモードです。人物やドアは「イベント」モードで作ります。こちらは次のレッスンで使います。</translation>
+      <translation>「マップ」は描くためのモードです。人物は「イベント」で作ります。次のレッスンで使います。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1080,7 +1079,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>もう一度、タイルの一覧を右クリックしてください。今度は、何も選ばずにメニューを閉じてみます。</translation>
+      <translation>もう一度、一覧を右クリックしてください。今度は、何も選ばずにメニューを閉じてみます。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -1100,7 +1099,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>「マップの設定…」をクリックしてください。ダブルクリックしたときと同じウィンドウが開きます。</translation>
+      <translation>「マップの設定…」をクリックしてください。ダブルクリックと同じウィンドウが開きます。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -1108,11 +1107,11 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>自分のマップを右クリックして、一番下の「マップを削除」を見てください。これを選ぶと、描いた内容ごとマップが消えます。</translation>
+      <translation>自分のマップを右クリックしてください。「マップを削除」は、描いた内容ごと消します。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>マップは残しておきましょう。「オアシス」をクリックしてください。メニューが閉じ、そのマップが開きます。</translation>
+      <translation>マップは残します。「オアシス」をクリックしてください。メニューが閉じ、これが開きます。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1152,11 +1151,11 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>タイルセットはマップごとに決められます。画像をクリックして、港のタイルセットを見てください。</translation>
+      <translation>タイルセットはマップごとに違います。画像をクリックして、港のものを見てください。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>港のタイルセットは「海岸」です。よく合うので、このまま「OK」をクリックしてください。</translation>
+      <translation>港のタイルセットは「海岸」です。このままで「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#69</source>
@@ -1192,19 +1191,255 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>「幅」と「高さ」で、マップの大きさを変えられます。今は変えずに、「キャンセル」をクリックしてください。</translation>
+      <translation>「幅」と「高さ」で大きさを変えられます。今は「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>「保存」をクリックしてください。これで、ここまでの作業が保存されます。</translation>
+      <translation>「保存」をクリックしてください。プロジェクトがフォルダーに書き込まれます。</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>完成です！これで、マップを描くことも、設定を変えることも、マップを増やすこともできるようになりました。</translation>
+      <translation>完成です！マップを描き、設定を変え、増やすことができるようになりました。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>次のレッスンでは、マップに人物を置きます。「次へ」をクリックすると、このレッスンは終了です。</translation>
+      <translation>レッスン2では、マップに最初の人物を置きます。「次へ」をクリックすると終わります。</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep2</name>
+    <message>
+      <source>#1</source>
+      <translation>このレッスンでは、話のできる男の子をマップに置きます。
+「次へ」で始まります。</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>村の入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>「新規」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>「OK」をクリックしてください。アンバー村の入ったプロジェクトができます。</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>村をコピーしています。終わると自動で先へ進みます。</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>「開く」をクリックしてください。プロジェクトの一覧が出ます。</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>一覧でプロジェクトを選び、「開く」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>ここに、ピップという男の子を立たせます。プレイヤーは近づいて話しかけられます。</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>「イベント」をクリックしてください。マップの人物はイベントです。このモードで作ります。</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>このマスを右クリックしてください。メニューが開きます。</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>「新しいイベント…」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>このウィンドウで、1つのイベントの見た目と動作を決めます。</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>イベントには名前があります。プレイヤーには見えず、あとで探すときに役立ちます。</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>イベントの出現条件です。ピップには何も決めないので、いつでもそこにいます。</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>「画像」の下の空いた枠をクリックして、ピップの姿を選びます。</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>「子ども」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>「OK」をクリックして、この画像に決めます。</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>「動かない」なら、ピップは歩きません。歩かせる方法は、あとのレッスンで学びます。</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>「止まっている間も足踏み」をクリックすると、生き生きします。次に「次へ」をクリックします。</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>「決定キーを押したとき」は、プレイヤーがピップの前でEnterキーを押したときです。</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>「OK」をクリックしてください。ピップがマップに現れます。</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>ピップが立っています。でも、まだ何も言いません。ダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>イベントの動作は、ここに上から順に並びます。「+」に新しいコマンドが入ります。</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>「+」をダブルクリックして、コマンドを追加します。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>コマンドはすべてここにあり、タブで分かれています。会話は「メッセージ」です。</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>「メッセージの表示」が選ばれています。「OK」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>ピップの言葉（おはよう、ミラ！など）を入力してから、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>「話す人」に書いた名前は、文章の上に出ます。空のままでもかまいません。</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>「プレビュー…」をクリックして、プレイヤーの見る画面を確かめます。</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>ゲームではこのように表示されます。「閉じる」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>「OK」をクリックして、メッセージを決定します。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>メッセージが一覧に入りました。話しかけると、まずこれが表示されます。</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>新しい「+」をダブルクリックしてください。ピップの話には続きがあります。</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>「OK」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>村の知らせ（ランプが消えちゃった！など）を入力してから、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>「適用」をクリックすると、開いたまま変更が残ります。そのあと「次へ」をクリックします。</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>「OK」をクリックして、マップに戻ります。</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>もう一度ピップをダブルクリックしてください。イベントはいつでも変えられます。</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>ピップの話は驚きの知らせです。言葉を見直して、驚いた様子を加えましょう。</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>最初のメッセージをダブルクリックしてください。入力した内容に戻れます。</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>文章をクリックして、直すところがあれば直します。そのあと「次へ」をクリックします。</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>2つ目のメッセージをクリックします。Ctrl+Cでコピーもできます。次に「次へ」です。</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>コマンドを右クリックすると、コピー、貼り付け、削除のメニューが開きます。</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>メッセージの下の「+」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>タブをいくつかクリックして、ほかにできることを見てください。それから「次へ」です。</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>「シーン」タブをクリックしてください。マップの見え方を変えるコマンドです。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>「フキダシの表示」をクリックしてください。気持ちを頭の上の絵で見せます。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>知らせを聞いたプレイヤーの頭の上に出ます。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>驚きには「びっくりマーク」がぴったりです。ほかの気持ちもここから選べます。</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>「OK」をクリックして、フキダシを追加します。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>コマンドは上から順に動きます。ピップが話し、そのあとフキダシが出ます。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>「キャンセル」をクリックすると、ウィンドウを開いてからの変更が消えます。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>今回は全部残すので、「OK」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>「マップ」をクリックしてください。描く間イベントは隠れますが、ピップはそこにいます。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>「保存」をクリックしてください。ピップがプロジェクトのフォルダーに書き込まれます。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>完成です！イベントを作り、姿を選び、話をさせられるようになりました。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>レッスン3では、ドアと宝箱を作ります。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
 </TS>

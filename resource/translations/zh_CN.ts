@@ -51,7 +51,7 @@
     </message>
     <message>
       <source>Tutorial not loaded yet.</source>
-      <translation>尚未载入教程。</translation>
+      <translation>尚未载入课程。</translation>
     </message>
     <message>
       <source>folder</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>有商店和旅馆的城镇</translation>
+      <translation>有商店和旅店的城镇</translation>
     </message>
     <message>
       <source>#8</source>
@@ -427,7 +427,7 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>旅馆的门</translation>
+      <translation>旅店的门</translation>
     </message>
     <message>
       <source>#63</source>
@@ -467,7 +467,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>旅馆</translation>
+      <translation>旅店</translation>
     </message>
     <message>
       <source>#73</source>
@@ -886,13 +886,12 @@
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>欢迎！在这一课里，你会画出自己的第一张地图，并熟悉地图视图的用法。
+      <translation>欢迎！这一课画你的第一张地图。
 点击“下一步”开始。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>接下来，箭头会指出操作的位置，旁边的图标表示操作的方式：点击、双击、右键点击或键盘输入。
-出现“下一步”时，读完说明后点击它即可。</translation>
+      <translation>箭头指出操作的位置，旁边的图标表示操作方式。出现“下一步”时，读完再点击它。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -904,7 +903,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>点击“确定”。项目会建立在上方“位置”一栏所示的文件夹里。</translation>
+      <translation>点击“确定”。会为你的游戏建立一个专用的文件夹。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -916,11 +915,11 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>这些是图块，地图就是用它们拼成的。上方的选项卡把图块分成“地面”“自然”和“建筑”三类。</translation>
+      <translation>这些是图块，地图就是用它们拼成的。选项卡把图块分成“地面”“自然”和“建筑”三类。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>这一排是绘图工具，从“铅笔”到“橡皮擦”。稍后你会在自己的地图上逐一试用。</translation>
+      <translation>从“铅笔”到“橡皮擦”，这一排是绘图工具。稍后你会在自己的地图上逐一试用。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -928,7 +927,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>接下来制作自己的地图。这段说明上方的图标表示“右键点击”。在很多地方，右键点击都会打开菜单。</translation>
+      <translation>接下来制作自己的地图。这段说明上方的图标表示右键点击。在很多地方，右键点击都会打开菜单。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -940,7 +939,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>输入地图的名称，例如“原野”，然后按 Enter 键。新地图会立即打开。</translation>
+      <translation>输入地图的名称，例如原野，然后按 Enter 键。新地图会立即打开。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -1056,11 +1055,11 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>点击“图块组”旁边的图片。</translation>
+      <translation>点击“图块组”旁边的图像。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>点击“秋天”。右边的图片会显示它的样子。</translation>
+      <translation>点击“秋天”。右边的图像会显示它的样子。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -1120,7 +1119,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>左边列出了可以选择的地图，这张图片显示的是选中的那一张。</translation>
+      <translation>左边列出了可以选择的地图，这张图像显示的是选中的那一张。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -1152,7 +1151,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>每张地图都有自己的图块组。点击图片，看看港口用的是哪一个。</translation>
+      <translation>每张地图都有自己的图块组。点击图像，看看港口用的是哪一个。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -1196,7 +1195,7 @@
     </message>
     <message>
       <source>#78</source>
-      <translation>点击“保存”，你的成果就保存好了。</translation>
+      <translation>点击“保存”，项目就会写入它的文件夹。</translation>
     </message>
     <message>
       <source>#79</source>
@@ -1204,7 +1203,243 @@
     </message>
     <message>
       <source>#80</source>
-      <translation>下一课会在地图上放置一个人物。点击“下一步”结束本课。</translation>
+      <translation>第2课会在地图上放置第一个人物。点击“下一步”结束本课。</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep2</name>
+    <message>
+      <source>#1</source>
+      <translation>这一课在地图上放一个男孩，让玩家可以和他说话。
+点击“下一步”开始。</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>要新建一个带村庄的项目吗？选“否”可以打开已有的项目。</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>点击“新建”来创建项目。</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>点击“确定”。项目里会有一座琥珀村。</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>正在复制村庄，完成后会自动继续。</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>点击“打开”，查看已有的项目。</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>在列表中选好项目，点击“打开”。</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>男孩会站在这里，他叫皮普。玩家可以走近他，和他说话。</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>点击“事件”。地图上的人物都是事件，要在这个模式里制作。</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>右键点击这一格，打开菜单。</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>点击“新建事件…”来制作皮普。</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>这个窗口决定一个事件的外观和它要做的事。</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>每个事件都有名称。玩家看不到它，它方便你以后查找。</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>这里是出现条件。皮普什么都不设，所以他一直都在。</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>点击“图像”下面的空框，选择皮普的样子。</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>点击“孩子”。</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>点击“确定”，使用这个图像。</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>“不移动”表示皮普不会走动。以后的课会让人物走起来。</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>点击“静止时也踏步”，让皮普更有生气。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>“按确定键时”是指玩家站在皮普面前按 Enter 键。</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>点击“确定”，皮普就会出现在地图上。</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>皮普站在这里了，但还不会说话。双击他。</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>事件要做的事在这里逐行列出。“+”处可以加入新指令。</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>双击“+”，添加一条指令。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>所有指令都在这个窗口里，分放在选项卡中。说话用“消息”里的指令。</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>已经选中了“显示消息”。点击“确定”。</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>输入皮普说的话，例如：早上好，米拉！然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>“说话人”里的名字会显示在文字上方，也可以留空。</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>点击“预览…”，看看玩家会看到什么。</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>游戏里的消息就是这个样子。点击“关闭”。</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>点击“确定”，保留这条消息。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>你的消息已在列表里。和皮普说话时，首先出现的就是它。</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>双击新的“+”。皮普还有一句话要说。</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>点击“确定”。</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>输入村里的消息，例如：灯灭了！然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>点击“应用”，窗口不关，修改也会保留。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>点击“确定”，回到地图。</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>再次双击皮普。事件的内容随时都可以修改。</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>皮普的消息让人吃惊。现在检查他说的话，再表现出惊讶。</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>双击第一条消息，就能回到输入的内容。</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>点击文字，有要改的地方就改。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>点击第二条消息。选中后可以用 Ctrl+C 复制。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>右键点击指令会打开菜单，可以复制、粘贴和删除指令。</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>双击消息下面的“+”。</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>点击几个选项卡，看看事件还能做什么。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>点击“场景”选项卡，其中的指令会改变地图上看到的东西。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>点击“显示气泡”。它会在头顶表现人物的心情。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>听到消息的是玩家，气泡出现在玩家头上。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>惊讶用“惊叹号”正合适。这里还有表示其他心情的气泡。</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>点击“确定”，添加气泡。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>指令从上到下执行：皮普先说话，然后出现气泡。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>“取消”会放弃打开这个窗口之后的修改。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>这次全部保留，点击“确定”。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>点击“地图”。绘图时事件会隐藏起来，皮普仍在原处。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>点击“保存”，把皮普写入项目的文件夹。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>完成了！你会制作事件、选择外观，还能让它说话了。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>第3课会制作门和宝箱。点击“下一步”结束本课。</translation>
     </message>
   </context>
 </TS>

@@ -60,7 +60,8 @@ private:
                                                      QStringLiteral("--version")};
         QTest::newRow("lesson-position")
             << QStringLiteral(LESSON_POSITION)
-            << QStringList{QStringLiteral("--help"), QStringLiteral("--tree"), QStringLiteral("--version")};
+            << QStringList{QStringLiteral("--help"), QStringLiteral("--lines"), QStringLiteral("--tree"),
+                           QStringLiteral("--version")};
         QTest::newRow("PracticeEditor")
             << QStringLiteral(PRACTICE_PROGRAM)
             << QStringList{QStringLiteral("--broken"),    QStringLiteral("--clock"),

@@ -63,7 +63,7 @@ void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data
                               << QStringList{QStringLiteral("ミラ"), QStringLiteral("トーマ")};
     QTest::newRow("Chinese") << QStringLiteral("zh_CN")
                              << QStringList{QStringLiteral("琥珀村"), QStringLiteral("米拉的家"),
-                                            QStringLiteral("商店"),   QStringLiteral("旅馆"),
+                                            QStringLiteral("商店"),   QStringLiteral("旅店"),
                                             QStringLiteral("山岗"),   QStringLiteral("林间小路")}
                              << QStringList{QStringLiteral("米拉"), QStringLiteral("托马")};
 }
