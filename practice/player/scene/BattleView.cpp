@@ -137,6 +137,7 @@ void BattleView::showLog(Frame *frame) const
     Panel panel;
     panel.role = QStringLiteral("log");
     panel.rect = kLog;
+    panel.isWaiting = true; // a key hurries
     const QStringList seen = log.mid(qMax(0, int(log.size()) - kLinesOfLog));
     for (const QString &line : seen) {
         panel.lines.append(PanelLine(line));

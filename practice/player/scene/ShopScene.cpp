@@ -91,7 +91,7 @@ void ShopScene::listBag(const Game &game)
             }
             const int price = entry->price / kSellingPart;
             const QString reason = price > 0 ? QString() : tr("The shop does not buy this.");
-            rows.append({QStringLiteral("%1 × %2").arg(entry->name).arg(its.value()),
+            rows.append({QStringLiteral("%1 × %2").arg(entry->name, QString::number(its.value())),
                          Terms::gold(price, data), entry->description, reason, int(m_bag.size())});
             m_bag.append({int(kind), its.key(), price});
         }
@@ -235,7 +235,8 @@ Panel ShopScene::howMany(const GameData &data) const
     panel.rect = kHowMany;
     panel.title = tr("How many?");
     PanelRow row;
-    row.text = QStringLiteral("%1 × %2").arg(Terms::thing(Goods(goods.kind), goods.id, data)).arg(m_number);
+    row.text = QStringLiteral("%1 × %2").arg(Terms::thing(Goods(goods.kind), goods.id, data),
+                                             QString::number(m_number));
     row.rightText =
         Terms::gold(int(qMin<qint64>(qint64(goods.price) * m_number, GameState::kMostGold)), data);
     panel.rows = {row};
@@ -264,9 +265,9 @@ Panel ShopScene::comparison(const ShopGoods &goods, const Game &game) const
         (isWeapon ? would.weapon : would.armor) = goods.id;
         const int before = isWeapon ? actor->attack(game.data()) : actor->defense(game.data());
         const int after = isWeapon ? would.attack(game.data()) : would.defense(game.data());
-        PanelLine line(QStringLiteral("%1  %2 %3 → ")
-                           .arg(actor->name, isWeapon ? Terms::attack() : Terms::defense())
-                           .arg(before));
+        PanelLine line(
+            QStringLiteral("%1  %2 %3 → ")
+                .arg(actor->name, isWeapon ? Terms::attack() : Terms::defense(), QString::number(before)));
         constexpr int kWorse = 2;
         constexpr int kBetter = 3;
         const int colour = after > before ? kBetter : kWorse;

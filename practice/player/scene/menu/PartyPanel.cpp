@@ -16,7 +16,7 @@ constexpr int kGaugeWidth = 112;
 
 PanelLine figure(const QString &name, int now, int before)
 {
-    PanelLine line(QStringLiteral("%1  %2").arg(name).arg(before));
+    PanelLine line(QStringLiteral("%1  %2").arg(name, QString::number(before)));
     if (now != before) {
         line.runs.append({QStringLiteral(" → %1").arg(now), now > before ? kBetter : kWorse});
     }
@@ -56,8 +56,8 @@ Panel status(const GameState &state, const GameData &data)
             continue;
         }
         const int top = 12 + 24 * int(panel.lines.size()) + 22;
-        panel.lines.append(
-            PanelLine(QStringLiteral("%1  %2 %3").arg(actor->name, Terms::level()).arg(actor->level)));
+        panel.lines.append(PanelLine(
+            QStringLiteral("%1  %2 %3").arg(actor->name, Terms::level(), QString::number(actor->level))));
         panel.lines.append(PanelLine(Terms::states(actor->states, data)));
         panel.gauges.append({Terms::hp(), actor->hp, actor->maxHp(data), QRect(184, top, kGaugeWidth, 22)});
         panel.gauges.append({Terms::mp(), actor->mp, actor->maxMp(data), QRect(308, top, kGaugeWidth, 22)});

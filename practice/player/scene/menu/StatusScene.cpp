@@ -55,10 +55,8 @@ void StatusScene::show(const Game &game, Frame *frame) const
     who.lines = {
         PanelLine(QStringLiteral("%1  %2").arg(actor->name, data.classes.name(actor->classId))),
         PanelLine(QStringLiteral("%1 %2  %3 %4")
-                      .arg(Terms::level())
-                      .arg(actor->level)
-                      .arg(Terms::exp())
-                      .arg(actor->exp)),
+                      .arg(Terms::level(), QString::number(actor->level), Terms::exp(),
+                           QString::number(actor->exp))),
         PanelLine(actor->level >= actor->maxLevel ? tr("No higher level.") : next),
         PanelLine(states),
     };
