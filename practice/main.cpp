@@ -5,6 +5,7 @@
 #include "PilotSeries.h"
 #include "PracticeEditor.h"
 #include "PracticeTranslator.h"
+#include "TestPlayRun.h"
 #include "lesson/LessonWords.h"
 #include "platform/Platform.h"
 #include "strip/LessonCatalog.h"
@@ -127,6 +128,7 @@ struct CommandLine
     QCommandLineOption key{QStringLiteral("key"), QStringLiteral("Key of the link; by default a random one."),
                            QStringLiteral("key")};
     AuthorOptions author;
+    TestPlayOptions testPlay;
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
     QCommandLineParser parser;
@@ -138,46 +140,50 @@ struct CommandLine
         parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
         parser.addOptions({lesson, locale, pilot, way, shots, broken, clock, companion, key, help, version});
         author.addTo(&parser);
+        testPlay.addTo(&parser);
         isUnderstood = parser.parse(QCoreApplication::arguments());
     }
 };
 
-/// Prints what --help, --version and --dump-controls ask for, without a display. False when none is asked
-/// for.
-bool describe(int argc, char **argv)
+/// Does what --help, --version, --dump-controls and --test-play ask for, without a display, and gives the
+/// status. Nothing when none is asked for.
+std::optional<int> runWithoutDisplay(int argc, char **argv)
 {
     const auto asks = [](const char *word) {
         return qstrcmp(word, "--help") == 0 || qstrcmp(word, "-h") == 0 || qstrcmp(word, "--version") == 0 ||
-               qstrcmp(word, "--dump-controls") == 0;
+               qstrcmp(word, "--dump-controls") == 0 || qstrncmp(word, "--test-play", 11) == 0;
     };
     if (std::none_of(argv, argv + argc, asks)) {
-        return false;
+        return std::nullopt;
     }
     const QCoreApplication application(argc, argv);
     const CommandLine line;
     if (line.parser.isSet(line.help)) {
         std::fputs(qPrintable(line.parser.helpText()), stdout);
-        return true;
+        return 0;
     }
     if (line.parser.isSet(line.version)) {
         std::fputs("PracticeEditor " TUTORIAL_VERSION "\n", stdout);
-        return true;
+        return 0;
     }
     if (line.parser.isSet(line.author.dumpControls)) {
         QStringList errors;
         std::fputs(controlsForAuthors(&errors).constData(), stdout);
         std::fputs(qPrintable(errors.join(QLatin1Char('\n'))), stderr);
-        return true;
+        return 0;
     }
-    return false; // the word is an option's value
+    if (line.isUnderstood && line.parser.isSet(line.testPlay.testPlay)) {
+        return line.testPlay.run(line.parser, line.parser.value(line.locale));
+    }
+    return std::nullopt; // the word is an option's value, or the options are not understood
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (describe(argc, argv)) {
-        return 0;
+    if (const std::optional<int> status = runWithoutDisplay(argc, argv)) {
+        return *status;
     }
     // A host tells places in the screen's own pixels, and lessons point into windows of these.
     Platform::takeScreenPixels();

@@ -990,4 +990,233 @@
         <translation>だれに使いますか？</translation>
     </message>
 </context>
+<context>
+    <name>TestPlay</name>
+    <message>
+        <source>The file is missing; its entries are not there.</source>
+        <translation>ファイルがありません。中のデータはないものとして扱います。</translation>
+    </message>
+    <message>
+        <source>The file is no list of entries; they are not there.</source>
+        <translation>ファイルがデータのリストになっていません。中のデータはないものとして扱います。</translation>
+    </message>
+    <message>
+        <source>The file is missing or no object: party and start are not known.</source>
+        <translation>ファイルがないか、形式が正しくありません。パーティーと開始位置がわかりません。</translation>
+    </message>
+    <message>
+        <source>The game starts on map %1, and there is none.</source>
+        <translation>ゲームはマップ %1 から始まりますが、そのマップがありません。</translation>
+    </message>
+    <message>
+        <source>The game starts at %1, %2, outside of its map; it starts at its edge.</source>
+        <translation>開始位置 %1, %2 はマップの外です。マップの端から始まります。</translation>
+    </message>
+    <message>
+        <source>The party has nobody in it.</source>
+        <translation>パーティーにだれもいません。</translation>
+    </message>
+    <message>
+        <source>Actor %1 of the party is not there.</source>
+        <translation>パーティーのアクター %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The map has %1 x %2 cells; a side has to have 1 to %3. Nobody can go there.</source>
+        <translation>マップの大きさが %1 × %2 マスです。一辺は 1～%3 マスにしてください。このマップには行けません。</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>イベント %1</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>ページ %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a place in the project, and what is wrong</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>This is no saved game that can be read here.</source>
+        <translation>このセーブデータは読み込めません。</translation>
+    </message>
+    <message>
+        <source>The game was saved on map %1 at %2, %3, and the project has no such place any more.</source>
+        <translation>セーブした場所（マップ %1 の %2, %3）が、プロジェクトにもうありません。</translation>
+    </message>
+    <message>
+        <source>The project was changed since this game was saved: some things may not fit.</source>
+        <translation>セーブしたあとにプロジェクトが変更されています。合わないところがあるかもしれません。</translation>
+    </message>
+    <message>
+        <source>This begins by itself again and again, so the player can do nothing. Let it turn on a switch that another page waits for, or erase the event.</source>
+        <translation>自動実行が何度も繰り返され、プレイヤーは何もできません。別のページの条件になるスイッチをオンにするか、イベントを消去してください。</translation>
+    </message>
+    <message>
+        <source>There is no map to be on: nothing can be seen.</source>
+        <translation>表示できるマップがありません。</translation>
+    </message>
+    <message>
+        <source>There is no troop %1; nobody fights.</source>
+        <translation>敵グループ %1 がありません。戦闘は行われません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to choose from.</source>
+        <translation>選べるものがありません。</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <comment>the currency</comment>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>%1 commands were done without a wait: is this a loop without an end? It goes on, slowly.</source>
+        <translation>ウェイトなしで %1 個のコマンドが実行されました。終わらないループではありませんか。少しずつ続けます。</translation>
+    </message>
+    <message>
+        <source>There is no command %1; it is passed by.</source>
+        <translation>コマンド %1 はありません。飛ばします。</translation>
+    </message>
+    <message>
+        <source>The route has not got on for %1 seconds: something is in the way.</source>
+        <translation>移動ルートが %1 秒間進んでいません。何かがじゃまをしています。</translation>
+    </message>
+    <message>
+        <source>This event is not on the map.</source>
+        <translation>このイベントはマップにありません。</translation>
+    </message>
+    <message>
+        <source>There is no event %1 on the map.</source>
+        <translation>マップにイベント %1 がありません。</translation>
+    </message>
+    <message>
+        <source>A loop ends here that has not begun.</source>
+        <translation>始まっていないループの終わりがあります。</translation>
+    </message>
+    <message>
+        <source>There is no loop to be left here.</source>
+        <translation>ここには中断するループがありません。</translation>
+    </message>
+    <message>
+        <source>There is no label “%1” in this list.</source>
+        <translation>このリストにラベル「%1」がありません。</translation>
+    </message>
+    <message>
+        <source>%1 common events call one another: does one call itself? This call is passed by.</source>
+        <translation>コモンイベントの呼び出しが %1 回重なりました。自分自身を呼び出していませんか。この呼び出しは飛ばします。</translation>
+    </message>
+    <message>
+        <source>There is no state %1.</source>
+        <translation>ステート %1 がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is now at level %2!</source>
+        <translation>%1はレベル%2に上がりました！</translation>
+    </message>
+    <message>
+        <source>There is no skill %1.</source>
+        <translation>スキル %1 がありません。</translation>
+    </message>
+    <message>
+        <source>There is no weapon %1.</source>
+        <translation>武器 %1 がありません。</translation>
+    </message>
+    <message>
+        <source>There is no armor %1.</source>
+        <translation>防具 %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The party has nothing of that kind to wear; nothing is changed.</source>
+        <translation>その装備をパーティーが持っていません。何も変わりません。</translation>
+    </message>
+    <message>
+        <source>A name cannot be put in during a battle.</source>
+        <translation>戦闘中は名前を入力できません。</translation>
+    </message>
+    <message>
+        <source>A battle cannot begin here.</source>
+        <translation>ここでは戦闘を始められません。</translation>
+    </message>
+    <message>
+        <source>There is no enemy outside of a battle.</source>
+        <translation>戦闘中でないため、敵がいません。</translation>
+    </message>
+    <message>
+        <source>There is no enemy %1 in this battle.</source>
+        <translation>この戦闘に敵 %1 はいません。</translation>
+    </message>
+    <message>
+        <source>Nobody there can do this now.</source>
+        <translation>今その行動をとれる者がいません。</translation>
+    </message>
+    <message>
+        <source>There is no actor %1.</source>
+        <translation>アクター %1 がありません。</translation>
+    </message>
+    <message>
+        <source>There is no condition %1; it does not hold.</source>
+        <translation>条件 %1 はありません。満たされないものとします。</translation>
+    </message>
+    <message>
+        <source>There is no common event %1.</source>
+        <translation>コモンイベント %1 がありません。</translation>
+    </message>
+    <message>
+        <source>Variable %1 is divided by 0; it stays what it is.</source>
+        <translation>変数 %1 を 0 で割ろうとしました。値は変わりません。</translation>
+    </message>
+    <message>
+        <source>Only an event on a map has self switches.</source>
+        <translation>セルフスイッチはマップのイベントでだけ使えます。</translation>
+    </message>
+    <message>
+        <source>There is no switch or variable %1; the numbers go from 1 to %2.</source>
+        <translation>スイッチ・変数 %1 はありません。番号は 1～%2 です。</translation>
+    </message>
+    <message>
+        <source>There is no item %1.</source>
+        <translation>アイテム %1 がありません。</translation>
+    </message>
+    <message>
+        <source>There is no picture %1; the numbers go from 1 to %2.</source>
+        <translation>ピクチャ %1 はありません。番号は 1～%2 です。</translation>
+    </message>
+    <message>
+        <source>Picture %1 is not shown.</source>
+        <translation>ピクチャ %1 は表示されていません。</translation>
+    </message>
+    <message>
+        <source>This cannot be done during a battle.</source>
+        <translation>戦闘中は実行できません。</translation>
+    </message>
+    <message>
+        <source>There is no map %1.</source>
+        <translation>マップ %1 がありません。</translation>
+    </message>
+    <message>
+        <source>Map %1 has no cell %2, %3.</source>
+        <translation>マップ %1 に %2, %3 のマスはありません。</translation>
+    </message>
+    <message>
+        <source>A route that repeats has no end to wait for; the event goes on.</source>
+        <translation>繰り返す移動ルートには終わりがないため、待たずに続けます。</translation>
+    </message>
+    <message>
+        <source>There is no animation %1.</source>
+        <translation>アニメーション %1 がありません。</translation>
+    </message>
+    <message>
+        <source>There is no balloon %1.</source>
+        <translation>フキダシ %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The shop offers something that is not in the database: number %1.</source>
+        <translation>ショップの商品がデータベースにありません：番号 %1</translation>
+    </message>
+</context>
 </TS>

@@ -990,4 +990,233 @@
         <translation>对谁使用？</translation>
     </message>
 </context>
+<context>
+    <name>TestPlay</name>
+    <message>
+        <source>The file is missing; its entries are not there.</source>
+        <translation>文件不存在，其中的数据视为没有。</translation>
+    </message>
+    <message>
+        <source>The file is no list of entries; they are not there.</source>
+        <translation>文件不是数据列表，其中的数据视为没有。</translation>
+    </message>
+    <message>
+        <source>The file is missing or no object: party and start are not known.</source>
+        <translation>文件不存在或格式不正确：无法得知队伍和起始位置。</translation>
+    </message>
+    <message>
+        <source>The game starts on map %1, and there is none.</source>
+        <translation>游戏从地图 %1 开始，但没有这张地图。</translation>
+    </message>
+    <message>
+        <source>The game starts at %1, %2, outside of its map; it starts at its edge.</source>
+        <translation>起始位置 %1, %2 在地图之外，将从地图边缘开始。</translation>
+    </message>
+    <message>
+        <source>The party has nobody in it.</source>
+        <translation>队伍里没有人。</translation>
+    </message>
+    <message>
+        <source>Actor %1 of the party is not there.</source>
+        <translation>队伍中的角色 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>The map has %1 x %2 cells; a side has to have 1 to %3. Nobody can go there.</source>
+        <translation>地图大小为 %1 × %2 格，每边必须为 1 到 %3 格。无法进入这张地图。</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>事件 %1</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a place in the project, and what is wrong</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>This is no saved game that can be read here.</source>
+        <translation>无法读取这个存档。</translation>
+    </message>
+    <message>
+        <source>The game was saved on map %1 at %2, %3, and the project has no such place any more.</source>
+        <translation>存档所在的位置（地图 %1 的 %2, %3）在工程中已经不存在了。</translation>
+    </message>
+    <message>
+        <source>The project was changed since this game was saved: some things may not fit.</source>
+        <translation>存档之后工程有过改动，有些内容可能对不上。</translation>
+    </message>
+    <message>
+        <source>This begins by itself again and again, so the player can do nothing. Let it turn on a switch that another page waits for, or erase the event.</source>
+        <translation>自动执行不断重复，玩家什么也做不了。请打开另一页所等待的开关，或者消除该事件。</translation>
+    </message>
+    <message>
+        <source>There is no map to be on: nothing can be seen.</source>
+        <translation>没有可以显示的地图。</translation>
+    </message>
+    <message>
+        <source>There is no troop %1; nobody fights.</source>
+        <translation>没有敌群 %1，不会发生战斗。</translation>
+    </message>
+    <message>
+        <source>There is nothing to choose from.</source>
+        <translation>没有可以选择的物品。</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <comment>the currency</comment>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>%1 commands were done without a wait: is this a loop without an end? It goes on, slowly.</source>
+        <translation>没有等待就执行了 %1 条指令，是不是没有尽头的循环？将放慢速度继续执行。</translation>
+    </message>
+    <message>
+        <source>There is no command %1; it is passed by.</source>
+        <translation>没有指令 %1，已跳过。</translation>
+    </message>
+    <message>
+        <source>The route has not got on for %1 seconds: something is in the way.</source>
+        <translation>移动路线已经 %1 秒没有前进：有东西挡住了路。</translation>
+    </message>
+    <message>
+        <source>This event is not on the map.</source>
+        <translation>该事件不在地图上。</translation>
+    </message>
+    <message>
+        <source>There is no event %1 on the map.</source>
+        <translation>地图上没有事件 %1。</translation>
+    </message>
+    <message>
+        <source>A loop ends here that has not begun.</source>
+        <translation>这里结束了一个没有开始的循环。</translation>
+    </message>
+    <message>
+        <source>There is no loop to be left here.</source>
+        <translation>这里没有可以中断的循环。</translation>
+    </message>
+    <message>
+        <source>There is no label “%1” in this list.</source>
+        <translation>这个列表里没有标签“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 common events call one another: does one call itself? This call is passed by.</source>
+        <translation>公共事件的调用嵌套了 %1 层，是不是调用了自身？已跳过这次调用。</translation>
+    </message>
+    <message>
+        <source>There is no state %1.</source>
+        <translation>没有状态 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is now at level %2!</source>
+        <translation>%1升到了%2级！</translation>
+    </message>
+    <message>
+        <source>There is no skill %1.</source>
+        <translation>没有技能 %1。</translation>
+    </message>
+    <message>
+        <source>There is no weapon %1.</source>
+        <translation>没有武器 %1。</translation>
+    </message>
+    <message>
+        <source>There is no armor %1.</source>
+        <translation>没有防具 %1。</translation>
+    </message>
+    <message>
+        <source>The party has nothing of that kind to wear; nothing is changed.</source>
+        <translation>队伍没有这件装备，不做任何更改。</translation>
+    </message>
+    <message>
+        <source>A name cannot be put in during a battle.</source>
+        <translation>战斗中不能输入名字。</translation>
+    </message>
+    <message>
+        <source>A battle cannot begin here.</source>
+        <translation>这里不能开始战斗。</translation>
+    </message>
+    <message>
+        <source>There is no enemy outside of a battle.</source>
+        <translation>不在战斗中，没有敌人。</translation>
+    </message>
+    <message>
+        <source>There is no enemy %1 in this battle.</source>
+        <translation>这场战斗中没有敌人 %1。</translation>
+    </message>
+    <message>
+        <source>Nobody there can do this now.</source>
+        <translation>现在没有谁能做这个行动。</translation>
+    </message>
+    <message>
+        <source>There is no actor %1.</source>
+        <translation>没有角色 %1。</translation>
+    </message>
+    <message>
+        <source>There is no condition %1; it does not hold.</source>
+        <translation>没有条件 %1，视为不成立。</translation>
+    </message>
+    <message>
+        <source>There is no common event %1.</source>
+        <translation>没有公共事件 %1。</translation>
+    </message>
+    <message>
+        <source>Variable %1 is divided by 0; it stays what it is.</source>
+        <translation>变量 %1 被 0 除，其值不变。</translation>
+    </message>
+    <message>
+        <source>Only an event on a map has self switches.</source>
+        <translation>只有地图上的事件才有独立开关。</translation>
+    </message>
+    <message>
+        <source>There is no switch or variable %1; the numbers go from 1 to %2.</source>
+        <translation>没有开关或变量 %1，编号为 1 到 %2。</translation>
+    </message>
+    <message>
+        <source>There is no item %1.</source>
+        <translation>没有物品 %1。</translation>
+    </message>
+    <message>
+        <source>There is no picture %1; the numbers go from 1 to %2.</source>
+        <translation>没有图片 %1，编号为 1 到 %2。</translation>
+    </message>
+    <message>
+        <source>Picture %1 is not shown.</source>
+        <translation>图片 %1 没有显示。</translation>
+    </message>
+    <message>
+        <source>This cannot be done during a battle.</source>
+        <translation>战斗中不能执行。</translation>
+    </message>
+    <message>
+        <source>There is no map %1.</source>
+        <translation>没有地图 %1。</translation>
+    </message>
+    <message>
+        <source>Map %1 has no cell %2, %3.</source>
+        <translation>地图 %1 没有格子 %2, %3。</translation>
+    </message>
+    <message>
+        <source>A route that repeats has no end to wait for; the event goes on.</source>
+        <translation>重复的移动路线没有尽头，无法等待，事件继续执行。</translation>
+    </message>
+    <message>
+        <source>There is no animation %1.</source>
+        <translation>没有动画 %1。</translation>
+    </message>
+    <message>
+        <source>There is no balloon %1.</source>
+        <translation>没有气泡图标 %1。</translation>
+    </message>
+    <message>
+        <source>The shop offers something that is not in the database: number %1.</source>
+        <translation>商店出售的商品不在数据库中：编号 %1</translation>
+    </message>
+</context>
 </TS>

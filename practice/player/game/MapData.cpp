@@ -23,10 +23,10 @@ bool MapData::isFloor(const QPoint &cell) const
     return contains(cell) && floor.value(cell.y() * size.width() + cell.x());
 }
 
-const MapEvent *MapData::event(int id) const
+const MapEvent *MapData::event(int number) const
 {
-    const auto found =
-        std::find_if(events.cbegin(), events.cend(), [id](const MapEvent &event) { return event.id == id; });
+    const auto found = std::find_if(events.cbegin(), events.cend(),
+                                    [number](const MapEvent &event) { return event.id == number; });
     return found == events.cend() ? nullptr : &*found;
 }
 

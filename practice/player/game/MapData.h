@@ -85,7 +85,7 @@ struct MapData
     /// False outside.
     [[nodiscard]] bool isFloor(const QPoint &cell) const;
     /// nullptr when there is none.
-    [[nodiscard]] const MapEvent *event(int id) const;
+    [[nodiscard]] const MapEvent *event(int number) const;
 };
 
 } // namespace player

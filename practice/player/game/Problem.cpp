@@ -11,9 +11,9 @@ QString Problem::toString() const
     if (!file.isEmpty()) {
         place.append(file);
     }
-    const auto add = [&place](const QString &text, int number) {
+    const auto add = [&place](const QString &words, int number) {
         if (number > 0) {
-            place.append(text.arg(number));
+            place.append(words.arg(number));
         }
     };
     add(QCoreApplication::translate("TestPlay", "event %1"), event);

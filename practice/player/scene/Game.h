@@ -6,6 +6,7 @@
 #include "player/game/Problem.h"
 #include "player/scene/Frame.h"
 #include "player/scene/Scene.h"
+#include "player/scene/SceneMaker.h"
 
 #include <memory>
 #include <vector>
@@ -35,7 +36,9 @@ struct GameSettings
 class Game
 {
 public:
-    Game(std::shared_ptr<const GameData> data, const GameSettings &settings);
+    /// newGame() makes one with all scenes.
+    Game(std::shared_ptr<const GameData> data, const GameSettings &settings,
+         std::unique_ptr<const SceneMaker> scenes);
     ~Game();
 
     /// A sixtieth of a second.
@@ -53,6 +56,8 @@ public:
 
     // For scenes.
 
+    [[nodiscard]] const SceneMaker &make() const { return *m_make; }
+
     /// The uppermost scene, nullptr for none.
     [[nodiscard]] Scene *scene() const;
     void push(std::unique_ptr<Scene> scene);
@@ -66,6 +71,9 @@ public:
     void beginSaved(const GameState &state);
     void beginTitle();
     void end() { m_isOver = true; }
+    /// Battles by chance take place; a script may do without.
+    [[nodiscard]] bool hasEncounters() const { return m_hasEncounters; }
+    void setEncounters(bool isOn) { m_hasEncounters = isOn; }
 
     /// Heard once.
     void play(const Sound &sound);
@@ -88,6 +96,7 @@ private:
 
     std::shared_ptr<const GameData> m_data;
     GameSettings m_settings;
+    std::unique_ptr<const SceneMaker> m_make;
     GameState m_state;
     std::vector<std::unique_ptr<Scene>> m_scenes;
     std::vector<Order> m_orders;
@@ -97,6 +106,7 @@ private:
     QVector<Problem> m_told;
     QVector<Problem> m_problems;
     bool m_isOver = false;
+    bool m_hasEncounters = true;
 };
 
 } // namespace player

@@ -23,8 +23,6 @@ public:
     /// An event runs, or a talk or transfer is on: the hero cannot walk.
     [[nodiscard]] bool isBusy() const;
     [[nodiscard]] const World &world() const { return m_world; }
-    /// Battles by chance take place; a script may turn them off.
-    void setEncounters(bool isOn) { m_hasEncounters = isOn; }
 
 private:
     // Of the stage.
@@ -77,7 +75,6 @@ private:
     bool m_isFighting = false;
     bool m_canLose = false;
     Sound m_musicBefore;
-    bool m_hasEncounters = true;
     int m_stepsToEncounter = 0;
     /// The cell on which the hero stood when the last step was over.
     QPoint m_heroCell;

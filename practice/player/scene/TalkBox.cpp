@@ -203,7 +203,7 @@ void TalkBox::tickChoices(const Input &input, Game *)
     if (result == RowCursor::Result::kChosen) {
         end(m_cursor.current());
     } else if (result == RowCursor::Result::kCancelled && m_choices.whenCancelled != -1) {
-        end(kCancelled);
+        end(kNothingChosen);
     }
 }
 
@@ -248,7 +248,7 @@ void TalkBox::tickItems(const Input &input, Game *game)
         if (m_items.isEmpty()) {
             // There is nothing to choose from: a key goes on.
             if (isKey(input)) {
-                end(kCancelled);
+                end(kNothingChosen);
             }
             return;
         }
@@ -257,7 +257,7 @@ void TalkBox::tickItems(const Input &input, Game *game)
     if (result == RowCursor::Result::kChosen) {
         end(m_items.at(m_cursor.current()));
     } else if (result == RowCursor::Result::kCancelled) {
-        end(kCancelled);
+        end(kNothingChosen);
     }
 }
 

@@ -25,7 +25,7 @@ public:
 
     /// Something is shown, or waits for a key or an answer.
     [[nodiscard]] bool isTalking() const { return m_kind != Kind::kNothing; }
-    /// The choice, number or item; kCancelled.
+    /// The choice, number or item; kNothingChosen.
     [[nodiscard]] int answer() const { return m_answer; }
 
     void tick(const Input &input, Game *game);

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] bool isSilent(int code) const { return m_silent.contains(code); }
     [[nodiscard]] bool knows(int code) const { return m_handlers.contains(code) || isSilent(code); }
 
-    void add(int code, Handler handler) { m_handlers.insert(code, handler); }
+    void add(int code, Handler doing) { m_handlers.insert(code, doing); }
     void addSilent(int code) { m_silent.insert(code); }
 
 private:

@@ -32,6 +32,7 @@ void Interpreter::start(const CommandList &list, const ListPlace &place)
     m_levels = {{list, place, 0, {}}};
     m_wait = Wait::kNothing;
     m_then = nullptr;
+    m_saidEndless = false;
 }
 
 bool Interpreter::ownsStage() const
@@ -56,6 +57,9 @@ void Interpreter::tick()
             continue;
         }
         if (done >= kBudget) {
+            if (std::exchange(m_saidEndless, true)) {
+                return;
+            }
             tell(QCoreApplication::translate("TestPlay",
                                              "%1 commands were done without a wait: is this a loop without "
                                              "an end? It goes on, slowly.")

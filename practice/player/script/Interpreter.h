@@ -136,6 +136,7 @@ private:
     Command m_current;
     /// Row of m_current, from 0.
     int m_row = 0;
+    bool m_saidEndless = false;
 };
 
 } // namespace player

@@ -58,7 +58,7 @@ public:
     virtual void askItem(const ItemInput &input) = 0;
     virtual void scrollText(const ScrollingText &text) = 0;
     [[nodiscard]] virtual bool isTalking() const = 0;
-    /// The number of the choice, the number that was put in, the item; kCancelled.
+    /// The number of the choice, the number that was put in, the item; kNothingChosen.
     [[nodiscard]] virtual int answer() const = 0;
 
     virtual void play(const Sound &sound) = 0;

@@ -51,6 +51,6 @@ struct ScrollingText
 };
 
 /// What is answered when choices, or the choice of an item, are cancelled.
-constexpr int kCancelled = -1;
+constexpr int kNothingChosen = -1;
 
 } // namespace player

@@ -41,7 +41,7 @@ void message(Interpreter &run, const Command &command)
 void takeChoice(Interpreter &run, const Command &command)
 {
     const int answer = run.stage().answer();
-    run.setBranch(command.indent, answer != kCancelled ? answer : command.number(1));
+    run.setBranch(command.indent, answer != kNothingChosen ? answer : command.number(1));
 }
 
 void choices(Interpreter &run, const Command &command)

@@ -1,0 +1,7 @@
+#include "player/scene/SceneMaker.h"
+
+namespace player {
+
+SceneMaker::~SceneMaker() = default;
+
+} // namespace player
