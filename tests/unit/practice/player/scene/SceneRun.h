@@ -1,7 +1,7 @@
 #pragma once
 
 #include "../SlimeGame.h"
-#include "player/scene/Game.h"
+#include "player/scene/NewGame.h"
 
 #include <QTest>
 
@@ -9,7 +9,8 @@
 struct SceneRun
 {
     explicit SceneRun(const SlimeGame &small, const player::GameSettings &settings = {})
-        : game(small.data, settings)
+        : owned(player::newGame(small.data, settings))
+        , game(*owned)
     {
         game.state() = small.state;
     }
@@ -100,5 +101,6 @@ struct SceneRun
         return list() != nullptr && list()->rows.value(row).isEnabled;
     }
 
-    player::Game game;
+    std::unique_ptr<player::Game> owned;
+    player::Game &game;
 };
