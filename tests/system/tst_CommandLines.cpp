@@ -1,6 +1,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <QTest>
 
 namespace {
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void nothingElseIsOffered_data() { programs(); }
     void nothingElseIsOffered();
     void wordThatIsAValueIsNoOption();
+    void testPlaySaysWhatWasSeen_data();
+    void testPlaySaysWhatWasSeen();
 
 private:
     static void programs()
@@ -70,7 +73,8 @@ private:
                            QStringLiteral("--key"),       QStringLiteral("--lesson"),
                            QStringLiteral("--locale"),    QStringLiteral("--pilot"),
                            QStringLiteral("--record"),    QStringLiteral("--scenario"),
-                           QStringLiteral("--shots"),     QStringLiteral("--version"),
+                           QStringLiteral("--script"),    QStringLiteral("--shots"),
+                           QStringLiteral("--test-play"), QStringLiteral("--version"),
                            QStringLiteral("--way")};
     }
 };
@@ -135,6 +139,37 @@ void tst_CommandLines::wordThatIsAValueIsNoOption()
             {QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("lesson1")});
     QCOMPARE(positional.status, 2);
     QVERIFY2(positional.errors.contains(QStringLiteral("not \"lesson1\"")), qPrintable(positional.errors));
+}
+
+void tst_CommandLines::testPlaySaysWhatWasSeen_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("as expected") << QByteArray("new game\ngo on\nexpect switch 1 on\nexpect at 11 11\n") << 0
+                                 << QStringLiteral("line 3: ok: expect switch 1 on; seen: on\n"
+                                                   "line 4: ok: expect at 11 11; seen: 11 11\n");
+    QTest::newRow("otherwise") << QByteArray("new game\ngo on\nexpect map 2\nexpect map 1\n") << 1
+                               << QStringLiteral("line 3: FAILED: expect map 2; seen: 1\n");
+    QTest::newRow("unreadable") << QByteArray("expect message \"x\n") << 2 << QString();
+}
+
+void tst_CommandLines::testPlaySaysWhatWasSeen()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, status);
+    QFETCH(QString, said);
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    QCOMPARE(file.write(script), qint64(script.size()));
+    file.close();
+    const Run played =
+        run(QStringLiteral(PRACTICE_PROGRAM),
+            {QStringLiteral("--test-play"), QStringLiteral(TUTORIAL_SOURCE_DIR "/resource/preset/step19"),
+             QStringLiteral("--script"), file.fileName()});
+    QCOMPARE(played.output, said);
+    QCOMPARE(played.status, status);
+    QCOMPARE(played.errors.isEmpty(), status != 2);
 }
 
 QTEST_GUILESS_MAIN(tst_CommandLines)
