@@ -1,5 +1,6 @@
 #include "PracticeEditor.h"
 
+#include "TestPlay.h"
 #include "strip/LessonStrip.h"
 #include "strip/StripControl.h"
 #include "window/Blink.h"
@@ -35,6 +36,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_control(new StripControl(&m_session, &m_course, m_strip, this))
     , m_place(options.placeFile)
     , m_link(options.companionProgram, options.key, options.locale)
+    , m_testPlay(std::make_unique<TestPlay>(m_windows.get(), &m_session, m_strip))
 {
     m_windows->dock(m_strip);
     m_windows->setUnattended(options.unattended);
@@ -126,6 +128,7 @@ void PracticeEditor::connectSession()
                        .arg(fault.word));
     });
     connect(&m_session, &LessonSession::nextArrived, m_windows.get(), &EditorWindows::takeFocusBack);
+    connect(&m_session, &LessonSession::nextArrived, m_testPlay.get(), &TestPlay::takeFocus);
     connect(&m_session, &LessonSession::lessonsListed, this, &PracticeEditor::onListed);
     connect(&m_session, &LessonSession::showRequested, this, [this](const ControlSpot &spot) {
         if (const std::optional<QRect> rect = m_windows->rectOf(spot)) {
@@ -139,6 +142,7 @@ void PracticeEditor::connectSession()
 void PracticeEditor::connectStrip()
 {
     connect(m_strip, &LessonStrip::used, this, &PracticeEditor::returnFocus);
+    connect(m_testPlay.get(), &TestPlay::ended, this, &PracticeEditor::returnFocus);
     connect(m_control, &StripControl::praised, this, [this](const QString &praise) {
         // Where the person has just read the last hint.
         if (const std::optional<QPoint> bubble = m_session.bubblePlace()) {
@@ -269,6 +273,10 @@ void PracticeEditor::returnFocus()
 {
     if (QApplication::activeModalWidget() != nullptr) {
         return; // a question, or the list of lessons
+    }
+    if (m_testPlay->isOn()) {
+        m_testPlay->takeFocus();
+        return;
     }
     const QStringList open = m_windows->openWindows();
     for (int i = open.size() - 1; i >= 0; --i) {

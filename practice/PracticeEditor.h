@@ -15,6 +15,7 @@ class EditorWindows;
 class LessonStrip;
 class QWindow;
 class StripControl;
+class TestPlay;
 
 /// The practice editor as a whole: joins the windows, the link and the lesson.
 class PracticeEditor : public QObject
@@ -95,6 +96,7 @@ private:
     LessonProject m_lessonProject;
     PlaceMemory m_place;
     HostLink m_link;
+    std::unique_ptr<TestPlay> m_testPlay;
     QPointer<QWindow> m_mainWindow; ///< watched; null before start()
     /// What the person wanted from the start has been seen to.
     bool m_isBegun = false;

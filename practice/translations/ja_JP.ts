@@ -1219,4 +1219,87 @@
         <translation>ショップの商品がデータベースにありません：番号 %1</translation>
     </message>
 </context>
+<context>
+    <name>player::Artwork</name>
+    <message>
+        <source>There is no picture “%1”: a plain box is shown. Choose another picture in its place.</source>
+        <extracomment>%1 is the name of a picture in the project.</extracomment>
+        <translation>画像「%1」がないため、四角い枠を表示しています。別の画像を選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>player::GameView</name>
+    <message>
+        <source>The game</source>
+        <extracomment>Read out to those who do not see it: the part of a window in which the game is played.</extracomment>
+        <translation>ゲーム画面</translation>
+    </message>
+    <message>
+        <source>The game waits. Click here to go on.</source>
+        <extracomment>Over a game that stands still because another window has the keyboard.</extracomment>
+        <translation>ゲームは一時停止中です。ここをクリックすると続きます。</translation>
+    </message>
+</context>
+<context>
+    <name>player::KeyLine</name>
+    <message>
+        <source>Walk, choose</source>
+        <extracomment>Below a game, behind the arrow keys: what they do. There is room for some 20 letters.</extracomment>
+        <translation>移動・選択</translation>
+    </message>
+    <message>
+        <source>Talk, confirm</source>
+        <extracomment>Below a game, behind the enter key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>話す・決定</translation>
+    </message>
+    <message>
+        <source>Menu, cancel</source>
+        <extracomment>Below a game, behind the X key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>メニュー・取り消し</translation>
+    </message>
+    <message>
+        <source>Cancel, to the editor</source>
+        <extracomment>Below a game, behind the escape key: what it does. There is room for some 30 letters.</extracomment>
+        <translation>取り消し・エディターに戻る</translation>
+    </message>
+</context>
+<context>
+    <name>player::LogPane</name>
+    <message>
+        <source>Troop %1</source>
+        <translation>敵グループ %1</translation>
+    </message>
+    <message>
+        <source>Common event %1</source>
+        <translation>コモンイベント %1</translation>
+    </message>
+    <message>
+        <source>Event %1</source>
+        <translation>イベント %1</translation>
+    </message>
+    <message>
+        <source>Map %1</source>
+        <translation>マップ %1</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>ページ %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>What the game cannot do. A double click, or Enter, leads to the place in the editor.</source>
+        <translation>ゲームでできなかったことです。ダブルクリックするか Enter キーを押すと、エディターのその場所が開きます。</translation>
+    </message>
+</context>
+<context>
+    <name>player::PlayerWindow</name>
+    <message>
+        <source>%1 – Test play</source>
+        <extracomment>Title of the window of a game that is tried out; %1 is the name of the game.</extracomment>
+        <translation>%1 – テストプレイ</translation>
+    </message>
+</context>
 </TS>

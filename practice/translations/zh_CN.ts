@@ -1219,4 +1219,87 @@
         <translation>商店出售的商品不在数据库中：编号 %1</translation>
     </message>
 </context>
+<context>
+    <name>player::Artwork</name>
+    <message>
+        <source>There is no picture “%1”: a plain box is shown. Choose another picture in its place.</source>
+        <extracomment>%1 is the name of a picture in the project.</extracomment>
+        <translation>没有图片“%1”，因此显示为方框。请改选其他图片。</translation>
+    </message>
+</context>
+<context>
+    <name>player::GameView</name>
+    <message>
+        <source>The game</source>
+        <extracomment>Read out to those who do not see it: the part of a window in which the game is played.</extracomment>
+        <translation>游戏画面</translation>
+    </message>
+    <message>
+        <source>The game waits. Click here to go on.</source>
+        <extracomment>Over a game that stands still because another window has the keyboard.</extracomment>
+        <translation>游戏已暂停。单击此处继续。</translation>
+    </message>
+</context>
+<context>
+    <name>player::KeyLine</name>
+    <message>
+        <source>Walk, choose</source>
+        <extracomment>Below a game, behind the arrow keys: what they do. There is room for some 20 letters.</extracomment>
+        <translation>移动、选择</translation>
+    </message>
+    <message>
+        <source>Talk, confirm</source>
+        <extracomment>Below a game, behind the enter key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>对话、确定</translation>
+    </message>
+    <message>
+        <source>Menu, cancel</source>
+        <extracomment>Below a game, behind the X key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>菜单、取消</translation>
+    </message>
+    <message>
+        <source>Cancel, to the editor</source>
+        <extracomment>Below a game, behind the escape key: what it does. There is room for some 30 letters.</extracomment>
+        <translation>取消、返回编辑器</translation>
+    </message>
+</context>
+<context>
+    <name>player::LogPane</name>
+    <message>
+        <source>Troop %1</source>
+        <translation>敌群 %1</translation>
+    </message>
+    <message>
+        <source>Common event %1</source>
+        <translation>公共事件 %1</translation>
+    </message>
+    <message>
+        <source>Event %1</source>
+        <translation>事件 %1</translation>
+    </message>
+    <message>
+        <source>Map %1</source>
+        <translation>地图 %1</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>What the game cannot do. A double click, or Enter, leads to the place in the editor.</source>
+        <translation>游戏中无法执行的内容。双击或按 Enter 键可在编辑器中打开相应位置。</translation>
+    </message>
+</context>
+<context>
+    <name>player::PlayerWindow</name>
+    <message>
+        <source>%1 – Test play</source>
+        <extracomment>Title of the window of a game that is tried out; %1 is the name of the game.</extracomment>
+        <translation>%1 – 试玩</translation>
+    </message>
+</context>
 </TS>

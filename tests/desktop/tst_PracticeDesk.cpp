@@ -1,4 +1,8 @@
+#include "TestPlay.h"
 #include "XWindows.h"
+#include "host/LessonSession.h"
+#include "player/view/GameView.h"
+#include "player/view/PlayerWindow.h"
 #include "window/EditorWindowSet.h"
 
 #include <QApplication>
@@ -45,6 +49,7 @@ private Q_SLOTS:
     void aDialogIsFilledInByKeys();
     void aContextMenuIsUsedByKeys();
     void keysOfTheMenuBarAreNotThoseOfADialog();
+    void aGameIsPlayedAndLeftByKeys();
 
 private:
     [[nodiscard]] EditorWindow *window(const char *key) const { return m_windows->window(str(key)); }
@@ -52,6 +57,8 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_projects;
     std::unique_ptr<EditorWindowSet> m_windows;
+    /// Of the main window.
+    QWidget *m_strip = nullptr;
 };
 
 void tst_PracticeDesk::init()
@@ -62,9 +69,9 @@ void tst_PracticeDesk::init()
     QVERIFY2(m_windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
     m_windows->setUnattended(true);
     m_windows->setProjectsFolder(m_projects->path());
-    auto *strip = new QWidget;
-    strip->setFixedHeight(96);
-    m_windows->dock(strip);
+    m_strip = new QWidget;
+    m_strip->setFixedHeight(96);
+    m_windows->dock(m_strip);
     m_windows->open(str("MainWindow"));
     m_windows->project()->run(str("newProject.create"), m_windows->project()->files());
     QVERIFY(QTest::qWaitForWindowActive(frame(), kSoonMs));
@@ -141,6 +148,28 @@ void tst_PracticeDesk::keysOfTheMenuBarAreNotThoseOfADialog()
     QTRY_VERIFY_WITH_TIMEOUT(frame()->isActiveWindow(), kSoonMs);
     press("ctrl+g");
     QTRY_VERIFY_WITH_TIMEOUT(m_windows->project()->tools().hasGrid(), kSoonMs);
+}
+
+void tst_PracticeDesk::aGameIsPlayedAndLeftByKeys()
+{
+    const LessonSession session(m_windows.get());
+    const TestPlay play(m_windows.get(), &session, m_strip);
+    press("F5");
+    QTRY_VERIFY_WITH_TIMEOUT(play.isOn(), kSoonMs);
+    const QWidget *const focus = frame()->focusWidget();
+    auto *const game = frame()->findChild<player::PlayerWindow *>();
+    QVERIFY(game != nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(game->isActiveWindow() && game->view()->isOutermost(), kSoonMs);
+    const QRect screen = QApplication::primaryScreen()->availableGeometry();
+    QTRY_VERIFY_WITH_TIMEOUT(screen.contains(game->frameGeometry()), kSoonMs);
+    // The first row of the title begins the game.
+    press("Return");
+    QTRY_VERIFY_WITH_TIMEOUT(game->view()->frame().map != 0 && game->view()->isOutermost(), kSoonMs);
+    press("Escape");
+    QTRY_VERIFY_WITH_TIMEOUT(!play.isOn(), kSoonMs);
+    m_windows->open(str("MainWindow"));
+    QTRY_VERIFY_WITH_TIMEOUT(frame()->isActiveWindow(), kSoonMs);
+    QCOMPARE(frame()->focusWidget(), focus);
 }
 
 QTEST_MAIN(tst_PracticeDesk)

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "player/scene/Game.h"
+#include "player/view/Artwork.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace player {
+
+class GameView;
+class LogPane;
+
+/// The window of a game that is tried out: its screen, the keys, and what it could not do. The game goes on
+/// while it is shown, and waits while another window has the keyboard.
+class PlayerWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p name is that of the project. Without a parent the window stands for itself.
+    PlayerWindow(std::unique_ptr<Game> game, std::unique_ptr<Artwork> artwork, const QString &name,
+                 QWidget *parent = nullptr);
+    ~PlayerWindow() override;
+
+    /// Comes up on @p screen, as large as it fits beside what is to stay in sight; all in pixels of the
+    /// screen.
+    void showBeside(const QVector<QRect> &inSight, const QRect &screen);
+
+    [[nodiscard]] Game &game() { return *m_game; }
+    [[nodiscard]] GameView *view() const { return m_view; }
+
+Q_SIGNALS:
+    /// The game is over, or the person has left it: the window is closed.
+    void left();
+    /// The person wants to see a place in the editor.
+    void placeAsked(const player::Problem &problem);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    /// Makes up for the time that has passed.
+    void run();
+    void setRunning(bool isRunning);
+    void tell(const QVector<Problem> &problems);
+
+    std::unique_ptr<Game> m_game;
+    std::unique_ptr<Artwork> m_artwork;
+    GameView *m_view;
+    QWidget *m_keys;
+    LogPane *m_log;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    /// Ticks since the clock was started.
+    qint64 m_ticks = 0;
+};
+
+} // namespace player
