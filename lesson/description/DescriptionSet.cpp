@@ -59,9 +59,23 @@ struct ReferenceCheck
         }
     }
 
+    void menuEntry(const QString &name) const
+    {
+        if (name.isEmpty()) {
+            return;
+        }
+        QStringList entries;
+        const QVector<ControlDescription> controls = set.controlsIn(set.popupKey());
+        for (const ControlDescription &control : controls) {
+            entries.append(control.name);
+        }
+        oneOf(QStringLiteral("menus.entry"), name, entries);
+    }
+
     void menu(const MenuDescription &menu) const
     {
         for (const MenuEntryDescription &entry : menu.entries) {
+            menuEntry(entry.entry);
             if (commands != nullptr) {
                 oneOf(QStringLiteral("menus.run"), entry.run, *commands);
             }
@@ -116,7 +130,8 @@ void DescriptionSet::addForm(const QString &path, QStringList *errors)
         reader->addError(QStringLiteral("controls"), QStringLiteral("need the window \"%1.json\"").arg(key));
         return;
     }
-    window->controls += FormDescription::read(*reader, window->size);
+    // Ahead of the window's own buttons: that is the order of the tab key.
+    window->controls = FormDescription::read(*reader, window->size) + window->controls;
 }
 
 bool DescriptionSet::contains(const QString &key) const

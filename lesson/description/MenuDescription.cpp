@@ -19,6 +19,10 @@ MenuEntryDescription readEntry(JsonReader &reader, const QStringList &buttons)
         entry.button = reader.choice(str("button"), buttons);
         ++ways;
     }
+    if (reader.has(str("entry"))) {
+        entry.entry = reader.text(str("entry"));
+        ++ways;
+    }
     if (reader.has(str("run"))) {
         entry.run = reader.text(str("run"));
         ++ways;
@@ -28,7 +32,7 @@ MenuEntryDescription readEntry(JsonReader &reader, const QStringList &buttons)
         ++ways;
     }
     if (ways != 1) {
-        reader.addError(str("label"), str("needs one of button, run and does beside it"));
+        reader.addError(str("label"), str("needs one of button, entry, run and does beside it"));
     }
     entry.keys = reader.texts(str("keys"));
     return entry;

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTabBar>
 
 #include <algorithm>
@@ -50,6 +51,10 @@ void EditorWindow::refresh()
 {
     Q_EMIT arranged();
     Q_EMIT refreshed();
+    const QVector<QWidget *> coming = std::exchange(m_coming, {});
+    for (QWidget *control : coming) {
+        Q_EMIT cameUp(control);
+    }
 }
 
 void EditorWindow::setAway(QWidget *control, bool isAway)
@@ -103,15 +108,21 @@ QVariant EditorWindow::field(const QString &name) const
 
 void EditorWindow::setField(const QString &name, const QVariant &value)
 {
-    if (isVisible()) {
+    if (isOfUse()) {
+        const QScopedValueRollback<QString> now(m_changing, name);
         m_project->fields().setValue(name, value, *m_layer);
+    } else if (isVisible()) {
+        refresh();
     }
 }
 
 void EditorWindow::choose(const QString &name, const Row &row)
 {
-    if (isVisible()) {
+    if (isOfUse()) {
+        const QScopedValueRollback<QString> now(m_changing, name);
         m_project->fields().choose(name, row, *m_layer);
+    } else if (isVisible()) {
+        refresh();
     }
 }
 
@@ -127,8 +138,10 @@ int EditorWindow::currentRow(const QString &source) const
 
 void EditorWindow::setCurrentRow(const QString &source, int row)
 {
-    if (isVisible()) {
+    if (isOfUse()) {
         m_project->sources().setCurrentRow(source, row, *m_layer);
+    } else if (isVisible()) {
+        refresh();
     }
 }
 
@@ -173,7 +186,7 @@ const ControlAction *EditorWindow::chosen(const ControlAction &action) const
 void EditorWindow::act(const ControlAction &action, const QPoint &screenPosition, const ControlSpot &cause)
 {
     const ControlAction *done = chosen(action);
-    if (done == nullptr || done->isEmpty()) {
+    if (m_isBlocked || done == nullptr || done->isEmpty()) {
         return;
     }
     const auto loses = [this](const QString &command) {

@@ -42,8 +42,8 @@ public:
     [[nodiscard]] DataLayer &layer() const { return *m_layer; }
     void setLayer(DataLayer *layer) { m_layer = layer; }
 
-    /// Nothing is changed while the window is hidden: a number that was half typed when it closed is rounded
-    /// when the focus leaves it, and must not get into the project that way.
+    /// Nothing is changed while the window is hidden or blocked: a number that was half typed when it closed
+    /// is rounded when the focus leaves it, and must not get into the project that way.
     [[nodiscard]] QVariant field(const QString &name) const;
     void setField(const QString &name, const QVariant &value);
     /// Gives the field what @p row stands for, as Fields::choose() does.
@@ -73,6 +73,16 @@ public:
     /// Controls take turns: what is away is not seen and need not be kept fresh.
     void setAway(QWidget *control, bool isAway);
     [[nodiscard]] bool isAway(const QWidget *control) const { return m_away.contains(control); }
+    /// The field that a person changes just now; empty for none.
+    [[nodiscard]] const QString &changing() const { return m_changing; }
+    /// Tells of @p control, once it shows what there is, that it came up in the place of another one: what
+    /// stands in its field may have meant something else. See cameUp().
+    void tellOfComing(QWidget *control) { m_coming.append(control); }
+
+    /// While a window above keeps this one from being used, its controls do nothing, however they are
+    /// pressed: mouse and keys do not get here, but those who have the window read to them can.
+    void setBlocked(bool isBlocked) { m_isBlocked = isBlocked; }
+    [[nodiscard]] bool isBlocked() const { return m_isBlocked; }
 
     /// The button that the return key presses.
     void setDefaultButton(QPushButton *button);
@@ -91,6 +101,8 @@ Q_SIGNALS:
     /// The controls are to show what there is now: the project changed, or the window comes up. A window that
     /// nobody sees waits until then.
     void refreshed();
+    /// The person changed what @p control depends on, and it came up by that.
+    void cameUp(QWidget *control);
     /// The controls have followed the window to another size.
     void laidOut();
     /// Something that a condition may wait for, in its words.
@@ -113,6 +125,7 @@ protected:
 
 private:
     void refresh();
+    [[nodiscard]] bool isOfUse() const { return isVisible() && !m_isBlocked; }
 
     struct Placed
     {
@@ -127,8 +140,11 @@ private:
     QSize m_size;
     QVector<QWidget *> m_controls;
     QSet<const QWidget *> m_away;
+    QString m_changing;
+    QVector<QWidget *> m_coming;
     std::vector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;
     bool m_isToBeSeen = false;
+    bool m_isBlocked = false;
 };

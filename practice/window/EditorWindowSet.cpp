@@ -1,5 +1,7 @@
 #include "window/EditorWindowSet.h"
 
+#include "window/WindowAccess.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
@@ -15,6 +17,7 @@ using Kind = WindowDescription::Kind;
 std::unique_ptr<EditorWindowSet> EditorWindowSet::create(const QString &locale, QStringList *errors,
                                                          const QString &folder)
 {
+    makeWindowsAccessible();
     EditorGround ground = EditorGround::read(locale, folder, errors);
     const ControlContext context{ground.project.get(), ground.painter.get(), ground.locale};
     const WindowBuilder builder(ground.descriptions, context, errors);
@@ -95,6 +98,7 @@ void EditorWindowSet::wire(EditorWindow *window)
 
 bool EditorWindowSet::open(const QString &windowKey)
 {
+    m_secondClick.end();
     return openWith(windowKey, {});
 }
 
@@ -127,7 +131,7 @@ bool EditorWindowSet::openWith(const QString &windowKey, const ControlAction &ac
     window->activateWindow();
     window->focusFirst();
     m_stack.append(windowKey);
-    m_block.setTop(window);
+    setTop(window);
     Q_EMIT pushed(windowKey);
     m_places.forgetTold();
     m_places.tell(window);
@@ -159,7 +163,7 @@ void EditorWindowSet::closeTop()
     }
     window->setLayer(&m_ground.project->files());
     EditorWindow *const top = m_stack.isEmpty() ? nullptr : m_windows[m_stack.last()];
-    m_block.setTop(top);
+    setTop(top);
     if (top != nullptr) {
         top->activateWindow();
     }
@@ -172,6 +176,21 @@ void EditorWindowSet::takeFocusBack()
     // With some window managers the focus is back before anybody hears that it was gone.
     m_popup.abandon();
     GuidedWindows::takeFocusBack();
+}
+
+void EditorWindowSet::setTop(EditorWindow *window)
+{
+    m_block.setTop(window);
+    for (EditorWindow *other : qAsConst(m_windows)) {
+        const bool isBlocked = m_block.blocks(other);
+        if (other->isBlocked() != isBlocked) {
+            other->setBlocked(isBlocked);
+            tellOfBlocking(other);
+        }
+    }
+    if (window != nullptr) {
+        tellOfBlocking(window);
+    }
 }
 
 QStringList EditorWindowSet::openWindows() const
@@ -224,6 +243,9 @@ void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action,
                               const ControlSpot &cause)
 {
     const QScopedValueRollback<ControlSpot> now(m_cause, toldSpot(cause));
+    if (action.close || m_popup.window() == window) {
+        m_secondClick.begin();
+    }
     m_popup.close();
     if (action.close) {
         close(window->key());

@@ -7,6 +7,7 @@
 #include "window/LeaveQuestion.h"
 #include "window/MenuKey.h"
 #include "window/OpenPopup.h"
+#include "window/SecondClick.h"
 #include "window/WindowBuilder.h"
 #include "window/WindowPlaces.h"
 
@@ -68,6 +69,8 @@ private:
     /// Opens the window, in which what @p action begins is run.
     bool openWith(const QString &windowKey, const ControlAction &action);
     void closeTop();
+    /// Lets @p window, the topmost one, keep all others from being used.
+    void setTop(EditorWindow *window);
     void showPopup(const QString &name, const QPoint &position);
     void updateVisible();
     void updateTitle();
@@ -90,6 +93,8 @@ private:
     MenuKey m_menuKey;
     InputBlock m_block;
     OpenPopup m_popup;
+    /// Behind the popup, whose keys it has to see.
+    SecondClick m_secondClick;
     WindowPlaces m_places;
     LeaveQuestion m_question;
     /// Through which control windows open and close just now.

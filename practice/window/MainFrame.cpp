@@ -13,6 +13,11 @@ constexpr QMargins kDecoration(6, 32, 6, 6);
 
 } // namespace
 
+QMargins MainFrame::decoration()
+{
+    return kDecoration;
+}
+
 MainFrame::MainFrame()
     : QWidget(nullptr, Qt::Window)
     , m_menuBar(new QMenuBar(this))
@@ -43,6 +48,12 @@ void MainFrame::dock(QWidget *strip)
 bool MainFrame::isDocked(const QWidget *widget) const
 {
     return m_strip != nullptr && (widget == m_strip || m_strip->isAncestorOf(widget));
+}
+
+QRect MainFrame::stripOnScreen() const
+{
+    return m_strip != nullptr && m_strip->isVisible() ? QRect(m_strip->mapToGlobal(QPoint()), m_strip->size())
+                                                      : QRect();
 }
 
 int MainFrame::heightAbove(int width) const

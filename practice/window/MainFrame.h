@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QPointer>
 #include <QWidget>
 
@@ -26,6 +27,10 @@ public:
     void dock(QWidget *strip);
     /// Whether the widget is what is docked, or stands in it.
     [[nodiscard]] bool isDocked(const QWidget *widget) const;
+    /// Where what is docked stands on the screen; empty while nothing is seen of it.
+    [[nodiscard]] QRect stripOnScreen() const;
+    /// What a window manager puts around a window, at most, in pixels.
+    [[nodiscard]] static QMargins decoration();
 
     /// Makes room for contents of @p size, in pixels, with as much of it as @p screen has room for, and puts
     /// the corner of the contents at @p place, or as near to it as the frame stays on the screen.

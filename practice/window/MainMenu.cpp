@@ -2,10 +2,12 @@
 
 #include "window/EditorWindow.h"
 #include "window/Mnemonics.h"
+#include "window/control/ControlState.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMenuBar>
 
@@ -58,8 +60,26 @@ void follow(QAction *action, QAbstractButton *button, EditorWindow *main)
     take();
 }
 
-void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main)
+/// Lets the action do what the entry of a context menu does, whether that is open or not.
+void follow(QAction *action, const PopupEntry &entry, EditorWindow *main)
 {
+    const auto take = [action, entry] {
+        action->setEnabled(entry.popup->project().isOpen() && entry.popup->meets(entry.control.enabledWhen) &&
+                           canRun(entry.control.click, entry.popup));
+    };
+    QObject::connect(main, &EditorWindow::refreshed, action, take);
+    QObject::connect(action, &QAction::triggered, entry.popup, [entry] {
+        entry.popup->act(entry.control.click, QCursor::pos(), entry.popup->spot(entry.control.name));
+    });
+    take();
+}
+
+void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main, const FindPopupEntry &find)
+{
+    if (!entry.entry.isEmpty()) {
+        follow(action, find(entry.entry), main);
+        return;
+    }
     if (!entry.button.isEmpty()) {
         follow(action, main->findChild<QAbstractButton *>(entry.button, Qt::FindDirectChildrenOnly), main);
         return;
@@ -82,7 +102,7 @@ void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main
 } // namespace
 
 void fillMenuBar(QMenuBar *bar, const QVector<MenuDescription> &menus, EditorWindow *main,
-                 const QString &locale)
+                 const QString &locale, const FindPopupEntry &find)
 {
     for (const MenuDescription &description : menus) {
         if (description.entries.isEmpty()) {
@@ -100,7 +120,7 @@ void fillMenuBar(QMenuBar *bar, const QVector<MenuDescription> &menus, EditorWin
                 keys.append(QKeySequence::fromString(key, QKeySequence::PortableText));
             }
             action->setShortcuts(keys);
-            wire(action, entry, main);
+            wire(action, entry, main, find);
         }
     }
 }

@@ -56,9 +56,6 @@ WindowBuilder::Windows WindowBuilder::make() const
         } else if (description.kind == Kind::kWindow && key != mainKey()) {
             makeDialog(description, &windows);
         }
-        for (const PopupDescription &popup : description.popups) {
-            makePopup(popup, description.title, &windows);
-        }
     }
     return windows;
 }
@@ -71,7 +68,23 @@ void WindowBuilder::makeMain(Windows *windows) const
     if (description.minimumSize.isValid()) {
         windows->main->setMinimumSize(description.minimumSize);
     }
-    fillMenuBar(windows->frame->menuBar(), description.menus, windows->main, m_context.locale);
+    const QStringList keys = m_descriptions.keys();
+    for (const QString &key : keys) {
+        for (const PopupDescription &popup : m_descriptions[key].popups) {
+            makePopup(popup, m_descriptions[key].title, windows);
+        }
+    }
+    const auto entryWith = [this, windows](const QString &name) {
+        const QString popup = name.section(QLatin1Char('/'), 0, 0);
+        PopupEntry entry{windows->byName.value(popup), {}};
+        for (const ControlDescription &control : m_descriptions.popup(popup)->controls) {
+            if (control.name == name.section(QLatin1Char('/'), 1)) {
+                entry.control = control;
+            }
+        }
+        return entry;
+    };
+    fillMenuBar(windows->frame->menuBar(), description.menus, windows->main, m_context.locale, entryWith);
     windows->frame->setContents(windows->main);
     windows->byName.insert(mainKey(), windows->main);
     nameControls(windows->main, description.controls, description.title.value(m_context.locale));

@@ -20,6 +20,20 @@ QPoint fitted(const QPoint &place, const QSize &size, const QRect &screen)
     return {qMax(screen.left(), qMin(place.x(), last.x())), qMax(screen.top(), qMin(place.y(), last.y()))};
 }
 
+/// Where a dialog of this size has all of its frame in sight, and the lesson strip, too, if there is room.
+QRect roomFor(const QSize &size, const QRect &screen, const QRect &strip)
+{
+    QRect room = screen.marginsRemoved(MainFrame::decoration());
+    if (room.width() < size.width() || room.height() < size.height()) {
+        return screen;
+    }
+    const int aboveStrip = strip.top() - MainFrame::decoration().bottom() - 1;
+    if (!strip.isEmpty() && aboveStrip - room.top() + 1 >= size.height()) {
+        room.setBottom(qMin(room.bottom(), aboveStrip));
+    }
+    return room;
+}
+
 } // namespace
 
 WindowPlaces::WindowPlaces(const DescriptionSet *descriptions, MainFrame *frame, const OpenPopup *popup,
@@ -65,8 +79,8 @@ void WindowPlaces::place(EditorWindow *window) const
         return;
     }
     const QPoint base = m_windows->value(WindowBuilder::mainKey())->mapToGlobal(QPoint());
-    window->setGeometry(
-        QRect(fitted(base + description.place, description.size, screen()), description.size));
+    const QRect room = roomFor(description.size, screen(), m_frame->stripOnScreen());
+    window->setGeometry(QRect(fitted(base + description.place, description.size, room), description.size));
 }
 
 QPoint WindowPlaces::popupCorner(const QPoint &position, const QSize &size) const

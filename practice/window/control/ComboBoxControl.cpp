@@ -20,6 +20,11 @@ void show(QComboBox *box, const QVector<Row> &rows, const QJsonValue &value)
         }
     }
     box->setCurrentIndex(rowWith(rows, value));
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+    // What no row stands for any more, such as an entry that was deleted, is shown as it is.
+    box->setPlaceholderText(value.isUndefined() || value == QJsonValue(0) ? QString()
+                                                                          : value.toVariant().toString());
+#endif
 }
 
 } // namespace
@@ -34,6 +39,12 @@ ControlMaker readComboBox(ControlReader &reader)
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         keepFresh(box, window, [box, window, field, rows, missing] {
             show(box, rows(window), fieldValue(window, field, missing));
+        });
+        settleWhenComing(box, window, [box, window, field, rows] {
+            const QVector<Row> all = rows(window);
+            if (box->currentIndex() < 0 && !all.isEmpty()) {
+                window->choose(field, all.constFirst());
+            }
         });
         QObject::connect(
             box, qOverload<int>(&QComboBox::activated), window, [window, field, rows, name](int index) {

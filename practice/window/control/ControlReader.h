@@ -97,6 +97,18 @@ void keepFresh(QWidget *widget, EditorWindow *window, Refresh refresh)
     refresh();
 }
 
+/// Runs @p settle when @p widget came up in the place of another control, by what the person changed: its
+/// field has to get a value that it can show, for the person sees none else.
+template<typename Settle>
+void settleWhenComing(QWidget *widget, EditorWindow *window, Settle settle)
+{
+    QObject::connect(window, &EditorWindow::cameUp, widget, [widget, settle](const QWidget *coming) {
+        if (coming == widget) {
+            settle();
+        }
+    });
+}
+
 /// The value of a field as it would stand in a data file; undefined where there is none.
 [[nodiscard]] QJsonValue fieldValue(const EditorWindow *window, const QString &field);
 /// The same, with @p missing in place of nothing.

@@ -1,5 +1,19 @@
 #include "window/control/ControlState.h"
 
+#include <algorithm>
+
+namespace {
+
+bool hangOn(const QVector<ControlRequirement> &requirements, const QString &field)
+{
+    const auto isOfField = [&field](const ControlRequirement &requirement) {
+        return requirement.field == field;
+    };
+    return !field.isEmpty() && std::any_of(requirements.cbegin(), requirements.cend(), isOfField);
+}
+
+} // namespace
+
 bool canRun(const ControlAction &action, const EditorWindow *window)
 {
     const ControlAction *done = window->chosen(action);
@@ -14,7 +28,11 @@ ControlMaker withState(const ControlMaker &maker, const ControlReader &reader)
         QWidget *control = maker(window);
         if (!shown.isEmpty()) {
             const auto takeTurns = [control, window, shown] {
-                window->setAway(control, !window->meets(shown));
+                const bool isThere = window->meets(shown);
+                if (isThere && window->isAway(control) && hangOn(shown, window->changing())) {
+                    window->tellOfComing(control);
+                }
+                window->setAway(control, !isThere);
             };
             QObject::connect(window, &EditorWindow::arranged, control, takeTurns);
             takeTurns();

@@ -49,6 +49,7 @@ ControlMaker readList(ControlReader &reader)
     return [settings, painter, description, begin](EditorWindow *window) {
         auto *list = new RowList(window, painter, settings);
         keepFresh(list, window, [list] { list->refresh(); });
+        settleWhenComing(list, window, [list] { list->settle(); });
         const auto act = [list, window, begin, name = description.name](const ControlAction &action,
                                                                         const QPoint &at) {
             window->run(begin);

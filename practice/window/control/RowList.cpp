@@ -106,6 +106,13 @@ void RowList::refresh()
     setCurrentRow(rowToShow());
 }
 
+void RowList::settle()
+{
+    if (!m_settings.field.isEmpty() && currentRow() < 0 && !m_rows.isEmpty()) {
+        m_window->choose(m_settings.field, m_rows.constFirst());
+    }
+}
+
 int RowList::rowToShow() const
 {
     return m_settings.field.isEmpty() ? m_window->currentRow(m_settings.source)

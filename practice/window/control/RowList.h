@@ -32,6 +32,8 @@ public:
 
     /// Shows what there is now.
     void refresh();
+    /// Gives the field the first row where no row stands for what it holds.
+    void settle();
 
 Q_SIGNALS:
     /// The person chose a row with mouse or keyboard, also when it was the selected one already.

@@ -17,6 +17,11 @@ ControlMaker readSpinBox(ControlReader &reader)
             const QSignalBlocker quiet(spin);
             spin->setValue(fieldValue(window, field, missing).toInt());
         });
+        settleWhenComing(spin, window, [spin, window, field, missing] {
+            if (spin->value() != fieldValue(window, field, missing).toInt()) {
+                window->setField(field, spin->value());
+            }
+        });
         QObject::connect(spin, qOverload<int>(&QSpinBox::valueChanged), window,
                          [spin, window, field, name](int value) {
                              window->setField(field, value);

@@ -67,9 +67,11 @@ void tst_MenuDescription::tellsWhatIsWrong_data()
     QTest::newRow("no such button") << QByteArray(R"({"button": "open", "label": TEXT})")
                                     << QStringLiteral("button: \"open\" is unknown; use one of: save");
     QTest::newRow("nothing to do") << QByteArray(R"({"label": TEXT})")
-                                   << QStringLiteral("label: needs one of button, run and does beside it");
-    QTest::newRow("two things to do") << QByteArray(R"({"label": TEXT, "button": "save", "run": "map.new"})")
-                                      << QStringLiteral("label: needs one of button, run and does beside it");
+                                   << QStringLiteral(
+                                          "label: needs one of button, entry, run and does beside it");
+    QTest::newRow("two things to do")
+        << QByteArray(R"({"label": TEXT, "button": "save", "run": "map.new"})")
+        << QStringLiteral("label: needs one of button, entry, run and does beside it");
     QTest::newRow("unknown") << QByteArray(R"({"label": TEXT, "button": "save", "key": "F2"})")
                              << QStringLiteral(
                                     "key: is not a field that is known here; remove it or correct its name");

@@ -1,0 +1,53 @@
+#include "window/SecondClick.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+namespace {
+
+/// How far apart the two clicks of a double click may be, in pixels.
+constexpr int kNear = 6;
+
+} // namespace
+
+SecondClick::SecondClick(QObject *parent)
+    : QObject(parent)
+{
+    qApp->installEventFilter(this);
+}
+
+void SecondClick::begin()
+{
+    if (m_isByMouse) {
+        m_place = m_released;
+        m_since.start();
+    }
+}
+
+bool SecondClick::isSecond(const QPoint &screenPosition) const
+{
+    return m_since.isValid() && m_since.elapsed() < QApplication::doubleClickInterval() &&
+           (screenPosition - m_place).manhattanLength() <= kNear;
+}
+
+bool SecondClick::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    const bool isRelease = event->type() == QEvent::MouseButtonRelease;
+    m_isByMouse = m_isByMouse && event->type() != QEvent::KeyPress;
+    if ((!isPress && !isRelease) || !watched->isWidgetType()) {
+        return QObject::eventFilter(watched, event);
+    }
+    const QPoint place = static_cast<QMouseEvent *>(event)->globalPos();
+    if (isPress) {
+        m_holds = isSecond(place);
+        if (!m_holds) {
+            end();
+        }
+    } else {
+        m_released = place;
+        m_isByMouse = true;
+    }
+    return m_holds || QObject::eventFilter(watched, event);
+}

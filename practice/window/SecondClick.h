@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPoint>
+
+/// Keeps the second click of a double click from what comes to light when the first one has closed a window
+/// or a context menu: who double-clicks OK does not mean to paint on the map below.
+class SecondClick : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SecondClick(QObject *parent = nullptr);
+
+    /// Something closes through a control. A click in the same place does nothing for as long as a double
+    /// click may take.
+    void begin();
+    /// Something else has happened since, so a click is a new one.
+    void end() { m_since.invalidate(); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    [[nodiscard]] bool isSecond(const QPoint &screenPosition) const;
+
+    /// Where the mouse button was let go last, in pixels of the screen, and whether no key was pressed since.
+    QPoint m_released;
+    bool m_isByMouse = false;
+    /// Where it was when begin() was called, and since when.
+    QPoint m_place;
+    QElapsedTimer m_since;
+    /// A press was dropped, and its release has not come.
+    bool m_holds = false;
+};
