@@ -70,7 +70,7 @@ void MapPainter::drawEvent(QPainter &painter, const QString &picture, const QRec
 QPixmap MapPainter::tileSetPicture(int tileSet, const QSize &size)
 {
     QPixmap picture(size);
-    picture.fill(Qt::white);
+    picture.fill(Qt::transparent);
     constexpr int kColumns = StartData::kTilesPerTab;
     const int rows = m_data->tiles.size() / kColumns;
     const int pixels = qMax(1, qMin(size.width() / kColumns, size.height() / qMax(1, rows)));
@@ -93,7 +93,7 @@ MapPainter::Fit MapPainter::fit(const GameMap &map, const QSize &size)
 QPixmap MapPainter::mapPicture(const GameMap &map, const QSize &size)
 {
     QPixmap picture(size);
-    picture.fill(Qt::white);
+    picture.fill(Qt::transparent);
     const Fit place = fit(map, size);
     QPainter painter(&picture);
     painter.translate(place.corner);

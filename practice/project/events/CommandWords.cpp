@@ -1,6 +1,7 @@
 #include "project/events/CommandWords.h"
 
 #include "project/RowText.h"
+#include "project/events/BattleEnemies.h"
 
 namespace {
 
@@ -39,6 +40,27 @@ QString entriesMember()
 QString sourceOf(const QString &path)
 {
     return str("commands ") + path;
+}
+
+/// The enemies whom a command in a list can mean.
+QString enemiesSource()
+{
+    return str("battleEnemies");
+}
+
+/// The same, and all of them at once.
+QString enemiesOrAllSource()
+{
+    return str("battleEnemiesOrAll");
+}
+
+/// The text of a row whose enemies are those of the list at @p path, whichever list is edited.
+QString withEnemiesOf(const QString &path, QString row)
+{
+    for (const QString &source : {enemiesSource(), enemiesOrAllSource()}) {
+        row.replace(str(">%1}").arg(source), str(">%1 %2}").arg(source, path));
+    }
+    return row;
 }
 
 /// The form with lists of texts as one text each, and with the number of its entries.
@@ -108,6 +130,20 @@ void CommandWords::addTo(Commands &commands, Fields &fields, RowSources &sources
     fields.add(str("commands.kind"), [this](const DataLayer &layer) { return kind(layer); });
     addForms(commands, fields, sources);
     addChoice(sources);
+    addEnemies(sources);
+}
+
+void CommandWords::addEnemies(RowSources &sources)
+{
+    const QVector<QPair<QString, QString>> setsOf{{enemiesSource(), str("commandEnemyPlaces")},
+                                                  {enemiesOrAllSource(), str("commandEnemies")}};
+    for (const auto &[source, set] : setsOf) {
+        const auto rowsOf = [this, set = set](const QString &path, const DataLayer &layer) {
+            return BattleEnemies::rows(*m_start, set, m_sources->place(path, layer), layer);
+        };
+        sources.addFamily(source, rowsOf);
+        sources.add(source, [rowsOf](const DataLayer &layer) { return rowsOf(path(layer), layer); });
+    }
 }
 
 void CommandWords::addForms(Commands &commands, Fields &fields, RowSources &sources)
@@ -172,12 +208,13 @@ QVector<Row> CommandWords::rows(const QString &path, const DataLayer &layer) con
     const CommandList list(&m_start->eventCommands, layer.value(place->file, place->pointer).toArray());
     const QVector<int> places = list.rows();
     for (const int row : places) {
-        rows.append({rowText(list, row, layer), row, list.indentAt(row)});
+        rows.append({rowText(list, row, path, layer), row, list.indentAt(row)});
     }
     return rows;
 }
 
-QString CommandWords::rowText(const CommandList &list, int place, const DataLayer &layer) const
+QString CommandWords::rowText(const CommandList &list, int place, const QString &path,
+                              const DataLayer &layer) const
 {
     const int code = list.codeAt(place);
     if (code == EventCommands::kEnd) {
@@ -188,7 +225,7 @@ QString CommandWords::rowText(const CommandList &list, int place, const DataLaye
         return m_start->texts.value(str("unknownCommand")).arg(code);
     }
     const QJsonObject form = list.head(place) == place ? list.form(place) : list.formOfEntry(place);
-    return RowText(command->rowOf(form), m_sources, &m_start->choices)
+    return RowText(withEnemiesOf(path, command->rowOf(form)), m_sources, &m_start->choices)
         .text(inOneLine(form, m_start->texts.value(str("listSeparator"))), code, layer)
         .simplified();
 }

@@ -21,7 +21,11 @@ private:
     void addChoice(RowSources &sources);
 
     [[nodiscard]] QVector<Row> rows(const QString &path, const DataLayer &layer) const;
-    [[nodiscard]] QString rowText(const CommandList &list, int place, const DataLayer &layer) const;
+    /// @p path is that of the list.
+    [[nodiscard]] QString rowText(const CommandList &list, int place, const QString &path,
+                                  const DataLayer &layer) const;
+
+    void addEnemies(RowSources &sources);
 
     [[nodiscard]] QVector<Row> goods(const DataLayer &layer) const;
 

@@ -38,6 +38,17 @@ QString stepsPath()
     return str("route/list");
 }
 
+/// Stands in place of the path of a map that is not asked: it is the map on show.
+QString noPath()
+{
+    return str("-");
+}
+
+QString intoMember()
+{
+    return str("into");
+}
+
 /// What the paths of a place are for, in their order.
 QStringList placeMembers()
 {
@@ -83,6 +94,9 @@ void PlaceWords::addTo(Commands &commands, Fields &fields, RowSources &sources)
     fields.add(str("place.hasDirection"), [](const DataLayer &layer) {
         return !layer.value(placeFile(), str("/direction")).isUndefined();
     });
+    fields.add(str("place.hasMap"), [](const DataLayer &layer) {
+        return layer.value(placeFile(), str("/into/0")).toString() != noPath();
+    });
     addRoutes(commands, fields, sources);
 }
 
@@ -91,22 +105,26 @@ void PlaceWords::beginPlace(const QString &paths, const Fields &fields, DataLaye
     QJsonObject place;
     const QStringList into = paths.split(QLatin1Char(' '));
     for (int i = 0; i < qMin(into.size(), placeMembers().size()); ++i) {
-        place.insert(placeMembers().at(i), fields.value(into.at(i), layer).toInt());
+        if (into.at(i) != noPath()) {
+            place.insert(placeMembers().at(i), fields.value(into.at(i), layer).toInt());
+        }
     }
     const int map = place.value(str("map")).toInt();
     if (!layer.file(MapTree::fileOf(map)).isObject()) {
         place.insert(str("map"), m_sources->number(str("maps"), layer));
     }
-    place.insert(str("into"), QJsonArray::fromStringList(into));
+    place.insert(intoMember(), QJsonArray::fromStringList(into));
     layer.change({{placeFile(), place}}, QString());
 }
 
 void PlaceWords::acceptPlace(const Fields &fields, DataLayer &layer)
 {
     const QJsonObject place = layer.file(placeFile()).toObject();
-    const QJsonArray into = place.value(str("into")).toArray();
+    const QJsonArray into = place.value(intoMember()).toArray();
     for (int i = 0; i < qMin(int(into.size()), int(placeMembers().size())); ++i) {
-        fields.setValue(into.at(i).toString(), place.value(placeMembers().at(i)).toInt(), layer);
+        if (into.at(i).toString() != noPath()) {
+            fields.setValue(into.at(i).toString(), place.value(placeMembers().at(i)).toInt(), layer);
+        }
     }
     layer.change({{placeFile(), QJsonValue(QJsonValue::Undefined)}}, QString());
     layer.accept();

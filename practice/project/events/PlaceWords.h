@@ -7,9 +7,9 @@
 /// Where something happens: the place on a map that is chosen in a window of its own, and the way that a
 /// movement route takes. Both are begun with the paths of what they change.
 ///
-///     place.begin command/1 command/2 command/3 command/4     map, column, row, and the direction where one
-///     is route.begin command/1 command/0                         a route, and who takes it where that is
-///     asked
+///     place.begin command/1 command/2 command/3 command/4     map, column, row; the direction where asked
+///     place.begin - command/2 command/3                       the same on the map on show
+///     route.begin command/1 command/0                         a route; who takes it where asked
 ///
 /// The root "place" of paths is then what is chosen, "route" the route.
 class PlaceWords

@@ -71,6 +71,7 @@ const QMap<QString, Draw> &drawings()
         {QStringLiteral("sampleMap"), sampleMap},
         {QStringLiteral("troop"), troop},
         {QStringLiteral("backdrop"), ofFolder(QStringLiteral("backdrops"))},
+        {QStringLiteral("picture"), ofFolder(QStringLiteral("pictures"))},
         {QStringLiteral("character"), ofFolder(QStringLiteral("characters"))},
         {QStringLiteral("enemy"), ofFolder(QStringLiteral("enemies"))},
         {QStringLiteral("face"), ofFolder(QStringLiteral("faces"))},
