@@ -195,7 +195,7 @@ QVector<Reading> allReadings()
     add({entry(205, {-1, QJsonObject()})},
         {str("Movement route: Player"), str("移動ルート：プレイヤー"), str("移动路线：玩家")});
     add({entry(302, {0, 1, 0, 0, false}), entry(605, {1, 1, 0, 0})},
-        {str("Shop: 2 goods"), str("ショップ：商品 2 点"), str("商店：2 种商品")});
+        {str("Shop: 2 goods"), str("ショップ：商品2点"), str("商店：2 种商品")});
     return all;
 }
 
@@ -212,6 +212,9 @@ private Q_SLOTS:
     void aFormShowsItsOwnControlsAlone();
     void acceptingUnchangedChangesNothing();
     void aNewCommandIsPutIn();
+    void noBoxStandsBlankAfterItsKindChanged();
+    void enemiesOfATroopHaveTheirNames();
+    void aPlaceOnThisMapIsChosenOnTheMap();
     void rowsReadWell_data() { everyFormHasRoomForItsTexts_data(); }
     void rowsReadWell();
 };
@@ -292,6 +295,78 @@ void tst_CommandFormWindows::aNewCommandIsPutIn()
     const QVector<Row> rows = desk.rows();
     QCOMPARE(rows.size(), before + 1);
     QCOMPARE(rows.at(0).text, str("Wait: 45 frames"));
+}
+
+void tst_CommandFormWindows::noBoxStandsBlankAfterItsKindChanged()
+{
+    EventDesk desk(str("en_US"));
+    desk.edit(str("data/Map001/events/1/pages/0/list"));
+    int boxes = 0;
+    const QStringList tabs = EventCommands::tabs();
+    for (const QString &tab : tabs) {
+        const QVector<int> codes = desk.commands().codesIn(tab);
+        for (const int code : codes) {
+            desk.openNew(tab, code);
+            const QVector<QRadioButton *> kinds = controlsOfForms<QRadioButton>(desk.form());
+            for (QRadioButton *kind : kinds) {
+                if (!kind->isVisible()) {
+                    continue;
+                }
+                kind->click();
+                const QVector<QComboBox *> all = controlsOfForms<QComboBox>(desk.form());
+                for (const QComboBox *box : all) {
+                    if (box->isVisible() && box->count() > 0) {
+                        QVERIFY2(box->currentIndex() >= 0,
+                                 qPrintable(str("%1 after %2").arg(box->objectName(), kind->objectName())));
+                        ++boxes;
+                    }
+                }
+            }
+            desk.editor->close(str("EventCommand"));
+        }
+    }
+    QVERIFY(boxes > 50);
+}
+
+void tst_CommandFormWindows::enemiesOfATroopHaveTheirNames()
+{
+    EventDesk desk(str("en_US"));
+    DataFiles &files = desk.editor->project()->files();
+    files.set(str("data/Enemies.json"), str("/1/name"), str("Slime"));
+    files.set(str("data/Troops.json"), str("/2/pages/0/list"),
+              QJsonArray{entry(335, {1}), entry(334, {-1}), entry(0, {})});
+    desk.edit(str("data/Troops/2/pages/0/list"));
+    QCOMPARE(desk.rows().at(0).text, str("Enemy appears: Enemy 2: Slime"));
+    QCOMPARE(desk.rows().at(1).text, str("Enemy recovers: The whole troop"));
+    desk.openRow(0);
+    const auto *enemies = desk.editor.find<QComboBox>("EventCommand", "335/enemy");
+    QCOMPARE(enemies->currentText(), str("Enemy 2: Slime"));
+    QCOMPARE(enemies->itemText(2), str("Enemy 3"));
+    desk.editor->close(str("EventCommand"));
+
+    // Whichever list is edited, a row tells of its own troop.
+    desk.edit(str("data/Map001/events/1/pages/0/list"));
+    const QVector<Row> rows = desk.editor.rows("commands data/Troops/2/pages/0/list");
+    QCOMPARE(rows.at(0).text, str("Enemy appears: Enemy 2: Slime"));
+    desk.openNew(str("battle"), 335);
+    QCOMPARE(enemies->itemText(1), str("Enemy 2"));
+}
+
+void tst_CommandFormWindows::aPlaceOnThisMapIsChosenOnTheMap()
+{
+    EventDesk desk(str("en_US"));
+    desk.edit(str("data/Map001/events/1/pages/0/list"));
+    desk.openNew(str("scene"), 202);
+    desk.editor.click("EventCommand", "202/location");
+    QCOMPARE(desk.editor->openWindows().constLast(), str("Location"));
+    QVERIFY(!desk.editor.find<RowList>("Location", "maps")->isEnabled());
+    desk.editor.find<QSpinBox>("Location", "x")->setValue(7);
+    desk.editor.find<QSpinBox>("Location", "y")->setValue(3);
+    desk.editor.click("Location", "ok");
+    QCOMPARE(desk.editor.find<QSpinBox>("EventCommand", "202/x")->value(), 7);
+    QCOMPARE(desk.editor.find<QSpinBox>("EventCommand", "202/y")->value(), 3);
+    desk.editor.click("EventCommand", "ok");
+    QCOMPARE(desk.rows().at(0).text, str("Event location: This event, (7, 3)"));
 }
 
 void tst_CommandFormWindows::rowsReadWell()

@@ -83,18 +83,20 @@ void tst_ControlTypes::tellsWhatIsWrong_data()
     row("field", R"("type": "lineEdit", "field": "map.age")", "field: \"map.age\" is unknown; use ");
     row("no field", R"("type": "lineEdit")", "field: must be a text");
     row("path", R"("type": "lineEdit", "field": "data/Items/{actors}/name")",
-        "field: \"{actors}\" is neither the list before it, \"items\", nor one of: choice.number, "
+        "field: \"{actors}\" is neither the list before it, \"items\", nor one of: battleEnemies, "
+        "battleEnemiesOrAll, choice.number, "
         "command/entries, ");
     row("source", R"("type": "list", "rowHeight": 9, "source": "worlds")",
         "source: \"worlds\" is unknown; use the path of a list in a data file, such as data/Items, or one "
         "of: "
-        "choice.number, command/entries, ");
+        "battleEnemies, battleEnemiesOrAll, choice.number, command/entries, ");
     row("no height", R"("type": "list", "source": "maps")",
         "rowHeight: is missing; controls of this type need it");
     row("range", R"("type": "spinBox", "field": "newProject.name", "range": [1])",
         "range: must be a list of 2 whole numbers");
     row("picture", R"("type": "picture", "picture": "faces", "source": "maps")",
-        "picture: \"faces\" is unknown; use one of: backdrop, character, enemy, face, sampleMap, tileSet, "
+        "picture: \"faces\" is unknown; use one of: backdrop, character, enemy, face, picture, sampleMap, "
+        "tileSet, "
         "tileSetImage, title, troop");
     row("icon", R"("type": "toolButton", "icon": "axe", "action": "x", "actionState": "", "label": TEXT)",
         "icon: \"axe\" is unknown; use one of: ");

@@ -69,7 +69,7 @@ void tst_Drawings::everySourceIsADrawing()
 void tst_Drawings::everyDrawingCanBeChosen_data()
 {
     QTest::addColumn<QString>("folder");
-    for (const char *folder : {"characters", "faces", "enemies", "backdrops", "titles"}) {
+    for (const char *folder : {"characters", "faces", "enemies", "backdrops", "titles", "pictures"}) {
         QTest::newRow(folder) << QString::fromLatin1(folder);
     }
 }

@@ -1,4 +1,5 @@
-#include "EditorFixture.h"
+#include "EveryWindow.h"
+#include "Palettes.h"
 #include "window/ToolIcon.h"
 
 #include <QAccessible>
@@ -25,31 +26,16 @@ private Q_SLOTS:
     void controlsHaveAccessibleNames_data();
     void controlsHaveAccessibleNames();
     void labelsNameTheControlBesideThem();
+    void aDialogKeepsWhatIsBelowFromBeingPressed();
 };
 
 namespace {
 
-QPalette palette(const QColor &window, const QColor &base, const QColor &text)
-{
-    QPalette palette(window);
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::Button, window);
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        palette.setColor(role, text);
-    }
-    palette.setColor(QPalette::Highlight, QColor(0x30, 0x6c, 0xb0));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
-
 void addPalettes()
 {
     QTest::addColumn<QPalette>("palette");
-    QTest::newRow("light") << palette(QColor(0xef, 0xef, 0xef), Qt::white, Qt::black);
-    QTest::newRow("dark") << palette(QColor(0x35, 0x35, 0x35), QColor(0x23, 0x23, 0x23), Qt::white);
+    QTest::newRow("light") << lightPalette();
+    QTest::newRow("dark") << darkPalette();
 }
 
 double luminance(const QColor &color)
@@ -116,27 +102,29 @@ void tst_Looks::textCanBeRead()
     QFETCH(QPalette, palette);
     QApplication::setStyle(QStyleFactory::create(str("Fusion")));
     QApplication::setPalette(palette);
-    Editor editor;
-    editor.openProject();
-    int checked = 0;
-    for (const char *key :
-         {"MainWindow", "MapEditTreeBox", "NewProject", "FileDialog", "MapProperties", "MapLoader"}) {
-        editor->open(str(key));
-        const auto widgets =
-            editor->window(str(key))->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    SampleEditor editor;
+    QSet<QString> checked;
+    QStringList faults;
+    const auto look = [&checked, &faults](const QString &what, EditorWindow *window) {
+        const QImage picture = window->grab().toImage();
+        const auto widgets = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         for (QWidget *widget : widgets) {
-            if (!showsText(widget) || !widget->isVisible() || !widget->isEnabled()) {
+            const QString name = window->key() + QLatin1Char(' ') + widget->objectName();
+            if (!showsText(widget) || !widget->isVisible() || !widget->isEnabled() ||
+                checked.contains(name)) {
                 continue;
             }
-            const double seen = contrastIn(editor->window(str(key))->grab(widget->geometry()).toImage());
-            QVERIFY2(seen >= 4.5, qPrintable(str("%1 %2: %3").arg(str(key), widget->objectName()).arg(seen)));
-            ++checked;
+            checked.insert(name);
+            const double seen = contrastIn(picture.copy(widget->geometry()));
+            if (seen < 4.5) {
+                faults.append(str("%1, %2: %3").arg(what, widget->objectName()).arg(seen));
+            }
         }
-        if (str(key) != str("MainWindow") && str(key) != str("MapEditTreeBox")) {
-            editor->close(str(key));
-        }
-    }
-    QVERIFY(checked > 30);
+    };
+    EveryWindow every(&editor, look);
+    every.visitAll();
+    QVERIFY(checked.size() > 600);
+    QVERIFY2(faults.isEmpty(), qPrintable(QLatin1Char('\n') + faults.join(QLatin1Char('\n'))));
     QVERIFY(contrastIn(editor.frame()->findChild<QMenuBar *>()->grab().toImage()) >= 4.5);
     editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
     Editor::key(Qt::Key_Down);
@@ -230,6 +218,48 @@ void tst_Looks::labelsNameTheControlBesideThem()
     QCOMPARE(name("MapEditTreeBox", "maps"), str("Maps"));
     QCOMPARE(name("MapLoader", "sampleMaps"), str("Load a sample map"));
     QCOMPARE(name("MainWindow", "drawPencil"), str("Pencil"));
+}
+
+void tst_Looks::aDialogKeepsWhatIsBelowFromBeingPressed()
+{
+    Editor editor;
+    editor.openProject();
+    const auto access = [](QWidget *widget) {
+        return QAccessible::queryAccessibleInterface(widget);
+    };
+    // A button that is pressed so goes down, and up some time later.
+    const auto press = [&access](QAbstractButton *button) {
+        access(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_VERIFY(!button->isDown());
+    };
+    EditorWindow *const main = editor->window(str("MainWindow"));
+    QVERIFY(!access(main)->state().disabled);
+    editor->open(str("MapProperties"));
+    EditorWindow *const properties = editor->window(str("MapProperties"));
+    QCOMPARE(access(properties)->role(), QAccessible::Dialog);
+    QVERIFY(access(properties)->state().modal);
+    QVERIFY(access(main)->state().disabled);
+    editor.takeTold();
+
+    press(editor.find<QAbstractButton>("MainWindow", "fileNew"));
+    QCOMPARE(editor->openWindows().constLast(), str("MapProperties"));
+    auto *maps = editor.find<RowList>("MapEditTreeBox", "maps");
+    maps->setCurrentRow(1);
+    QCOMPARE(maps->currentRow(), 0);
+    QCOMPARE(editor.rows("maps").value(0).text, editor.shownMap()->name);
+
+    editor->open(str("ImageSelector"));
+    QVERIFY(!access(properties)->state().modal);
+    QVERIFY(access(properties)->state().disabled);
+    press(editor.find<QAbstractButton>("MapProperties", "ok"));
+    QCOMPARE(editor->openWindows().constLast(), str("ImageSelector"));
+    editor->close(str("ImageSelector"));
+    QVERIFY(access(properties)->state().modal);
+    press(editor.find<QAbstractButton>("MapProperties", "ok"));
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    QVERIFY(!access(main)->state().disabled);
+    press(editor.find<QAbstractButton>("MainWindow", "fileNew"));
+    QCOMPARE(editor->openWindows().constLast(), str("NewProject"));
 }
 
 QTEST_MAIN(tst_Looks)

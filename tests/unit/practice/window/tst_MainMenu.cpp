@@ -13,6 +13,7 @@ private Q_SLOTS:
     void keysDoWhatTheToolButtonsDo_data();
     void keysDoWhatTheToolButtonsDo();
     void entriesAreAsTheirButtons();
+    void entriesDoWhatThoseOfContextMenusDo();
     void everyEntryHasAMnemonicOfItsOwn_data();
     void everyEntryHasAMnemonicOfItsOwn();
     void everyToolButtonHasAnEntry();
@@ -108,6 +109,25 @@ void tst_MainMenu::entriesAreAsTheirButtons()
     QVERIFY(!entry(editor, str("&Pencil"))->isChecked());
     fill->trigger();
     QVERIFY(fill->isChecked());
+}
+
+void tst_MainMenu::entriesDoWhatThoseOfContextMenusDo()
+{
+    Editor editor;
+    editor.openProject();
+    QAction *const inn = entry(editor, str("Quick event: &inn…"));
+    QAction *const edit = entry(editor, str("&Edit event…"));
+    QVERIFY(!inn->isEnabled());
+    editor.click("MainWindow", "modeEvent");
+    QVERIFY(inn->isEnabled());
+    QVERIFY(!edit->isEnabled());
+    inn->trigger();
+    QCOMPARE(editor->openWindows().constLast(), str("QuickInn"));
+    editor.click("QuickInn", "ok");
+    QVERIFY(!inn->isEnabled());
+    QVERIFY(edit->isEnabled());
+    edit->trigger();
+    QCOMPARE(editor->openWindows().constLast(), str("EventEditorMain"));
 }
 
 void tst_MainMenu::everyEntryHasAMnemonicOfItsOwn_data()

@@ -1,0 +1,103 @@
+#include "EditorFixture.h"
+#include "lesson/description/ControlSpots.h"
+
+/// Who double-clicks where one click is enough does no harm by it.
+class tst_SecondClick : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void theSecondClickOnOkDoesNotPaint();
+    void aClickElsewhereCounts();
+    void aLaterClickCounts();
+    void theSecondClickOnAnEntryIsDropped();
+
+private:
+    int m_interval = 0;
+};
+
+namespace {
+
+/// A point divided by a number is rounded, and cells are not.
+int tileAt(const Editor &editor, const QPoint &place)
+{
+    return editor.shownMap()->tile(0, {place.x() / kCellPixels, place.y() / kCellPixels});
+}
+
+/// Presses OK of the map's properties, and gives the place on the map that lies below.
+QPoint pressOk(Editor *editor)
+{
+    editor->clickRow("MainWindow", "tiles", 4);
+    (*editor)->open(str("MapProperties"));
+    const auto *ok = editor->find<QWidget>("MapProperties", "ok");
+    const QPoint below = editor->map()->mapFromGlobal(ok->mapToGlobal(ok->rect().center()));
+    editor->click("MapProperties", "ok");
+    return below;
+}
+
+} // namespace
+
+void tst_SecondClick::initTestCase()
+{
+    m_interval = QApplication::doubleClickInterval();
+}
+
+void tst_SecondClick::init()
+{
+    // Long enough for any machine.
+    QApplication::setDoubleClickInterval(60000);
+}
+
+void tst_SecondClick::theSecondClickOnOkDoesNotPaint()
+{
+    Editor editor;
+    editor.openProject();
+    const QPoint below = pressOk(&editor);
+    QVERIFY(editor.map()->rect().contains(below));
+    const int before = tileAt(editor, below);
+    QVERIFY(before != 4);
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, below);
+    QCOMPARE(tileAt(editor, below), before);
+}
+
+void tst_SecondClick::aClickElsewhereCounts()
+{
+    Editor editor;
+    editor.openProject();
+    const QPoint elsewhere = pressOk(&editor) - QPoint(64, 64);
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, elsewhere);
+    QCOMPARE(tileAt(editor, elsewhere), 4);
+}
+
+void tst_SecondClick::aLaterClickCounts()
+{
+    Editor editor;
+    editor.openProject();
+    const QPoint below = pressOk(&editor);
+    QApplication::setDoubleClickInterval(0);
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, below);
+    QCOMPARE(tileAt(editor, below), 4);
+    QApplication::setDoubleClickInterval(m_interval);
+}
+
+void tst_SecondClick::theSecondClickOnAnEntryIsDropped()
+{
+    Editor editor;
+    editor.openProject();
+    editor.click("MainWindow", "modeEvent");
+    QTest::mouseClick(editor.map(), Qt::RightButton, {}, QPoint(200, 200));
+    const auto *inn = editor.find<QWidget>("EventPopup", "quickInn");
+    const QPoint below = editor.map()->mapFromGlobal(inn->mapToGlobal(inn->rect().center()));
+    const QPoint marked = editor.map()->markedCell();
+    editor.click("EventPopup", "quickInn");
+    editor->close(str("QuickInn"));
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, below);
+    QCOMPARE(editor.map()->markedCell(), marked);
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, below + QPoint(0, 2 * kCellPixels));
+    QVERIFY(editor.map()->markedCell() != marked);
+}
+
+QTEST_MAIN(tst_SecondClick)
+#include "tst_SecondClick.moc"
