@@ -57,12 +57,9 @@ void LessonProgress::readRecords()
 
 void LessonProgress::reach(const QString &lessonName, int step, int steps, const QJsonObject &bookmark)
 {
-    Record &record = m_records[lessonName];
-    record.step = step;
-    record.steps = steps;
     m_bookmarks.insert(lessonName, bookmark);
     write(bookmarkFile(lessonName), bookmark);
-    writeRecords();
+    keep(lessonName, {record(lessonName).isDone, step, steps});
 }
 
 void LessonProgress::finish(const QString &lessonName)
@@ -74,8 +71,8 @@ void LessonProgress::finish(const QString &lessonName)
 void LessonProgress::forgetPlace(const QString &lessonName)
 {
     m_bookmarks.remove(lessonName);
-    m_records[lessonName].step = 0;
-    writeRecords();
+    const Record old = record(lessonName);
+    keep(lessonName, {old.isDone, 0, old.steps});
     if (!m_folder.isEmpty()) {
         QFile::remove(pathOf(bookmarkFile(lessonName)));
     }
@@ -116,12 +113,17 @@ QJsonObject LessonProgress::read(const QString &fileName)
         return {};
     }
     if (!file.open(QIODevice::ReadOnly)) {
+        if (m_unreadable.contains(fileName)) {
+            return {}; // told already
+        }
+        m_unreadable.insert(fileName);
         //: %1 is the path of a file, %2 the system's reason.
         complain(tr("Your progress cannot be read from “%1” (%2). Permit reading the file and start the "
                     "editor again.")
                      .arg(file.fileName(), file.errorString()));
         return {};
     }
+    m_unreadable.remove(fileName);
     QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
     file.close();
     if (object.isEmpty()) {
@@ -166,11 +168,15 @@ void LessonProgress::write(const QString &fileName, const QJsonObject &object)
     m_cannotWrite = !isWritten;
 }
 
-void LessonProgress::writeRecords()
+void LessonProgress::keep(const QString &lessonName, Record record)
 {
+    // Another editor may have come on in another lesson meanwhile.
+    readRecords();
+    record.isDone = record.isDone || m_records.value(lessonName).isDone;
+    m_records.insert(lessonName, record);
     QJsonObject lessons;
-    for (auto record = m_records.constBegin(); record != m_records.constEnd(); ++record) {
-        lessons.insert(record.key(), toJson(*record));
+    for (auto kept = m_records.constBegin(); kept != m_records.constEnd(); ++kept) {
+        lessons.insert(kept.key(), toJson(*kept));
     }
     write(kRecords, {{kFormat, kPresentFormat}, {kLessons, lessons}});
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 /// What is remembered of the person's lessons from one run of the editor to the next: for each lesson how far
@@ -52,12 +53,14 @@ private:
     [[nodiscard]] QJsonObject read(const QString &fileName);
     void putAside(const QString &fileName);
     void write(const QString &fileName, const QJsonObject &object);
-    void writeRecords();
+    void keep(const QString &lessonName, Record record);
     void complain(const QString &problem);
 
     QString m_folder;
     QMap<QString, Record> m_records;
     QMap<QString, QJsonObject> m_bookmarks;
     QStringList m_problems;
+    /// Files that could not be read, which the person was told.
+    QSet<QString> m_unreadable;
     bool m_cannotWrite = false;
 };

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aFinishedLessonIsDoneAndBeginsAnew();
     void aForgottenPlaceLeavesTheLessonDone();
     void lessonsAreKeptApart();
+    void twoEditorsKeepTheLessonsOfBoth();
     void aNameCannotLeaveTheFolder();
     void withoutAFolderItIsKeptWhileThisLives();
     void aDamagedFileIsKeptAside_data();
@@ -115,6 +116,19 @@ void tst_LessonProgress::lessonsAreKeptApart()
     QCOMPARE(later.record(other).step, 5);
     QCOMPARE(later.bookmark(other), bookmarkAt(5));
     QVERIFY(!later.record(other).isDone);
+}
+
+void tst_LessonProgress::twoEditorsKeepTheLessonsOfBoth()
+{
+    const QString other = QStringLiteral("TutorialStep2");
+    LessonProgress first(m_folder->path());
+    LessonProgress second(m_folder->path());
+    first.reach(kLesson, 12, 86, bookmarkAt(12));
+    second.finish(other);
+    first.reach(kLesson, 13, 86, bookmarkAt(13));
+    const LessonProgress later(m_folder->path());
+    QCOMPARE(later.record(kLesson).step, 13);
+    QVERIFY(later.record(other).isDone);
 }
 
 void tst_LessonProgress::aNameCannotLeaveTheFolder()
