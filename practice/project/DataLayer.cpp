@@ -7,15 +7,8 @@
 
 namespace {
 
-QString selectedMember()
-{
-    return QStringLiteral("selected");
-}
-
-QString marksMember()
-{
-    return QStringLiteral("marks");
-}
+const QLatin1String kSelected("selected");
+const QLatin1String kMarks("marks");
 
 } // namespace
 
@@ -81,17 +74,17 @@ QJsonObject DataLayer::saveSelf() const
     for (auto mark = m_marks.cbegin(); mark != m_marks.cend(); ++mark) {
         marks.insert(mark.key(), QJsonArray{mark->file, mark->pointer});
     }
-    return {{selectedMember(), selected}, {marksMember(), marks}};
+    return {{kSelected, selected}, {kMarks, marks}};
 }
 
 void DataLayer::loadSelf(const QJsonObject &state)
 {
-    const QJsonObject selected = state.value(selectedMember()).toObject();
+    const QJsonObject selected = state.value(kSelected).toObject();
     m_selected.clear();
     for (auto list = selected.begin(); list != selected.end(); ++list) {
         m_selected.insert(list.key(), list.value().toInt());
     }
-    const QJsonObject marks = state.value(marksMember()).toObject();
+    const QJsonObject marks = state.value(kMarks).toObject();
     m_marks.clear();
     for (auto mark = marks.begin(); mark != marks.end(); ++mark) {
         const QJsonArray place = mark.value().toArray();

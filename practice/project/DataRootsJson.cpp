@@ -4,14 +4,8 @@
 
 namespace {
 
-QString filesMember()
-{
-    return QStringLiteral("files");
-}
-QString goneMember()
-{
-    return QStringLiteral("gone");
-}
+const QLatin1String kFiles("files");
+const QLatin1String kGone("gone");
 
 } // namespace
 
@@ -26,17 +20,17 @@ QJsonObject DataRootsJson::save(const DataRoots &roots)
             files.insert(root.key(), root.value());
         }
     }
-    return {{filesMember(), files}, {goneMember(), gone}};
+    return {{kFiles, files}, {kGone, gone}};
 }
 
 DataRoots DataRootsJson::load(const QJsonObject &json)
 {
     DataRoots roots;
-    const QJsonObject files = json.value(filesMember()).toObject();
+    const QJsonObject files = json.value(kFiles).toObject();
     for (auto file = files.begin(); file != files.end(); ++file) {
         roots.insert(file.key(), file.value());
     }
-    const QJsonArray gone = json.value(goneMember()).toArray();
+    const QJsonArray gone = json.value(kGone).toArray();
     for (const QJsonValue &name : gone) {
         roots.insert(name.toString(), QJsonValue(QJsonValue::Undefined));
     }

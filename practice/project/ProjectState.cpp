@@ -5,26 +5,11 @@
 
 namespace {
 
-QString folderMember()
-{
-    return QStringLiteral("folder");
-}
-QString filesMember()
-{
-    return QStringLiteral("files");
-}
-QString stepMember()
-{
-    return QStringLiteral("step");
-}
-QString beforeMember()
-{
-    return QStringLiteral("before");
-}
-QString layerMember()
-{
-    return QStringLiteral("layer");
-}
+const QLatin1String kFolder("folder");
+const QLatin1String kFiles("files");
+const QLatin1String kStep("step");
+const QLatin1String kBefore("before");
+const QLatin1String kLayer("layer");
 
 /// What brings the project's files to these: all that differ, and those that are not among them.
 DataRoots wayTo(const DataRoots &wanted, const DataFiles &files)
@@ -54,18 +39,18 @@ DataRoots present(const DataFiles &files)
 QJsonObject ProjectState::save(Project &project)
 {
     DataFiles &files = project.files();
-    QJsonObject state{{folderMember(), files.folder()}};
-    state.insert(filesMember(), DataRootsJson::save(present(files)));
-    state.insert(stepMember(), files.lastStep());
-    state.insert(beforeMember(), DataRootsJson::save(files.beforeLastStep()));
-    state.insert(layerMember(), files.saveSelf());
+    QJsonObject state{{kFolder, files.folder()}};
+    state.insert(kFiles, DataRootsJson::save(present(files)));
+    state.insert(kStep, files.lastStep());
+    state.insert(kBefore, DataRootsJson::save(files.beforeLastStep()));
+    state.insert(kLayer, files.saveSelf());
     return state;
 }
 
 bool ProjectState::restore(const QJsonObject &state, Project &project)
 {
     DataFiles &files = project.files();
-    const QString folder = state.value(folderMember()).toString();
+    const QString folder = state.value(kFolder).toString();
     if (folder.isEmpty()) {
         files.close();
         return true;
@@ -74,10 +59,10 @@ bool ProjectState::restore(const QJsonObject &state, Project &project)
     if (folder != files.folder() && !files.open(folder, &error)) {
         return false;
     }
-    const DataRoots wanted = DataRootsJson::load(state.value(filesMember()).toObject());
-    if (!files.goToStep(state.value(stepMember()).toString())) {
+    const DataRoots wanted = DataRootsJson::load(state.value(kFiles).toObject());
+    if (!files.goToStep(state.value(kStep).toString())) {
         DataRoots before = wanted;
-        const DataRoots changed = DataRootsJson::load(state.value(beforeMember()).toObject());
+        const DataRoots changed = DataRootsJson::load(state.value(kBefore).toObject());
         for (auto root = changed.begin(); root != changed.end(); ++root) {
             before.insert(root.key(), root.value());
         }
@@ -86,6 +71,6 @@ bool ProjectState::restore(const QJsonObject &state, Project &project)
         }
     }
     files.change(wayTo(wanted, files), QString());
-    files.loadSelf(state.value(layerMember()).toObject());
+    files.loadSelf(state.value(kLayer).toObject());
     return true;
 }
