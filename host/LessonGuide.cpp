@@ -1,27 +1,14 @@
 #include "host/LessonGuide.h"
 
 #include "host/HostEditor.h"
+#include "host/ScenarioRunner.h"
 #include "host/StepRule.h"
-#include "host/WayBack.h"
 
 #include <QScopedValueRollback>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
-
-/// The windows without the menu that may be open above them.
-OpenWindows withoutMenu(const OpenWindows &open)
-{
-    return !open.isEmpty() && open.constLast().isMenu ? open.mid(0, open.size() - 1) : open;
-}
-
-bool areAlike(const OpenWindows &one, const OpenWindows &another)
-{
-    return std::equal(one.cbegin(), one.cend(), another.cbegin(), another.cend(),
-                      [](const OpenWindow &a, const OpenWindow &b) { return a.isLike(b); });
-}
 
 bool isTyping(const EditorEvent &event)
 {
@@ -58,12 +45,16 @@ void LessonGuide::beginLesson(const StepStart &known)
     m_trail.follow(m_editor->openWindows());
 }
 
-void LessonGuide::beginStep(const Step &step)
+void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
 {
     m_runs = true;
     ++m_number;
-    m_step = step;
-    m_pointed.reset();
+    m_canGoBack = canGoBack;
+    m_needs.step = runner.step();
+    const Step *const behind = runner.stepBehind();
+    m_behind = behind != nullptr ? std::optional(*behind) : std::nullopt;
+    m_needs.earlier = EarlierSteps(m_editor, runner.scenario(), runner.index());
+    m_needs.pointed.reset();
     m_settled = false;
     m_wrongMoves = 0;
     m_wrongClicks = 0;
@@ -71,6 +62,7 @@ void LessonGuide::beginStep(const Step &step)
     m_stray = Stray::kNot;
     m_way.reset();
     m_couldPutBack = false;
+    m_wasGone = false;
     takeStart();
     m_turn.start();
     if (wantsEvent()) {
@@ -89,12 +81,12 @@ void LessonGuide::end()
     m_way.reset();
 }
 
-bool LessonGuide::counts(const EditorEvent &event, bool meets)
+LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
 {
     follow();
     m_trail.take(event);
     if (!m_runs || m_restoring) {
-        return false;
+        return Verdict::kNothing;
     }
     if (isPress(event)) {
         m_pressedIn = m_number;
@@ -102,27 +94,36 @@ bool LessonGuide::counts(const EditorEvent &event, bool meets)
     if (event.type == QLatin1String("mouseEvent") && m_pressedIn != 0 && m_pressedIn != m_number) {
         // The button went down in a step that is over, and what the stroke has drawn belongs to that one.
         m_settled = false;
-        return false;
+        return Verdict::kNothing;
     }
     // A menu is gone when its entry reports.
-    const bool isOtherMenu = !m_start.open.isEmpty() && m_start.open.constLast().isMenu &&
+    const bool isOtherMenu = !m_needs.start.open.isEmpty() && m_needs.start.open.constLast().isMenu &&
                              event.cause.control.startsWith(m_trail.lastMenu().name + QLatin1Char('/')) &&
-                             !m_trail.lastMenu().isLike(m_start.open.constLast());
+                             !m_trail.lastMenu().isLike(m_needs.start.open.constLast());
     const bool isElsewhere = isOtherMenu || (isAstray() && m_stray != Stray::kCovered);
-    if (meets && !isElsewhere && StepRule(m_editor, m_step, m_pointed).counts(event)) {
-        return true;
+    if (!isElsewhere && m_needs.step.condition.isMetBy(event, m_needs.step.windowKey) &&
+        StepRule(m_editor, m_needs.step, m_needs.pointed).counts(event)) {
+        return Verdict::kDone;
+    }
+    if (!isElsewhere && m_ahead.isDoneBy(event)) {
+        return Verdict::kRanAhead;
     }
     blame(event);
-    return false;
+    return Verdict::kNothing;
 }
 
 bool LessonGuide::canPutBack() const
 {
-    if (!m_runs || !m_settled || m_start.state.isEmpty()) {
+    if (!m_runs || !m_settled || m_needs.start.state.isEmpty()) {
         return false;
     }
     return m_stray == Stray::kProject || (isAstray() && !m_way) ||
-           (m_wrongMoves > 0 && m_editor->dataMark() != m_start.dataMark);
+           (m_wrongMoves > 0 && m_editor->dataMark() != m_needs.start.dataMark);
+}
+
+bool LessonGuide::isLost() const
+{
+    return m_stray == Stray::kGone && m_editor->dataMark() == m_needs.start.dataMark;
 }
 
 bool LessonGuide::restore(const StepStart &start)
@@ -139,7 +140,7 @@ bool LessonGuide::restore(const StepStart &start)
     m_trail.setLastCauses(start.lastCauses);
     m_trail.follow(m_editor->openWindows());
     if (m_runs) {
-        m_start.dataMark = m_editor->dataMark();
+        m_needs.start.dataMark = m_editor->dataMark();
         m_wrongMoves = 0;
         endTurn();
     }
@@ -169,12 +170,11 @@ void LessonGuide::endTurn()
         takeStart();
         m_settled = true;
     }
-    const Stray stray = strayed();
-    std::optional<Way> way = findWay(stray);
+    const Whereabouts now(m_editor, &m_needs, m_trail.open());
+    const Stray stray = m_runs ? lookAround(now) : Stray::kNot;
+    std::optional<Way> way = now.wayBack(stray);
     if (way && !m_editor->rectOf(way->by)) {
         m_editor->reveal(way->by);
-    } else if (stray == Stray::kNot && m_pointed && !m_editor->rectOf(*m_pointed)) {
-        m_editor->reveal(*m_pointed);
     }
     const bool isNew = std::exchange(m_stray, stray) != stray;
     const bool isOther = std::exchange(m_way, way) != way;
@@ -185,18 +185,40 @@ void LessonGuide::endTurn()
     Q_EMIT turned();
 }
 
+Stray LessonGuide::lookAround(const Whereabouts &now)
+{
+    Stray stray = now.stray();
+    if (stray == Stray::kGone) {
+        // Scrolled away, most often.
+        m_editor->reveal(*m_needs.pointed);
+        stray = now.stray();
+    }
+    const bool isGone = stray == Stray::kGone;
+    const bool wasGone = std::exchange(m_wasGone, isGone);
+    if (!isGone) {
+        return stray;
+    }
+    if (!wasGone) {
+        m_turn.start(); // windows that have only just changed get another turn
+    }
+    const bool canBeMended =
+        !m_needs.start.state.isEmpty() && (m_canGoBack || m_editor->dataMark() != m_needs.start.dataMark);
+    return wasGone && wantsEvent() && canBeMended ? Stray::kGone : Stray::kNot;
+}
+
 void LessonGuide::takeStart()
 {
-    if (!m_pointed && m_step.hasPosition()) {
-        m_pointed = m_editor->controlAt(m_step.windowKey, QPoint(m_step.x, m_step.y) + LessonWords::kTip);
+    if (!m_needs.pointed && m_needs.step.hasPosition()) {
+        m_needs.pointed = m_editor->controlAt(m_needs.step.windowKey, m_needs.step.spot());
     }
-    m_start = StepStart::of(*m_editor, m_trail, m_pointed);
+    m_needs.start = StepStart::of(*m_editor, m_trail, m_needs.pointed);
+    m_ahead = m_behind ? StepAhead(m_editor, *m_behind) : StepAhead();
 }
 
 void LessonGuide::blame(const EditorEvent &event)
 {
-    const bool isAsked = m_pointed && event.cause.isLike(*m_pointed) &&
-                         !(m_step.condition.type() == Condition::Type::kMouseEvent &&
+    const bool isAsked = m_needs.pointed && event.cause.isLike(*m_needs.pointed) &&
+                         !(m_needs.step.condition.type() == Condition::Type::kMouseEvent &&
                            event.type == QLatin1String("mouseEvent"));
     const bool leadsBack = m_way && event.cause.isLike(m_way->by);
     if (!m_settled || event.cause.isNone() || isAsked || leadsBack) {
@@ -222,110 +244,6 @@ void LessonGuide::offerHelp()
 bool LessonGuide::wantsEvent() const
 {
     using Type = Condition::Type;
-    const Type type = m_step.condition.type();
+    const Type type = m_needs.step.condition.type();
     return type != Type::kNext && type != Type::kYesNo && type != Type::kWait;
-}
-
-bool LessonGuide::isThere(const OpenWindows &open) const
-{
-    const QString needed = m_editor->windowOf(m_step.windowKey);
-    if (needed.isEmpty() || open.isEmpty()) {
-        return needed.isEmpty();
-    }
-    const OpenWindows &begun = m_start.open;
-    if (needed == QLatin1String("Popup")) {
-        const OpenWindow &top = open.constLast();
-        const bool isKnown = !begun.isEmpty() && begun.constLast().isMenu;
-        return top.isMenu && (!isKnown || areAlike(open, begun));
-    }
-    const OpenWindows windows = withoutMenu(open);
-    const OpenWindows begunWindows = withoutMenu(begun);
-    // Where the step's window was not on top from the start, it has to get there in any way.
-    const bool isKnown = !begunWindows.isEmpty() && begunWindows.constLast().name == needed;
-    return isKnown ? areAlike(windows, begunWindows)
-                   : !windows.isEmpty() && windows.constLast().name == needed;
-}
-
-bool LessonGuide::hasOtherMeaning() const
-{
-    if (!m_pointed || m_start.meaning.isEmpty()) {
-        return false;
-    }
-    const QString meaning = m_editor->meaningOf(*m_pointed);
-    return !meaning.isEmpty() && meaning != m_start.meaning;
-}
-
-LessonGuide::Stray LessonGuide::strayed() const
-{
-    if (!m_runs || !m_step.hasPosition()) {
-        return Stray::kNot;
-    }
-    if (!m_start.project.isEmpty() && m_editor->projectId() != m_start.project) {
-        return Stray::kProject;
-    }
-    if (!isThere(m_trail.open())) {
-        return Stray::kWindows;
-    }
-    if (hasOtherMeaning() && (wayToChosen() || m_editor->dataMark() != m_start.dataMark)) {
-        return Stray::kMeaning;
-    }
-    const bool isInMenu = m_editor->windowOf(m_step.windowKey) == QLatin1String("Popup");
-    const bool hasMenu = !m_trail.open().isEmpty() && m_trail.open().constLast().isMenu;
-    return !isInMenu && hasMenu && m_pointed && !m_editor->rectOf(*m_pointed) ? Stray::kCovered : Stray::kNot;
-}
-
-std::optional<Way> LessonGuide::findWay(Stray stray) const
-{
-    switch (stray) {
-    case Stray::kWindows:
-        return wayToWindows();
-    case Stray::kMeaning:
-        return wayToChosen();
-    case Stray::kCovered: {
-        const WayBack search(m_editor->ways());
-        const OpenWindows below = withoutMenu(m_trail.open());
-        return search.first(m_trail.open(),
-                            [&below](const OpenWindows &open) { return areAlike(open, below); });
-    }
-    case Stray::kNot:
-    case Stray::kProject:
-        break;
-    }
-    return {};
-}
-
-std::optional<Way> LessonGuide::wayToWindows() const
-{
-    const WayBack search(m_editor->ways());
-    std::optional<Way> way =
-        search.first(m_trail.open(), [this](const OpenWindows &open) { return isThere(open); });
-    if (!way) {
-        return {};
-    }
-    if (way->by.part < 0) {
-        // Of a list it is the row with which it was done before.
-        const ControlSpot before = m_start.lastCauses.value(way->windowKey);
-        if (before.isSameControl(way->by)) {
-            way->by.part = before.part;
-        }
-    }
-    // What is hidden behind another tab is out of reach until that is in front again.
-    const std::optional<Way> chosen = m_editor->rectOf(way->by) ? std::nullopt : wayToChosen();
-    return chosen ? chosen : way;
-}
-
-std::optional<Way> LessonGuide::wayToChosen() const
-{
-    const QVector<ControlSpot> now = m_editor->chosen();
-    for (const ControlSpot &spot : m_start.chosen) {
-        if (!now.contains(spot) && m_editor->rectOf(spot)) {
-            return Way{spot,
-                       QStringLiteral("click"),
-                       m_editor->windowOf(spot.windowKey),
-                       Way::Does::kShows,
-                       QString(),
-                       false};
-        }
-    }
-    return {};
 }

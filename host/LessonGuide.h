@@ -1,13 +1,13 @@
 #pragma once
 
-#include "host/StepStart.h"
-#include "host/Way.h"
-#include "lesson/Scenario.h"
+#include "host/StepAhead.h"
+#include "host/Whereabouts.h"
 
 #include <QObject>
 #include <QTimer>
 
 class HostEditor;
+class ScenarioRunner;
 
 /// Watches over the person within a step: tells what counts for it from wrong moves, knows when the person
 /// has strayed and what leads back, and when help is due. It speaks to nobody but its owner.
@@ -24,26 +24,39 @@ public:
 
     /// A lesson begins: nothing is known of how windows came up, but for what @p known says.
     void beginLesson(const StepStart &known);
-    void beginStep(const Step &step);
+    /// The present step of @p runner begins. @p canGoBack: there are steps before it to go back to.
+    void beginStep(const ScenarioRunner &runner, bool canGoBack);
     void end();
 
-    /// Whether the event, which meets the step's condition if @p meets, is what the step asks for. To be told
-    /// of every event.
-    [[nodiscard]] bool counts(const EditorEvent &event, bool meets);
+    /// What an event is for the step.
+    enum class Verdict {
+        /// Nothing that ends it.
+        kNothing,
+        /// What it asks for.
+        kDone,
+        /// It waits for Next, and this is what the step behind it asks for.
+        kRanAhead,
+    };
+    /// To be told of every event.
+    [[nodiscard]] Verdict judge(const EditorEvent &event);
 
     /// The control, row, tab or cell that the step's position names.
-    [[nodiscard]] const std::optional<ControlSpot> &pointed() const { return m_pointed; }
-    [[nodiscard]] const StepStart &start() const { return m_start; }
+    [[nodiscard]] const std::optional<ControlSpot> &pointed() const { return m_needs.pointed; }
+    [[nodiscard]] const StepStart &start() const { return m_needs.start; }
 
     [[nodiscard]] bool isAstray() const { return m_stray != Stray::kNot; }
     /// What to use next to get back. Nothing when the person is not astray or no control leads back.
     [[nodiscard]] const std::optional<Way> &wayBack() const { return m_way; }
-    /// Whether something has gone wrong that restore() mends.
+    /// Whether something has gone wrong that bringing back an earlier state mends: that of the start of the
+    /// step, or, where isLost(), that of a step before.
     [[nodiscard]] bool canPutBack() const;
+    /// Whether the step cannot be done even as it began: what went wrong did so earlier.
+    [[nodiscard]] bool isLost() const;
+    /// Whether canPutBack() was so before what happened last.
+    [[nodiscard]] bool couldPutBack() const { return m_couldPutBack; }
 
     /// Brings back what there was at the start of the step, or at another one.
     bool restore(const StepStart &start);
-    bool putBack() { return restore(m_start); }
     /// The project has changed without the person: that is how the step begins.
     void takeStartAnew();
 
@@ -59,41 +72,24 @@ Q_SIGNALS:
     void helpOffered();
 
 private:
-    enum class Stray {
-        kNot,
-        /// Other windows are open than the step needs, or they came up in another way.
-        kWindows,
-        /// What the step points at means something else.
-        kMeaning,
-        /// A context menu lies over it.
-        kCovered,
-        /// Another project is open.
-        kProject,
-    };
-
     void follow();
     void endTurn();
+    [[nodiscard]] Stray lookAround(const Whereabouts &now);
     void takeStart();
     void blame(const EditorEvent &event);
     void offerHelp();
     [[nodiscard]] bool wantsEvent() const;
-    [[nodiscard]] bool isThere(const OpenWindows &open) const;
-    [[nodiscard]] bool hasOtherMeaning() const;
-    [[nodiscard]] Stray strayed() const;
-    [[nodiscard]] std::optional<Way> findWay(Stray stray) const;
-    [[nodiscard]] std::optional<Way> wayToWindows() const;
-    /// The first of what was chosen when the step began and is not now.
-    [[nodiscard]] std::optional<Way> wayToChosen() const;
 
     HostEditor *m_editor;
     WindowTrail m_trail;
     bool m_runs = false;
-    Step m_step;
+    StepNeeds m_needs;
+    bool m_canGoBack = false;
+    std::optional<Step> m_behind;
+    StepAhead m_ahead;
     int m_number = 0;
     /// Number of the step in which the mouse button went down last.
     int m_pressedIn = 0;
-    std::optional<ControlSpot> m_pointed;
-    StepStart m_start;
     /// What there was when the step was reached was taken at the end of its turn.
     bool m_settled = false;
     bool m_restoring = false;
@@ -105,6 +101,8 @@ private:
     Stray m_stray = Stray::kNot;
     std::optional<Way> m_way;
     bool m_couldPutBack = false;
+    /// What the step points at was not there at the end of the last turn.
+    bool m_wasGone = false;
     QTimer m_turn;
     QTimer m_help;
 };

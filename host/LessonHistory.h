@@ -11,7 +11,7 @@ public:
     struct Visit
     {
         int id = 0;
-        /// Empty for a step of an earlier run.
+        /// Empty where the editor gives nothing away.
         StepStart start;
     };
 
@@ -25,11 +25,17 @@ public:
     /// How the present step began.
     void setStart(const StepStart &start) { m_present.start = start; }
 
+    /// The present step is left with something gone wrong in it that was not put back.
+    void noteDamage();
+
     [[nodiscard]] bool canGoBack() const { return !m_past.isEmpty(); }
     /// Goes back to the step before; enter() follows.
     Visit goBack();
+    /// Goes back to the last step that began when nothing had gone wrong yet, as far as that is known.
+    Visit goBackToGood();
 
-    /// The lesson's name, the present step's id, how it began, and the ids of the steps before it.
+    /// The lesson's name, the present step with how it began, and the same of the steps before it, of which
+    /// only what changed from one to the next is kept.
     [[nodiscard]] QJsonObject bookmark() const;
 
     [[nodiscard]] static QString lessonOf(const QJsonObject &bookmark);
@@ -37,8 +43,17 @@ public:
     [[nodiscard]] static StepStart startOf(const QJsonObject &bookmark);
 
 private:
+    void leave(const Visit &visit);
+
     QString m_lessonName;
     QVector<Visit> m_past;
+    /// What a bookmark keeps of each of them.
+    QVector<QJsonObject> m_kept;
+    /// Index of the first of them in which something has gone wrong, that step having begun well; -1 for
+    /// none.
+    int m_firstDamaged = -1;
+    /// How the last of them began.
+    QJsonObject m_lastKept;
     Visit m_present;
     bool m_hasPresent = false;
 };

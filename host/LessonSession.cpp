@@ -2,23 +2,7 @@
 
 #include "host/HostEditor.h"
 
-#include <algorithm>
 #include <utility>
-
-namespace {
-
-/// How long the arrow is away before it glides in again, so that the eye follows it.
-constexpr int kGlideMs = 600;
-
-} // namespace
-
-QString LessonFault::message() const
-{
-    return QStringLiteral(
-               "Lesson %1, item %2: %3. The lesson is not played. Correct \"%4\" in the lesson, or "
-               "play it with an editor that knows the word.")
-        .arg(lesson, QString::number(item), problem, word);
-}
 
 LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     : QObject(parent)
@@ -26,39 +10,31 @@ LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     , m_screen(editor)
     , m_runner([editor] { return editor->openWindows(); })
     , m_guide(editor)
+    , m_bubble(editor, &m_screen, &m_runner, &m_guide)
 {
     m_wait.setSingleShot(true);
     connect(&m_wait, &QTimer::timeout, &m_runner, &ScenarioRunner::elapsed);
-    m_handOver.setSingleShot(true);
-    m_handOver.setInterval(kHandOverMs);
-    connect(&m_handOver, &QTimer::timeout, this, [this] { Q_EMIT refused(m_lessonName); });
-    m_glide.setSingleShot(true);
-    m_glide.setInterval(kGlideMs);
-    connect(&m_glide, &QTimer::timeout, this, &LessonSession::sendStep);
-    connect(&m_runner, &ScenarioRunner::stepReached, this, &LessonSession::onStepReached);
-    connect(&m_runner, &ScenarioRunner::commandRequested, this, &LessonSession::runCommand);
-    connect(&m_runner, &ScenarioRunner::finished, this, [this] {
-        ++m_reached;
-        end();
-        setBookmark({});
-        Q_EMIT finished();
-    });
-    connect(&m_screen, &CompanionScreen::sends, this, &LessonSession::sends);
-    connectGuide();
+    connectParts();
     connect(editor, &HostEditor::happened, this, &LessonSession::onHappened);
-    connect(editor, &HostEditor::popped, this, &LessonSession::onWindowGone);
-    connect(editor, &HostEditor::popupAbandoned, this, &LessonSession::onWindowGone);
-    connect(editor, &HostEditor::moved, this, &LessonSession::onMoved);
 }
 
-void LessonSession::connectGuide()
+void LessonSession::connectParts()
 {
+    connect(&m_handOver, &LessonHandOver::sends, this, &LessonSession::sends);
+    connect(&m_handOver, &LessonHandOver::refused, this, &LessonSession::refused);
+    connect(&m_handOver, &LessonHandOver::stopped, this, &LessonSession::stopped);
+    connect(&m_handOver, &LessonHandOver::problemFound, this, &LessonSession::problemFound);
+    connect(&m_screen, &CompanionScreen::sends, this, &LessonSession::sends);
+    connect(&m_runner, &ScenarioRunner::stepReached, this, &LessonSession::onStepReached);
+    connect(&m_runner, &ScenarioRunner::commandRequested, this, &LessonSession::runCommand);
+    connect(&m_runner, &ScenarioRunner::finished, this, &LessonSession::onFinished);
     connect(&m_guide, &LessonGuide::changed, this, [this] {
-        sendStep();
+        m_bubble.tell();
         Q_EMIT astrayChanged();
     });
     connect(&m_guide, &LessonGuide::turned, this, &LessonSession::onTurned);
     connect(&m_guide, &LessonGuide::helpOffered, this, &LessonSession::helpOffered);
+    connect(&m_bubble, &LessonBubble::told, this, &LessonSession::stepTold);
 }
 
 void LessonSession::greet(const QString &locale)
@@ -71,20 +47,20 @@ void LessonSession::request(const QString &lessonName)
 {
     stop();
     m_resumed = {};
-    m_lessonName = lessonName;
-    if (!m_listed.isEmpty() && !m_listed.contains(lessonName)) {
-        // The companion would hand over the lesson before.
-        Q_EMIT refused(lessonName);
-        return;
-    }
-    m_handOver.start();
-    Q_EMIT sends(HostCommands::tutorial(lessonName));
+    m_handOver.request(lessonName);
 }
 
 void LessonSession::resume(const QJsonObject &bookmark)
 {
     request(LessonHistory::lessonOf(bookmark));
     m_resumed = bookmark;
+}
+
+void LessonSession::play(const QString &lessonName, const QString &scenarioText, int id)
+{
+    m_resumed = {};
+    m_handOver.expectOwn(lessonName);
+    begin(scenarioText, id);
 }
 
 void LessonSession::stop()
@@ -97,10 +73,7 @@ void LessonSession::stop()
 void LessonSession::abandon()
 {
     m_handOver.stop();
-    m_wait.stop();
-    m_glide.stop();
-    m_guide.end();
-    m_runner.stop();
+    halt();
 }
 
 void LessonSession::back()
@@ -108,11 +81,43 @@ void LessonSession::back()
     if (!canGoBack()) {
         return;
     }
-    const LessonHistory::Visit visit = m_history.goBack();
+    LessonHistory::Visit visit = m_history.goBack();
+    while (passesByItself(visit.id) && m_history.canGoBack()) {
+        visit = m_history.goBack();
+    }
+    goBackTo(visit);
+}
+
+void LessonSession::goBackTo(const LessonHistory::Visit &visit)
+{
     m_wait.stop();
     m_guide.end();
-    m_guide.restore(visit.start);
+    restore(visit.start);
     m_runner.goTo(visit.id);
+}
+
+bool LessonSession::passesByItself(int id) const
+{
+    const Scenario &scenario = m_runner.scenario();
+    const int index = scenario.indexOf(id);
+    return index < 0 || scenario.step(index).icon == QLatin1String("wait");
+}
+
+void LessonSession::putBack()
+{
+    if (m_guide.isLost() && canGoBack()) {
+        goBackTo(m_history.goBackToGood());
+    } else {
+        restore(m_guide.start());
+    }
+}
+
+void LessonSession::restore(const StepStart &start)
+{
+    // Of a step of an earlier run no state may be known; then things stay as they are.
+    if (!start.state.isEmpty() && !m_guide.restore(start)) {
+        Q_EMIT stateLost();
+    }
 }
 
 void LessonSession::showMe()
@@ -126,8 +131,7 @@ void LessonSession::showMe()
     }
     const std::optional<Way> &way = m_guide.wayBack();
     Q_EMIT showRequested(way ? way->by : m_guide.pointed().value_or(ControlSpot()));
-    m_screen.moveToMiddle();
-    m_glide.start();
+    m_bubble.glideIn();
 }
 
 void LessonSession::skipStep()
@@ -145,7 +149,7 @@ void LessonSession::doStep()
         return;
     }
     if (m_guide.isAstray()) {
-        m_guide.putBack();
+        restore(m_guide.start());
     }
     const Step step = m_runner.step();
     if (step.condition.type() == Condition::Type::kNext) {
@@ -167,24 +171,19 @@ void LessonSession::receive(const QString &command)
         begin(read.text, read.id.value_or(-1));
         break;
     case Kind::kNext:
-        Q_EMIT nextArrived();
-        // While what leads back is shown there is no such button; a press may be on its way.
-        if (!isAstray()) {
-            m_runner.next();
-        }
-        break;
     case Kind::kYes:
     case Kind::kNo:
-        Q_EMIT nextArrived();
-        m_runner.answer(read.kind == Kind::kYes);
+        onPressed(read.kind);
         break;
-    case Kind::kTutorialList:
-        m_listed.clear();
+    case Kind::kTutorialList: {
+        QStringList names;
         for (const Lesson &lesson : read.lessons) {
-            m_listed.append(lesson.name);
+            names.append(lesson.name);
         }
+        m_handOver.setListed(names);
         Q_EMIT lessonsListed(read.lessons);
         break;
+    }
     case Kind::kFeedbackPresetData:
         if (read.problem.isEmpty()) {
             Q_EMIT filesReceived(read.files);
@@ -200,98 +199,47 @@ void LessonSession::receive(const QString &command)
     }
 }
 
-std::optional<QPoint> LessonSession::bubbleTarget() const
+void LessonSession::onPressed(CompanionCommand::Kind button)
 {
-    if (!m_runner.isRunning() || !m_runner.step().hasPosition()) {
-        return {};
+    const bool isSecond = m_pressed.isValid() && m_pressed.elapsed() < m_doublePressMs;
+    if (isSecond) {
+        Q_EMIT nextArrived();
+        return;
     }
-    if (isAstray()) {
-        const std::optional<Way> &way = m_guide.wayBack();
-        const std::optional<QPoint> spot = way ? m_editor->spotOf(way->by) : std::nullopt;
-        return spot ? std::optional(*spot - LessonWords::kTip) : std::nullopt;
+    m_pressed.start();
+    if (button == CompanionCommand::Kind::kNext) {
+        next();
+    } else {
+        answer(button == CompanionCommand::Kind::kYes);
     }
-    const Step &step = m_runner.step();
-    const std::optional<QPoint> origin = m_editor->origin(step.windowKey);
-    if (!origin) {
-        return {};
-    }
-    const QPoint place = *origin + QPoint(step.x, step.y);
-    // A row or cell that was scrolled or zoomed is what the step means, and not the place where it was.
-    const std::optional<ControlSpot> &pointed = m_guide.pointed();
-    const std::optional<QRect> rect =
-        pointed && pointed->part >= 0 ? m_editor->rectOf(*pointed) : std::nullopt;
-    const bool isElsewhere = rect && !rect->contains(place + LessonWords::kTip);
-    return isElsewhere ? rect->center() - LessonWords::kTip : place;
 }
 
-bool LessonSession::lacksWindow() const
+void LessonSession::next()
 {
-    return m_runner.isRunning() && m_runner.step().hasPosition() && !bubbleTarget();
+    Q_EMIT nextArrived();
+    // While what leads back is shown there is no such button; a press may be on its way.
+    if (!isAstray()) {
+        m_runner.next();
+    }
 }
 
-QString LessonSession::windowToOpen() const
+void LessonSession::answer(bool yes)
 {
-    if (!lacksWindow()) {
-        return {};
-    }
-    const QStringList open = m_editor->openWindows();
-    QStringList closed = {m_runner.step().windowKey};
-    for (int i = 0; i < closed.size(); ++i) {
-        // Of several windows, one that the lesson knows.
-        QStringList from = m_editor->openedFrom(closed.at(i));
-        std::stable_partition(from.begin(), from.end(),
-                              [this](const QString &key) { return m_runner.scenario().hasStepIn(key); });
-        for (const QString &key : from) {
-            if (open.contains(key)) {
-                return closed.at(i);
-            }
-            if (!closed.contains(key)) {
-                closed += key;
-            }
-        }
-    }
-    return closed.constFirst();
-}
-
-void LessonSession::play(const QString &lessonName, const QString &scenarioText, int id)
-{
-    m_resumed = {};
-    m_lessonName = lessonName;
-    m_lastName = lessonName; // nothing was asked for
-    begin(scenarioText, id);
+    Q_EMIT nextArrived();
+    m_runner.answer(yes);
 }
 
 void LessonSession::begin(const QString &scenarioText, int id)
 {
-    QStringList problems;
-    const Scenario scenario = Scenario::parse(scenarioText, &problems);
-    for (const QString &problem : qAsConst(problems)) {
-        Q_EMIT problemFound(problem);
-    }
-    m_handOver.stop();
     stop();
-    if (scenario.size() == 0 || !isAsked(scenario)) {
-        Q_EMIT refused(m_lessonName);
-        return;
-    }
-    m_lastScenario = scenario;
-    m_lastName = m_lessonName;
-    if (!scenario.unknownWords().isEmpty()) {
-        const UnknownWord &unknown = scenario.unknownWords().constFirst();
-        Q_EMIT stopped({m_lessonName, unknown.stepId, unknown.word, unknown.problem});
+    const std::optional<Scenario> scenario = m_handOver.take(scenarioText);
+    if (!scenario) {
         return;
     }
     const int first = takeUp(std::exchange(m_firstStep, std::nullopt).value_or(id));
     m_screen.start();
     Q_EMIT started();
-    m_runner.start(scenario, first);
-}
-
-bool LessonSession::isAsked(const Scenario &scenario) const
-{
-    // Where the companion cannot open a lesson, it hands over the one before under the name of the new one.
-    return m_lessonName.isEmpty() || m_lastName.isEmpty() || m_lessonName == m_lastName ||
-           !scenario.isSameLesson(m_lastScenario);
+    m_runner.start(*scenario, first);
 }
 
 int LessonSession::takeUp(int id)
@@ -306,20 +254,25 @@ int LessonSession::takeUp(int id)
     if (!bookmark.isEmpty()) {
         Q_EMIT problemFound(QStringLiteral("the state in which %1 was left cannot be brought back; it begins "
                                            "again")
-                                .arg(m_lessonName));
+                                .arg(lessonName()));
     }
-    m_history.begin(m_lessonName);
+    m_history.begin(lessonName());
     m_guide.beginLesson({});
     return id;
 }
 
 void LessonSession::end()
 {
+    halt();
+    m_screen.stop();
+}
+
+void LessonSession::halt()
+{
     m_wait.stop();
-    m_glide.stop();
+    m_bubble.settle();
     m_guide.end();
     m_runner.stop();
-    m_screen.stop();
 }
 
 void LessonSession::runCommand(const QString &command)
@@ -330,10 +283,15 @@ void LessonSession::runCommand(const QString &command)
 
 void LessonSession::onHappened(const EditorEvent &event)
 {
-    const bool meets =
-        m_runner.isRunning() && m_runner.step().condition.isMetBy(event, m_runner.step().windowKey);
-    if (m_guide.counts(event, meets)) {
+    switch (m_guide.judge(event)) {
+    case LessonGuide::Verdict::kNothing:
+        break;
+    case LessonGuide::Verdict::kDone:
         m_runner.handle(event);
+        break;
+    case LessonGuide::Verdict::kRanAhead:
+        m_runner.runAhead();
+        break;
     }
 }
 
@@ -344,14 +302,17 @@ void LessonSession::onStepReached()
     m_shown = false;
     m_bookmarkDue = true;
     m_wait.stop();
-    m_glide.stop();
+    m_bubble.settle();
     if (step.condition.type() == Condition::Type::kWait) {
         m_wait.start(step.condition.waitMs());
     }
+    if (m_guide.couldPutBack()) {
+        m_history.noteDamage();
+    }
     m_history.enter(step.id);
-    m_guide.beginStep(step);
+    m_guide.beginStep(m_runner, m_history.canGoBack());
     m_history.setStart(m_guide.start());
-    sendStep();
+    m_bubble.tell();
     Q_EMIT stepReached();
 }
 
@@ -361,63 +322,19 @@ void LessonSession::onTurned()
         m_history.setStart(m_guide.start());
         setBookmark(m_history.bookmark());
     }
-    const std::optional<QPoint> target = bubbleTarget();
-    if (target && m_pointing && target != m_screen.place() && !m_glide.isActive()) {
-        m_screen.move(*target);
-    }
+    m_bubble.follow();
+}
+
+void LessonSession::onFinished()
+{
+    ++m_reached;
+    end();
+    setBookmark({});
+    Q_EMIT finished();
 }
 
 void LessonSession::setBookmark(const QJsonObject &bookmark)
 {
     m_bookmark = bookmark;
     Q_EMIT bookmarkChanged();
-}
-
-void LessonSession::onMoved(const QString &windowKey)
-{
-    if (!m_runner.isRunning()) {
-        return;
-    }
-    const std::optional<QPoint> target = bubbleTarget();
-    if (target && m_pointing && target != m_screen.place()) {
-        m_screen.move(*target);
-    } else if (target && !m_pointing && windowKey == m_runner.step().windowKey) {
-        sendStep();
-    }
-}
-
-void LessonSession::onWindowGone()
-{
-    if (m_runner.isRunning() && m_pointing && !bubbleTarget()) {
-        sendStep();
-    }
-}
-
-void LessonSession::sendStep()
-{
-    const Step &step = m_runner.step();
-    const std::optional<QPoint> target = bubbleTarget();
-    m_pointing = target.has_value();
-    IndicatorUpdate update;
-    update.place = target;
-    update.windowKey = step.windowKey;
-    update.hint = step.hint;
-    update.next = step.condition.type() == Condition::Type::kNext;
-    update.yesNo = step.condition.type() == Condition::Type::kYesNo;
-    update.arrow = step.showArrow;
-    update.iconKind = LessonWords::iconKind(step.icon);
-    if (isAstray()) {
-        const std::optional<Way> &way = m_guide.wayBack();
-        const QString hint = way            ? m_editor->hintBack(*way, step)
-                             : canPutBack() ? m_editor->hintToPutBack(step)
-                                            : QString();
-        update.hint = hint.isEmpty() ? step.hint : hint;
-        update.next = false;
-        update.yesNo = false;
-        update.arrow = true;
-        update.iconKind = LessonWords::iconKind(way ? way->icon : QString());
-    }
-    m_hint = update.hint;
-    m_screen.tell(update);
-    Q_EMIT stepTold();
 }

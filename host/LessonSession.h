@@ -2,29 +2,18 @@
 
 #include "host/CompanionScreen.h"
 #include "host/HostCommands.h"
+#include "host/LessonBubble.h"
 #include "host/LessonGuide.h"
+#include "host/LessonHandOver.h"
 #include "host/LessonHistory.h"
 #include "host/ScenarioRunner.h"
 
+#include <QElapsedTimer>
 #include <QMap>
 #include <QPoint>
 #include <QTimer>
 
 class HostEditor;
-
-/// A word in a lesson that nobody knows.
-struct LessonFault
-{
-    QString lesson;
-    int item = 0;
-    /// The condition or command as it stands there.
-    QString word;
-    /// A sentence that says what is wrong with it.
-    QString problem;
-
-    /// All of it, and what to do, in English.
-    [[nodiscard]] QString message() const;
-};
 
 /// One lesson between the companion and the windows: asks for it, runs it, and keeps the companion's picture
 /// of the windows true. It speaks in commands; who carries them is not its business.
@@ -54,9 +43,14 @@ public:
     /// A command of the companion, fields separated by the byte 0x01.
     void receive(const QString &command);
 
-    static constexpr int kHandOverMs = 5000;
+    /// A button of the host's own that stands for the companion's Next, or its Yes and No.
+    void next();
+    void answer(bool yes);
 
-    [[nodiscard]] QString lessonName() const { return m_lessonName; }
+    static constexpr int kHandOverMs = LessonHandOver::kMs;
+    static constexpr int kDoublePressMs = 400;
+
+    [[nodiscard]] QString lessonName() const { return m_handOver.lessonName(); }
     [[nodiscard]] const ScenarioRunner &runner() const { return m_runner; }
 
     /// Whether the step cannot go on as things stand: its window is closed, another one is on top, a context
@@ -67,14 +61,16 @@ public:
     /// and when no control leads back.
     [[nodiscard]] std::optional<Way> wayBack() const { return m_guide.wayBack(); }
     /// Whether putBack() would mend something: the data are not what they were when the step was reached, and
-    /// there were wrong moves.
+    /// there were wrong moves; or what the step points at is not there.
     [[nodiscard]] bool canPutBack() const { return m_guide.canPutBack(); }
-    /// Brings back what there was when the step was reached.
-    void putBack() { m_guide.putBack(); }
+    /// Brings back what there was when the step was reached. Where the step cannot be done even so, it goes
+    /// back to the one in which something went wrong.
+    void putBack();
 
     /// Whether there is a step before this one that was played.
     [[nodiscard]] bool canGoBack() const { return m_runner.isRunning() && m_history.canGoBack(); }
-    /// Goes back to it, and to what there was when it was reached.
+    /// Goes back to it, and to what there was when it was reached. Steps in which the person only waits are
+    /// passed over: they would come to this one by themselves.
     void back();
     /// Shows where the step points: the arrow glides in again. Called once more in the same step, does it.
     void showMe();
@@ -90,21 +86,24 @@ public:
 
     /// Help is offered in a step that was not done for so long, in milliseconds.
     void setHelpAfterMs(int ms) { m_guide.setHelpAfterMs(ms); }
+    /// A press of the companion's buttons that comes so soon behind another one, in milliseconds, is the rest
+    /// of a double click: the button of the next step may stand at the same place.
+    void setDoublePressMs(int ms) { m_doublePressMs = ms; }
 
     /// Where the bubble's window belongs at present, in global screen pixels: for the step, or for what leads
     /// back to it. Nothing when that points nowhere or cannot be seen.
-    [[nodiscard]] std::optional<QPoint> bubbleTarget() const;
+    [[nodiscard]] std::optional<QPoint> bubbleTarget() const { return m_bubble.target(); }
     /// Where the bubble's window was sent last: for the present step, or before it when that one has no
     /// place; in global screen pixels. Nothing before the first lesson.
     [[nodiscard]] std::optional<QPoint> bubblePlace() const { return m_screen.place(); }
     /// What the bubble says: the hint of the step, or of what leads back to it.
-    [[nodiscard]] QString hint() const { return m_hint; }
+    [[nodiscard]] QString hint() const { return m_bubble.hint(); }
     /// Whether the present step points into a window that is not open.
-    [[nodiscard]] bool lacksWindow() const;
+    [[nodiscard]] bool lacksWindow() const { return m_bubble.lacksWindow(); }
     /// What the person has to open next for the present step: its window, or, as long as that one is opened
     /// from windows that are closed too, the nearest of these that can be opened now. Empty when the step
     /// lacks no window.
-    [[nodiscard]] QString windowToOpen() const;
+    [[nodiscard]] QString windowToOpen() const { return m_bubble.windowToOpen(); }
 
 Q_SIGNALS:
     /// A command for the companion, as HostCommands builds them.
@@ -133,6 +132,8 @@ Q_SIGNALS:
     /// What the step points at, or leads back to it, is to catch the eye.
     void showRequested(const ControlSpot &spot);
     void bookmarkChanged();
+    /// back() or putBack() could not bring back all that there was, as when the project is gone.
+    void stateLost();
     /// A button of the companion was pressed. The editor's top window wants the focus again, and a second
     /// press, of a double click, is not meant for what lies below.
     void nextArrived();
@@ -140,29 +141,33 @@ Q_SIGNALS:
     void problemFound(const QString &problem);
 
 private:
-    void connectGuide();
+    void connectParts();
     void begin(const QString &scenarioText, int id);
-    /// Whether what was handed over is the lesson that was asked for.
-    [[nodiscard]] bool isAsked(const Scenario &scenario) const;
     /// Brings back the state of the bookmark that is to be resumed, if one is. Gives the id of its step, or
     /// @p id.
     int takeUp(int id);
+    void goBackTo(const LessonHistory::Visit &visit);
+    void restore(const StepStart &start);
+    [[nodiscard]] bool passesByItself(int id) const;
     void end();
+    /// Leaves the lesson without a word.
+    void halt();
     void runCommand(const QString &command);
+    void onPressed(CompanionCommand::Kind button);
     void onHappened(const EditorEvent &event);
     void onStepReached();
     void onTurned();
+    void onFinished();
     /// Does what the step asks for, or nothing where that cannot be done.
     void doStep();
     void setBookmark(const QJsonObject &bookmark);
-    void onMoved(const QString &windowKey);
-    void onWindowGone();
-    void sendStep();
 
     HostEditor *m_editor;
+    LessonHandOver m_handOver;
     CompanionScreen m_screen;
     ScenarioRunner m_runner;
     LessonGuide m_guide;
+    LessonBubble m_bubble;
     LessonHistory m_history;
     QJsonObject m_bookmark;
     /// The present step has to be written into the bookmark.
@@ -171,19 +176,11 @@ private:
     QJsonObject m_resumed;
     std::optional<int> m_firstStep;
     QTimer m_wait;
-    QTimer m_handOver;
-    QTimer m_glide;
-    QString m_lessonName;
-    QString m_hint;
-    /// As the companion has listed them.
-    QStringList m_listed;
-    /// What was handed over last, and for which lesson.
-    Scenario m_lastScenario;
-    QString m_lastName;
+    /// Since a button of the companion was pressed.
+    QElapsedTimer m_pressed;
+    int m_doublePressMs = kDoublePressMs;
     /// How many steps were reached.
     int m_reached = 0;
     /// The step was shown by showMe() already.
     bool m_shown = false;
-    /// What the companion was told last: it points at the window of the step, or nowhere.
-    bool m_pointing = false;
 };

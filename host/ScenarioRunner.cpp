@@ -66,10 +66,33 @@ void ScenarioRunner::skip()
     }
 }
 
-void ScenarioRunner::goOn(int jump)
+const Step *ScenarioRunner::stepBehind() const
+{
+    if (!isRunning() || step().condition.type() != Condition::Type::kNext) {
+        return nullptr;
+    }
+    const int index = indexBehind(m_index, step().jump);
+    return index < m_scenario.size() ? &m_scenario.step(index) : nullptr;
+}
+
+void ScenarioRunner::runAhead()
+{
+    if (stepBehind() == nullptr) {
+        return;
+    }
+    enter(indexBehind(m_index, step().jump));
+    skip();
+}
+
+int ScenarioRunner::indexBehind(int index, int jump) const
 {
     const int target = jump == LessonWords::kNoJump ? -1 : m_scenario.indexOf(jump);
-    reach(target < 0 ? m_index + 1 : target);
+    return target < 0 ? index + 1 : target;
+}
+
+void ScenarioRunner::goOn(int jump)
+{
+    reach(indexBehind(m_index, jump));
 }
 
 void ScenarioRunner::enter(int index)
@@ -92,8 +115,7 @@ void ScenarioRunner::reach(int index)
             Q_EMIT stepReached();
             return;
         }
-        const int target = step().jump == LessonWords::kNoJump ? -1 : m_scenario.indexOf(step().jump);
-        index = target < 0 ? m_index + 1 : target;
+        index = indexBehind(m_index, step().jump);
     }
     m_index = -1;
     Q_EMIT finished();

@@ -36,6 +36,9 @@ public:
     [[nodiscard]] int index() const { return m_index; }
     /// The present step. Only while running.
     [[nodiscard]] const Step &step() const { return m_scenario.step(m_index); }
+    /// The step that the button Next leads to from the present one; nullptr where it has no such button, and
+    /// from the last.
+    [[nodiscard]] const Step *stepBehind() const;
 
     void handle(const EditorEvent &event);
     /// The button Next.
@@ -46,6 +49,8 @@ public:
     void elapsed();
     /// The person asked to go on without doing what the step says.
     void skip();
+    /// The person has done stepBehind() already.
+    void runAhead();
 
 Q_SIGNALS:
     /// The present step changed. Not emitted for a step whose condition holds when it is reached.
@@ -56,6 +61,8 @@ Q_SIGNALS:
     void finished();
 
 private:
+    /// Index of the step that follows where a step says @p jump; behind the last one it is the size.
+    [[nodiscard]] int indexBehind(int index, int jump) const;
     void goOn(int jump);
     void reach(int index);
     void enter(int index);

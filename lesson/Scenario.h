@@ -29,6 +29,8 @@ struct Step
     {
         return x != LessonWords::kNoPosition || y != LessonWords::kNoPosition;
     }
+    /// What its arrow points at, in pixels from the same origin.
+    [[nodiscard]] QPoint spot() const { return QPoint(x, y) + LessonWords::kTip; }
 };
 
 /// A word in a step that nobody knows, so that the lesson cannot be played.

@@ -46,12 +46,8 @@ void StripControl::connectSession()
 
 void StripControl::connectStrip()
 {
-    // What a button beside the bubble sends is what the one in the strip stands for.
-    const auto receive = [this](const char *word) {
-        m_session->receive(QString::fromLatin1(word));
-    };
-    connect(m_strip, &LessonStrip::nextPressed, this, [receive] { receive("next"); });
-    connect(m_strip, &LessonStrip::answered, this, [receive](bool yes) { receive(yes ? "yes" : "no"); });
+    connect(m_strip, &LessonStrip::nextPressed, m_session, &LessonSession::next);
+    connect(m_strip, &LessonStrip::answered, m_session, &LessonSession::answer);
     connect(m_strip, &LessonStrip::backRequested, m_session, &LessonSession::back);
     connect(m_strip, &LessonStrip::helpRequested, m_session, &LessonSession::showMe);
     connect(m_strip, &LessonStrip::putBackRequested, m_session, &LessonSession::putBack);

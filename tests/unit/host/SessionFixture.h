@@ -12,6 +12,7 @@ class Played
 public:
     Played()
     {
+        session.setDoublePressMs(0);
         QObject::connect(&session, &LessonSession::sends, &editor, [this](QString command) {
             told.append(command.replace(QChar(1), QLatin1Char('|')));
         });

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void opensTheWindowAgainForTheSameRow();
     void aWindowThatCameUpInAnotherWayIsLeft();
     void opensAMenuAgainAtTheSameRow();
+    void namesTheRowOfTheLessonWhereNothingWasOpened();
     void aMenuAboveTheControlHasToGo();
     void bringsTheTabBackThatTheStepIsAbout();
     void doesNotMindWhatTheStepIsNotAbout();
@@ -51,6 +52,10 @@ private Q_SLOTS:
     void theDataArePutBackAfterAWrongMove();
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
+    void whatIsGoneIsPutBack();
+    void whatWentWrongEarlierIsPutBack();
+    void whatIsGoneFromTheStartLeadsNowhere();
+    void anotherProjectCountsWhereTheStepPointsNowhere();
     void isNotAstrayWhereTheStepPointsNowhere();
     void saysNothingOfWhatHappensWithinOneTurn();
     void theStepIsToldAnewInPlaceOfNext();
@@ -181,6 +186,25 @@ void tst_BackOnTrack::opensAMenuAgainAtTheSameRow()
     played.turn();
     QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 3));
     QCOMPARE(played.session.wayBack()->icon, str("rightClick"));
+}
+
+void tst_BackOnTrack::namesTheRowOfTheLessonWhereNothingWasOpened()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 3));
+    // The person had a menu open before, of another row.
+    played.use("MainWindow", "maps", 0);
+    played.play({Played::item(1, "MainWindow", "popup,MapPopup", "rightClick"),
+                 Played::item(2, "Menu", "windowState,MapProperties,open")});
+    played.editor.popUp(str("MapPopup"));
+    played.editor.closeMenu();
+    played.turn();
+    QCOMPARE(played.id(), 1);
+    played.session.skipStep();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 3));
 }
 
 void tst_BackOnTrack::aMenuAboveTheControlHasToGo()
@@ -319,6 +343,89 @@ void tst_BackOnTrack::takesTheFilesOfALessonForItsOwn()
     QVERIFY(played.session.canPutBack());
     played.session.putBack();
     QCOMPARE(played.editor.m_data, str("the lesson's files"));
+}
+
+void tst_BackOnTrack::whatIsGoneIsPutBack()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "list,3"), QStringLiteral(R"("id":2)")});
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("a map less");
+    played.editor.m_hidden.append(row);
+    played.editor.report(str("action"), str("delete"));
+    QTRY_VERIFY(played.session.isAstray());
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.lastTold().contains(str("|put it back|")));
+    played.editor.m_hidden.clear();
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_BackOnTrack::whatWentWrongEarlierIsPutBack()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                 Played::item(3, "MainWindow", "click,"), Played::item(4, "MainWindow", "list,3"),
+                 QStringLiteral(R"("id":5)")});
+    const auto next = [&played] {
+        played.session.next();
+        played.turn();
+    };
+    next();
+    // Nobody who reads on is kept from it.
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("a map less");
+    played.editor.m_hidden.append(row);
+    played.editor.report(str("action"), str("delete"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    next();
+    next();
+    QCOMPARE(played.id(), 4);
+    QTRY_VERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    played.editor.m_hidden.clear();
+    played.session.putBack();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    next();
+    next();
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::whatIsGoneFromTheStartLeadsNowhere()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.editor.m_hidden.append(row);
+    played.play({Played::item(1, "MainWindow", "list,3"), QStringLiteral(R"("id":2)")});
+    played.turn();
+    played.turn();
+    // There is nothing to put back.
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::anotherProjectCountsWhereTheStepPointsNowhere()
+{
+    Played played;
+    played.play({QStringLiteral(R"("id":1,"x":-9999,"y":-9999,"windowKey":"","condition":"click,")"),
+                 QStringLiteral(R"("id":2)")});
+    played.editor.m_project = str("/games/other");
+    played.use("MainWindow", "open");
+    played.editor.report(str("action"), str("fileOpen"));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    QVERIFY(!played.session.isAstray());
 }
 
 void tst_BackOnTrack::isNotAstrayWhereTheStepPointsNowhere()

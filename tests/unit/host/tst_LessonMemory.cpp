@@ -25,7 +25,11 @@ private Q_SLOTS:
     void skippingDoesTheStep();
     void skippingGoesOnWhereNothingCanBeDone();
     void skippingAStepThatWaitsForNextPressesNext();
+    void passesOverStepsThatPassByThemselves();
+    void saysWhenAStateIsLost();
     void resumesWhereALessonWasLeft();
+    void goesBackBehindTheStepAtWhichItWasResumed();
+    void passesOverStepsThatAreNoMoreInTheLesson();
     void resumesKnowingHowTheWindowsCameUp();
     void beginsAgainWhenTheStateIsGone();
     void theBookmarkOutlivesTheCompanionAndNotTheLesson();
@@ -75,6 +79,38 @@ void tst_LessonMemory::goesBackStepByStepAndForthAgain()
     QCOMPARE(played.id(), 1);
     QVERIFY(!played.session.canGoBack());
     played.session.back();
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_LessonMemory::passesOverStepsThatPassByThemselves()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1"), Played::item(2, "MainWindow", "list,2", "wait"),
+                 Played::item(3, "MainWindow", "wait,20", "wait"), Played::item(4, "MainWindow", "click,")});
+    played.editor.report(str("list"), str("1"));
+    played.editor.report(str("list"), str("2"));
+    QTRY_COMPARE(played.id(), 4);
+    played.session.back();
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_LessonMemory::saysWhenAStateIsLost()
+{
+    Played played;
+    QSignalSpy lost(&played.session, &LessonSession::stateLost);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "list,1"),
+                 Played::item(3, "MainWindow", "click,")});
+    played.session.receive(str("next"));
+    played.turn();
+    played.editor.m_project = str("/games/other");
+    played.editor.report(str("list"), str("7"));
+    played.turn();
+    QVERIFY(played.session.canPutBack());
+    played.editor.m_canRestore = false;
+    played.session.putBack();
+    QCOMPARE(lost.size(), 1);
+    played.session.back();
+    QCOMPARE(lost.size(), 2);
     QCOMPARE(played.id(), 1);
 }
 
@@ -211,13 +247,65 @@ void tst_LessonMemory::resumesWhereALessonWasLeft()
     QCOMPARE(second.editor.m_data, str("drawn on"));
     QVERIFY(!second.session.isAstray());
     QCOMPARE(second.session.bookmark(), bookmark);
-    // What came before is known, though not how things were then.
+    // What came before is known, too.
     QVERIFY(second.session.canGoBack());
     second.session.back();
     QCOMPARE(second.id(), 1);
+    QCOMPARE(second.editor.m_data, str("as it was"));
     // The next time it begins at the first step again.
     second.session.request(str("TutorialStep1"));
     second.play(items);
+    QCOMPARE(second.id(), 1);
+}
+
+void tst_LessonMemory::goesBackBehindTheStepAtWhichItWasResumed()
+{
+    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                            Played::item(3, "MainWindow", "click,"), Played::item(4, "MainWindow", "click,")};
+    // One run for each step, and all of it back in the last.
+    QJsonObject bookmark;
+    for (int run = 1; run <= 3; ++run) {
+        Played played;
+        if (bookmark.isEmpty()) {
+            played.session.request(str("TutorialStep1"));
+        } else {
+            played.session.resume(bookmark);
+        }
+        played.play(items);
+        QCOMPARE(played.id(), run);
+        played.editor.m_data = QStringLiteral("of step %1").arg(run + 1);
+        played.session.receive(str("next"));
+        played.turn();
+        bookmark = QJsonDocument::fromJson(QJsonDocument(played.session.bookmark()).toJson()).object();
+    }
+    Played last;
+    last.session.resume(bookmark);
+    last.play(items);
+    QCOMPARE(last.id(), 4);
+    for (const char *data : {"of step 3", "of step 2", "as it was"}) {
+        last.session.back();
+        last.turn();
+        QCOMPARE(last.editor.m_data, str(data));
+    }
+    QCOMPARE(last.id(), 1);
+    QVERIFY(!last.session.canGoBack());
+}
+
+void tst_LessonMemory::passesOverStepsThatAreNoMoreInTheLesson()
+{
+    Played first;
+    first.session.request(str("TutorialStep1"));
+    first.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                Played::item(3, "MainWindow", "click,")});
+    for (int step = 0; step < 2; ++step) {
+        first.session.receive(str("next"));
+        first.turn();
+    }
+    Played second;
+    second.session.resume(first.session.bookmark());
+    second.play({Played::item(1, "MainWindow", "click,"), Played::item(3, "MainWindow", "click,")});
+    QCOMPARE(second.id(), 3);
+    second.session.back();
     QCOMPARE(second.id(), 1);
 }
 

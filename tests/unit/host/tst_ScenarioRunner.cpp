@@ -60,6 +60,9 @@ private Q_SLOTS:
     void passingGoesNotRoundForEver();
     void theCommandOfAPassedStepRuns();
     void goesToAStepAlsoWhereNothingIsLeftToDo();
+    void knowsTheStepBehindNext_data();
+    void knowsTheStepBehindNext();
+    void runsAheadOverTwoSteps();
     void skipsAnyStep_data();
     void skipsAnyStep();
     void stopsSilently();
@@ -380,6 +383,49 @@ void tst_ScenarioRunner::goesToAStepAlsoWhereNothingIsLeftToDo()
     QCOMPARE(reached.size(), 2);
     runner.goTo(77);
     QCOMPARE(runner.step().id, 1);
+}
+
+void tst_ScenarioRunner::knowsTheStepBehindNext_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<int>("behind");
+    QTest::newRow("next") << item(1, QStringLiteral("click,")) << 2;
+    QTest::newRow("a jump") << item(1, QStringLiteral("click,"), 3) << 3;
+    QTest::newRow("a jump to nowhere") << item(1, QStringLiteral("click,"), 9) << 2;
+    QTest::newRow("an event") << item(1, QStringLiteral("list,1")) << 0;
+    QTest::newRow("yes and no") << item(1, QStringLiteral("yesNo"), 2, 3) << 0;
+}
+
+void tst_ScenarioRunner::knowsTheStepBehindNext()
+{
+    QFETCH(QString, first);
+    ScenarioRunner runner([] { return QStringList(); });
+    QVERIFY(runner.stepBehind() == nullptr);
+    runner.start(scenarioOf({first, item(2, QStringLiteral("list,1")), item(3, QStringLiteral("list,1"))}),
+                 1);
+    const Step *const behind = runner.stepBehind();
+    QTEST(behind != nullptr ? behind->id : 0, "behind");
+    runner.start(scenarioOf({item(1, QStringLiteral("click,"))}), 1);
+    QVERIFY(runner.stepBehind() == nullptr);
+}
+
+void tst_ScenarioRunner::runsAheadOverTwoSteps()
+{
+    ScenarioRunner runner([] { return QStringList(); });
+    QSignalSpy reached(&runner, &ScenarioRunner::stepReached);
+    QSignalSpy finished(&runner, &ScenarioRunner::finished);
+    runner.start(scenarioOf({item(1, QStringLiteral("click,")), item(2, QStringLiteral("list,1")),
+                             item(3, QStringLiteral("list,1")), item(4, QStringLiteral("click,")),
+                             item(5, QStringLiteral("list,1"))}),
+                 1);
+    runner.runAhead();
+    QCOMPARE(runner.step().id, 3);
+    QCOMPARE(reached.size(), 2);
+    runner.runAhead(); // this one does not wait for Next
+    QCOMPARE(runner.step().id, 3);
+    runner.skip();
+    runner.runAhead();
+    QCOMPARE(finished.size(), 1);
 }
 
 void tst_ScenarioRunner::skipsAnyStep_data()

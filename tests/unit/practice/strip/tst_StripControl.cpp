@@ -118,11 +118,11 @@ void tst_StripControl::showsEachStep()
     QCOMPARE(m_strip->findChild<QProgressBar *>()->text(), QStringLiteral("1 of 4"));
     QCOMPARE(text(), QStringLiteral("Read"));
     QVERIFY(button("nextButton")->isEnabled());
-    m_lessons->m_session.receive(QStringLiteral("next"));
+    m_lessons->m_session.next();
     QCOMPARE(text(), QStringLiteral("Well?"));
     QVERIFY(button("yesButton")->isVisible() && button("noButton")->isVisible());
     QVERIFY(!button("nextButton")->isVisible());
-    m_lessons->m_session.receive(QStringLiteral("no"));
+    m_lessons->m_session.answer(false);
     QCOMPARE(text(), QStringLiteral("Press, drag"));
     QVERIFY(!button("nextButton")->isEnabled());
     QVERIFY(m_strip->findChild<QLabel *>(QStringLiteral("dragPicture"))->isVisible());
@@ -175,7 +175,7 @@ void tst_StripControl::helpIsOfferedUntilTheStepIsDone()
     QVERIFY(!button("helpButton")->isVisible());
     Q_EMIT m_lessons->m_session.helpOffered();
     QVERIFY(button("helpButton")->isVisible());
-    m_lessons->m_session.receive(QStringLiteral("next"));
+    m_lessons->m_session.next();
     QVERIFY(!button("helpButton")->isVisible());
 }
 

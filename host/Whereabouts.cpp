@@ -1,0 +1,151 @@
+#include "host/Whereabouts.h"
+
+#include "host/HostEditor.h"
+#include "host/WayBack.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// The windows without the menu that may be open above them.
+OpenWindows withoutMenu(const OpenWindows &open)
+{
+    return !open.isEmpty() && open.constLast().isMenu ? open.mid(0, open.size() - 1) : open;
+}
+
+bool areAlike(const OpenWindows &one, const OpenWindows &another)
+{
+    return std::equal(one.cbegin(), one.cend(), another.cbegin(), another.cend(),
+                      [](const OpenWindow &a, const OpenWindow &b) { return a.isLike(b); });
+}
+
+} // namespace
+
+Whereabouts::Whereabouts(const HostEditor *editor, const StepNeeds *needs, OpenWindows open)
+    : m_editor(editor)
+    , m_needs(needs)
+    , m_open(std::move(open))
+{
+}
+
+bool Whereabouts::isThere(const OpenWindows &open) const
+{
+    const QString needed = m_editor->windowOf(m_needs->step.windowKey);
+    if (needed.isEmpty() || open.isEmpty()) {
+        return needed.isEmpty();
+    }
+    const OpenWindows &begun = m_needs->start.open;
+    if (needed == QLatin1String("Popup")) {
+        const OpenWindow &top = open.constLast();
+        const bool isKnown = !begun.isEmpty() && begun.constLast().isMenu;
+        return top.isMenu && (!isKnown || areAlike(open, begun));
+    }
+    const OpenWindows windows = withoutMenu(open);
+    const OpenWindows begunWindows = withoutMenu(begun);
+    // Where the step's window was not on top from the start, it has to get there in any way.
+    const bool isKnown = !begunWindows.isEmpty() && begunWindows.constLast().name == needed;
+    return isKnown ? areAlike(windows, begunWindows)
+                   : !windows.isEmpty() && windows.constLast().name == needed;
+}
+
+bool Whereabouts::hasOtherMeaning() const
+{
+    if (!m_needs->pointed || m_needs->start.meaning.isEmpty()) {
+        return false;
+    }
+    const QString meaning = m_editor->meaningOf(*m_needs->pointed);
+    return !meaning.isEmpty() && meaning != m_needs->start.meaning;
+}
+
+Stray Whereabouts::stray() const
+{
+    if (!m_needs->start.project.isEmpty() && m_editor->projectId() != m_needs->start.project) {
+        return Stray::kProject;
+    }
+    if (!m_needs->step.hasPosition()) {
+        return Stray::kNot;
+    }
+    if (!isThere(m_open)) {
+        return Stray::kWindows;
+    }
+    if (hasOtherMeaning() && (wayToChosen() || m_editor->dataMark() != m_needs->start.dataMark)) {
+        return Stray::kMeaning;
+    }
+    if (!m_needs->pointed || m_editor->rectOf(*m_needs->pointed)) {
+        return Stray::kNot;
+    }
+    const bool isInMenu = m_editor->windowOf(m_needs->step.windowKey) == QLatin1String("Popup");
+    const bool hasMenu = !m_open.isEmpty() && m_open.constLast().isMenu;
+    return !isInMenu && hasMenu ? Stray::kCovered : Stray::kGone;
+}
+
+std::optional<Way> Whereabouts::wayBack(Stray stray) const
+{
+    switch (stray) {
+    case Stray::kWindows:
+        return wayToWindows();
+    case Stray::kMeaning:
+        return wayToChosen();
+    case Stray::kCovered: {
+        const WayBack search(m_editor->ways());
+        const OpenWindows below = withoutMenu(m_open);
+        return search.first(m_open, [&below](const OpenWindows &open) { return areAlike(open, below); });
+    }
+    case Stray::kNot:
+    case Stray::kProject:
+    case Stray::kGone:
+        break;
+    }
+    return {};
+}
+
+std::optional<Way> Whereabouts::wayToWindows() const
+{
+    const WayBack search(m_editor->ways());
+    std::optional<Way> way = search.first(m_open, [this](const OpenWindows &open) { return isThere(open); });
+    if (!way) {
+        return {};
+    }
+    if (way->by.part < 0) {
+        // Of a list it is the row with which it was done before.
+        way->by.part = openingOf(*way).part;
+    }
+    // What is hidden behind another tab is out of reach until that is in front again.
+    const std::optional<Way> chosen = m_editor->rectOf(way->by) ? std::nullopt : wayToChosen();
+    return chosen ? chosen : way;
+}
+
+ControlSpot Whereabouts::openingOf(const Way &way) const
+{
+    QVector<ControlSpot> openings;
+    for (const OpenWindow &window : m_needs->start.open) {
+        if (window.name == way.windowKey) {
+            openings.append(window.cause);
+        } else if (window.cause.control.startsWith(way.windowKey + QLatin1Char('/'))) {
+            openings.append(window.menuCause);
+        }
+    }
+    openings.append(m_needs->earlier.openingOf(way.windowKey));
+    openings.append(m_needs->start.lastCauses.value(way.windowKey));
+    const auto found = std::find_if(openings.cbegin(), openings.cend(), [&way](const ControlSpot &spot) {
+        return spot.isSameControl(way.by) && spot.part >= 0;
+    });
+    return found != openings.cend() ? *found : ControlSpot();
+}
+
+std::optional<Way> Whereabouts::wayToChosen() const
+{
+    const QVector<ControlSpot> now = m_editor->chosen();
+    for (const ControlSpot &spot : m_needs->start.chosen) {
+        if (!now.contains(spot) && m_editor->rectOf(spot)) {
+            return Way{spot,
+                       QStringLiteral("click"),
+                       m_editor->windowOf(spot.windowKey),
+                       Way::Does::kShows,
+                       QString(),
+                       false};
+        }
+    }
+    return {};
+}

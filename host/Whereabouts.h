@@ -1,0 +1,60 @@
+#pragma once
+
+#include "host/EarlierSteps.h"
+#include "host/StepStart.h"
+#include "host/Way.h"
+
+#include <optional>
+
+class HostEditor;
+
+/// In what a person has strayed from a step.
+enum class Stray {
+    kNot,
+    /// Other windows are open than the step needs, or they came up in another way.
+    kWindows,
+    /// What the step points at means something else.
+    kMeaning,
+    /// A context menu lies over it.
+    kCovered,
+    /// Another project is open.
+    kProject,
+    /// What it points at is not there, though all else is.
+    kGone,
+};
+
+/// What a step needs to be there to go on.
+struct StepNeeds
+{
+    Step step;
+    /// The control, row, tab or cell that its position names.
+    std::optional<ControlSpot> pointed;
+    /// What there was when it was reached.
+    StepStart start;
+    EarlierSteps earlier;
+};
+
+/// Where a person is, measured by what a step needs, and what leads back.
+class Whereabouts
+{
+public:
+    /// @p open: the windows that are open now, and how they came up. The others outlive this.
+    Whereabouts(const HostEditor *editor, const StepNeeds *needs, OpenWindows open);
+
+    [[nodiscard]] Stray stray() const;
+    /// What to use next to get back; nothing when no control leads there.
+    [[nodiscard]] std::optional<Way> wayBack(Stray stray) const;
+
+private:
+    [[nodiscard]] bool isThere(const OpenWindows &open) const;
+    [[nodiscard]] bool hasOtherMeaning() const;
+    [[nodiscard]] std::optional<Way> wayToWindows() const;
+    /// With what the window or menu that the way leads to was opened for the step; none where nobody knows.
+    [[nodiscard]] ControlSpot openingOf(const Way &way) const;
+    /// The first of what was chosen when the step began and is not now.
+    [[nodiscard]] std::optional<Way> wayToChosen() const;
+
+    const HostEditor *m_editor;
+    const StepNeeds *m_needs;
+    OpenWindows m_open;
+};
