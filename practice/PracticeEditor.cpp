@@ -127,6 +127,11 @@ void PracticeEditor::connectSession()
                        .arg(fault.item)
                        .arg(fault.word));
     });
+    connect(&m_session, &LessonSession::stateLost, this, [this] {
+        tellPerson(
+            tr("What there was when this step began cannot be brought back: the project in which you were "
+               "is gone or cannot be read. Start the lesson again."));
+    });
     connect(&m_session, &LessonSession::nextArrived, m_windows.get(), &EditorWindows::takeFocusBack);
     connect(&m_session, &LessonSession::nextArrived, m_testPlay.get(), &TestPlay::takeFocus);
     connect(&m_session, &LessonSession::lessonsListed, this, &PracticeEditor::onListed);
@@ -199,7 +204,7 @@ void PracticeEditor::onListed()
 void PracticeEditor::onLessonWanted()
 {
     m_session.stop();
-    closeDialogs();
+    m_windows->closeDialogs();
     if (m_link.isConnected()) {
         m_course.ask();
     } else {
@@ -237,14 +242,6 @@ void PracticeEditor::onLost(const QString &lastWords)
         }
     });
     box->open();
-}
-
-void PracticeEditor::closeDialogs()
-{
-    const QStringList open = m_windows->openWindows();
-    for (int i = open.size() - 1; i > 0; --i) {
-        m_windows->close(open.at(i));
-    }
 }
 
 void PracticeEditor::restartCompanion()

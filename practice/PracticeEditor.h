@@ -82,7 +82,6 @@ private:
     void onLost(const QString &lastWords);
     void restartCompanion();
     void tellPerson(const QString &text);
-    void closeDialogs();
     /// The keyboard goes to the window in which the person works.
     void returnFocus();
 

@@ -19,9 +19,8 @@ void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources,
     fields.add(QStringLiteral("newProject.name"), reader(&Form::name), writer(&Form::name, changed));
     fields.add(QStringLiteral("newProject.location"), reader(&Form::location),
                writer(&Form::location, changed));
-    fields.add(QStringLiteral("newProject.folder"), [this](const DataLayer & /*layer*/) {
-        return m_typed.name.isEmpty() ? QString() : ProjectFolder::freeName(location(), m_typed.name);
-    });
+    fields.add(QStringLiteral("newProject.folder"),
+               [this](const DataLayer & /*layer*/) { return folderInWords(); });
     commands.add(QStringLiteral("newProject.begin"), [this] { m_typed = m_accepted; });
     sources.add(QStringLiteral("projects"), [this](const DataLayer & /*layer*/) {
         QVector<Row> rows;
@@ -37,15 +36,43 @@ void NewProject::addTo(StateParts &states)
 {
     const QString name = QStringLiteral("name");
     const QString location = QStringLiteral("location");
+    const QString folder = QStringLiteral("folder");
     states.add(
         QStringLiteral("newProject"),
-        [this, name, location] {
-            return QJsonObject{{name, m_typed.name}, {location, m_typed.location}};
+        [this, name, location, folder] {
+            return QJsonObject{{name, m_typed.name}, {location, m_typed.location}, {folder, m_folder}};
         },
-        [this, name, location](const QJsonValue &value) {
+        [this, name, location, folder](const QJsonValue &value) {
             const QJsonObject typed = value.toObject();
             m_typed = {typed.value(name).toString(), typed.value(location).toString()};
+            m_folder = typed.value(folder).toString();
         });
+}
+
+bool NewProject::canBeMade() const
+{
+    return ProjectFolder::isName(m_typed.name) && ProjectFolder::isPlace(location());
+}
+
+QString NewProject::folderInWords() const
+{
+    if (m_typed.name.isEmpty()) {
+        return {};
+    }
+    if (!ProjectFolder::isName(m_typed.name)) {
+        //: Beside the name of a new project, which cannot be that of a folder.
+        return tr("Choose another name, without “/”.");
+    }
+    if (!ProjectFolder::isPlace(location())) {
+        //: Below the place of a new project; there is little room.
+        return tr("No folder can be made at this place.");
+    }
+    return ProjectFolder::freeName(location(), m_typed.name);
+}
+
+void NewProject::settle()
+{
+    m_folder = QDir(location()).absoluteFilePath(ProjectFolder::freeName(location(), m_typed.name));
 }
 
 void NewProject::setLocation(const QString &location)
@@ -59,6 +86,7 @@ void NewProject::accept()
 {
     acceptLocation();
     m_accepted = m_typed;
+    m_folder.clear();
 }
 
 void NewProject::acceptLocation()

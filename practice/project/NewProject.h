@@ -4,9 +4,13 @@
 #include "project/Fields.h"
 #include "project/StateParts.h"
 
+#include <QCoreApplication>
+
 /// What is typed into the dialog for a new project, and the projects there are in the place that it names.
 class NewProject
 {
+    Q_DECLARE_TR_FUNCTIONS(NewProject)
+
 public:
     /// @p name is offered for a project, @p location for the folder that holds all of them.
     NewProject(QString name, QString location);
@@ -20,7 +24,13 @@ public:
 
     /// Offers another folder.
     void setLocation(const QString &location);
-    /// What is typed now is offered the next time, the place with its full path.
+    /// Whether a project can be made of what is typed.
+    [[nodiscard]] bool canBeMade() const;
+    /// What is typed is the project to make; its folder is settled with this.
+    void settle();
+    /// Path of the folder that is settled; empty when there is none, or the project was made.
+    [[nodiscard]] QString folder() const { return m_folder; }
+    /// The project was made: what is typed now is offered the next time, the place with its full path.
     void accept();
     /// The same of the place alone.
     void acceptLocation();
@@ -31,6 +41,9 @@ public:
     [[nodiscard]] QString location() const;
 
 private:
+    /// The name of the folder that would be made, or why there can be none.
+    [[nodiscard]] QString folderInWords() const;
+
     struct Form
     {
         QString name;
@@ -46,4 +59,5 @@ private:
     Form m_typed;
     /// What was typed when the dialog was accepted last.
     Form m_accepted;
+    QString m_folder;
 };

@@ -44,7 +44,16 @@ Project::Project(StartData start, const QString &location, QObject *parent)
 void Project::addOwnWords()
 {
     m_fields.add(QStringLiteral("status"), [this](const DataLayer & /*layer*/) { return status(); });
-    m_commands.add(QStringLiteral("newProject.accept"), [this] { m_files.close(); });
+    m_commands.add(
+        QStringLiteral("newProject.accept"),
+        [this] {
+            m_files.close();
+            m_newProject.settle();
+        },
+        {},
+        [this](const DataLayer & /*layer*/, const QString & /*argument*/) {
+            return m_newProject.canBeMade();
+        });
     m_commands.add(QStringLiteral("newProject.create"), [this] { create(); });
     m_commands.add(QStringLiteral("project.open"), [this](DataLayer &layer) { openChosen(layer); });
     m_commands.add(QStringLiteral("project.save"), [this] { save(); });
@@ -117,10 +126,15 @@ void Project::addTabs(const QString &name, const QString &field, const QStringLi
 
 void Project::create()
 {
-    m_newProject.accept();
     QString error;
+    // A project that is there already was made by this very window, which has come back with an earlier
+    // state.
+    const QString settled = m_newProject.folder();
     const std::optional<QString> folder =
-        ProjectFolder::create(m_newProject.location(), m_newProject.name(), m_start.files(), &error);
+        !settled.isEmpty() && ProjectFolder::isProject(settled)
+            ? settled
+            : ProjectFolder::create(m_newProject.location(), m_newProject.name(), m_start.files(), &error);
+    m_newProject.accept();
     if (!folder || !m_files.open(*folder, &error)) {
         m_files.takeBack();
         Q_EMIT failed(error);

@@ -30,7 +30,7 @@ bool isTaken(const QString &path)
 std::optional<QString> ProjectFolder::create(const QString &location, const QString &name,
                                              const QMap<QString, QString> &files, QString *error)
 {
-    if (!staysInside(name) || name.contains(QLatin1Char('/'))) {
+    if (!isName(name)) {
         //: %1 is the name that the person gave a new project.
         *error = tr("A project cannot have the name “%1”: its folder is named "
                     "after it. Choose another name, without “/”.")
@@ -66,6 +66,20 @@ std::optional<QString> ProjectFolder::create(const QString &location, const QStr
     return path;
 }
 
+bool ProjectFolder::isName(const QString &name)
+{
+    return staysInside(name) && !name.contains(QLatin1Char('/'));
+}
+
+bool ProjectFolder::isPlace(const QString &location)
+{
+    QFileInfo place(QDir(location).absolutePath());
+    while (!isTaken(place.filePath()) && !place.isRoot()) {
+        place.setFile(place.path());
+    }
+    return place.isDir() && place.isWritable();
+}
+
 QString ProjectFolder::freeName(const QString &location, const QString &name)
 {
     QString free = name;
@@ -75,6 +89,11 @@ QString ProjectFolder::freeName(const QString &location, const QString &name)
     return free;
 }
 
+bool ProjectFolder::isProject(const QString &folder)
+{
+    return QFileInfo::exists(QDir(folder).filePath(QStringLiteral("data/MapInfos.json")));
+}
+
 QStringList ProjectFolder::projectsIn(const QString &location)
 {
     const QDir place(location);
@@ -82,7 +101,7 @@ QStringList ProjectFolder::projectsIn(const QString &location)
     const QStringList folders =
         place.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString &folder : folders) {
-        if (QFileInfo::exists(place.filePath(folder + QStringLiteral("/data/MapInfos.json")))) {
+        if (isProject(place.filePath(folder))) {
             projects.append(folder);
         }
     }

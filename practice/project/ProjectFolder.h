@@ -21,9 +21,17 @@ public:
     [[nodiscard]] static std::optional<QString> create(const QString &location, const QString &name,
                                                        const QMap<QString, QString> &files, QString *error);
 
+    /// Whether a project can have the name, which is that of its folder, too.
+    [[nodiscard]] static bool isName(const QString &name);
+    /// Whether folders can be made in @p location, which need not exist yet.
+    [[nodiscard]] static bool isPlace(const QString &location);
+
     /// The name that a new folder @p name gets in @p location: with a number behind it where there is one
     /// already.
     [[nodiscard]] static QString freeName(const QString &location, const QString &name);
+
+    /// Whether the folder holds a project.
+    [[nodiscard]] static bool isProject(const QString &folder);
 
     /// Names of the folders in @p location that hold a project, in alphabetical order.
     [[nodiscard]] static QStringList projectsIn(const QString &location);

@@ -574,6 +574,19 @@
     </message>
 </context>
 <context>
+    <name>NewProject</name>
+    <message>
+        <source>Choose another name, without “/”.</source>
+        <extracomment>Beside the name of a new project, which cannot be that of a folder.</extracomment>
+        <translation>「/」を含まない名前にしてください。</translation>
+    </message>
+    <message>
+        <source>No folder can be made at this place.</source>
+        <extracomment>Below the place of a new project; there is little room.</extracomment>
+        <translation>この場所にはフォルダーを作れません。</translation>
+    </message>
+</context>
+<context>
     <name>PracticeEditor</name>
     <message>
         <source>Restart</source>
@@ -619,6 +632,10 @@
     <message>
         <source>Restart it? The lesson goes on at the step where you are.</source>
         <translation>もう一度起動しますか？レッスンは今の手順から続きます。</translation>
+    </message>
+    <message>
+        <source>What there was when this step began cannot be brought back: the project in which you were is gone or cannot be read. Start the lesson again.</source>
+        <translation>この手順を始めたときの状態に戻せません。作業していたプロジェクトがなくなったか、読み込めません。レッスンを最初からやり直してください。</translation>
     </message>
 </context>
 <context>
@@ -938,6 +955,231 @@
     <message>
         <source>Nothing</source>
         <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>TestPlay</name>
+    <message>
+        <source>The file is missing; its entries are not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no list of entries; they are not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is missing or no object: party and start are not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The game starts on map %1, and there is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The game starts at %1, %2, outside of its map; it starts at its edge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The party has nobody in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actor %1 of the party is not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map has %1 x %2 cells; a side has to have 1 to %3. Nobody can go there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a place in the project, and what is wrong</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no saved game that can be read here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The game was saved on map %1 at %2, %3, and the project has no such place any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project was changed since this game was saved: some things may not fit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This begins by itself again and again, so the player can do nothing. Let it turn on a switch that another page waits for, or erase the event.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to choose from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>G</source>
+        <comment>the currency</comment>
+        <translation type="unfinished">G</translation>
+    </message>
+    <message>
+        <source>There is no state %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is now at level %2!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no skill %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no weapon %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no armor %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The party has nothing of that kind to wear; nothing is changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot be put in during a battle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no troop %1; nobody fights.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A battle cannot begin here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no enemy outside of a battle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no enemy %1 in this battle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody there can do this now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no actor %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no condition %1; it does not hold.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no common event %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variable %1 is divided by 0; it stays what it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only an event on a map has self switches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no switch or variable %1; the numbers go from 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no item %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no picture %1; the numbers go from 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture %1 is not shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be done during a battle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no map %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map %1 has no cell %2, %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A route that repeats has no end to wait for; the event goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no animation %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no balloon %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop offers something that is not in the database: number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 commands were done without a wait: is this a loop without an end? It goes on, slowly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command %1; it is passed by.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The route has not got on for %1 seconds: something is in the way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This event is not on the map.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no event %1 on the map.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A loop ends here that has not begun.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no loop to be left here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no label “%1” in this list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 common events call one another: does one call itself? This call is passed by.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

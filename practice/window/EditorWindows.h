@@ -22,6 +22,14 @@ public:
 
     /// Closes the window if it is open.
     virtual void close(const QString &windowKey) = 0;
+    /// Closes all but the main window.
+    void closeDialogs()
+    {
+        const QStringList open = openWindows();
+        for (int i = open.size() - 1; i > 0; --i) {
+            close(open.at(i));
+        }
+    }
 
     /// Takes @p strip over and shows it in the main window, below the contents, as wide as they are and as
     /// high as its size hint. It stays of use while a dialog is open.

@@ -10,30 +10,15 @@
 
 namespace {
 
-QString projectMember()
-{
-    return QStringLiteral("project");
-}
-QString partsMember()
-{
-    return QStringLiteral("parts");
-}
-QString windowsMember()
-{
-    return QStringLiteral("windows");
-}
-QString popupMember()
-{
-    return QStringLiteral("popup");
-}
-QString keyMember()
-{
-    return QStringLiteral("key");
-}
-QString layerMember()
-{
-    return QStringLiteral("layer");
-}
+// The members of a state, of a window in it, and of the open menu.
+const QLatin1String kProject("project");
+const QLatin1String kParts("parts");
+const QLatin1String kWindows("windows");
+const QLatin1String kPopup("popup");
+const QLatin1String kKey("key");
+const QLatin1String kLayer("layer");
+const QLatin1String kX("x");
+const QLatin1String kY("y");
 
 } // namespace
 
@@ -47,57 +32,52 @@ StateKeeper::StateKeeper(EditorWindows *windows, const EditorView &view,
 
 EditorState StateKeeper::state() const
 {
-    QJsonObject state{{projectMember(), ProjectState::save(*m_view.project)},
-                      {partsMember(), m_view.project->states().save()}};
+    QJsonObject state{{kProject, ProjectState::save(*m_view.project)},
+                      {kParts, m_view.project->states().save()}};
     QJsonArray windows;
     for (const QString &key : *m_view.stack) {
-        QJsonObject window{{keyMember(), key}};
+        QJsonObject window{{kKey, key}};
         if ((*m_view.descriptions)[key].isDraft) {
-            window.insert(layerMember(), m_view.window(key)->layer().saveSelf());
+            window.insert(kLayer, m_view.window(key)->layer().saveSelf());
         }
         windows.append(window);
     }
-    state.insert(windowsMember(), windows);
+    state.insert(kWindows, windows);
     if (const EditorWindow *const popup = m_view.popup()) {
-        const QPoint at = popup->mapToGlobal(QPoint());
-        state.insert(popupMember(), QJsonObject{{keyMember(), popup->key()},
-                                                {QStringLiteral("x"), at.x()},
-                                                {QStringLiteral("y"), at.y()}});
+        const QPoint at = popup->mapToGlobal(QPoint()) - mainCorner();
+        state.insert(kPopup, QJsonObject{{kKey, popup->key()}, {kX, at.x()}, {kY, at.y()}});
     }
     return EditorState::fromJson(state);
 }
 
 bool StateKeeper::restore(const EditorState &state) const
 {
-    closeDialogs();
+    m_windows->closeDialogs();
     const QJsonObject json = state.toJson();
-    if (!ProjectState::restore(json.value(projectMember()).toObject(), *m_view.project)) {
+    if (!ProjectState::restore(json.value(kProject).toObject(), *m_view.project)) {
         return false;
     }
-    m_view.project->states().load(json.value(partsMember()).toObject());
-    const QJsonArray windows = json.value(windowsMember()).toArray();
+    m_view.project->states().load(json.value(kParts).toObject());
+    const QJsonArray windows = json.value(kWindows).toArray();
     for (const QJsonValue &value : windows) {
         const QJsonObject window = value.toObject();
-        const QString key = window.value(keyMember()).toString();
+        const QString key = window.value(kKey).toString();
         if (!m_view.stack->contains(key)) {
             m_windows->open(key);
         }
-        if (window.contains(layerMember()) && m_view.stack->contains(key)) {
-            m_view.window(key)->layer().loadSelf(window.value(layerMember()).toObject());
+        if (window.contains(kLayer) && m_view.stack->contains(key)) {
+            m_view.window(key)->layer().loadSelf(window.value(kLayer).toObject());
         }
     }
-    const QJsonObject popup = json.value(popupMember()).toObject();
+    const QJsonObject popup = json.value(kPopup).toObject();
     if (!popup.isEmpty()) {
-        m_popUp(popup.value(keyMember()).toString(),
-                {popup.value(QLatin1String("x")).toInt(), popup.value(QLatin1String("y")).toInt()});
+        m_popUp(popup.value(kKey).toString(),
+                mainCorner() + QPoint(popup.value(kX).toInt(), popup.value(kY).toInt()));
     }
     return true;
 }
 
-void StateKeeper::closeDialogs() const
+QPoint StateKeeper::mainCorner() const
 {
-    const QStringList open = m_windows->openWindows();
-    for (int i = open.size() - 1; i > 0; --i) {
-        m_windows->close(open.at(i));
-    }
+    return m_view.window(m_view.stack->constFirst())->mapToGlobal(QPoint());
 }

@@ -20,7 +20,8 @@ public:
     bool restore(const EditorState &state) const;
 
 private:
-    void closeDialogs() const;
+    /// Where the main window's contents begin on the screen; menus stand where they stood in it.
+    [[nodiscard]] QPoint mainCorner() const;
 
     EditorWindows *m_windows;
     EditorView m_view;

@@ -16,7 +16,9 @@ private Q_SLOTS:
     void createWritesTheStartFilesAndOpensThem();
     void startFilesAreThoseOfTheSampleProject();
     void aNameThatIsTakenGetsANumber();
+    void whatIsBeingMadeIsMadeOnce();
     void aNameThatIsNoneIsRefused();
+    void whatCannotBeMadeIsKnownBefore();
     void aProjectThatCannotBeMadeLeavesWhatWasOpen();
     void aDroppedNameIsOfferedNoMore();
     void everyCommandIsSafeWithNoProject();
@@ -114,6 +116,34 @@ void tst_Project::aNameThatIsTakenGetsANumber()
     QCOMPARE(room.texts("projects"), (QStringList{str("Quest"), str("Quest (2)")}));
 }
 
+void tst_Project::whatIsBeingMadeIsMadeOnce()
+{
+    ProjectRoom room;
+    const QString games = room.path(str("games"));
+    room.setField("newProject.location", games);
+    room.setField("newProject.name", str("Quest"));
+    room.run("newProject.accept");
+    const QJsonObject beingMade = room.project.states().save();
+    room.run("newProject.create");
+    // The window that makes it comes back with the state of then, in this run or another.
+    room.project.files().close();
+    room.project.states().load(beingMade);
+    room.run("newProject.create");
+    QCOMPARE(room.project.name(), str("Quest"));
+    QCOMPARE(QDir(games).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{str("Quest")});
+    // One that is gone is made again.
+    QVERIFY(QDir(games + str("/Quest")).removeRecursively());
+    room.project.states().load(beingMade);
+    room.run("newProject.create");
+    QCOMPARE(room.project.name(), str("Quest"));
+    QCOMPARE(room.texts("maps").size(), 4);
+    // And whoever asks for another one gets another one.
+    room.run("newProject.accept");
+    room.run("newProject.create");
+    QCOMPARE(room.project.name(), str("Quest (2)"));
+    QCOMPARE(room.failures, QStringList());
+}
+
 void tst_Project::aNameThatIsNoneIsRefused()
 {
     ProjectRoom room;
@@ -123,6 +153,30 @@ void tst_Project::aNameThatIsNoneIsRefused()
     QVERIFY2(room.failures.constFirst().contains(str("a/b")), qPrintable(room.failures.constFirst()));
     QVERIFY(!room.project.isOpen());
     QVERIFY(created.isEmpty());
+}
+
+void tst_Project::whatCannotBeMadeIsKnownBefore()
+{
+    ProjectRoom room;
+    const auto canBeMade = [&room](const char *name, const QString &location) {
+        room.setField("newProject.name", str(name));
+        room.setField("newProject.location", location);
+        return room.project.commands().canRun(str("newProject.accept"), room.layer());
+    };
+    const QString games = room.path(str("games/of/mine"));
+    QVERIFY(canBeMade("Quest", games));
+    QCOMPARE(room.field("newProject.folder").toString(), str("Quest"));
+    for (const char *name : {"a/b", "..", "/"}) {
+        QVERIFY2(!canBeMade(name, games), name);
+        QCOMPARE(room.field("newProject.folder").toString(), str("Choose another name, without “/”."));
+    }
+    QVERIFY(!canBeMade("", games));
+    // A file is no place for a folder.
+    QFile file(room.path(str("file")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(!canBeMade("Quest", file.fileName()));
+    QVERIFY(!canBeMade("Quest", file.fileName() + str("/games")));
+    QCOMPARE(room.field("newProject.folder").toString(), str("No folder can be made at this place."));
 }
 
 void tst_Project::aProjectThatCannotBeMadeLeavesWhatWasOpen()

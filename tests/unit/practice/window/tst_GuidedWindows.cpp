@@ -3,6 +3,7 @@
 #include "lesson/LessonWords.h"
 #include "lesson/Scenario.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QLineEdit>
 
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void usesControlsAsAPersonDoes();
     void bringsBackWindowsAndWhatWasTyped();
     void bringsBackAContextMenu();
+    void bringsBackTheCopyingOfOneProject();
     void saysWhatLeadsBack();
     void aSecondPressBehindNextIsSwallowed();
     void theWindowOnTopGetsTheFocusBack();
@@ -311,11 +313,35 @@ void tst_GuidedWindows::bringsBackAContextMenu()
     const EditorState state = editor->state();
     QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 0)));
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    // It belongs to the main window, wherever that is now.
+    const QPoint moved(20, 0);
+    editor.frame()->move(editor.frame()->pos() + moved);
     QVERIFY(editor->restore(state));
     QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Popup")}));
-    QCOMPARE(editor->origin(str("Menu")), corner);
+    QCOMPARE(editor->origin(str("Menu")), corner + moved);
     QVERIFY(use(editor, spot("Menu", "MapPopup/mapProperties")));
     QCOMPARE(editor.find<QLineEdit>("MapProperties", "name")->text(), editor.rows("maps").at(2).text);
+}
+
+void tst_GuidedWindows::bringsBackTheCopyingOfOneProject()
+{
+    Editor editor;
+    editor->open(str("MainWindow"));
+    QVERIFY(use(editor, spot("MainWindow", "fileNew")));
+    QVERIFY(use(editor, spot("NewProject", "name"), ControlUse::Kind::kType, "Quest"));
+    QVERIFY(use(editor, spot("NewProject", "ok")));
+    QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Copying")}));
+    const EditorState copying = EditorState::fromJson(editor->state().toJson());
+    const QString quest = QDir(editor.folder()).filePath(str("Quest"));
+    for (int time = 0; time < 2; ++time) {
+        QTRY_COMPARE(editor->projectFolder(), quest);
+        QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+        QCOMPARE(QDir(editor.folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList{str("Quest")});
+        QVERIFY(editor->restore(copying));
+        QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Copying")}));
+        QCOMPARE(editor->projectFolder(), QString());
+    }
 }
 
 void tst_GuidedWindows::saysWhatLeadsBack()
