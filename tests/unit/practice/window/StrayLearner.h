@@ -1,0 +1,262 @@
+#pragma once
+
+#include "EditorFixture.h"
+#include "author/ScenarioFile.h"
+#include "host/LessonSession.h"
+#include "project/LessonProject.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QRandomGenerator>
+
+/// A learner with a session of a lesson, whose scenario is a file on disk, in an editor of her own. The
+/// companion is played by this.
+class StrayLearner
+{
+    Editor m_editor;
+
+public:
+    /// @p games is where projects are made. What she draws by lot is drawn by @p seed.
+    StrayLearner(const QString &scenarioPath, quint32 seed, const QString &games)
+        : m_lesson(ScenarioFile(scenarioPath, str("en_US")).name())
+        , m_random(seed)
+    {
+        QStringList problems;
+        m_scenario = ScenarioFile(scenarioPath, str("en_US")).read(&problems);
+        if (m_scenario.isEmpty() || !problems.isEmpty()) {
+            qFatal("%s", qPrintable(problems.join(QLatin1Char('\n'))));
+        }
+        m_editor->setUnattended(true);
+        m_editor->setProjectsFolder(games);
+        m_editor->open(str("MainWindow"));
+        QObject::connect(&session, &LessonSession::sends, &session,
+                         [this](const QString &command) { answer(command); });
+        QObject::connect(&session, &LessonSession::finished, &session, [this] { m_hasFinished = true; });
+        connectProject();
+    }
+
+    LessonSession session{m_editor.operator->()};
+
+    /// Begins the lesson, or goes on with it where @p bookmark was set.
+    void begin(const QJsonObject &bookmark = {})
+    {
+        if (bookmark.isEmpty()) {
+            session.request(m_lesson);
+        } else {
+            session.resume(bookmark);
+        }
+        session.receive(str("start\u0001%1\u0001-1").arg(m_scenario));
+        turn();
+    }
+
+    static void turn()
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
+    [[nodiscard]] bool isPlaying() const { return session.runner().isRunning(); }
+    /// The lesson was played to its end.
+    [[nodiscard]] bool hasFinished() const { return m_hasFinished; }
+    [[nodiscard]] int id() const { return isPlaying() ? session.runner().step().id : -1; }
+    /// The step goes on by itself.
+    [[nodiscard]] bool isWaiting() const
+    {
+        return isPlaying() && session.runner().step().icon == str("wait");
+    }
+
+    /// Does what the step asks for; whether it is over then.
+    bool doStep()
+    {
+        const int before = id();
+        const Step step = session.runner().step();
+        const std::optional<ControlSpot> pointed = m_editor->controlAt(step.windowKey, step.spot());
+        if (step.condition.type() == Condition::Type::kNext) {
+            session.next();
+        } else if (step.condition.type() == Condition::Type::kYesNo) {
+            session.answer(true);
+        } else if (isWaiting()) {
+            return QTest::qWaitFor([this, before] { return id() != before; }, 5000);
+        } else if (!pointed || !m_editor->perform(ControlUse::of(step, *pointed))) {
+            return false;
+        }
+        turn();
+        return id() != before;
+    }
+
+    /// Anything at all that a person can do with mouse and keyboard.
+    void doAnything()
+    {
+        if (draw(12) == 0) {
+            pressEsc();
+            turn();
+            return;
+        }
+        const QVector<ControlSpot> spots = usableControls();
+        if (spots.isEmpty()) {
+            QTest::qWait(20);
+            return;
+        }
+        using Kind = ControlUse::Kind;
+        const QVector<Kind> kinds{Kind::kClick, Kind::kClick,      Kind::kClick, Kind::kDoubleClick,
+                                  Kind::kDrag,  Kind::kRightClick, Kind::kType};
+        ControlUse use{
+            spots.at(draw(int(spots.size()))), kinds.at(draw(int(kinds.size()))), {}, draw(3) == 0};
+        use.text = draw(2) == 0 ? QString() : str("stray");
+        m_editor->perform(use);
+        turn();
+    }
+
+    /// Does nothing but what the arrow, or the button to put things back, says, until the step can go on.
+    bool followsTheArrow()
+    {
+        for (int used = 0; used < kMostUses; ++used) {
+            turn();
+            if (!isPlaying() || !session.isAstray()) {
+                return true;
+            }
+            const std::optional<Way> way = session.wayBack();
+            if (way && way->by.control == ControlSpot::dismiss()) {
+                pressEsc();
+            } else if (way) {
+                m_editor->perform(ControlUse::of(*way));
+            } else if (session.canPutBack()) {
+                session.putBack();
+            } else {
+                QTest::qWait(100);
+            }
+            m_log.append(way ? way->icon + QLatin1Char(' ') + nameOf(way->by) : str("put back or wait"));
+        }
+        return false;
+    }
+
+    /// Follows the arrow up to a step that asks for something, and does that. Whatever has gone wrong may
+    /// have to be put back for it, which leads to a step before.
+    bool goesOn()
+    {
+        for (int attempt = 0; attempt < kMostAttempts && followsTheArrow(); ++attempt) {
+            if (!isPlaying()) {
+                return true;
+            }
+            const bool isToRead = session.runner().stepBehind() != nullptr;
+            if (doStep()) {
+                if (!isToRead) {
+                    return true;
+                }
+            } else if (!session.canPutBack()) {
+                return false;
+            } else {
+                session.putBack();
+                m_log.append(str("put back"));
+            }
+        }
+        return false;
+    }
+
+    /// What there is to see, for a message.
+    [[nodiscard]] QString state()
+    {
+        if (!isPlaying()) {
+            return str("at the end");
+        }
+        const Step step = session.runner().step();
+        const std::optional<ControlSpot> pointed = m_editor->controlAt(step.windowKey, step.spot());
+        return str("step %1 %2; open %3; points at %4, which %5; %6; last %7")
+            .arg(step.id)
+            .arg(step.conditionText, m_editor->openWindows().join(QLatin1Char(' ')),
+                 pointed ? nameOf(*pointed) : QString(),
+                 pointed && m_editor->rectOf(*pointed) ? str("shows") : str("is hidden"),
+                 session.isAstray() ? str("astray") : str("on track"),
+                 QStringList(m_editor.told.mid(qMax(0, int(m_editor.told.size()) - 12))).join(str("; ")));
+    }
+
+    /// What the arrow has said.
+    [[nodiscard]] QString log() const { return m_log.join(str("; ")); }
+
+private:
+    /// More uses of a control than any way back has.
+    static constexpr int kMostUses = 60;
+    /// More steps to read and to do again than lessons have in a row.
+    static constexpr int kMostAttempts = 60;
+
+    static QString nameOf(const ControlSpot &spot)
+    {
+        return str("%1.%2 %3").arg(spot.windowKey, spot.control, QString::number(spot.part));
+    }
+
+    int draw(int count) { return int(m_random.bounded(quint32(count))); }
+
+    void pressEsc()
+    {
+        const QString top = m_editor->openWindows().constLast();
+        QWidget *window = top == str("Popup") ? m_editor->window(str("MainWindow")) : m_editor->window(top);
+        QTest::keyClick(window, Qt::Key_Escape);
+    }
+
+    QVector<ControlSpot> usableControls()
+    {
+        QVector<ControlSpot> spots;
+        const QStringList keys = m_descriptions.keys();
+        for (const QString &key : keys) {
+            for (const ControlDescription &control : m_descriptions.controlsIn(key)) {
+                const QVector<int> parts{
+                    -1, 0, 1, 2, 3, 4, 5, ControlSpot::cell(4, 4), ControlSpot::cell(9, 7)};
+                const ControlSpot spot{key, control.name, parts.at(draw(int(parts.size())))};
+                if (m_editor->rectOf(spot)) {
+                    spots.append(spot);
+                }
+            }
+        }
+        return spots;
+    }
+
+    /// As PracticeEditor does it.
+    void connectProject()
+    {
+        EditorWindows *const windows = m_editor.operator->();
+        QObject::connect(&session, &LessonSession::started, &m_project, &LessonProject::drop);
+        QObject::connect(&session, &LessonSession::filesRequested, &m_project, &LessonProject::begin);
+        QObject::connect(&session, &LessonSession::filesReceived, &m_project, &LessonProject::takeFiles);
+        QObject::connect(windows, &EditorWindows::projectLeft, &m_project, &LessonProject::leaveProject);
+        QObject::connect(windows, &EditorWindows::projectCreated, &m_project, &LessonProject::takeProject);
+        QObject::connect(&m_project, &LessonProject::complete, windows,
+                         [this, windows](const LessonProject::Files &files) {
+                             if (windows->replaceFiles(files)) {
+                                 m_project.drop();
+                             }
+                         });
+    }
+
+    /// Gives the data files that are asked for. Their texts are numbers, as in the source files.
+    void answer(const QString &command)
+    {
+        const QStringList fields = command.split(QChar(1));
+        if (fields.constFirst() != str("requestPresetData")) {
+            return;
+        }
+        QJsonObject files;
+        const QDir data(str(TUTORIAL_SOURCE_DIR "/resource/preset/%1/data").arg(fields.value(1)));
+        const QStringList names = data.entryList(QDir::Files);
+        for (const QString &name : names) {
+            QFile file(data.filePath(name));
+            if (file.open(QIODevice::ReadOnly)) {
+                files.insert(str("data/") + name, QString::fromUtf8(file.readAll()));
+            }
+        }
+        const QString text = QString::fromUtf8(QJsonDocument(files).toJson(QJsonDocument::Compact));
+        QMetaObject::invokeMethod(
+            &session, [this, text] { session.receive(str("feedbackPresetData\u0001") + text); },
+            Qt::QueuedConnection);
+    }
+
+    DescriptionSet m_descriptions = [] {
+        QStringList errors;
+        return DescriptionSet::read(str(":/descriptions"), nullptr, &errors);
+    }();
+    QString m_lesson;
+    QString m_scenario;
+    LessonProject m_project;
+    QRandomGenerator m_random;
+    QStringList m_log;
+    bool m_hasFinished = false;
+};
