@@ -1,74 +1,19 @@
-#include "PracticeEditor.h"
-#include "XWindows.h"
-#include "lesson/Scenario.h"
-#include "pilot/ArrowSpot.h"
-#include "pilot/x11/XEye.h"
-#include "window/EditorWindowSet.h"
+#include "PracticeTest.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
-namespace {
-
-constexpr int kSoonMs = 30000;
-constexpr int kLooks = 100;
-
-/// A click of the real mouse at a place in a widget, as soon as the X server would give it to the widget's
-/// window: one that is only just shown, or still lies below a window on its way out, gets none.
-bool clickOn(const QWidget *widget, const QPoint &place, int button = 1)
-{
-    const QWidget *window = widget->window();
-    const auto onScreen = [widget, window, place] {
-        return XWindows::positionOf(window->winId()) + widget->mapTo(window, place);
-    };
-    if (!QTest::qWaitFor([&] { return XWindows::takesClick(window->winId(), onScreen()); }, kSoonMs)) {
-        return false;
-    }
-    XWindows::click(onScreen(), button);
-    return true;
-}
-
-bool clickOn(const QWidget *widget)
-{
-    return clickOn(widget, widget->rect().center());
-}
-
-template<typename Widget>
-Widget *find(const char *name)
-{
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (const QWidget *topLevel : topLevels) {
-        if (auto *widget = topLevel->findChild<Widget *>(QString::fromLatin1(name))) {
-            return widget;
-        }
-    }
-    qFatal("there is no %s", name);
-}
-
-/// What the lesson strip says; a control of a window may have the same name.
-const QLabel *stripText()
-{
-    return find<QWidget>("lessonStrip")->findChild<QLabel *>(QStringLiteral("textLabel"));
-}
-
-} // namespace
 
 /// What a learner may do beside the lesson, in real windows and with the real companion.
-class tst_PracticeWindows : public QObject
+class tst_PracticeWindows : public PracticeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
-    void cleanup();
 
     void theArrowFollowsTheMainWindow();
     void theOverlaysGoAndComeWithTheEditor();
@@ -79,120 +24,12 @@ private Q_SLOTS:
     void theOverlaysDoNotCoverTheListOfLessons();
     void aPopupIsAbandonedToTheCompanion();
     void theStripSaysWhatTheBubbleSays();
-
-private:
-    [[nodiscard]] SeenOverlays overlays() const;
-    /// Whether the bubble of a step without a place rests in the middle of the main window, beside its
-    /// button.
-    [[nodiscard]] bool isReadable() const;
-    /// Whether the arrow on the screen points at the spot of the present step.
-    [[nodiscard]] bool isPointing() const;
-    [[nodiscard]] int stepId() const;
-    [[nodiscard]] bool clickSpot() const;
-    /// The contents of the main window, and the window around them.
-    [[nodiscard]] QWidget *contents() const { return m_windows->window(QStringLiteral("MainWindow")); }
-    [[nodiscard]] QWidget *mainWindow() const { return contents()->window(); }
-    void openNewProject();
-
-    QTemporaryDir m_projects;
-    EditorWindowSet *m_windows = nullptr;
-    std::unique_ptr<PracticeEditor> m_editor;
-    std::unique_ptr<XEye> m_eye;
 };
-
-void tst_PracticeWindows::initTestCase()
-{
-    QString error;
-    const std::shared_ptr<const XConnection> x = XConnection::open(&error);
-    QVERIFY2(x != nullptr, qPrintable(error));
-    m_eye = std::make_unique<XEye>(x);
-}
 
 void tst_PracticeWindows::init()
 {
-    QStringList errors;
-    std::unique_ptr<EditorWindowSet> windows = EditorWindowSet::create(QStringLiteral("en_US"), &errors);
-    QVERIFY2(windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
-    m_windows = windows.get();
-    PracticeEditor::Options options;
-    options.lesson = 1;
-    options.locale = QStringLiteral("en_US");
-    options.companionProgram = QStringLiteral(TUTORIAL_PROGRAM);
-    options.projectsFolder = m_projects.path();
-    m_editor = std::make_unique<PracticeEditor>(options, std::move(windows));
-    connect(m_editor.get(), &PracticeEditor::companionConnected, this,
-            [this](qint64 pid) { m_eye->setCompanion(pid); });
-    QString error;
-    QVERIFY2(m_editor->start(&error), qPrintable(error));
-    QTRY_VERIFY_WITH_TIMEOUT(m_editor->session().runner().isRunning(), kSoonMs);
-    // The first two steps are read; the third asks for a click on "New". Until it rests, the bubble takes its
-    // button along, and a click would come too late for the place that was looked up.
-    QTRY_VERIFY_WITH_TIMEOUT(isReadable(), kSoonMs);
-}
-
-void tst_PracticeWindows::cleanup()
-{
-    m_editor.reset();
-}
-
-SeenOverlays tst_PracticeWindows::overlays() const
-{
-    // A look fails when a window of anyone's goes away under it.
-    std::optional<SeenOverlays> seen;
-    for (int look = 0; look < kLooks && !seen; ++look) {
-        seen = m_eye->overlays();
-    }
-    return seen.value_or(SeenOverlays());
-}
-
-bool tst_PracticeWindows::isReadable() const
-{
-    const SeenOverlays seen = overlays();
-    const QPoint middle = contents()->mapToGlobal(contents()->rect().center());
-    return seen.buttons.size() == 1 && seen.bubble &&
-           arrowSpot(seen.bubble->topLeft(), middle - LessonWords::kTip);
-}
-
-bool tst_PracticeWindows::isPointing() const
-{
-    const SeenOverlays seen = overlays();
-    const std::optional<QPoint> target = m_editor->session().bubbleTarget();
-    return seen.bubble && target && arrowSpot(seen.bubble->topLeft(), *target);
-}
-
-int tst_PracticeWindows::stepId() const
-{
-    return m_editor->session().runner().isRunning() ? m_editor->session().runner().step().id : -1;
-}
-
-/// Clicks what the arrow points at in the main window, once it does.
-bool tst_PracticeWindows::clickSpot() const
-{
-    std::optional<QPoint> spot;
-    const auto isReady = [this, &spot] {
-        const SeenOverlays seen = overlays();
-        const std::optional<QPoint> target = m_editor->session().bubbleTarget();
-        spot = seen.bubble && target ? arrowSpot(seen.bubble->topLeft(), *target) : std::nullopt;
-        return spot && XWindows::takesClick(mainWindow()->winId(), *spot);
-    };
-    if (!QTest::qWaitFor(isReady, kSoonMs)) {
-        return false;
-    }
-    XWindows::click(*spot);
-    return true;
-}
-
-/// Skips to the step at "New", and does it.
-void tst_PracticeWindows::openNewProject()
-{
-    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
-    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
-    QVERIFY(clickOn(find<QAbstractButton>("skipButton")));
-    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 3, kSoonMs);
-    QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
-    QVERIFY(clickSpot());
-    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
-    QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
+    start(options());
+    waitForTheLesson();
 }
 
 void tst_PracticeWindows::theArrowFollowsTheMainWindow()
