@@ -48,12 +48,16 @@ public:
     QRect screenRect() const override { return QApplication::primaryScreen()->geometry(); }
     QSize applicationSize() const override { return m_main.size(); }
 
+    void activateTop() { m_windows[openWindows().constLast()]->activateWindow(); }
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Move) {
             auto *window = static_cast<QWidget *>(watched);
             Q_EMIT moved(m_windows.key(window), window->mapToGlobal(QPoint()));
+        } else if (event->type() == QEvent::WindowStateChange && watched == &m_main) {
+            Q_EMIT visibilityChanged(!m_main.isMinimized());
         }
         return false;
     }
@@ -78,6 +82,14 @@ int main(int argc, char **argv)
     QObject::connect(&session, &LessonSession::stepReached, &session, [&] {
         qInfo("step %d of %d", session.runner().index() + 1, session.runner().scenario().size());
     });
+    // The companion's button has taken the focus: Enter is for the window on top again.
+    QObject::connect(&session, &LessonSession::nextArrived, &editor, &Editor::activateTop);
+    QObject::connect(&session, &LessonSession::refused, &session, [](const QString &lesson) {
+        qWarning("The companion does not have the lesson %s.", qPrintable(lesson));
+    });
+    QObject::connect(&session, &LessonSession::stopped, &session,
+                     [](const LessonFault &fault) { qWarning("%s", qPrintable(fault.message())); });
+    QObject::connect(&session, &LessonSession::finished, &session, [] { qInfo("The lesson is done."); });
     QObject::connect(&link, &HostLink::lost, &session, [&](const QString &lastWords) {
         session.abandon();
         qWarning("The companion is gone. Its last words were:\n%s", qPrintable(lastWords));
