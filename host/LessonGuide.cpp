@@ -175,6 +175,10 @@ void LessonGuide::endTurn()
     std::optional<Way> way = now.wayBack(stray);
     if (way && !m_editor->rectOf(way->by)) {
         m_editor->reveal(way->by);
+        const bool isGone = way->by.part >= 0 && !m_editor->rectOf(way->by);
+        if (isGone && !m_needs.start.state.isEmpty()) {
+            way.reset(); // a row that is not there leads nowhere, but it can be put back
+        }
     }
     const bool isNew = std::exchange(m_stray, stray) != stray;
     const bool isOther = std::exchange(m_way, way) != way;

@@ -18,7 +18,7 @@ struct Way
     };
 
     ControlSpot by;
-    /// How it is used: "click", "doubleClick" or "rightClick".
+    /// How it is used: "click", "doubleClick" or "rightClick"; "wait" for a window that closes by itself.
     QString icon;
     /// What has to be on top for the control to be used: a window key, or the name of a context menu.
     QString from;

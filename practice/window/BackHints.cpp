@@ -28,6 +28,9 @@ QString BackHints::hint(const Way &way, const Step &step) const
 
 QString BackHints::action(const Way &way) const
 {
+    if (way.icon == QLatin1String("wait")) {
+        return tr("Wait a moment: this window closes by itself.");
+    }
     if (way.by.control == ControlSpot::dismiss()) {
         return way.by.windowKey == m_view.descriptions->popupKey() ? tr("Press Esc: the menu closes.")
                                                                    : tr("Press Esc: this window closes.");

@@ -79,8 +79,10 @@ void EditorWays::addDismissals(const QString &key)
     for (const PopupDescription &popup : window.popups) {
         m_ways.append({by, how, popup.name, Does::kCloses, popup.name, false});
     }
-    const bool isDialog = window.kind == Kind::kWindow && key != WindowBuilder::mainKey();
-    if (isDialog && window.closesAfterMs == 0) {
+    if (window.closesAfterMs > 0) {
+        // It goes by itself, and nobody can close it sooner.
+        m_ways.append({by, QStringLiteral("wait"), key, Does::kCloses, key, false});
+    } else if (window.kind == Kind::kWindow && key != WindowBuilder::mainKey()) {
         m_ways.append({by, how, key, Does::kCloses, key, canBeAccepted(window)});
     }
 }

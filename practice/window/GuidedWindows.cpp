@@ -30,6 +30,7 @@ struct GuidedWindows::Guides
 };
 
 GuidedWindows::GuidedWindows()
+    : m_focus([this] { return topWindow(); })
 {
     connect(&m_tips, &HoverTips::hovered, this, &HostEditor::hovered);
     connect(&m_tips, &HoverTips::unhovered, this, &HostEditor::unhovered);
@@ -138,9 +139,13 @@ bool GuidedWindows::showPlace(const EventPlace &place)
 void GuidedWindows::takeFocusBack()
 {
     m_presses.begin();
-    if (!m_view.stack->isEmpty()) {
-        m_view.window(m_view.stack->constLast())->window()->activateWindow();
-    }
+    m_focus.begin();
+}
+
+QWidget *GuidedWindows::topWindow() const
+{
+    const bool isOpen = m_view.stack != nullptr && !m_view.stack->isEmpty();
+    return isOpen ? m_view.window(m_view.stack->constLast())->window() : nullptr;
 }
 
 void GuidedWindows::setTipsShownElsewhere(bool shown)

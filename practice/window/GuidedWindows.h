@@ -5,6 +5,7 @@
 #include "window/ControlHand.h"
 #include "window/EditorWays.h"
 #include "window/EditorWindows.h"
+#include "window/FocusReturn.h"
 #include "window/HoverTips.h"
 #include "window/PressGuard.h"
 #include "window/StateKeeper.h"
@@ -51,8 +52,12 @@ protected:
 private:
     struct Guides;
 
+    /// The window on top, as the desktop has it; nullptr before any is open.
+    [[nodiscard]] QWidget *topWindow() const;
+
     EditorView m_view;
     std::unique_ptr<Guides> m_guides;
+    FocusReturn m_focus;
     PressGuard m_presses;
     HoverTips m_tips;
 };

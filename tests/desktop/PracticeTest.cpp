@@ -41,10 +41,8 @@ void PracticeTest::start(const PracticeEditor::Options &options)
     QVERIFY2(windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
     m_windows = windows.get();
     m_editor = std::make_unique<PracticeEditor>(options, std::move(windows));
-    connect(m_editor.get(), &PracticeEditor::companionConnected, this, [this](qint64 pid) {
-        m_companion = pid;
-        m_eye->setCompanion(pid);
-    });
+    connect(m_editor.get(), &PracticeEditor::companionConnected, this,
+            [this](qint64 pid) { m_eye->setCompanion(pid); });
     QString error;
     QVERIFY2(m_editor->start(&error), qPrintable(error));
 }

@@ -64,7 +64,6 @@ protected:
     QTemporaryDir m_projects;
     EditorWindowSet *m_windows = nullptr;
     std::unique_ptr<PracticeEditor> m_editor;
-    qint64 m_companion = 0;
 
 private Q_SLOTS:
     void initTestCase();

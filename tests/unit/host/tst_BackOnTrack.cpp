@@ -53,6 +53,7 @@ private Q_SLOTS:
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
+    void aRowThatIsGoneLeadsNowhere();
     void whatWentWrongEarlierIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
@@ -363,6 +364,31 @@ void tst_BackOnTrack::whatIsGoneIsPutBack()
     QCOMPARE(played.editor.m_data, str("as it was"));
     QVERIFY(!played.session.isAstray());
     QCOMPARE(played.id(), 1);
+}
+
+void tst_BackOnTrack::aRowThatIsGoneLeadsNowhere()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 4);
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 Played::item(2, kProperties, "action,picture,")});
+    played.use("MainWindow", "maps", 4);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, row);
+    played.editor.m_hidden.append(row);
+    played.editor.m_data = str("a map less");
+    played.editor.report(str("action"), str("delete"));
+    played.turn();
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.session.canPutBack());
+    QVERIFY(played.lastTold().contains(str("|put it back|")));
 }
 
 void tst_BackOnTrack::whatWentWrongEarlierIsPutBack()

@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace {
 
 ControlSpot spot(const char *window, const char *control, int part = -1)
@@ -192,7 +194,7 @@ void tst_GuidedWindows::knowsWhatLeadsWhere()
     for (const Way &way : ways) {
         QVERIFY(way.does != Does::kCloses || way.windowKey != str("MainWindow"));
         // It goes by itself, and in no other way.
-        QVERIFY(way.does != Does::kCloses || way.windowKey != str("Copying"));
+        QVERIFY(way.does != Does::kCloses || way.windowKey != str("Copying") || way.icon == str("wait"));
     }
 }
 
@@ -373,6 +375,14 @@ void tst_GuidedWindows::saysWhatLeadsBack()
     const Way menu{spot("Menu", "@dismiss"), str("click"),    str("MapPopup"),
                    Way::Does::kCloses,       str("MapPopup"), false};
     QCOMPARE(editor->hintBack(menu, step), str("Press Esc: the menu closes."));
+    // One that copies files goes by itself.
+    const Ways ways = editor->ways();
+    const auto copying = std::find_if(ways.cbegin(), ways.cend(), [](const Way &way) {
+        return way.windowKey == str("Copying") && way.does == Way::Does::kCloses;
+    });
+    QVERIFY(copying != ways.cend());
+    QCOMPARE(copying->icon, str("wait"));
+    QCOMPARE(editor->hintBack(*copying, step), str("Wait a moment: this window closes by itself."));
     QVERIFY(!editor->hintToPutBack(step).isEmpty());
 }
 
