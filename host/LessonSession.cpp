@@ -100,7 +100,8 @@ bool LessonSession::passesByItself(int id) const
 {
     const Scenario &scenario = m_runner.scenario();
     const int index = scenario.indexOf(id);
-    return index < 0 || scenario.step(index).icon == QLatin1String("wait");
+    return index < 0 || scenario.step(index).icon == QLatin1String("wait") ||
+           scenario.step(index).condition.type() == Condition::Type::kWait;
 }
 
 void LessonSession::putBack()

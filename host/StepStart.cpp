@@ -7,9 +7,18 @@
 StepStart StepStart::of(const HostEditor &editor, const WindowTrail &trail,
                         const std::optional<ControlSpot> &pointed)
 {
-    return {editor.state(),     trail.open(),      trail.lastCauses(),
-            editor.projectId(), editor.dataMark(), pointed ? editor.meaningOf(*pointed) : QString(),
-            editor.chosen()};
+    StepStart start{editor.state(),     trail.open(),
+                    trail.lastCauses(), editor.projectId(),
+                    editor.dataMark(),  pointed ? editor.meaningOf(*pointed) : QString(),
+                    editor.chosen(),    {}};
+    for (const OpenWindow &window : trail.open()) {
+        const QString menu = window.cause.control.section(QLatin1Char('/'), 0, 0);
+        start.openingMeanings.insert(window.name, editor.meaningOf(window.cause));
+        if (!window.menuCause.isNone()) {
+            start.openingMeanings.insert(menu, editor.meaningOf(window.menuCause));
+        }
+    }
+    return start;
 }
 
 QJsonObject StepStart::toJson() const

@@ -19,6 +19,8 @@ struct StepStart
     /// What using the control that the step points at meant.
     QString meaning;
     QVector<ControlSpot> chosen;
+    /// The same of what the open windows and the menus before them were opened with, by their names.
+    QHash<QString, QString> openingMeanings;
 
     static StepStart of(const HostEditor &editor, const WindowTrail &trail,
                         const std::optional<ControlSpot> &pointed);

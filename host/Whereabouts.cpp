@@ -111,9 +111,22 @@ std::optional<Way> Whereabouts::wayToWindows() const
         // Of a list it is the row with which it was done before.
         way->by.part = openingOf(*way).part;
     }
-    // What is hidden behind another tab is out of reach until that is in front again.
-    const std::optional<Way> chosen = m_editor->rectOf(way->by) ? std::nullopt : wayToChosen();
-    return chosen ? chosen : way;
+    // What is hidden behind another tab is out of reach until that is in front again, and with another tool
+    // in the hand it is something else.
+    const bool isOther = opensSomethingElse(*way);
+    const std::optional<Way> chosen = isOther || !m_editor->rectOf(way->by) ? wayToChosen() : std::nullopt;
+    if (chosen) {
+        return chosen;
+    }
+    const bool isWrong = isOther && m_editor->dataMark() != m_needs->start.dataMark;
+    return isWrong ? std::nullopt : way;
+}
+
+bool Whereabouts::opensSomethingElse(const Way &way) const
+{
+    const QString before = m_needs->start.openingMeanings.value(way.windowKey);
+    const QString now = m_editor->meaningOf(way.by);
+    return way.does != Way::Does::kCloses && !before.isEmpty() && !now.isEmpty() && now != before;
 }
 
 ControlSpot Whereabouts::openingOf(const Way &way) const

@@ -49,6 +49,8 @@ private:
     [[nodiscard]] bool isThere(const OpenWindows &open) const;
     [[nodiscard]] bool hasOtherMeaning() const;
     [[nodiscard]] std::optional<Way> wayToWindows() const;
+    /// Whether its control means something else than when the window or menu was opened for the step.
+    [[nodiscard]] bool opensSomethingElse(const Way &way) const;
     /// With what the window or menu that the way leads to was opened for the step; none where nobody knows.
     [[nodiscard]] ControlSpot openingOf(const Way &way) const;
     /// The first of what was chosen when the step began and is not now.

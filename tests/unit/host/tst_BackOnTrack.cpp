@@ -54,6 +54,7 @@ private Q_SLOTS:
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
     void aRowThatIsGoneLeadsNowhere();
+    void bringsBackTheToolThatOpensTheWindow();
     void whatWentWrongEarlierIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
@@ -389,6 +390,34 @@ void tst_BackOnTrack::aRowThatIsGoneLeadsNowhere()
     QVERIFY(!played.session.wayBack());
     QVERIFY(played.session.canPutBack());
     QVERIFY(played.lastTold().contains(str("|put it back|")));
+}
+
+void tst_BackOnTrack::bringsBackTheToolThatOpensTheWindow()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 4);
+    const ControlSpot tool = Played::spot("MainWindow", "modeEvent");
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.editor.m_meanings.insert(str("maps"), str("in event mode"));
+    played.editor.m_chosen = {tool};
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 Played::item(2, kProperties, "action,picture,")});
+    played.use("MainWindow", "maps", 4);
+    played.editor.open(str(kProperties));
+    played.turn();
+    played.use(kProperties, "cancel");
+    played.editor.close(str(kProperties));
+    played.editor.m_meanings.insert(str("maps"), str("in map mode"));
+    played.editor.m_chosen = {Played::spot("MainWindow", "modeMap")};
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, tool);
+    played.editor.m_meanings.insert(str("maps"), str("in event mode"));
+    played.editor.m_chosen = {tool};
+    played.use("MainWindow", "modeEvent");
+    played.editor.report(str("action"), str("modeEvent"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, row);
 }
 
 void tst_BackOnTrack::whatWentWrongEarlierIsPutBack()

@@ -86,7 +86,7 @@ void tst_LessonMemory::passesOverStepsThatPassByThemselves()
 {
     Played played;
     played.play({Played::item(1, "MainWindow", "list,1"), Played::item(2, "MainWindow", "list,2", "wait"),
-                 Played::item(3, "MainWindow", "wait,20", "wait"), Played::item(4, "MainWindow", "click,")});
+                 Played::item(3, "MainWindow", "wait,20", "eye"), Played::item(4, "MainWindow", "click,")});
     played.editor.report(str("list"), str("1"));
     played.editor.report(str("list"), str("2"));
     QTRY_COMPARE(played.id(), 4);

@@ -62,7 +62,8 @@ public:
     /// The step goes on by itself.
     [[nodiscard]] bool isWaiting() const
     {
-        return isPlaying() && session.runner().step().icon == str("wait");
+        return isPlaying() && (session.runner().step().icon == str("wait") ||
+                               session.runner().step().condition.type() == Condition::Type::kWait);
     }
 
     /// Does what the step asks for; whether it is over then.
