@@ -19,7 +19,7 @@ struct SessionOfLessons
     }
 
     static QString first() { return QStringLiteral("TutorialStep1"); }
-    static QString unwritten() { return QStringLiteral("TutorialStep2"); }
+    static QString unwritten() { return QStringLiteral("TutorialStep19"); }
     static QString last() { return QStringLiteral("Another"); }
 
     void list()
