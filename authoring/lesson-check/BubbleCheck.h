@@ -4,7 +4,7 @@
 #include "lesson-check/Catalogue.h"
 #include "lesson-check/Finding.h"
 
-/// Lays hints out as the bubble does and says which do not fit. Needs a QGuiApplication.
+/// Lays hints out as the bubble does and says which are too long. Needs a QGuiApplication.
 class BubbleCheck
 {
 public:

@@ -33,6 +33,38 @@ QSet<QString> keysOf(const QJsonObject &a, const QJsonObject &b)
     return {keys.cbegin(), keys.cend()};
 }
 
+/// The row of the library as a whole.
+const QString kAll = QStringLiteral("all");
+const QString kCommand = QStringLiteral("command");
+const QString kLastText = QStringLiteral("maxTranslationId");
+
+void addTo(QJsonObject &sums, const QString &key, int number)
+{
+    sums.insert(key, sums.value(key).toInt() + number);
+}
+
+/// Adds the figures of one lesson. Of the text numbers the highest counts, of the commands how many there
+/// are.
+void addTo(QJsonObject &sums, const QJsonObject &figures)
+{
+    for (auto figure = figures.begin(); figure != figures.end(); ++figure) {
+        if (figure.key() == kCommand) {
+            addTo(sums, QStringLiteral("commands"), figure.value().toString().isEmpty() ? 0 : 1);
+        } else if (figure.key() == kLastText) {
+            sums.insert(kLastText, std::max(sums.value(kLastText).toInt(), figure.value().toInt()));
+        } else if (figure.value().isObject()) {
+            QJsonObject counts = sums.value(figure.key()).toObject();
+            const QJsonObject more = figure.value().toObject();
+            for (auto count = more.begin(); count != more.end(); ++count) {
+                addTo(counts, count.key(), count.value().toInt());
+            }
+            sums.insert(figure.key(), counts);
+        } else {
+            addTo(sums, figure.key(), figure.value().toInt());
+        }
+    }
+}
+
 } // namespace
 
 Census::Census(QString file, const QByteArray &json, Findings &findings)
@@ -80,39 +112,19 @@ QJsonObject Census::count(const Lesson &lesson)
             {QStringLiteral("noPosition"), noPosition},
             {QStringLiteral("jumps"), jumps},
             {QStringLiteral("jumpNos"), jumpNos},
-            {QStringLiteral("maxTranslationId"), maxTranslationId},
-            {QStringLiteral("command"), commands.join(QStringLiteral(" "))}};
+            {kLastText, maxTranslationId},
+            {kCommand, commands.join(QStringLiteral(" "))}};
 }
 
-Findings Census::check(const Lesson &lesson) const
+QVector<Census::Difference> Census::compare(const QJsonObject &has, const QJsonObject &wanted)
 {
-    Findings findings;
-    const auto report = [&](const QString &figure, const QJsonValue &has, const QJsonValue &wanted) {
-        findings.append({Finding::Kind::kError,
-                         lesson.file,
-                         0,
-                         {},
-                         figure,
-                         QStringLiteral("the lesson has %1, its row in %2 says %3")
-                             .arg(shown(has), m_file, shown(wanted))});
-    };
-    if (!m_rows.contains(lesson.name)) {
-        findings.append({Finding::Kind::kError,
-                         m_file,
-                         0,
-                         lesson.name,
-                         {},
-                         QStringLiteral("the table has no row for this lesson")});
-        return findings;
-    }
-    const QJsonObject has = count(lesson);
-    const QJsonObject wanted = m_rows.value(lesson.name).toObject();
+    QVector<Difference> differences;
     QStringList figures = has.keys();
     figures.sort();
-    for (const QString &figure : figures) {
+    for (const QString &figure : qAsConst(figures)) {
         if (!has.value(figure).isObject()) {
             if (has.value(figure) != wanted.value(figure)) {
-                report(figure, has.value(figure), wanted.value(figure));
+                differences.append({figure, has.value(figure), wanted.value(figure)});
             }
             continue;
         }
@@ -121,12 +133,52 @@ Findings Census::check(const Lesson &lesson) const
         const QSet<QString> all = keysOf(hasCounts, wantedCounts);
         QStringList keys(all.cbegin(), all.cend());
         keys.sort();
-        for (const QString &key : keys) {
+        for (const QString &key : qAsConst(keys)) {
             if (hasCounts.value(key) != wantedCounts.value(key)) {
-                report(QStringLiteral("%1 %2").arg(figure, key), hasCounts.value(key),
-                       wantedCounts.value(key));
+                differences.append({QStringLiteral("%1 %2").arg(figure, key), hasCounts.value(key),
+                                    wantedCounts.value(key)});
             }
         }
     }
+    return differences;
+}
+
+Findings Census::check(const Lesson &lesson) const
+{
+    if (!m_rows.contains(lesson.name)) {
+        return {{Finding::Kind::kError,
+                 m_file,
+                 0,
+                 lesson.name,
+                 {},
+                 QStringLiteral("the table has no row for this lesson")}};
+    }
+    Findings findings;
+    const QVector<Difference> differences = compare(count(lesson), m_rows.value(lesson.name).toObject());
+    for (const Difference &difference : differences) {
+        findings.append({Finding::Kind::kError,
+                         lesson.file,
+                         0,
+                         {},
+                         difference.figure,
+                         QStringLiteral("the lesson has %1, its row in %2 says %3")
+                             .arg(shown(difference.has), m_file, shown(difference.wanted))});
+    }
     return findings;
+}
+
+Findings Census::checkAll(const QVector<Lesson> &lessons) const
+{
+    QJsonObject all{{QStringLiteral("commands"), 0}};
+    for (const Lesson &lesson : lessons) {
+        addTo(all, count(lesson));
+    }
+    const QVector<Difference> differences = compare(all, m_rows.value(kAll).toObject());
+    if (differences.isEmpty()) {
+        return {};
+    }
+    const Difference &first = differences.constFirst();
+    return {{Finding::Kind::kError, m_file, 0, kAll, first.figure,
+             QStringLiteral("the lessons have %1 together, the row says %2")
+                 .arg(shown(first.has), shown(first.wanted))}};
 }

@@ -4,10 +4,12 @@
 #include "lesson-check/Census.h"
 #include "lesson-check/FlowCheck.h"
 #include "lesson-check/LoadCheck.h"
+#include "lesson-check/OpeningCheck.h"
 #include "lesson-check/ScenarioReader.h"
 #include "lesson-check/StepCheck.h"
 #include "lesson-check/TextCheck.h"
 #include "lesson-check/WindowCheck.h"
+#include "lesson-check/WordingCheck.h"
 #include "tool/DataSupport.h"
 
 #include <QDir>
@@ -38,6 +40,10 @@ QString censusFile()
 {
     return QStringLiteral("authoring/lesson-check/census.json");
 }
+QString glossaryFile()
+{
+    return QStringLiteral("authoring/glossary.json");
+}
 
 } // namespace
 
@@ -60,7 +66,8 @@ Findings LessonLibrary::check(bool complete)
     readCatalogues();
     readLessons(complete);
     checkShipped();
-    checkLessons();
+    checkLessons(complete);
+    checkWording();
     checkContexts();
     return m_findings;
 }
@@ -148,7 +155,7 @@ DescriptionSet LessonLibrary::readDescriptions()
     return descriptions;
 }
 
-void LessonLibrary::checkLessons()
+void LessonLibrary::checkLessons(bool complete)
 {
     const DescriptionSet windows = readDescriptions();
     const Census census(censusFile(), read(censusFile()), m_findings);
@@ -166,6 +173,9 @@ void LessonLibrary::checkLessons()
             continue;
         }
         m_findings += checkFlow(lesson);
+        if (lesson.name != m_entries.constFirst().filename) {
+            m_findings += checkOpening(lesson);
+        }
         m_findings += checkWindows(lesson, windows);
         m_findings += census.check(lesson);
         m_findings += checkNumbers(lesson);
@@ -173,10 +183,26 @@ void LessonLibrary::checkLessons()
             m_findings += checkTexts(lesson, catalogue);
         }
     }
+    if (complete) {
+        m_findings += census.checkAll(m_lessons);
+    }
     for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
         m_findings += checkTitles(listFile(), m_entries, catalogue);
     }
     m_findings += checkLanguages(m_catalogues);
+}
+
+void LessonLibrary::checkWording()
+{
+    const Glossary glossary(glossaryFile(), read(glossaryFile()), m_findings);
+    const EditorTexts texts(m_root);
+    m_findings += checkTerms(glossary, m_catalogues, texts);
+    for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
+        const QSet<QString> shown = texts.shown(catalogue.locale(), m_catalogues);
+        for (const Lesson &lesson : qAsConst(m_lessons)) {
+            m_findings += checkQuotedNames(lesson.name, catalogue, shown);
+        }
+    }
 }
 
 void LessonLibrary::checkContexts()

@@ -29,7 +29,8 @@ private:
     void readCatalogues();
     void readLessons(bool complete);
     void checkShipped();
-    void checkLessons();
+    void checkLessons(bool complete);
+    void checkWording();
     void checkContexts();
 
     QString m_root;

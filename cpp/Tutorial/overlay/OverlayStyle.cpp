@@ -13,7 +13,6 @@ namespace {
 
 constexpr qreal kPanelRadius = 6.0;
 constexpr qreal kShadow = 3.0;
-constexpr qreal kSmallestPointSize = 10.5;
 
 const QColor kPanelFill(255, 253, 244);
 const QColor kPanelLine(96, 82, 44);

@@ -13,6 +13,9 @@ class OverlayStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    /// The size of the letters, in points, unless the desktop has larger ones.
+    static constexpr qreal kSmallestPointSize = 10.5;
+
     OverlayStyle();
 
     /// Gives the application this style and a font large enough to read. Call once, before the first overlay.

@@ -23,6 +23,10 @@ inline QString censusFile()
 {
     return QStringLiteral("authoring/lesson-check/census.json");
 }
+inline QString glossaryFile()
+{
+    return QStringLiteral("authoring/glossary.json");
+}
 inline QString catalogueFile(const char *locale)
 {
     return QStringLiteral("resource/translations/%1.ts").arg(QLatin1String(locale));

@@ -1,5 +1,7 @@
 #include "LibraryTest.h"
 
+#include <QRegularExpression>
+
 /// What is said of the library around the scenarios: its list, catalogues, windows, census and files.
 class tst_LessonLibrary : public LibraryTest
 {
@@ -8,6 +10,12 @@ class tst_LessonLibrary : public LibraryTest
 private Q_SLOTS:
     void findsNothingInASoundLibrary();
     void countsAMissingLessonAsWrongInACompleteLibrary();
+    void namesTheFirstFigureThatIsOffInACompleteLibrary_data();
+    void namesTheFirstFigureThatIsOffInACompleteLibrary();
+    void takesPartsOfTermsForNoSlips_data();
+    void takesPartsOfTermsForNoSlips();
+    void asksLaterLessonsForTheirOpening_data();
+    void asksLaterLessonsForTheirOpening();
     void doesNotExistWithoutItsList();
     void readsEverythingAnewEachTime();
     void namesTheFinding_data();
@@ -37,6 +45,96 @@ void tst_LessonLibrary::countsAMissingLessonAsWrongInACompleteLibrary()
     QCOMPARE(findings.size(), 1);
     QVERIFY(findings.first().kind == Finding::Kind::kError);
     QCOMPARE(findings.first().item, QStringLiteral("TutorialStep2"));
+}
+
+void tst_LessonLibrary::namesTheFirstFigureThatIsOffInACompleteLibrary_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("finding");
+    const auto row = [](const char *name, const char *from, const char *to, const char *figure) {
+        QTest::newRow(name)
+            << QByteArray(from) << QByteArray(to)
+            << QStringLiteral("authoring/lesson-check/census.json: all, %1").arg(QString::fromUtf8(figure));
+    };
+    row("items", "\"items\": 5", "\"items\": 6", "\"items\": the lessons have 5 together, the row says 6");
+    row("window", "\"MainWindow\": 4", "\"MainWindow\": 5, \"Copying\": 1",
+        "\"windows Copying\": the lessons have 0 together, the row says 1");
+    row("highest text", "\"maxTranslationId\": 4", "\"maxTranslationId\": 137",
+        "\"maxTranslationId\": the lessons have 4 together, the row says 137");
+    row("commands", "\"commands\": 1", "\"commands\": 18",
+        "\"commands\": the lessons have 1 together, the row says 18");
+    row("no row", "\"all\"", "\"every\"", "\"commands\": the lessons have 1 together, the row says 0");
+}
+
+void tst_LessonLibrary::namesTheFirstFigureThatIsOffInACompleteLibrary()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, finding);
+    // The row stands behind those of the lessons.
+    QByteArray table = readFile(path(censusFile()));
+    const int at = int(table.indexOf(from, table.indexOf("\"all\"")));
+    QVERIFY2(at >= 0, from.constData());
+    QVERIFY(writeFile(path(censusFile()), table.replace(at, from.size(), to)));
+    QCOMPARE(errors(), QStringList());
+    const QStringList found = lines(LessonLibrary(m_folder->path()).check(true));
+    QCOMPARE(found.filter(QStringLiteral("together")), QStringList(finding));
+}
+
+void tst_LessonLibrary::takesPartsOfTermsForNoSlips_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("slips");
+    const QString japanese = catalogueFile("ja_JP");
+    QTest::newRow("term") << japanese << QByteArray("パーティーです。") << 0;
+    QTest::newRow("word in the term's place") << japanese << QByteArray("パーティです。") << 1;
+    QTest::newRow("both") << japanese << QByteArray("パーティーのパーティ。") << 1;
+    QTest::newRow("part of another word") << catalogueFile("en_US") << QByteArray("Tilesets.") << 0;
+    QTest::newRow("at the end") << catalogueFile("en_US") << QByteArray("A TileSet") << 1;
+}
+
+void tst_LessonLibrary::takesPartsOfTermsForNoSlips()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, text);
+    QFETCH(int, slips);
+    replace(file, file == catalogueFile("ja_JP") ? "ようこそ。" : "Welcome.", text);
+    QCOMPARE(errors().size(), slips);
+}
+
+void tst_LessonLibrary::asksLaterLessonsForTheirOpening_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("finding");
+    QTest::newRow("no question") << QByteArray("\"condition\":\"yesNo\"")
+                                 << QByteArray("\"condition\":\"click,\"")
+                                 << QStringLiteral(
+                                        ": item 2: it has to be the yesNo step with \"jump\" 3 and "
+                                        "\"jumpNo\" 6");
+    QTest::newRow("command elsewhere") << QByteArray("\"id\":1,") << QByteArray("\"id\":1,")
+                                       << QStringLiteral(":36: item 3, \"command\": it has to be \"\" here");
+    QTest::newRow("no command where the project is made")
+        << QByteArray("\"windowKey\":\"MainWindow\",\n\"condition\":\"action,fileOpen,open\"")
+        << QByteArray("\"windowKey\":\"NewProject\",\n\"condition\":\"windowState,Copying,open\"")
+        << QStringLiteral(":53: item 4, \"command\": it has to be \"presetData,step2\" here");
+}
+
+void tst_LessonLibrary::asksLaterLessonsForTheirOpening()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, finding);
+    const QString second = QStringLiteral("resource/qml/Tutorial/TutorialStep2.js");
+    QVERIFY(QFile::copy(path(scenarioFile()), path(second)));
+    replace(second, from, to);
+    const QStringList found = errors();
+    QVERIFY2(found.contains(second + finding), qPrintable(found.join(QLatin1Char('\n'))));
+    QVERIFY2(
+        found.filter(QRegularExpression(QStringLiteral("TutorialStep1\\.js.*(yesNo step|here$)"))).isEmpty(),
+        qPrintable(found.join(QLatin1Char('\n'))));
 }
 
 void tst_LessonLibrary::doesNotExistWithoutItsList()
@@ -102,8 +200,32 @@ void tst_LessonLibrary::namesTheFinding_data()
         "resource/translations/en_US.ts:3: the root has to be TS with the language \"en_US\"");
     row("catalogue that is no XML", english, "</context>", "</contexts>",
         "resource/translations/en_US.ts:14: Opening and ending tag mismatch.");
-    row("hint that is too high", english, "Welcome.", QByteArray("Welcome.\n").repeated(60),
-        "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the hint does not fit the bubble:");
+    row("hint of many lines", english, "Welcome.", "Welcome\nto\nthis\nlesson.",
+        "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the hint takes 4 lines in the bubble, 3 "
+        "at "
+        "most; shorten it");
+    row("hint whose lines are long", english, "Welcome.", QByteArray("Welcome ").repeated(16),
+        "resource/translations/en_US.ts:28: TutorialStep1, \"#1\": the hint takes 6 lines in the bubble, 3 "
+        "at most; shorten it");
+    row("name that no window shows", chinese, "“打开”", "“开启”",
+        "resource/translations/zh_CN.ts:40: TutorialStep1, \"#4\": no window shows “开启” in zh_CN; name a "
+        "control by the very words of its window, and quote nothing else");
+    row("name that windows show in another language", catalogueFile("ja_JP"), "「新規」", "「新建」",
+        "resource/translations/ja_JP.ts:36: TutorialStep1, \"#3\": no window shows “新建” in ja_JP; name a "
+        "control by the very words of its window, and quote nothing else");
+
+    row("word off the glossary in a hint", chinese, "项目", "工程",
+        "resource/translations/zh_CN.ts:32: TutorialStep1, \"#2\": “工程” is not the glossary's word; it has "
+        "“项目”");
+    row("word off the glossary in a window", mainWindow, "\"en_US\": \"Main\"",
+        "\"en_US\": \"Tilesets, Tileset\"",
+        "practice/descriptions/MainWindow.json: \"Tilesets, Tileset\": “tileset” is not the glossary's word; "
+        "it "
+        "has “tile set”");
+    row("glossary that is no JSON", glossaryFile(), "{\"terms\"", "\"terms\"",
+        "authoring/glossary.json: the table is not a JSON object with \"terms\":");
+    row("term without a word in a language", glossaryFile(), "\"zh_CN\": \"图块组\"", "\"zh\": \"图块组\"",
+        "authoring/glossary.json: term 2: it has no word in zh_CN");
 
     row("other head of the list", list, "var list = [", "var lists = [",
         IN_LIST "1: the first line has to be \"var list = [\"");
@@ -184,7 +306,7 @@ void tst_LessonLibrary::namesTheLanguageThatLacksAText()
 void tst_LessonLibrary::namesAFileThatIsGone_data()
 {
     QTest::addColumn<QString>("file");
-    const QStringList files = {catalogueFile("ja_JP"), censusFile(),
+    const QStringList files = {catalogueFile("ja_JP"), censusFile(), glossaryFile(),
                                QStringLiteral("resource/scenarios.qrc")};
     for (const QString &file : files) {
         QTest::newRow(qPrintable(file)) << file;
