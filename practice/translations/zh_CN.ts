@@ -1068,11 +1068,11 @@
     </message>
     <message>
         <source>The game was saved on map %1 at %2, %3, and the project has no such place any more.</source>
-        <translation>存档所在的位置（地图 %1 的 %2, %3）在工程中已经不存在了。</translation>
+        <translation>存档所在的位置（地图 %1 的 %2, %3）在项目中已经不存在了。</translation>
     </message>
     <message>
         <source>The project was changed since this game was saved: some things may not fit.</source>
-        <translation>存档之后工程有过改动，有些内容可能对不上。</translation>
+        <translation>存档之后项目有过改动，有些内容可能对不上。</translation>
     </message>
     <message>
         <source>This begins by itself again and again, so the player can do nothing. Let it turn on a switch that another page waits for, or erase the event.</source>
