@@ -1258,7 +1258,7 @@
     <message>
         <source>The game waits. Click here to go on.</source>
         <extracomment>Over a game that stands still because another window has the keyboard.</extracomment>
-        <translation>游戏已暂停。单击此处继续。</translation>
+        <translation>游戏已暂停。点击此处继续。</translation>
     </message>
 </context>
 <context>
