@@ -91,7 +91,9 @@ LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
     if (isPress(event)) {
         m_pressedIn = m_number;
     }
-    if (event.type == QLatin1String("mouseEvent") && m_pressedIn != 0 && m_pressedIn != m_number) {
+    const bool isRelease = event.type == QLatin1String("mouseEvent");
+    const int pressedIn = isRelease ? std::exchange(m_pressedIn, 0) : 0;
+    if (pressedIn != 0 && pressedIn != m_number) {
         // The button went down in a step that is over, and what the stroke has drawn belongs to that one.
         m_settled = false;
         return Verdict::kNothing;

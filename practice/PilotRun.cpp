@@ -4,17 +4,53 @@
 
 #include "PilotProgress.h"
 #include "PracticeEditor.h"
+#include "author/Outcome.h"
 #include "pilot/x11/XConnection.h"
 #include "pilot/x11/XEye.h"
 #include "pilot/x11/XHand.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QPushButton>
 
 #include <cstdio>
 #include <memory>
 
-bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QString *error)
+namespace {
+
+/// The middle of the button that puts back, where the mouse reaches it.
+std::optional<QPoint> putBackPlace()
 {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *const window : windows) {
+        const auto *const button = window->findChild<QPushButton *>(QStringLiteral("putBackButton"));
+        if (button != nullptr && button->isVisible()) {
+            const QPoint middle = button->mapToGlobal(button->rect().center());
+            return QApplication::widgetAt(middle) == button ? std::optional(middle) : std::nullopt;
+        }
+    }
+    return {};
+}
+
+/// A line for everything that is otherwise in the project than the play was to leave it.
+QStringList leftOtherwise(const PracticeEditor &editor, const PilotPlay &play)
+{
+    QStringList lines;
+    if (!play.scenario.isEmpty()) {
+        const QStringList problems = Outcome(play.scenario).problems(editor.projectFolder(), play.way);
+        for (const QString &problem : problems) {
+            lines.append(QStringLiteral("%1: broken: %2").arg(play.title(), problem));
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings, QString *error)
+{
+    settings.title = play.title();
+    settings.answersYes = play.way == QLatin1String("yes");
+    settings.putBackPlace = putBackPlace;
     if (QGuiApplication::platformName() != QLatin1String("xcb")) {
         *error = QStringLiteral("the windows are not on an X display but on Qt's platform \"%1\"")
                      .arg(QGuiApplication::platformName());
@@ -38,7 +74,8 @@ bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QStri
     QObject::connect(pilot, &Pilot::refused, pilot, [lacks] { *lacks = true; });
     QObject::connect(
         pilot, &Pilot::ended, pilot,
-        [progress, lacks](const QStringList &failures) {
+        [progress, lacks, editor, play](const QStringList &broken) {
+            const QStringList failures = broken.isEmpty() ? leftOtherwise(*editor, play) : broken;
             progress->showEnd(failures.isEmpty());
             for (const QString &failure : failures) {
                 std::fprintf(stderr, "%s\n", failure.toUtf8().constData());
@@ -51,9 +88,10 @@ bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QStri
 
 #else
 
-bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QString *error)
+bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings, QString *error)
 {
     Q_UNUSED(editor)
+    Q_UNUSED(play)
     Q_UNUSED(settings)
     *error = QStringLiteral("it needs X11, which this system has not");
     return false;

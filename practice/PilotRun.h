@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PilotPlay.h"
 #include "pilot/Pilot.h"
 
 class PracticeEditor;
@@ -7,8 +8,11 @@ class PracticeEditor;
 /// The exit status when the companion has no file of the lesson.
 constexpr int kLessonLacks = 3;
 
-/// Lets a pilot play the lesson that @p editor opens; to be called before its start. The pilot lives as long
-/// as the editor, tells of its progress on the standard output (in a terminal with a bar), and ends the
-/// application: with status 0 when the lesson came to its end, kLessonLacks, or 1 with a line for each
-/// broken step on the error output. False, with a sentence in @p error, where no pilot can play.
-[[nodiscard]] bool letPilotPlay(PracticeEditor *editor, const Pilot::Settings &settings, QString *error);
+/// Lets a pilot play @p play, the lesson that @p editor opens; to be called before its start. The pilot lives
+/// as long as the editor, tells of its progress on the standard output (in a terminal with a bar), and ends
+/// the application: with status 0 when the lesson came to its end and left what its Outcome says,
+/// kLessonLacks, or 1 with a line for each broken step and for what is otherwise on the error output. The
+/// title and the answer of @p settings are those of the play. False, with a sentence in @p error, where no
+/// pilot can play.
+[[nodiscard]] bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings,
+                                QString *error);

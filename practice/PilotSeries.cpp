@@ -9,8 +9,8 @@
 
 #include <cstdio>
 
-int playSeries(const QVector<PilotPlay> &plays, const QStringList &options, const QString &pictures,
-               bool mayLack)
+int playSeries(const QVector<PilotPlay> &plays, const QStringList &options,
+               const QMap<QString, QString> &folders, bool mayLack)
 {
     QSet<int> lacking;
     int broken = 0;
@@ -22,8 +22,9 @@ int playSeries(const QVector<PilotPlay> &plays, const QStringList &options, cons
                                                : QStringLiteral("--scenario=") + play.scenario;
         QStringList arguments{QStringLiteral("--pilot"), lesson, QStringLiteral("--locale=") + play.locale,
                               QStringLiteral("--way=") + play.way};
-        if (!pictures.isEmpty()) {
-            arguments += QStringLiteral("--shots=") + QDir(pictures).filePath(play.folderName());
+        for (auto folder = folders.constBegin(); folder != folders.constEnd(); ++folder) {
+            arguments +=
+                QStringLiteral("--%1=%2").arg(folder.key(), QDir(folder.value()).filePath(play.folderName()));
         }
         QProcess player;
         player.setProcessChannelMode(QProcess::ForwardedOutputChannel);

@@ -74,6 +74,11 @@ bool PracticeEditor::start(QString *error)
     return startLink(error);
 }
 
+QString PracticeEditor::projectFolder() const
+{
+    return m_windows->projectFolder();
+}
+
 /// The companion's windows stay above all others, and would lie over a question or the list of lessons.
 bool PracticeEditor::eventFilter(QObject *watched, QEvent *event)
 {

@@ -58,6 +58,8 @@ public:
     [[nodiscard]] bool start(QString *error);
 
     [[nodiscard]] LessonSession &session() { return m_session; }
+    /// The folder of the project that is open; empty when none is.
+    [[nodiscard]] QString projectFolder() const;
 
 Q_SIGNALS:
     /// The editor is to end with this exit status.

@@ -114,8 +114,12 @@ struct CommandLine
                              QStringLiteral("folder")};
     QCommandLineOption broken{
         QStringLiteral("broken"),
-        QStringLiteral("With --pilot: leave pictures of broken steps in this folder, without --shots."),
-        QStringLiteral("folder"), QDir::temp().filePath(QStringLiteral("PracticeEditor-pilot"))};
+        QStringLiteral("With --pilot: leave pictures of broken steps in this folder, without --shots; by "
+                       "default in one of its own among the temporary files."),
+        QStringLiteral("folder")};
+    QCommandLineOption mistakes{
+        QStringLiteral("mistakes"),
+        QStringLiteral("With --pilot: in each step do something wrong first, and follow the arrow back.")};
     QCommandLineOption clock{
         QStringLiteral("clock"),
         QStringLiteral("With --pilot: this program's clock runs so many times as fast as that of the X "
@@ -138,12 +142,47 @@ struct CommandLine
     CommandLine()
     {
         parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
-        parser.addOptions({lesson, locale, pilot, way, shots, broken, clock, companion, key, help, version});
+        parser.addOptions(
+            {lesson, locale, pilot, way, shots, broken, mistakes, clock, companion, key, help, version});
         author.addTo(&parser);
         testPlay.addTo(&parser);
         isUnderstood = parser.parse(QCoreApplication::arguments());
     }
 };
+
+/// Where a pilot leaves pictures of broken steps. Others may be playing beside it.
+QString brokenFolder(const CommandLine &line)
+{
+    return line.parser.isSet(line.broken)
+               ? line.parser.value(line.broken)
+               : QDir::temp().filePath(
+                     QStringLiteral("PracticeEditor-pilot-%1").arg(QCoreApplication::applicationPid()));
+}
+
+/// The options that hold for each play of a series.
+QStringList forEachPlay(const CommandLine &line)
+{
+    QStringList options;
+    for (const QCommandLineOption &option : {line.companion, line.clock}) {
+        options += QStringLiteral("--%1=%2").arg(option.names().constFirst(), line.parser.value(option));
+    }
+    if (line.parser.isSet(line.mistakes)) {
+        options += QStringLiteral("--mistakes");
+    }
+    return options;
+}
+
+/// The folders of a series, in which each play gets one of its own, by the options that name them.
+QMap<QString, QString> foldersOf(const CommandLine &line)
+{
+    QMap<QString, QString> folders;
+    for (const QCommandLineOption &option : {line.shots, line.broken}) {
+        if (line.parser.isSet(option)) {
+            folders.insert(option.names().constFirst(), line.parser.value(option));
+        }
+    }
+    return folders;
+}
 
 /// Does what --help, --version, --dump-controls and --test-play ask for, without a display, and gives the
 /// status. Nothing when none is asked for.
@@ -221,10 +260,8 @@ int main(int argc, char **argv)
             return complain(problem);
         }
         if (plays.size() > 1) {
-            return playSeries(plays,
-                              {QStringLiteral("--companion=") + parser.value(line.companion),
-                               QStringLiteral("--clock=") + parser.value(line.clock)},
-                              parser.value(line.shots), parser.value(line.lesson) == QLatin1String("all"));
+            return playSeries(plays, forEachPlay(line), foldersOf(line),
+                              parser.value(line.lesson) == QLatin1String("all"));
         }
         play = plays.constFirst();
     }
@@ -269,15 +306,14 @@ int main(int argc, char **argv)
     QString error;
     if (play) {
         Pilot::Settings settings;
-        settings.title = play->title();
-        settings.answersYes = play->way == QLatin1String("yes");
         settings.picturesOfAll = parser.isSet(line.shots);
-        settings.picturesFolder = parser.value(settings.picturesOfAll ? line.shots : line.broken);
+        settings.picturesFolder = settings.picturesOfAll ? parser.value(line.shots) : brokenFolder(line);
         settings.speed = clock;
-        if (!settings.answersYes && !putProject(options.projectsFolder, options.locale, &error)) {
+        settings.isBeginner = parser.isSet(line.mistakes);
+        if (play->way == QLatin1String("no") && !putProject(options.projectsFolder, options.locale, &error)) {
             return complain(QStringLiteral("--pilot has no project to open: ") + error);
         }
-        if (!letPilotPlay(&editor, settings, &error)) {
+        if (!letPilotPlay(&editor, *play, settings, &error)) {
             return complain(QStringLiteral("--pilot cannot play here: ") + error);
         }
     }

@@ -23,9 +23,6 @@ public:
             checkTarget(step, QStringLiteral("jump"), step.jump);
             checkTarget(step, QStringLiteral("jumpNo"), step.jumpNo);
         }
-        for (int i = 0; i < m_lesson.steps.size(); ++i) {
-            checkClick(i);
-        }
         follow();
         for (int i = 0; i < m_lesson.steps.size(); ++i) {
             if (!m_reached.at(i)) {
@@ -63,25 +60,6 @@ private:
     {
         const int jump = m_lesson.steps.at(at).jump;
         return jump == -1 ? at + 1 : m_indexById.value(jump, -1);
-    }
-
-    /// A click on the map, the only thing that reports either, goes down and comes up: it must not end two
-    /// steps.
-    void checkClick(int at)
-    {
-        const int behind = next(at);
-        if (behind < 0 || behind >= m_lesson.steps.size()) {
-            return;
-        }
-        const ScenarioItem &step = m_lesson.steps.at(at);
-        const ScenarioItem &other = m_lesson.steps.at(behind);
-        if (step.condition.startsWith(QLatin1String("pressed,")) &&
-            other.condition.startsWith(QLatin1String("mouseEvent,"))) {
-            report(other, QStringLiteral("condition"),
-                   QStringLiteral("the click that ends item %1 would end this step as well, when the button "
-                                  "comes up")
-                       .arg(step.id));
-        }
     }
 
     /// Marks every step that can be reached from the first.

@@ -1,6 +1,5 @@
 #include "lesson-check/LessonLibrary.h"
 
-#include "lesson-check/BubbleCheck.h"
 #include "lesson-check/Census.h"
 #include "lesson-check/FlowCheck.h"
 #include "lesson-check/LoadCheck.h"
@@ -13,10 +12,13 @@
 #include "tool/DataSupport.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -45,6 +47,13 @@ QString glossaryFile()
     return QStringLiteral("authoring/glossary.json");
 }
 
+/// One field that cannot be read would be counted as missing once more by each check of the whole.
+bool isWhole(const Lesson &lesson)
+{
+    return std::all_of(lesson.steps.cbegin(), lesson.steps.cend(),
+                       [](const ScenarioItem &step) { return step.unread.isEmpty(); });
+}
+
 } // namespace
 
 LessonLibrary::LessonLibrary(QString root)
@@ -68,7 +77,7 @@ Findings LessonLibrary::check(bool complete)
     checkShipped();
     checkLessons(complete);
     checkWording();
-    checkContexts();
+    checkContexts(QRegularExpression(QStringLiteral("^TutorialStep\\d+$")));
     return m_findings;
 }
 
@@ -110,15 +119,69 @@ void LessonLibrary::readLessons(bool complete)
                    entry.filename, QStringLiteral("the lesson has no scenario file yet"));
             continue;
         }
-        ScenarioReader reader(file);
-        const ScenarioItems steps = reader.read(read(file));
-        m_findings += reader.findings();
-        m_lessons.append({entry.filename, file, steps});
-        // Where the form is wrong, the companion's complaints would only repeat it.
-        if (reader.findings().isEmpty()) {
-            m_findings += checkLoading(m_lessons.constLast(), QDir(m_root).filePath(file));
-        }
+        readLesson(entry.filename, file);
     }
+}
+
+void LessonLibrary::readLesson(const QString &name, const QString &file)
+{
+    ScenarioReader reader(file);
+    const ScenarioItems steps = reader.read(read(file));
+    m_findings += reader.findings();
+    m_lessons.append({name, file, steps});
+    // Where the form is wrong, the companion's complaints would only repeat it.
+    if (reader.findings().isEmpty()) {
+        m_findings += checkLoading(m_lessons.constLast(), QDir(m_root).filePath(file));
+    }
+}
+
+QVector<Catalogue> LessonLibrary::cataloguesBeside(const QString &file)
+{
+    const QFileInfo scenario(file);
+    QVector<Catalogue> catalogues;
+    const QStringList all = LessonWords::locales();
+    for (const QString &locale : all) {
+        const QString own =
+            scenario.path() + QStringLiteral("/%1.%2.ts").arg(scenario.completeBaseName(), locale);
+        const QString common =
+            QDir::cleanPath(scenario.path() + QStringLiteral("/../../translations/%1.ts").arg(locale));
+        const QString used = QFile::exists(QDir(m_root).filePath(own)) ? own : common;
+        auto known = m_beside.constFind(used);
+        if (known == m_beside.constEnd()) {
+            known = m_beside.insert(used, Catalogue(used, locale, read(used), m_findings));
+        }
+        catalogues.append(*known);
+    }
+    return catalogues;
+}
+
+Findings LessonLibrary::checkScenarios(const QString &folder)
+{
+    m_findings.clear();
+    m_lessons.clear();
+    m_beside.clear();
+    QStringList files;
+    QDirIterator scenarios(QDir(m_root).filePath(folder), {QStringLiteral("*.js")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+    while (scenarios.hasNext()) {
+        files.append(QDir(m_root).relativeFilePath(scenarios.next()));
+    }
+    files.sort();
+    if (files.isEmpty()) {
+        report(Finding::Kind::kError, folder, 0, {}, QStringLiteral("there is no scenario file"));
+    }
+    for (const QString &file : qAsConst(files)) {
+        readLesson(QFileInfo(file).completeBaseName(), file);
+    }
+    const DescriptionSet windows = readDescriptions();
+    BubbleCheck bubble;
+    for (const Lesson &lesson : qAsConst(m_lessons)) {
+        checkLesson(lesson, cataloguesBeside(lesson.file), windows, &bubble);
+    }
+    m_catalogues.clear();
+    std::copy(m_beside.cbegin(), m_beside.cend(), std::back_inserter(m_catalogues));
+    checkContexts(QRegularExpression(QStringLiteral(".")));
+    return m_findings;
 }
 
 void LessonLibrary::checkShipped()
@@ -161,26 +224,12 @@ void LessonLibrary::checkLessons(bool complete)
     const Census census(censusFile(), read(censusFile()), m_findings);
     BubbleCheck bubble;
     for (const Lesson &lesson : qAsConst(m_lessons)) {
-        m_findings += checkSteps(lesson, windows);
-        for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
-            m_findings += bubble.check(catalogue, lesson.name);
-        }
-        // One field that cannot be read would be counted as missing once more by each of these.
-        const auto isWhole = [](const ScenarioItem &step) {
-            return step.unread.isEmpty();
-        };
-        if (!std::all_of(lesson.steps.cbegin(), lesson.steps.cend(), isWhole)) {
-            continue;
-        }
-        m_findings += checkFlow(lesson);
-        if (lesson.name != m_entries.constFirst().filename) {
-            m_findings += checkOpening(lesson);
-        }
-        m_findings += checkWindows(lesson, windows);
-        m_findings += census.check(lesson);
-        m_findings += checkNumbers(lesson);
-        for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
-            m_findings += checkTexts(lesson, catalogue);
+        checkLesson(lesson, m_catalogues, windows, &bubble);
+        if (isWhole(lesson)) {
+            if (lesson.name != m_entries.constFirst().filename) {
+                m_findings += checkOpening(lesson);
+            }
+            m_findings += census.check(lesson);
         }
     }
     if (complete) {
@@ -205,9 +254,26 @@ void LessonLibrary::checkWording()
     }
 }
 
-void LessonLibrary::checkContexts()
+void LessonLibrary::checkLesson(const Lesson &lesson, const QVector<Catalogue> &catalogues,
+                                const DescriptionSet &windows, BubbleCheck *bubble)
 {
-    static const QRegularExpression lessonName(QStringLiteral("^TutorialStep\\d+$"));
+    m_findings += checkSteps(lesson, windows);
+    for (const Catalogue &catalogue : catalogues) {
+        m_findings += bubble->check(catalogue, lesson.name);
+    }
+    if (!isWhole(lesson)) {
+        return;
+    }
+    m_findings += checkFlow(lesson);
+    m_findings += checkWindows(lesson, windows);
+    m_findings += checkNumbers(lesson);
+    for (const Catalogue &catalogue : catalogues) {
+        m_findings += checkTexts(lesson, catalogue);
+    }
+}
+
+void LessonLibrary::checkContexts(const QRegularExpression &lessonName)
+{
     for (const Catalogue &catalogue : qAsConst(m_catalogues)) {
         const QStringList contexts = catalogue.contexts();
         for (const QString &context : contexts) {

@@ -96,6 +96,14 @@ private:
         return open;
     }
 
+    /// Who types ends it with Enter, which is the default button; but a number or a text that is long enough
+    /// is there without it.
+    static bool endsWithEnter(const ScenarioItem &item, const Condition &condition)
+    {
+        return item.icon == QLatin1String("keyboard") && condition.type() != Type::kSpinBox &&
+               condition.type() != Type::kTextLength;
+    }
+
     static const ControlAction &actionOf(const ControlDescription &control, const QString &icon)
     {
         if (icon == QLatin1String("doubleClick")) {
@@ -117,9 +125,8 @@ private:
         QVector<ControlDescription> used;
         const QVector<ControlDescription> controls = m_windows.controlsIn(item.windowKey);
         for (const ControlDescription &control : controls) {
-            // Who types ends it with Enter, which is the default button.
             const bool isDefault = control.own.object.value(QLatin1String("default")).toBool();
-            if (item.icon == QLatin1String("keyboard") ? isDefault : control.geometry.contains(tip)) {
+            if (endsWithEnter(item, *condition) ? isDefault : control.geometry.contains(tip)) {
                 used.append(control);
             }
         }

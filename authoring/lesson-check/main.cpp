@@ -34,9 +34,15 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[directory]"));
     const QCommandLineOption complete(QStringLiteral("complete"),
                                       QStringLiteral("every lesson of the list has to have its file"));
+    const QCommandLineOption scenarios(
+        QStringLiteral("scenarios"),
+        QStringLiteral(
+            "in place of the lessons, check the scenario files in this folder of the tree, with the "
+            "catalogues beside them"),
+        QStringLiteral("folder"));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("show this"));
     const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("show the version"));
-    parser.addOptions({complete, help, version});
+    parser.addOptions({complete, scenarios, help, version});
     const bool understood = parser.parse(QCoreApplication::arguments());
     if (!understood || parser.positionalArguments().size() > 1) {
         err << "lesson-check: "
@@ -60,7 +66,8 @@ int main(int argc, char *argv[])
             << " has no resource/qml/Tutorial/TutorialList.js; name the source tree\n";
         return kUsage;
     }
-    const Findings findings = library.check(parser.isSet(complete));
+    const Findings findings = parser.isSet(scenarios) ? library.checkScenarios(parser.value(scenarios))
+                                                      : library.check(parser.isSet(complete));
     for (const Finding &finding : findings) {
         out << finding.toString() << "\n";
     }

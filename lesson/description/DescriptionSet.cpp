@@ -175,7 +175,13 @@ QString DescriptionSet::popupKey() const
 
 QSize DescriptionSet::size(const QString &key) const
 {
-    return m_windows.value(key).size;
+    const WindowDescription window = m_windows.value(key);
+    // Any of the context menus may be open.
+    QSize size = window.size;
+    for (const PopupDescription &popup : window.popups) {
+        size = size.expandedTo(popup.size);
+    }
+    return size;
 }
 
 QStringList DescriptionSet::openedFrom(const QString &key) const

@@ -26,6 +26,8 @@ QString Action::inWords() const
         return QStringLiteral("letting go at ") + at(place);
     case Kind::kPressButton:
         return QStringLiteral("a click on the companion's button");
+    case Kind::kRest:
+        return QStringLiteral("resting the mouse at ") + at(place);
     case Kind::kSelectAll:
         return QStringLiteral("Ctrl+A");
     case Kind::kType:
@@ -34,6 +36,8 @@ QString Action::inWords() const
         return QStringLiteral("Enter");
     case Kind::kEscape:
         return QStringLiteral("Esc");
+    case Kind::kChoose:
+        return QStringLiteral("choosing row %1").arg(row);
     }
     return {};
 }

@@ -17,12 +17,16 @@ struct Action
         kRelease,
         /// A click at place inside of the companion's button window.
         kPressButton,
+        /// The pointer comes to rest at place.
+        kRest,
         /// With the keyboard.
         kSelectAll,
         kType,
         kEnter,
         /// In the window that has the keyboard, wherever the step points.
         kEscape,
+        /// The row of the list that has dropped down, and Enter.
+        kChoose,
     };
 
     Kind kind = Kind::kClick;
@@ -32,12 +36,14 @@ struct Action
     quint32 window = 0;
     /// What kType types.
     QString text;
+    /// What kChoose takes, counted from 0.
+    int row = 0;
 
     /// Whether it is done with the keyboard, and the window with the focus gets it.
     [[nodiscard]] bool isOfKeyboard() const
     {
         return kind == Kind::kSelectAll || kind == Kind::kType || kind == Kind::kEnter ||
-               kind == Kind::kEscape;
+               kind == Kind::kEscape || kind == Kind::kChoose;
     }
 
     /// As a message says it, such as "a click at (10, 20)".
@@ -45,6 +51,7 @@ struct Action
 
     [[nodiscard]] bool operator==(const Action &other) const
     {
-        return kind == other.kind && place == other.place && window == other.window && text == other.text;
+        return kind == other.kind && place == other.place && window == other.window && text == other.text &&
+               row == other.row;
     }
 };

@@ -52,7 +52,7 @@ std::optional<Kind> mouseAction(const QString &icon)
 
 Action key(Kind kind, const QString &text = {})
 {
-    return {kind, {}, 0, text};
+    return {kind, {}, 0, text, 0};
 }
 
 QString textFor(const Condition &condition)
@@ -70,22 +70,35 @@ QString textFor(const Condition &condition)
 QVector<Action> typing(const Step &step)
 {
     QVector<Action> actions{key(Kind::kSelectAll), key(Kind::kType, textFor(step.condition))};
-    // A text of a certain length is there as soon as it is typed.
-    if (buttonCount(step) == 0 && step.condition.type() != Type::kTextLength) {
+    // A number or a text of a certain length is there as soon as it is typed, and Enter would press a button.
+    if (buttonCount(step) == 0 && step.condition.type() != Type::kTextLength &&
+        step.condition.type() != Type::kSpinBox) {
         actions.append(key(Kind::kEnter));
     }
     return actions;
+}
+
+/// What follows the click of the mouse.
+QVector<Action> finishing(const Step &step)
+{
+    if (step.icon == QLatin1String("keyboard")) {
+        return typing(step);
+    }
+    if (step.icon == QLatin1String("click") && step.condition.type() == Type::kComboBox) {
+        return {{Kind::kChoose, {}, 0, {}, step.condition.value().toInt()}};
+    }
+    return {};
 }
 
 /// A drag that the editor sees on its way, and not only where it begins and ends.
 QVector<Action> dragging(const QPoint &from, const QPoint &way)
 {
     constexpr int kParts = 3;
-    QVector<Action> actions{{Kind::kPress, from, 0, {}}};
+    QVector<Action> actions{{Kind::kPress, from, 0, {}, 0}};
     for (int part = 1; part <= kParts; ++part) {
-        actions.append({Kind::kCarry, from + way * part / kParts, 0, {}});
+        actions.append({Kind::kCarry, from + way * part / kParts, 0, {}, 0});
     }
-    actions.append({Kind::kRelease, from + way, 0, {}});
+    actions.append({Kind::kRelease, from + way, 0, {}, 0});
     return actions;
 }
 
@@ -93,7 +106,7 @@ Action pressOf(const SeenOverlays::Window &button)
 {
     // A place inside of the window: it moves once more when its companion comes to lay out the hint only now.
     // In its left part: the right edge of Yes lies below No.
-    return {Kind::kPressButton, {button.rect.width() / 3, button.rect.height() / 2}, button.id, {}};
+    return {Kind::kPressButton, {button.rect.width() / 3, button.rect.height() / 2}, button.id, {}, 0};
 }
 
 /// Whether the step waits for the end of a game that is tried out, whose window is none of the lesson's.
@@ -131,14 +144,30 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
     if (plan.spot && mouse == Kind::kClick && LessonWords::saysDrag(step.hint)) {
         plan.actions = dragging(*plan.spot, dragWay(step.hint));
     } else if (plan.spot && mouse) {
-        plan.actions.append({*mouse, *plan.spot, 0, {}});
-        if (step.icon == QLatin1String("keyboard")) {
-            plan.actions += typing(step);
-        }
+        plan.actions.append({*mouse, *plan.spot, 0, {}, 0});
+        plan.actions += finishing(step);
+    } else if (plan.spot && step.condition.type() == Type::kWait && step.icon == QLatin1String("eye")) {
+        // What shows by itself may need the mouse above it.
+        plan.actions.append({Kind::kRest, *plan.spot, 0, {}, 0});
     }
     const QVector<SeenOverlays::Window> &buttons = sight.overlays.buttons;
     if (!buttons.isEmpty()) {
         plan.actions.append(pressOf(answersYes ? buttons.constFirst() : buttons.constLast()));
     }
+    return plan;
+}
+
+std::optional<ActionPlan> ActionPlan::makeReturn(const QString &icon, const Sight &sight)
+{
+    const std::optional<Kind> mouse = mouseAction(icon);
+    if (!sight.overlays.bubble || !sight.overlays.buttons.isEmpty() || !sight.place || !mouse) {
+        return {};
+    }
+    ActionPlan plan;
+    plan.spot = arrowSpot(sight.overlays.bubble->topLeft(), *sight.place);
+    if (!plan.spot) {
+        return {};
+    }
+    plan.actions.append({*mouse, *plan.spot, 0, {}, 0});
     return plan;
 }

@@ -35,4 +35,6 @@ struct ActionPlan
     /// there.
     [[nodiscard]] static std::optional<ActionPlan> make(const Step &step, const Sight &sight,
                                                         bool answersYes);
+    /// The same for one who has strayed: at the spot what the icon @p icon of the way back says.
+    [[nodiscard]] static std::optional<ActionPlan> makeReturn(const QString &icon, const Sight &sight);
 };

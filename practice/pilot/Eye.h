@@ -24,6 +24,10 @@ public:
     [[nodiscard]] virtual bool takesClickAt(const QPoint &spot) = 0;
     /// Whether keys would reach the window of the editor at @p spot.
     [[nodiscard]] virtual bool takesKeysAt(const QPoint &spot) = 0;
+    /// How many times a button of the mouse came up in a window of the editor, as the editor has heard of it.
+    [[nodiscard]] virtual int clicksHeard() = 0;
+    /// Whether a list has dropped down in the editor, which then gets the keys.
+    [[nodiscard]] virtual bool seesList() = 0;
     /// What a message tells of the editor's windows, such as their titles, the one with the focus first.
     [[nodiscard]] virtual QString windows() = 0;
     /// Leaves a picture of the whole screen in the file @p path, a PNG. False when it cannot be written.

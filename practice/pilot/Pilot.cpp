@@ -1,6 +1,7 @@
 #include "pilot/Pilot.h"
 
 #include "host/LessonSession.h"
+#include "pilot/Mistake.h"
 
 #include <QDir>
 
@@ -13,6 +14,11 @@ constexpr int kRestMs = 110;
 constexpr int kBetweenClicksMs = 500;
 // Clicks farther apart than this, in pixels, are no double click.
 constexpr int kSameSpot = 10;
+// The editor has seen what was done by then, in milliseconds of the X server's clock.
+constexpr int kSeenMs = 150;
+// So often a beginner does again what came to nothing, and waits so long for it.
+constexpr int kMostTries = 3;
+constexpr int kTryMs = 2000;
 
 QString orNothing(const QString &text)
 {
@@ -84,6 +90,9 @@ void Pilot::onStepReached()
     m_done.clear();
     const ScenarioRunner &runner = m_session->runner();
     Q_EMIT stepReached(runner.index() + 1, runner.scenario().size(), stepText());
+    m_hasErred = false;
+    m_tries = 0;
+    m_sinceDone.invalidate();
     // So that what is there at the first look counts as just come.
     m_seen = {};
     m_sinceMoved.start();
@@ -122,14 +131,21 @@ void Pilot::onLimit()
 {
     switch (m_phase) {
     case Phase::kWatching:
-        breakStep(QStringLiteral(
-            "the bubble does not come to rest where the step points, or its buttons do not show"));
+        breakStep(isLost() ? QStringLiteral("nothing that can be clicked leads back to the step")
+                           : QStringLiteral("the bubble does not come to rest where the step points, or its "
+                                            "buttons do not show"));
         break;
     case Phase::kActing:
         breakStep(QStringLiteral("the window does not get the focus"));
         break;
     case Phase::kAwaiting:
-        breakStep(QStringLiteral("the condition does not come true"));
+        if (m_settings.isBeginner && m_tries++ < kMostTries) {
+            // What lay over it has taken the first click.
+            m_sinceDone.start();
+            enter(Phase::kWatching, m_settings.settleMs);
+        } else {
+            breakStep(QStringLiteral("the condition does not come true"));
+        }
         break;
     case Phase::kEnding:
         fail(QStringLiteral("the bubble or its buttons stay on the screen after the last step"));
@@ -233,16 +249,69 @@ void Pilot::watch()
     if (!m_session->runner().isRunning() || !isAtRest()) {
         return;
     }
-    const Step &step = m_session->runner().step();
-    const std::optional<ActionPlan> plan = ActionPlan::make(
-        step, {m_seen, m_session->bubblePlace(), m_session->lacksWindow()}, m_settings.answersYes);
-    if (!plan || isTooSoon(*plan) || (plan->spot && !m_eye->takesClickAt(*plan->spot)) ||
-        !takeShot(QStringLiteral("id%1").arg(step.id))) {
+    if (m_sinceDone.isValid() && !m_sinceDone.hasExpired(kSeenMs * m_settings.speed)) {
         return;
     }
-    m_plan = *plan;
+    const std::optional<ActionPlan> plan = isLost() ? returning() : planned();
+    if (!plan || isTooSoon(*plan) || (plan->spot && !m_eye->takesClickAt(*plan->spot))) {
+        return;
+    }
+    if (isLost()) {
+        begin(*plan, Intent::kReturn);
+    } else if (!err(*plan) && takeShot(QStringLiteral("id%1").arg(m_session->runner().step().id))) {
+        begin(*plan, Intent::kStep);
+    }
+}
+
+bool Pilot::isLost() const
+{
+    return m_settings.isBeginner && (m_session->isAstray() || m_session->canPutBack());
+}
+
+std::optional<ActionPlan> Pilot::planned() const
+{
+    const Sight sight{m_seen, m_session->bubblePlace(), m_session->lacksWindow()};
+    return ActionPlan::make(m_session->runner().step(), sight, m_settings.answersYes);
+}
+
+std::optional<ActionPlan> Pilot::returning() const
+{
+    if (m_session->canPutBack()) {
+        const std::optional<QPoint> place =
+            m_settings.putBackPlace ? m_settings.putBackPlace() : std::nullopt;
+        if (!place) {
+            return {};
+        }
+        return ActionPlan{place, {{Action::Kind::kClick, *place, 0, {}, 0}}, 0};
+    }
+    const std::optional<Way> way = m_session->wayBack();
+    return way ? ActionPlan::makeReturn(way->icon, {m_seen, m_session->bubblePlace(), false}) : std::nullopt;
+}
+
+bool Pilot::err(const ActionPlan &plan)
+{
+    if (!m_settings.isBeginner || std::exchange(m_hasErred, true)) {
+        return false;
+    }
+    const QVector<Action> actions = mistakeIn(plan, m_mistakes);
+    const std::optional<QPoint> place = actions.isEmpty() ? std::nullopt : mousePlace(actions.constFirst());
+    if (actions.isEmpty() || !(place ? m_eye->takesClickAt(*place) : canAct(actions.constFirst(), plan))) {
+        return false;
+    }
+    ++m_mistakes;
+    begin({plan.spot, actions, 0}, Intent::kMistake);
+    return true;
+}
+
+void Pilot::begin(const ActionPlan &plan, Intent intent)
+{
+    m_plan = plan;
+    m_clicksBefore.reset();
+    m_intent = intent;
     m_next = 0;
-    m_done.clear();
+    if (intent == Intent::kStep && !m_hasErred) {
+        m_done.clear();
+    }
     enter(Phase::kActing, m_settings.settleMs);
     act();
 }
@@ -250,14 +319,15 @@ void Pilot::watch()
 void Pilot::act()
 {
     if (m_next == m_plan.actions.size()) {
-        enter(Phase::kAwaiting, m_settings.conditionMs + m_plan.waitMs);
+        endActing();
         return;
     }
     const Action action = m_plan.actions.at(m_next);
-    if (action.isOfKeyboard() && m_plan.spot && !m_eye->takesKeysAt(*m_plan.spot)) {
+    if (!canAct(action, m_plan)) {
         return;
     }
     if (const std::optional<QPoint> place = mousePlace(action)) {
+        m_clicksBefore = m_eye->clicksHeard();
         m_sinceClick.start();
         m_lastClick = *place;
     }
@@ -273,6 +343,30 @@ void Pilot::act()
     case Hand::Result::kImpossible:
         breakStep(QStringLiteral("%1 cannot be done: the keyboard lacks a key for it").arg(action.inWords()));
         break;
+    }
+}
+
+bool Pilot::canAct(const Action &action, const ActionPlan &plan)
+{
+    if (action.kind == Action::Kind::kChoose) {
+        return m_eye->seesList();
+    }
+    if (!action.isOfKeyboard() && action.kind != Action::Kind::kPressButton) {
+        return true;
+    }
+    // A window manager may hold a click back, and keys or a button of the companion would come before it.
+    const bool isClickHeard = !m_clicksBefore || m_eye->clicksHeard() > *m_clicksBefore;
+    return isClickHeard && (!action.isOfKeyboard() || !plan.spot || m_eye->takesKeysAt(*plan.spot));
+}
+
+void Pilot::endActing()
+{
+    if (m_intent == Intent::kStep) {
+        const bool isTrying = m_settings.isBeginner && m_tries < kMostTries;
+        enter(Phase::kAwaiting, (isTrying ? kTryMs : m_settings.conditionMs) + m_plan.waitMs);
+    } else {
+        m_sinceDone.start();
+        enter(Phase::kWatching, m_settings.settleMs);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class LessonSession;
@@ -19,6 +20,8 @@ class LessonSession;
 ///
 /// A step whose condition does not come true that way is broken. The pilot tells of it, passes it by, and
 /// plays on, since the next may be broken for a reason of its own.
+///
+/// As a beginner it does something wrong in each step first, and then follows the arrow back.
 class Pilot : public QObject
 {
     Q_OBJECT
@@ -41,6 +44,10 @@ public:
         /// How many times as fast as the X server's clock that of this program and the companion's runs. The
         /// machine is no faster for it, and the server tells by its own clock what is a double click.
         int speed = 1;
+        bool isBeginner = false;
+        /// Where a click puts back what went wrong, in global screen pixels, for a beginner; nothing where it
+        /// cannot be clicked.
+        std::function<std::optional<QPoint>()> putBackPlace;
     };
 
     /// A play is given up after so many broken steps in a row: what follows them tells nothing.
@@ -76,6 +83,8 @@ private:
         kEnding,
         kOver,
     };
+    /// What the actions of the plan are for.
+    enum class Intent { kStep, kMistake, kReturn };
 
     /// @p limitMs of the X server's clock.
     void enter(Phase phase, int limitMs);
@@ -84,7 +93,17 @@ private:
     void onTick();
     void onLimit();
     void watch();
+    /// A beginner has left the way of the step.
+    [[nodiscard]] bool isLost() const;
+    /// What is to be done as things are seen; nothing as long as they are not ready for it.
+    [[nodiscard]] std::optional<ActionPlan> planned() const;
+    [[nodiscard]] std::optional<ActionPlan> returning() const;
+    void begin(const ActionPlan &plan, Intent intent);
+    /// Begins to do something wrong. False when in this step there is nothing to do wrong any more.
+    [[nodiscard]] bool err(const ActionPlan &plan);
     void act();
+    [[nodiscard]] bool canAct(const Action &action, const ActionPlan &plan);
+    void endActing();
     void watchEnd();
     void end();
     /// Writes down that the present step is broken, and passes it by.
@@ -118,11 +137,19 @@ private:
     QPoint m_lastClick;
     SeenOverlays m_seen;
     ActionPlan m_plan;
+    Intent m_intent = Intent::kStep;
     /// How many of the plan's actions are done, and which, in words.
     int m_next = 0;
     QStringList m_done;
     int m_pictures = 0;
     int m_brokenInARow = 0;
     bool m_isPassing = false;
+    /// In all of the play, and whether one of them in this step.
+    int m_mistakes = 0;
+    bool m_hasErred = false;
+    int m_tries = 0;
+    QElapsedTimer m_sinceDone;
+    /// The editor had heard of so many clicks before the last one, if that was in this plan.
+    std::optional<int> m_clicksBefore;
     QStringList m_failures;
 };

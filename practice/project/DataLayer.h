@@ -63,6 +63,8 @@ public:
     /// What the layer has of its own and nobody else keeps, as JSON, and back.
     [[nodiscard]] virtual QJsonObject saveSelf() const;
     virtual void loadSelf(const QJsonObject &state);
+    /// Of that, what was typed and not only selected.
+    [[nodiscard]] virtual QJsonObject saveTyped() const { return {}; }
 
 Q_SIGNALS:
     /// A file or a selection did.

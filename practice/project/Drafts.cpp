@@ -50,8 +50,13 @@ void Draft::accept()
 QJsonObject Draft::saveSelf() const
 {
     QJsonObject state = DataLayer::saveSelf();
-    state.insert(draftMember(), DataRootsJson::save(m_files));
+    state.insert(draftMember(), saveTyped());
     return state;
+}
+
+QJsonObject Draft::saveTyped() const
+{
+    return DataRootsJson::save(m_files);
 }
 
 void Draft::loadSelf(const QJsonObject &state)

@@ -20,6 +20,7 @@ public:
     void accept() override;
     [[nodiscard]] QJsonObject saveSelf() const override;
     void loadSelf(const QJsonObject &state) override;
+    [[nodiscard]] QJsonObject saveTyped() const override;
     /// Drops what was typed.
     void clear();
 

@@ -103,7 +103,7 @@ QString GuidedWindows::projectId() const
 
 QString GuidedWindows::dataMark() const
 {
-    return m_view.project->files().lastStep();
+    return m_guides->keeper.dataMark();
 }
 
 EditorState GuidedWindows::state() const

@@ -4,7 +4,9 @@
 #include "window/EditorWindow.h"
 #include "window/EditorWindows.h"
 
+#include <QCryptographicHash>
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <utility>
 
@@ -48,6 +50,18 @@ EditorState StateKeeper::state() const
         state.insert(kPopup, QJsonObject{{kKey, popup->key()}, {kX, at.x()}, {kY, at.y()}});
     }
     return EditorState::fromJson(state);
+}
+
+QString StateKeeper::dataMark() const
+{
+    QCryptographicHash typed(QCryptographicHash::Sha1);
+    for (const QString &key : *m_view.stack) {
+        if ((*m_view.descriptions)[key].isDraft) {
+            const DataLayer &draft = m_view.window(key)->layer();
+            typed.addData(key.toUtf8() + QJsonDocument(draft.saveTyped()).toJson(QJsonDocument::Compact));
+        }
+    }
+    return m_view.project->files().lastStep() + QString::fromLatin1(typed.result().toHex());
 }
 
 bool StateKeeper::restore(const EditorState &state) const

@@ -15,6 +15,8 @@ public:
                 std::function<void(const QString &, const QPoint &)> popUp);
 
     [[nodiscard]] EditorState state() const;
+    /// Changes with the project's data and with what was typed into the open dialogs.
+    [[nodiscard]] QString dataMark() const;
     /// False when the project cannot be opened any more; then nothing has changed but that dialogs are
     /// closed.
     bool restore(const EditorState &state) const;

@@ -119,7 +119,7 @@ std::unique_ptr<QWidget> tst_HandAndEye::showOverlay(const QRect &rect)
 
 Action tst_HandAndEye::actionAt(Action::Kind kind, const QPoint &inWindow) const
 {
-    return {kind, XWindows::positionOf(m_window->winId()) + inWindow, 0, {}};
+    return {kind, XWindows::positionOf(m_window->winId()) + inWindow, 0, {}, 0};
 }
 
 bool tst_HandAndEye::isReady(const QPoint &inWindow)
@@ -182,7 +182,7 @@ void tst_HandAndEye::pressesAButtonWhereverItHasGone()
 {
     const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
     QVERIFY(button);
-    const Action press{Action::Kind::kPressButton, {21, 16}, onScreen(*button).id, {}};
+    const Action press{Action::Kind::kPressButton, {21, 16}, onScreen(*button).id, {}, 0};
     button->move(350, 260);
     QTRY_COMPARE_WITH_TIMEOUT(XWindows::positionOf(button->winId()), QPoint(350, 260), kSoonMs);
     QCOMPARE(m_hand->perform(press), Hand::Result::kDone);
@@ -195,7 +195,7 @@ void tst_HandAndEye::missesAButtonThatIsGone()
 {
     std::unique_ptr<QWidget> button = showOverlay({350, 260, 64, 32});
     QVERIFY(button);
-    const Action press{Action::Kind::kPressButton, {21, 16}, onScreen(*button).id, {}};
+    const Action press{Action::Kind::kPressButton, {21, 16}, onScreen(*button).id, {}, 0};
     button->hide();
     QTRY_COMPARE_WITH_TIMEOUT(m_hand->perform(press), Hand::Result::kMissed, kSoonMs);
     button.reset();
@@ -216,15 +216,15 @@ void tst_HandAndEye::typesWhatTheKeyboardHas()
     QCOMPARE(m_hand->perform(click), Hand::Result::kDone);
     QTRY_VERIFY_WITH_TIMEOUT(line.hasFocus() && m_eye->takesKeysAt(click.place), kSoonMs);
     const QString text = QStringLiteral("Village 35, a_B!");
-    QCOMPARE(m_hand->perform({Action::Kind::kSelectAll, {}, 0, {}}), Hand::Result::kDone);
-    QCOMPARE(m_hand->perform({Action::Kind::kType, {}, 0, text}), Hand::Result::kDone);
+    QCOMPARE(m_hand->perform({Action::Kind::kSelectAll, {}, 0, {}, 0}), Hand::Result::kDone);
+    QCOMPARE(m_hand->perform({Action::Kind::kType, {}, 0, text, 0}), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(line.text(), text, kSoonMs);
     QCOMPARE(entered.size(), 0);
-    QCOMPARE(m_hand->perform({Action::Kind::kEnter, {}, 0, {}}), Hand::Result::kDone);
+    QCOMPARE(m_hand->perform({Action::Kind::kEnter, {}, 0, {}, 0}), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(entered.size(), 1, kSoonMs);
     const QShortcut escape(QKeySequence(Qt::Key_Escape), m_window.get());
     QSignalSpy escaped(&escape, &QShortcut::activated);
-    QCOMPARE(m_hand->perform({Action::Kind::kEscape, {}, 0, {}}), Hand::Result::kDone);
+    QCOMPARE(m_hand->perform({Action::Kind::kEscape, {}, 0, {}, 0}), Hand::Result::kDone);
     QTRY_COMPARE_WITH_TIMEOUT(escaped.size(), 1, kSoonMs);
 }
 

@@ -1,5 +1,6 @@
 #include "pilot/x11/XEye.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
@@ -73,7 +74,22 @@ struct Answers
 XEye::XEye(std::shared_ptr<const XConnection> x)
     : m_x(std::move(x))
     , m_pidAtom(m_x->atom("_NET_WM_PID"))
+    , m_heard(std::make_unique<Ear>())
 {
+}
+
+XEye::Ear::Ear()
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool XEye::Ear::eventFilter(QObject *watched, QEvent *event)
+{
+    // A window passes on what it gets to the widgets in it.
+    if (event->type() == QEvent::MouseButtonRelease && qobject_cast<QWindow *>(watched) != nullptr) {
+        ++clicks;
+    }
+    return false;
 }
 
 std::optional<SeenOverlays> XEye::overlays()
@@ -149,6 +165,14 @@ bool XEye::takesKeysAt(const QPoint &spot)
 {
     QWindow *const window = editorWindowAt(spot);
     return window != nullptr && QGuiApplication::focusWindow() == window;
+}
+
+bool XEye::seesList()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWindow *window) {
+        return window->isVisible() && window->type() == Qt::Popup;
+    });
 }
 
 QString XEye::windows()

@@ -3,6 +3,7 @@
 #include "pilot/Eye.h"
 #include "pilot/x11/XConnection.h"
 
+#include <QObject>
 #include <QVector>
 
 /// Finds the companion's windows in the X server's tree of windows, and those of the editor through Qt.
@@ -17,10 +18,20 @@ public:
     [[nodiscard]] std::optional<SeenOverlays> overlays() override;
     [[nodiscard]] bool takesClickAt(const QPoint &spot) override;
     [[nodiscard]] bool takesKeysAt(const QPoint &spot) override;
+    [[nodiscard]] int clicksHeard() override { return m_heard->clicks; }
+    [[nodiscard]] bool seesList() override;
     [[nodiscard]] QString windows() override;
     [[nodiscard]] bool takePicture(const QString &path) override;
 
 private:
+    /// Listens to all that the windows of this program get.
+    struct Ear : QObject
+    {
+        Ear();
+        bool eventFilter(QObject *watched, QEvent *event) override;
+        int clicks = 0;
+    };
+
     using Ids = QVector<xcb_window_t>;
 
     /// Those of @p windows that are on the screen; nothing when one of them is gone.
@@ -32,4 +43,5 @@ private:
     std::shared_ptr<const XConnection> m_x;
     xcb_atom_t m_pidAtom;
     qint64 m_pid = 0;
+    std::unique_ptr<Ear> m_heard;
 };

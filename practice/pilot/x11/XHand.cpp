@@ -17,6 +17,33 @@ constexpr uint8_t kLeftButton = 1;
 constexpr uint8_t kRightButton = 3;
 constexpr QPoint kBeside(2, 2);
 
+/// What to press, one after the other.
+QVector<std::optional<XKeyboard::Key>> keysOf(const Action &action, const XKeyboard &keyboard)
+{
+    using Named = XKeyboard::Named;
+    QVector<std::optional<XKeyboard::Key>> keys;
+    switch (action.kind) {
+    case Action::Kind::kSelectAll:
+        return {keyboard.withControl('a')};
+    case Action::Kind::kEnter:
+        return {keyboard.named(Named::kEnter)};
+    case Action::Kind::kEscape:
+        return {keyboard.named(Named::kEscape)};
+    case Action::Kind::kChoose:
+        keys.append(keyboard.named(Named::kHome));
+        keys.append(QVector<std::optional<XKeyboard::Key>>(action.row, keyboard.named(Named::kDown)));
+        keys.append(keyboard.named(Named::kEnter));
+        return keys;
+    default:
+        break;
+    }
+    const QVector<uint> characters = action.text.toUcs4();
+    for (const uint character : characters) {
+        keys.append(keyboard.keyFor(character));
+    }
+    return keys;
+}
+
 } // namespace
 
 XHand::XHand(std::shared_ptr<const XConnection> x)
@@ -39,22 +66,13 @@ Hand::Result XHand::perform(const Action &action)
         return drag(action);
     case Action::Kind::kPressButton:
         return click(action.window, action.place, kLeftButton);
-    case Action::Kind::kSelectAll:
-        return strike({XKeyboard(*m_x).withControl('a')});
-    case Action::Kind::kEnter:
-        return strike({XKeyboard(*m_x).enter()});
-    case Action::Kind::kEscape:
-        return strike({XKeyboard(*m_x).escape()});
-    case Action::Kind::kType:
-        break;
+    case Action::Kind::kRest:
+        goTo(m_x->root(), action.place);
+        m_x->sync();
+        return Result::kDone;
+    default:
+        return strike(keysOf(action, XKeyboard(*m_x)));
     }
-    const XKeyboard keyboard(*m_x);
-    QVector<std::optional<XKeyboard::Key>> keys;
-    const QVector<uint> characters = action.text.toUcs4();
-    for (const uint character : characters) {
-        keys.append(keyboard.keyFor(character));
-    }
-    return strike(keys);
 }
 
 Hand::Result XHand::click(xcb_window_t window, const QPoint &place, uint8_t button, int times)

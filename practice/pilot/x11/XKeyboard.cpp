@@ -3,10 +3,27 @@
 namespace {
 
 // Names of keys, as X11's keysymdef.h numbers them.
-constexpr xcb_keysym_t kEscape = 0xff1b;
 constexpr xcb_keysym_t kReturn = 0xff0d;
+constexpr xcb_keysym_t kEscape = 0xff1b;
+constexpr xcb_keysym_t kHome = 0xff50;
+constexpr xcb_keysym_t kDown = 0xff54;
 constexpr xcb_keysym_t kShift = 0xffe1;
 constexpr xcb_keysym_t kControl = 0xffe3;
+
+xcb_keysym_t symbolOf(XKeyboard::Named name)
+{
+    switch (name) {
+    case XKeyboard::Named::kEnter:
+        return kReturn;
+    case XKeyboard::Named::kEscape:
+        return kEscape;
+    case XKeyboard::Named::kHome:
+        return kHome;
+    case XKeyboard::Named::kDown:
+        return kDown;
+    }
+    return 0;
+}
 
 xcb_keysym_t symbolOf(uint character)
 {
@@ -47,19 +64,9 @@ std::optional<XKeyboard::Key> XKeyboard::withControl(uint character) const
     return Key{code, control};
 }
 
-std::optional<XKeyboard::Key> XKeyboard::enter() const
+std::optional<XKeyboard::Key> XKeyboard::named(Named name) const
 {
-    return alone(kReturn);
-}
-
-std::optional<XKeyboard::Key> XKeyboard::escape() const
-{
-    return alone(kEscape);
-}
-
-std::optional<XKeyboard::Key> XKeyboard::alone(xcb_keysym_t symbol) const
-{
-    const xcb_keycode_t code = find(symbol, 0);
+    const xcb_keycode_t code = find(symbolOf(name), 0);
     if (code == 0) {
         return {};
     }

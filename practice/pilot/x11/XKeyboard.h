@@ -21,11 +21,10 @@ public:
     [[nodiscard]] std::optional<Key> keyFor(uint character) const;
     /// What to press for it as a shortcut with Ctrl.
     [[nodiscard]] std::optional<Key> withControl(uint character) const;
-    [[nodiscard]] std::optional<Key> enter() const;
-    [[nodiscard]] std::optional<Key> escape() const;
+    enum class Named { kEnter, kEscape, kHome, kDown };
+    [[nodiscard]] std::optional<Key> named(Named name) const;
 
 private:
-    [[nodiscard]] std::optional<Key> alone(xcb_keysym_t symbol) const;
     /// The key with a symbol, alone (level 0) or with Shift (level 1); 0 when there is none.
     [[nodiscard]] xcb_keycode_t find(xcb_keysym_t symbol, int level) const;
 

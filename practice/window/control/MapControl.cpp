@@ -17,6 +17,21 @@ ControlSpot strokeSpot(const EditorWindow &window, const MapView &view, const QS
     return window.spot(name, fills ? -1 : ControlSpot::cell(cell.x(), cell.y()));
 }
 
+/// The cell at @p place, in global screen pixels.
+ControlSpot spotAt(const EditorWindow &window, const MapView &view, const QString &name, const QPoint &place)
+{
+    const QPoint inMap = view.mapFromGlobal(place);
+    const int pixels = window.project().tools().cellPixels();
+    return window.spot(name, ControlSpot::cell(inMap.x() / pixels, inMap.y() / pixels));
+}
+
+/// The marked cell.
+ControlSpot markedSpot(const EditorWindow &window, const MapView &view, const QString &name)
+{
+    const QPoint cell = view.markedCell();
+    return window.spot(name, ControlSpot::cell(cell.x(), cell.y()));
+}
+
 } // namespace
 
 ControlMaker readMap(ControlReader &reader)
@@ -42,13 +57,13 @@ ControlMaker readMap(ControlReader &reader)
             window->report(QStringLiteral("mouseEvent"), target, how, strokeSpot(*window, *view, name));
         });
         QObject::connect(view, &MapView::menuRequested, window,
-                         [window, target, description, name](const QPoint &at) {
+                         [window, view, target, description, name](const QPoint &at) {
                              window->report(QStringLiteral("menuEvent"), target, QStringLiteral("click"),
                                             window->spot(name));
-                             window->act(description.contextMenu, at, window->spot(name));
+                             window->act(description.contextMenu, at, spotAt(*window, *view, name, at));
                          });
-        QObject::connect(view, &MapView::opened, window, [window, description, name] {
-            window->act(description.doubleClick, QCursor::pos(), window->spot(name));
+        QObject::connect(view, &MapView::opened, window, [window, view, description, name] {
+            window->act(description.doubleClick, QCursor::pos(), markedSpot(*window, *view, name));
         });
         const auto onWish = [window, view, name](auto wish, const ControlAction &action) {
             QObject::connect(view, wish, window, [window, action, name] {

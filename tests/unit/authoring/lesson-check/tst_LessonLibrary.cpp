@@ -27,6 +27,9 @@ private Q_SLOTS:
     void namesAFileThatIsGone();
     void namesALessonThatIsNotInTheList();
     void namesTextsOfALessonThatIsGone();
+    void checksScenarioFilesInAFolder();
+    void takesTheCatalogueOfAFileFirst();
+    void namesAFolderWithoutScenarioFiles();
 };
 
 void tst_LessonLibrary::findsNothingInASoundLibrary()
@@ -337,6 +340,65 @@ void tst_LessonLibrary::namesTextsOfALessonThatIsGone()
     QVERIFY(QFile::remove(path(scenarioFile())));
     QVERIFY(errors().contains(QStringLiteral("resource/translations/ja_JP.ts: TutorialStep1: no lesson has "
                                              "this name, so its texts are never used")));
+}
+
+namespace {
+
+const QString kFolder = QStringLiteral("trials/scenarios");
+
+/// A lesson of the library as a scenario file with catalogues of its own.
+void copyLesson(const QDir &root)
+{
+    QVERIFY(root.mkpath(QStringLiteral("trials/scenarios/desk")));
+    QVERIFY(root.mkpath(QStringLiteral("trials/translations")));
+    QVERIFY(QFile::copy(root.filePath(scenarioFile()),
+                        root.filePath(kFolder + QStringLiteral("/desk/Harbor.js"))));
+    for (const char *const locale : {"en_US", "ja_JP", "zh_CN"}) {
+        QByteArray texts = readFile(root.filePath(catalogueFile(locale)));
+        texts.replace("TutorialStep1", "Harbor");
+        // The last context is that of the lesson.
+        texts = texts.left(texts.indexOf("<context>")) + texts.mid(texts.lastIndexOf("<context>"));
+        QVERIFY(writeFile(
+            root.filePath(QStringLiteral("trials/translations/%1.ts").arg(QLatin1String(locale))), texts));
+    }
+}
+
+} // namespace
+
+void tst_LessonLibrary::checksScenarioFilesInAFolder()
+{
+    copyLesson(QDir(path(QString())));
+    QCOMPARE(lines(LessonLibrary(path(QString())).checkScenarios(kFolder)), QStringList());
+    replace(QStringLiteral("trials/translations/ja_JP.ts"), "<name>Harbor</name>", "<name>Haven</name>");
+    const QStringList found = lines(LessonLibrary(path(QString())).checkScenarios(kFolder));
+    QVERIFY2(found.filter(QStringLiteral("trials/scenarios/desk/Harbor.js"))
+                     .filter(QStringLiteral("the text #1 is missing in ja_JP"))
+                     .size() == 1,
+             qPrintable(found.join(QLatin1Char('\n'))));
+    QVERIFY2(
+        found.contains(QStringLiteral("trials/translations/ja_JP.ts: Haven: no lesson has this name, so its "
+                                      "texts are never used")),
+        qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void tst_LessonLibrary::takesTheCatalogueOfAFileFirst()
+{
+    copyLesson(QDir(path(QString())));
+    const QString own = QStringLiteral("trials/scenarios/desk/Harbor.ja_JP.ts");
+    QVERIFY(QFile::copy(path(QStringLiteral("trials/translations/ja_JP.ts")), path(own)));
+    replace(own, "<source>#1</source>", "<source>#7</source>");
+    const QStringList found = lines(LessonLibrary(path(QString())).checkScenarios(kFolder));
+    QVERIFY2(found.filter(own)
+                     .filter(QStringLiteral("#7"))
+                     .filter(QStringLiteral("the text is never used"))
+                     .size() == 1,
+             qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void tst_LessonLibrary::namesAFolderWithoutScenarioFiles()
+{
+    QCOMPARE(lines(LessonLibrary(path(QString())).checkScenarios(QStringLiteral("resource/icons"))),
+             QStringList(QStringLiteral("resource/icons: there is no scenario file")));
 }
 
 QTEST_MAIN(tst_LessonLibrary)

@@ -58,6 +58,8 @@ QString wordsOf(const ActionPlan &plan)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Sight)
+
 class tst_ActionPlan : public QObject
 {
     Q_OBJECT
@@ -76,6 +78,9 @@ private Q_SLOTS:
     void waitsUntilAllIsInPlace_data();
     void waitsUntilAllIsInPlace();
     void takesABubbleThatWasNeverSent();
+    void goesBackWhereTheArrowPoints();
+    void goesBackOnlyWhenTheArrowIsThere_data();
+    void goesBackOnlyWhenTheArrowIsThere();
 };
 
 void tst_ActionPlan::doesWhatTheIconSays_data()
@@ -96,7 +101,8 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("windowState,NewProject,close", "click", kClick);
     row("action,fileSave,close", "click", kClick);
     row("tabView,tabview,1", "click", kClick);
-    row("comboBox,moveType,1", "click", kClick);
+    row("comboBox,moveType,1", "click", "a click at (438, 432); choosing row 1");
+    row("comboBox,moveType,1", "doubleClick", kDoubleClick);
     row("checked,directionFix,1", "click", kClick);
     row("radioButton,RadioButton,8", "click", kClick);
     row("pressed,0,0", "click", kClick);
@@ -105,8 +111,8 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("list,2", "doubleClick", kDoubleClick);
     row("popup,MapPopup", "rightClick", kRightClick);
 
-    row("spinBox,=,35 %", "keyboard", "a click at (438, 432); Ctrl+A; typing \"35\"; Enter");
-    row("spinBox,=,-7", "keyboard", "a click at (438, 432); Ctrl+A; typing \"-7\"; Enter");
+    row("spinBox,=,35 %", "keyboard", "a click at (438, 432); Ctrl+A; typing \"35\"");
+    row("spinBox,=,-7", "keyboard", "a click at (438, 432); Ctrl+A; typing \"-7\"");
     row("textLength,name,4", "keyboard", "a click at (438, 432); Ctrl+A; typing \"aaaa\"");
     row("textLength,name,0", "keyboard", "a click at (438, 432); Ctrl+A; typing \"a\"");
     row("windowState,MapProperties,close", "keyboard",
@@ -120,6 +126,7 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("yesNo", "eye", kNext);
     row("windowState,Copying,close", "wait", "");
     row("wait,700", "wait", "");
+    row("wait,700", "eye", "resting the mouse at (438, 432)");
     row("wait", "", "");
     row("list,2", "", "");
     row("list,2", "drag", "");
@@ -188,7 +195,7 @@ void tst_ActionPlan::pressesInsideTheButtonsWindow()
 {
     const Step reading = stepOf(QStringLiteral("click,"), QStringLiteral("eye"));
     const Action press = ActionPlan::make(reading, sightWith({kLeft}), true)->actions.constFirst();
-    QCOMPARE(press, (Action{Action::Kind::kPressButton, QPoint(21, 16), kLeft.id, {}}));
+    QCOMPARE(press, (Action{Action::Kind::kPressButton, QPoint(21, 16), kLeft.id, {}, 0}));
     // Where No stands beside it, the place on Yes is not below No.
     QVERIFY(!kRight.rect.contains(kLeft.rect.topLeft() + press.place));
 }
@@ -204,6 +211,36 @@ void tst_ActionPlan::readsAConditionThatIsNoneAsNext()
     const std::optional<ActionPlan> plan = ActionPlan::make(scenario.step(0), sightWith({kLeft}), true);
     QVERIFY(plan);
     QCOMPARE(wordsOf(*plan), QStringLiteral("a click at (438, 432); a click on the companion's button"));
+}
+
+void tst_ActionPlan::goesBackWhereTheArrowPoints()
+{
+    const std::optional<ActionPlan> plan =
+        ActionPlan::makeReturn(QStringLiteral("rightClick"), sightWith({}));
+    QVERIFY(plan);
+    QCOMPARE(*plan->spot, QPoint(438, 432));
+    QCOMPARE(wordsOf(*plan), QStringLiteral("a right click at (438, 432)"));
+}
+
+void tst_ActionPlan::goesBackOnlyWhenTheArrowIsThere_data()
+{
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<Sight>("sight");
+    const QString click = QStringLiteral("click");
+    Sight gliding = sightWith({});
+    gliding.overlays.bubble->translate(-9, 0);
+    QTest::newRow("on its way") << click << gliding;
+    QTest::newRow("not shown") << click << Sight{{}, kPlace, false};
+    QTest::newRow("never sent") << click << Sight{{kBubble, {}}, std::nullopt, false};
+    QTest::newRow("Next is still there") << click << sightWith({kLeft});
+    QTest::newRow("nothing to do with the mouse") << QStringLiteral("eye") << sightWith({});
+}
+
+void tst_ActionPlan::goesBackOnlyWhenTheArrowIsThere()
+{
+    QFETCH(QString, icon);
+    QFETCH(Sight, sight);
+    QVERIFY(!ActionPlan::makeReturn(icon, sight));
 }
 
 void tst_ActionPlan::isPatientWithWhatTakesTime_data()

@@ -1,6 +1,6 @@
 #include "FakeEditor.h"
+#include "PilotScene.h"
 #include "host/LessonSession.h"
-#include "pilot/Pilot.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -21,80 +21,14 @@ const QString kClicking = QStringLiteral(
     R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
 const QString kTyping = QStringLiteral(
     R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
+const QString kChoosing = QStringLiteral(
+    R"({"id":6,"x":10,"y":-20,"windowKey":"MainWindow","condition":"comboBox,kind,2","hint":"Choose","icon":"click"})");
 const QString kDragging = QStringLiteral(
     R"({"id":5,"x":10,"y":-20,"windowKey":"MainWindow","condition":"pressed,0,0","hint":"Drag to the right","icon":"click"})");
 const QString kReading = QStringLiteral(
     R"({"id":3,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"Read","icon":"eye"})");
 const QString kReadingOn = QStringLiteral(
     R"({"id":4,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"On","icon":"eye"})");
-
-/// What the screen and the editor show is the test's to say.
-struct Scene
-{
-    std::function<std::optional<SeenOverlays>()> look;
-    bool takesClicks = true;
-    bool takesKeys = true;
-    bool takesPictures = true;
-    int looks = 0;
-    int questionsForKeys = 0;
-    QStringList pictures;
-    QVector<Action> acts;
-    /// What comes of an action; every action is done when there is nothing to say.
-    std::function<Hand::Result(const Action &)> perform;
-};
-
-class SceneEye : public Eye
-{
-public:
-    explicit SceneEye(Scene *scene)
-        : m_scene(scene)
-    {
-    }
-
-    std::optional<SeenOverlays> overlays() override
-    {
-        ++m_scene->looks;
-        return m_scene->look();
-    }
-    bool takesClickAt(const QPoint &spot) override
-    {
-        Q_UNUSED(spot)
-        return m_scene->takesClicks;
-    }
-    bool takesKeysAt(const QPoint &spot) override
-    {
-        Q_UNUSED(spot)
-        ++m_scene->questionsForKeys;
-        return m_scene->takesKeys;
-    }
-    QString windows() override { return QStringLiteral("\"Editor\""); }
-    bool takePicture(const QString &path) override
-    {
-        m_scene->pictures += path.section(QLatin1Char('/'), -1);
-        return m_scene->takesPictures;
-    }
-
-private:
-    Scene *m_scene;
-};
-
-class SceneHand : public Hand
-{
-public:
-    explicit SceneHand(Scene *scene)
-        : m_scene(scene)
-    {
-    }
-
-    Result perform(const Action &action) override
-    {
-        m_scene->acts.append(action);
-        return m_scene->perform ? m_scene->perform(action) : Result::kDone;
-    }
-
-private:
-    Scene *m_scene;
-};
 
 } // namespace
 
@@ -110,6 +44,8 @@ private Q_SLOTS:
     void aLookThatFailedIsNone();
     void clicksOnlyWhereTheClickGoes();
     void typesOnlyWithTheFocus();
+    void typesOnlyBehindTheClick();
+    void choosesOnlyFromAListThatIsOpen();
     void plansAnewWhatWasMissed();
     void keepsTwoClicksApart();
     void playsToTheEndAndSeesTheOverlaysGo();
@@ -220,11 +156,15 @@ void tst_Pilot::aLookThatFailedIsNone()
 
 void tst_Pilot::clicksOnlyWhereTheClickGoes()
 {
-    m_scene.takesClicks = false;
+    m_scene.takesClicks = [](const QPoint &) {
+        return false;
+    };
     begin({kClicking});
     QTRY_VERIFY_WITH_TIMEOUT(m_scene.looks > kSeveral, kSoonMs);
     QVERIFY(m_scene.acts.isEmpty());
-    m_scene.takesClicks = true;
+    m_scene.takesClicks = [](const QPoint &) {
+        return true;
+    };
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
 }
 
@@ -237,6 +177,30 @@ void tst_Pilot::typesOnlyWithTheFocus()
     m_scene.takesKeys = true;
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
     QCOMPARE(m_scene.acts.at(2).text, QStringLiteral("aa"));
+}
+
+void tst_Pilot::typesOnlyBehindTheClick()
+{
+    m_scene.hearsClicks = false;
+    begin({kTyping});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.questionsForClicks > kSeveral, kSoonMs);
+    QCOMPARE(m_scene.acts.size(), 1);
+    m_scene.hearsClicks = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
+}
+
+void tst_Pilot::choosesOnlyFromAListThatIsOpen()
+{
+    m_scene.hasList = false;
+    begin({kChoosing});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.questionsForLists > kSeveral, kSoonMs);
+    QCOMPARE(m_scene.acts.size(), 1);
+    m_scene.hasList = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
+    QCOMPARE(m_scene.acts.constLast().kind, Action::Kind::kChoose);
+    QCOMPARE(m_scene.acts.constLast().row, 2);
 }
 
 void tst_Pilot::plansAnewWhatWasMissed()
