@@ -46,7 +46,7 @@ QVector<int> placesOf(const QString &word, const QString &text)
 bool isPartOf(const QString &term, const QString &word, const QString &text, int place)
 {
     for (int at = int(term.indexOf(word)); at >= 0; at = int(term.indexOf(word, at + 1))) {
-        if (place >= at && text.mid(place - at, term.size()).compare(term, Qt::CaseInsensitive) == 0) {
+        if (place >= at && text.indexOf(term, place - at, Qt::CaseInsensitive) == place - at) {
             return true;
         }
     }

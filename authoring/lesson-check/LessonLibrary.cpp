@@ -146,11 +146,10 @@ QVector<Catalogue> LessonLibrary::cataloguesBeside(const QString &file)
         const QString common =
             QDir::cleanPath(scenario.path() + QStringLiteral("/../../translations/%1.ts").arg(locale));
         const QString used = QFile::exists(QDir(m_root).filePath(own)) ? own : common;
-        auto known = m_beside.constFind(used);
-        if (known == m_beside.constEnd()) {
-            known = m_beside.insert(used, Catalogue(used, locale, read(used), m_findings));
+        if (!m_beside.contains(used)) {
+            m_beside.insert(used, Catalogue(used, locale, read(used), m_findings));
         }
-        catalogues.append(*known);
+        catalogues.append(*m_beside.constFind(used));
     }
     return catalogues;
 }

@@ -58,9 +58,10 @@ private:
                                     << QStringList{QStringLiteral("--allow-vanish"),
                                                    QStringLiteral("--chain"), QStringLiteral("--help"),
                                                    QStringLiteral("--output"), QStringLiteral("--version")};
-        QTest::newRow("lesson-check") << QStringLiteral(LESSON_CHECK)
-                                      << QStringList{QStringLiteral("--complete"), QStringLiteral("--help"),
-                                                     QStringLiteral("--version")};
+        QTest::newRow("lesson-check")
+            << QStringLiteral(LESSON_CHECK)
+            << QStringList{QStringLiteral("--complete"), QStringLiteral("--help"),
+                           QStringLiteral("--scenarios"), QStringLiteral("--version")};
         QTest::newRow("lesson-position")
             << QStringLiteral(LESSON_POSITION)
             << QStringList{QStringLiteral("--help"), QStringLiteral("--lines"), QStringLiteral("--tree"),
@@ -71,11 +72,11 @@ private:
                            QStringLiteral("--companion"), QStringLiteral("--dump-controls"),
                            QStringLiteral("--from"),      QStringLiteral("--help"),
                            QStringLiteral("--key"),       QStringLiteral("--lesson"),
-                           QStringLiteral("--locale"),    QStringLiteral("--pilot"),
-                           QStringLiteral("--record"),    QStringLiteral("--scenario"),
-                           QStringLiteral("--script"),    QStringLiteral("--shots"),
-                           QStringLiteral("--test-play"), QStringLiteral("--version"),
-                           QStringLiteral("--way")};
+                           QStringLiteral("--locale"),    QStringLiteral("--mistakes"),
+                           QStringLiteral("--pilot"),     QStringLiteral("--record"),
+                           QStringLiteral("--scenario"),  QStringLiteral("--script"),
+                           QStringLiteral("--shots"),     QStringLiteral("--test-play"),
+                           QStringLiteral("--version"),   QStringLiteral("--way")};
     }
 };
 

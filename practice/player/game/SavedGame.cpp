@@ -207,7 +207,7 @@ Actor Actor::fromJson(const QJsonObject &json, const GameData &data)
         }
     }
     actor.states = numbersFrom(
-        member(json, "states"), [&data](int id) { return data.states.find(id) != nullptr; }, 9999);
+        member(json, "states"), [&data](int state) { return data.states.find(state) != nullptr; }, 9999);
     actor.hp = qMax(0, number(json, "hp"));
     actor.mp = qMax(0, number(json, "mp"));
     actor.changeExp(qint64(number(json, "exp")) - actor.exp, data);

@@ -505,7 +505,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>「イベント処理の中断」をダブルクリックしてください。設定する項目がないので、すぐに一覧に入ります。</translation>
+      <translation>「イベント処理の中断」をダブルクリックします。設定はなく、すぐに一覧に入ります。</translation>
     </message>
     <message>
       <source>#9</source>

@@ -106,7 +106,7 @@
 "name":"Tab 3",
 "folder":false,
 "translationId":7,
-"x":332,
+"x":262,
 "y":-102,
 "windowKey":"Traits",
 "condition":"tabView,tabview,3",

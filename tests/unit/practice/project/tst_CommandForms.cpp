@@ -339,6 +339,9 @@ void tst_CommandForms::everyChoiceSetIsUsed()
             used.insert(text(control, "choices"));
         }
     }
+    // The enemies of a troop have their own names; the sets have the words for those of any other.
+    used.insert(str("commandEnemies"));
+    used.insert(str("commandEnemyPlaces"));
     const QStringList sets = commandFiles::all("choices").keys();
     int own = 0;
     for (const QString &set : sets) {

@@ -246,10 +246,11 @@ void tst_Project::everyNameIsKnown()
     const QStringList sources = room.project.sources().names();
     // Nothing is being edited or looked for.
     const QStringList empty{str("choice.number"), str("command/entries"), str("eventPages"), str("found")};
-    QCOMPARE(sources, (QStringList{str("choice.number"), str("command/entries"), str("commandTab"),
-                                   str("commandsOfTab"), str("eventPages"), str("found"), str("maps"),
-                                   str("projects"), str("routeTargets"), str("sampleMaps"), str("tileSets"),
-                                   str("tileTab"), str("tiles")}));
+    QCOMPARE(sources,
+             (QStringList{str("battleEnemies"), str("battleEnemiesOrAll"), str("choice.number"),
+                          str("command/entries"), str("commandTab"), str("commandsOfTab"), str("eventPages"),
+                          str("found"), str("maps"), str("projects"), str("routeTargets"), str("sampleMaps"),
+                          str("tileSets"), str("tileTab"), str("tiles")}));
     for (const QString &source : sources) {
         QVERIFY2(room.row(qPrintable(source)) == (empty.contains(source) ? -1 : 0), qPrintable(source));
     }
