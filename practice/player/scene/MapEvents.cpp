@@ -150,7 +150,8 @@ void MapEvents::beginByThemselves()
 /// What has ended begins anew; what does not hold any more is over.
 void MapEvents::beginBeside()
 {
-    for (const World::Event &event : m_world->events()) {
+    const World &world = *m_world;
+    for (const World::Event &event : world.events()) {
         const int id = event.entry->id;
         const bool runs = event.page != nullptr && event.page->trigger == Trigger::kParallel &&
                           hasCommands(event.page->list);

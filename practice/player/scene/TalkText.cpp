@@ -36,7 +36,7 @@ QString replaced(const QString &line, const Game &game)
     QRegularExpressionMatchIterator matches = word.globalMatch(line);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        text += line.mid(end, int(match.capturedStart()) - end);
+        text.append(line.constData() + end, int(match.capturedStart()) - end);
         end = int(match.capturedEnd());
         const QString kind = match.captured(1).toLower();
         const int number = match.captured(2).toInt();
@@ -52,7 +52,8 @@ QString replaced(const QString &line, const Game &game)
             text += match.captured();
         }
     }
-    return text + line.mid(end);
+    text.append(line.constData() + end, int(line.size()) - end);
+    return text;
 }
 
 /// What a control character without a number does; a letter for the others.

@@ -33,8 +33,8 @@ QPixmap Artwork::tile(int tile, int tileSet, int pixels)
 {
     const quint64 key =
         (quint64(quint32(tile)) << 32U) | (quint64(quint16(tileSet)) << 16U) | quint16(pixels);
-    auto kept = m_tiles.constFind(key);
-    if (kept == m_tiles.constEnd()) {
+    auto kept = m_tiles.find(key);
+    if (kept == m_tiles.end()) {
         kept = m_tiles.insert(key, m_tileArt(tile, tileSet, pixels));
     }
     return *kept;
@@ -43,8 +43,8 @@ QPixmap Artwork::tile(int tile, int tileSet, int pixels)
 QPixmap Artwork::source(const QString &folder, const QString &name)
 {
     const QString key = folder + QLatin1Char('/') + name;
-    auto kept = m_sources.constFind(key);
-    if (kept == m_sources.constEnd()) {
+    auto kept = m_sources.find(key);
+    if (kept == m_sources.end()) {
         kept = m_sources.insert(key, m_pictureArt(folder, name));
     }
     return *kept;
