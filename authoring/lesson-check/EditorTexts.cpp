@@ -112,8 +112,8 @@ QSet<QString> EditorTexts::shown(const QString &locale, const QVector<Catalogue>
                 continue; // hints are what is looked at
             }
             const Catalogue::Messages messages = catalogue.messages(context);
-            for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
-                all.insert(message->translation);
+            for (const auto &message : messages) {
+                all.insert(message.translation);
             }
         }
     }

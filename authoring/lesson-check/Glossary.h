@@ -2,6 +2,7 @@
 
 #include "lesson-check/Finding.h"
 
+#include <QJsonObject>
 #include <QMap>
 #include <QStringList>
 

@@ -38,7 +38,7 @@ void addLessons()
         return;
     }
     const QString lessons = str(TUTORIAL_SOURCE_DIR "/resource/qml/Tutorial");
-    addRows(lessons, str("TutorialStep1.js"), 0);
+    addRows(lessons, str("TutorialStep1.js"), all ? 0 : qEnvironmentVariableIntValue("TUTORIAL_STRAY_STEPS"));
     addRows(lessons, str("TutorialStep[2-9].js"), all ? 0 : kStepsOfLesson);
     addRows(lessons, str("TutorialStep1?.js"), all ? 0 : kStepsOfLesson);
     addRows(str(TUTORIAL_SOURCE_DIR "/tests/trials/scenarios"), str("*.js"), all ? 0 : kStepsOfTrial);
@@ -58,7 +58,8 @@ QVector<QJsonObject> drawn(QVector<QJsonObject> bookmarks, int count, quint32 se
 
 /// A learner who does a hundred things at random, and then follows the arrow until she has done something
 /// again. In the environment TUTORIAL_STRAY_FROM_ALL strays from all steps of all lessons and trials,
-/// TUTORIAL_SEED draws other things to do, and TUTORIAL_STRAY_IN is a folder with other scenarios:
+/// TUTORIAL_SEED draws other things to do, TUTORIAL_STRAY_STEPS is the number of steps of lesson 1 instead of
+/// all, and TUTORIAL_STRAY_IN is a folder with other scenarios:
 ///
 ///     TUTORIAL_STRAY_FROM_ALL=1 TUTORIAL_SEED=22 build/release/tests/tst_StrayLearner
 ///     everyStepIsReachedAgain
