@@ -114,7 +114,7 @@ std::optional<Way> Whereabouts::wayToWindows() const
     // What is hidden behind another tab is out of reach until that is in front again, and with another tool
     // in the hand it is something else.
     const bool isOther = opensSomethingElse(*way);
-    const std::optional<Way> chosen = isOther || !m_editor->rectOf(way->by) ? wayToChosen() : std::nullopt;
+    std::optional<Way> chosen = isOther || !m_editor->rectOf(way->by) ? wayToChosen() : std::nullopt;
     if (chosen) {
         return chosen;
     }

@@ -7,9 +7,7 @@
 
 #include <algorithm>
 
-namespace player {
-
-namespace Effects {
+namespace player::Effects {
 
 namespace {
 
@@ -111,7 +109,7 @@ void learn(const Stroke &stroke, int skill, QVector<Note> *notes)
 
 int blow(int attack, int defense)
 {
-    return int(qBound<qint64>(1, 2 * qint64(attack) - defense, kMostPoints));
+    return int(qBound(qint64(1), 2 * qint64(attack) - defense, qint64(kMostPoints)));
 }
 
 int turnsOf(const StateEntry &state, Random *random)
@@ -189,6 +187,4 @@ QVector<Note> apply(const Stroke &stroke, const NamedNumbers &effects)
     return notes;
 }
 
-} // namespace Effects
-
-} // namespace player
+} // namespace player::Effects

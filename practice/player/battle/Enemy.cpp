@@ -13,12 +13,12 @@ constexpr int kMostPoints = 99999;
 int rated(int value, const NamedNumbers &traits, const char *rate)
 {
     const qint64 percent = Actor::rate(traits, rate);
-    return int(qBound<qint64>(0, value * percent / 100, kMostPoints));
+    return int(qBound(qint64(0), qint64(value * percent / 100), qint64(kMostPoints)));
 }
 
 int within(qint64 value, int most)
 {
-    return int(qBound<qint64>(0, value, most));
+    return int(qBound(qint64(0), value, qint64(most)));
 }
 
 } // namespace

@@ -5,9 +5,7 @@
 
 #include <algorithm>
 
-namespace player {
-
-namespace EnemyPlan {
+namespace player::EnemyPlan {
 
 namespace {
 
@@ -76,6 +74,4 @@ bool leadsNowhere(const GameData &data, int enemy)
                         [&](const EnemyAction &action) { return data.skills.find(action.skill) != nullptr; });
 }
 
-} // namespace EnemyPlan
-
-} // namespace player
+} // namespace player::EnemyPlan

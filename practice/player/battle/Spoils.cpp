@@ -12,7 +12,7 @@ constexpr int kMostPoints = 9999999;
 
 void add(int *sum, int amount)
 {
-    *sum = int(qBound<qint64>(0, qint64(*sum) + amount, kMostPoints));
+    *sum = int(qBound(qint64(0), qint64(*sum) + amount, qint64(kMostPoints)));
 }
 
 } // namespace

@@ -77,7 +77,7 @@ struct Actor
     [[nodiscard]] static Actor fromJson(const QJsonObject &json, const GameData &data);
 
 private:
-    void learnUpTo(int level, const GameData &data);
+    void learnUpTo(int reached, const GameData &data);
 };
 
 } // namespace player

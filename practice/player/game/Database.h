@@ -172,7 +172,7 @@ struct TroopEntry : Entry
 struct StateEntry : Entry
 {
     /// What is said of an actor who gets it, of an enemy who does, while it lasts, and when it is over.
-    QString messages[4];
+    QVector<QString> messages = QVector<QString>(4);
     /// 0 none, 1 attacks an enemy, 2 anyone, 3 an ally, 4 cannot act.
     int restriction = 0;
     bool endsWithBattle = false;

@@ -37,8 +37,8 @@ void Screen::tick()
         sliding->tick();
     }
     shakeTicks = qMax(0, shakeTicks - 1);
-    for (auto picture = pictures.begin(); picture != pictures.end(); ++picture) {
-        picture->tick();
+    for (auto &picture : pictures) {
+        picture.tick();
     }
 }
 

@@ -47,11 +47,9 @@ bool ScriptRunner::runLine(const ScriptLine &line)
         m_say(start + QStringLiteral("nobody knows what to do: %1").arg(line.text));
         return false;
     }
-    const bool isExpectation = line.words.constFirst() == QLatin1String("expect");
-    if (!seen->isDone) {
-        m_say(start + QStringLiteral("FAILED: %1; seen: %2").arg(line.text, seen->text));
-    } else if (isExpectation) {
-        m_say(start + QStringLiteral("ok: %1; seen: %2").arg(line.text, seen->text));
+    if (!seen->isDone || line.words.constFirst() == QLatin1String("expect")) {
+        const QString verdict = seen->isDone ? QStringLiteral("ok") : QStringLiteral("FAILED");
+        m_say(start + QStringLiteral("%1: %2; seen: %3").arg(verdict, line.text, seen->text));
     }
     return seen->isDone;
 }
