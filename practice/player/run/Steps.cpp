@@ -194,8 +194,8 @@ Seen chooseNumber(Hand *hand, const QStringList &values)
 
 Seen chooseText(Hand *hand, const QStringList &values)
 {
-    const QString text = values.at(0);
-    return chooseRow(hand, [text](const Panel &list) {
+    const QString &text = values.at(0);
+    return chooseRow(hand, [&text](const Panel &list) {
         for (int row = 0; row < list.rows.size(); ++row) {
             if (list.rows.at(row).text == text) {
                 return row;
