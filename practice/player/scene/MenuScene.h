@@ -24,7 +24,7 @@ private:
 
     void list(const Game &game);
     void choose(Game *game);
-    void open(int command, int actor, Game *game);
+    void open(int command, int place, Game *game);
 
     ListPanel m_commands;
     ListPanel m_party;

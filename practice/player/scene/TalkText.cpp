@@ -81,15 +81,14 @@ Token tokenOf(QChar sign)
 
 QVector<TalkText::Token> TalkText::read(const QString &line, const Game &game)
 {
-    static const QRegularExpression colourWord(QStringLiteral("\\\\[cC]\\[(\\d{1,3})\\]"));
+    static const QRegularExpression colourWord(QStringLiteral("\\G\\\\[cC]\\[(\\d{1,3})\\]"));
     const QString text = replaced(line, game);
     QVector<Token> tokens;
     int colour = 0;
     for (int i = 0; i < text.size(); ++i) {
         const QChar sign = text.at(i);
         if (sign == QLatin1Char('\\') && i + 1 < text.size()) {
-            const QRegularExpressionMatch match = colourWord.match(text, i, QRegularExpression::NormalMatch,
-                                                                   QRegularExpression::AnchoredMatchOption);
+            const QRegularExpressionMatch match = colourWord.match(text, i);
             if (match.hasMatch()) {
                 colour = match.captured(1).toInt();
                 i += int(match.capturedLength()) - 1;
