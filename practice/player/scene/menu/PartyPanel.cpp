@@ -4,9 +4,7 @@
 #include "player/game/GameState.h"
 #include "player/scene/Terms.h"
 
-namespace player {
-
-namespace PartyPanel {
+namespace player::PartyPanel {
 
 namespace {
 
@@ -77,6 +75,4 @@ QVector<PanelLine> figures(const Actor &actor, const GameData &data, const Actor
     };
 }
 
-} // namespace PartyPanel
-
-} // namespace player
+} // namespace player::PartyPanel
