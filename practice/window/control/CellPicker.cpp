@@ -56,12 +56,33 @@ void CellPicker::paintEvent(QPaintEvent * /*event*/)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void CellPicker::mousePressEvent(QMouseEvent *event)
+std::optional<QPoint> CellPicker::cellUnder(const QMouseEvent &event) const
 {
     const MapPainter::Fit fit = MapPainter::fit(m_map, size());
-    const QPoint at = event->pos() - fit.corner;
-    if (event->button() == Qt::LeftButton && at.x() >= 0 && at.y() >= 0) {
-        choose({at.x() / fit.cellPixels, at.y() / fit.cellPixels});
+    const QPoint at = event.pos() - fit.corner;
+    const QPoint cell(at.x() / fit.cellPixels, at.y() / fit.cellPixels);
+    const bool isOnMap = at.x() >= 0 && at.y() >= 0 && m_map.contains(cell);
+    return isOnMap && event.button() == Qt::LeftButton ? std::optional(cell) : std::nullopt;
+}
+
+void CellPicker::mousePressEvent(QMouseEvent *event)
+{
+    if (const std::optional<QPoint> cell = cellUnder(*event)) {
+        choose(*cell);
+    }
+}
+
+void CellPicker::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const std::optional<QPoint> cell = cellUnder(*event);
+    if (!cell) {
+        return;
+    }
+    // The first of the two clicks may have been on the cell beside it.
+    const bool isChosen = *cell == m_cell;
+    choose(*cell);
+    if (isChosen) {
+        Q_EMIT cellOpened();
     }
 }
 

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class MapPainter;
 
 /// Shows a whole map with its events, as large as it fits, and lets the person choose one of its cells with
@@ -22,15 +24,20 @@ public:
 
 Q_SIGNALS:
     void cellChosen(const QPoint &cell);
+    /// The chosen cell was double-clicked.
+    void cellOpened();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    /// The cell under the mouse; nothing beside the map.
+    [[nodiscard]] std::optional<QPoint> cellUnder(const QMouseEvent &event) const;
     void choose(const QPoint &cell);
 
     MapPainter *m_painter;

@@ -3,6 +3,8 @@
 #include "project/MapTree.h"
 #include "window/control/CellPicker.h"
 
+#include <QCursor>
+
 namespace {
 
 /// The name of the field that stands in @p member.
@@ -25,7 +27,8 @@ ControlMaker readMapCell(ControlReader &reader)
     const QString x = fieldIn(reader, QStringLiteral("x"));
     const QString y = fieldIn(reader, QStringLiteral("y"));
     MapPainter *painter = reader.context().painter;
-    return [target, map, x, y, painter, name = reader.description().name](EditorWindow *window) {
+    return [target, map, x, y, painter, name = reader.description().name,
+            doubleClick = reader.description().doubleClick](EditorWindow *window) {
         auto *picker = new CellPicker(painter, window);
         keepFresh(picker, window, [picker, window, map, x, y] {
             const QJsonValue file = window->layer().file(MapTree::fileOf(window->field(map).toInt()));
@@ -39,6 +42,9 @@ ControlMaker readMapCell(ControlReader &reader)
                              window->report(QStringLiteral("mouseEvent"), target, QStringLiteral("click"),
                                             window->spot(name));
                          });
+        QObject::connect(picker, &CellPicker::cellOpened, window, [doubleClick, name, window] {
+            window->act(doubleClick, QCursor::pos(), window->spot(name));
+        });
         return picker;
     };
 }

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void everyCommandOfTheSampleOpensItsForm();
     void theWayIsWrittenWithButtons();
     void aPlaceIsChosenOnTheMap();
+    void aDoubleClickOnACellTakesThePlace();
     void quickEventsComeFromTheMenu_data();
     void quickEventsComeFromTheMenu();
     void goodsOfAShop();
@@ -333,6 +334,27 @@ void tst_EventWindows::aPlaceIsChosenOnTheMap()
     QCOMPARE(list[0][QLatin1String("parameters")], (QJsonArray{0, map, x, y, 0, 0}));
     // Choosing a place shows no other map.
     QCOMPARE(editor->project()->board().number(), 1);
+}
+
+void tst_EventWindows::aDoubleClickOnACellTakesThePlace()
+{
+    SampleEditor editor;
+    begin(editor);
+    clickCell(editor, kFree, Qt::RightButton);
+    editor.click("EventPopup", "quickTransfer");
+    editor.click("QuickTransfer", "choosePlace");
+    auto *cell = editor.find<QWidget>("Location", "cell");
+    const QPoint middle = cell->rect().center();
+    // A second click beside the first one only chooses.
+    QTest::mouseClick(cell, Qt::LeftButton, {}, middle - QPoint(60, 60));
+    QTest::mouseDClick(cell, Qt::LeftButton, {}, middle);
+    QVERIFY(editor->openWindows().contains(str("Location")));
+    QTest::mouseClick(cell, Qt::LeftButton, {}, middle);
+    const int x = editor.find<QSpinBox>("Location", "x")->value();
+    QTest::mouseDClick(cell, Qt::LeftButton, {}, middle);
+    QVERIFY(!editor->openWindows().contains(str("Location")));
+    QVERIFY(x > 0);
+    QCOMPARE(editor.find<QSpinBox>("QuickTransfer", "x")->value(), x);
 }
 
 void tst_EventWindows::quickEventsComeFromTheMenu_data()
