@@ -77,7 +77,15 @@ Stray Whereabouts::stray() const
     }
     const bool isInMenu = m_editor->windowOf(m_needs->step.windowKey) == QLatin1String("Popup");
     const bool hasMenu = !m_open.isEmpty() && m_open.constLast().isMenu;
-    return !isInMenu && hasMenu ? Stray::kCovered : Stray::kGone;
+    if (isInMenu || !hasMenu) {
+        return Stray::kGone;
+    }
+    return isAskedMenu(m_open.constLast()) ? Stray::kNot : Stray::kCovered;
+}
+
+bool Whereabouts::isAskedMenu(const OpenWindow &menu) const
+{
+    return m_needs->step.icon == QLatin1String("rightClick") && menu.cause.isLike(*m_needs->pointed);
 }
 
 std::optional<Way> Whereabouts::wayBack(Stray stray) const

@@ -48,6 +48,8 @@ public:
 private:
     [[nodiscard]] bool isThere(const OpenWindows &open) const;
     [[nodiscard]] bool hasOtherMeaning() const;
+    /// Whether the step asks for the right click that has opened this menu, which may lie over the spot then.
+    [[nodiscard]] bool isAskedMenu(const OpenWindow &menu) const;
     [[nodiscard]] std::optional<Way> wayToWindows() const;
     /// Whether its control means something else than when the window or menu was opened for the step.
     [[nodiscard]] bool opensSomethingElse(const Way &way) const;

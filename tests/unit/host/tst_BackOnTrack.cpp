@@ -46,6 +46,7 @@ private Q_SLOTS:
     void opensAMenuAgainAtTheSameRow();
     void namesTheRowOfTheLessonWhereNothingWasOpened();
     void aMenuAboveTheControlHasToGo();
+    void aMenuThatTheStepAsksForMayStay();
     void bringsTheTabBackThatTheStepIsAbout();
     void doesNotMindWhatTheStepIsNotAbout();
     void anotherProjectIsPutBack();
@@ -230,6 +231,29 @@ void tst_BackOnTrack::aMenuAboveTheControlHasToGo()
     played.editor.closeMenu();
     played.editor.report(str("list"), str("1"));
     QCOMPARE(played.id(), 2);
+}
+
+void tst_BackOnTrack::aMenuThatTheStepAsksForMayStay()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play(
+        {Played::item(1, "MainWindow", "click,", "rightClick"), Played::item(2, "MainWindow", "list,3")});
+    played.turn();
+    played.use("MainWindow", "maps", 3);
+    played.editor.popUp(str("MapPopup"));
+    played.editor.m_hidden = {row};
+    played.turn();
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    // The step behind it asks for the row itself.
+    played.session.next();
+    played.turn();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.session.wayBack()->by, Played::spot("Menu", "@dismiss"));
 }
 
 void tst_BackOnTrack::bringsTheTabBackThatTheStepIsAbout()
