@@ -28,6 +28,8 @@ public:
 
     /// The list that is open takes the place of the party.
     [[nodiscard]] bool isWide() const;
+    /// Whether the cancel key leads back to a list or to the one who was asked before.
+    [[nodiscard]] bool canGoBack() const { return m_open.size() > 1 || m_place > 0; }
     /// Who is asked; nobody while none is.
     [[nodiscard]] Fighter asked() const;
     /// The fighter whom the cursor is on.

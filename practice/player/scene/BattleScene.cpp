@@ -294,6 +294,7 @@ void BattleScene::show(const Game &game, Frame *frame) const
     }
     const bool isAsking =
         m_phase == Phase::kCommands && !m_talk.isTalking() && !m_interpreter->isRunning() && m_told.isEmpty();
+    frame->isTrialAtRest = m_isTest && !(isAsking && m_menu.canGoBack());
     BattleView view = m_view;
     view.hidesParty = m_talk.isTalking() || (isAsking && m_menu.isWide());
     view.hidesLog = isAsking;

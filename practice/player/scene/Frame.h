@@ -178,6 +178,8 @@ struct Frame
     QPoint shake;
     /// Such as "1:30"; empty while none runs.
     QString timer;
+    /// A battle that is tried out, where the escape key has nothing to cancel: it ends the game.
+    bool isTrialAtRest = false;
     /// Counts the ticks, for whatever moves by itself.
     qint64 tick = 0;
 

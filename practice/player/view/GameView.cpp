@@ -119,6 +119,9 @@ void GameView::tellWords()
 
 bool GameView::isOutermost() const
 {
+    if (m_frame.isTrialAtRest) {
+        return true;
+    }
     const auto closes = [](const Panel &panel) {
         return panel.isWaiting || isTalk(panel) ||
                (!panel.rows.isEmpty() && panel.role != QLatin1String("title"));

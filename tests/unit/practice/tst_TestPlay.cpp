@@ -150,7 +150,8 @@ void tst_TestPlay::aBattleIsTriedFromItsDialog()
     m_editor->click("BattleTest", "start");
     QVERIFY(m_play->isOn());
     QTRY_VERIFY_WITH_TIMEOUT(!window()->view()->frame().battlers.isEmpty(), kSoonMs);
-    window()->close();
+    QTest::keyClick(window()->view(), Qt::Key_Escape);
+    QVERIFY(!m_play->isOn());
     QCOMPARE((*m_editor)->openWindows(),
              (QStringList{str("MainWindow"), str("DatabaseMain"), str("BattleTest")}));
 }

@@ -26,12 +26,12 @@ private:
 
 struct BattleRun : SceneRun
 {
-    explicit BattleRun(const SlimeGame &small, bool canFlee = true, bool canLose = true)
+    explicit BattleRun(const SlimeGame &small, bool canFlee = true, bool canLose = true, bool isTest = false)
         : SceneRun(small)
     {
         game.begin(std::make_unique<Listener>(&results));
         wait(1);
-        open<BattleScene>(BattleWish{1, canFlee, canLose}, false, game);
+        open<BattleScene>(BattleWish{1, canFlee, canLose}, isTest, game);
     }
 
     /// Acts until the battle has ended.
@@ -70,6 +70,8 @@ private Q_SLOTS:
     void anAbortedBattleCountsAsFled();
     void aTroopWithoutMembersEndsAtOnceAndIsTold();
     void noTickDoesMoreThanOneDeed();
+    void aTrialIsLeftWhereNothingCanBeCancelled_data();
+    void aTrialIsLeftWhereNothingCanBeCancelled();
 };
 
 void tst_BattleScene::aBattleIsFoughtToItsVictory()
@@ -235,6 +237,29 @@ void tst_BattleScene::noTickDoesMoreThanOneDeed()
     }
     QVERIFY(before < 9999);
     QCOMPARE(largest, 1); // attack 1 against defense 1
+}
+
+void tst_BattleScene::aTrialIsLeftWhereNothingCanBeCancelled_data()
+{
+    QTest::addColumn<bool>("isTest");
+    QTest::newRow("a trial") << true;
+    QTest::newRow("a battle of the game") << false;
+}
+
+void tst_BattleScene::aTrialIsLeftWhereNothingCanBeCancelled()
+{
+    QFETCH(bool, isTest);
+    SlimeGame small;
+    small.begin();
+    BattleRun run(small, true, true, isTest);
+    QCOMPARE(run.game.frame().isTrialAtRest, isTest); // enemies are appearing
+    QVERIFY(run.hurry("commands"));
+    QCOMPARE(run.game.frame().isTrialAtRest, isTest);
+    QVERIFY(run.choose(QStringLiteral("Attack")));
+    QCOMPARE(run.role(), QStringLiteral("enemies"));
+    QVERIFY(!run.game.frame().isTrialAtRest);
+    run.cancel();
+    QCOMPARE(run.game.frame().isTrialAtRest, isTest);
 }
 
 QTEST_GUILESS_MAIN(tst_BattleScene)
