@@ -1442,4 +1442,204 @@ Click “Next” to begin.</translation>
       <translation>Lesson 3 makes a door and treasure chests. Click “Next” to finish.</translation>
     </message>
   </context>
+  <context>
+    <name>TutorialStep10</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson maps get their music and battle backdrops.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with village and mine, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The village, the forest and the mine will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The maps are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Music belongs to a map. It begins when the player comes in, and lasts until the next map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Play” to see how the village is now.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Choose “New game” and press Enter until Mila can walk. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Mila walks with the arrow keys, or to where you click. All keys are shown below the game.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Go into the shop and out again. Nothing says that this is Amberfield, and it is quiet here.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Press the Esc key to go back to the editor.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “Amberfield” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click “Events”. Now you see the doors and the ways out, where the music changes.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Behind this door is the shop. Its piece, “Home”, begins as soon as Mila is inside.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Here she goes to the forest path, where “Forest” begins.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Maps can share a piece: Mila's house, the shop and the inn all have “Home”.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Forest path and mine entrance share “Forest”: it does not stop between them.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>A right click on a map in the list leads to “Map properties…”. A double-click is quicker.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Double-click “Amberfield”, which has no music yet.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Choose…” to see all the music there is.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click “Village”, a calm piece for a peaceful place.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>“Volume” says how loud it is. A little below 100 % leaves room for sounds.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “OK” to take this piece.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Type the name that the player is to see here, such as Amberfield. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “OK”. The village has its music now, and a name for the player.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Click “Play” to see what has changed.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Begin a “New game”. Your name for the village appears at the top. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Go into the shop and out again: at the door the piece changes. Test play itself is silent.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>In the south is the forest path. It shows no name, because none is set for that map.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Now for battles. Behind the enemies, the map's backdrop is seen: here it is “Mountains”.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “Old mine” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Here is nothing but rock. But without a backdrop, its battles would be seen in a meadow.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Double-click “Old mine”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Click the empty field beside “Battle backdrop”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click some of the names; on the right you see each backdrop. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “Rocks”, which suits a mine.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Click “OK” to take this backdrop.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>The list of “Encounters” is empty: no enemies come yet. Lesson 14 sees to that.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click “OK”. Enemies in the mine will stand between rocks.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>The map looks as it did before: a backdrop is seen in battles only.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>“Undo” takes back what was set in “Map properties”, too, window by window.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Click “Map” to hide the events again.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>In this mode “Map properties…” is there for a right click in the map view, too.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click “Save” to write music, name and backdrop into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Done! You can give a map its music, a name on arrival and a backdrop for battles.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Lesson 11 lets guards walk on a route of your own. Click “Next” to finish.</translation>
+    </message>
+  </context>
 </TS>
