@@ -137,8 +137,14 @@ void PracticeEditor::connectSession()
             tr("What there was when this step began cannot be brought back: the project in which you were "
                "is gone or cannot be read. Start the lesson again."));
     });
-    connect(&m_session, &LessonSession::nextArrived, m_windows.get(), &EditorWindows::takeFocusBack);
-    connect(&m_session, &LessonSession::nextArrived, m_testPlay.get(), &TestPlay::takeFocus);
+    connect(&m_session, &LessonSession::nextArrived, this, [this] {
+        // One of the two alone: a window manager may grant what both ask for in either order.
+        if (m_testPlay->isOn()) {
+            m_testPlay->takeFocus();
+        } else {
+            m_windows->takeFocusBack();
+        }
+    });
     connect(&m_session, &LessonSession::lessonsListed, this, &PracticeEditor::onListed);
     connect(&m_session, &LessonSession::showRequested, this, [this](const ControlSpot &spot) {
         if (const std::optional<QRect> rect = m_windows->rectOf(spot)) {
