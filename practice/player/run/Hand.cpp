@@ -19,7 +19,13 @@ Hand::Hand(Game *game)
 
 void Hand::tick(const Input &input)
 {
+    const bool wasBattle = isBattle();
     m_game->tick(input);
+    if (wasBattle && !isBattle()) {
+        const MapScene *const below = map();
+        // Where no map goes on, the game is over.
+        m_lastBattle = below != nullptr ? BattleOutcome(below->result()) : BattleOutcome::kLost;
+    }
     m_problems += m_game->takeProblems();
     m_sounds += m_game->frame().sounds;
 }
@@ -47,12 +53,17 @@ bool Hand::until(int ticks, const std::function<bool()> &holds)
 
 const MapScene *Hand::map() const
 {
-    return dynamic_cast<const MapScene *>(m_game->scene());
+    return dynamic_cast<const MapScene *>(scene());
+}
+
+MapScene *Hand::map()
+{
+    return dynamic_cast<MapScene *>(m_game->scene());
 }
 
 bool Hand::isBattle() const
 {
-    return dynamic_cast<const BattleScene *>(m_game->scene()) != nullptr;
+    return dynamic_cast<const BattleScene *>(scene()) != nullptr;
 }
 
 bool Hand::isFree() const
@@ -73,6 +84,15 @@ bool Hand::isAsked() const
         }
     }
     return false;
+}
+
+QString Hand::whereabouts() const
+{
+    return QStringLiteral("the hero stands on map %1 at %2 %3, and there is %4")
+        .arg(state().map)
+        .arg(state().hero.cell.x())
+        .arg(state().hero.cell.y())
+        .arg(seen());
 }
 
 QString Hand::textOf(const Panel &panel)

@@ -7,6 +7,15 @@
 
 namespace player {
 
+namespace {
+
+QString unknownLine(const ScriptLine &line)
+{
+    return QStringLiteral("line %1: nobody knows what to do: %2").arg(line.number).arg(line.text);
+}
+
+} // namespace
+
 ScriptRunner::ScriptRunner(Game *game, Say say)
     : m_hand(game)
     , m_say(std::move(say))
@@ -18,7 +27,10 @@ const WordTable &ScriptRunner::words()
     static const WordTable table = [] {
         WordTable words;
         addSteps(&words);
+        addChanges(&words);
         addExpectations(&words);
+        addExpectationsOfSight(&words);
+        addExpectationsOfBattle(&words);
         return words;
     }();
     return table;
@@ -27,6 +39,17 @@ const WordTable &ScriptRunner::words()
 QStringList ScriptRunner::patterns()
 {
     return words().patterns();
+}
+
+QStringList ScriptRunner::unknown(const QVector<ScriptLine> &lines)
+{
+    QStringList errors;
+    for (const ScriptLine &line : lines) {
+        if (!words().knows(line.words)) {
+            errors.append(unknownLine(line));
+        }
+    }
+    return errors;
 }
 
 bool ScriptRunner::run(const QVector<ScriptLine> &lines)
@@ -41,15 +64,15 @@ bool ScriptRunner::run(const QVector<ScriptLine> &lines)
 
 bool ScriptRunner::runLine(const ScriptLine &line)
 {
-    const QString start = QStringLiteral("line %1: ").arg(line.number);
     const std::optional<Seen> seen = words().run(&m_hand, line.words);
     if (!seen) {
-        m_say(start + QStringLiteral("nobody knows what to do: %1").arg(line.text));
+        m_say(unknownLine(line));
         return false;
     }
     if (!seen->isDone || line.words.constFirst() == QLatin1String("expect")) {
         const QString verdict = seen->isDone ? QStringLiteral("ok") : QStringLiteral("FAILED");
-        m_say(start + QStringLiteral("%1: %2; seen: %3").arg(verdict, line.text, seen->text));
+        m_say(QStringLiteral("line %1: %2: %3; seen: %4")
+                  .arg(QString::number(line.number), verdict, line.text, seen->text));
     }
     return seen->isDone;
 }

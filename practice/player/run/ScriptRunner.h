@@ -25,6 +25,8 @@ public:
     [[nodiscard]] Hand &hand() { return m_hand; }
     /// All that a script can say, as patterns of words.
     [[nodiscard]] static QStringList patterns();
+    /// A line for each one that says what no script can say.
+    [[nodiscard]] static QStringList unknown(const QVector<ScriptLine> &lines);
 
 private:
     [[nodiscard]] static const WordTable &words();

@@ -17,16 +17,6 @@ constexpr int kWalk = 120 * kSecond;
 constexpr int kPatience = 3 * kSecond;
 constexpr int kMostAnswers = 10 * kSecond;
 
-QString here(const Hand &hand)
-{
-    const GameState &state = hand.state();
-    return QStringLiteral("the hero stands on map %1 at %2 %3, and there is %4")
-        .arg(state.map)
-        .arg(state.hero.cell.x())
-        .arg(state.hero.cell.y())
-        .arg(hand.seen());
-}
-
 /// Clicks a cell until @p isThere; the hero walks as far as nothing happens on the way.
 Seen go(Hand *hand, const std::function<QPoint()> &cell, const std::function<bool()> &isThere)
 {
@@ -34,26 +24,26 @@ Seen go(Hand *hand, const std::function<QPoint()> &cell, const std::function<boo
     int idle = 0;
     for (int ticks = 0; ticks < kWalk; ++ticks) {
         if (isThere() || hand->state().map != map) {
-            return {true, here(*hand)};
+            return {true, hand->whereabouts()};
         }
         if (hand->isBattle()) {
-            return {false, QStringLiteral("a battle begins; ") + here(*hand)};
+            return {false, QStringLiteral("a battle begins; ") + hand->whereabouts()};
         }
         Input input;
         if (hand->isFree()) {
             input.cell = cell();
             ++idle;
         } else if (hand->isAsked()) {
-            return {false, here(*hand)};
+            return {false, hand->whereabouts()};
         } else if (hand->state().hero.isMoving()) {
             idle = 0;
         }
         if (idle > kPatience) {
-            return {false, QStringLiteral("there is no way; ") + here(*hand)};
+            return {false, QStringLiteral("there is no way; ") + hand->whereabouts()};
         }
         hand->tick(input);
     }
-    return {false, here(*hand)};
+    return {false, hand->whereabouts()};
 }
 
 Seen walkTo(Hand *hand, const QStringList &values)
@@ -66,13 +56,13 @@ Seen walkTo(Hand *hand, const QStringList &values)
     hand->tick();
     hand->tick();
     (void)hand->until(kPatience, [hand] { return hand->isFree() || hand->isAsked() || hand->isBattle(); });
-    return {seen.isDone, seen.isDone ? here(*hand) : seen.text};
+    return {seen.isDone, seen.isDone ? hand->whereabouts() : seen.text};
 }
 
 Seen ask(Hand *hand, const std::function<QPoint()> &cell)
 {
     if (!hand->until(kPatience, [hand] { return hand->isFree(); })) {
-        return {false, QStringLiteral("the hero is not free; ") + here(*hand)};
+        return {false, QStringLiteral("the hero is not free; ") + hand->whereabouts()};
     }
     return go(hand, cell, [hand] { return hand->map() == nullptr || hand->map()->isBusy(); });
 }
@@ -152,12 +142,26 @@ Seen waitUntilFree(Hand *hand, const QStringList &)
     hand->tick();
     hand->tick();
     const bool isThere = hand->until(kWalk, [hand] { return hand->isFree() || hand->isAsked(); });
-    return {isThere, here(*hand)};
+    return {isThere, hand->whereabouts()};
+}
+
+/// One page of a message, which is waited for.
+Seen readPage(Hand *hand, const QStringList &)
+{
+    const auto isWaiting = [hand] {
+        const Panel *const shown = hand->frame().panel("message");
+        return shown != nullptr && shown->isWaiting;
+    };
+    if (!hand->until(kMostAnswers, isWaiting)) {
+        return {false, QStringLiteral("no message waits to be read; ") + hand->whereabouts()};
+    }
+    hand->press(GameKey::kAct);
+    return {true, hand->seen()};
 }
 
 Seen goOn(Hand *hand, const QStringList &)
 {
-    return {hand->goOn(), here(*hand)};
+    return {hand->goOn(), hand->whereabouts()};
 }
 
 /// Waits for something to choose from, and chooses the row.
@@ -234,109 +238,30 @@ Seen newGame(Hand *hand, const QStringList &)
         return {false, QStringLiteral("there is no title screen, but ") + seen.text};
     }
     const bool isThere = hand->until(kMostAnswers, [hand] { return hand->map() != nullptr; });
-    return {isThere, here(*hand)};
+    return {isThere, hand->whereabouts()};
 }
 
-Seen winBattle(Hand *hand, const QStringList &)
+template<BattleOutcome outcome>
+Seen endBattle(Hand *hand, const QStringList &)
 {
     if (!hand->until(kMostAnswers, [hand] { return hand->isBattle(); })) {
-        return {false, QStringLiteral("there is no battle; ") + here(*hand)};
+        return {false, QStringLiteral("there is no battle; ") + hand->whereabouts()};
     }
-    hand->game().pop(int(BattleOutcome::kWon));
+    hand->game().pop(int(outcome));
     hand->tick();
-    return {true, here(*hand)};
-}
-
-Seen loseBattle(Hand *hand, const QStringList &)
-{
-    if (!hand->until(kMostAnswers, [hand] { return hand->isBattle(); })) {
-        return {false, QStringLiteral("there is no battle; ") + here(*hand)};
-    }
-    hand->game().pop(int(BattleOutcome::kLost));
-    hand->tick();
-    return {true, here(*hand)};
-}
-
-Seen fleeBattle(Hand *hand, const QStringList &)
-{
-    if (!hand->until(kMostAnswers, [hand] { return hand->isBattle(); })) {
-        return {false, QStringLiteral("there is no battle; ") + here(*hand)};
-    }
-    hand->game().pop(int(BattleOutcome::kFled));
-    hand->tick();
-    return {true, here(*hand)};
+    return {true, hand->whereabouts()};
 }
 
 Seen fight(Hand *hand, const QStringList &)
 {
     if (!hand->until(kMostAnswers, [hand] { return hand->isBattle(); })) {
-        return {false, QStringLiteral("there is no battle; ") + here(*hand)};
+        return {false, QStringLiteral("there is no battle; ") + hand->whereabouts()};
     }
     // The first command and the first enemy, over and over.
     for (int ticks = 0; ticks < kWalk && hand->isBattle(); ++ticks) {
         hand->press(GameKey::kAct);
     }
-    return {!hand->isBattle(), here(*hand)};
-}
-
-Seen setEncounters(Hand *hand, const QStringList &values)
-{
-    hand->game().setEncounters(values.at(0) != QLatin1String("off"));
-    return {true, {}};
-}
-
-Seen setSeed(Hand *hand, const QStringList &values)
-{
-    hand->game().state().random = Random(values.at(0).toULongLong());
-    return {true, {}};
-}
-
-Seen setSwitch(Hand *hand, const QStringList &values)
-{
-    hand->game().state().setSwitch(values.at(0).toInt(), values.at(1) == QLatin1String("on"));
-    return {true, {}};
-}
-
-Seen setVariable(Hand *hand, const QStringList &values)
-{
-    hand->game().state().setVariable(values.at(0).toInt(), values.at(1).toInt());
-    return {true, {}};
-}
-
-Seen giveGold(Hand *hand, const QStringList &values)
-{
-    hand->game().state().addGold(values.at(0).toInt());
-    return {true, {}};
-}
-
-Seen giveItem(Hand *hand, const QStringList &values)
-{
-    hand->game().state().addGoods(Goods::kItem, values.at(0).toInt(), 1);
-    return {true, {}};
-}
-
-Seen joinParty(Hand *hand, const QStringList &values)
-{
-    const int actor = values.at(0).toInt();
-    hand->game().state().join(actor, hand->game().data());
-    return {hand->state().party.contains(actor), QStringLiteral("the database has no actor %1").arg(actor)};
-}
-
-Seen place(Hand *hand, const QStringList &values)
-{
-    const int map = values.at(0).toInt();
-    const QPoint cell(values.at(1).toInt(), values.at(2).toInt());
-    const MapData *const found = hand->game().data().maps.find(map);
-    if (found == nullptr || !found->contains(cell)) {
-        return {false, QStringLiteral("there is no such place")};
-    }
-    GameState state = hand->state();
-    state.map = map;
-    state.hero.cell = cell;
-    state.hero.at = cell;
-    hand->game().beginSaved(state);
-    hand->tick();
-    return {true, here(*hand)};
+    return {!hand->isBattle(), hand->whereabouts()};
 }
 
 } // namespace
@@ -353,22 +278,15 @@ void addSteps(WordTable *table)
     table->add("type *", &type);
     table->add("wait", &waitUntilFree);
     table->add("wait #", &waitTicks);
+    table->add("read", &readPage);
     table->add("go on", &goOn);
     table->add("choose #", &chooseNumber);
     table->add("choose *", &chooseText);
     table->add("enter #", &enter);
     table->add("fight", &fight);
-    table->add("win battle", &winBattle);
-    table->add("lose battle", &loseBattle);
-    table->add("flee battle", &fleeBattle);
-    table->add("encounters *", &setEncounters);
-    table->add("seed #", &setSeed);
-    table->add("set switch # *", &setSwitch);
-    table->add("set variable # = #", &setVariable);
-    table->add("give gold #", &giveGold);
-    table->add("give item #", &giveItem);
-    table->add("join #", &joinParty);
-    table->add("place # # #", &place);
+    table->add("win battle", &endBattle<BattleOutcome::kWon>);
+    table->add("lose battle", &endBattle<BattleOutcome::kLost>);
+    table->add("flee battle", &endBattle<BattleOutcome::kFled>);
 }
 
 } // namespace player

@@ -1,5 +1,7 @@
 #include "player/run/WordTable.h"
 
+#include <algorithm>
+
 namespace player {
 
 namespace {
@@ -44,6 +46,13 @@ std::optional<Seen> WordTable::run(Hand *hand, const QStringList &words) const
         }
     }
     return std::nullopt;
+}
+
+bool WordTable::knows(const QStringList &words) const
+{
+    QStringList values;
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [&](const Row &row) { return fits(row.pattern, words, &values); });
 }
 
 QStringList WordTable::patterns() const

@@ -28,6 +28,8 @@ public:
     void add(const char *pattern, Doing doing);
     /// Does what a line says; nothing when no pattern fits.
     [[nodiscard]] std::optional<Seen> run(Hand *hand, const QStringList &words) const;
+    /// Whether a pattern fits the line.
+    [[nodiscard]] bool knows(const QStringList &words) const;
     [[nodiscard]] QStringList patterns() const;
 
 private:

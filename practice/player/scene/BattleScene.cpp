@@ -9,6 +9,8 @@
 #include "player/scene/GameOverScene.h"
 #include "player/script/Interpreter.h"
 
+#include <utility>
+
 namespace player {
 
 namespace {
@@ -59,6 +61,18 @@ BattleScene::BattleScene(const BattleWish &wish, bool isTest, const Game &)
 }
 
 BattleScene::~BattleScene() = default;
+
+QVector<int> BattleScene::enemies() const
+{
+    QVector<int> numbers;
+    if (m_battle != nullptr) {
+        const QVector<Fighter> standing = m_battle->fighters().standing(true);
+        for (const Fighter &fighter : standing) {
+            numbers.append(std::as_const(*m_battle).fighters().enemy(fighter)->id);
+        }
+    }
+    return numbers;
+}
 
 void BattleScene::begin(Game *game)
 {

@@ -41,6 +41,11 @@ public:
     [[nodiscard]] bool isAway() const override { return m_phase == Phase::kLeaves; }
     Battlefield *battlefield() override;
 
+    /// Number of the troop.
+    [[nodiscard]] int troop() const { return m_wish.troop; }
+    /// Numbers of the enemies that stand, in their order.
+    [[nodiscard]] QVector<int> enemies() const;
+
 private:
     enum class Phase { kTurnBegins, kCommands, kDeeds, kEnds, kLeaves };
 

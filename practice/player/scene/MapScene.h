@@ -23,6 +23,8 @@ public:
     /// An event runs, or a talk or transfer is on: the hero cannot walk.
     [[nodiscard]] bool isBusy() const;
     [[nodiscard]] const World &world() const { return m_world; }
+    bool fight(const BattleWish &wish) override;
+    [[nodiscard]] int result() const override { return m_result; }
 
 private:
     // Of the stage.
@@ -46,11 +48,9 @@ private:
     bool openSave() override;
     bool openShop(const QVector<ShopGoods> &goods, bool onlyBuys) override;
     bool openNameInput(int actor, int letters) override;
-    bool fight(const BattleWish &wish) override;
     bool gameOver() override;
     bool toTitle() override;
     [[nodiscard]] bool isAway() const override { return m_isAway; }
-    [[nodiscard]] int result() const override { return m_result; }
 
     enum class Phase { kNone, kLeaves, kArrives };
 
