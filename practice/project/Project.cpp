@@ -55,7 +55,11 @@ void Project::addOwnWords()
             return m_newProject.canBeMade();
         });
     m_commands.add(QStringLiteral("newProject.create"), [this] { create(); });
-    m_commands.add(QStringLiteral("project.open"), [this](DataLayer &layer) { openChosen(layer); });
+    m_commands.add(
+        QStringLiteral("project.open"), [this](DataLayer &layer) { openChosen(layer); }, {},
+        [this](const DataLayer &layer, const QString & /*argument*/) {
+            return !chosenProject(layer).isEmpty();
+        });
     m_commands.add(QStringLiteral("project.save"), [this] { save(); });
     m_commands.add(
         QStringLiteral("edit.undo"), [this] { showMapOf(m_files.undo()); }, {},
@@ -143,12 +147,17 @@ void Project::create()
     Q_EMIT created(name());
 }
 
-void Project::openChosen(const DataLayer &layer)
+QString Project::chosenProject(const DataLayer &layer) const
 {
     const QStringList projects = ProjectFolder::projectsIn(m_newProject.location());
-    const QString chosen = projects.value(m_sources.number(QStringLiteral("projects"), layer));
+    return projects.value(m_sources.number(QStringLiteral("projects"), layer));
+}
+
+void Project::openChosen(const DataLayer &layer)
+{
+    const QString chosen = chosenProject(layer);
     if (chosen.isEmpty()) {
-        return;
+        return; // it is gone since the list was read
     }
     QString error;
     if (!m_files.open(QDir(m_newProject.location()).filePath(chosen), &error)) {

@@ -86,7 +86,10 @@ private:
     void addOwnWords();
     /// Where there is no way, the project that was open stays the open one.
     void create();
-    /// Opens the project that is selected in @p layer.
+    /// Name of the folder of the project that is selected in @p layer, among those of the place that stands
+    /// in the windows now; empty where there is none.
+    [[nodiscard]] QString chosenProject(const DataLayer &layer) const;
+    /// Opens it.
     void openChosen(const DataLayer &layer);
     void save();
     /// Shows the map among the files that a step of the history has changed.

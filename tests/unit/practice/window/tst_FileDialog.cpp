@@ -1,6 +1,7 @@
 #include "EditorFixture.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 /// The window that opens a project, which is nothing but a description.
 class tst_FileDialog : public QObject
@@ -9,6 +10,7 @@ class tst_FileDialog : public QObject
 
 private Q_SLOTS:
     void opensFromTheToolBarAndIsTold();
+    void withoutAProjectThereIsNothingToOpen();
     void opensTheChosenProject_data();
     void opensTheChosenProject();
     void cancelLeavesTheProjectOpen();
@@ -24,10 +26,20 @@ void tst_FileDialog::opensFromTheToolBarAndIsTold()
     editor.click("MainWindow", "fileOpen");
     QCOMPARE(editor.takeTold(),
              opened("FileDialog") + QStringList{str("action,fileOpen,open in MainWindow")});
-    QCOMPARE(editor.find<RowList>("FileDialog", "projects")->count(), 0);
-    editor.click("FileDialog", "ok");
+    editor.click("FileDialog", "cancel");
     QCOMPARE(editor.takeTold(), closed("FileDialog"));
     QVERIFY(!editor->project()->isOpen());
+}
+
+void tst_FileDialog::withoutAProjectThereIsNothingToOpen()
+{
+    Editor editor;
+    editor->open(str("MainWindow"));
+    editor.click("MainWindow", "fileOpen");
+    QCOMPARE(editor.find<RowList>("FileDialog", "projects")->count(), 0);
+    QVERIFY(!editor.find<QPushButton>("FileDialog", "ok")->isEnabled());
+    QTest::keyClick(editor.find<QLineEdit>("FileDialog", "location"), Qt::Key_Return);
+    QVERIFY(editor->openWindows().contains(str("FileDialog")));
 }
 
 void tst_FileDialog::opensTheChosenProject_data()
@@ -107,6 +119,7 @@ void tst_FileDialog::projectsOfAnotherPlaceAreFound()
     location->selectAll();
     QTest::keyClicks(location, first.folder());
     QCOMPARE(list->count(), 1);
+    QVERIFY(second.find<QPushButton>("FileDialog", "ok")->isEnabled());
     second.click("FileDialog", "ok");
     QCOMPARE(second->projectFolder(), first->projectFolder());
 }
