@@ -36,6 +36,7 @@ ControlUse ControlUse::of(const Step &step, const ControlSpot &spot)
         use.text = QString(qMax(1, condition.value().toInt()), QLatin1Char('a'));
     } else if (step.icon == QLatin1String("keyboard")) {
         use.kind = Kind::kType;
+        use.text = LessonWords::numberToType(step.hint);
         use.pressesEnter = condition.type() != Type::kNext && condition.type() != Type::kYesNo;
     }
     return use;

@@ -35,4 +35,10 @@ bool saysDrag(const QString &hint)
     return hint.contains(words);
 }
 
+QString numberToType(const QString &hint)
+{
+    static const QRegularExpression number(QStringLiteral("-?[0-9]+"));
+    return number.match(hint).captured();
+}
+
 } // namespace LessonWords

@@ -37,4 +37,7 @@ QString presetStep(const QString &command);
 /// tells. It is so in every language when the hint has the language's word for it.
 bool saysDrag(const QString &hint);
 
+/// The number that a hint asks to type, such as "6" or "-20": the first one in it. Empty when there is none.
+QString numberToType(const QString &hint);
+
 } // namespace LessonWords

@@ -55,8 +55,10 @@ Action key(Kind kind, const QString &text = {})
     return {kind, {}, 0, text, 0};
 }
 
-QString textFor(const Condition &condition)
+/// What the condition wants, or else the first number that the hint names, or else a name.
+QString textFor(const Step &step)
 {
+    const Condition &condition = step.condition;
     if (condition.type() == Type::kSpinBox) {
         // The unit stands in the box already.
         return condition.value().section(QLatin1Char(' '), 0, 0);
@@ -64,12 +66,13 @@ QString textFor(const Condition &condition)
     if (condition.type() == Type::kTextLength) {
         return QString(qMax(1, condition.value().toInt()), QLatin1Char('a'));
     }
-    return QString::fromLatin1(kName);
+    const QString number = LessonWords::numberToType(step.hint);
+    return number.isEmpty() ? QString::fromLatin1(kName) : number;
 }
 
 QVector<Action> typing(const Step &step)
 {
-    QVector<Action> actions{key(Kind::kSelectAll), key(Kind::kType, textFor(step.condition))};
+    QVector<Action> actions{key(Kind::kSelectAll), key(Kind::kType, textFor(step))};
     // A number or a text of a certain length is there as soon as it is typed, and Enter would press a button.
     if (buttonCount(step) == 0 && step.condition.type() != Type::kTextLength &&
         step.condition.type() != Type::kSpinBox) {
@@ -149,6 +152,9 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
     } else if (plan.spot && step.condition.type() == Type::kWait && step.icon == QLatin1String("eye")) {
         // What shows by itself may need the mouse above it.
         plan.actions.append({Kind::kRest, *plan.spot, 0, {}, 0});
+    } else if (!plan.spot && step.icon == QLatin1String("keyboard") && buttonCount(step) == 0) {
+        // The field that a window opens with has the keyboard.
+        plan.actions = typing(step);
     }
     const QVector<SeenOverlays::Window> &buttons = sight.overlays.buttons;
     if (!buttons.isEmpty()) {

@@ -13,6 +13,8 @@ private Q_SLOTS:
     void namesEnglishFirst();
     void knowsAHintThatAsksToDrag_data();
     void knowsAHintThatAsksToDrag();
+    void numbersAreFoundInHints_data();
+    void numbersAreFoundInHints();
 };
 
 void tst_LessonWords::givesIconsTheirNumberInTheLink()
@@ -82,6 +84,22 @@ void tst_LessonWords::knowsAHintThatAsksToDrag()
 {
     QFETCH(QString, hint);
     QTEST(LessonWords::saysDrag(hint), "drags");
+}
+
+void tst_LessonWords::numbersAreFoundInHints_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<QString>("number");
+    QTest::newRow("none") << QStringLiteral("Type a name.") << QString();
+    QTest::newRow("one") << QStringLiteral("Type 6 and press Enter.") << QStringLiteral("6");
+    QTest::newRow("below zero") << QStringLiteral("Type -20.") << QStringLiteral("-20");
+    QTest::newRow("the first of two") << QStringLiteral("35と入力し、次に7です。") << QStringLiteral("35");
+}
+
+void tst_LessonWords::numbersAreFoundInHints()
+{
+    QFETCH(QString, hint);
+    QTEST(LessonWords::numberToType(hint), "number");
 }
 
 QTEST_APPLESS_MAIN(tst_LessonWords)

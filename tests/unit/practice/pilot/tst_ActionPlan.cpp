@@ -67,6 +67,8 @@ class tst_ActionPlan : public QObject
 private Q_SLOTS:
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
+    void typesTheNumberOfTheHint();
+    void typesIntoWhatHasTheKeyboard();
     void dragsWhereTheHintSaysSo();
     void leavesAGameWithTheEscapeKey();
     void onlyReadsWhereNothingIsPointedAt();
@@ -130,6 +132,35 @@ void tst_ActionPlan::doesWhatTheIconSays_data()
     row("wait", "", "");
     row("list,2", "", "");
     row("list,2", "drag", "");
+}
+
+void tst_ActionPlan::typesTheNumberOfTheHint()
+{
+    Step step = stepOf(QStringLiteral("windowState,ChangeMaximum,close"), QStringLiteral("keyboard"));
+    step.hint = QStringLiteral("Type -20 and press Enter.");
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
+             QStringLiteral("a click at (438, 432); Ctrl+A; typing \"-20\"; Enter"));
+    step.hint = QStringLiteral("「6」と入力してください。");
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
+             QStringLiteral("a click at (438, 432); Ctrl+A; typing \"6\"; Enter"));
+    // What the step ends with says it better.
+    step.condition = *Condition::parse(QStringLiteral("spinBox,=,3"));
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
+             QStringLiteral("a click at (438, 432); Ctrl+A; typing \"3\""));
+}
+
+void tst_ActionPlan::typesIntoWhatHasTheKeyboard()
+{
+    Step step =
+        pointlessStepOf(QStringLiteral("windowState,ChangeMaximum,close"), QStringLiteral("keyboard"));
+    step.hint = QStringLiteral("Type 6 and press Enter.");
+    const std::optional<ActionPlan> plan = ActionPlan::make(step, {{kBubble, {}}, {}, false}, true);
+    QCOMPARE(wordsOf(*plan), QStringLiteral("Ctrl+A; typing \"6\"; Enter"));
+    QVERIFY(!plan->spot);
+    // Where "Next" ends the step there may be nothing to type into.
+    step.condition = *Condition::parse(QStringLiteral("click,"));
+    QCOMPARE(wordsOf(*ActionPlan::make(step, {{kBubble, {kLeft}}, {}, false}, true)),
+             QStringLiteral("a click on the companion's button"));
 }
 
 void tst_ActionPlan::dragsWhereTheHintSaysSo()
