@@ -16,9 +16,10 @@ class StrayLearner
     Editor m_editor;
 
 public:
-    /// @p games is where projects are made. What she draws by lot is drawn by @p seed.
-    StrayLearner(const QString &scenarioPath, quint32 seed, const QString &games)
-        : m_lesson(ScenarioFile(scenarioPath, str("en_US")).name())
+    /// @p games is where projects are, and are made. What she draws by lot is drawn by @p seed.
+    StrayLearner(const QString &scenarioPath, quint32 seed, const QString &games, bool answersYes = true)
+        : m_answersYes(answersYes)
+        , m_lesson(ScenarioFile(scenarioPath, str("en_US")).name())
         , m_random(seed)
     {
         QStringList problems;
@@ -28,6 +29,8 @@ public:
         }
         m_editor->setUnattended(true);
         m_editor->setProjectsFolder(games);
+        // Somebody plays, without a window.
+        m_editor->setPlayer([](const PlayRequest &) {});
         m_editor->open(str("MainWindow"));
         QObject::connect(&session, &LessonSession::sends, &session,
                          [this](const QString &command) { answer(command); });
@@ -75,9 +78,13 @@ public:
         if (step.condition.type() == Condition::Type::kNext) {
             session.next();
         } else if (step.condition.type() == Condition::Type::kYesNo) {
-            session.answer(true);
+            session.answer(m_answersYes);
         } else if (isWaiting()) {
             return QTest::qWaitFor([this, before] { return id() != before; }, 5000);
+        } else if (endsTheGame(step)) {
+            m_editor->tellPlayed();
+        } else if (!step.hasPosition() && step.icon == str("keyboard")) {
+            typeTheNumber(step.hint);
         } else if (!pointed || !m_editor->perform(ControlUse::of(step, *pointed))) {
             return false;
         }
@@ -182,6 +189,20 @@ private:
     /// More steps to read and to do again than lessons have in a row.
     static constexpr int kMostAttempts = 60;
 
+    static bool endsTheGame(const Step &step)
+    {
+        return step.condition.type() == Condition::Type::kAction && step.condition.target() == str("play") &&
+               step.condition.value() == str("close");
+    }
+
+    /// Into what has the keyboard.
+    static void typeTheNumber(const QString &hint)
+    {
+        Editor::key(Qt::Key_A, Qt::ControlModifier);
+        Editor::type(LessonWords::numberToType(hint).toLatin1().constData());
+        Editor::key(Qt::Key_Return);
+    }
+
     static QString nameOf(const ControlSpot &spot)
     {
         return str("%1.%2 %3").arg(spot.windowKey, spot.control, QString::number(spot.part));
@@ -260,6 +281,7 @@ private:
         QStringList errors;
         return DescriptionSet::read(str(":/descriptions"), nullptr, &errors);
     }();
+    bool m_answersYes;
     QString m_lesson;
     QString m_scenario;
     LessonProject m_project;

@@ -16,20 +16,32 @@ quint32 seed()
     return qEnvironmentVariableIsSet("TUTORIAL_SEED") ? qEnvironmentVariable("TUTORIAL_SEED").toUInt() : 7;
 }
 
-/// A row for each scenario in @p folder and below.
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A row for each scenario in @p folder and below, and one more for who answers no where it asks.
 void addRows(const QString &folder, const QString &names, int steps)
 {
     QDirIterator files(folder, {names}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        QTest::newRow(qPrintable(files.fileInfo().completeBaseName())) << path << steps;
+        const QString name = files.fileInfo().completeBaseName();
+        QTest::newRow(qPrintable(name)) << path << true << steps;
+        if (contents(path).contains("\"condition\":\"yesNo\"")) {
+            QTest::newRow(qPrintable(name + str(", no"))) << path << false << steps;
+        }
     }
 }
 
-/// The lessons and trials there are, and of how many steps a run strays from, 0 being all of them.
+/// The lessons and trials there are, what is answered, and of how many steps a run strays from, 0 being all
+/// of them.
 void addLessons()
 {
     QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("answersYes");
     QTest::addColumn<int>("steps");
     const bool all = qEnvironmentVariableIsSet("TUTORIAL_STRAY_FROM_ALL");
     const QString folder = qEnvironmentVariable("TUTORIAL_STRAY_IN");
@@ -42,6 +54,34 @@ void addLessons()
     addRows(lessons, str("TutorialStep[2-9].js"), all ? 0 : kStepsOfLesson);
     addRows(lessons, str("TutorialStep1?.js"), all ? 0 : kStepsOfLesson);
     addRows(str(TUTORIAL_SOURCE_DIR "/tests/trials/scenarios"), str("*.js"), all ? 0 : kStepsOfTrial);
+}
+
+/// Who says no to a new project finds the one that the lesson starts from in @p games.
+void putProject(const QString &path, const QString &games)
+{
+    const QString name = QFileInfo(path).completeBaseName();
+    const QDir sample(str(TUTORIAL_SOURCE_DIR "/resource/preset/step") +
+                      name.mid(str("TutorialStep").size()) + str("/data"));
+    const QDir project(games + str("/Sample/data"));
+    const QStringList files = sample.entryList(QDir::Files);
+    QVERIFY(files.isEmpty() || project.mkpath(str(".")));
+    for (const QString &file : files) {
+        QVERIFY(QFile::copy(sample.filePath(file), project.filePath(file)));
+    }
+}
+
+/// The ids of the steps that follow each other where all questions are answered so.
+QSet<int> stepsOn(const Scenario &scenario, bool answersYes)
+{
+    QSet<int> ids;
+    for (int i = 0; i >= 0 && i < scenario.size() && !ids.contains(scenario.step(i).id);) {
+        const Step &step = scenario.step(i);
+        ids.insert(step.id);
+        const bool isNo = step.condition.type() == Condition::Type::kYesNo && !answersYes;
+        const int to = isNo ? step.jumpNo : step.jump;
+        i = to >= 0 ? scenario.indexOf(to) : i + 1;
+    }
+    return ids;
 }
 
 /// Some of them, or all for 0.
@@ -93,8 +133,10 @@ void tst_StrayLearner::theEditorDoesEveryStepByItself_data()
 void tst_StrayLearner::theEditorDoesEveryStepByItself()
 {
     QFETCH(QString, path);
+    QFETCH(bool, answersYes);
     const QTemporaryDir games;
-    StrayLearner learner(path, 1, games.path());
+    putProject(path, games.path());
+    StrayLearner learner(path, 1, games.path(), answersYes);
     learner.begin();
     int steps = 0;
     while (learner.isPlaying()) {
@@ -121,17 +163,21 @@ void tst_StrayLearner::everyStepIsReachedAgain_data()
 void tst_StrayLearner::everyStepIsReachedAgain()
 {
     QFETCH(QString, path);
+    QFETCH(bool, answersYes);
     QFETCH(int, steps);
     qInfo("TUTORIAL_SEED=%u", seed());
     const QTemporaryDir games;
+    putProject(path, games.path());
     // One editor at a time: with a dialog open it takes the mouse from all other windows.
     QVector<QJsonObject> bookmarks;
     {
-        StrayLearner perfect(path, 1, games.path());
+        StrayLearner perfect(path, 1, games.path(), answersYes);
         perfect.begin();
+        // Who says no strays where she does not come with yes.
+        const QSet<int> known = answersYes ? QSet<int>() : stepsOn(perfect.session.runner().scenario(), true);
         while (perfect.isPlaying()) {
             const int id = perfect.id();
-            if (!perfect.isWaiting()) {
+            if (!perfect.isWaiting() && !known.contains(id)) {
                 bookmarks.append(perfect.session.bookmark());
             }
             QVERIFY2(perfect.followsTheArrow() && perfect.doStep(),
@@ -141,7 +187,7 @@ void tst_StrayLearner::everyStepIsReachedAgain()
     bookmarks = drawn(bookmarks, steps, seed());
     for (const QJsonObject &bookmark : qAsConst(bookmarks)) {
         const int id = bookmark.value(str("step")).toInt();
-        StrayLearner learner(path, seed() + quint32(id), games.path());
+        StrayLearner learner(path, seed() + quint32(id), games.path(), answersYes);
         learner.begin(bookmark);
         QCOMPARE(learner.id(), id);
         for (int act = 0; act < kActs && learner.isPlaying(); ++act) {
