@@ -78,3 +78,19 @@ function(tutorial_add_desktop_run name window_managers timeout environment)
             ENVIRONMENT "${TUTORIAL_TEST_ENVIRONMENT};WM=${manager};LIMIT=${limit};${environment}")
     endforeach()
 endfunction()
+
+# tutorial_add_plays(NAME timeout ARGUMENTS...)
+#
+# Lets the pilot play lessons, as a desktop test: scripts/play-all with these arguments.
+function(tutorial_add_plays name timeout)
+    # The fast clock is a library that is loaded ahead of all others, as that of the sanitizers wants to be.
+    find_program(TUTORIAL_FAKETIME faketime)
+    if(NOT TUTORIAL_DESKTOP_TESTS OR NOT TUTORIAL_FAKETIME OR TUTORIAL_SANITIZE)
+        return()
+    endif()
+    add_test(NAME ${name} COMMAND "${TUTORIAL_PYTHON}" "${CMAKE_SOURCE_DIR}/scripts/play-all"
+        --build "${CMAKE_BINARY_DIR}" --pictures "${CMAKE_BINARY_DIR}/pilot/${name}" ${ARGN})
+    # It makes displays of its own, and as many plays side by side as the machine has room for.
+    set_tests_properties(${name} PROPERTIES LABELS desktop TIMEOUT ${timeout} COST ${timeout}
+        RUN_SERIAL ON ENVIRONMENT "${TUTORIAL_TEST_ENVIRONMENT}")
+endfunction()

@@ -5,10 +5,12 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
 const QString kAll = QStringLiteral("all");
+const QString kLesson = QStringLiteral("TutorialStep");
 
 /// What the option @p name names of @p known: one, or all of them with @p all.
 QStringList chosen(const QCommandLineParser &parser, const QString &name, const QString &all,
@@ -28,19 +30,53 @@ QStringList chosen(const QCommandLineParser &parser, const QString &name, const 
     return {value};
 }
 
+/// Answers to several questions are a way of their own.
+QStringList chosenWays(const QCommandLineParser &parser, QString *problem)
+{
+    const QString name = QStringLiteral("way");
+    static const QRegularExpression several(QStringLiteral("^(yes|no)(-(yes|no))+$"));
+    const QString value = parser.value(name);
+    return several.match(value).hasMatch() ? QStringList(value)
+                                           : chosen(parser, name, QStringLiteral("both"),
+                                                    {QStringLiteral("yes"), QStringLiteral("no")}, problem);
+}
+
 } // namespace
+
+QString PilotPlay::lessonName() const
+{
+    return lesson > 0 ? QString(kLesson + QString::number(lesson)) : QFileInfo(scenario).completeBaseName();
+}
+
+QString PilotPlay::step() const
+{
+    const QString name = lessonName();
+    bool isNumber = false;
+    const int number = name.mid(kLesson.size()).toInt(&isNumber);
+    // The first lesson begins with nothing.
+    return name.startsWith(kLesson) && isNumber && number > 1 ? QStringLiteral("step%1").arg(number)
+                                                              : QString();
+}
+
+QVector<bool> PilotPlay::answers() const
+{
+    QVector<bool> answers;
+    const QStringList words = way.split(QLatin1Char('-'));
+    for (const QString &word : words) {
+        answers.append(word == QLatin1String("yes"));
+    }
+    return answers;
+}
 
 QString PilotPlay::title() const
 {
-    const QString name =
-        lesson > 0 ? QStringLiteral("lesson %1").arg(lesson) : QFileInfo(scenario).completeBaseName();
+    const QString name = lesson > 0 ? QStringLiteral("lesson %1").arg(lesson) : lessonName();
     return QStringLiteral("%1 (%2, %3)").arg(name, locale, way);
 }
 
 QString PilotPlay::folderName() const
 {
-    const QString name =
-        lesson > 0 ? QStringLiteral("lesson%1").arg(lesson) : QFileInfo(scenario).completeBaseName();
+    const QString name = lesson > 0 ? QStringLiteral("lesson%1").arg(lesson) : lessonName();
     return QStringLiteral("%1-%2-%3").arg(name, locale, way);
 }
 
@@ -62,8 +98,7 @@ QVector<PilotPlay> pilotPlays(const QCommandLineParser &parser, QString *problem
                                     : QStringList(QStringLiteral("0"));
     const QStringList locales =
         chosen(parser, QStringLiteral("locale"), kAll, LessonWords::locales(), problem);
-    const QStringList ways = chosen(parser, QStringLiteral("way"), QStringLiteral("both"),
-                                    {QStringLiteral("yes"), QStringLiteral("no")}, problem);
+    const QStringList ways = chosenWays(parser, problem);
     QVector<PilotPlay> plays;
     for (const QString &lesson : lessons) {
         for (const QString &locale : locales) {

@@ -12,9 +12,16 @@ struct PilotPlay
     int lesson = 0;
     QString scenario;
     QString locale;
-    /// Which way it takes where the lesson asks a question: "yes" or "no".
+    /// Which way it takes where the lesson asks: "yes" or "no", or several answers for as many questions,
+    /// such as "yes-no". The last one holds for all further questions.
     QString way;
 
+    /// The name that the companion has for the lesson, such as "TutorialStep3".
+    [[nodiscard]] QString lessonName() const;
+    /// The sample project that the lesson starts from, such as "step3"; empty for one without.
+    [[nodiscard]] QString step() const;
+    /// Whether it answers yes, question by question; at least one.
+    [[nodiscard]] QVector<bool> answers() const;
     /// As messages call it, such as "lesson 1 (ja_JP, yes)".
     [[nodiscard]] QString title() const;
     /// A name for its folder of pictures.

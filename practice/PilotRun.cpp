@@ -4,12 +4,15 @@
 
 #include "PilotProgress.h"
 #include "PracticeEditor.h"
+#include "ScriptedPlay.h"
 #include "author/Outcome.h"
 #include "pilot/x11/XConnection.h"
 #include "pilot/x11/XEye.h"
 #include "pilot/x11/XHand.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QPushButton>
 
 #include <cstdio>
@@ -31,25 +34,45 @@ std::optional<QPoint> putBackPlace()
     return {};
 }
 
-/// A line for everything that is otherwise in the project than the play was to leave it.
-QStringList leftOtherwise(const PracticeEditor &editor, const PilotPlay &play)
+/// What is otherwise in the game than the lesson's script of @p outcomes expects; empty when nothing is.
+QString outcomeProblem(const PracticeEditor &editor, const PilotPlay &play, const QString &outcomes)
 {
-    QStringList lines;
+    const QFileInfo script(QDir(outcomes).filePath(play.lessonName() + QStringLiteral(".play")));
+    if (outcomes.isEmpty() || (!script.exists() && play.lesson == 0)) {
+        return {};
+    }
+    const ScriptedPlay played = ScriptedPlay::run(editor.projectFolder(), script.filePath());
+    if (played.end == ScriptedPlay::End::kAsExpected) {
+        return {};
+    }
+    QString failure = played.failure;
+    failure.replace(QLatin1Char('\n'), QLatin1String("; "));
+    return QStringLiteral("%1, %2").arg(script.fileName(), failure);
+}
+
+/// A line for everything that is otherwise in the project than the play was to leave it.
+QStringList leftOtherwise(const PracticeEditor &editor, const PilotPlay &play, const QString &outcomes)
+{
+    QStringList problems;
     if (!play.scenario.isEmpty()) {
-        const QStringList problems = Outcome(play.scenario).problems(editor.projectFolder(), play.way);
-        for (const QString &problem : problems) {
-            lines.append(QStringLiteral("%1: broken: %2").arg(play.title(), problem));
-        }
+        problems = Outcome(play.scenario).problems(editor.projectFolder(), play.way);
+    }
+    problems += outcomeProblem(editor, play, outcomes);
+    problems.removeAll(QString());
+    QStringList lines;
+    for (const QString &problem : qAsConst(problems)) {
+        lines.append(QStringLiteral("%1: broken: %2").arg(play.title(), problem));
     }
     return lines;
 }
 
 } // namespace
 
-bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings, QString *error)
+bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings,
+                  const QString &outcomes, QString *error)
 {
     settings.title = play.title();
-    settings.answersYes = play.way == QLatin1String("yes");
+    settings.answers = play.answers();
     settings.putBackPlace = putBackPlace;
     if (QGuiApplication::platformName() != QLatin1String("xcb")) {
         *error = QStringLiteral("the windows are not on an X display but on Qt's platform \"%1\"")
@@ -74,8 +97,8 @@ bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings
     QObject::connect(pilot, &Pilot::refused, pilot, [lacks] { *lacks = true; });
     QObject::connect(
         pilot, &Pilot::ended, pilot,
-        [progress, lacks, editor, play](const QStringList &broken) {
-            const QStringList failures = broken.isEmpty() ? leftOtherwise(*editor, play) : broken;
+        [progress, lacks, editor, play, outcomes](const QStringList &broken) {
+            const QStringList failures = broken.isEmpty() ? leftOtherwise(*editor, play, outcomes) : broken;
             progress->showEnd(failures.isEmpty());
             for (const QString &failure : failures) {
                 std::fprintf(stderr, "%s\n", failure.toUtf8().constData());
@@ -88,11 +111,13 @@ bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings
 
 #else
 
-bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings, QString *error)
+bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings settings,
+                  const QString &outcomes, QString *error)
 {
     Q_UNUSED(editor)
     Q_UNUSED(play)
     Q_UNUSED(settings)
+    Q_UNUSED(outcomes)
     *error = QStringLiteral("it needs X11, which this system has not");
     return false;
 }

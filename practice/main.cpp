@@ -1,4 +1,5 @@
 #include "AuthorRun.h"
+#include "PilotOptions.h"
 #include "PilotPlay.h"
 #include "PilotProject.h"
 #include "PilotRun.h"
@@ -15,6 +16,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QSocketNotifier>
 #include <QStandardPaths>
@@ -102,35 +104,13 @@ struct CommandLine
     QCommandLineOption locale{QStringLiteral("locale"),
                               QStringLiteral("Language: en_US, ja_JP or zh_CN; by default the system's."),
                               QStringLiteral("name"), defaultLocale()};
-    QCommandLineOption pilot{QStringLiteral("pilot"),
-                             QStringLiteral("Let the lesson play itself, with real mouse and key events.")};
-    QCommandLineOption way{
-        QStringLiteral("way"),
-        QStringLiteral("With --pilot: what it answers to the questions of a lesson, yes (default), no, or "
-                       "both, one after the other. --lesson and --locale take all, too."),
-        QStringLiteral("answer"), QStringLiteral("yes")};
-    QCommandLineOption shots{QStringLiteral("shots"),
-                             QStringLiteral("With --pilot: leave a picture of each step in this folder."),
-                             QStringLiteral("folder")};
-    QCommandLineOption broken{
-        QStringLiteral("broken"),
-        QStringLiteral("With --pilot: leave pictures of broken steps in this folder, without --shots; by "
-                       "default in one of its own among the temporary files."),
-        QStringLiteral("folder")};
-    QCommandLineOption mistakes{
-        QStringLiteral("mistakes"),
-        QStringLiteral("With --pilot: in each step do something wrong first, and follow the arrow back.")};
-    QCommandLineOption clock{
-        QStringLiteral("clock"),
-        QStringLiteral("With --pilot: this program's clock runs so many times as fast as that of the X "
-                       "server, as under faketime (scripts/play-all)."),
-        QStringLiteral("times"), QStringLiteral("1")};
     QCommandLineOption companion{
         QStringLiteral("companion"),
         QStringLiteral("The companion program; by default Tutorial beside this one."), QStringLiteral("path"),
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("Tutorial"))};
     QCommandLineOption key{QStringLiteral("key"), QStringLiteral("Key of the link; by default a random one."),
                            QStringLiteral("key")};
+    PilotOptions pilot;
     AuthorOptions author;
     TestPlayOptions testPlay;
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
@@ -142,47 +122,13 @@ struct CommandLine
     CommandLine()
     {
         parser.setApplicationDescription(QStringLiteral("A small game-making editor to play lessons in."));
-        parser.addOptions(
-            {lesson, locale, pilot, way, shots, broken, mistakes, clock, companion, key, help, version});
+        parser.addOptions({lesson, locale, companion, key, help, version});
+        pilot.addTo(&parser);
         author.addTo(&parser);
         testPlay.addTo(&parser);
         isUnderstood = parser.parse(QCoreApplication::arguments());
     }
 };
-
-/// Where a pilot leaves pictures of broken steps. Others may be playing beside it.
-QString brokenFolder(const CommandLine &line)
-{
-    return line.parser.isSet(line.broken)
-               ? line.parser.value(line.broken)
-               : QDir::temp().filePath(
-                     QStringLiteral("PracticeEditor-pilot-%1").arg(QCoreApplication::applicationPid()));
-}
-
-/// The options that hold for each play of a series.
-QStringList forEachPlay(const CommandLine &line)
-{
-    QStringList options;
-    for (const QCommandLineOption &option : {line.companion, line.clock}) {
-        options += QStringLiteral("--%1=%2").arg(option.names().constFirst(), line.parser.value(option));
-    }
-    if (line.parser.isSet(line.mistakes)) {
-        options += QStringLiteral("--mistakes");
-    }
-    return options;
-}
-
-/// The folders of a series, in which each play gets one of its own, by the options that name them.
-QMap<QString, QString> foldersOf(const CommandLine &line)
-{
-    QMap<QString, QString> folders;
-    for (const QCommandLineOption &option : {line.shots, line.broken}) {
-        if (line.parser.isSet(option)) {
-            folders.insert(option.names().constFirst(), line.parser.value(option));
-        }
-    }
-    return folders;
-}
 
 /// Does what --help, --version, --dump-controls and --test-play ask for, without a display, and gives the
 /// status. Nothing when none is asked for.
@@ -248,19 +194,15 @@ int main(int argc, char **argv)
         return complain(problem);
     }
     std::optional<PilotPlay> play;
-    const int clock = parser.value(line.clock).toInt();
-    if (parser.isSet(line.pilot)) {
-        QString problem;
+    if (parser.isSet(line.pilot.pilot)) {
+        QString problem = line.pilot.problemOf(parser);
         const QVector<PilotPlay> plays = pilotPlays(parser, &problem);
-        if (problem.isEmpty() && clock < 1) {
-            problem = QStringLiteral("--clock takes a whole number from 1, not \"%1\"")
-                          .arg(parser.value(line.clock));
-        }
         if (!problem.isEmpty()) {
             return complain(problem);
         }
         if (plays.size() > 1) {
-            return playSeries(plays, forEachPlay(line), foldersOf(line),
+            const QString companion = QStringLiteral("--companion=") + parser.value(line.companion);
+            return playSeries(plays, line.pilot.forEachPlay(parser) << companion, line.pilot.folders(parser),
                               parser.value(line.lesson) == QLatin1String("all"));
         }
         play = plays.constFirst();
@@ -272,19 +214,22 @@ int main(int argc, char **argv)
                                 (parser.isSet(line.author.record) && !parser.isSet(line.lesson));
     options.beginsAtOnce = parser.isSet(line.author.from);
     options.locale = parser.value(line.locale);
-    options.unattended = parser.isSet(line.pilot);
+    options.unattended = play.has_value();
     options.companionProgram = parser.value(line.companion);
     options.key = parser.value(line.key);
     if (const QString problem = problemOf(options, parser.value(line.lesson)); !problem.isEmpty()) {
         return complain(problem);
     }
     const PracticeTranslator translator(options.locale);
-    // The pilot's projects are nobody's.
+    // The pilot's projects are nobody's, unless somebody wants them.
     const QTemporaryDir pilotProjects;
-    options.projectsFolder = options.unattended
-                                 ? pilotProjects.path()
-                                 : QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                                       .filePath(QStringLiteral("Practice projects"));
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    options.projectsFolder = documents.filePath(QStringLiteral("Practice projects"));
+    if (options.unattended) {
+        options.projectsFolder = parser.isSet(line.pilot.projects)
+                                     ? QFileInfo(parser.value(line.pilot.projects)).absoluteFilePath()
+                                     : pilotProjects.path();
+    }
     if (!options.unattended) {
         const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
         options.placeFile = QDir(own).filePath(QStringLiteral("places.ini"));
@@ -305,15 +250,11 @@ int main(int argc, char **argv)
     endOnSignals(&application);
     QString error;
     if (play) {
-        Pilot::Settings settings;
-        settings.picturesOfAll = parser.isSet(line.shots);
-        settings.picturesFolder = settings.picturesOfAll ? parser.value(line.shots) : brokenFolder(line);
-        settings.speed = clock;
-        settings.isBeginner = parser.isSet(line.mistakes);
-        if (play->way == QLatin1String("no") && !putProject(options.projectsFolder, options.locale, &error)) {
+        if (!putProject(*play, options.projectsFolder, options.companionProgram, &error)) {
             return complain(QStringLiteral("--pilot has no project to open: ") + error);
         }
-        if (!letPilotPlay(&editor, *play, settings, &error)) {
+        if (!letPilotPlay(&editor, *play, line.pilot.settings(parser), parser.value(line.pilot.outcomes),
+                          &error)) {
             return complain(QStringLiteral("--pilot cannot play here: ") + error);
         }
     }

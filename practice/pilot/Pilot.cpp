@@ -89,6 +89,10 @@ void Pilot::onStepReached()
     }
     m_done.clear();
     const ScenarioRunner &runner = m_session->runner();
+    const Step &step = runner.step();
+    if (step.condition.type() == Condition::Type::kYesNo && !m_questions.contains(step.id)) {
+        m_questions.append(step.id);
+    }
     Q_EMIT stepReached(runner.index() + 1, runner.scenario().size(), stepText());
     m_hasErred = false;
     m_tries = 0;
@@ -271,7 +275,7 @@ bool Pilot::isLost() const
 std::optional<ActionPlan> Pilot::planned() const
 {
     const Sight sight{m_seen, m_session->bubblePlace(), m_session->lacksWindow()};
-    return ActionPlan::make(m_session->runner().step(), sight, m_settings.answersYes);
+    return ActionPlan::make(m_session->runner().step(), sight, answersYes());
 }
 
 std::optional<ActionPlan> Pilot::returning() const
@@ -406,4 +410,10 @@ QString Pilot::stepText() const
         .arg(runner.scenario().size())
         .arg(step.id)
         .arg(step.windowKey.isEmpty() ? QStringLiteral("-") : step.windowKey, step.conditionText);
+}
+
+bool Pilot::answersYes() const
+{
+    const int question = int(m_questions.indexOf(m_session->runner().step().id));
+    return m_settings.answers.at(qBound(0, question, int(m_settings.answers.size()) - 1));
 }

@@ -31,8 +31,9 @@ public:
     {
         /// How the play is called in messages, such as "lesson 1 (ja_JP, yes)".
         QString title;
-        /// Which button it presses where a step asks a question: Yes, else No.
-        bool answersYes = true;
+        /// Which button it presses where a step asks a question, one question after the other: Yes, else
+        /// No. The last answer holds for all further questions; there is one at least.
+        QVector<bool> answers{true};
         /// Pictures of the whole screen go here, of each broken step, or of every step; none when empty.
         QString picturesFolder;
         bool picturesOfAll = false;
@@ -124,6 +125,8 @@ private:
     /// False, and the play is over, when a picture is asked for and cannot be written.
     [[nodiscard]] bool takeShot(const QString &name);
     [[nodiscard]] QString stepText() const;
+    /// Its answer to the question of the present step.
+    [[nodiscard]] bool answersYes() const;
 
     LessonSession *m_session;
     Settings m_settings;
@@ -143,6 +146,8 @@ private:
     QStringList m_done;
     int m_pictures = 0;
     int m_brokenInARow = 0;
+    /// Ids of the steps that have asked a question so far.
+    QVector<int> m_questions;
     bool m_isPassing = false;
     /// In all of the play, and whether one of them in this step.
     int m_mistakes = 0;

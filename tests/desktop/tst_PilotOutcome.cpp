@@ -19,8 +19,14 @@ private Q_SLOTS:
     void init();
     void isWhatTheFileSays_data();
     void isWhatTheFileSays();
+    void isWhatTheScriptSees_data();
+    void isWhatTheScriptSees();
 
 private:
+    void write(const QString &name, const QByteArray &text);
+    /// Plays the scenario; the exit status, and what was said.
+    void play(const QStringList &options, int *status, QByteArray *errors);
+
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
@@ -55,20 +61,66 @@ void tst_PilotOutcome::isWhatTheFileSays()
     QFETCH(QByteArray, outcome);
     QFETCH(int, status);
     QFETCH(QByteArray, said);
-    QFile file(m_folder->filePath(QStringLiteral("scenarios/desk/NewProject.outcome.json")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(outcome);
-    file.close();
-    QProcess editor;
-    editor.start(
-        QStringLiteral(PRACTICE_PROGRAM),
-        {QStringLiteral("--pilot"), QStringLiteral("--locale=en_US"),
-         QStringLiteral("--scenario=") + m_folder->filePath(QStringLiteral("scenarios/desk/NewProject.js")),
-         QStringLiteral("--broken=") + m_folder->path()});
-    QVERIFY(editor.waitForFinished(kPlayMs));
-    const QByteArray errors = editor.readAllStandardError();
-    QCOMPARE(editor.exitCode(), status);
+    write(QStringLiteral("scenarios/desk/NewProject.outcome.json"), outcome);
+    int seen = -1;
+    QByteArray errors;
+    play({}, &seen, &errors);
+    QCOMPARE(seen, status);
     QVERIFY2(said.isEmpty() ? !errors.contains("broken") : errors.contains(said), errors.constData());
+}
+
+void tst_PilotOutcome::isWhatTheScriptSees_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("said");
+    QTest::newRow("as it is to be") << QByteArray("new game\nexpect map 1\n") << 0 << QByteArray();
+    QTest::newRow("otherwise") << QByteArray("# Nobody is there.\nnew game\nexpect map 7\n") << 1
+                               << QByteArray(
+                                      "NewProject (en_US, yes): broken: NewProject.play, line 3: FAILED: "
+                                      "expect map 7; seen: 1\n");
+    QTest::newRow("unreadable") << QByteArray("dance\n") << 1
+                                << QByteArray(
+                                       "NewProject (en_US, yes): broken: NewProject.play, line 1: nobody "
+                                       "knows what to do: dance\n");
+}
+
+void tst_PilotOutcome::isWhatTheScriptSees()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, status);
+    QFETCH(QByteArray, said);
+    write(QStringLiteral("NewProject.play"), script);
+    const QString projects = m_folder->filePath(QStringLiteral("projects"));
+    int seen = -1;
+    QByteArray errors;
+    play({QStringLiteral("--outcomes=") + m_folder->path(), QStringLiteral("--projects=") + projects}, &seen,
+         &errors);
+    QCOMPARE(seen, status);
+    QVERIFY2(said.isEmpty() ? !errors.contains("broken") : errors.contains(said), errors.constData());
+    // Somebody wants the project.
+    QCOMPARE(QDir(projects).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+}
+
+void tst_PilotOutcome::write(const QString &name, const QByteArray &text)
+{
+    QFile file(m_folder->filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), qint64(text.size()));
+}
+
+void tst_PilotOutcome::play(const QStringList &options, int *status, QByteArray *errors)
+{
+    const QString scenario = m_folder->filePath(QStringLiteral("scenarios/desk/NewProject.js"));
+    QProcess editor;
+    editor.start(QStringLiteral(PRACTICE_PROGRAM),
+                 QStringList{QStringLiteral("--pilot"), QStringLiteral("--locale=en_US"),
+                             QStringLiteral("--scenario=") + scenario,
+                             QStringLiteral("--broken=") + m_folder->path()} +
+                     options);
+    QVERIFY(editor.waitForFinished(kPlayMs));
+    *errors = editor.readAllStandardError();
+    *status = editor.exitCode();
 }
 
 QTEST_GUILESS_MAIN(tst_PilotOutcome)

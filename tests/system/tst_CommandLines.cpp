@@ -73,7 +73,8 @@ private:
                            QStringLiteral("--from"),      QStringLiteral("--help"),
                            QStringLiteral("--key"),       QStringLiteral("--lesson"),
                            QStringLiteral("--locale"),    QStringLiteral("--mistakes"),
-                           QStringLiteral("--pilot"),     QStringLiteral("--record"),
+                           QStringLiteral("--outcomes"),  QStringLiteral("--pilot"),
+                           QStringLiteral("--projects"),  QStringLiteral("--record"),
                            QStringLiteral("--scenario"),  QStringLiteral("--script"),
                            QStringLiteral("--shots"),     QStringLiteral("--test-play"),
                            QStringLiteral("--version"),   QStringLiteral("--way")};
@@ -153,6 +154,7 @@ void tst_CommandLines::testPlaySaysWhatWasSeen_data()
     QTest::newRow("otherwise") << QByteArray("new game\ngo on\nexpect map 2\nexpect map 1\n") << 1
                                << QStringLiteral("line 3: FAILED: expect map 2; seen: 1\n");
     QTest::newRow("unreadable") << QByteArray("expect message \"x\n") << 2 << QString();
+    QTest::newRow("unknown words") << QByteArray("new game\ndance\n") << 2 << QString();
 }
 
 void tst_CommandLines::testPlaySaysWhatWasSeen()

@@ -35,6 +35,9 @@ private Q_SLOTS:
     void oneLesson();
     void everyWayThroughAllOfThem();
     void oneFromAFile();
+    void answersToSeveralQuestions();
+    void knowsTheProjectThatItStartsFrom_data();
+    void knowsTheProjectThatItStartsFrom();
     void whatThereIsNot_data();
     void whatThereIsNot();
 };
@@ -58,6 +61,48 @@ void tst_PilotPlay::oneFromAFile()
 {
     QCOMPARE(titlesFor({QStringLiteral("--scenario=/lessons/Harbor.js"), QStringLiteral("--way=both")}),
              (QStringList{QStringLiteral("Harbor (ja_JP, yes)"), QStringLiteral("Harbor (ja_JP, no)")}));
+}
+
+void tst_PilotPlay::answersToSeveralQuestions()
+{
+    QCOMPARE(titlesFor({QStringLiteral("--lesson=4"), QStringLiteral("--way=yes-no")}),
+             QStringList(QStringLiteral("lesson 4 (ja_JP, yes-no)")));
+    PilotPlay play;
+    play.way = QStringLiteral("yes-no-yes");
+    QCOMPARE(play.answers(), (QVector<bool>{true, false, true}));
+    play.way = QStringLiteral("no");
+    QCOMPARE(play.answers(), QVector<bool>{false});
+}
+
+void tst_PilotPlay::knowsTheProjectThatItStartsFrom_data()
+{
+    QTest::addColumn<int>("lesson");
+    QTest::addColumn<QString>("scenario");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("step");
+    const QString first = QStringLiteral("TutorialStep1");
+    QTest::newRow("the first lesson") << 1 << QString() << first << QString();
+    QTest::newRow("another") << 12 << QString() << QStringLiteral("TutorialStep12")
+                             << QStringLiteral("step12");
+    QTest::newRow("one of a file") << 0 << QStringLiteral("a/TutorialStep3.js")
+                                   << QStringLiteral("TutorialStep3") << QStringLiteral("step3");
+    QTest::newRow("the first one, of a file")
+        << 0 << QStringLiteral("a/TutorialStep1.js") << first << QString();
+    QTest::newRow("one that has no number")
+        << 0 << QStringLiteral("a/Harbor.js") << QStringLiteral("Harbor") << QString();
+    QTest::newRow("one of almost that name")
+        << 0 << QStringLiteral("a/TutorialStepping.js") << QStringLiteral("TutorialStepping") << QString();
+}
+
+void tst_PilotPlay::knowsTheProjectThatItStartsFrom()
+{
+    QFETCH(int, lesson);
+    QFETCH(QString, scenario);
+    PilotPlay play;
+    play.lesson = lesson;
+    play.scenario = scenario;
+    QTEST(play.lessonName(), "name");
+    QTEST(play.step(), "step");
 }
 
 void tst_PilotPlay::whatThereIsNot_data()

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void choosesOnlyFromAListThatIsOpen();
     void plansAnewWhatWasMissed();
     void keepsTwoClicksApart();
+    void answersOneQuestionAfterTheOther();
     void playsToTheEndAndSeesTheOverlaysGo();
     void aConditionThatStaysFalseIsBroken();
     void playsOnBehindABrokenStep();
@@ -236,6 +237,29 @@ void tst_Pilot::keepsTwoClicksApart()
     begin({kReading, kReadingOn});
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
     QVERIFY2(between >= 500, qPrintable(QString::number(between)));
+}
+
+void tst_Pilot::answersOneQuestionAfterTheOther()
+{
+    Pilot::Settings inTurn = settings();
+    inTurn.answers = {true, false};
+    makePilot(inTurn);
+    const SeenOverlays::Window yes{QRect(300, 500, 64, 32), 7};
+    const SeenOverlays::Window no{QRect(356, 500, 64, 32), 8};
+    m_overlays = {kMiddle, {yes, no}};
+    m_scene.perform = [this, &yes](const Action &action) {
+        const QString said = action.window == yes.id ? QStringLiteral("yes") : QStringLiteral("no");
+        QTimer::singleShot(0, m_session.get(), [this, said] { m_session->receive(said); });
+        return Hand::Result::kDone;
+    };
+    const QString question = QStringLiteral(
+        R"({"id":%1,"x":-9999,"y":-9999,"windowKey":"","condition":"yesNo","hint":"Or?","icon":"eye"})");
+    begin({question.arg(11), question.arg(12), question.arg(13)});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
+    QCOMPARE(m_scene.acts.at(0).window, yes.id);
+    QCOMPARE(m_scene.acts.at(1).window, no.id);
+    // The last answer holds for all that follow.
+    QCOMPARE(m_scene.acts.at(2).window, no.id);
 }
 
 void tst_Pilot::playsToTheEndAndSeesTheOverlaysGo()
