@@ -137,6 +137,14 @@ Seen eventLooks(Hand *hand, const QStringList &values)
     });
 }
 
+Seen eventPage(Hand *hand, const QStringList &values)
+{
+    return number(hand, QStringLiteral("="), values.at(1), [&] {
+        const World::Event *const event = eventOf(*hand, values.at(0));
+        return event != nullptr ? event->pageNumber : 0;
+    });
+}
+
 Seen heroLooks(Hand *hand, const QStringList &values)
 {
     return text(hand, values.at(0), [hand] { return hand->state().hero.image; });
@@ -181,6 +189,7 @@ void addExpectations(WordTable *table)
     table->add("expect event # at # #", &eventIsAt);
     table->add("expect event # not at # #", &eventIsNotAt);
     table->add("expect event # looks *", &eventLooks);
+    table->add("expect event # page #", &eventPage);
     table->add("expect party ...", &partyIs);
     table->add("expect member #", &isMember);
     table->add("expect no member #", &isNoMember);

@@ -50,7 +50,8 @@ void tst_ScriptWords::whatIsExpectedIsSeen_data()
     addRow("choices by their number", kTalk,
            "ask event 1\nread\nread\nexpect choices = 3\nexpect choices a b c");
     addRow("an event", nothing,
-           "expect event 1\nexpect no event 2\nexpect event 1 at 3 1\nexpect event 1 looks child");
+           "expect event 1\nexpect no event 2\nexpect event 1 at 3 1\nexpect event 1 looks child\nexpect "
+           "event 1 page 1\nexpect event 2 page 0");
     addRow("an event elsewhere", nothing, "expect event 1 not at 3 2");
     addRow("the hero", nothing, "wait 2\nexpect hero looks mila");
     addRow("a member", nothing, "expect member 1\nexpect no member 2\njoin 2\nexpect member 2");
@@ -96,6 +97,7 @@ void tst_ScriptWords::whatIsOtherwiseFails_data()
     add("expect event 1 not at 3 1", "seen: 3 1");
     add("expect event 1 looks mila", "seen: child");
     add("expect event 2 looks mila", "seen: not there");
+    add("expect event 1 page 2", "seen: 1");
     add("expect hero looks toma", "seen: mila");
     add("expect member 2", "seen: 1");
     add("expect no member 1", "seen: 1");
