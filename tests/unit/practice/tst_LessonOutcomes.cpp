@@ -86,7 +86,7 @@ void tst_LessonOutcomes::everyLessonHasOne()
 
 void tst_LessonOutcomes::saysFirstWhatIsSeen_data()
 {
-    addRows(kScripts, QStringLiteral(".play"));
+    addRows(kScripts, QStringLiteral(".lesson"));
 }
 
 void tst_LessonOutcomes::saysFirstWhatIsSeen()
