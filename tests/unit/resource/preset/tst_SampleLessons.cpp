@@ -41,7 +41,7 @@ const QMap<QString, int> kMaps = {
 const QSet<int> kMapLessons = {1, 8, 10, 14};
 const QSet<int> kEventLessons = {2, 3, 4, 5, 7, 8, 9, 11, 16, 18};
 const QSet<int> kDatabaseLessons = {6, 7, 12, 13, 14, 15, 16, 17, 19};
-const QSet<int> kSwitchLessons = {9, 16, 18};
+const QSet<int> kSwitchLessons = {9, 18};
 
 bool isMapFile(const QString &file)
 {
