@@ -277,7 +277,7 @@
 "folder":false,
 "translationId":17,
 "x":68,
-"y":68,
+"y":24,
 "windowKey":"ImageSelector",
 "condition":"list,5",
 "hint":qsTr("#17"),
