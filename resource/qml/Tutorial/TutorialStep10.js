@@ -396,7 +396,7 @@
 "folder":false,
 "translationId":24,
 "x":77,
-"y":-52,
+"y":-62,
 "windowKey":"AudioSelector",
 "condition":"list,2",
 "hint":qsTr("#24"),
