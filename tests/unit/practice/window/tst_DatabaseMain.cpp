@@ -4,6 +4,8 @@
 #include <QJsonObject>
 #include <QRadioButton>
 
+#include <cctype>
+
 /// The database, used as a person uses it, on the sample project.
 class tst_DatabaseMain : public QObject
 {
@@ -21,6 +23,9 @@ private Q_SLOTS:
     void kindsAreRadioButtons();
     void entriesAreCopiedAndDeleted();
     void moreEntriesAreMade();
+    void anEntryIsAdded_data();
+    void anEntryIsAdded();
+    void anAddedTroopHasAPage();
     void aPictureIsChosen();
     void entriesHaveReadableRows_data();
     void entriesHaveReadableRows();
@@ -180,6 +185,45 @@ void tst_DatabaseMain::moreEntriesAreMade()
     QCOMPARE(editor.value("Items", "").toArray().size(), 9);
     QCOMPARE(editor.value("Items", "/8/id"), QJsonValue(8));
     QCOMPARE(editor.value("Items", "/8/effects"), QJsonValue(QJsonArray()));
+}
+
+void tst_DatabaseMain::anEntryIsAdded_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("list");
+    const QByteArrayList lists{"actors",  "classes", "skills", "items",      "weapons",  "armors",
+                               "enemies", "troops",  "states", "animations", "tilesets", "commonEvents"};
+    for (int tab = 0; tab < lists.size(); ++tab) {
+        QTest::newRow(lists.at(tab).constData()) << tab << lists.at(tab);
+    }
+}
+
+void tst_DatabaseMain::anEntryIsAdded()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, list);
+    SampleEditor editor;
+    editor.openDatabase(tab);
+    const int before = int(editor.texts("DatabaseMain", list.constData()).size());
+    editor.click("DatabaseMain", (list + "Add").constData());
+    QCOMPARE(editor.texts("DatabaseMain", list.constData()).size(), before + 1);
+    QCOMPARE(editor.find<RowList>("DatabaseMain", list.constData())->currentRow(), before);
+    editor.click("DatabaseMain", "ok");
+    QByteArray file = list;
+    file[0] = char(std::toupper(file.at(0)));
+    const QByteArray entry = '/' + QByteArray::number(before + 1);
+    QCOMPARE(editor.value(file.constData(), (entry + "/id").constData()), QJsonValue(before + 1));
+    QCOMPARE(editor.value(file.constData(), (entry + "/name").constData()), QJsonValue(QString()));
+}
+
+void tst_DatabaseMain::anAddedTroopHasAPage()
+{
+    SampleEditor editor;
+    editor.openDatabase(7);
+    editor.click("DatabaseMain", "troopsAdd");
+    editor.click("DatabaseMain", "membersAdd");
+    editor.openRow("DatabaseMain", "troopCommands", 0);
+    QCOMPARE(editor->openWindows().last(), str("EventCommandSelect"));
 }
 
 void tst_DatabaseMain::aPictureIsChosen()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void propertiesAreKeptWithOkOnly();
     void pictureIsChosenInItsWindow();
     void doubleClicksOpenAndAccept();
+    void theListOfMapsLoadsASampleMap();
     void returnKeyAcceptsAndEscapeCancels();
     void valuesAreTold();
 };
@@ -265,6 +266,18 @@ void tst_EditorControls::doubleClicksOpenAndAccept()
     QVERIFY(editor.find<QWidget>("MapLoader", "preview")->grab().toImage() != firstMap);
     editor.doubleClickRow("MapLoader", "sampleMaps", 4);
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    QCOMPARE(editor.shownMap()->name, str("Oasis"));
+    QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 5);
+}
+
+void tst_EditorControls::theListOfMapsLoadsASampleMap()
+{
+    Editor editor;
+    editor.openProject();
+    editor.clickRow("MapEditTreeBox", "maps", 1);
+    editor.click("MapEditTreeBox", "load");
+    editor.clickRow("MapLoader", "sampleMaps", 4);
+    editor.click("MapLoader", "ok");
     QCOMPARE(editor.shownMap()->name, str("Oasis"));
     QCOMPARE(editor.find<RowList>("MapEditTreeBox", "maps")->count(), 5);
 }

@@ -24,6 +24,9 @@ private Q_SLOTS:
     void aDoubleClickOnACellTakesThePlace();
     void quickEventsComeFromTheMenu_data();
     void quickEventsComeFromTheMenu();
+    void quickEventsComeFromTheToolBar_data();
+    void quickEventsComeFromTheToolBar();
+    void theToolBarMakesEventsOnFreeCellsAlone();
     void goodsOfAShop();
     void foundEventsAreShown();
     void aMessageIsDrawn();
@@ -381,6 +384,46 @@ void tst_EventWindows::quickEventsComeFromTheMenu()
     QCOMPARE(events(editor).size(), before + 1);
     editor.click("MainWindow", "editUndo");
     QCOMPARE(events(editor).size(), before);
+}
+
+void tst_EventWindows::quickEventsComeFromTheToolBar_data()
+{
+    quickEventsComeFromTheMenu_data();
+}
+
+void tst_EventWindows::quickEventsComeFromTheToolBar()
+{
+    QFETCH(QByteArray, entry);
+    QFETCH(QByteArray, window);
+    SampleEditor editor;
+    begin(editor);
+    const int before = int(events(editor).size());
+    clickCell(editor, kFree);
+    editor.takeTold();
+    editor.click("MainWindow", entry.constData());
+    QVERIFY(editor.takeTold().contains(
+        QStringLiteral("action,%1,open in MainWindow").arg(QString::fromLatin1(entry))));
+    QCOMPARE(editor->openWindows().last(), QString::fromLatin1(window));
+    editor.click(window.constData(), "ok");
+    QCOMPARE(events(editor).size(), before + 1);
+    QCOMPARE(events(editor).last()[QLatin1String("x")].toInt(), kFree.x());
+    QCOMPARE(events(editor).last()[QLatin1String("y")].toInt(), kFree.y());
+}
+
+void tst_EventWindows::theToolBarMakesEventsOnFreeCellsAlone()
+{
+    SampleEditor editor;
+    begin(editor);
+    const auto *inn = editor.find<QAbstractButton>("MainWindow", "quickInn");
+    clickCell(editor, kFree);
+    QVERIFY(inn->isEnabled());
+    editor.click("MainWindow", "quickInn");
+    editor.click("QuickInn", "ok");
+    QVERIFY(!inn->isEnabled());
+    clickCell(editor, kFree + QPoint(1, 0));
+    QVERIFY(inn->isEnabled());
+    editor.click("MainWindow", "modeMap");
+    QVERIFY(!inn->isEnabled());
 }
 
 void tst_EventWindows::goodsOfAShop()
