@@ -188,13 +188,23 @@ void CommandWords::addChoice(RowSources &sources)
         }
         return rows;
     });
-    sources.add(codesSource(), [this](const DataLayer &layer) {
+    const auto codesIn = [this](const DataLayer &layer) {
+        return m_start->eventCommands.codesIn(tabOf(layer));
+    };
+    const auto rowsIn = [this, codesIn](const DataLayer &layer) {
         QVector<Row> rows;
-        const QVector<int> codes = m_start->eventCommands.codesIn(tabOf(layer));
+        const QVector<int> codes = codesIn(layer);
         for (const int code : codes) {
             rows.append({m_start->eventCommands.find(code)->name, code});
         }
         return rows;
+    };
+    // A tab that comes to the front begins at its first command, unless it has the one that was chosen last.
+    const auto current = [codesIn](const DataLayer &layer) {
+        return qMax(0, int(codesIn(layer).indexOf(layer.selected(codesSource()))));
+    };
+    sources.add(codesSource(), rowsIn, current, [codesIn](int row, DataLayer &layer) {
+        layer.select(codesSource(), codesIn(layer).value(row, -1));
     });
 }
 

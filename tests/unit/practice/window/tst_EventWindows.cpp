@@ -17,6 +17,7 @@ private Q_SLOTS:
     void fieldsOfAPageAreKept();
     void aCommandIsChosenAndWritten();
     void aCommandWithoutAFormIsInsertedAtOnce();
+    void aTabOfCommandsBeginsAtItsFirst();
     void aCommandIsEditedAndCancelled();
     void everyCommandOfTheSampleOpensItsForm();
     void theWayIsWrittenWithButtons();
@@ -236,6 +237,23 @@ void tst_EventWindows::aCommandWithoutAFormIsInsertedAtOnce()
     QCOMPARE(rows.size(), 4);
     QCOMPARE(rows.at(1), str("    +"));
     QCOMPARE(rows.at(3), str("+"));
+}
+
+void tst_EventWindows::aTabOfCommandsBeginsAtItsFirst()
+{
+    SampleEditor editor;
+    begin(editor);
+    openCell(editor, kFree);
+    editor.openRow("EventEditorMain", "commands", 0);
+    const auto *commands = editor.find<RowList>("EventCommandSelect", "commands");
+    editor.clickTab("EventCommandSelect", "tabs", 1);
+    QCOMPARE(commands->currentRow(), 0);
+    editor.clickRow("EventCommandSelect", "commands", 6);
+    editor.clickTab("EventCommandSelect", "tabs", 0);
+    QCOMPARE(commands->currentRow(), 0);
+    // The tab with the command that was chosen last shows it again.
+    editor.clickTab("EventCommandSelect", "tabs", 1);
+    QCOMPARE(commands->currentRow(), 6);
 }
 
 void tst_EventWindows::aCommandIsEditedAndCancelled()
