@@ -1375,11 +1375,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Click into the text and correct it, if there is anything to correct. Then click “Next”.</translation>
+      <translation>Here you can correct the text. What you change counts once you click “OK”.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Click the second message. It is selected: Ctrl+C would copy it now. Then click “Next”.</translation>
+      <translation>A message that is selected can be copied with Ctrl+C, for another event, too.</translation>
     </message>
     <message>
       <source>#44</source>
@@ -1440,6 +1440,217 @@ Click “Next” to begin.</translation>
     <message>
       <source>#58</source>
       <translation>Lesson 3 makes a door and treasure chests. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep9</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson a lever opens a gate, because the game remembers that it was pulled.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson? “No” lets you go on in one of yours, such as lesson 8's.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The mine will be in the project, with a gate that is shut.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The maps are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Mine entrance”. The gate and the lever are on this map. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events”. Now you see the lever on the left, and the gate in the rock.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Double-click the lever to open its event.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>The lever does something already. Double-click its first command to see it.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>So it begins: the player is told of the lever and asked whether to pull it.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Double-click the second command. It holds the answers.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>There are two answers, as in lesson 5. Only the first one is to have an effect.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Whoever presses the cancel key gives this answer. So nobody pulls the lever by mistake.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click this line. What stands below it, further right, happens when this answer is given.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Click the next line. A gate opens, it says; but so far these are only words.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Double-click this “+”. It belongs to the first answer, too.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Click the “Flow” tab. Its commands decide and remember.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Set switches”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>A switch is ON or OFF. The game remembers it, and events on every map can ask for it.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click “…” to see all switches with their names.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Click “Gate open”. The gate waits for this switch; its name is a help for you alone.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “OK” to take this switch.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “ON”: pulling the lever turns the switch on.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click the new line. The gate's second page is open, and waits for just this switch.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Double-click “+” below it. The game is to count, too.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click “Set variables”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>A variable is a number that the game remembers. Number 1 will count pulled levers.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “Add”. “Set” would forget what was there before.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Click the small upper arrow once, so that 1 is added. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Right-click this line: “Delete command” is there, for mistakes. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “Keeps its direction”, for things do not turn to whoever asks them.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>A pulled lever should look pulled. Click “New page”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Page 2 is in front now. Of all pages whose conditions hold, the last one counts.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Choose “Gate open” beside “Switch”. This page is to wait for it.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>As long as the switch is OFF, the lever has its first page. Once it is ON, it has this one.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>A self switch belongs to one event only, like a chest's. The gate could not see it.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click the “Things” tab: the lever is no person.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “Pulled lever”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Each page has its own settings: click “Keeps its direction” here, too.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>This page has no commands: a lever that was pulled does nothing more.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Right-click the page's number. Its menu copies and deletes pages. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click the first page. There the lever is up and asks, as before.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Click “OK” to keep both pages.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click “Save” to keep the lever.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “Play” and begin a new game. South of the village lies the forest, behind it the mine.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Pull the lever, look at it and walk into the gate. Then press Esc, again if need be.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Done! The game remembers with switches and variables. Lesson 10 is about music.</translation>
     </message>
   </context>
   <context>
@@ -1640,6 +1851,281 @@ Click “Next” to begin.</translation>
     <message>
       <source>#49</source>
       <translation>Lesson 11 lets guards walk on a route of your own. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep11</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson two guards come: one on patrol in the village, one on watch at the mine.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson? “No” opens one of yours, such as lesson 10's.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. Village and mine will be in it, and words that all guards share.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The project is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”. Its first map is the village.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Events”. Guards are events, like all people on a map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>The way to the forest gets a guard. Double-click this empty cell to make him.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>The event has a number for a name. A name such as Guard is easier to find again.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>A note is for you alone: where his patrol leads, say. Players never see it.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “Guard”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Choose “Walks a route”: he is to go where you tell him to, and nowhere else.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “Route…” to lay down his way.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Each of these buttons adds a movement. Click “Left” once: one cell. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>At the end of his way he looks around. Click “Wait…”.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Time is counted in frames, 60 of them a second. 30 are right for a short look.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Click “OK”. The waiting stands in his route now.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Right” as often as “Left”, so that he comes back to his cell. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>At this end he stops as well: click “Wait…” once more.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click “OK”. Here he waits just as long.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>“Repeat the route” is on, so he never tires. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>This is how fast he takes each step. The player walks at “Normal speed”, too.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>And this is how long he rests between two steps. For a patrol, leave it as it is.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “Moves its feet while standing”, so that he does not freeze while he waits.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>A guard can be spoken to while he walks. He stops until all has been said.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>What does he say? Double-click “+”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click the “Flow” tab, then “Next”.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “Common event”.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>A common event is a list of commands that any event can run. It is written once only.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click the second one. In it stands what every guard calls out first.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “OK” to add the call.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Here the common event runs. When it has ended, the next line follows.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Double-click “+” below it, for what only he has to say.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click the “Message” tab. “Show message” is at its top. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “OK” to write a message.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Type his words, such as All quiet on the forest path. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Click “OK” to keep his words.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Double-click the message once more: the player should see who speaks.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Type who speaks, such as Guard, into “Speaker”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Messages stand at the bottom. When that hides somebody, choose another place here.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Click “OK”. The name will stand above his words.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Right-click the call: it could be copied for other guards with this menu. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>“Apply” keeps what is there while the window stays open: good before longer work.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Click “OK”. The guard takes his post.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click “Mine entrance”, where the second one keeps watch. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Double-click this cell near the gate.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Two guards of one name are hard to tell apart. Second guard would do for him.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>He gets a picture, too: click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>A double click is quicker than “OK”: double-click “Guard”.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>“Stays in place” is right for him: he keeps watch over the gate.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Click “Moves its feet while standing” for him, too.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Keeps its direction”. Even when spoken to, he looks straight ahead.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Double-click “+”. He uses the same words as the other guard.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>The window begins at the first tab again. Click “Flow”, then “Next”.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Click “Common event” once more.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “OK” to choose which one.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click the second one again.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Click “OK”. Both guards call the same list now.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Should the words change one day, you change the common event: all guards follow.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Click “OK”. Now both posts are manned.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Click “Save” to keep both guards.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Click “Play” and begin a new game. The first guard walks just below you.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Watch him walk, then step before him and press Enter. Esc leads back here.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Done! Routes move people, and common events save work. Lesson 12 visits the database.</translation>
     </message>
   </context>
 </TS>
