@@ -1443,6 +1443,146 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep6</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson the hero gets her own look and a warm cloak.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The project comes with the village and its people.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The project is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>The game begins here, with Mila. You see nobody, as a hero is no event of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events” to see who is on the map.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>This is Toma, who joins Mila. Double-click him.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>So Toma looks as long as he stands on the path and waits for Mila.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Whoever asks him reads this first.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Then he joins the party. This line names an actor, and actors are in the database.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>So a hero is made in the database: picture, class, level, equipment.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>A map is one place. What holds in the whole game stands in the database.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “Database” to open it.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Each tab has one kind of thing. Click “Armor”: Mila needs a cloak.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Add”. The list gets one more entry, still empty. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Type a name, such as Travel cloak. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Type 4 for “Defense”. The higher it is, the less an enemy's blow hurts.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Actors”. All who can be in the party are there.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Mila looks like any traveler. Click the picture below “On the map”.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Click “Mila”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Choose your cloak below the old cap: Mila wears it from the beginning of the game.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Play” to see Mila in the game.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Begin a new game with Enter and walk with the arrow keys. That is Mila!</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>The X key opens the game's menu. Look up what Mila wears.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Press the Esc key until the game closes.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click “Save” to keep Mila and her cloak.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Toma is in the database, too: give him other clothes whenever you like.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Done! You have made armor and equipped a hero in the database.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Lesson 7 gives the village a shop and an inn. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
