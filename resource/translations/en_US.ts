@@ -1583,6 +1583,278 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep7</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson the village gets a shop and an inn.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson, with an empty shop and inn? “No” opens one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. Amberfield comes with both houses; only the people are missing.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The village is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>First a look at what can be sold. Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>All that a shop can sell stands on “Items”, “Weapons” and “Armor”, with its price.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Nothing has to be changed. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Click “Events”. A merchant is an event, like everybody in the village.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>“Shop” and “Inn” are maps below the village. Their doors are there already.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “Shop” to open this map.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>The merchant will stand here, behind his counter. He is called Bruno.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Double-click this cell. On an empty cell that makes a new event.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>The name is only for you. You may type his, so that you find him again.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Do you still know this window from lesson 2? “No” shows you around.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Then an idea: on a second page the shop could have more goods later in the game.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>With a switch here, the merchant is only there once that switch is ON.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>These conditions say when an event is there. Nothing is set: Bruno is always in his shop.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>The picture is how he looks. It is still empty; you choose one in a moment.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>“Stays in place” is right for a merchant, or he would leave his counter.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>“When examined” starts the event when the player stands before him and presses Enter.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>What he does will stand here. “+” is the place for the first command.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>“OK” keeps your work and closes the window, “Apply” keeps it open, “Cancel” drops it.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “Merchant”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Apron and bag: players see at once that he has something to sell.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>He will turn to whoever talks to him. “Keeps its direction” would stop that.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>A shop needs two commands: first a greeting, then the window with the goods.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Double-click “+” to add the greeting.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>“Show message” is the first command on “Message”. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Type how Bruno greets the player, such as Welcome! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Click the greeting. Commands run from top to bottom, so it comes first.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Double-click “+” below it.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click the “Scene” tab.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “Shop”. It opens a window in which the player buys and sells.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>One thing is for sale already. Click “Edit…” to look at it.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>It is the herb. Click “Another one”, to name a price of Bruno's own. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Type 6. That is a little less than in the database.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “Add…” for a second thing to sell.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>It is to be something to wear. Choose “Armor”.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Choose the second one in the list, the travel cloak.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Click “Another one” for the cloak, too. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Type 35.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Should the party be able to sell things to Bruno, too?</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Then click “The party can only buy”.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Then leave “The party can only buy” as it is. The window will have both, buying and selling.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click the new line. The window with the goods opens when the greeting has been read.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>A right click on this line lets you copy it, for a shop in another village.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>A right click on the number of the page copies all of the page.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>“Note” has room for what you want to remember, such as what he sells.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Click “OK”. Bruno takes his place behind the counter.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Now the inn. Click “Inn”.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Click this cell behind the counter: the innkeeper will stand here. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click “Inn”. A quick event writes all the commands of an inn by itself.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>It only asks for a picture and the price of a night. Click “OK” to take both as they are.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>The innkeeper asks, takes the gold, lets the party sleep and heals it.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>A right click on a cell offers the quick events, too.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Click “Save”.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “Play” to visit your town.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Enter both houses in the east, walk around the counter and press Enter. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Press Esc to come back to the editor.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Done! You can open a shop with any goods, and an inn in one click.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Lesson 8 leads out of the village, to other maps. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
