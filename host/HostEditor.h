@@ -3,8 +3,8 @@
 #include "host/ControlUse.h"
 #include "host/EditorState.h"
 #include "host/Way.h"
-#include "lesson/Condition.h"
 #include "lesson/EditorEvent.h"
+#include "lesson/Scenario.h"
 
 #include <QObject>
 #include <QPoint>
@@ -14,8 +14,6 @@
 #include <QStringList>
 
 #include <optional>
-
-struct Step;
 
 /// What a lesson has to know of the editor that plays it: which windows are open, where they are, and what
 /// happens in them. The editor implements it once; LessonSession does the rest. All positions are global
@@ -88,7 +86,8 @@ public:
         return true;
     }
 
-    /// What leads where, as far as the editor knows; what is liked better stands first. A control that closes
+    /// What leads where, as far as the editor knows; what is liked better stands first. What is of no use as
+    /// things stand, such as a grey entry of the menu that is open, is not among it. A control that closes
     /// its window and drops what was typed there is the best way out of it. The close button of a frame is
     /// one, too: ControlSpot::dismiss().
     [[nodiscard]] virtual Ways ways() const { return {}; }
@@ -103,6 +102,15 @@ public:
     }
     /// What is in front, in the hand or chosen of what a person can switch with one click: tabs, tools, rows.
     [[nodiscard]] virtual QVector<ControlSpot> chosen() const { return {}; }
+
+    /// A word of the step that names something which is not in this editor, such as a window or a command; a
+    /// lesson with one is not played. Nothing from an editor that does not tell: such a step then waits for
+    /// what never happens.
+    [[nodiscard]] virtual std::optional<UnknownWord> unknownWord(const Step &step) const
+    {
+        Q_UNUSED(step)
+        return {};
+    }
 
     /// Which project is open, in any words that differ for another one; empty for none.
     [[nodiscard]] virtual QString projectId() const { return {}; }

@@ -1,6 +1,10 @@
 #include "host/LessonHandOver.h"
 
 #include "host/HostCommands.h"
+#include "host/HostEditor.h"
+
+#include <algorithm>
+#include <utility>
 
 QString LessonFault::message() const
 {
@@ -10,52 +14,141 @@ QString LessonFault::message() const
         .arg(lesson, QString::number(item), problem, word);
 }
 
-LessonHandOver::LessonHandOver(QObject *parent)
+LessonHandOver::LessonHandOver(const HostEditor *editor, QObject *parent)
     : QObject(parent)
+    , m_editor(editor)
 {
     m_wait.setSingleShot(true);
     m_wait.setInterval(kMs);
     connect(&m_wait, &QTimer::timeout, this, [this] { Q_EMIT refused(m_lessonName); });
 }
 
+void LessonHandOver::begin()
+{
+    askForList(QString());
+}
+
+void LessonHandOver::askForList(const QString &givenUp)
+{
+    m_listsDue.append(givenUp);
+    Q_EMIT sends(HostCommands::tutorialList());
+}
+
+bool LessonHandOver::takeList(const QStringList &lessonNames)
+{
+    if (!m_listsDue.isEmpty() && !m_listsDue.takeFirst().isEmpty()) {
+        return false;
+    }
+    m_listed = lessonNames;
+    return true;
+}
+
+void LessonHandOver::stop()
+{
+    m_wait.stop();
+    if (std::exchange(m_isAwaited, false)) {
+        askForList(m_lessonName);
+    }
+}
+
+void LessonHandOver::abandon()
+{
+    m_wait.stop();
+    m_isAwaited = false;
+    m_listsDue.clear();
+}
+
 void LessonHandOver::request(const QString &lessonName)
 {
+    stop();
     m_lessonName = lessonName;
     if (!m_listed.isEmpty() && !m_listed.contains(lessonName)) {
         // The companion would hand over the lesson before.
         Q_EMIT refused(lessonName);
         return;
     }
+    m_isAwaited = true;
     m_wait.start();
     Q_EMIT sends(HostCommands::tutorial(lessonName));
 }
 
-void LessonHandOver::expectOwn(const QString &lessonName)
+bool LessonHandOver::passOver(const QString &scenarioText)
 {
-    m_lessonName = lessonName;
-    m_lastName = lessonName; // nothing was asked for
+    const auto isFence = [](const QString &givenUp) {
+        return !givenUp.isEmpty();
+    };
+    const auto fence = std::find_if(m_listsDue.cbegin(), m_listsDue.cend(), isFence);
+    if (fence == m_listsDue.cend()) {
+        return false;
+    }
+    QStringList problems; // of no interest any more
+    remember(*fence, Scenario::parse(scenarioText, &problems));
+    return true;
+}
+
+Scenario LessonHandOver::read(const QString &scenarioText)
+{
+    QStringList problems;
+    Scenario scenario = Scenario::parse(scenarioText, &problems);
+    for (const QString &problem : qAsConst(problems)) {
+        Q_EMIT problemFound(problem);
+    }
+    return scenario;
 }
 
 std::optional<Scenario> LessonHandOver::take(const QString &scenarioText)
 {
     m_wait.stop();
-    QStringList problems;
-    const Scenario scenario = Scenario::parse(scenarioText, &problems);
-    for (const QString &problem : qAsConst(problems)) {
-        Q_EMIT problemFound(problem);
-    }
+    m_isAwaited = false;
+    const Scenario scenario = read(scenarioText);
     if (scenario.size() == 0 || !isAsked(scenario)) {
         Q_EMIT refused(m_lessonName);
         return {};
     }
-    m_lastScenario = scenario;
-    m_lastName = m_lessonName;
-    if (!scenario.unknownWords().isEmpty()) {
-        const UnknownWord &unknown = scenario.unknownWords().constFirst();
-        Q_EMIT stopped({m_lessonName, unknown.stepId, unknown.word, unknown.problem});
+    remember(m_lessonName, scenario);
+    return ifKnown(scenario);
+}
+
+std::optional<Scenario> LessonHandOver::takeOwn(const QString &lessonName, const QString &scenarioText)
+{
+    stop();
+    m_lessonName = lessonName;
+    const Scenario scenario = read(scenarioText);
+    if (scenario.size() == 0) {
+        Q_EMIT refused(lessonName);
+        return {};
+    }
+    return ifKnown(scenario);
+}
+
+std::optional<Scenario> LessonHandOver::ifKnown(const Scenario &scenario)
+{
+    if (const std::optional<UnknownWord> unknown = unknownWord(scenario)) {
+        Q_EMIT stopped({m_lessonName, unknown->stepId, unknown->word, unknown->problem});
         return {};
     }
     return scenario;
+}
+
+void LessonHandOver::remember(const QString &lessonName, const Scenario &scenario)
+{
+    if (m_lastName.isEmpty() || !scenario.isSameLesson(m_lastScenario)) {
+        m_lastScenario = scenario;
+        m_lastName = lessonName;
+    }
+}
+
+std::optional<UnknownWord> LessonHandOver::unknownWord(const Scenario &scenario) const
+{
+    if (!scenario.unknownWords().isEmpty()) {
+        return scenario.unknownWords().constFirst();
+    }
+    for (int index = 0; index < scenario.size(); ++index) {
+        if (const std::optional<UnknownWord> unknown = m_editor->unknownWord(scenario.step(index))) {
+            return unknown;
+        }
+    }
+    return {};
 }
 
 bool LessonHandOver::isAsked(const Scenario &scenario) const

@@ -7,6 +7,7 @@
 LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     : QObject(parent)
     , m_editor(editor)
+    , m_handOver(editor)
     , m_screen(editor)
     , m_runner([editor] { return editor->openWindows(); })
     , m_guide(editor)
@@ -40,7 +41,7 @@ void LessonSession::connectParts()
 void LessonSession::greet(const QString &locale)
 {
     Q_EMIT sends(HostCommands::fromServer(locale));
-    Q_EMIT sends(HostCommands::tutorialList());
+    m_handOver.begin();
 }
 
 void LessonSession::request(const QString &lessonName)
@@ -59,11 +60,17 @@ void LessonSession::resume(const QJsonObject &bookmark)
 void LessonSession::play(const QString &lessonName, const QString &scenarioText, int id)
 {
     m_resumed = {};
-    m_handOver.expectOwn(lessonName);
-    begin(scenarioText, id);
+    stopRun();
+    begin(m_handOver.takeOwn(lessonName, scenarioText), id);
 }
 
 void LessonSession::stop()
+{
+    m_handOver.stop();
+    stopRun();
+}
+
+void LessonSession::stopRun()
 {
     if (m_runner.isRunning()) {
         end();
@@ -72,7 +79,7 @@ void LessonSession::stop()
 
 void LessonSession::abandon()
 {
-    m_handOver.stop();
+    m_handOver.abandon();
     halt();
 }
 
@@ -169,7 +176,10 @@ void LessonSession::receive(const QString &command)
     }
     switch (read.kind) {
     case Kind::kStart:
-        begin(read.text, read.id.value_or(-1));
+        if (!m_handOver.passOver(read.text)) {
+            stopRun();
+            begin(m_handOver.take(read.text), read.id.value_or(-1));
+        }
         break;
     case Kind::kNext:
     case Kind::kYes:
@@ -181,8 +191,9 @@ void LessonSession::receive(const QString &command)
         for (const Lesson &lesson : read.lessons) {
             names.append(lesson.name);
         }
-        m_handOver.setListed(names);
-        Q_EMIT lessonsListed(read.lessons);
+        if (m_handOver.takeList(names)) {
+            Q_EMIT lessonsListed(read.lessons);
+        }
         break;
     }
     case Kind::kFeedbackPresetData:
@@ -230,14 +241,16 @@ void LessonSession::answer(bool yes)
     m_runner.answer(yes);
 }
 
-void LessonSession::begin(const QString &scenarioText, int id)
+void LessonSession::begin(const std::optional<Scenario> &scenario, int id)
 {
-    stop();
-    const std::optional<Scenario> scenario = m_handOver.take(scenarioText);
     if (!scenario) {
         return;
     }
     const int first = takeUp(std::exchange(m_firstStep, std::nullopt).value_or(id));
+    if (first >= 0 && scenario->indexOf(first) < 0) {
+        Q_EMIT problemFound(QStringLiteral("%1 has no item %2 to begin at; it begins at its first")
+                                .arg(lessonName(), QString::number(first)));
+    }
     m_screen.start();
     Q_EMIT started();
     m_runner.start(*scenario, first);

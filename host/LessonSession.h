@@ -35,7 +35,7 @@ public:
     void play(const QString &lessonName, const QString &scenarioText, int id);
     /// The lesson that is asked for next begins at the step with this id.
     void setFirstStep(int id) { m_firstStep = id; }
-    /// Ends the lesson that runs.
+    /// Ends the lesson that runs, and waits no more for one that was asked for.
     void stop();
     /// Forgets the lesson that runs, as its companion is gone. Its bookmark() stays.
     void abandon();
@@ -142,7 +142,7 @@ Q_SIGNALS:
 
 private:
     void connectParts();
-    void begin(const QString &scenarioText, int id);
+    void begin(const std::optional<Scenario> &scenario, int id);
     /// Brings back the state of the bookmark that is to be resumed, if one is. Gives the id of its step, or
     /// @p id.
     int takeUp(int id);
@@ -150,6 +150,7 @@ private:
     void restore(const StepStart &start);
     [[nodiscard]] bool passesByItself(int id) const;
     void end();
+    void stopRun();
     /// Leaves the lesson without a word.
     void halt();
     void runCommand(const QString &command);

@@ -1,11 +1,13 @@
 #include "window/GuidedWindows.h"
 
+#include "lesson/description/KnownWords.h"
 #include "window/EditorWindow.h"
 #include "window/EventPlaces.h"
 
 #include <QAbstractScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <utility>
 
 struct GuidedWindows::Guides
@@ -83,7 +85,18 @@ bool GuidedWindows::canCause(const ControlSpot &spot, const Condition &condition
 
 Ways GuidedWindows::ways() const
 {
-    return m_guides->ways.all();
+    Ways ways = m_guides->ways.all();
+    const EditorWindow *const menu = m_view.popup();
+    if (menu != nullptr) {
+        // A grey entry is of no use before the menu comes up elsewhere.
+        const auto isGrey = [this, menu](const Way &way) {
+            const QWidget *const entry =
+                way.from == menu->key() ? m_guides->finder.widgetOf(way.by) : nullptr;
+            return entry != nullptr && !entry->isEnabled();
+        };
+        ways.erase(std::remove_if(ways.begin(), ways.end(), isGrey), ways.end());
+    }
+    return ways;
 }
 
 QString GuidedWindows::meaningOf(const ControlSpot &spot) const
@@ -94,6 +107,18 @@ QString GuidedWindows::meaningOf(const ControlSpot &spot) const
 QVector<ControlSpot> GuidedWindows::chosen() const
 {
     return m_guides->finder.chosen();
+}
+
+std::optional<UnknownWord> GuidedWindows::unknownWord(const Step &step) const
+{
+    const DescriptionSet &windows = *m_view.descriptions;
+    const QString window = KnownWords::windowProblem(step.windowKey, windows);
+    if (!window.isEmpty()) {
+        return UnknownWord{step.id, step.windowKey, window};
+    }
+    const QString condition = KnownWords::conditionProblem(step.condition, step.windowKey, windows);
+    return condition.isEmpty() ? std::nullopt
+                               : std::optional(UnknownWord{step.id, step.conditionText, condition});
 }
 
 QString GuidedWindows::projectId() const

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] Ways ways() const override;
     [[nodiscard]] QString meaningOf(const ControlSpot &spot) const override;
     [[nodiscard]] QVector<ControlSpot> chosen() const override;
+    [[nodiscard]] std::optional<UnknownWord> unknownWord(const Step &step) const override;
     [[nodiscard]] QString projectId() const override;
     [[nodiscard]] QString dataMark() const override;
     [[nodiscard]] EditorState state() const override;

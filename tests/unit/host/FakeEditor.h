@@ -28,6 +28,8 @@ public:
     Ways m_ways;
     /// Controls that bring no condition about.
     QStringList m_inert;
+    /// Window keys that it does not know.
+    QStringList m_unknown;
     QHash<QString, QString> m_meanings;
     QVector<ControlSpot> m_chosen;
     /// All there is in the project; the state is that and the open windows.
@@ -110,6 +112,13 @@ public:
         return !m_inert.contains(spot.control);
     }
     [[nodiscard]] Ways ways() const override { return m_ways; }
+    [[nodiscard]] std::optional<UnknownWord> unknownWord(const Step &step) const override
+    {
+        return m_unknown.contains(step.windowKey)
+                   ? std::optional(
+                         UnknownWord{step.id, step.windowKey, QStringLiteral("there is no such window")})
+                   : std::nullopt;
+    }
     [[nodiscard]] QString meaningOf(const ControlSpot &spot) const override
     {
         return m_meanings.value(spot.control);

@@ -10,6 +10,13 @@ private Q_SLOTS:
     void aScenarioThatCannotBeReadIsRefused();
     void refusesALessonThatIsInNoList();
     void neverPlaysOneLessonUnderTheNameOfAnother();
+    void aLessonThatComesLateIsNotPlayedUnderTheNameOfAnother();
+    void aLessonThatComesLateIsKnownWhenItComesAgain();
+    void aLessonThatWasGivenUpIsNotPlayed();
+    void knowsAnOldLessonBehindOneOfTheHostsOwn();
+    void forgetsWhatACompanionBeforeOwedIt();
+    void saysThatThereIsNoItemToBeginAt();
+    void aLessonWithAWordThatTheEditorDoesNotKnowIsNotPlayed();
     void aLessonWithAnUnknownWordIsNotPlayed_data();
     void aLessonWithAnUnknownWordIsNotPlayed();
 };
@@ -63,6 +70,110 @@ void tst_LessonHandOver::neverPlaysOneLessonUnderTheNameOfAnother()
     m_session->receive(startCommand(kPointing));
     QVERIFY(m_session->runner().isRunning());
     QCOMPARE(refused.size(), 1);
+}
+
+void tst_LessonHandOver::saysThatThereIsNoItemToBeginAt()
+{
+    m_session->setFirstStep(9);
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->receive(startCommand(kReading + QLatin1Char(',') + kPointing));
+    QCOMPARE(m_session->runner().step().id, 2);
+    QCOMPARE(m_problems.size(), 1);
+    QVERIFY2(m_problems.constFirst().contains(QStringLiteral("TutorialStep1 has no item 9")),
+             qPrintable(m_problems.constFirst()));
+}
+
+void tst_LessonHandOver::aLessonThatComesLateIsNotPlayedUnderTheNameOfAnother()
+{
+    const QSignalSpy listed(m_session, &LessonSession::lessonsListed);
+    m_session->request(QStringLiteral("TutorialStep1"));
+    sent();
+    m_session->request(QStringLiteral("TutorialStep2"));
+    QCOMPARE(sent(), (QStringList{QStringLiteral("tutorialList"), QStringLiteral("tutorial|TutorialStep2")}));
+    // The companion answers in order.
+    m_session->receive(startCommand(kReading));
+    QVERIFY(!m_session->runner().isRunning());
+    m_session->receive(QStringLiteral("tutorialList\u0001[]"));
+    QCOMPARE(listed.size(), 0); // it was not asked for by anybody outside
+    m_session->receive(startCommand(kPointing));
+    QVERIFY(m_session->runner().isRunning());
+    QCOMPARE(m_session->lessonName(), QStringLiteral("TutorialStep2"));
+    QCOMPARE(m_session->runner().step().id, 1);
+}
+
+void tst_LessonHandOver::aLessonThatComesLateIsKnownWhenItComesAgain()
+{
+    const QSignalSpy refused(m_session, &LessonSession::refused);
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->request(QStringLiteral("TutorialStep2"));
+    m_session->receive(startCommand(kReading));
+    m_session->receive(QStringLiteral("tutorialList\u0001[]"));
+    m_session->receive(startCommand(kReading)); // the second one has no file
+    QVERIFY(!m_session->runner().isRunning());
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused.constFirst().constFirst().toString(), QStringLiteral("TutorialStep2"));
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->receive(startCommand(kReading));
+    QVERIFY(m_session->runner().isRunning());
+}
+
+void tst_LessonHandOver::aLessonThatWasGivenUpIsNotPlayed()
+{
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->stop();
+    m_session->receive(startCommand(kReading));
+    QVERIFY(!m_session->runner().isRunning());
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->play(QStringLiteral("Harbor"), QStringLiteral("[%1]").arg(kPointing), -1);
+    m_session->receive(startCommand(kReading));
+    QCOMPARE(m_session->lessonName(), QStringLiteral("Harbor"));
+    QCOMPARE(m_session->runner().step().id, 1);
+}
+
+void tst_LessonHandOver::knowsAnOldLessonBehindOneOfTheHostsOwn()
+{
+    const QSignalSpy refused(m_session, &LessonSession::refused);
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->receive(startCommand(kReading));
+    m_session->play(QStringLiteral("Harbor"), QStringLiteral("[%1]").arg(kPointing), -1);
+    QVERIFY(m_session->runner().isRunning());
+    m_session->request(QStringLiteral("TutorialStep2"));
+    m_session->receive(startCommand(kReading)); // the second one has no file
+    QVERIFY(!m_session->runner().isRunning());
+    QCOMPARE(refused.size(), 1);
+}
+
+void tst_LessonHandOver::forgetsWhatACompanionBeforeOwedIt()
+{
+    m_session->request(QStringLiteral("TutorialStep1"));
+    m_session->request(QStringLiteral("TutorialStep2"));
+    m_session->abandon();
+    m_session->greet(QStringLiteral("en_US"));
+    const QSignalSpy listed(m_session, &LessonSession::lessonsListed);
+    m_session->receive(QStringLiteral("tutorialList\u0001[]"));
+    QCOMPARE(listed.size(), 1);
+    sent();
+    m_session->request(QStringLiteral("TutorialStep2"));
+    QCOMPARE(sent(), QStringList{QStringLiteral("tutorial|TutorialStep2")});
+    m_session->receive(startCommand(kPointing));
+    QVERIFY(m_session->runner().isRunning());
+}
+
+void tst_LessonHandOver::aLessonWithAWordThatTheEditorDoesNotKnowIsNotPlayed()
+{
+    LessonFault told;
+    connect(m_session, &LessonSession::stopped, this, [&told](const LessonFault &fault) { told = fault; });
+    m_windows->m_unknown = QStringList{QStringLiteral("MainWindow")};
+    m_session->request(QStringLiteral("TutorialStep3"));
+    m_session->receive(startCommand(kReading));
+    QVERIFY(m_session->runner().isRunning());
+    m_session->request(QStringLiteral("TutorialStep4"));
+    m_session->receive(startCommand(kReading + QLatin1Char(',') + kPointing));
+    QVERIFY(!m_session->runner().isRunning());
+    QCOMPARE(told.lesson, QStringLiteral("TutorialStep4"));
+    QCOMPARE(told.item, 1);
+    QCOMPARE(told.word, QStringLiteral("MainWindow"));
+    QVERIFY2(told.message().contains(QStringLiteral("there is no such window")), qPrintable(told.message()));
 }
 
 void tst_LessonHandOver::aLessonWithAnUnknownWordIsNotPlayed_data()

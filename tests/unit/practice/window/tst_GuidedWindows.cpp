@@ -47,6 +47,7 @@ private Q_SLOTS:
     void tellsHowThingsCameAbout();
     void tellsADragFromAClick();
     void knowsWhatLeadsWhere();
+    void aGreyEntryLeadsNowhere();
     void knowsWhatAControlBringsAbout_data();
     void knowsWhatAControlBringsAbout();
     void knowsWhatAControlMeansAtPresent();
@@ -58,6 +59,8 @@ private Q_SLOTS:
     void aSecondPressBehindNextIsSwallowed();
     void theWindowOnTopGetsTheFocusBack();
     void tellsTheTipsOfButtons();
+    void knowsWhatALessonNames_data();
+    void knowsWhatALessonNames();
 };
 
 void tst_GuidedWindows::namesTheControlAtAPosition()
@@ -167,6 +170,25 @@ void tst_GuidedWindows::tellsADragFromAClick()
         QVERIFY(use(editor, cell(2, 2), ControlUse::Kind::kDrag));
         QVERIFY(editor.takeTold().contains(str("mouseEvent,Map,drag in MainWindowClient_mapEditorView")));
     }
+}
+
+void tst_GuidedWindows::aGreyEntryLeadsNowhere()
+{
+    Editor editor;
+    editor.openProject();
+    editor.run("mode.event");
+    const auto leads = [&editor](const char *entry) {
+        const Ways ways = editor->ways();
+        return std::any_of(ways.cbegin(), ways.cend(), [entry](const Way &way) {
+            return way.by == spot("Menu", entry) && way.windowKey == str("EventEditorMain");
+        });
+    };
+    QVERIFY(leads("EventPopup/editEvent"));
+    // Where no event stands.
+    QTest::mouseClick(editor.map(), Qt::RightButton, {}, QPoint(48, 48));
+    QCOMPARE(editor->openWindows().constLast(), str("Popup"));
+    QVERIFY(leads("EventPopup/newEvent"));
+    QVERIFY(!leads("EventPopup/editEvent"));
 }
 
 void tst_GuidedWindows::knowsWhatLeadsWhere()
@@ -441,6 +463,55 @@ void tst_GuidedWindows::tellsTheTipsOfButtons()
     QCOMPARE(unhovered.size(), 1);
     send(QEvent::Leave);
     QCOMPARE(unhovered.size(), 1);
+}
+
+void tst_GuidedWindows::knowsWhatALessonNames_data()
+{
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<QString>("unknown");
+    const auto row = [](const char *window, const char *condition, const char *unknown = "") {
+        QTest::addRow("%s in %s", condition, window) << str(window) << str(condition) << str(unknown);
+    };
+    row("MainWindow", "click,");
+    row("", "click,");
+    row("ApplicationWindow", "list,2");
+    row("MainWindow", "windowState,NewProject,open");
+    row("MainWindow", "action,fileSave,close");
+    row("MapEditTreeBox", "popup,MapPopup");
+    row("MainWindowClient_mapEditorView", "mouseEvent,Map,click");
+    row("Location", "mouseEvent,Location,click");
+    row("EventCommand", "comboBox,direction,1");
+    row("EventCommand", "spinBox,=,35 %");
+    row("DatabaseMain", "tabView,tabview,12");
+    row("Dungeon", "click,", "Dungeon");
+    row("MainWindow", "windowState,Dungeon,open", "windowState,Dungeon,open");
+    row("MainWindow", "action,fileBurn,", "action,fileBurn,");
+    row("MapEditTreeBox", "popup,Lunch", "popup,Lunch");
+    row("MainWindow", "mouseEvent,Moon,click", "mouseEvent,Moon,click");
+    row("MainWindow", "menuEvent,Moon,click", "menuEvent,Moon,click");
+    row("NewProject", "list,2", "list,2");
+    row("MainWindow", "tabView,tabview,9", "tabView,tabview,9");
+    row("EventCommand", "checked,sugar,1", "checked,sugar,1");
+    row("Copying", "textLength,name,3", "textLength,name,3");
+}
+
+void tst_GuidedWindows::knowsWhatALessonNames()
+{
+    QFETCH(QString, window);
+    QFETCH(QString, condition);
+    QFETCH(QString, unknown);
+    const Editor editor;
+    Step step;
+    step.id = 7;
+    step.windowKey = window;
+    step.conditionText = condition;
+    const std::optional<Condition> read = Condition::parse(condition);
+    QVERIFY(read);
+    step.condition = *read;
+    const std::optional<UnknownWord> found = editor->unknownWord(step);
+    QCOMPARE(found ? found->word : QString(), unknown);
+    QVERIFY(!found || (found->stepId == 7 && !found->problem.isEmpty()));
 }
 
 QTEST_MAIN(tst_GuidedWindows)

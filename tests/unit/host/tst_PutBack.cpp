@@ -1,0 +1,177 @@
+#include "SomeWays.h"
+
+using namespace SomeWays;
+
+/// Data that went wrong, and another project: what is put back.
+class tst_PutBack : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anotherProjectIsPutBack();
+    void theDataArePutBackAfterAWrongMove();
+    void aTaskThatChangesTheDataIsNothingToPutBack();
+    void takesTheFilesOfALessonForItsOwn();
+    void whatIsGoneIsPutBack();
+    void whatWentWrongEarlierIsPutBack();
+    void whatIsGoneFromTheStartLeadsNowhere();
+    void anotherProjectCountsWhereTheStepPointsNowhere();
+};
+
+void tst_PutBack::anotherProjectIsPutBack()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    played.editor.m_project = str("/games/other");
+    played.editor.m_data = str("other");
+    played.use("MainWindow", "new");
+    played.editor.report(str("action"), str("fileNew"), str("open"));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.session.canPutBack());
+    QCOMPARE(played.lastTold(), str("indicator|update|-9999|-9999|MainWindow|put it back|4|6"));
+    played.session.putBack();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.editor.m_project, str("/games/mine"));
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.lastTold(), str("indicator|update|95|196|MainWindow|Hint|4|0"));
+}
+
+void tst_PutBack::theDataArePutBackAfterAWrongMove()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "tiles", 1));
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    QVERIFY(!played.session.canPutBack());
+    played.use(kProperties, "ok");
+    played.editor.m_data = str("a map renamed");
+    played.editor.report(str("action"), str("ok"));
+    QVERIFY(played.session.canPutBack());
+    QVERIFY(!played.session.isAstray());
+    played.use("MainWindow", "maps", 0);
+    played.editor.open(str(kProperties));
+    played.turn();
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.editor.m_stack, QStringList{str("MainWindow")});
+    QVERIFY(!played.session.isAstray());
+    QVERIFY(!played.session.canPutBack());
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_PutBack::aTaskThatChangesTheDataIsNothingToPutBack()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "name"));
+    played.play({Played::item(1, "MainWindow", "click,", "keyboard")});
+    played.use("MainWindow", "name");
+    played.editor.m_data = str("a name typed");
+    played.editor.report(str("textLength"), str("name"), str("3"));
+    played.turn();
+    QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::takesTheFilesOfALessonForItsOwn()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    connect(&played.session, &LessonSession::filesReceived, this,
+            [&played] { played.editor.m_data = str("the lesson's files"); });
+    played.session.receive(QStringLiteral("feedbackPresetData\u0001{\"data/Actors.json\":\"[]\"}"));
+    played.turn();
+    played.use("MainWindow", "maps", 5);
+    played.editor.report(str("list"), str("5"));
+    QVERIFY(!played.session.canPutBack());
+    played.editor.m_data = str("and a wrong move");
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("the lesson's files"));
+}
+
+void tst_PutBack::whatIsGoneIsPutBack()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "list,3"), QStringLiteral(R"("id":2)")});
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("a map less");
+    played.editor.m_hidden.append(row);
+    played.editor.report(str("action"), str("delete"));
+    QTRY_VERIFY(played.session.isAstray());
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.lastTold().contains(str("|put it back|")));
+    played.editor.m_hidden.clear();
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.id(), 1);
+}
+
+void tst_PutBack::whatWentWrongEarlierIsPutBack()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                 Played::item(3, "MainWindow", "click,"), Played::item(4, "MainWindow", "list,3"),
+                 QStringLiteral(R"("id":5)")});
+    const auto next = [&played] {
+        played.session.next();
+        played.turn();
+    };
+    next();
+    // Nobody who reads on is kept from it.
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("a map less");
+    played.editor.m_hidden.append(row);
+    played.editor.report(str("action"), str("delete"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    next();
+    next();
+    QCOMPARE(played.id(), 4);
+    QTRY_VERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    played.editor.m_hidden.clear();
+    played.session.putBack();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    next();
+    next();
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_PutBack::whatIsGoneFromTheStartLeadsNowhere()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.editor.m_hidden.append(row);
+    played.play({Played::item(1, "MainWindow", "list,3"), QStringLiteral(R"("id":2)")});
+    played.turn();
+    played.turn();
+    // There is nothing to put back.
+    QVERIFY(!played.session.isAstray());
+}
+
+void tst_PutBack::anotherProjectCountsWhereTheStepPointsNowhere()
+{
+    Played played;
+    played.play({QStringLiteral(R"("id":1,"x":-9999,"y":-9999,"windowKey":"","condition":"click,")"),
+                 QStringLiteral(R"("id":2)")});
+    played.editor.m_project = str("/games/other");
+    played.use("MainWindow", "open");
+    played.editor.report(str("action"), str("fileOpen"));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    QVERIFY(!played.session.isAstray());
+}
+
+QTEST_GUILESS_MAIN(tst_PutBack)
+#include "tst_PutBack.moc"
