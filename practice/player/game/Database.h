@@ -105,7 +105,7 @@ struct GearEntry : Entry
 struct Drop
 {
     int item = 0;
-    /// It drops once in so many times.
+    /// It drops once in so many times; never for 0.
     int denominator = 1;
 };
 

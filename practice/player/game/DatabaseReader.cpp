@@ -107,11 +107,11 @@ EnemyEntry enemy(const QJsonValue &json)
     entry.gold = qMax(0, number(json, "gold"));
     const QJsonArray drops = list(json, "dropItems");
     for (const QJsonValue &drop : drops) {
-        entry.drops.append({number(drop, "itemId"), qMax(1, number(drop, "denominator", 1))});
+        entry.drops.append({number(drop, "itemId"), number(drop, "denominator", 1)});
     }
     const QJsonArray actions = list(json, "actions");
     for (const QJsonValue &action : actions) {
-        entry.actions.append({number(action, "skillId"), qBound(1, number(action, "rating", 5), 9),
+        entry.actions.append({number(action, "skillId"), qBound(1, number(action, "rating", 5), 10),
                               number(action, "conditionType"), number(action, "conditionValue"),
                               flag(action, "onlyOnce")});
     }

@@ -95,7 +95,6 @@ struct PanelRow
     QString text;
     /// At the right edge, such as a number or a price.
     QString rightText;
-    QString icon;
     bool isEnabled = true;
 };
 

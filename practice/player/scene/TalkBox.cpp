@@ -301,7 +301,7 @@ void TalkBox::show(const Game &game, Frame *frame) const
         QStringList texts;
         for (const QString &text : m_choices.texts) {
             texts.append(TalkText::shown(text, game).text());
-            panel.rows.append({texts.constLast(), {}, {}, true});
+            panel.rows.append({texts.constLast(), {}, true});
         }
         panel.rect = TalkPanels::choices(texts, m_choices.place, messagePlace);
     } else if (m_kind == Kind::kNumber) {
@@ -309,16 +309,14 @@ void TalkBox::show(const Game &game, Frame *frame) const
         panel.rect = TalkPanels::number(m_digits, messagePlace);
         const QString digits = QStringLiteral("%1").arg(m_number, m_digits, 10, QLatin1Char('0'));
         for (const QChar digit : digits) {
-            panel.rows.append({QString(digit), {}, {}, true});
+            panel.rows.append({QString(digit), {}, true});
         }
     } else if (m_kind == Kind::kItems) {
         panel.role = QStringLiteral("items");
         panel.rect = TalkPanels::items(messagePlace);
         for (const int id : m_items) {
-            panel.rows.append({game.data().items.name(id),
-                               QString::number(game.state().count(Goods::kItem, id)),
-                               {},
-                               true});
+            panel.rows.append(
+                {game.data().items.name(id), QString::number(game.state().count(Goods::kItem, id)), true});
         }
         if (m_items.isEmpty()) {
             panel.lines.append(

@@ -9,6 +9,7 @@ class tst_GameReader : public QObject
 
 private Q_SLOTS:
     void theSampleIsReadWhole();
+    void anEnemyIsReadAsItsWindowsHaveIt();
     void nothingAtAllIsNamed();
     void wildMapsAreNamed_data();
     void wildMapsAreNamed();
@@ -52,6 +53,22 @@ void tst_GameReader::theSampleIsReadWhole()
     QVERIFY(!village->isFloor({0, 0}));
     QVERIFY(!village->isFloor({-1, 3}));
     QCOMPARE(village->event(11)->pages.constFirst().route.steps.size(), 4);
+}
+
+void tst_GameReader::anEnemyIsReadAsItsWindowsHaveIt()
+{
+    auto files = smallGame::files({QJsonValue()});
+    files.insert(QStringLiteral("data/Enemies.json"), QJsonDocument::fromJson(R"([null, {"id": 1, "hp": 9,
+        "dropItems": [{"itemId": 1, "denominator": 1000}, {"itemId": 2, "denominator": 0}],
+        "actions": [{"skillId": 1, "rating": 10}]}])")
+                                                          .array());
+    const auto data = read(files);
+    const player::EnemyEntry *const enemy = data->enemies.find(1);
+    QVERIFY(enemy != nullptr);
+    QCOMPARE(enemy->drops.size(), 2);
+    QCOMPARE(enemy->drops.at(0).denominator, 1000);
+    QCOMPARE(enemy->drops.at(1).denominator, 0);
+    QCOMPARE(enemy->actions.constFirst().rating, 10);
 }
 
 void tst_GameReader::nothingAtAllIsNamed()
