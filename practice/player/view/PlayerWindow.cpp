@@ -30,6 +30,7 @@ PlayerWindow::PlayerWindow(std::unique_ptr<Game> game, std::unique_ptr<Artwork> 
     : QWidget(parent, Qt::Window)
     , m_game(std::move(game))
     , m_artwork(std::move(artwork))
+    , m_loudspeaker(Loudspeaker::make())
     , m_view(new GameView(&m_game->data(), m_artwork.get(), this))
     , m_keys(new KeyLine(this))
     , m_log(new LogPane(&m_game->data(), this))
@@ -76,6 +77,9 @@ void PlayerWindow::run()
     m_ticks += due;
     for (qint64 tick = 0; tick < qMin<qint64>(due, kMostTicksAtOnce) && !m_game->isOver(); ++tick) {
         m_game->tick(m_view->keys().take());
+        if (m_loudspeaker != nullptr) {
+            m_loudspeaker->hear(m_game->frame());
+        }
     }
     m_view->setFrame(m_game->frame());
     tell(m_game->takeProblems());
@@ -105,6 +109,9 @@ void PlayerWindow::tell(const QVector<Problem> &problems)
 void PlayerWindow::setRunning(bool isRunning)
 {
     m_view->setPaused(!isRunning);
+    if (m_loudspeaker != nullptr) {
+        m_loudspeaker->setMuted(!isRunning);
+    }
     m_view->keys().letGo();
     if (isRunning) {
         m_clock.start();

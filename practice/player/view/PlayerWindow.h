@@ -1,6 +1,7 @@
 #pragma once
 
 #include "player/scene/Game.h"
+#include "player/sound/Loudspeaker.h"
 #include "player/view/Artwork.h"
 
 #include <QElapsedTimer>
@@ -53,6 +54,8 @@ private:
 
     std::unique_ptr<Game> m_game;
     std::unique_ptr<Artwork> m_artwork;
+    /// nullptr on a machine that plays nothing.
+    std::unique_ptr<Loudspeaker> m_loudspeaker;
     GameView *m_view;
     QWidget *m_keys;
     LogPane *m_log;
