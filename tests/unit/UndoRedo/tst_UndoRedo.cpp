@@ -297,5 +297,4 @@ void tst_UndoRedo::callsAreLoggedWithTheirNumbers()
 }
 
 QTEST_MAIN(tst_UndoRedo)
-#include "moc_UndoRedoTest.cpp"
 #include "tst_UndoRedo.moc"

@@ -155,5 +155,4 @@ void tst_UndoSequences::aTransactionInsideAnotherIsLogged()
 }
 
 QTEST_MAIN(tst_UndoSequences)
-#include "moc_UndoRedoTest.cpp"
 #include "tst_UndoSequences.moc"

@@ -227,5 +227,4 @@ void tst_UndoTransactions::commandsOutsideATransactionMergeOnTheStack()
 }
 
 QTEST_MAIN(tst_UndoTransactions)
-#include "moc_UndoRedoTest.cpp"
 #include "tst_UndoTransactions.moc"
