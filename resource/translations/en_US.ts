@@ -2186,11 +2186,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Begin a “New game”. Your name for the village appears at the top. Then click “Next”.</translation>
+      <translation>Begin a “New game”: there is music now, and your name for the village. Then click “Next”.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Go into the shop and out again: at the door the piece changes. Test play itself is silent.</translation>
+      <translation>Go into the shop and out again. Listen: at the door the music changes.</translation>
     </message>
     <message>
       <source>#32</source>

@@ -2186,11 +2186,11 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「ニューゲーム」で始めると、付けた名前が出ます。そのあと「次へ」です。</translation>
+      <translation>「ニューゲーム」で始めると、音楽が流れ、付けた名前が出ます。次に「次へ」です。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>店に入って、また出ます。曲はドアで切り替わります。テストプレイでは音は出ません。</translation>
+      <translation>店に入って、また出てみましょう。ドアのところで音楽が変わります。</translation>
     </message>
     <message>
       <source>#32</source>

@@ -2186,11 +2186,11 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>开始“新游戏”，上方会出现你起的名称。然后点击“下一步”。</translation>
+      <translation>开始“新游戏”，会响起音乐，出现你起的名称。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>走进商店再出来，音乐会在门口切换。试玩本身没有声音。</translation>
+      <translation>走进商店再出来。听，音乐在门口变了。</translation>
     </message>
     <message>
       <source>#32</source>
