@@ -2497,7 +2497,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>The window begins at the first tab again. Click “Flow”, then “Next”.</translation>
+      <translation>The call is on the “Flow” tab again: click it, and then “Next”.</translation>
     </message>
     <message>
       <source>#59</source>

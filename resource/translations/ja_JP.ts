@@ -2497,7 +2497,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>また最初のタブに戻っています。「フロー」をクリックして、「次へ」をクリックします。</translation>
+      <translation>呼び出しは、また「フロー」タブにあります。クリックして、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#59</source>

@@ -2497,7 +2497,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>窗口又回到第一个选项卡。点击“流程”，然后点击“下一步”。</translation>
+      <translation>调用还是在“流程”选项卡里。点击它，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#59</source>
