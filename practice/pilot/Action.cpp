@@ -38,6 +38,8 @@ QString Action::inWords() const
         return QStringLiteral("Esc");
     case Kind::kChoose:
         return QStringLiteral("choosing row %1").arg(row);
+    case Kind::kChooseQuoted:
+        return QStringLiteral("choosing what the hint quotes, if there is a list");
     }
     return {};
 }

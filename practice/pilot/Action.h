@@ -27,6 +27,8 @@ struct Action
         kEscape,
         /// The row of the list that has dropped down, and Enter.
         kChoose,
+        /// The row that text, a hint, quotes, where a list has dropped down; nothing where none has.
+        kChooseQuoted,
     };
 
     Kind kind = Kind::kClick;
@@ -34,7 +36,7 @@ struct Action
     QPoint place;
     /// The button's window id.
     quint32 window = 0;
-    /// What kType types.
+    /// What kType types; the hint of kChooseQuoted.
     QString text;
     /// What kChoose takes, counted from 0.
     int row = 0;
@@ -43,7 +45,7 @@ struct Action
     [[nodiscard]] bool isOfKeyboard() const
     {
         return kind == Kind::kSelectAll || kind == Kind::kType || kind == Kind::kEnter ||
-               kind == Kind::kEscape || kind == Kind::kChoose;
+               kind == Kind::kEscape || kind == Kind::kChoose || kind == Kind::kChooseQuoted;
     }
 
     /// As a message says it, such as "a click at (10, 20)".

@@ -3,6 +3,7 @@
 #include "lesson/Scenario.h"
 #include "pilot/ArrowSpot.h"
 #include "pilot/DragWay.h"
+#include "pilot/QuotedRow.h"
 
 namespace {
 
@@ -89,6 +90,11 @@ QVector<Action> finishing(const Step &step)
     }
     if (step.icon == QLatin1String("click") && step.condition.type() == Type::kComboBox) {
         return {{Kind::kChoose, {}, 0, {}, step.condition.value().toInt()}};
+    }
+    // What is clicked may be a combo box, whose row no condition names.
+    if (step.icon == QLatin1String("click") && step.condition.type() == Type::kNext &&
+        !quotedIn(step.hint).isEmpty()) {
+        return {key(Kind::kChooseQuoted, step.hint)};
     }
     return {};
 }

@@ -2,7 +2,7 @@
 
 #include "pilot/SeenOverlays.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -28,6 +28,8 @@ public:
     [[nodiscard]] virtual int clicksHeard() = 0;
     /// Whether a list has dropped down in the editor, which then gets the keys.
     [[nodiscard]] virtual bool seesList() = 0;
+    /// The rows of that list; none when there is no list.
+    [[nodiscard]] virtual QStringList listRows() = 0;
     /// What a message tells of the editor's windows, such as their titles, the one with the focus first.
     [[nodiscard]] virtual QString windows() = 0;
     /// Leaves a picture of the whole screen in the file @p path, a PNG. False when it cannot be written.

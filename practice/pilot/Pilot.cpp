@@ -2,6 +2,7 @@
 
 #include "host/LessonSession.h"
 #include "pilot/Mistake.h"
+#include "pilot/QuotedRow.h"
 
 #include <QDir>
 
@@ -326,9 +327,16 @@ void Pilot::act()
         endActing();
         return;
     }
-    const Action action = m_plan.actions.at(m_next);
+    Action action = m_plan.actions.at(m_next);
     if (!canAct(action, m_plan)) {
         return;
+    }
+    if (action.kind == Action::Kind::kChooseQuoted) {
+        if (!m_eye->seesList()) {
+            ++m_next;
+            return;
+        }
+        action = choiceFor(action.text);
     }
     if (const std::optional<QPoint> place = mousePlace(action)) {
         m_clicksBefore = m_eye->clicksHeard();
@@ -350,6 +358,14 @@ void Pilot::act()
     }
 }
 
+Action Pilot::choiceFor(const QString &hint) const
+{
+    const int row = quotedRow(hint, m_eye->listRows());
+    // What is chosen already stays where the list has no such row.
+    return row < 0 ? Action{Action::Kind::kEscape, {}, 0, {}, 0}
+                   : Action{Action::Kind::kChoose, {}, 0, {}, row};
+}
+
 bool Pilot::canAct(const Action &action, const ActionPlan &plan)
 {
     if (action.kind == Action::Kind::kChoose) {
@@ -360,6 +376,13 @@ bool Pilot::canAct(const Action &action, const ActionPlan &plan)
     }
     // A window manager may hold a click back, and keys or a button of the companion would come before it.
     const bool isClickHeard = !m_clicksBefore || m_eye->clicksHeard() > *m_clicksBefore;
+    if (action.kind == Action::Kind::kChooseQuoted) {
+        return isClickHeard;
+    }
+    // A list keeps the mouse until it is gone.
+    if (plan.actions.value(m_next - 1).kind == Action::Kind::kChooseQuoted && m_eye->seesList()) {
+        return false;
+    }
     return isClickHeard && (!action.isOfKeyboard() || !plan.spot || m_eye->takesKeysAt(*plan.spot));
 }
 

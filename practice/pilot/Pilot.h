@@ -104,6 +104,8 @@ private:
     [[nodiscard]] bool err(const ActionPlan &plan);
     void act();
     [[nodiscard]] bool canAct(const Action &action, const ActionPlan &plan);
+    /// What is done in the list that has dropped down.
+    [[nodiscard]] Action choiceFor(const QString &hint) const;
     void endActing();
     void watchEnd();
     void end();

@@ -1,7 +1,8 @@
 #include "pilot/x11/XEye.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QWindow>
@@ -173,6 +174,19 @@ bool XEye::seesList()
     return std::any_of(windows.cbegin(), windows.cend(), [](const QWindow *window) {
         return window->isVisible() && window->type() == Qt::Popup;
     });
+}
+
+QStringList XEye::listRows()
+{
+    const QWidget *const popup = QApplication::activePopupWidget();
+    const auto *const list = popup != nullptr ? popup->findChild<QAbstractItemView *>() : nullptr;
+    QStringList rows;
+    if (list != nullptr && list->model() != nullptr) {
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            rows.append(list->model()->index(row, 0).data().toString());
+        }
+    }
+    return rows;
 }
 
 QString XEye::windows()

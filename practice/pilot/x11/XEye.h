@@ -20,6 +20,7 @@ public:
     [[nodiscard]] bool takesKeysAt(const QPoint &spot) override;
     [[nodiscard]] int clicksHeard() override { return m_heard->clicks; }
     [[nodiscard]] bool seesList() override;
+    [[nodiscard]] QStringList listRows() override;
     [[nodiscard]] QString windows() override;
     [[nodiscard]] bool takePicture(const QString &path) override;
 

@@ -13,6 +13,7 @@ struct Scene
     };
     bool takesKeys = true;
     bool hasList = true;
+    QStringList rows;
     bool hearsClicks = true;
     bool takesPictures = true;
     int looks = 0;
@@ -55,6 +56,7 @@ public:
         ++m_scene->questionsForLists;
         return m_scene->hasList;
     }
+    QStringList listRows() override { return m_scene->rows; }
     QString windows() override { return QStringLiteral("\"Editor\""); }
     bool takePicture(const QString &path) override
     {

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -23,6 +24,8 @@ const QString kTyping = QStringLiteral(
     R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
 const QString kChoosing = QStringLiteral(
     R"({"id":6,"x":10,"y":-20,"windowKey":"MainWindow","condition":"comboBox,kind,2","hint":"Choose","icon":"click"})");
+const QString kQuoting = QStringLiteral(
+    R"({"id":7,"x":10,"y":-20,"windowKey":"MainWindow","condition":"click,","hint":"Choose “Herb found”.","icon":"click"})");
 const QString kDragging = QStringLiteral(
     R"({"id":5,"x":10,"y":-20,"windowKey":"MainWindow","condition":"pressed,0,0","hint":"Drag to the right","icon":"click"})");
 const QString kReading = QStringLiteral(
@@ -46,6 +49,8 @@ private Q_SLOTS:
     void typesOnlyWithTheFocus();
     void typesOnlyBehindTheClick();
     void choosesOnlyFromAListThatIsOpen();
+    void choosesWhatTheHintQuotes_data();
+    void choosesWhatTheHintQuotes();
     void plansAnewWhatWasMissed();
     void keepsTwoClicksApart();
     void answersOneQuestionAfterTheOther();
@@ -74,6 +79,7 @@ private:
     std::unique_ptr<LessonSession> m_session;
     std::unique_ptr<Pilot> m_pilot;
     QStringList m_steps;
+    int m_chosen = -1;
     std::optional<QStringList> m_failures; ///< once the play is over
 };
 
@@ -92,6 +98,7 @@ void tst_Pilot::init()
         return m_overlays;
     };
     m_steps.clear();
+    m_chosen = -1;
     m_failures.reset();
     m_editor = std::make_unique<FakeEditor>();
     m_session = std::make_unique<LessonSession>(m_editor.get());
@@ -202,6 +209,45 @@ void tst_Pilot::choosesOnlyFromAListThatIsOpen()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
     QCOMPARE(m_scene.acts.constLast().kind, Action::Kind::kChoose);
     QCOMPARE(m_scene.acts.constLast().row, 2);
+}
+
+void tst_Pilot::choosesWhatTheHintQuotes_data()
+{
+    QTest::addColumn<QStringList>("rows");
+    QTest::addColumn<QVector<int>>("kinds");
+    using Kind = Action::Kind;
+    QTest::newRow("from a list that drops down")
+        << QStringList{QStringLiteral("None"), QStringLiteral("2: Herb found")}
+        << QVector<int>{int(Kind::kClick), int(Kind::kChoose), int(Kind::kPressButton)};
+    QTest::newRow("which closes without such a row")
+        << QStringList{QStringLiteral("None")}
+        << QVector<int>{int(Kind::kClick), int(Kind::kEscape), int(Kind::kPressButton)};
+    QTest::newRow("and clicks on without a list")
+        << QStringList() << QVector<int>{int(Kind::kClick), int(Kind::kPressButton)};
+}
+
+void tst_Pilot::choosesWhatTheHintQuotes()
+{
+    QFETCH(QStringList, rows);
+    QFETCH(QVector<int>, kinds);
+    m_overlays = {kBubble, {kNext}};
+    m_scene.rows = rows;
+    m_scene.hasList = !rows.isEmpty();
+    m_scene.perform = [this](const Action &action) {
+        if (action.kind == Action::Kind::kChoose) {
+            m_chosen = action.row;
+        }
+        m_scene.hasList = m_scene.hasList && action.kind == Action::Kind::kClick;
+        return Hand::Result::kDone;
+    };
+    begin({kQuoting});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), kinds.size(), kSoonMs);
+    QVector<int> done;
+    for (const Action &action : std::as_const(m_scene.acts)) {
+        done.append(int(action.kind));
+    }
+    QCOMPARE(done, kinds);
+    QCOMPARE(m_chosen, kinds.contains(int(Action::Kind::kChoose)) ? 1 : -1);
 }
 
 void tst_Pilot::plansAnewWhatWasMissed()
