@@ -96,17 +96,20 @@ private:
         return open;
     }
 
-    /// Who types ends it with Enter, which is the default button; but a number or a text that is long enough
-    /// is there without it.
+    /// Who types ends it with Enter; but a number or a text that is long enough is there without it.
     static bool endsWithEnter(const ScenarioItem &item, const Condition &condition)
     {
         return item.icon == QLatin1String("keyboard") && condition.type() != Type::kSpinBox &&
                condition.type() != Type::kTextLength;
     }
 
+    /// A list or a map takes Enter as a double click; from elsewhere it goes to the default button.
+    static bool takesEnter(const ControlDescription &control) { return !control.doubleClick.isEmpty(); }
+
     static const ControlAction &actionOf(const ControlDescription &control, const QString &icon)
     {
-        if (icon == QLatin1String("doubleClick")) {
+        if (icon == QLatin1String("doubleClick") ||
+            (icon == QLatin1String("keyboard") && takesEnter(control))) {
             return control.doubleClick;
         }
         return icon == QLatin1String("rightClick") ? control.contextMenu : control.click;
@@ -122,15 +125,20 @@ private:
             return {};
         }
         const QPoint tip = QPoint(item.x, item.y) + LessonWords::kTip;
-        QVector<ControlDescription> used;
+        QVector<ControlDescription> pointed;
+        QVector<ControlDescription> byDefault;
         const QVector<ControlDescription> controls = m_windows.controlsIn(item.windowKey);
         for (const ControlDescription &control : controls) {
-            const bool isDefault = control.own.object.value(QLatin1String("default")).toBool();
-            if (endsWithEnter(item, *condition) ? isDefault : control.geometry.contains(tip)) {
-                used.append(control);
+            if (control.geometry.contains(tip)) {
+                pointed.append(control);
+            }
+            if (control.own.object.value(QLatin1String("default")).toBool()) {
+                byDefault.append(control);
             }
         }
-        return used;
+        const bool goesToDefault =
+            endsWithEnter(item, *condition) && std::none_of(pointed.cbegin(), pointed.cend(), &takesEnter);
+        return goesToDefault ? byDefault : pointed;
     }
 
     void check(int at)
