@@ -136,7 +136,7 @@ bool Condition::isMetBy(const EditorEvent &event, const QString &windowKey) cons
         return false;
     }
     if (isOfControl() && !isAnyWindow(windowKey) && !event.windowKey.isEmpty() &&
-        event.windowKey != windowKey) {
+        event.windowKey != windowKey && event.around != windowKey) {
         return false;
     }
     switch (m_type) {

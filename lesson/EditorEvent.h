@@ -22,4 +22,6 @@ struct EditorEvent
     /// where the editor did it by itself, and from an editor that does not tell. Where it makes no difference
     /// which row, tab or cell it was, the control as a whole.
     ControlSpot cause = {};
+    /// Where windowKey is a part: the key of the window that the part stands in. Steps may name either.
+    QString around = {};
 };

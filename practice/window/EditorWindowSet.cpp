@@ -76,14 +76,16 @@ void EditorWindowSet::wireEditor()
 
 void EditorWindowSet::wire(EditorWindow *window)
 {
-    connect(window, &EditorWindow::happened, this,
-            [this, window](const QString &type, const QString &target, const QString &value,
-                           const ControlSpot &cause) {
-                const QString key = m_ground.descriptions.contains(window->key())
-                                        ? window->key()
-                                        : m_ground.descriptions.popupKey();
-                Q_EMIT happened({type, target, value, key, toldSpot(cause)});
-            });
+    connect(
+        window, &EditorWindow::happened, this,
+        [this, window](const QString &type, const QString &target, const QString &value,
+                       const ControlSpot &cause) {
+            const QString key = m_ground.descriptions.contains(window->key())
+                                    ? window->key()
+                                    : m_ground.descriptions.popupKey();
+            const QString owner = windowOf(key);
+            Q_EMIT happened({type, target, value, key, toldSpot(cause), owner == key ? QString() : owner});
+        });
     connect(window, &EditorWindow::asked, this,
             [this, window](const ControlAction &action, const QPoint &position, const ControlSpot &cause) {
                 onAsked(window, action, position, cause);

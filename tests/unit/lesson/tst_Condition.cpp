@@ -233,18 +233,25 @@ void tst_Condition::aControlCountsInTheWindowOfTheStep_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("stepWindow");
     QTest::addColumn<QString>("eventWindow");
+    QTest::addColumn<QString>("around");
     QTest::addColumn<bool>("met");
 
+    const QString none;
     const QString list = QStringLiteral("list,0");
     const QString main = QStringLiteral("MainWindow");
     const QString tree = QStringLiteral("MapEditTreeBox");
-    QTest::newRow("the same window") << list << tree << tree << true;
-    QTest::newRow("another list in another window") << list << tree << main << false;
+    QTest::newRow("the same window") << list << tree << tree << none << true;
+    QTest::newRow("another list in another window") << list << tree << main << none << false;
+    QTest::newRow("a part of the step's window") << list << main << tree << main << true;
+    QTest::newRow("a part of another window")
+        << list << QStringLiteral("DatabaseMain") << tree << main << false;
+    QTest::newRow("a part beside that of the step")
+        << list << QStringLiteral("MainWindowClient_mapEditorView") << tree << main << false;
     QTest::newRow("a step of the whole editor")
-        << list << QStringLiteral("ApplicationWindow") << tree << true;
-    QTest::newRow("a step of no window") << list << QString() << tree << true;
-    QTest::newRow("an event of no window") << list << tree << QString() << true;
-    QTest::newRow("an action, from wherever") << QStringLiteral("action,0,") << tree << main << true;
+        << list << QStringLiteral("ApplicationWindow") << tree << main << true;
+    QTest::newRow("a step of no window") << list << QString() << tree << main << true;
+    QTest::newRow("an event of no window") << list << tree << QString() << none << true;
+    QTest::newRow("an action, from wherever") << QStringLiteral("action,0,") << tree << main << none << true;
 }
 
 void tst_Condition::aControlCountsInTheWindowOfTheStep()
@@ -252,8 +259,9 @@ void tst_Condition::aControlCountsInTheWindowOfTheStep()
     QFETCH(QString, text);
     QFETCH(QString, stepWindow);
     QFETCH(QString, eventWindow);
-    const EditorEvent event{text.section(QLatin1Char(','), 0, 0), QStringLiteral("0"), QString(),
-                            eventWindow};
+    QFETCH(QString, around);
+    const EditorEvent event{
+        text.section(QLatin1Char(','), 0, 0), QStringLiteral("0"), QString(), eventWindow, {}, around};
     QTEST(Condition::parse(text)->isMetBy(event, stepWindow), "met");
 }
 
