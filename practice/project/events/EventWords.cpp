@@ -111,6 +111,10 @@ void EventWords::edit(DataLayer &layer) const
     }
     layer.select(MapEvents::path(), number);
     layer.select(pagesSource(), 0);
+    // What was chosen last for another event says nothing about this one.
+    layer.select(str("commandTab"), 0);
+    layer.select(str("commandsOfTab"),
+                 m_start->eventCommands.codesIn(EventCommands::tabs().constFirst()).value(0));
 }
 
 void EventWords::paste(DataLayer &layer) const

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theLastPageStays();
     void movingIsOneStep();
     void aSmallerMapTakesItsEventsIn();
+    void eachEventBeginsWithTheFirstCommand();
     void aCommandIsInsertedByItsForm();
     void aCommandIsChangedByItsForm();
     void aDroppedFormChangesNothing();
@@ -203,6 +204,20 @@ void tst_EventWords::aSmallerMapTakesItsEventsIn()
     room.run("edit.undo");
     QCOMPARE(events(room).at(1)[QLatin1String("x")], QJsonValue(20));
     QCOMPARE(room.map()->size.width(), 24);
+}
+
+void tst_EventWords::eachEventBeginsWithTheFirstCommand()
+{
+    ProjectRoom room;
+    begin(room, {1, 1});
+    makeEvent(room, {1, 1});
+    room.choose("commandTab", 6);
+    room.choose("commandsOfTab", 2);
+    QCOMPARE(room.texts("commandsOfTab").value(2), str("Play sound"));
+    room.run("event.edit");
+    QCOMPARE(room.row("commandTab"), 0);
+    QCOMPARE(room.row("commandsOfTab"), 0);
+    QCOMPARE(room.texts("commandsOfTab").value(0), str("Show message"));
 }
 
 void tst_EventWords::aCommandIsInsertedByItsForm()
