@@ -1443,6 +1443,658 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep4</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson Pip changes his words once a herb is found.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with Pip and the chests, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. Pip and Mila's house with its chests will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Village and house are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Amberfield” in the list of maps. The lesson begins in the village.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events” to get at people, chests and the like.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>This event tells the story when the game begins. Double-click it to see how it works.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>It has two pages, 1 and 2. Each has its own picture, conditions and commands.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>“By itself” means that page 1 starts without anybody asking. It tells the story.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>This command comes after the story. Right-click it.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “Edit command…”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>A switch is ON or OFF, and the game remembers it. Here “Game started” is turned ON.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click the tab with the 2 to see its second page.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Page 2 waits for the same switch. It counts as soon as “Game started” is ON.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Page 2 does nothing. That is why the story is told only once.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Remember: of all pages whose conditions hold, the one with the highest number counts.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>You will do the same with Pip. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>The herb lies in a chest indoors. Click “Mila's house” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Double-click the chest with the herb.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>The chest has two pages, too: closed on page 1, open and empty on page 2.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>The last command brings page 2. Right-click it.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Edit command…” here, too.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>A self switch belongs to one event alone: another chest has an A of its own.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Pip cannot see a self switch of the chest. What others are to know needs a switch.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>So double-click “+” to add one.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click the “Flow” tab. Switches are among its commands.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “Set switches”.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Click this field and choose “Herb found”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>“ON” is set already: whoever opens the chest turns the switch on.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Now the chest tells the whole game that the herb has been found.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>The chest is ready. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Now it is Pip's turn. Click “Amberfield”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Double-click Pip.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Pip has one page only. Whatever happens, he says the same.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Click “New page” to see what that gives him.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>A new page is blank. Without a picture, Pip would vanish from the map.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>That is no good for Pip. Click “Delete page”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Page 1 has all that he needs. Click “Copy page”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Click “Paste page”. The copy becomes page 2.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>You see page 2 now. It has Pip's picture, and so far the words of page 1.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>A right click on the tab of a page opens a menu that does the same.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click the field beside “Switch” and choose “Herb found”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>The other conditions stay at “None”, so the switch alone decides.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click the first message and press the Enter key. That opens it like a double click.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Type what Pip says now, such as A herb! Keep it. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>If the copy has other old words, too, right-click them and delete them.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Page 1 stays as it was. It counts as long as the switch is OFF.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Pip is ready. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click “Play” to see him change.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Talk to Pip, open the right chest in the house, talk to him again. Esc leads back.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Did Pip have other words for you after the chest?</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Then see whether the chest does its part. Click “Mila's house”.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Double-click the chest again.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Below the self switch there has to be this line for the switch “Herb found”.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Double-click the line.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>“Herb found” and “ON” have to be chosen here. Correct what is not.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Click “OK” to keep it so.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “OK”. Later see that Pip's page 2 waits for the same switch.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Guards, gates, a whole village can change in this way, with a single switch.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Click “Save” to keep both events.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Done! Your events change with pages. Lesson 5 lets people ask. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep5</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson the Elder asks, and the player answers.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with the village, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The village, with Pip and Mila's house, will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Amberfield is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Amberfield” in the list of maps. Everything happens in the village.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events”. Two people are missing in the village.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>The Elder will stand here. A double click on a free cell makes an event.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>This lesson has three parts: the Elder asks, he remembers, Toma joins.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Part 1, the Elder asks. Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “Elder”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Shall the Elder move his feet while he stands there?</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Then leave this box empty: he stands quite still. You can change that at any time.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “Moves its feet while standing”.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Double-click “+”. First he says what he wants.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>“Show message” is selected already. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>In a talk, a name in “Speaker” tells who says it. You may type one here.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Type his question, such as Will you look for our lamp? Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Preview…” to see whether it all fits in.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>The answers will stand beside this message. Click “Close”.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Click “Copy page”: page 2 will need his look and one message. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Now for the answers. What the player chooses decides what comes next.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Double-click “+” below the question.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “Show choices”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Two answers stand here already. You may type others in their place.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Players who press X instead get the second answer, “Choice 2”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click “OK” to add the choices.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click the line of the first answer. What is indented below it is only for this answer.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Double-click the “+” right below: here he says thank you.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “Show message”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Type his thanks, such as Thank you, Mila! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Now the second answer: double-click the “+” below that one.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Type what he says then, such as Come back later. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>What is added down here, below the branches, follows either answer.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>To put a command before another one, right-click that one: the menu can add it.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>The game has to remember the promise. Double-click “+” below the thanks.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Click the “Flow” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click “Set switches”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “OK” to choose a switch.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Click this field and choose “Elder asked for help”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>It will be turned “ON”, as it should. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>The switch is in the branch of the first answer, so only a promise turns it on.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>A sound goes well with it. Double-click “+” below the switch.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Click the “Audio” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click “Play sound”.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “OK” to choose a sound.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “Choose…”.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “Healing” and press the Enter key, which takes it.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Click “OK” to add the sound.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>A promise brings thanks, switch and sound; a refusal only a few words.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Part 2: the Elder remembers. Those who have promised are not asked again.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Paste page”. What you copied becomes page 2.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Click the field beside “Switch”, choose “Elder asked for help”, then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Double-click the message: it still has the question.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Type what he says from then on, such as Good luck! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “OK” to keep the new words.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Page 2 has no choices, because you copied the page before they were added.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>The Elder is ready. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Toma will stand here, on the road. Double-click the cell.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Part 3: Toma joins the party, and then he is gone from the map.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Click the empty field to choose how he looks.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Click “Toma”.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Click “OK” to take this picture.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Double-click “+”. Toma says a few words before he joins.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Type his words, such as I'm coming with you. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Click “OK” to keep what he says.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>Double-click “+” below his words.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Click the “Party” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Click “Change party members”.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “OK” to choose who joins.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Click this field and choose “Toma”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>“Join” is right for this. “Leave” would take him out of the party again.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Click “OK”. From this line on he is in the party.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Toma needs a self switch now. Do you remember what that is?</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>It is ON or OFF like a switch, but belongs to one event only. Its pages can wait for it.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>Good. Page 1 stays at “None” here, and page 2 will wait for Toma's own A.</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>Double-click the last “+”.</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>Click “Flow” once more. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>Click “Set self switch”.</translation>
+    </message>
+    <message>
+      <source>#84</source>
+      <translation>Click “OK” to see its fields.</translation>
+    </message>
+    <message>
+      <source>#85</source>
+      <translation>“A” and “ON” are set already, which is what Toma needs.</translation>
+    </message>
+    <message>
+      <source>#86</source>
+      <translation>Click “OK” to add this line.</translation>
+    </message>
+    <message>
+      <source>#87</source>
+      <translation>Click “New page”: this time a blank one is right. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#88</source>
+      <translation>Click the field beside “Self switch” and choose “A”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#89</source>
+      <translation>No picture and no words: with page 2, Toma is gone from the map.</translation>
+    </message>
+    <message>
+      <source>#90</source>
+      <translation>By the way: on the map, a right click on an event lets you copy it with all its pages.</translation>
+    </message>
+    <message>
+      <source>#91</source>
+      <translation>Toma is ready, too. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#92</source>
+      <translation>Click “Play” and talk to the two.</translation>
+    </message>
+    <message>
+      <source>#93</source>
+      <translation>Refuse the Elder's wish first, then promise. See him again, then Toma. Esc leads back.</translation>
+    </message>
+    <message>
+      <source>#94</source>
+      <translation>Did all go well? Click “Save”.</translation>
+    </message>
+    <message>
+      <source>#95</source>
+      <translation>Done! Players decide now, and a hero has joined. Lesson 6 is about heroes. Click “Next”.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
