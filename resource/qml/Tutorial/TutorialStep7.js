@@ -426,7 +426,7 @@
     },
     {
 "id":26,
-"name":"Around: OK, Cancel, Apply",
+"name":"Around: Apply",
 "folder":false,
 "translationId":26,
 "x":797,
