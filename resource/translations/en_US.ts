@@ -2339,7 +2339,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>“OK” keeps your work and closes the window, “Apply” keeps it open, “Cancel” drops it.</translation>
+      <translation>“Apply” keeps what you have done so far, and the window stays open.</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2504,6 +2504,322 @@ Click “Next” to begin.</translation>
     <message>
       <source>#67</source>
       <translation>Lesson 8 leads out of the village, to other maps. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep8</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson the player travels from map to map.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with a village and a forest beyond reach? “No” opens one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The forest south of Amberfield is there, but no way leads to it.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Village and forest are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>The journey begins in the village. Click it in the list.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events”. A way out is an event, too: it waits until the player steps on it.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Here the road leaves the village. Click this cell to mark it.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Click “Passage”. This quick event leads to another map.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>A road needs no door. Choose “None” in the list. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Where does it lead? Click “Choose…”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “Forest path”. The map of the forest shows up.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click this cell, one step inside the forest: the player comes out here. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “OK” to make the passage.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Whoever goes in wants to come back. Click “Forest path” to make the other side.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Double-click this cell, where the road leaves the forest in the north.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>This way you make all by yourself, and see what a quick event saves you.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>With ten ways out in a game, names help. Type one if you like.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>No picture: like every way out, this event is not seen in the game.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>It has to start when the player steps on it: choose “Touched by the player”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Double-click “+”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click the “Scene” tab.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>“Transfer” is selected. It takes the player to a cell of any map. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Click “Choose…” to show the place on the map.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>The village is on show already. Click this cell, one step inside it. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>“Column” and “Row” say which cell it is. They can be typed, too.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click “OK” to take this cell.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>All that the game needs is filled in now: the map and the cell.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Meanwhile the screen turns black for a moment. “White” would suit a dream.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>That is all: a quick passage consists of this one command, too.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>The road is two cells wide. A right click on the event lets you copy it on the map.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Click “OK”. Village and forest are connected.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>The journey goes on. Click “Sample map…” to add a third place.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “Snow field”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “OK”. The snow field is added behind the forest and opens.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>It has no music yet. Double-click it to change its properties.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Each map has its own music: it changes when the player arrives. Click “Choose…”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>“Evening” is calm enough for so much snow. Click it.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “OK” to keep the music.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>A person can lead to another map as well. Double-click this cell: a guard will stand here.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Whoever is lost in the snow asks him, and he leads the way back to the forest.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click “Guard”.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Should he turn to the player who talks to him?</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Then click “Keeps its direction”. He stands like on parade.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Then leave “Keeps its direction” off. He turns by himself, as everybody does.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>“When examined” is right this time: nobody is taken along who did not ask.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Double-click “+” for his words.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Click the “Message” tab, to let him speak first.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>“Show message” is selected. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Type what he says, such as Follow me! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>First he speaks. The transfer has to stand below that.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Double-click the “+” below it.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>“Transfer” is on the “Scene” tab: click it.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Click “Choose…” once more.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “Forest path”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Double-click this cell in the south. That takes it and closes the window.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>“Keep” leaves the player looking the way he looked before. You could also turn him.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>“Place in variables” is for places that change. Lesson 9 has variables.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Below a transfer, commands go on running on the new map.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Click “OK”. The guard stands in the snow.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>One way is missing: the one into the snow. Click “Forest path”.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Click this cell, where the road leaves the forest in the south.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Click “Passage” again.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>No door here, either: choose “None”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Click “Choose…” for the place in the snow.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>Click “Snow field”, your new map.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Double-click this cell, beside the guard.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Click “OK”. All three maps are connected.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “Save” to write maps and ways into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Click “Play”. Walk south, from map to map, and ask the guard to lead you back.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>When you have seen all three maps, press Esc to come back.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Done! You can add maps and lead the player from one to the other.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Lesson 9 has a lever that opens a gate. Click “Next” to finish.</translation>
     </message>
   </context>
   <context>
@@ -3190,6 +3506,266 @@ Click “Next” to begin.</translation>
     <message>
       <source>#68</source>
       <translation>Done! Routes move people, and common events save work. Lesson 12 visits the database.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep14</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson enemies move into the forest.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, in which the forest is still peaceful? “No” opens one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The forest is there, and one kind of enemy that nobody has met yet.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The game is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Forest path” to see where it will happen.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>So far the party walks through unharmed. Enemies are made in the database first.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Click the “Enemies” tab.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>This is the slime. It can take little, and it does not hit hard: right for a beginning.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>“EXP” and “Gold” are what the party gets for beating it.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>A beaten enemy may leave something. Click “Add…”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>The first item is selected already: the herb. That suits a slime of the forest.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Type 8: one slime in eight leaves a herb.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>What else could live in a forest? Click the picture of the slime.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Click the “Animals” tab.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click one after the other, the “Wolf” last. Each has its own picture.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>The slime has to stay a slime: click “Cancel”.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>A second enemy is quickly made from the first. Click “Copy”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Add”: the list gets one more row. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>The new row is selected. Click “Paste” to fill it with the copy. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>It is to be a rat. Type its name, such as Giant rat. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>It still looks like a slime. Click the picture.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Rat”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Type 30: the rat can take twice as much as the slime.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Enemies fight in troops, even one alone. Click the “Troops” tab.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click “Add” for a second troop. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Type a name by which you know the troop, such as One rat. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Nobody is in it. Click “Add” below the list of members. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>It is a slime at first. Choose the second one in the list, your rat.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>So the troop stands before the party. Larger troops have more members, each at its place.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Is it too strong? A trial battle tells. Click “Battle test…”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Nobody is entered here, so the party of the game fights as it begins: Mila alone.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>With “Add” you can also try a party as it will be later, with other levels and weapons.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “Start the battle”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Attack the rat with the Enter key. When you have seen enough, press Esc.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Which troops turn up is a matter of the map. Double-click “Forest path”.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>“Encounters” is the list of its troops. It is empty: click “Add…”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Your troops stand on the left, the first one is selected. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>A battle now begins after 12 to 36 steps, each time anew. Nothing is seen beforehand.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>The party can try to flee. If it loses, the game is over, so save in time.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>A right click on the map in the list leads there, too. So you can add the rat later.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>In the mode “Map”, a right click on the map itself has “Map properties…” as well.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click the village, the first map.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>No troop is entered for this map, so nobody is attacked here.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Go back to the forest for one thing more: click it.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>A good game warns its players. You draw a place that looks spooky.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “Map”, so that you can draw.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click the “Ground” tab.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Click “Sand”. Where slimes crawl, the grass is gone.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click this cell beside the path.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>It only warns. Battles begin anywhere on this map, not just here.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>A right click on the tiles changes the tile set. In “Night”, all the forest is spooky.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Click “Water”. Slimes like it wet.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click a few cells around here. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>In the mode “Events” you can also make an enemy that is seen: the boss of lesson 16.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “Save”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Too hard? Change it in the database. Gold from battles buys herbs and swords.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>“Play” begins the game in the village. The forest lies in the south.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Done! You can make enemies and troops, try them out, and let them loose on a map.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Lesson 15 gives the heroes skills against them. Click “Next” to finish.</translation>
     </message>
   </context>
 </TS>
