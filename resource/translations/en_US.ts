@@ -1443,6 +1443,234 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep3</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson a house gets a door and treasure chests.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson? “No” lets you go on in one of yours, such as lesson 2's.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The village will be in it, and a room that nobody can get into yet.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Village and room are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>All maps of the game stand here. Click “Amberfield”, the village.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>This is Mila's house. Its door is only drawn: players can walk up to it, but not in.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>The room behind the door is a map of its own: “Mila's house”. A passage will lead there.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Click “Events”. Doors and chests are events, like Pip on the road.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Right-click the drawn door. This marks the cell; the menu tells all it can hold. Click “Next”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Click “Passage”. It is a quick event: ready-made, so that you only fill in what is missing.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Where does the door lead? Choose “Mila's house”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click “Choose…” to show on the map where the player comes out.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click this cell: the player comes in here, with the doorstep behind him. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Click “OK”. The door stands in its place, and whoever walks against it gets into the house.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Now the other side. Click “Mila's house” to open this map.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>A passage goes one way only. Right-click this cell for the way back. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Passage” again. It goes into the marked cell.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Choose “Amberfield”: the way out leads into the village.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click “Choose…” for the place in the village.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Double-click this cell below the door. On the door itself, the player would go in again.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>It looks like a second door. Double-click it: a quick event can be changed like any other.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>It is called as what it is. You can type a better name, such as Way out.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>All that the quick event has written is this command: it takes the player to the village.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>“Touched by the player” means that walking there is enough. Nobody has to press a key.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>A passage is always the same, so it has one page. Events that change, like chests, have more.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>The map shows a door here already. Click this picture to take it away.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “People”: “None” is chosen there, at the top. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>The field is empty now. Nothing is drawn on the cell, but the passage works as before.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>The house is open, but empty. Right-click this cell for a first chest. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “Treasure”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Choose “Item”. A chest can hold gold, a weapon or armor, too. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>“Herb” is chosen already: it gives back HP when it is used.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “OK” to put the chest there.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>The chest gives its herb once only. Right-click this corner for another one. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Click “Treasure” again.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Choose “Item” here, too. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Choose “Tonic”. All items of the database stand in this list.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>What is found is told by itself. There is no message for you to write.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Shall the house also have a crystal at which the party can rest and save the game?</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>All right. “Resting place” in the tool bar is there when you want one elsewhere.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Right-click this cell, far from the door. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click “Resting place”.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Nothing else is needed here. Click “OK” to put the crystal there.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click “Amberfield”. The game begins there, so look once more at the door from outside.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “Map”. The events are hidden, and you see again what is only drawn.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “Save” to keep the door, the way out and the chests.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “Play” and see for yourself that the door leads into the house.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Begin a new game and walk into the door with the arrow keys. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Press Enter before each chest, twice. Then leave the house and click “Next”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Press Esc, again if need be, until you are back in the editor.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Done! Doors and chests are quickly made. In lesson 4, the herb changes what Pip says.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep4</name>
     <message>
       <source>#1</source>
