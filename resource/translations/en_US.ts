@@ -3996,4 +3996,480 @@ Click “Next” to begin.</translation>
       <translation>Lesson 15 gives the heroes skills against them. Click “Next” to finish.</translation>
     </message>
   </context>
+  <context>
+    <name>TutorialStep17</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson a boss gets helpers and battle events.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with the boss in its mine, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The mine and its boss will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The game is being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Here, in the old mine, the stone warden fights alone. You change that now.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Old mine” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Click “Events” to see who is in the mine.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Whoever examines the warden has to fight the troop “The stone warden” and cannot flee.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>A right click on it leads to “Edit event…”. The command “Battle” names the troop.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>First the enemies. What they do and what they leave behind stands in the database.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Click the “Enemies” tab.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “Cave bat”. It has no action of its own yet.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “Add…” below “Actions”.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>“Strike” is chosen already: a blow that heroes and enemies can deal.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>With several actions, “Priority” counts: one with 6 comes three times as often as one with 2.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Click “OK”. The action is in the list now.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Add…” below “Items it drops”.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>“Herb” is chosen already. A beaten bat may leave one.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Type 10: about one bat in ten leaves a herb.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “Crystal beetle”. It is to be a tough one.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Torch”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Type 3. A tough enemy may well be generous.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>“Strike” again. It hurts more here, because the beetle has more “Attack” than the bat.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>“Only once in a battle” is for special deeds. A plain blow does without.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>“Condition” could wait for a turn or for low HP. “Always” is right for a blow.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “Add…” below “Traits”. Traits always hold.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Click “Each turn”: the beetle gets 5 HP back each turn.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “OK”. Whoever fights the beetle should not take long.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click the “States” tab. Your boss battle needs a state for sleepers.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Click “Add” for a new state. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Type its name, such as Asleep. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>In “Restriction”, choose “Cannot act”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “Gone when a battle ends”, so that nobody sleeps on the map.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Click “After a turn”: so sleepers wake by themselves. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Type 2: sleep lasts for two turns at least.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Type 2 here, too: and for no more than two turns.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “OK”. The database closes and keeps all of this.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Next the troop: enemies that fight together. Two bats join the warden.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Click the “Troops” tab.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Click “The stone warden”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click “Add” for a new member. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>In “Enemy”, choose “Cave bat”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Type 200: the bat moves to the left of the warden.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Type 440: this bat flies on the right.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “Battle test…” to meet the three of them.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “Add”: Mila joins the party for the test. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Type 30. Such a strong Mila sees the whole battle.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click “Start the battle”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Fight a turn: Enter chooses “Attack”, and Enter again whom. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>All three strike, but there is no surprise. That is what battle events are for.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Press the Esc key to leave the battle.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click “OK”. Mila stays in the party for later tests.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Now the battle events. First: a warden that is badly hurt draws strength from the rock.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “Conditions…” to say when it happens.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click “Enemy's HP”. The warden and 50 % are chosen, which is right.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Double-click “+” to add a command.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Most commands work in a battle, too. Those on the “Battle” tab work only there.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>“Show message” is selected already. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Type what happens, such as The warden draws strength from the rock! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>It is nobody's speech, so “Speaker” stays empty.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Double-click the new “+”.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Click the “Screen” tab. The ground is to shake.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Click “Shake screen”.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Type 8 for a strong tremor. 9 is the most.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>Type 40: it lasts 40 frames, two thirds of a second.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>With this tick, the next command comes only after the shaking.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Double-click “Flash screen”. That takes the command at once.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Red, green and blue at 255 make white light.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>At 170, the battle is still seen through the light.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Type 20: the light is soon gone.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Click the “Flow” tab. A short pause comes next.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Double-click “Wait”.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>Type 20.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>So 20 frames are a third of a second: time to see the flash.</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>Click the “Battle” tab.</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>These heal enemies, let them appear or act, or end the battle.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>Double-click “Change enemy HP”.</translation>
+    </message>
+    <message>
+      <source>#84</source>
+      <translation>The first member is chosen already: the stone warden.</translation>
+    </message>
+    <message>
+      <source>#85</source>
+      <translation>“Increase” is on, so it is healed. “Decrease” would hurt it.</translation>
+    </message>
+    <message>
+      <source>#86</source>
+      <translation>Type 30: so many HP come back.</translation>
+    </message>
+    <message>
+      <source>#87</source>
+      <translation>One command too many? A right click on it has “Delete command”.</translation>
+    </message>
+    <message>
+      <source>#88</source>
+      <translation>Click “New page”: each page is an event of its own. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#89</source>
+      <translation>Click “Conditions…” for this page.</translation>
+    </message>
+    <message>
+      <source>#90</source>
+      <translation>Click “From turn”.</translation>
+    </message>
+    <message>
+      <source>#91</source>
+      <translation>Type 3: it happens when the third turn begins.</translation>
+    </message>
+    <message>
+      <source>#92</source>
+      <translation>Click “Change enemy state”. The “Battle” tab is still in front.</translation>
+    </message>
+    <message>
+      <source>#93</source>
+      <translation>In “Enemy”, choose “The whole troop”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#94</source>
+      <translation>“Add” gives them a state, “Remove” takes one away.</translation>
+    </message>
+    <message>
+      <source>#95</source>
+      <translation>In “State”, choose the last one: the state that you have made.</translation>
+    </message>
+    <message>
+      <source>#96</source>
+      <translation>Click the “Message” tab. Mila notices it.</translation>
+    </message>
+    <message>
+      <source>#97</source>
+      <translation>Double-click “Show message”.</translation>
+    </message>
+    <message>
+      <source>#98</source>
+      <translation>Click “Face…”: this time somebody speaks.</translation>
+    </message>
+    <message>
+      <source>#99</source>
+      <translation>Click “Mila”.</translation>
+    </message>
+    <message>
+      <source>#100</source>
+      <translation>Type what she says, such as They are asleep! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#101</source>
+      <translation>Click into “Speaker” and write her name. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#102</source>
+      <translation>Toma answers her. Click “Face…”.</translation>
+    </message>
+    <message>
+      <source>#103</source>
+      <translation>Click a few names to see the faces. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#104</source>
+      <translation>Click “Toma”.</translation>
+    </message>
+    <message>
+      <source>#105</source>
+      <translation>Type his answer, such as Strike now, before they wake! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#106</source>
+      <translation>This “Speaker” may stay empty: by the face everybody knows him.</translation>
+    </message>
+    <message>
+      <source>#107</source>
+      <translation>Click “Battle test…”. Now you see both events.</translation>
+    </message>
+    <message>
+      <source>#108</source>
+      <translation>Attack the warden, turn by turn. In the third turn they fall asleep, and Mila speaks.</translation>
+    </message>
+    <message>
+      <source>#109</source>
+      <translation>When half of its HP are gone, the ground shakes, and it gets 30 back. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#110</source>
+      <translation>Type 8, which is nearer to the Mila that comes here in the game.</translation>
+    </message>
+    <message>
+      <source>#111</source>
+      <translation>See whether she can win alone; she may need friends. Esc leaves the battle.</translation>
+    </message>
+    <message>
+      <source>#112</source>
+      <translation>Click “OK” to keep the troop and its events.</translation>
+    </message>
+    <message>
+      <source>#113</source>
+      <translation>The warden on the map needs no change: its event has named this troop all along.</translation>
+    </message>
+    <message>
+      <source>#114</source>
+      <translation>The bats and beetles that roam the old mine act by your rules, too.</translation>
+    </message>
+    <message>
+      <source>#115</source>
+      <translation>“Play” leads to the warden as well, but it is a long way: village, forest, lever, mine.</translation>
+    </message>
+    <message>
+      <source>#116</source>
+      <translation>Click “Save” to write enemies, state and troop into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#117</source>
+      <translation>Done! You can put enemies together and let things happen in a battle.</translation>
+    </message>
+    <message>
+      <source>#118</source>
+      <translation>Lesson 18 stages a scene that plays by itself. Click “Next” to finish.</translation>
+    </message>
+  </context>
 </TS>
