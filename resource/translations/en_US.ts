@@ -3737,6 +3737,698 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep12</name>
+    <message>
+      <source>#1</source>
+      <translation>You walk through the database and make Sena, a third hero.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with two heroes, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. Mila and Toma will be in the project, with all that they need so far.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The data are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>“Amberfield” has to be open now. If it is not, click it in this list.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Click “Events” to see the people of the village.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Toma stands here as an event. It tells what he says and that he joins the party.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>You know the menu of a right click on him. It says nothing of his strength or his sword.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>That stands in the database. Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Each tab holds one kind of data. Click the first one, “Actors”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Actors are those who can walk in the party. Click “Toma”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>His class decides how many HP he has and which skills he learns.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “Mila”. She has another class and wears a cloak.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “Toma” again, to look at his picture.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>Click the picture to see what else he could look like.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Guard”. An armed man might do as well.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Click “Elder”. The large picture shows what is selected; Toma stays as he was.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Double-click “Toma”. That takes the picture and closes the window at once.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Click “Classes”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click “Guardian”, the class of Toma.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>This curve shows how the highest HP of a guardian grow from level to level.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “Traveler”, the class of Mila. Her HP grow more slowly.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Skills”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>This is what is seen when it strikes. It is made on the tab “Animations”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Click “Items”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Click “Tonic”, which lies in a chest in Mila's house.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>This is what it does: it ends the state “Fainted”, so that an ally wakes up.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “Weapons”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Click “Hunting knife”, which Bruno sells.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “Wooden sword”: its attack is lower. Armor has a defense instead.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Click “Enemies”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Click the picture of the slime.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Click “Ghost”. The pictures of enemies are not those of people.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “Mushroom”. Lesson 14 puts enemies like this into the forest.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Click “Stone warden”. Lesson 16 puts him into the old mine.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Double-click “Slime”, so that this enemy stays what it is.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>“Troops” puts enemies together; “States” holds what befalls somebody in a battle.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click “Tile sets”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Click “Winter”. A map with this tile set lies in snow.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Click “Night”. The old mine has this one.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Click “Common events”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Click the second one. Both guards of lesson 11 call it: it is written only once.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Click the first one: the words with which the game opens.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Click “System”. It holds what concerns the game as a whole. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click the large field. It will hold the picture of the title screen.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “Village at dusk” to look at it.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Now click “The lamp”, which the story is about.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “The long road”. It suits a game that is about traveling.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>The choices of the title screen stand on this picture. Lesson 19 sets it up.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Double-click “None”. The title screen stays empty until then.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>That was the walk. Click “Cancel”, so that nothing is changed by it.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Database” again.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Now for Sena. Click “Actors”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>The list has room for two. Click “Change maximum…”.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Type 3 and press the Enter key.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>A new actor is empty. It is quicker to copy one: click “Toma”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click “Copy”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Click the new row, number 3.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “Paste”. There are two Tomas now. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Type Sena in place of his name. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>She still looks like Toma. Click the picture.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Click “Sena”.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>This is Sena, a sage. She will guide the party with magic.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Double-click “Sena” to take this picture.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Her face has come along. The game shows it where you look at her figures.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>“First level” is where she begins. She is stronger than the others: type 2.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>To see her in the game, put her into the party. Click “System”.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>The party begins with Mila. Click “Add” for one more. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Choose Sena, the third one, in this list. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Choose “Title” here, for the title screen. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Choose “Battle” here, for all battles. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Click “OK” to keep it all.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Click “Play” to see whether she is there.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Click “New game” in the game, and read until Mila can walk. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>Press the X key. The menu shows who is in the party. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>Does Sena stand below Mila in the menu, with level 2?</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>Then “Party at the start” lacks her, or it has Mila twice. You go there once more, soon.</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>Sena herself is safe: “Actors” has her as number 3. In the party she is a guest today.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>Choose “Status” and then her: class and weapon are those of Toma. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#84</source>
+      <translation>Press the Esc key until the game closes.</translation>
+    </message>
+    <message>
+      <source>#85</source>
+      <translation>In the story Sena joins only in lesson 16. Click her in the party.</translation>
+    </message>
+    <message>
+      <source>#86</source>
+      <translation>Click “Delete”. She leaves the party, not the database. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#87</source>
+      <translation>Click “Save” to keep Sena in the project's folder.</translation>
+    </message>
+    <message>
+      <source>#88</source>
+      <translation>Done! You know where everything stands. Lesson 13 fills the bags and the shops.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TutorialStep13</name>
+    <message>
+      <source>#1</source>
+      <translation>You make a stronger tonic, a new sword and a better cloak.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project, with a shop and its goods, for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. Items, weapons and armor of the first lessons will be in the project.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>The goods are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Events” to see who is on the map.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Things come from chests: in “Mila's house” lie a herb and a tonic.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Things come from shops, too: in “Shop” Bruno sells what the party needs.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>And from enemies: from lesson 14 on, those on the “Forest path” leave something.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>In the “Old mine” lies what nobody sells: the lamp of the village.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>The events tell who gets a thing where. What it costs and does stands in the database.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>First see how strong Mila is today. Click “Play”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “New game” in the game, and read until Mila can walk. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>Press the X key and look at Mila's HP in the menu. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>“Equipment” shows her sword and her cloak. Remember her HP: they will grow.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Press the Esc key until the game closes.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>What she can do comes from the database: her class, her level and what she wears.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Click “Items”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Click “Bread”, the cheapest thing that Bruno has.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>What it does stands here: it gives back 10 HP.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>So much Bruno takes for it. He pays half of it when the player sells some.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Bread is gone once it is eaten. Without this mark it could be eaten again and again.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “Herb”. It costs more and gives back 30 HP.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click “Tonic”. It costs much more, so it should do more.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>Players read this in the shop and in their bag.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>A tonic is a regular item. “Key item” is for things of the story, such as a lamp.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>So far it only wakes up an ally, who then has 1 HP and can hardly do a thing.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Click “Add…”.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>Click “MP”. The tonic shall give back MP, too, which skills cost.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>10 points are right for a beginner. A number below 0 would take MP away.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Both are at work when the tonic is used, from top to bottom.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Click “Weapons”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Click “Hunting knife”, the best weapon so far.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “Wooden sword”, with which Mila and Toma begin.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>A blow takes twice the attack, less the defense of the other. So each point counts twice.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>A better sword is to come. Click “Change maximum…” to make room for it.</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>Type 3 and press the Enter key.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click the new row, number 3.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Type a name, such as Iron sword. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>In a text, such as “Description”, a right click opens a menu for copying and pasting.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Double-click the number at “Attack” to select it. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Type 14: this is a real sword. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>Now the price. Click “Hunting knife” again to compare.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>A slime brings 3 gold. So you can count how many battles the knife costs.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Shall players save up for the sword for a long time?</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Type 90. Players will have it soon.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>A cheap sword makes the next battles easy. Enemies can be stronger, then.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Type 180. Who has it can be proud of it.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Until then players use the knife. So the shop has something for each purse.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click “Armor”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Click “Travel cloak”, which Mila wears.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Cloth cap” to compare. Each point of “Defense” takes one off every blow.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Now back to “Travel cloak”. Click it.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Traits are at work as long as somebody wears the thing. This list is empty so far.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>“Max HP” is chosen already. Type 120: with the cloak Mila has a fifth more HP.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Click “Actors”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click “Toma”. He is the strongest and gets the new sword.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Choose the new sword, the last one in this list.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Toma is hot-headed. Shall he choose by himself what he does in battles?</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Then leave “You choose” on. In a battle the player tells him what to do.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>That is good for a small party: each tonic goes where it is needed.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Click “By itself”.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>He strikes when he likes. Battles get faster, and less can be planned.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Click “Sena”, whom you made in lesson 12.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>The wooden sword will do for her: her strength will be her skills.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Click “Mila”.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>She begins the game with the cloak, so the trait is at work from the first step on.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Click “OK” to keep it all.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>The game begins in “Amberfield”. Toma waits there, on the path.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “Play” again.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Does Mila have more HP than before?</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Then look at “Equipment”: only who wears the cloak has its trait.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>If she wears it, its trait says 100 %. Change it to 120 % after the lesson.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>The cloak works! Close the menu with the X key, walk to Toma and talk to him.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>He comes along. Open the menu: “Equipment” shows his sword and how hard he strikes.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>Click “Save” to write sword, tonic and cloak into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>In “Shop” the sword is not for sale yet: the database does not decide that.</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>Bruno's event has the list of his goods. Add the sword there after the lesson, as in lesson 7.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>Done! Things do what you want now. Lesson 14 makes enemies to try them on.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep14</name>
     <message>
       <source>#1</source>
