@@ -4689,6 +4689,558 @@ Click “Next” to begin.</translation>
     </message>
   </context>
   <context>
+    <name>TutorialStep16</name>
+    <message>
+      <source>#1</source>
+      <translation>In this lesson a boss guards the lamp, deep in the mine.
+Click “Next” to begin.</translation>
+    </message>
+    <message>
+      <source>#2</source>
+      <translation>Make a new project for this lesson? “No” lets you open one of yours.</translation>
+    </message>
+    <message>
+      <source>#3</source>
+      <translation>Click “New” to make the project.</translation>
+    </message>
+    <message>
+      <source>#4</source>
+      <translation>Click “OK”. The project holds the whole way, from the village to the mine.</translation>
+    </message>
+    <message>
+      <source>#5</source>
+      <translation>Village, forest and mine are being copied. The lesson then goes on by itself.</translation>
+    </message>
+    <message>
+      <source>#6</source>
+      <translation>Click “Open” to see your projects.</translation>
+    </message>
+    <message>
+      <source>#7</source>
+      <translation>Choose your project in the list and click “Open”.</translation>
+    </message>
+    <message>
+      <source>#8</source>
+      <translation>Click “Old mine” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#9</source>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+    </message>
+    <message>
+      <source>#10</source>
+      <translation>Here he will stand. First he gets his figures, then his battle, then his words.</translation>
+    </message>
+    <message>
+      <source>#11</source>
+      <translation>Click “Database”. The lamp comes first: he is to drop it.</translation>
+    </message>
+    <message>
+      <source>#12</source>
+      <translation>Click “Items”.</translation>
+    </message>
+    <message>
+      <source>#13</source>
+      <translation>Click “Add” below the list: that makes an empty item. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#14</source>
+      <translation>Type its name, such as Dawn Lamp. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#15</source>
+      <translation>Click “Key item”: the party keeps the lamp, whatever happens.</translation>
+    </message>
+    <message>
+      <source>#16</source>
+      <translation>The lamp's light gives strength. Click “Add…” below “Effects”.</translation>
+    </message>
+    <message>
+      <source>#17</source>
+      <translation>Click “MP”. The light gives back 10 of the points that skills cost.</translation>
+    </message>
+    <message>
+      <source>#18</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#19</source>
+      <translation>The lamp is finished. Click “Enemies” to make its guard.</translation>
+    </message>
+    <message>
+      <source>#20</source>
+      <translation>Click “Add” again, for an enemy who can do nothing yet. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#21</source>
+      <translation>Type his name, such as Stone warden. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#22</source>
+      <translation>Type 220 for “HP”. Nobody else in the mine bears half of that.</translation>
+    </message>
+    <message>
+      <source>#23</source>
+      <translation>Type 18 for “Attack”, so that the party needs its shields.</translation>
+    </message>
+    <message>
+      <source>#24</source>
+      <translation>Click the empty field below “Picture”: it is how he looks in battle.</translation>
+    </message>
+    <message>
+      <source>#25</source>
+      <translation>Click “Stone warden”, a heap of rocks with eyes.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click “Add…” below “Items it drops”.</translation>
+    </message>
+    <message>
+      <source>#27</source>
+      <translation>Click your lamp, the last one in the list.</translation>
+    </message>
+    <message>
+      <source>#28</source>
+      <translation>“Always” is right here: nobody should win and go without the lamp.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>An enemy without “Actions” only hits. Click “Add…” below the list.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>“Strike” is chosen, the strong blow that heroes know, too.</translation>
+    </message>
+    <message>
+      <source>#31</source>
+      <translation>Type 7 for “Priority”. Of several actions, a higher one comes more often.</translation>
+    </message>
+    <message>
+      <source>#32</source>
+      <translation>With a mark here he would strike only once. He may do it again and again.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>“Always” lets him begin at once. A boss can also wait until he is weak.</translation>
+    </message>
+    <message>
+      <source>#34</source>
+      <translation>A trait is what is always so. Click “Add…” below “Traits”.</translation>
+    </message>
+    <message>
+      <source>#35</source>
+      <translation>Type 120: the stones around make his “Max HP” a fifth greater.</translation>
+    </message>
+    <message>
+      <source>#36</source>
+      <translation>Battles are fought against troops. Click “Troops”.</translation>
+    </message>
+    <message>
+      <source>#37</source>
+      <translation>Click “Add” below the list of troops. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#38</source>
+      <translation>Click “Add” below “Members”. A slime comes, for now. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#39</source>
+      <translation>Choose your boss, number 6, in place of the slime.</translation>
+    </message>
+    <message>
+      <source>#40</source>
+      <translation>Would you like to see at once how strong he is, with a party for trials?</translation>
+    </message>
+    <message>
+      <source>#41</source>
+      <translation>“Battle test…” below the picture waits for you. Come back to it whenever you like.</translation>
+    </message>
+    <message>
+      <source>#42</source>
+      <translation>Click “Battle test…”.</translation>
+    </message>
+    <message>
+      <source>#43</source>
+      <translation>Who fights in a trial stands in this list, whoever is in the party of the game.</translation>
+    </message>
+    <message>
+      <source>#44</source>
+      <translation>Click “Add”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#45</source>
+      <translation>Mila fights alone. You can choose others, and add up to a whole party.</translation>
+    </message>
+    <message>
+      <source>#46</source>
+      <translation>Type 20 for “Level”: alone, she would need so much.</translation>
+    </message>
+    <message>
+      <source>#47</source>
+      <translation>A weapon would help her. Here you find out how much.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>“Start the battle” lets you fight now. When it is over, click “Next”.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Click “OK” to keep the lamp, the boss and his troop.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Click “Events”. In the mine he needs an event.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Double-click this cell. On an empty cell, that makes a new event.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>He will speak, fight, and be gone when he is beaten.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>You can give the event a name here; players never see it.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click the empty field below “Picture”. On the map he is smaller than in battle.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Click “Stone warden”.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Moves its feet while standing”: so a figure looks alive.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>“Stays in place”: he is in the way until he is beaten.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>“When examined” leaves the choice to the player: whoever wants to, asks him.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Double-click “+” to begin with words.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Type what he says, such as The lamp is mine! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Two will speak in turn: a name in “Speaker” tells them apart.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Click “OK” to keep his words.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>This is said first. Now Mila answers him.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Double-click “+” below the last command.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Type Mila's answer, such as It belongs to all of us! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Enough of words: double-click “+” for the battle.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Click “Battle”, the last tab.</translation>
+    </message>
+    <message>
+      <source>#68</source>
+      <translation>Choose the troop that you have made, the last one.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Without a mark nobody can flee. So it should be with a boss.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Without this one, a defeat ends the game. Then go on from a saved game.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>Click the battle in the list. What stands below it happens only after a victory.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Double-click “+” below it. A victory deserves music.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Click “Audio”.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “Choose…” to see all the music.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Click “Victory”.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>It plays at this volume until the party leaves the mine.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>The whole game has to know of the victory. Double-click “+”.</translation>
+    </message>
+    <message>
+      <source>#78</source>
+      <translation>Click “Flow”, where the switches are.</translation>
+    </message>
+    <message>
+      <source>#79</source>
+      <translation>Click “Set switches”.</translation>
+    </message>
+    <message>
+      <source>#80</source>
+      <translation>Click “…” to look through the switches.</translation>
+    </message>
+    <message>
+      <source>#81</source>
+      <translation>Click “Warden defeated”. The name of a switch says what is so when it is on.</translation>
+    </message>
+    <message>
+      <source>#82</source>
+      <translation>Make sure of “ON”: click it.</translation>
+    </message>
+    <message>
+      <source>#83</source>
+      <translation>Something in the wrong place? A right click on a command lets you copy, paste and delete it.</translation>
+    </message>
+    <message>
+      <source>#84</source>
+      <translation>The switch is the last thing: from now on everybody can ask whether it is on.</translation>
+    </message>
+    <message>
+      <source>#85</source>
+      <translation>He should be gone then. Click “New page”.</translation>
+    </message>
+    <message>
+      <source>#86</source>
+      <translation>Page 2 is in front now, and empty. When its conditions hold, page 1 rests.</translation>
+    </message>
+    <message>
+      <source>#87</source>
+      <translation>Click “…” beside “Switch”.</translation>
+    </message>
+    <message>
+      <source>#88</source>
+      <translation>Double-click “Warden defeated”. That chooses it and closes the window.</translation>
+    </message>
+    <message>
+      <source>#89</source>
+      <translation>So this page begins with the victory and stays for the rest of the game.</translation>
+    </message>
+    <message>
+      <source>#90</source>
+      <translation>Without a picture there is nobody, and the way is free.</translation>
+    </message>
+    <message>
+      <source>#91</source>
+      <translation>Neither words nor battle here: a boss fights once.</translation>
+    </message>
+    <message>
+      <source>#92</source>
+      <translation>A right click on the tab of a page has the same commands as the buttons above.</translation>
+    </message>
+    <message>
+      <source>#93</source>
+      <translation>Click “OK”. There stands your boss.</translation>
+    </message>
+    <message>
+      <source>#94</source>
+      <translation>A right click on him offers to copy him: so a second boss is quickly made.</translation>
+    </message>
+    <message>
+      <source>#95</source>
+      <translation>The party needs help against him. Click “Inn” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#96</source>
+      <translation>Sena, who studies old lamps, waits here. Double-click the cell.</translation>
+    </message>
+    <message>
+      <source>#97</source>
+      <translation>Sena will speak, join the party and leave this place, just as Toma did.</translation>
+    </message>
+    <message>
+      <source>#98</source>
+      <translation>Click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#99</source>
+      <translation>Click “Sena”.</translation>
+    </message>
+    <message>
+      <source>#100</source>
+      <translation>Type what Sena says, such as Take me along! Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#101</source>
+      <translation>Type a hint, such as Something in the mine is awake. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#102</source>
+      <translation>Double-click “+”: now Sena joins.</translation>
+    </message>
+    <message>
+      <source>#103</source>
+      <translation>Click the “Party” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#104</source>
+      <translation>Click “Change party members”.</translation>
+    </message>
+    <message>
+      <source>#105</source>
+      <translation>Choose “Sena” in the list of actors. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#106</source>
+      <translation>This would matter only if she had been in the party before.</translation>
+    </message>
+    <message>
+      <source>#107</source>
+      <translation>She joins when all has been said. But she would still stand in the inn.</translation>
+    </message>
+    <message>
+      <source>#108</source>
+      <translation>Click the “Flow” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#109</source>
+      <translation>Click “Set self switch”.</translation>
+    </message>
+    <message>
+      <source>#110</source>
+      <translation>“A” is free: each event has a switch A of its own.</translation>
+    </message>
+    <message>
+      <source>#111</source>
+      <translation>It turns “ON” as soon as she has joined.</translation>
+    </message>
+    <message>
+      <source>#112</source>
+      <translation>Only her own event asks for it, so she needs no switch of the whole game.</translation>
+    </message>
+    <message>
+      <source>#113</source>
+      <translation>Click “New page” for the time after.</translation>
+    </message>
+    <message>
+      <source>#114</source>
+      <translation>Choose “A” for “Self switch”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#115</source>
+      <translation>Nothing else is needed: this page has no picture, so Sena is gone from here.</translation>
+    </message>
+    <message>
+      <source>#116</source>
+      <translation>Click “OK”. Sena waits for guests.</translation>
+    </message>
+    <message>
+      <source>#117</source>
+      <translation>One more has to hear of the victory. Click “Amberfield” in the list of maps.</translation>
+    </message>
+    <message>
+      <source>#118</source>
+      <translation>Double-click the Elder.</translation>
+    </message>
+    <message>
+      <source>#119</source>
+      <translation>He asks for help on page 1 and waits on page 2. For the victory he has nothing.</translation>
+    </message>
+    <message>
+      <source>#120</source>
+      <translation>Click the tab of page 2.</translation>
+    </message>
+    <message>
+      <source>#121</source>
+      <translation>Click “Copy page”: the new page is to be much like this one.</translation>
+    </message>
+    <message>
+      <source>#122</source>
+      <translation>Click “Paste page”.</translation>
+    </message>
+    <message>
+      <source>#123</source>
+      <translation>Page 3 is a copy of page 2, right behind it.</translation>
+    </message>
+    <message>
+      <source>#124</source>
+      <translation>The picture came along: he looks as before.</translation>
+    </message>
+    <message>
+      <source>#125</source>
+      <translation>Choose “Warden defeated” for “Switch”. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#126</source>
+      <translation>When several pages could be used, the last one counts: after the victory, page 3.</translation>
+    </message>
+    <message>
+      <source>#127</source>
+      <translation>The words are still the old ones. Double-click the message.</translation>
+    </message>
+    <message>
+      <source>#128</source>
+      <translation>Here the Elder should be glad, such as You found it! Take it up the hill.</translation>
+    </message>
+    <message>
+      <source>#129</source>
+      <translation>Type his new words into “Text”, and click “OK”.</translation>
+    </message>
+    <message>
+      <source>#130</source>
+      <translation>One event, three states: so a village takes part in what happens.</translation>
+    </message>
+    <message>
+      <source>#131</source>
+      <translation>Click “OK” to keep his third page.</translation>
+    </message>
+    <message>
+      <source>#132</source>
+      <translation>Click “Save” to write boss, Sena and Elder into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#133</source>
+      <translation>Click “Play” and see whether Sena joins.</translation>
+    </message>
+    <message>
+      <source>#134</source>
+      <translation>Begin a new game and talk to Sena: the inn's door is in the southeast.</translation>
+    </message>
+    <message>
+      <source>#135</source>
+      <translation>The warden waits deep in the mine. For now, press the Esc key until the game closes.</translation>
+    </message>
+    <message>
+      <source>#136</source>
+      <translation>Done! You have made a boss whose end changes the world around him.</translation>
+    </message>
+    <message>
+      <source>#137</source>
+      <translation>Lesson 17 lets the boss do something in the middle of the battle. Click “Next” to finish.</translation>
+    </message>
+  </context>
+  <context>
     <name>TutorialStep17</name>
     <message>
       <source>#1</source>
