@@ -50,12 +50,10 @@ QString PilotPlay::lessonName() const
 
 QString PilotPlay::step() const
 {
-    const QString name = lessonName();
-    bool isNumber = false;
-    const int number = name.mid(kLesson.size()).toInt(&isNumber);
+    static const QRegularExpression numbered(QStringLiteral("^TutorialStep([0-9]+)$"));
+    const QString number = numbered.match(lessonName()).captured(1);
     // The first lesson begins with nothing.
-    return name.startsWith(kLesson) && isNumber && number > 1 ? QStringLiteral("step%1").arg(number)
-                                                              : QString();
+    return number.toInt() > 1 ? QStringLiteral("step") + number : QString();
 }
 
 QVector<bool> PilotPlay::answers() const
