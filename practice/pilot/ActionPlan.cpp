@@ -144,6 +144,7 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
     plan.waitMs = waitOf(step);
     if (endsTheGame(step)) {
         plan.actions = {key(Kind::kEscape)};
+        plan.canComeToNothing = true;
         return plan;
     }
     if (step.hasPosition()) {

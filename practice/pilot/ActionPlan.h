@@ -30,6 +30,8 @@ struct ActionPlan
     QVector<Action> actions;
     /// How long the step takes by itself once that is done, in milliseconds, before it can be told broken.
     int waitMs = 0;
+    /// It may have come too early and is done again: a game that has just begun does not hear each key.
+    bool canComeToNothing = false;
 
     /// Nothing while the bubble is still on its way, or the window or the buttons that the step needs are not
     /// there.

@@ -17,7 +17,7 @@ constexpr int kBetweenClicksMs = 500;
 constexpr int kSameSpot = 10;
 // The editor has seen what was done by then, in milliseconds of the X server's clock.
 constexpr int kSeenMs = 150;
-// So often a beginner does again what came to nothing, and waits so long for it.
+// So often a beginner, or whoever cannot know, does again what came to nothing, and waits so long for it.
 constexpr int kMostTries = 3;
 constexpr int kTryMs = 2000;
 
@@ -144,7 +144,8 @@ void Pilot::onLimit()
         breakStep(QStringLiteral("the window does not get the focus"));
         break;
     case Phase::kAwaiting:
-        if (m_settings.isBeginner && m_tries++ < kMostTries) {
+        if (triesAgain()) {
+            ++m_tries;
             // What lay over it has taken the first click.
             m_sinceDone.start();
             enter(Phase::kWatching, m_settings.settleMs);
@@ -386,11 +387,15 @@ bool Pilot::canAct(const Action &action, const ActionPlan &plan)
     return isClickHeard && (!action.isOfKeyboard() || !plan.spot || m_eye->takesKeysAt(*plan.spot));
 }
 
+bool Pilot::triesAgain() const
+{
+    return (m_settings.isBeginner || m_plan.canComeToNothing) && m_tries < kMostTries;
+}
+
 void Pilot::endActing()
 {
     if (m_intent == Intent::kStep) {
-        const bool isTrying = m_settings.isBeginner && m_tries < kMostTries;
-        enter(Phase::kAwaiting, (isTrying ? kTryMs : m_settings.conditionMs) + m_plan.waitMs);
+        enter(Phase::kAwaiting, (triesAgain() ? kTryMs : m_settings.conditionMs) + m_plan.waitMs);
     } else {
         m_sinceDone.start();
         enter(Phase::kWatching, m_settings.settleMs);

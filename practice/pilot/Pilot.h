@@ -106,6 +106,8 @@ private:
     [[nodiscard]] bool canAct(const Action &action, const ActionPlan &plan);
     /// What is done in the list that has dropped down.
     [[nodiscard]] Action choiceFor(const QString &hint) const;
+    /// Whether what was done is done again when nothing comes of it.
+    [[nodiscard]] bool triesAgain() const;
     void endActing();
     void watchEnd();
     void end();

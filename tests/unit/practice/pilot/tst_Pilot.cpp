@@ -22,6 +22,8 @@ const QString kClicking = QStringLiteral(
     R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
 const QString kTyping = QStringLiteral(
     R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
+const QString kLeaving = QStringLiteral(
+    R"({"id":8,"x":-9999,"y":-9999,"windowKey":"MainWindow","condition":"action,play,close","hint":"Press Esc","icon":"keyboard"})");
 const QString kChoosing = QStringLiteral(
     R"({"id":6,"x":10,"y":-20,"windowKey":"MainWindow","condition":"comboBox,kind,2","hint":"Choose","icon":"click"})");
 const QString kQuoting = QStringLiteral(
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void waitsForTheBubbleToStand();
     void aLookThatFailedIsNone();
     void clicksOnlyWhereTheClickGoes();
+    void leavesAGameThatDidNotHearTheFirstKey();
     void typesOnlyWithTheFocus();
     void typesOnlyBehindTheClick();
     void choosesOnlyFromAListThatIsOpen();
@@ -174,6 +177,15 @@ void tst_Pilot::clicksOnlyWhereTheClickGoes()
         return true;
     };
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+}
+
+void tst_Pilot::leavesAGameThatDidNotHearTheFirstKey()
+{
+    begin({kLeaving});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QCOMPARE(m_scene.acts.constFirst().kind, Action::Kind::kEscape);
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
+    QCOMPARE(m_scene.acts.constLast().kind, Action::Kind::kEscape);
 }
 
 void tst_Pilot::typesOnlyWithTheFocus()
