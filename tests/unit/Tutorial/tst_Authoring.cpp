@@ -369,5 +369,4 @@ int main(int argc, char **argv)
     return runWithKey<tst_Authoring>(argc, argv);
 }
 
-#include "moc_AuthoringTest.cpp"
 #include "tst_Authoring.moc"

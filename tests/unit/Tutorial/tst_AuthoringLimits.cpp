@@ -328,5 +328,4 @@ int main(int argc, char **argv)
     return runWithKey<tst_AuthoringLimits>(argc, argv);
 }
 
-#include "moc_AuthoringTest.cpp"
 #include "tst_AuthoringLimits.moc"

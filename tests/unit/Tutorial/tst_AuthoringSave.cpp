@@ -211,5 +211,4 @@ int main(int argc, char **argv)
     return runWithKey<tst_AuthoringSave>(argc, argv);
 }
 
-#include "moc_AuthoringTest.cpp"
 #include "tst_AuthoringSave.moc"

@@ -249,5 +249,4 @@ void tst_IndicatorPlacement::flipRepaintsTheWholeWindow()
 }
 
 QTEST_MAIN(tst_IndicatorPlacement)
-#include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorPlacement.moc"

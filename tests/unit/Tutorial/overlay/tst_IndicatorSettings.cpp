@@ -190,5 +190,4 @@ void tst_IndicatorSettings::mapIsLogged()
 }
 
 QTEST_MAIN(tst_IndicatorSettings)
-#include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorSettings.moc"

@@ -306,5 +306,4 @@ void tst_IndicatorStep::anyTargetIsTaken()
 }
 
 QTEST_MAIN(tst_IndicatorStep)
-#include "moc_IndicatorTest.cpp"
 #include "tst_IndicatorStep.moc"

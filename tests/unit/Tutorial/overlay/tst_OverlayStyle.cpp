@@ -435,5 +435,4 @@ void tst_OverlayStyle::otherWidgetsAreLeftAlone()
 }
 
 QTEST_MAIN(tst_OverlayStyle)
-#include "moc_IndicatorTest.cpp"
 #include "tst_OverlayStyle.moc"

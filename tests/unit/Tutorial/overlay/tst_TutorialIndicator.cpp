@@ -382,5 +382,4 @@ void tst_TutorialIndicator::destructionLogsAndDeletesTheWindows()
 }
 
 QTEST_MAIN(tst_TutorialIndicator)
-#include "moc_IndicatorTest.cpp"
 #include "tst_TutorialIndicator.moc"

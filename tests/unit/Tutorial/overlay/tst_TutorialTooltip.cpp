@@ -357,5 +357,4 @@ void tst_TutorialTooltip::tellsOfItsEndOnce()
 }
 
 QTEST_MAIN(tst_TutorialTooltip)
-#include "moc_IndicatorTest.cpp"
 #include "tst_TutorialTooltip.moc"

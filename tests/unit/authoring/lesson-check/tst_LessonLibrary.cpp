@@ -402,5 +402,4 @@ void tst_LessonLibrary::namesAFolderWithoutScenarioFiles()
 }
 
 QTEST_MAIN(tst_LessonLibrary)
-#include "moc_LibraryTest.cpp"
 #include "tst_LessonLibrary.moc"

@@ -324,5 +324,4 @@ void tst_LessonScenario::namesAWaitForAWindowThatNoWayHasOpened()
 }
 
 QTEST_MAIN(tst_LessonScenario)
-#include "moc_LibraryTest.cpp"
 #include "tst_LessonScenario.moc"
