@@ -21,7 +21,7 @@ Panel panelOf(const char *role, const QStringList &lines, const QStringList &row
         panel.lines.append(PanelLine(line));
     }
     for (const QString &row : rows) {
-        panel.rows.append({row, {}, {}, true});
+        panel.rows.append({row, {}, true});
     }
     panel.current = rows.isEmpty() ? -1 : 0;
     return panel;

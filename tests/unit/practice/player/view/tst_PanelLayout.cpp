@@ -12,7 +12,7 @@ Panel panelWith(int rows, const QRect &rect = {100, 50, 200, 120})
     panel.role = QStringLiteral("choices");
     panel.rect = rect;
     for (int row = 0; row < rows; ++row) {
-        panel.rows.append({QString::number(row), {}, {}, true});
+        panel.rows.append({QString::number(row), {}, true});
     }
     panel.current = 0;
     return panel;
