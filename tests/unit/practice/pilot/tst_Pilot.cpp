@@ -23,7 +23,7 @@ const QString kClicking = QStringLiteral(
 const QString kTyping = QStringLiteral(
     R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
 const QString kLeaving = QStringLiteral(
-    R"({"id":8,"x":-9999,"y":-9999,"windowKey":"MainWindow","condition":"action,play,close","hint":"Press Esc","icon":"keyboard"})");
+    R"({"id":8,"x":10,"y":-20,"windowKey":"MainWindow","condition":"action,play,close","hint":"Press Esc","icon":"keyboard"})");
 const QString kChoosing = QStringLiteral(
     R"({"id":6,"x":10,"y":-20,"windowKey":"MainWindow","condition":"comboBox,kind,2","hint":"Choose","icon":"click"})");
 const QString kQuoting = QStringLiteral(
