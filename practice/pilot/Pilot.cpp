@@ -13,6 +13,9 @@ constexpr int kTickMs = 60;
 constexpr int kRestMs = 110;
 // Two clicks that nobody shall take for one double click, nor the second for a slip of the first.
 constexpr int kBetweenClicksMs = 500;
+// A busy machine tells the editor of a press late, and on a fast clock that is so much longer: until then the
+// editor takes what follows for the rest of a double click.
+constexpr int kLateMs = 100;
 // Clicks farther apart than this, in pixels, are no double click.
 constexpr int kSameSpot = 10;
 // The editor has seen what was done by then, in milliseconds of the X server's clock.
@@ -247,7 +250,8 @@ bool Pilot::isTooSoon(const ActionPlan &plan) const
     }
     const std::optional<QPoint> place = mousePlace(plan.actions.constFirst());
     const bool isSameSpot = place && (*place - m_lastClick).manhattanLength() <= kSameSpot;
-    return !m_sinceClick.hasExpired(kBetweenClicksMs * (isSameSpot ? m_settings.speed : 1));
+    const int late = m_wasButton ? kLateMs * (m_settings.speed - 1) : 0;
+    return !m_sinceClick.hasExpired(kBetweenClicksMs * (isSameSpot ? m_settings.speed : 1) + late);
 }
 
 void Pilot::watch()
@@ -343,6 +347,7 @@ void Pilot::act()
         m_clicksBefore = m_eye->clicksHeard();
         m_sinceClick.start();
         m_lastClick = *place;
+        m_wasButton = action.kind == Action::Kind::kPressButton;
     }
     switch (m_hand->perform(action)) {
     case Hand::Result::kDone:

@@ -142,6 +142,8 @@ private:
     QElapsedTimer m_sinceMoved;
     QElapsedTimer m_sinceClick;
     QPoint m_lastClick;
+    /// It was one on a button of the companion.
+    bool m_wasButton = false;
     SeenOverlays m_seen;
     ActionPlan m_plan;
     Intent m_intent = Intent::kStep;
