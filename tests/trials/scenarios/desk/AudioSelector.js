@@ -90,7 +90,7 @@
 "folder":false,
 "translationId":6,
 "x":77,
-"y":44,
+"y":18,
 "windowKey":"AudioSelector",
 "condition":"list,6",
 "hint":qsTr("#6"),
