@@ -144,7 +144,7 @@ std::optional<UnknownWord> LessonHandOver::unknownWord(const Scenario &scenario)
         return scenario.unknownWords().constFirst();
     }
     for (int index = 0; index < scenario.size(); ++index) {
-        if (const std::optional<UnknownWord> unknown = m_editor->unknownWord(scenario.step(index))) {
+        if (std::optional<UnknownWord> unknown = m_editor->unknownWord(scenario.step(index))) {
             return unknown;
         }
     }
