@@ -31,7 +31,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     : m_options(options)
     , m_windows(std::move(windows))
     , m_session(m_windows.get())
-    , m_course(&m_session, options.locale, options.progressFolder)
+    , m_course(&m_session, LessonCatalog(options.locale), options.progressFolder)
     , m_strip(new LessonStrip)
     , m_control(new StripControl(&m_session, &m_course, m_strip, this))
     , m_place(options.placeFile)

@@ -13,12 +13,12 @@ static void takeBundle()
     Q_INIT_RESOURCE(lessons);
 }
 
-LessonCatalog::LessonCatalog(const QString &locale)
+LessonCatalog::LessonCatalog(const QString &locale, const QString &path)
 {
     takeBundle();
     const QString known =
         LessonWords::locales().contains(locale) ? locale : LessonWords::locales().constFirst();
-    QFile file(QStringLiteral(":/practice/strip/lessons.json"));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return;
     }

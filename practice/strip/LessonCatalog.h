@@ -18,8 +18,11 @@ public:
         bool isWritten = true;
     };
 
-    /// Texts in the language @p locale; English where that is not one of the three.
-    explicit LessonCatalog(const QString &locale);
+    /// Texts in the language @p locale; English where that is not one of the three. @p path: the file, in
+    /// place of the one that is built in.
+    explicit LessonCatalog(const QString &locale, const QString &path = builtIn());
+
+    static QString builtIn() { return QStringLiteral(":/practice/strip/lessons.json"); }
 
     /// How many lessons there are, written or not.
     [[nodiscard]] int count() const { return int(m_entries.size()); }

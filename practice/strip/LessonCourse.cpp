@@ -2,11 +2,11 @@
 
 #include <utility>
 
-LessonCourse::LessonCourse(LessonSession *session, const QString &locale, const QString &folder,
+LessonCourse::LessonCourse(LessonSession *session, const LessonCatalog &catalog, const QString &folder,
                            QObject *parent)
     : QObject(parent)
     , m_session(session)
-    , m_catalog(locale)
+    , m_catalog(catalog)
     , m_progress(folder)
 {
     connect(session, &LessonSession::lessonsListed, this,

@@ -37,7 +37,7 @@ public:
     };
 
     /// @p session outlives this. @p folder is where the progress is kept; nothing is when it is empty.
-    LessonCourse(LessonSession *session, const QString &locale, const QString &folder,
+    LessonCourse(LessonSession *session, const LessonCatalog &catalog, const QString &folder,
                  QObject *parent = nullptr);
 
     /// All lessons in their order; none before the companion has listed them.

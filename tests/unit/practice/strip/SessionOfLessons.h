@@ -2,6 +2,7 @@
 
 #include "FakeEditor.h"
 #include "host/LessonSession.h"
+#include "strip/LessonCatalog.h"
 
 /// A session whose companion is the test: it has listed three lessons, and hands one over when the test says
 /// so. The second of the three is one that is not written yet.
@@ -11,11 +12,22 @@ struct SessionOfLessons
     LessonSession m_session{&m_editor};
     /// Commands to the companion, fields joined by "|".
     QStringList m_sent;
+    /// Lists that were asked for, and have not been answered.
+    int m_listsDue = 0;
 
     SessionOfLessons()
     {
-        QObject::connect(&m_session, &LessonSession::sends, &m_editor,
-                         [this](QString command) { m_sent << command.replace(QChar(1), QLatin1Char('|')); });
+        QObject::connect(&m_session, &LessonSession::sends, &m_editor, [this](QString command) {
+            m_sent << command.replace(QChar(1), QLatin1Char('|'));
+            m_listsDue += m_sent.constLast() == QLatin1String("tutorialList") ? 1 : 0;
+        });
+    }
+
+    /// What is known of the lessons, the second one being unwritten.
+    static LessonCatalog catalog()
+    {
+        return LessonCatalog(QStringLiteral("en_US"),
+                             QStringLiteral(TUTORIAL_SOURCE_DIR "/tests/unit/practice/strip/lessons.json"));
     }
 
     static QString first() { return QStringLiteral("TutorialStep1"); }
@@ -34,6 +46,10 @@ struct SessionOfLessons
     /// drag, and one to read.
     void handOver()
     {
+        // It answers in order, and where a lesson is given up its list is asked for ahead of the next one.
+        for (; m_listsDue > 0; --m_listsDue) {
+            list();
+        }
         m_session.receive(QStringLiteral(
             "start\u0001var scenario = ["
             R"({"id":1,"x":-9999,"y":-9999,"windowKey":"MainWindow","condition":"click,","hint":"Read","icon":"eye"},)"

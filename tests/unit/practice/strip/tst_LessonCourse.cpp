@@ -61,7 +61,7 @@ void tst_LessonCourse::nextRun()
     m_course.reset();
     m_lessons = std::make_unique<SessionOfLessons>();
     m_course =
-        std::make_unique<LessonCourse>(&m_lessons->m_session, QStringLiteral("en_US"), m_folder.path());
+        std::make_unique<LessonCourse>(&m_lessons->m_session, SessionOfLessons::catalog(), m_folder.path());
     connect(m_course.get(), &LessonCourse::lessonWanted, this, [this] { m_course->ask(); });
     m_lessons->list();
 }
@@ -214,7 +214,7 @@ void tst_LessonCourse::whatIsWrongWithTheFilesIsTold()
     m_course.reset();
     m_lessons = std::make_unique<SessionOfLessons>();
     m_course =
-        std::make_unique<LessonCourse>(&m_lessons->m_session, QStringLiteral("en_US"), m_folder.path());
+        std::make_unique<LessonCourse>(&m_lessons->m_session, SessionOfLessons::catalog(), m_folder.path());
     QSignalSpy problems(m_course.get(), &LessonCourse::problemFound);
     m_lessons->list();
     m_lessons->list();

@@ -64,7 +64,7 @@ private:
 void tst_StripControl::init()
 {
     m_lessons = std::make_unique<SessionOfLessons>();
-    m_course = std::make_unique<LessonCourse>(&m_lessons->m_session, QStringLiteral("en_US"), QString());
+    m_course = std::make_unique<LessonCourse>(&m_lessons->m_session, SessionOfLessons::catalog(), QString());
     connect(m_course.get(), &LessonCourse::lessonWanted, this, [this] { m_course->ask(); });
     m_strip = std::make_unique<LessonStrip>();
     m_control = std::make_unique<StripControl>(&m_lessons->m_session, m_course.get(), m_strip.get());
