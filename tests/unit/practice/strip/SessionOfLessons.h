@@ -42,14 +42,19 @@ struct SessionOfLessons
                               .arg(first(), unwritten(), last()));
     }
 
+    /// It answers in order, and where a lesson is given up its list is asked for ahead of the next one.
+    void answerLists()
+    {
+        for (; m_listsDue > 0; --m_listsDue) {
+            list();
+        }
+    }
+
     /// The companion hands over the lesson that was asked for: a step to read, a question, one that asks to
     /// drag, and one to read.
     void handOver()
     {
-        // It answers in order, and where a lesson is given up its list is asked for ahead of the next one.
-        for (; m_listsDue > 0; --m_listsDue) {
-            list();
-        }
+        answerLists();
         m_session.receive(QStringLiteral(
             "start\u0001var scenario = ["
             R"({"id":1,"x":-9999,"y":-9999,"windowKey":"MainWindow","condition":"click,","hint":"Read","icon":"eye"},)"
