@@ -13,9 +13,6 @@ constexpr int kTickMs = 60;
 constexpr int kRestMs = 110;
 // Two clicks that nobody shall take for one double click, nor the second for a slip of the first.
 constexpr int kBetweenClicksMs = 500;
-// A busy machine tells the editor of a press late, and on a fast clock that is so much longer: until then the
-// editor takes what follows for the rest of a double click.
-constexpr int kLateMs = 100;
 // Clicks farther apart than this, in pixels, are no double click.
 constexpr int kSameSpot = 10;
 // The editor has seen what was done by then, in milliseconds of the X server's clock.
@@ -46,6 +43,7 @@ Pilot::Pilot(LessonSession *session, const Settings &settings, std::unique_ptr<E
     connect(session, &LessonSession::started, this, [this] { m_ticks.start(); });
     connect(session, &LessonSession::stepReached, this, &Pilot::onStepReached);
     connect(session, &LessonSession::finished, this, &Pilot::onFinished);
+    connect(session, &LessonSession::nextArrived, this, [this] { m_sinceHeard.start(); });
     connect(session, &LessonSession::refused, this, [this] {
         // On a fast clock it may still come.
         if (m_phase == Phase::kIdle) {
@@ -250,8 +248,9 @@ bool Pilot::isTooSoon(const ActionPlan &plan) const
     }
     const std::optional<QPoint> place = mousePlace(plan.actions.constFirst());
     const bool isSameSpot = place && (*place - m_lastClick).manhattanLength() <= kSameSpot;
-    const int late = m_wasButton ? kLateMs * (m_settings.speed - 1) : 0;
-    return !m_sinceClick.hasExpired(kBetweenClicksMs * (isSameSpot ? m_settings.speed : 1) + late);
+    // The editor counts from when it heard of the press, and a busy machine tells it late.
+    const bool isHeardJust = m_sinceHeard.isValid() && !m_sinceHeard.hasExpired(kBetweenClicksMs);
+    return isHeardJust || !m_sinceClick.hasExpired(kBetweenClicksMs * (isSameSpot ? m_settings.speed : 1));
 }
 
 void Pilot::watch()
@@ -347,7 +346,6 @@ void Pilot::act()
         m_clicksBefore = m_eye->clicksHeard();
         m_sinceClick.start();
         m_lastClick = *place;
-        m_wasButton = action.kind == Action::Kind::kPressButton;
     }
     switch (m_hand->perform(action)) {
     case Hand::Result::kDone:

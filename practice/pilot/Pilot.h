@@ -142,8 +142,8 @@ private:
     QElapsedTimer m_sinceMoved;
     QElapsedTimer m_sinceClick;
     QPoint m_lastClick;
-    /// It was one on a button of the companion.
-    bool m_wasButton = false;
+    /// That a button of the companion was pressed.
+    QElapsedTimer m_sinceHeard;
     SeenOverlays m_seen;
     ActionPlan m_plan;
     Intent m_intent = Intent::kStep;
