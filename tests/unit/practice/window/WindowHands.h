@@ -30,14 +30,14 @@ public:
         for (QTabBar *tabs : rows) {
             for (int tab = 0; canUse(tabs) && tab < tabs->count(); ++tab) {
                 tabs->setCurrentIndex(tab);
-                useControls(window);
+                useShown(window);
             }
         }
-        useControls(window);
+        useShown(window);
     }
 
-private:
-    static void useControls(EditorWindow *window)
+    /// The same of what shows behind the tabs that are in front.
+    static void useShown(EditorWindow *window)
     {
         const auto controls = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         for (QWidget *control : controls) {
@@ -48,6 +48,7 @@ private:
         }
     }
 
+private:
     static void use(QWidget *control)
     {
         if (auto *box = qobject_cast<QComboBox *>(control); box != nullptr && box->count() > 1) {
