@@ -1495,7 +1495,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>Right-click the drawn door. This marks the cell; the menu tells all it can hold. Click “Next”.</translation>
+      <translation>Right-click the drawn door. This marks the cell; the menu lists what can go there. Click “Next”.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -1511,7 +1511,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Click this cell: the player comes in here, with the doorstep behind him. Then click “Next”.</translation>
+      <translation>Click this cell: the player comes in here, right above the doorstep. Then click “Next”.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -1551,7 +1551,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>It is called as what it is. You can type a better name, such as Way out.</translation>
+      <translation>The quick event has named it “Passage”. You can type a better name, such as Way out.</translation>
     </message>
     <message>
       <source>#28</source>
@@ -1599,7 +1599,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>The chest gives its herb once only. Right-click this corner for another one. Then click “Next”.</translation>
+      <translation>The chest gives its herb only once. Right-click this cell for another one. Then click “Next”.</translation>
     </message>
     <message>
       <source>#40</source>
@@ -1615,11 +1615,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>What is found is told by itself. There is no message for you to write.</translation>
+      <translation>The chest tells players what they find. You need not write a message for that.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Shall the house also have a crystal at which the party can rest and save the game?</translation>
+      <translation>Should the house also have a crystal where the party can rest and save the game?</translation>
     </message>
     <message>
       <source>#45</source>
@@ -1627,7 +1627,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Right-click this cell, far from the door. Then click “Next”.</translation>
+      <translation>Right-click this cell: here the crystal is in nobody's way. Then click “Next”.</translation>
     </message>
     <message>
       <source>#47</source>
@@ -1659,7 +1659,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>Press Enter before each chest, twice. Then leave the house and click “Next”.</translation>
+      <translation>Open each chest with Enter, and try it a second time. Leave the house, then click “Next”.</translation>
     </message>
     <message>
       <source>#55</source>
@@ -1891,7 +1891,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>Talk to Pip, open the right chest in the house, talk to him again. Esc leads back.</translation>
+      <translation>Talk to Pip, open the chest with the herb, talk to him again. Esc leads back.</translation>
     </message>
     <message>
       <source>#56</source>
@@ -1923,7 +1923,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Click “OK”. Later see that Pip's page 2 waits for the same switch.</translation>
+      <translation>Click “OK”. Later, check that Pip's page 2 waits for the same switch.</translation>
     </message>
     <message>
       <source>#64</source>
@@ -1935,7 +1935,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Done! Your events change with pages. Lesson 5 lets people ask. Click “Next” to finish.</translation>
+      <translation>Done! Your events change with pages. In lesson 5, people ask questions. Click “Next”.</translation>
     </message>
   </context>
   <context>
@@ -2003,7 +2003,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Shall the Elder move his feet while he stands there?</translation>
+      <translation>Should the Elder move his feet while he stands there?</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2023,7 +2023,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>In a talk, a name in “Speaker” tells who says it. You may type one here.</translation>
+      <translation>In a conversation, a name in “Speaker” tells who is talking. You may type one here.</translation>
     </message>
     <message>
       <source>#22</source>
@@ -2191,7 +2191,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Toma will stand here, on the road. Double-click the cell.</translation>
+      <translation>Toma will stand here, on the path. Double-click the cell.</translation>
     </message>
     <message>
       <source>#64</source>
@@ -2311,7 +2311,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>Refuse the Elder's wish first, then promise. See him again, then Toma. Esc leads back.</translation>
+      <translation>Refuse the Elder first, then promise. Talk to him again, then to Toma. Esc leads back.</translation>
     </message>
     <message>
       <source>#94</source>
@@ -2371,7 +2371,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>So Toma looks as long as he stands on the path and waits for Mila.</translation>
+      <translation>This is how Toma looks while he stands on the path and waits for Mila.</translation>
     </message>
     <message>
       <source>#13</source>
@@ -2391,7 +2391,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>A map is one place. What holds in the whole game stands in the database.</translation>
+      <translation>A map is one place. What holds for the whole game stands in the database.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -2627,7 +2627,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>It is the herb. Click “Another one”, to name a price of Bruno's own. Then click “Next”.</translation>
+      <translation>It is the herb. Click “Another one” for a price of Bruno's own. Then click “Next”.</translation>
     </message>
     <message>
       <source>#42</source>
@@ -2727,7 +2727,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Done! You can open a shop with any goods, and an inn in one click.</translation>
+      <translation>Done! You can open a shop with any goods, and an inn with a quick event.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -2819,7 +2819,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>This way you make all by yourself, and see what a quick event saves you.</translation>
+      <translation>You make this way out all by yourself, to see what a quick event saves you.</translation>
     </message>
     <message>
       <source>#22</source>
@@ -2851,7 +2851,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>The village is on show already. Click this cell, one step inside it. Then click “Next”.</translation>
+      <translation>You see the village already. Click this cell, one step inside it. Then click “Next”.</translation>
     </message>
     <message>
       <source>#30</source>
@@ -2867,7 +2867,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Meanwhile the screen turns black for a moment. “White” would suit a dream.</translation>
+      <translation>On the way, the screen turns black for a moment. “White” would suit a dream.</translation>
     </message>
     <message>
       <source>#34</source>
@@ -2931,7 +2931,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Then click “Keeps its direction”. He stands like on parade.</translation>
+      <translation>Then click “Keeps its direction”. He stands as if on parade.</translation>
     </message>
     <message>
       <source>#50</source>
@@ -2939,7 +2939,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>“When examined” is right this time: nobody is taken along who did not ask.</translation>
+      <translation>“When examined” is right this time: only those who ask are taken along.</translation>
     </message>
     <message>
       <source>#52</source>
@@ -2983,7 +2983,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>“Keep” leaves the player looking the way he looked before. You could also turn him.</translation>
+      <translation>With “Keep” the player goes on looking the same way. You could also choose another one.</translation>
     </message>
     <message>
       <source>#63</source>
@@ -2991,7 +2991,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>Below a transfer, commands go on running on the new map.</translation>
+      <translation>Commands below a transfer would go on running on the new map.</translation>
     </message>
     <message>
       <source>#65</source>
@@ -3054,11 +3054,12 @@ Click “Next” to begin.</translation>
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson a lever opens a gate, because the game remembers that it was pulled.</translation>
+      <translation>In this lesson a lever opens a gate and is remembered.
+Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project for this lesson? “No” lets you go on in one of yours, such as lesson 8's.</translation>
+      <translation>Make a new project, with a mine and its gate? “No” opens one of yours that has both.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3118,7 +3119,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Whoever presses the cancel key gives this answer. So nobody pulls the lever by mistake.</translation>
+      <translation>Whoever presses X gives this answer. So nobody pulls the lever by mistake.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -3162,7 +3163,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Click the new line. The gate's second page is open, and waits for just this switch.</translation>
+      <translation>Click the new line. The gate has an open second page that waits for this switch.</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3190,7 +3191,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “Keeps its direction”, for things do not turn to whoever asks them.</translation>
+      <translation>Click “Keeps its direction”: a thing does not turn to whoever examines it.</translation>
     </message>
     <message>
       <source>#36</source>
@@ -3346,7 +3347,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>A right click on a map in the list leads to “Map properties…”. A double-click is quicker.</translation>
+      <translation>A right click on a map in the list leads to “Map properties…”. A double click is quicker.</translation>
     </message>
     <message>
       <source>#22</source>
@@ -3394,7 +3395,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Now for battles. Behind the enemies, the map's backdrop is seen: here it is “Mountains”.</translation>
+      <translation>Now for battles. The map's backdrop is seen behind the enemies: here it is “Mountains”.</translation>
     </message>
     <message>
       <source>#34</source>
@@ -3402,7 +3403,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Here is nothing but rock. But without a backdrop, its battles would be seen in a meadow.</translation>
+      <translation>There is nothing but rock here. Yet without a backdrop, its battles would show a meadow.</translation>
     </message>
     <message>
       <source>#36</source>
@@ -3426,11 +3427,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>The list of “Encounters” is empty: no enemies come yet. Lesson 14 sees to that.</translation>
+      <translation>The list of “Encounters” is empty: no enemies come yet. Lesson 14 brings the first ones.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Click “OK”. Enemies in the mine will stand between rocks.</translation>
+      <translation>Click “OK”. Enemies in the mine will stand among rocks.</translation>
     </message>
     <message>
       <source>#43</source>
@@ -3465,7 +3466,8 @@ Click “Next” to begin.</translation>
     <name>TutorialStep11</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson two guards come: one on patrol in the village, one on watch at the mine.</translation>
+      <translation>In this lesson two guards come, to the village and the mine.
+Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
@@ -4665,7 +4667,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>In the mode “Events” you can also make an enemy that is seen: the boss of lesson 16.</translation>
+      <translation>In the mode “Events” a right click makes enemies that are seen, like the boss of lesson 16.</translation>
     </message>
     <message>
       <source>#60</source>

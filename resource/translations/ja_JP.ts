@@ -891,7 +891,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>矢印は操作する場所、横の絵は操作のしかたです。「次へ」が出たら、読んでクリックします。</translation>
+      <translation>矢印は操作する場所、横の絵は操作のしかたです。「次へ」は、読み終えたらクリックします。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1111,7 +1111,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>マップは残します。「オアシス」をクリックしてください。メニューが閉じ、これが開きます。</translation>
+      <translation>マップは残します。「オアシス」をクリックすると、メニューが閉じ、そのマップが開きます。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1199,7 +1199,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>完成です！マップを描き、設定を変え、増やすことができるようになりました。</translation>
+      <translation>完成です！マップを描き、設定を変え、新しいマップを追加できるようになりました。</translation>
     </message>
     <message>
       <source>#80</source>
@@ -1287,7 +1287,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>「止まっている間も足踏み」をクリックすると、生き生きします。次に「次へ」をクリックします。</translation>
+      <translation>「止まっている間も足踏み」をクリックすると、生き生きと見えます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -1355,7 +1355,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>「適用」をクリックすると、開いたまま変更が残ります。そのあと「次へ」をクリックします。</translation>
+      <translation>「適用」をクリックすると、ウィンドウを閉じずに変更が残ります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -1427,7 +1427,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>「マップ」をクリックしてください。描く間イベントは隠れますが、ピップはそこにいます。</translation>
+      <translation>「マップ」をクリックしてください。イベントは隠れますが、なくなってはいません。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -1451,7 +1451,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン2などの続きで進めます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン2などの続きとして進めます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1495,7 +1495,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>絵のドアを右クリックすると印が付き、マスのメニューが出ます。次に「次へ」をクリックします。</translation>
+      <translation>絵のドアを右クリックすると印が付き、マスのメニューが出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -1511,7 +1511,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>このマスをクリックします。プレイヤーは出口を背にしてここに出ます。次に「次へ」です。</translation>
+      <translation>このマスをクリックします。プレイヤーは出口を背にしてここに出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>場所移動は一方通行です。帰り道のために、このマスを右クリックします。次に「次へ」です。</translation>
+      <translation>場所移動は一方通行です。帰り道のために、このマスを右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -1571,7 +1571,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>「人物」をクリックすると、いちばん上の「なし」が選ばれます。次に「次へ」をクリックします。</translation>
+      <translation>「人物」をクリックすると、いちばん上の「なし」が選ばれます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -1579,7 +1579,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>家に入れても、まだ空っぽです。宝箱を置くこのマスを右クリックします。次に「次へ」です。</translation>
+      <translation>家に入れても、まだ空っぽです。宝箱を置くこのマスを右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -1587,7 +1587,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「アイテム」を選びます。お金や武器、防具も入れられます。次に「次へ」をクリックします。</translation>
+      <translation>「アイテム」を選びます。お金や武器、防具も入れられます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1599,7 +1599,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>薬草が出るのは1回だけです。もう1つ置くこの隅を右クリックします。次に「次へ」です。</translation>
+      <translation>薬草が出るのは1回だけです。もう1つ置くこの隅を右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>ドアから離れたこのマスを右クリックします。次に「次へ」をクリックします。</translation>
+      <translation>ドアから離れたこのマスを右クリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -1667,7 +1667,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>完成です！ドアと宝箱がすぐ作れます。レッスン4では、ピップの言葉が変わります。</translation>
+      <translation>完成です！ドアと宝箱を作れるようになりました。レッスン4では、ピップの言葉が変わります。</translation>
     </message>
   </context>
   <context>
@@ -1679,7 +1679,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>宝箱の入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>ピップと宝箱の入ったプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1719,7 +1719,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>ページが1と2の2枚あります。それぞれに画像、出現条件、実行内容があります。</translation>
+      <translation>ページは1と2の2つあります。それぞれに画像、出現条件、実行内容があります。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -1771,7 +1771,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>宝箱にも2ページあります。1は閉じた宝箱、2は開いて空になった宝箱です。</translation>
+      <translation>宝箱にも2ページあります。1ページ目は閉じた宝箱、2ページ目は開いた空の宝箱です。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -1835,7 +1835,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>新しいページは空です。画像がないので、ピップがマップから消えてしまいます。</translation>
+      <translation>新しいページには何もありません。画像もないので、ピップがマップから消えてしまいます。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -1935,14 +1935,14 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>ページでイベントを変えられました。レッスン5は会話です。「次へ」で終わります。</translation>
+      <translation>完成です！ページでイベントを変えられます。レッスン5は会話です。「次へ」で終わります。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep5</name>
     <message>
       <source>#1</source>
-      <translation>長老の頼みに、プレイヤーが返事を選びます。
+      <translation>長老の頼みに返事を選べる会話を作ります。
 「次へ」で始まります。</translation>
     </message>
     <message>
@@ -1975,7 +1975,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックすると、矢印が正しいマスを指します。次に「次へ」をクリックします。</translation>
+      <translation>「等倍」をクリックすると、矢印が正しいマスを指します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -1987,7 +1987,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>このレッスンは3部です。長老が頼み、返事を覚え、トーマが仲間になります。</translation>
+      <translation>このレッスンは3部構成です。長老が頼み、返事を覚え、トーマが仲間になります。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -2023,7 +2023,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>会話では、「話す人」に名前があると、だれの言葉か分かります。ここに入力できます。</translation>
+      <translation>会話では、「話す人」に名前があると、だれの言葉かわかります。ここに入力できます。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -2039,7 +2039,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>「ページコピー」をクリックします。2ページ目に使います。次に「次へ」をクリックします。</translation>
+      <translation>「ページコピー」をクリックします。2ページ目に使います。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -2287,7 +2287,7 @@
     </message>
     <message>
       <source>#87</source>
-      <translation>今度は空のページが必要です。「ページ追加」をクリックし、次に「次へ」をクリックします。</translation>
+      <translation>今度は空のページが必要です。「ページ追加」をクリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#88</source>
@@ -2319,7 +2319,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>選べる会話ができ、仲間も増えました。レッスン6は主人公です。「次へ」で終わります。</translation>
+      <translation>完成です！選べる会話ができ、仲間も増えました。レッスン6では主人公を作ります。</translation>
     </message>
   </context>
   <context>
@@ -2391,7 +2391,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>マップは1つの場所です。ゲーム全体で使うものは、データベースにあります。</translation>
+      <translation>マップで決めるのは、その場所のことです。ゲーム全体で使うものは、データベースにあります。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>ミラはまだ旅人の姿です。「マップ上の姿」の下の絵をクリックしてください。</translation>
+      <translation>ミラはまだ旅人の姿です。「マップ上の姿」の下の画像をクリックしてください。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2435,7 +2435,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>Enterキーで新しく始め、矢印キーで歩いてください。これがミラです！</translation>
+      <translation>Enterキーで新しいゲームを始め、矢印キーで歩いてください。これがミラです！</translation>
     </message>
     <message>
       <source>#29</source>
@@ -2466,12 +2466,12 @@
     <name>TutorialStep7</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、村のお店と宿屋を開きます。
+      <translation>このレッスンでは、村の店と宿屋を開きます。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>空のお店と宿屋のあるプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>無人の店と宿屋のあるプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2479,7 +2479,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。アンバー村には建物があり、店の人だけがまだいません。</translation>
+      <translation>「OK」をクリックしてください。アンバー村に建物はありますが、店の人がまだいません。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -2503,7 +2503,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>「アイテム」「武器」「防具」に、お店で売れる物と価格が並んでいます。</translation>
+      <translation>「アイテム」「武器」「防具」に、店で売れる物と価格が並んでいます。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -2551,7 +2551,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>ここに、イベントの姿が入ります。まだ空ですが、このあと選びます。</translation>
+      <translation>ここで、イベントの姿を決めます。まだ空ですが、このあと選びます。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -2591,7 +2591,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>お店にはコマンドが2ついります。まずあいさつ、次に商品のウィンドウです。</translation>
+      <translation>店にはコマンドが2つ要ります。まずあいさつ、次に商品のウィンドウです。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -2627,7 +2627,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>薬草です。「指定する」をクリックすると価格を決められます。次に「次へ」です。</translation>
+      <translation>薬草です。価格を決めるので、「指定する」をクリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -2663,7 +2663,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>では、「買うことだけできる」はオフのままです。お店で買うことも売ることもできます。</translation>
+      <translation>では、「買うことだけできる」はオフのままです。店で買うことも売ることもできます。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2691,7 +2691,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>カウンターの奥のここに主人が立ちます。クリックしてから「次へ」を押してください。</translation>
+      <translation>カウンターの奥のこのマスに主人が立ちます。クリックしてから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -2727,7 +2727,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>完成です！好きな商品のお店を開き、宿屋をすぐに作れるようになりました。</translation>
+      <translation>完成です！好きな商品の店を開き、宿屋をすぐに作れるようになりました。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -2787,7 +2787,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>道にドアはいりません。リストで「なし」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>道にドアは要りません。リストで「なし」を選んでから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -2815,7 +2815,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>森の北の出口、このマスをダブルクリックしてください。</translation>
+      <translation>森の北の出口です。このマスをダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -2851,7 +2851,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>村のマップが出ています。1歩入ったこのマスをクリックしてから、「次へ」を押してください。</translation>
+      <translation>村のマップが出ています。1歩入ったこのマスをクリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#30</source>
@@ -2891,7 +2891,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「OK」をクリックすると、雪原が森の後に加わり、表示されます。</translation>
+      <translation>「OK」をクリックすると、雪原が森の次に加わり、表示されます。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -2899,7 +2899,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>音楽はマップごとに決めます。着くと切り替わります。「選択…」をクリックしてください。</translation>
+      <translation>音楽はマップごとで、着くと切り替わります。「選択…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -2927,7 +2927,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>話しかけたプレイヤーのほうを、向くようにしますか？</translation>
+      <translation>話しかけたプレイヤーのほうを向くようにしますか？</translation>
     </message>
     <message>
       <source>#49</source>
@@ -2979,7 +2979,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>森の南のこのマスをダブルクリックしてください。選んでウィンドウも閉じます。</translation>
+      <translation>森の南のこのマスをダブルクリックしてください。マスが決まり、ウィンドウが閉じます。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -3003,7 +3003,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>森の南の出口、このマスをクリックしてください。</translation>
+      <translation>森の南の出口です。このマスをクリックしてください。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3058,7 +3058,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン8などの続きで進めます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン8などの続きとして進めます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3082,7 +3082,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>門とレバーのある「鉱山の入口」をクリックします。次に「次へ」をクリックします。</translation>
+      <translation>門とレバーのある「鉱山の入口」をクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -3182,11 +3182,11 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>上向きの小さな矢印を1回クリックして、1を足すようにします。次に「次へ」です。</translation>
+      <translation>上向きの小さな矢印を1回クリックして、1を足すようにします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>この行を右クリックすると、失敗しても「コマンドの削除」などで直せます。次に「次へ」です。</translation>
+      <translation>この行を右クリックします。間違えたら「コマンドの削除」で消せます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -3234,7 +3234,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>ページの番号を右クリックすると、コピーや削除のメニューが出ます。次に「次へ」です。</translation>
+      <translation>ページの番号を右クリックすると、コピーや削除のメニューが出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -3258,7 +3258,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>完成です！スイッチと変数で、ゲームに覚えさせられます。レッスン10は音楽です。</translation>
+      <translation>完成です！スイッチと変数の使い方を覚えました。レッスン10は音楽です。</translation>
     </message>
   </context>
   <context>
@@ -3362,7 +3362,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>「音量」で大きさを決めます。100 %より少し低いと、効果音が聞き取りやすくなります。</translation>
+      <translation>「音量」で大きさを決めます。100%より少し低いと、効果音が聞き取りやすくなります。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -3370,7 +3370,7 @@
     </message>
     <message>
       <source>#27</source>
-      <translation>プレイヤーに見せる名前（アンバー村など）を入力します。次に「次へ」です。</translation>
+      <translation>プレイヤーに見せる名前（アンバー村など）を入力します。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#28</source>
@@ -3382,7 +3382,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「ニューゲーム」で始めると、音楽が流れ、付けた名前が出ます。次に「次へ」です。</translation>
+      <translation>「ニューゲーム」で始めると、音楽が流れ、付けた名前が出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -3394,7 +3394,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>次は戦闘です。敵キャラの後ろに見えるのがマップの背景で、ここでは「山」です。</translation>
+      <translation>次は戦闘です。敵キャラの後ろに見えるのが戦闘の背景で、ここでは「山」です。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -3454,7 +3454,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>完成です！マップに、音楽、到着時に出る名前、戦闘の背景を付けられるようになりました。</translation>
+      <translation>完成です！マップに音楽と、着いたときに出る名前、戦闘の背景を付けられます。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン10などの続きで進めます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン10などの続きとして進めます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3533,7 +3533,7 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>ボタンごとに動きが1つ加わります。「左に移動」を1回クリックして、「次へ」です。</translation>
+      <translation>ボタンごとに動きが1つ加わります。「左に移動」を1回クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -3549,7 +3549,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>「右に移動」を左と同じ回数クリックすると、元のマスに戻ります。次に「次へ」です。</translation>
+      <translation>「右に移動」を左と同じ回数クリックすると、元のマスに戻ります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -3613,7 +3613,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>「メッセージ」タブをクリックすると、最初が「メッセージの表示」です。次に「次へ」です。</translation>
+      <translation>「メッセージの表示」のある「メッセージ」タブをクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -3621,7 +3621,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>言葉（森の小道、異常なし。など）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>言葉（森の小道、異常なし！など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -3645,7 +3645,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>呼び出しの行を右クリックすると、コピーしてほかの衛兵にも使えます。次に「次へ」です。</translation>
+      <translation>呼び出しの行を右クリックすると、コピーしてほかの衛兵にも使えます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -3657,7 +3657,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>2人目の持ち場「鉱山の入口」をクリックします。次に「次へ」をクリックします。</translation>
+      <translation>2人目の持ち場「鉱山の入口」をクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -3785,15 +3785,15 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>右クリックで開くメニューはもう使いましたね。そこに、強さや剣のデータはありません。</translation>
+      <translation>トーマを右クリックするとメニューが開きますが、強さや剣の設定はありません。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>それはデータベースにあります。「データベース」をクリックしてください。</translation>
+      <translation>強さや剣は、データベースで決めます。「データベース」をクリックしてください。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>タブごとに別の種類のデータがあります。最初の「アクター」をクリックし、「次へ」へ進みます。</translation>
+      <translation>種類ごとにタブがあります。「アクター」をクリックしてから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3849,7 +3849,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>使ったときに見える動きです。「アニメーション」タブで作ります。</translation>
+      <translation>スキルを使ったときのアニメーションです。「アニメーション」タブで作ります。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3957,7 +3957,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>これで一回りしました。「キャンセル」なら何も変わりません。クリックしてください。</translation>
+      <translation>これでひと巡りしました。何も変えずに閉じるので、「キャンセル」をクリックします。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -3989,7 +3989,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>「貼り付け」をクリックすると、トーマが2人になります。次に「次へ」をクリックします。</translation>
+      <translation>「貼り付け」をクリックすると、トーマが2人になります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -4025,7 +4025,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>初めはミラだけです。「追加」をクリックして1人増やし、「次へ」をクリックします。</translation>
+      <translation>最初はミラだけです。「追加」をクリックして1人増やし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#73</source>
@@ -4041,7 +4041,7 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>「OK」をクリックして、全部決定します。</translation>
+      <translation>「OK」をクリックして、変更をすべて決定します。</translation>
     </message>
     <message>
       <source>#77</source>
@@ -4069,7 +4069,7 @@
     </message>
     <message>
       <source>#83</source>
-      <translation>「ステータス」で彼女を選ぶと、職業と武器はトーマと同じです。次に「次へ」をクリックします。</translation>
+      <translation>「ステータス」でセナを選ぶと、職業と武器はトーマと同じです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#84</source>
@@ -4081,7 +4081,7 @@
     </message>
     <message>
       <source>#86</source>
-      <translation>「削除」をクリックします。データベースには残ります。次に「次へ」をクリックします。</translation>
+      <translation>「削除」をクリックします。データベースには残ります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#87</source>
@@ -4089,7 +4089,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>完成です！何がどこにあるか分かりましたね。レッスン13では、持ち物を増やします。</translation>
+      <translation>完成です！何がどこにあるかわかりましたね。レッスン13では、持ち物を増やします。</translation>
     </message>
   </context>
   <context>
@@ -4101,7 +4101,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>お店のある新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>店のある新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4145,7 +4145,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>イベントが決めるのは、どこで手に入るかです。値段や働きはデータベースにあります。</translation>
+      <translation>イベントが決めるのは、どこで手に入るかです。価格や働きはデータベースにあります。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4181,15 +4181,15 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>お店で一番安い「パン」をクリックしてください。</translation>
+      <translation>ブルーノの店でいちばん安い「パン」をクリックしてください。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>働きはここにあります。HPが10戻ります。</translation>
+      <translation>使ったときの働きです。パンでは、HPが10回復します。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>ブルーノはこの値段で売り、その半額で買い取ります。</translation>
+      <translation>ブルーノはこの価格で売り、その半額で買い取ります。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -4197,7 +4197,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>「薬草」をクリックしてください。パンより高く、HPが30戻ります。</translation>
+      <translation>「薬草」をクリックしてください。パンより高く、HPが30回復します。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -4205,7 +4205,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>プレイヤーがお店や持ち物の画面で読む説明です。</translation>
+      <translation>プレイヤーが店や持ち物の画面で読む説明です。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -4221,11 +4221,11 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>「MP」をクリックしてください。スキルに使うMPも戻る薬にします。</translation>
+      <translation>「MP」をクリックしてください。スキルに使うMPも回復する薬にします。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>初めは10ポイントで十分です。マイナスにすると、MPが減ります。</translation>
+      <translation>最初は10ポイントで十分です。マイナスにすると、MPが減ります。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -4241,7 +4241,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>今のところ一番強い「狩猟ナイフ」をクリックしてください。</translation>
+      <translation>今のところいちばん強い「狩猟ナイフ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -4285,7 +4285,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>スライム1匹で3もらえます。何回戦えばナイフを買えるか、計算できます。</translation>
+      <translation>スライム1匹でお金が3もらえます。何回戦えばナイフを買えるか、計算できます。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4305,7 +4305,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>それまではナイフを使います。お店には、どの財布にも合う物が並びます。</translation>
+      <translation>それまではナイフを使います。手ごろな物とあこがれの品が、店にそろいます。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4317,7 +4317,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>「布の帽子」と比べましょう。クリックしてください。「防御力」1でダメージが1減ります。</translation>
+      <translation>比べるために「布の帽子」をクリックしてください。「防御力」1でダメージが1減ります。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -4381,7 +4381,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>「OK」をクリックして、全部決定します。</translation>
+      <translation>「OK」をクリックして、変更をすべて決定します。</translation>
     </message>
     <message>
       <source>#73</source>
@@ -4401,7 +4401,7 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>着ているなら、特徴が100 %のままです。レッスンのあとで120 %に直してください。</translation>
+      <translation>着ているなら、特徴が100%のままです。レッスンのあとで120%に直してください。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -4517,7 +4517,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>2つ目は、1つ目から作ると早くできます。「コピー」、そして「次へ」をクリックします。</translation>
+      <translation>2種類目はコピーで作ると早くできます。「コピー」をクリックしてから、「次へ」です。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -4549,7 +4549,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「追加」をクリックして、2つ目の敵グループを作ります。次に「次へ」です。</translation>
+      <translation>「追加」をクリックして、2つ目の敵グループを作ります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -4557,7 +4557,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>まだだれもいません。メンバーの一覧の下の「追加」、そして「次へ」をクリックします。</translation>
+      <translation>まだだれもいません。「メンバー」の下の「追加」をクリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -4577,7 +4577,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>「追加」を使えば、レベルや武器を変えて、先のほうのパーティーでも試せます。</translation>
+      <translation>「追加」を使えば、レベルや武器を変えて、物語の先のパーティーでも試せます。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -4609,7 +4609,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>一覧のマップの右クリックからも開けます。ネズミもあとで加えられます。</translation>
+      <translation>一覧のマップを右クリックしても、設定を開けます。ネズミもあとで加えられます。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -4617,7 +4617,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>一番上の村をクリックしてください。</translation>
+      <translation>いちばん上の村をクリックしてください。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -4665,7 +4665,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>「イベント」のモードでは、姿の見える敵キャラも作れます。レッスン16のボスがそうです。</translation>
+      <translation>「イベント」のモードで右クリックすると、レッスン16のボスのように見える敵も作れます。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -4729,7 +4729,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>「追加」をクリックすると、一覧の最後に空のスキルができます。次に「次へ」です。</translation>
+      <translation>「追加」をクリックすると、一覧の最後に空のスキルができます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4737,7 +4737,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>「効果範囲」で「味方単体」を選びます。次に「次へ」をクリックします。</translation>
+      <translation>「効果範囲」で「味方単体」を選びます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -4749,7 +4749,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>「HP」が選ばれています。このスキルは、だれかのHPを変えます。</translation>
+      <translation>「HP」が選ばれています。対象のHPを変えるスキルになります。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -4769,7 +4769,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>今度は「敵単体」を選びます。次に「次へ」をクリックします。</translation>
+      <translation>今度は「敵単体」を選びます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -4805,11 +4805,11 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>「職業」タブをクリックしてください。HPとMPの伸び方がグラフで分かります。</translation>
+      <translation>「職業」タブをクリックしてください。HPとMPの伸び方がグラフでわかります。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>ミラの職業、「旅人」をクリックしてください。</translation>
+      <translation>ミラの職業「旅人」をクリックしてください。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -4841,7 +4841,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>回復はセナの役目です。セナの職業、「賢者」をクリックしてください。</translation>
+      <translation>回復はセナの役目です。セナの職業「賢者」をクリックしてください。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -4853,7 +4853,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>「スキル」タブをクリックします。次に「次へ」をクリックします。</translation>
+      <translation>「スキル」タブをクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -4881,7 +4881,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>メニューでは、職業などの状態も見られます。トーマとセナは、あとで仲間になります。</translation>
+      <translation>メニューの「ステータス」で職業なども見られます。トーマとセナは、あとで仲間になります。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4949,7 +4949,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>一覧の下の「追加」をクリックすると、空のアイテムができます。次に「次へ」です。</translation>
+      <translation>一覧の下の「追加」をクリックすると、空のアイテムができます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4977,7 +4977,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>ここでも「追加」をクリックします。まだ何もできない敵です。次に「次へ」です。</translation>
+      <translation>ここでも「追加」をクリックします。まだ何もできない敵です。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -5049,7 +5049,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>「メンバー」の下の「追加」をクリックします。まずスライムが入ります。次に「次へ」です。</translation>
+      <translation>「メンバー」の下の「追加」をクリックします。まずスライムが入ります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -5105,7 +5105,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>話して、戦って、負けたらいなくなるボスにします。</translation>
+      <translation>話して、戦って、倒されると消えるイベントにします。</translation>
     </message>
     <message>
       <source>#53</source>
@@ -5141,7 +5141,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>2人が交互に話すので、「話す人」に名前があると分かりやすくなります。</translation>
+      <translation>2人が交互に話すので、「話す人」に名前があるとわかりやすくなります。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -5221,11 +5221,11 @@
     </message>
     <message>
       <source>#81</source>
-      <translation>「番人を倒した」をクリックします。オンのときに何が起きたかが分かる名前です。</translation>
+      <translation>「番人を倒した」をクリックします。ONのときに何が起きたかがわかる名前です。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>「ON」をクリックして、オンになるようにします。</translation>
+      <translation>「ON」をクリックして、スイッチが入るようにします。</translation>
     </message>
     <message>
       <source>#83</source>
@@ -5241,7 +5241,7 @@
     </message>
     <message>
       <source>#86</source>
-      <translation>空のページ2になりました。条件を満たすと、ページ1の代わりに使われます。</translation>
+      <translation>空の2ページ目ができました。条件を満たすと、1ページ目の代わりに使われます。</translation>
     </message>
     <message>
       <source>#87</source>
@@ -5257,7 +5257,7 @@
     </message>
     <message>
       <source>#90</source>
-      <translation>画像がないので誰もいなくなり、通れるようになります。</translation>
+      <translation>画像がないのでだれもいなくなり、通れるようになります。</translation>
     </message>
     <message>
       <source>#91</source>
@@ -5373,11 +5373,11 @@
     </message>
     <message>
       <source>#119</source>
-      <translation>ページ1で頼み、ページ2で待っています。勝ったときの言葉はまだありません。</translation>
+      <translation>1ページ目で頼み、2ページ目で待っています。勝ったときの言葉はまだありません。</translation>
     </message>
     <message>
       <source>#120</source>
-      <translation>ページ2のタブをクリックしてください。</translation>
+      <translation>2ページ目のタブをクリックしてください。</translation>
     </message>
     <message>
       <source>#121</source>
@@ -5389,7 +5389,7 @@
     </message>
     <message>
       <source>#123</source>
-      <translation>ページ2のすぐ後ろに、同じ内容のページ3ができました。</translation>
+      <translation>2ページ目のすぐ後ろに、同じ内容の3ページ目ができました。</translation>
     </message>
     <message>
       <source>#124</source>
@@ -5401,7 +5401,7 @@
     </message>
     <message>
       <source>#126</source>
-      <translation>条件を満たすページが複数あれば、最後のものが使われます。勝利のあとはページ3です。</translation>
+      <translation>条件を満たすページのうち、最後のものが使われます。勝利のあとは3ページ目です。</translation>
     </message>
     <message>
       <source>#127</source>
@@ -5433,7 +5433,7 @@
     </message>
     <message>
       <source>#134</source>
-      <translation>新しく始めて、村の南東にある宿屋に入り、セナに話しかけてください。</translation>
+      <translation>新しいゲームを始めて、村の南東にある宿屋に入り、セナに話しかけてください。</translation>
     </message>
     <message>
       <source>#135</source>
@@ -5441,7 +5441,7 @@
     </message>
     <message>
       <source>#136</source>
-      <translation>完成です！倒すと周りが変わるボスを作りました。</translation>
+      <translation>完成です！ボスとの戦いと、倒したあとの変化を作れるようになりました。</translation>
     </message>
     <message>
       <source>#137</source>
@@ -5493,7 +5493,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>「イベント」をクリックして、鉱山にいる者を表示します。</translation>
+      <translation>「イベント」をクリックして、鉱山のイベントを表示します。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -5593,7 +5593,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「追加」をクリックすると、新しいステートができます。次に「次へ」です。</translation>
+      <translation>「追加」をクリックすると、新しいステートができます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5605,11 +5605,11 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「戦闘終了時に解除」をクリックします。マップでは誰も眠りません。</translation>
+      <translation>「戦闘終了時に解除」をクリックします。マップではだれも眠りません。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>「ターン終了時」をクリックすると、自然に目が覚めます。次に「次へ」です。</translation>
+      <translation>「ターン終了時」をクリックすると、自然に目が覚めます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5637,7 +5637,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>「追加」をクリックすると、メンバーが増えます。次に「次へ」です。</translation>
+      <translation>「追加」をクリックすると、メンバーが増えます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -5657,7 +5657,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>「追加」をクリックすると、テスト用のパーティーにミラが入ります。次に「次へ」です。</translation>
+      <translation>「追加」をクリックすると、テスト用のパーティーにミラが入ります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#53</source>
@@ -5669,11 +5669,11 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>1ターン戦います。Enterキーで「攻撃」、もう一度で相手を選びます。次に「次へ」です。</translation>
+      <translation>1ターン戦います。Enterキーで「攻撃」、もう一度で相手を選びます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>3体とも攻撃してきますが、驚きはありません。そこで戦闘イベントの出番です。</translation>
+      <translation>3体とも攻撃してきますが、まだ単調です。そこで戦闘イベントの出番です。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -5693,7 +5693,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>「敵キャラのHP」をクリックします。番人と50 %が選ばれ、このままで大丈夫です。</translation>
+      <translation>「敵キャラのHP」をクリックします。番人と50%が選ばれ、このままで大丈夫です。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -5709,11 +5709,11 @@
     </message>
     <message>
       <source>#65</source>
-      <translation>起こること（番人が岩の力を吸い取った！など）を入力します。次に「次へ」です。</translation>
+      <translation>起こること（番人が岩の力を吸い取った！など）を入力します。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>誰かの言葉ではないので、「話す人」は空のままです。</translation>
+      <translation>だれかの言葉ではないので、「話す人」は空のままです。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5801,7 +5801,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>「ページの追加」をクリックします。1ページが1つのイベントです。次に「次へ」です。</translation>
+      <translation>「ページの追加」をクリックします。1ページが1つのイベントです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -5853,7 +5853,7 @@
     </message>
     <message>
       <source>#101</source>
-      <translation>「話す人」をクリックして、ミラの名前を書きます。次に「次へ」です。</translation>
+      <translation>「話す人」をクリックして、ミラの名前を書きます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#102</source>
@@ -5861,7 +5861,7 @@
     </message>
     <message>
       <source>#103</source>
-      <translation>名前をいくつかクリックして、顔を見てみます。次に「次へ」です。</translation>
+      <translation>名前をいくつかクリックして、顔を見てみます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#104</source>
@@ -5869,7 +5869,7 @@
     </message>
     <message>
       <source>#105</source>
-      <translation>トーマの返事（今のうちに攻めるんだ！など）を入力します。次に「次へ」です。</translation>
+      <translation>トーマの返事（今のうちに攻めるんだ！など）を入力します。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#106</source>
@@ -5977,7 +5977,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>「プレイヤーから接触」を選ぶと、マスに乗ったとき始まります。次に「次へ」です。</translation>
+      <translation>「プレイヤーから接触」を選ぶと、マスに乗ったとき始まります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -6057,7 +6057,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>道の西の端から1つ右のマスをクリックします。次に「次へ」をクリックします。</translation>
+      <translation>道の西の端から1つ右のマスをクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -6081,7 +6081,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>第2章はセリフです。長老はもうここにいます。ダブルクリックしてください。</translation>
+      <translation>第2章はせりふです。長老はもうここにいます。ダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -6105,7 +6105,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>「自動実行」を選ぶと、シーンがすぐ始まります。次に「次へ」をクリックします。</translation>
+      <translation>「自動実行」を選ぶと、シーンがすぐ始まります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -6117,7 +6117,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐ分かります。</translation>
+      <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐわかります。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -6129,7 +6129,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>ミラの言葉（見て、村じゅうが見えるよ。など）を入力して、「次へ」をクリックします。</translation>
+      <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -6153,7 +6153,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>トーマの言葉（もうすぐ明るくなるぞ。など）を入力して、「次へ」をクリックします。</translation>
+      <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -6169,7 +6169,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>お礼の言葉（光を取り戻してくれたな。など）を入力して、「次へ」をクリックします。</translation>
+      <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -6181,7 +6181,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>「OK」をクリックしてください。セリフはこれで完成です。</translation>
+      <translation>「OK」をクリックしてください。せりふはこれで完成です。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -6205,7 +6205,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>「上に移動」を2回クリックします。1回で1マスです。次に「次へ」です。</translation>
+      <translation>「上に移動」を2回クリックします。1回で1マスです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -6253,7 +6253,7 @@
     </message>
     <message>
       <source>#82</source>
-      <translation>ルートはセリフの下に並びます。話し終わってから、歩き始めます。</translation>
+      <translation>ルートはせりふの下に並びます。話し終わってから、歩き始めます。</translation>
     </message>
     <message>
       <source>#83</source>
@@ -6305,7 +6305,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>セリフ、動き、音楽、光。上から下まで、これでシーンがそろいました。</translation>
+      <translation>せりふ、動き、音楽、光。上から下まで、これでシーンがそろいました。</translation>
     </message>
     <message>
       <source>#96</source>
@@ -6345,7 +6345,7 @@
     </message>
     <message>
       <source>#105</source>
-      <translation>「もの」タブをクリックします。次に「次へ」をクリックします。</translation>
+      <translation>「もの」タブをクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#106</source>
@@ -6385,7 +6385,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>ゲームの入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>ゲーム全体の入ったプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6409,7 +6409,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>ゲームを始めると、まずタイトル画面が出ます。今はまだ、名前も絵もありません。</translation>
+      <translation>ゲームを始めると、まずタイトル画面が出ます。今はまだ、名前も画像もありません。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -6417,7 +6417,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>最後の「システム」タブをクリックします。ゲーム全体の設定です。次に「次へ」です。</translation>
+      <translation>最後の「システム」タブをクリックします。ゲーム全体の設定です。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -6429,7 +6429,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>「タイトル画面」の下の大きな枠をクリックして、絵を選びます。</translation>
+      <translation>「タイトル画面」の下の大きな枠をクリックして、画像を選びます。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -6437,7 +6437,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>「夕暮れの村」をクリックすると、その絵が見られます。</translation>
+      <translation>「夕暮れの村」をクリックすると、その画像が見られます。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -6469,7 +6469,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>「OK」をクリックして、名前と絵を決定します。</translation>
+      <translation>「OK」をクリックして、名前と画像を決定します。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -6477,11 +6477,11 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>ゲームのすべてのイベントです。上に名前の一部を入力すると、絞り込めます。</translation>
+      <translation>ゲームのすべてのイベントです。上の欄に名前の一部を入力すると、絞り込めます。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>ここで「スイッチ」や「変数」を選ぶと、それを使うイベントが分かります。</translation>
+      <translation>ここで「スイッチ」や「変数」を選ぶと、それを使うイベントがわかります。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -6509,7 +6509,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>タイトル画面です。付けた名前、選んだ絵、3つのコマンドが並んでいます。</translation>
+      <translation>タイトル画面です。付けた名前、選んだ画像、3つのコマンドが並んでいます。</translation>
     </message>
     <message>
       <source>#34</source>

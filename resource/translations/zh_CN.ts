@@ -886,7 +886,7 @@
     <name>TutorialStep1</name>
     <message>
       <source>#1</source>
-      <translation>欢迎！这一课画你的第一张地图。
+      <translation>欢迎！在这一课里，你会画出第一张地图。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -903,7 +903,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>点击“确定”。会为你的游戏建立一个专用的文件夹。</translation>
+      <translation>点击“确定”，就会为你的游戏建立一个专用的文件夹。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -939,7 +939,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>输入地图的名称，例如原野，然后按 Enter 键。新地图会立即打开。</translation>
+      <translation>输入地图的名称，例如：原野。然后按 Enter 键，新地图会立即打开。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -987,7 +987,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>点击“图层 2”。之后画的内容都会叠在地面上方。</translation>
+      <translation>点击“图层 2”。之后画的内容都会叠在地面上面。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>右键点击你自己的地图，看看最后一项：“删除地图”会把地图连同上面画的内容一起删掉。</translation>
+      <translation>右键点击你自己的地图。“删除地图”会把地图连同画的内容一起删掉，先不要点。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1203,7 +1203,7 @@
     </message>
     <message>
       <source>#80</source>
-      <translation>第2课会在地图上放置第一个人物。点击“下一步”结束本课。</translation>
+      <translation>第 2 课会在地图上放置第一个人物。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -1223,7 +1223,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>点击“确定”。项目里会有一座琥珀村。</translation>
+      <translation>点击“确定”。项目里会有一座村庄，名叫琥珀村。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -1263,11 +1263,11 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>每个事件都有名称。玩家看不到它，它方便你以后查找。</translation>
+      <translation>每个事件都有名称。玩家看不到，只是方便你以后查找。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>这里是出现条件。皮普什么都不设，所以他一直都在。</translation>
+      <translation>事件可以等条件满足才出现。皮普不设任何条件，所以一直都在。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -1311,7 +1311,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>所有指令都在这个窗口里，分放在选项卡中。说话用“消息”里的指令。</translation>
+      <translation>所有指令都在这个窗口里，按选项卡分类。要让人物说话，就用“消息”里的指令。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -1351,11 +1351,11 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>输入村里的消息，例如：灯灭了！然后点击“下一步”。</translation>
+      <translation>输入村里发生的事，例如：灯灭了！然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>点击“应用”，窗口不关，修改也会保留。然后点击“下一步”。</translation>
+      <translation>点击“应用”，不关闭窗口也能保留修改。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -1367,7 +1367,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>皮普的消息让人吃惊。现在检查他说的话，再表现出惊讶。</translation>
+      <translation>皮普说的事让人吃惊。现在检查他的话，再表现出惊讶。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -1399,11 +1399,11 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>点击“显示气泡”。它会在头顶表现人物的心情。</translation>
+      <translation>点击“显示气泡”。它会在人物头顶显示心情。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>听到消息的是玩家，气泡出现在玩家头上。</translation>
+      <translation>听到这件事的是玩家，所以气泡出现在玩家头顶。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -1431,7 +1431,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>点击“保存”，把皮普写入项目的文件夹。</translation>
+      <translation>点击“保存”，把皮普和他的话写入项目的文件夹。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1439,19 +1439,19 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>第3课会制作门和宝箱。点击“下一步”结束本课。</translation>
+      <translation>第 3 课会制作门和宝箱。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep3</name>
     <message>
       <source>#1</source>
-      <translation>这一课给村里的一座房子做门和宝箱。
+      <translation>这一课给村里的一座房子装上门，再放上宝箱。
 点击“下一步”开始。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第2课的。</translation>
+      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第 2 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1495,7 +1495,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>右键点击画好的门：格子被标出，菜单列出能做的事。然后点击“下一步”。</translation>
+      <translation>右键点击画好的门，标出这一格。菜单列出了这里能做的事。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -1511,7 +1511,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>点击这一格。玩家从这里进屋，出口就在身后。然后点击“下一步”。</translation>
+      <translation>点击这一格：玩家进屋后站在这里，身后就是出口。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>通道是单向的。右键点击这一格，做回去的路。然后点击“下一步”。</translation>
+      <translation>通道是单向的。右键点击这一格，在这里做返回的通道。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -1575,7 +1575,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>图像框空了。格子上什么也不画，但通道照样有效。</translation>
+      <translation>图像框空了。格子上不再显示图像，但通道照样有效。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -1599,7 +1599,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>草药只能拿一次。右键点击这个角落，再放一个。然后点击“下一步”。</translation>
+      <translation>草药只能拿一次。右键点击这个角落，再放一个宝箱。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -1667,14 +1667,14 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>完成了！门和宝箱很快就能做好。第4课里，找到草药后皮普会说别的话。</translation>
+      <translation>完成了！门和宝箱很快就能做好。第 4 课里，找到草药后皮普会说别的话。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep4</name>
     <message>
       <source>#1</source>
-      <translation>这一课让皮普在玩家找到草药后改口。
+      <translation>这一课让皮普在玩家找到草药后说别的话。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -1715,15 +1715,15 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>这个事件在游戏开始时讲述故事。双击它，看看它是怎么做的。</translation>
+      <translation>这个事件在游戏开始时讲述故事。双击它，看看是怎么做到的。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>它有1和2两页。每一页都有自己的图像、出现条件和执行内容。</translation>
+      <translation>它有 1 和 2 两页。每一页都有自己的图像、出现条件和执行内容。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>“自动执行”表示第1页会自己开始，把故事讲出来。</translation>
+      <translation>“自动执行”表示第 1 页会自己开始，把故事讲出来。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -1743,15 +1743,15 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>点击标着2的选项卡，查看第2页。</translation>
+      <translation>点击标着 2 的选项卡，查看第 2 页。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>第2页等的是同一个开关：“游戏开始”变成 ON，它就起作用。</translation>
+      <translation>第 2 页等的是同一个开关：“游戏开始”变成 ON，它就起作用。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>第2页什么都不做，所以故事只讲一遍。</translation>
+      <translation>第 2 页什么都不做，所以故事只讲一遍。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -1771,11 +1771,11 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>宝箱也有两页：第1页是关着的宝箱，第2页是打开后空了的宝箱。</translation>
+      <translation>宝箱也有两页：第 1 页是关着的宝箱，第 2 页是打开后空了的宝箱。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>最后一条指令让第2页起作用。右键点击它。</translation>
+      <translation>最后一条指令让第 2 页起作用。右键点击它。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -1835,7 +1835,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>新页是空的。没有图像，皮普就会从地图上消失。</translation>
+      <translation>新建的页是空白的。没有图像，皮普就会从地图上消失。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -1843,15 +1843,15 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>需要的东西第1页里都有。点击“复制页”。</translation>
+      <translation>需要的东西第 1 页里都有。点击“复制页”。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>点击“粘贴页”，副本就成为第2页。</translation>
+      <translation>点击“粘贴页”，副本就成为第 2 页。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>现在看到的是第2页，图像和话都还和第1页一样。</translation>
+      <translation>现在看到的是第 2 页，图像和话都还和第 1 页一样。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -1875,11 +1875,11 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>如果还有别的旧话，就用右键点击并删除。</translation>
+      <translation>如果还留着别的旧台词，就右键点击，把它删除。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>第1页还是原样，开关为 OFF 时由它起作用。</translation>
+      <translation>第 1 页还是原样，开关为 OFF 时由它起作用。</translation>
     </message>
     <message>
       <source>#53</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>和皮普说话，打开家里右边的宝箱，再和他说话。按 Esc 键返回。</translation>
+      <translation>和皮普说话，打开米拉家右边的宝箱，再和他说话。按 Esc 键返回。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -1923,7 +1923,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>点击“确定”。稍后也看看皮普的第2页，开关是不是同一个。</translation>
+      <translation>点击“确定”。稍后也看看皮普的第 2 页用的是不是同一个开关。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -1935,7 +1935,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>完成了！你会用页面改变事件了。第5课制作对话。点击“下一步”结束。</translation>
+      <translation>完成了！你会用页面让事件变化了。第 5 课制作对话。点击“下一步”结束。</translation>
     </message>
   </context>
   <context>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>点击“确定”。项目里会有皮普和米拉的家所在的村庄。</translation>
+      <translation>点击“确定”。项目里会有村庄，村里有皮普，也有米拉的家。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -1987,7 +1987,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>这一课分三部分：长老提出请求，记住回答，托马加入。</translation>
+      <translation>这一课分三部分：长老提出请求，长老记住回答，托马加入队伍。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -2007,7 +2007,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>那就让这里空着，他会一动不动。以后随时可以改。</translation>
+      <translation>那就不勾选这里，他会一动不动。以后随时可以改。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -2039,7 +2039,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>点击“复制页”，第2页要用他的样子和一条消息。然后点击“下一步”。</translation>
+      <translation>点击“复制页”，第 2 页要用他的样子和这条消息。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>不选而按 X 键的玩家，得到的是第二个回答“选项 2”。</translation>
+      <translation>玩家不选而按 X 键时，就当作选了第二个回答“选项 2”。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -2087,7 +2087,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>输入被拒绝时的话，例如：准备好了再来。然后点击“下一步”。</translation>
+      <translation>输入被拒绝时说的话，例如：准备好了再来。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -2123,7 +2123,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>它在第一个回答的分支里，所以只有答应了才会打开开关。</translation>
+      <translation>开关在第一个回答的分支里，所以只有答应了才会打开。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -2155,7 +2155,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>答应了会有道谢、开关和音效；拒绝了只有几句话。</translation>
+      <translation>答应了会有道谢、开关和音效；拒绝了只有一句话。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -2163,7 +2163,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>点击“粘贴页”，刚才复制的就成为第2页。</translation>
+      <translation>点击“粘贴页”，刚才复制的就成为第 2 页。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>第2页没有选项，因为是在添加选项之前复制的。</translation>
+      <translation>第 2 页没有选项，因为是在添加选项之前复制的。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -2255,11 +2255,11 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>它和开关一样有 ON 和 OFF，但只属于一个事件。事件的页可以等它。</translation>
+      <translation>它和开关一样有 ON 和 OFF，但只属于一个事件，可以用作页的出现条件。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>很好。第1页这里保持“无”，第2页会等托马自己的 A。</translation>
+      <translation>很好。第 1 页这里保持“无”，第 2 页会等托马自己的 A。</translation>
     </message>
     <message>
       <source>#81</source>
@@ -2295,7 +2295,7 @@
     </message>
     <message>
       <source>#89</source>
-      <translation>没有图像也没有话：第2页起作用后，托马就从地图上消失。</translation>
+      <translation>没有图像也没有话：第 2 页起作用后，托马就从地图上消失。</translation>
     </message>
     <message>
       <source>#90</source>
@@ -2319,7 +2319,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>完成了！玩家能选择，队伍也有了新成员。第6课讲主角。点击“下一步”结束。</translation>
+      <translation>完成了！玩家能做选择，队伍也有了新成员。第 6 课讲主角。点击“下一步”结束。</translation>
     </message>
   </context>
   <context>
@@ -2427,7 +2427,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>在旧帽子下面选择你做的斗篷，米拉从游戏一开始就会披着它。</translation>
+      <translation>选择列表中“布帽”下面你做的斗篷，米拉从游戏一开始就会披着它。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2455,11 +2455,11 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>完成了！你在数据库里做了防具，还让主角装备上了。</translation>
+      <translation>完成了！你在数据库里做了防具，还给主角装备上了。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>第7课会让村里有商店和旅店。点击“下一步”结束本课。</translation>
+      <translation>第 7 课会让村里的商店和旅店开张。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -2503,7 +2503,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>“物品”“武器”“防具”里是所有商品，都有价格。哪一样都可以在商店出售。</translation>
+      <translation>“物品”“武器”和“防具”里的东西都有价格，都可以在商店里出售。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -2535,11 +2535,11 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>还记得第2课里的这个窗口吗？选“否”可以再看一遍。</translation>
+      <translation>还记得第 2 课里的这个窗口吗？选“否”可以再看一遍。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>那就说个用法：再做一页，商店以后就能卖更多商品。</translation>
+      <translation>那就介绍一个用法：再加一页，商店以后就能卖更多商品。</translation>
     </message>
     <message>
       <source>#20</source>
@@ -2567,7 +2567,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>“应用”会保留到此为止的修改，窗口不关。</translation>
+      <translation>“应用”会保留到此为止的修改，但不关闭窗口。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2699,11 +2699,11 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>它只问图像和住宿费用。都不用改，点击“确定”。</translation>
+      <translation>这里只设图像和住宿费用，都不用改。点击“确定”。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>老板会先询问，再收金币，让队伍睡一晚，恢复体力。</translation>
+      <translation>老板会先询问，再收金币，让队伍睡上一晚，全员恢复。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -2719,7 +2719,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>走进东边的两座房子，绕过柜台，按 Enter 键。看完后点击“下一步”。</translation>
+      <translation>走进东边的两座房子，绕过柜台，对着店主按 Enter 键。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -2731,7 +2731,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>第8课会走出村庄，去别的地图。点击“下一步”结束本课。</translation>
+      <translation>第 8 课会走出村庄，去别的地图。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -2799,7 +2799,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>点击森林入口里面的这一格，玩家会在这里出现。然后点击“下一步”。</translation>
+      <translation>点击森林入口内侧的这一格，玩家会在这里出现。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2815,7 +2815,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>双击这一格，路从这里往北出森林。</translation>
+      <translation>双击这一格，路从这里向北通出森林。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -2851,7 +2851,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>显示的已经是村庄。点击村口里面的这一格，然后点击“下一步”。</translation>
+      <translation>现在显示的已经是村庄。点击村口内侧的这一格，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#30</source>
@@ -2939,7 +2939,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>这次用“按确定键时”正好：没有问他的人，他不会带走。</translation>
+      <translation>这次用“按确定键时”正好：他只带主动来问的人。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -2987,7 +2987,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>“用变量指定”用于会变的地点。变量在第9课学习。</translation>
+      <translation>“用变量指定”适合会变化的地点。变量在第 9 课学习。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -3003,7 +3003,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>点击这一格，路从这里往南出森林。</translation>
+      <translation>点击这一格，路从这里向南通出森林。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3035,7 +3035,7 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>点击“试玩”。一路向南，穿过地图，再请卫兵带你回来。</translation>
+      <translation>点击“试玩”。一路向南，走过三张地图，再请卫兵带你回来。</translation>
     </message>
     <message>
       <source>#76</source>
@@ -3043,11 +3043,11 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>完成了！你会添加地图，也会让玩家在地图之间来往了。</translation>
+      <translation>完成了！你会添加地图，也会让玩家在地图之间往来了。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>第9课会做一根打开大门的拉杆。点击“下一步”结束本课。</translation>
+      <translation>第 9 课会做一根打开大门的拉杆。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -3058,7 +3058,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第8课的。</translation>
+      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第 8 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3114,7 +3114,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>和第5课一样有两个回答，只有第一个会起作用。</translation>
+      <translation>和第 5 课一样有两个回答，只有第一个会起作用。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -3134,7 +3134,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“流程”选项卡，里面是判断和记忆用的指令。</translation>
+      <translation>点击“流程”选项卡，里面的指令用来判断和记住事情。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -3162,7 +3162,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>点击新的一行。大门的第2页是打开的样子，等的正是这个开关。</translation>
+      <translation>点击新的一行。大门的第 2 页是打开的样子，等的正是这个开关。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3174,7 +3174,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>变量是游戏记住的数字。用第1个变量来数拉过几根拉杆。</translation>
+      <translation>变量是游戏记住的数字。用第 1 个变量来数拉过几根拉杆。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -3186,7 +3186,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>右键点击这一行，出错时可以用菜单里的“删除指令”等改正。然后点击“下一步”。</translation>
+      <translation>右键点击这一行。做错了，可以用菜单里的“删除指令”删掉。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -3198,7 +3198,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>现在显示的是第2页。条件都满足的页面里，以最后一页为准。</translation>
+      <translation>现在显示的是第 2 页。条件都满足的页面里，以最后一页为准。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -3206,7 +3206,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>开关是 OFF 时用第1页，变成 ON 就用这一页。</translation>
+      <translation>开关是 OFF 时用第 1 页，变成 ON 就用这一页。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -3238,7 +3238,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>点击第1页。这里的拉杆还没拉下，照旧会提问。</translation>
+      <translation>点击第 1 页。这里的拉杆还没拉下，照旧会提问。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -3258,7 +3258,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>完成了！用开关和变量就能让游戏记住事情。第10课讲音乐。</translation>
+      <translation>完成了！用开关和变量就能让游戏记住事情。第 10 课讲音乐。</translation>
     </message>
   </context>
   <context>
@@ -3370,7 +3370,7 @@
     </message>
     <message>
       <source>#27</source>
-      <translation>输入玩家会看到的名称，例如琥珀村。然后点击“下一步”。</translation>
+      <translation>输入玩家会看到的名称，例如：琥珀村。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#28</source>
@@ -3382,7 +3382,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>开始“新游戏”，会响起音乐，出现你起的名称。然后点击“下一步”。</translation>
+      <translation>开始“新游戏”，会响起音乐，显示你起的名称。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -3426,7 +3426,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>“遇敌”列表还是空的，不会出现敌人。第14课再来设置。</translation>
+      <translation>“遇敌”列表还是空的，不会出现敌人。第 14 课再来设置。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -3458,7 +3458,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>第11课会让卫兵沿着你定的路线走动。点击“下一步”结束本课。</translation>
+      <translation>第 11 课会让卫兵沿着你定的路线走动。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -3469,7 +3469,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第10课的。</translation>
+      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第 10 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3561,7 +3561,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>“重复路线”已经打开，他会一直走下去。点击“确定”。</translation>
+      <translation>“重复路线”已经勾选，他会一直走下去。点击“确定”。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>点击第2个，里面是每个卫兵开口先说的话。</translation>
+      <translation>点击第 2 个，里面是每个卫兵开口先说的话。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>双击“卫兵”，比点“确定”更快。</translation>
+      <translation>双击“卫兵”，比点击“确定”更快。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -3705,7 +3705,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>再次点击第2个。</translation>
+      <translation>再次点击第 2 个。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -3733,7 +3733,7 @@
     </message>
     <message>
       <source>#68</source>
-      <translation>完成了！你学会了移动路线和公共事件。第12课去看数据库。</translation>
+      <translation>完成了！你学会了移动路线和公共事件。第 12 课去看数据库。</translation>
     </message>
   </context>
   <context>
@@ -3889,11 +3889,11 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>点击“蘑菇”。第14课会让这样的敌人出现在森林里。</translation>
+      <translation>点击“蘑菇”。第 14 课会让这样的敌人出现在森林里。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>点击“岩石守卫”。第16课会让它出现在旧矿洞里。</translation>
+      <translation>点击“岩石守卫”。第 16 课会让他出现在旧矿洞里。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -3921,7 +3921,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>点击第二个。第11课的两名卫兵都调用它，只要写一次。</translation>
+      <translation>点击第二个。第 11 课的两名卫兵都调用它，只要写一次。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -3949,7 +3949,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>标题画面的选项会显示在这个图像上。第19课再来设置。</translation>
+      <translation>标题画面的选项会显示在这个图像上。第 19 课再来设置。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4061,11 +4061,11 @@
     </message>
     <message>
       <source>#81</source>
-      <translation>那么“初始队伍”里没有她，或者有两个米拉。稍后你会再去那里。</translation>
+      <translation>那就是“初始队伍”里没有她，或者有两个米拉。稍后你会再去那里。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>塞娜的数据还在“角色”的第 3 个。放进队伍只是为了试一试。</translation>
+      <translation>塞娜的数据还在，是“角色”里的第 3 个。放进队伍只是为了试一试。</translation>
     </message>
     <message>
       <source>#83</source>
@@ -4077,7 +4077,7 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>故事里，塞娜要到第16课才加入。点击队伍里的她。</translation>
+      <translation>故事里，塞娜要到第 16 课才加入。点击队伍里的她。</translation>
     </message>
     <message>
       <source>#86</source>
@@ -4089,14 +4089,14 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>完成了！你已经知道什么在哪里。第13课会让行囊更丰富。</translation>
+      <translation>完成了！你已经知道数据库里什么在哪里。第 13 课制作物品和装备。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep13</name>
     <message>
       <source>#1</source>
-      <translation>这一课改良药，做一把新剑，并加强斗篷。
+      <translation>这一课让药更有效，做一把新剑，再加强斗篷。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -4137,7 +4137,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>还可以来自敌人：第14课起，“林间小路”上会有敌人。</translation>
+      <translation>还可以来自敌人：第 14 课起，“林间小路”的敌人会掉落东西。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -4249,7 +4249,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>伤害是攻击力的两倍减去对方的防御力。每一点都算双倍。</translation>
+      <translation>伤害是攻击力的两倍减去对方的防御力，所以攻击力每加 1，伤害就多 2。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -4265,7 +4265,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>输入名称，例如铁剑，然后点击“下一步”。</translation>
+      <translation>输入名称，例如：铁剑。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4285,7 +4285,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>打败一只史莱姆得 3。这样就能算出买猎刀要打多少场。</translation>
+      <translation>打败一只史莱姆得 3 金币。这样就能算出买猎刀要打多少场。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4353,7 +4353,7 @@
     </message>
     <message>
       <source>#65</source>
-      <translation>队伍人少时这样好：药能用在需要的人身上。</translation>
+      <translation>队伍人少时这样更好：药能用在需要的人身上。</translation>
     </message>
     <message>
       <source>#66</source>
@@ -4365,7 +4365,7 @@
     </message>
     <message>
       <source>#68</source>
-      <translation>点击第12课做的“塞娜”。</translation>
+      <translation>点击第 12 课做的“塞娜”。</translation>
     </message>
     <message>
       <source>#69</source>
@@ -4401,7 +4401,7 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>如果穿着，那就是特性还是 100 %。课后把它改成 120 %。</translation>
+      <translation>如果穿着，说明特性还是 100 %。课后把它改成 120 %。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -4421,18 +4421,18 @@
     </message>
     <message>
       <source>#82</source>
-      <translation>商品列表在布鲁诺的事件里。课后可以像第7课那样把剑加进去。</translation>
+      <translation>商品列表在布鲁诺的事件里。课后可以像第 7 课那样把剑加进去。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>完成了！你会决定各种东西的作用了。第14课会制作敌人。</translation>
+      <translation>完成了！你会决定各种东西的作用了。第 14 课会制作敌人。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep14</name>
     <message>
       <source>#1</source>
-      <translation>这一课让敌人住进森林。
+      <translation>这一课让森林里出现敌人。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -4513,7 +4513,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>史莱姆还是史莱姆，点击“取消”。</translation>
+      <translation>史莱姆要保持原样：点击“取消”。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -4609,7 +4609,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>在列表中右键点击地图也能打开它。以后可以这样加入老鼠。</translation>
+      <translation>在列表中右键点击地图，也能打开它的属性。以后可以这样加入老鼠。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -4653,7 +4653,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>右键点击图块可以更换图块组，用“夜晚”整个森林都会阴森森的。</translation>
+      <translation>右键点击图块可以更换图块组。换成“夜晚”，整片森林都会阴森森的。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -4665,7 +4665,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>在“事件”模式下，还能做看得见的敌人，例如第16课的首领。</translation>
+      <translation>在“事件”模式下，还能做看得见的敌人，例如第 16 课的首领。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -4685,7 +4685,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>第15课会教主角们使用技能。点击“下一步”结束本课。</translation>
+      <translation>第 15 课会教主角们使用技能。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -4821,7 +4821,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>等级为 1 时，米拉一开始就会用。点击“确定”。</translation>
+      <translation>等级是 1，所以米拉一开始就会用。点击“确定”。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -4857,7 +4857,7 @@
     </message>
     <message>
       <source>#42</source>
-      <translation>“追加技能”不看等级就能使用。列表里也有禁止技能的特性。</translation>
+      <translation>用“追加技能”得到的技能不看等级。列表里也有禁止技能的特性。</translation>
     </message>
     <message>
       <source>#43</source>
@@ -4881,7 +4881,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>菜单里还能看到她的职业等状况。托马和塞娜以后才会加入。</translation>
+      <translation>菜单里还能看到她的职业和状态。托马和塞娜以后才会加入。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4893,14 +4893,14 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>第16课会制作与岩石守卫的战斗。点击“下一步”结束本课。</translation>
+      <translation>第 16 课会制作与岩石守卫的战斗。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep16</name>
     <message>
       <source>#1</source>
-      <translation>这一课制作在矿洞最深处看守灯的首领。
+      <translation>这一课制作首领，他在矿洞深处看守着灯。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -4937,7 +4937,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>首领会站在这里。先做他的能力，再做战斗，最后写他的话。</translation>
+      <translation>首领会站在这里。先设他的能力，再做战斗，最后写台词。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4965,7 +4965,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>点击“MP”。灯光会恢复 10 点使用技能的点数。</translation>
+      <translation>点击“MP”。灯光会恢复 10 点 MP，使用技能要消耗它。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -4989,7 +4989,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>在“攻击力”中输入 18，让队伍需要盾牌。</translation>
+      <translation>在“攻击力”中输入 18，队伍就得带上盾牌了。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -5061,7 +5061,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>随时都可以用图下面的“战斗测试…”来试。</translation>
+      <translation>随时都可以用图像下面的“战斗测试…”来试。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -5185,7 +5185,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>双击它下面的“+”。胜利应当有音乐。</translation>
+      <translation>双击它下面的“+”。胜利时应该有音乐。</translation>
     </message>
     <message>
       <source>#73</source>
@@ -5241,7 +5241,7 @@
     </message>
     <message>
       <source>#86</source>
-      <translation>现在是空的第 2 页。条件满足时，它会代替第 1 页。</translation>
+      <translation>现在显示的是空白的第 2 页。条件满足时，它会代替第 1 页。</translation>
     </message>
     <message>
       <source>#87</source>
@@ -5269,7 +5269,7 @@
     </message>
     <message>
       <source>#93</source>
-      <translation>点击“确定”。你的首领站在那里了。</translation>
+      <translation>点击“确定”，首领就站在那里了。</translation>
     </message>
     <message>
       <source>#94</source>
@@ -5445,7 +5445,7 @@
     </message>
     <message>
       <source>#137</source>
-      <translation>第17课让首领在战斗中途做些事情。点击“下一步”结束本课。</translation>
+      <translation>第 17 课让首领在战斗中途有所行动。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -5481,7 +5481,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>旧矿洞里的岩石守卫独自战斗，每次都一样。现在来改变它。</translation>
+      <translation>旧矿洞里的岩石守卫独自战斗，每次都一样。现在来改变这一点。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -5565,7 +5565,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>还是“重击”。甲虫的“攻击力”比蝙蝠高，所以打得更痛。</translation>
+      <translation>还是“重击”。甲虫的“攻击力”比蝙蝠高，所以伤害更大。</translation>
     </message>
     <message>
       <source>#30</source>
@@ -5597,7 +5597,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>输入名称，例如睡眠。然后点击“下一步”。</translation>
+      <translation>输入名称，例如：睡眠。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -5609,7 +5609,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>点击“回合结束时”，就会自己醒来。然后点击“下一步”。</translation>
+      <translation>点击“回合结束时”，睡着的人就会自己醒来。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5661,7 +5661,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>输入 30。这么强的米拉能看完整场战斗。</translation>
+      <translation>输入 30。米拉这么强，就能撑完整场战斗。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -5673,7 +5673,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>三个敌人都会攻击，但没有惊喜。这就要靠战斗事件了。</translation>
+      <translation>三个敌人都会攻击，但没有什么变化。这就要靠战斗事件了。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -5789,7 +5789,7 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>选中的是“增加”，也就是恢复。“减少”则会受伤。</translation>
+      <translation>选中的是“增加”，也就是恢复。“减少”则会使其受伤。</translation>
     </message>
     <message>
       <source>#86</source>
@@ -5885,7 +5885,7 @@
     </message>
     <message>
       <source>#109</source>
-      <translation>守卫的 HP 减半时，大地震动，它会恢复 30 点。然后点击“下一步”。</translation>
+      <translation>守卫的 HP 减半时，大地震动，他会恢复 30 点。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#110</source>
@@ -5901,7 +5901,7 @@
     </message>
     <message>
       <source>#113</source>
-      <translation>地图上的守卫不用改，它的事件用的就是这个敌群。</translation>
+      <translation>地图上的守卫不用改，他的事件用的就是这个敌群。</translation>
     </message>
     <message>
       <source>#114</source>
@@ -5921,14 +5921,14 @@
     </message>
     <message>
       <source>#118</source>
-      <translation>第18课会编排自动进行的过场演出。点击“下一步”结束本课。</translation>
+      <translation>第 18 课会编排自动进行的过场演出。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep18</name>
     <message>
       <source>#1</source>
-      <translation>这一课制作故事的结局：一段角色自己行动的演出。
+      <translation>这一课制作故事的结局：一段人物自己行动的演出。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -6001,7 +6001,7 @@
     </message>
     <message>
       <source>#19</source>
-      <translation>点击道路下端，比地图边缘高一格的格子。</translation>
+      <translation>点击道路下端的这一格，它比地图边缘高一格。</translation>
     </message>
     <message>
       <source>#20</source>
@@ -6037,7 +6037,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>点击“粘贴页”。指令和触发方式会一起过来。</translation>
+      <translation>点击“粘贴页”。指令和触发方式会一起复制过来。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -6057,7 +6057,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>点击路西端往右一格的格子。然后点击“下一步”。</translation>
+      <translation>点击从路的西端数起的第二格。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -6105,7 +6105,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>选择“自动执行”，演出会立刻开始，玩家只看。然后点击“下一步”。</translation>
+      <translation>选择“自动执行”，演出会立刻开始，玩家只需观看。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -6369,11 +6369,11 @@
     </message>
     <message>
       <source>#111</source>
-      <translation>完成了！你会让角色自己说话、走动，还点亮了灯。</translation>
+      <translation>完成了！你会让人物自己说话、走动，还点亮了灯。</translation>
     </message>
     <message>
       <source>#112</source>
-      <translation>第19课加上标题画面，然后试玩。点击“下一步”结束本课。</translation>
+      <translation>第 19 课加上标题画面，再试玩整个游戏。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>

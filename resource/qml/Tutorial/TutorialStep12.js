@@ -684,7 +684,7 @@
 "name":"The troops, and what is beside them",
 "folder":false,
 "translationId":41,
-"x":455,
+"x":527,
 "y":-110,
 "windowKey":"DatabaseMain",
 "condition":"click,",

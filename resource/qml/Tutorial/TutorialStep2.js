@@ -803,7 +803,7 @@
 "name":"Look through the tabs",
 "folder":false,
 "translationId":46,
-"x":169,
+"x":544,
 "y":-98,
 "windowKey":"EventCommandSelect",
 "condition":"click,",
