@@ -3054,7 +3054,7 @@ Click “Next” to begin.</translation>
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson a lever opens a gate and is remembered.
+      <translation>In this lesson a lever opens a gate that stays open.
 Click “Next” to begin.</translation>
     </message>
     <message>
@@ -5171,7 +5171,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>Choose the troop that you have made, the last one.</translation>
+      <translation>Choose your troop, the last one. The line is empty, as the troop has no name.</translation>
     </message>
     <message>
       <source>#69</source>

@@ -5169,7 +5169,7 @@
     </message>
     <message>
       <source>#68</source>
-      <translation>作った敵グループを選びます。最後にあります。</translation>
+      <translation>一覧の最後の、作った敵グループを選びます。名前がないので、空の行です。</translation>
     </message>
     <message>
       <source>#69</source>

@@ -5169,7 +5169,7 @@
     </message>
     <message>
       <source>#68</source>
-      <translation>选择你做的敌群，它在最后面。</translation>
+      <translation>选择最后面你做的敌群。它还没有名称，所以是空行。</translation>
     </message>
     <message>
       <source>#69</source>
