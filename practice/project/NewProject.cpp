@@ -30,6 +30,9 @@ void NewProject::addTo(Commands &commands, Fields &fields, RowSources &sources,
         }
         return rows;
     });
+    fields.add(QStringLiteral("projects.there"), [this](const DataLayer & /*layer*/) {
+        return !ProjectFolder::projectsIn(location()).isEmpty();
+    });
 }
 
 void NewProject::addTo(StateParts &states)

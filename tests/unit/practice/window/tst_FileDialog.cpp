@@ -1,7 +1,10 @@
 #include "EditorFixture.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <algorithm>
 
 /// The window that opens a project, which is nothing but a description.
 class tst_FileDialog : public QObject
@@ -11,6 +14,7 @@ class tst_FileDialog : public QObject
 private Q_SLOTS:
     void opensFromTheToolBarAndIsTold();
     void withoutAProjectThereIsNothingToOpen();
+    void withoutAProjectItSaysWhatToDo();
     void opensTheChosenProject_data();
     void opensTheChosenProject();
     void cancelLeavesTheProjectOpen();
@@ -40,6 +44,39 @@ void tst_FileDialog::withoutAProjectThereIsNothingToOpen()
     QVERIFY(!editor.find<QPushButton>("FileDialog", "ok")->isEnabled());
     QTest::keyClick(editor.find<QLineEdit>("FileDialog", "location"), Qt::Key_Return);
     QVERIFY(editor->openWindows().contains(str("FileDialog")));
+}
+
+void tst_FileDialog::withoutAProjectItSaysWhatToDo()
+{
+    Editor first;
+    first.openProject();
+    Editor editor;
+    editor->open(str("MainWindow"));
+    editor.click("MainWindow", "fileOpen");
+    auto *list = editor.find<RowList>("FileDialog", "projects");
+    QVector<QLabel *> words;
+    for (const char *name : {"noProjects", "noProjectsInLesson", "noProjectsAnswer", "noProjectsOtherwise"}) {
+        words.append(editor.find<QLabel>("FileDialog", name));
+    }
+    const auto areWordsShown = [&words](bool shown) {
+        return std::all_of(words.cbegin(), words.cend(),
+                           [shown](const QLabel *label) { return label->isVisible() == shown; });
+    };
+    QVERIFY(areWordsShown(true));
+    QVERIFY(!list->isVisible());
+    // The words are those of the buttons that are meant.
+    QVERIFY(words.constLast()->text().contains(editor.find<QPushButton>("FileDialog", "cancel")->text()));
+    QVERIFY(
+        words.constLast()->text().contains(editor.find<QAbstractButton>("MainWindow", "fileNew")->text()));
+
+    // Another place that has one.
+    auto *location = editor.find<QLineEdit>("FileDialog", "location");
+    location->selectAll();
+    QTest::keyClicks(location, first.folder());
+    QVERIFY(areWordsShown(false));
+    QVERIFY(list->isVisible());
+    QCOMPARE(list->count(), 1);
+    QVERIFY(editor.find<QPushButton>("FileDialog", "ok")->isEnabled());
 }
 
 void tst_FileDialog::opensTheChosenProject_data()
