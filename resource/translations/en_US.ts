@@ -3742,7 +3742,7 @@ Click “Next” to begin.</translation>
     <name>TutorialStep12</name>
     <message>
       <source>#1</source>
-      <translation>You walk through the database and make Sena, a third hero.
+      <translation>In this lesson you tour the database and make a third hero.
 Click “Next” to begin.</translation>
     </message>
     <message>
@@ -3759,7 +3759,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#5</source>
-      <translation>The data are being copied. The lesson then goes on by itself.</translation>
+      <translation>The project is being copied. The lesson then goes on by itself.</translation>
     </message>
     <message>
       <source>#6</source>
@@ -3787,7 +3787,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>You know the menu of a right click on him. It says nothing of his strength or his sword.</translation>
+      <translation>You know the menu of his event. It says nothing of his strength or his sword.</translation>
     </message>
     <message>
       <source>#13</source>
@@ -3839,7 +3839,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>This curve shows how the highest HP of a guardian grow from level to level.</translation>
+      <translation>This curve shows how the highest HP of a Guardian grow from level to level.</translation>
     </message>
     <message>
       <source>#26</source>
@@ -4007,7 +4007,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>This is Sena, a sage. She will guide the party with magic.</translation>
+      <translation>This is Sena. Later on, she will help the party with magic.</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4063,7 +4063,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>Then “Party at the start” lacks her, or it has Mila twice. You go there once more, soon.</translation>
+      <translation>Then “Party at the start” lacks her, or it has Mila twice. You will go there again soon.</translation>
     </message>
     <message>
       <source>#82</source>
@@ -4091,14 +4091,14 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>Done! You know where everything stands. Lesson 13 fills the bags and the shops.</translation>
+      <translation>Done! You know what stands where. Lesson 13 makes things to use and to wear.</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep13</name>
     <message>
       <source>#1</source>
-      <translation>You make a stronger tonic, a new sword and a better cloak.
+      <translation>In this lesson you make a better tonic, sword and cloak.
 Click “Next” to begin.</translation>
     </message>
     <message>
@@ -4195,7 +4195,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Bread is gone once it is eaten. Without this mark it could be eaten again and again.</translation>
+      <translation>Bread is gone once it is eaten. Without this check mark it could be eaten again and again.</translation>
     </message>
     <message>
       <source>#26</source>
@@ -4223,7 +4223,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Click “MP”. The tonic shall give back MP, too, which skills cost.</translation>
+      <translation>Click “MP”. The tonic is to give back MP, too, which skills cost.</translation>
     </message>
     <message>
       <source>#33</source>
@@ -4291,7 +4291,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Shall players save up for the sword for a long time?</translation>
+      <translation>Should players have to save up for the sword for a long time?</translation>
     </message>
     <message>
       <source>#50</source>
@@ -4307,7 +4307,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Until then players use the knife. So the shop has something for each purse.</translation>
+      <translation>Until then players use the knife. So there is something for each purse.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4347,7 +4347,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Toma is hot-headed. Shall he choose by himself what he does in battles?</translation>
+      <translation>Toma is hot-headed. Should he choose by himself what he does in battles?</translation>
     </message>
     <message>
       <source>#64</source>
@@ -4479,7 +4479,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>This is the slime. It can take little, and it does not hit hard: right for a beginning.</translation>
+      <translation>This is the slime. It can take little, and it does not hit hard: right for a start.</translation>
     </message>
     <message>
       <source>#13</source>
@@ -4567,7 +4567,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>So the troop stands before the party. Larger troops have more members, each at its place.</translation>
+      <translation>This is how the troop faces the party. Larger troops have more members, each in its place.</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4599,7 +4599,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Your troops stand on the left, the first one is selected. Click “OK”.</translation>
+      <translation>Your troops stand on the left, and the first one is selected. Click “OK”.</translation>
     </message>
     <message>
       <source>#43</source>
@@ -4611,7 +4611,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>A right click on the map in the list leads there, too. So you can add the rat later.</translation>
+      <translation>A right click on the map in the list leads there, too, to add the rat later.</translation>
     </message>
     <message>
       <source>#46</source>
@@ -4675,7 +4675,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Too hard? Change it in the database. Gold from battles buys herbs and swords.</translation>
+      <translation>Too hard? Change it in the database. Gold from battles buys herbs and knives.</translation>
     </message>
     <message>
       <source>#62</source>
@@ -4799,7 +4799,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Nobody can use the skills yet. A hero has a class, and the class knows what he learns.</translation>
+      <translation>Nobody can use the skills yet. Each hero has a class, and the class decides on the skills.</translation>
     </message>
     <message>
       <source>#28</source>
@@ -4939,11 +4939,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Here he will stand. First he gets his figures, then his battle, then his words.</translation>
+      <translation>The boss will stand here. First he gets his figures, then his battle, then his words.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>Click “Database”. The lamp comes first: he is to drop it.</translation>
+      <translation>Click “Database”. The lamp comes first: the boss is to drop it.</translation>
     </message>
     <message>
       <source>#12</source>
@@ -5027,7 +5027,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>With a mark here he would strike only once. He may do it again and again.</translation>
+      <translation>With a check mark here he would strike only once. He may do it again and again.</translation>
     </message>
     <message>
       <source>#33</source>
@@ -5123,7 +5123,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>Click “Moves its feet while standing”: so a figure looks alive.</translation>
+      <translation>Click “Moves its feet while standing”: this makes a figure look alive.</translation>
     </message>
     <message>
       <source>#57</source>
@@ -5131,7 +5131,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>“When examined” leaves the choice to the player: whoever wants to, asks him.</translation>
+      <translation>“When examined” leaves the choice to the player, who can still turn back.</translation>
     </message>
     <message>
       <source>#59</source>
@@ -5163,7 +5163,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Enough of words: double-click “+” for the battle.</translation>
+      <translation>Enough words: double-click “+” for the battle.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5175,11 +5175,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Without a mark nobody can flee. So it should be with a boss.</translation>
+      <translation>Without a check mark nobody can flee. So it should be with a boss.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Without this one, a defeat ends the game. Then go on from a saved game.</translation>
+      <translation>Without this one, a defeat ends the game. The player goes on from a saved game then.</translation>
     </message>
     <message>
       <source>#71</source>
@@ -5411,7 +5411,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#128</source>
-      <translation>Here the Elder should be glad, such as You found it! Take it up the hill.</translation>
+      <translation>Now the Elder should say something glad, such as You found it! Take it up the hill.</translation>
     </message>
     <message>
       <source>#129</source>
@@ -5459,7 +5459,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with the boss in its mine, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, in which the boss fights alone? “No” lets you open one of yours.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5503,7 +5503,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>A right click on it leads to “Edit event…”. The command “Battle” names the troop.</translation>
+      <translation>A right click on him leads to “Edit event…”. The command “Battle” names the troop.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -5611,7 +5611,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Click “After a turn”: so sleepers wake by themselves. Then click “Next”.</translation>
+      <translation>Click “After a turn”: sleepers wake by themselves. Then click “Next”.</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5687,7 +5687,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>Now the battle events. First: a warden that is badly hurt draws strength from the rock.</translation>
+      <translation>Now the battle events. First: a warden who is badly hurt draws strength from the rock.</translation>
     </message>
     <message>
       <source>#60</source>
@@ -5695,7 +5695,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Click “Enemy's HP”. The warden and 50 % are chosen, which is right.</translation>
+      <translation>Click “Enemy's HP”. That sets the warden and 50 %, which is just right.</translation>
     </message>
     <message>
       <source>#62</source>
@@ -5739,7 +5739,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>With this tick, the next command comes only after the shaking.</translation>
+      <translation>With this check mark, the next command comes only after the shaking.</translation>
     </message>
     <message>
       <source>#73</source>
@@ -5791,7 +5791,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>“Increase” is on, so it is healed. “Decrease” would hurt it.</translation>
+      <translation>“Increase” is on, so he is healed. “Decrease” would hurt him.</translation>
     </message>
     <message>
       <source>#86</source>
@@ -5855,7 +5855,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#101</source>
-      <translation>Click into “Speaker” and write her name. Then click “Next”.</translation>
+      <translation>Click “Speaker” and type her name. Then click “Next”.</translation>
     </message>
     <message>
       <source>#102</source>
@@ -5887,7 +5887,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#109</source>
-      <translation>When half of its HP are gone, the ground shakes, and it gets 30 back. Then click “Next”.</translation>
+      <translation>When half of his HP are gone, the ground shakes, and he gets 30 back. Then click “Next”.</translation>
     </message>
     <message>
       <source>#110</source>
@@ -5903,7 +5903,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#113</source>
-      <translation>The warden on the map needs no change: its event has named this troop all along.</translation>
+      <translation>The warden on the map needs no change: his event has named this troop all along.</translation>
     </message>
     <message>
       <source>#114</source>
@@ -6215,7 +6215,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Click “…” to choose a switch. We need a new one.</translation>
+      <translation>Click “…” to choose a switch. You need a new one.</translation>
     </message>
     <message>
       <source>#73</source>
@@ -6463,7 +6463,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>An empty list stands for “New game”, “Continue” and “Quit”. That is all that we need.</translation>
+      <translation>An empty list stands for “New game”, “Continue” and “Quit”. That is all that you need.</translation>
     </message>
     <message>
       <source>#22</source>

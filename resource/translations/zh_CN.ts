@@ -2795,7 +2795,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>点击“林间小路”，会显示森林的地图。</translation>
+      <translation>点击“林间小路”，就会显示森林的地图。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -4565,7 +4565,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>战斗中敌群就这样站着。大的敌群有更多成员，各有各的位置。</translation>
+      <translation>战斗中敌群就是这样站位的。大的敌群有更多成员，各有各的位置。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4573,7 +4573,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>这里没有人，就由游戏开始时的队伍出战：只有米拉一人。</translation>
+      <translation>这里不加人，就由游戏开始时的队伍出战：只有米拉一人。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -4665,7 +4665,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>在“事件”模式下，还能做看得见的敌人，例如第 16 课的首领。</translation>
+      <translation>在“事件”模式下右键点击，还能做看得见的敌人，例如第 16 课的首领。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -5601,7 +5601,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>在“行动限制”中选“无法行动”。</translation>
+      <translation>在“行动限制”中选择“无法行动”。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -5641,7 +5641,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>在“敌人”中选“洞穴蝙蝠”。然后点击“下一步”。</translation>
+      <translation>在“敌人”中选择“洞穴蝙蝠”。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -5693,7 +5693,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>点击“敌人的 HP”。选好的是守卫和 50 %，正合适。</translation>
+      <translation>点击“敌人的 HP”，守卫和 50 % 会自动填好，正合适。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -5821,7 +5821,7 @@
     </message>
     <message>
       <source>#93</source>
-      <translation>在“敌人”中选“整个敌群”。然后点击“下一步”。</translation>
+      <translation>在“敌人”中选择“整个敌群”。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#94</source>
@@ -5829,7 +5829,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>在“状态”中选最后一个，就是你做的那个。</translation>
+      <translation>在“状态”中选择最后一个，就是你做的那个。</translation>
     </message>
     <message>
       <source>#96</source>
