@@ -12,7 +12,6 @@ using Type = Condition::Type;
 
 /// What an icon that shows a clock gives the editor for its work.
 constexpr int kWorkMs = 10000;
-constexpr auto kName = "Village";
 
 int buttonCount(const Step &step)
 {
@@ -68,7 +67,7 @@ QString textFor(const Step &step)
         return QString(qMax(1, condition.value().toInt()), QLatin1Char('a'));
     }
     const QString number = LessonWords::numberToType(step.hint);
-    return number.isEmpty() ? QString::fromLatin1(kName) : number;
+    return number.isEmpty() ? QString::fromLatin1(ActionPlan::kName) : number;
 }
 
 QVector<Action> typing(const Step &step)

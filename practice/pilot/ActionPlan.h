@@ -24,6 +24,9 @@ struct Sight
 /// from there where the hint asks for one, and then the button, if the step ends with one.
 struct ActionPlan
 {
+    /// What is typed where a step wants a name and not a number.
+    static constexpr auto kName = "Village";
+
     /// The spot, in global screen pixels; nothing when the step points nowhere.
     std::optional<QPoint> spot;
     /// What to do, in order; nothing to do in a step that is only waited for.

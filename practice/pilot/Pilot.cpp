@@ -364,7 +364,7 @@ void Pilot::act()
 
 Action Pilot::choiceFor(const QString &hint) const
 {
-    const int row = quotedRow(hint, m_eye->listRows());
+    const int row = quotedRow(hint, m_eye->listRows(), QString::fromLatin1(ActionPlan::kName));
     // What is chosen already stays where the list has no such row.
     return row < 0 ? Action{Action::Kind::kEscape, {}, 0, {}, 0}
                    : Action{Action::Kind::kChoose, {}, 0, {}, row};

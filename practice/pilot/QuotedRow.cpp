@@ -15,16 +15,19 @@ QStringList quotedIn(const QString &hint)
     return texts;
 }
 
-int quotedRow(const QString &hint, const QStringList &rows)
+int quotedRow(const QString &hint, const QStringList &rows, const QString &own)
 {
-    const QStringList texts = quotedIn(hint);
-    for (const QString &text : texts) {
+    QStringList texts = quotedIn(hint);
+    for (const QString &text : qAsConst(texts)) {
         const int row = int(rows.indexOf(text));
         if (row >= 0) {
             return row;
         }
     }
-    for (const QString &text : texts) {
+    if (!own.isEmpty()) {
+        texts.append(own);
+    }
+    for (const QString &text : qAsConst(texts)) {
         const auto row = std::find_if(rows.cbegin(), rows.cend(),
                                       [&text](const QString &one) { return one.contains(text); });
         if (row != rows.cend()) {

@@ -2326,7 +2326,7 @@ Click “Next” to begin.</translation>
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson the hero gets her own look and a warm cloak.
+      <translation>Here the hero gets a warm cloak, in the database.
 Click “Next” to begin.</translation>
     </message>
     <message>
@@ -2355,110 +2355,114 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+      <translation>Click “Amberfield” in the list of maps. The game begins in this village.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>The game begins here, with Mila. You see nobody, as a hero is no event of the map.</translation>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Click “Events” to see who is on the map.</translation>
+      <translation>The game begins here, with Mila. You see nobody, as a hero is no event of the map.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>This is Toma, who joins Mila. Double-click him.</translation>
+      <translation>Click “Events” to see who is on the map.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>This is how Toma looks while he stands on the path and waits for Mila.</translation>
+      <translation>This is Toma, who joins Mila. Double-click him.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>Whoever asks him reads this first.</translation>
+      <translation>This is how Toma looks while he stands on the path and waits for Mila.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Then he joins the party. This line names an actor, and actors are in the database.</translation>
+      <translation>Whoever asks him reads this first.</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>So a hero is made in the database: picture, class, level, equipment.</translation>
+      <translation>Then he joins the party. This line names an actor, and actors are in the database.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Click “OK”.</translation>
+      <translation>A right click on a command lets you copy or delete it. Leave Toma's as they are.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>A map is one place. What holds for the whole game stands in the database.</translation>
+      <translation>So a hero is made in the database: picture, class, level, equipment.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click “Database” to open it.</translation>
+      <translation>Click “OK”.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Each tab has one kind of thing. Click “Armor”: Mila needs a cloak.</translation>
+      <translation>A map is one place. What holds for the whole game stands in the database.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>Click “Add”. The list gets one more entry, still empty. Then click “Next”.</translation>
+      <translation>Click “Database” to open it.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Type a name, such as Travel cloak. Then click “Next”.</translation>
+      <translation>Each tab has one kind of thing. Click “Armor”: Mila needs a cloak.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Type 4 for “Defense”. The higher it is, the less an enemy's blow hurts.</translation>
+      <translation>Click “Add”. The list gets one more entry, still empty. Then click “Next”.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>Click “Actors”. All who can be in the party are there.</translation>
+      <translation>Type a name, such as Travel cloak. Then click “Next”.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Mila looks like any traveler. Click the picture below “On the map”.</translation>
+      <translation>Each point of “Defense” makes an enemy's blow weaker. 4 would suit a cloak.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Click “Mila”.</translation>
+      <translation>Click “Actors”. All who can be in the party are there.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>Choose your cloak below the old cap: Mila wears it from the beginning of the game.</translation>
+      <translation>Choose your cloak below the old cap, so that Mila wears it. Then click “Next”.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Click “Play” to see Mila in the game.</translation>
+      <translation>In battle the player decides for the hero. Make sure of “You choose”: click it.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Begin a new game with Enter and walk with the arrow keys. That is Mila!</translation>
+      <translation>Click “Play” to see the hero of your game.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>The X key opens the game's menu. Look up what Mila wears.</translation>
+      <translation>Begin a new game with Enter and walk with the arrow keys. That is Mila!</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Press the Esc key until the game closes.</translation>
+      <translation>The X key opens the game's menu. Look up what Mila wears.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Click “Save” to keep Mila and her cloak.</translation>
+      <translation>Press the Esc key until the game closes.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Toma is in the database, too: give him other clothes whenever you like.</translation>
+      <translation>Click “Save” to keep Mila and her cloak.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Done! You have made armor and equipped a hero in the database.</translation>
+      <translation>Toma is in the database, too: give him other clothes whenever you like.</translation>
     </message>
     <message>
       <source>#34</source>
+      <translation>Done! You have made armor and equipped a hero in the database.</translation>
+    </message>
+    <message>
+      <source>#35</source>
       <translation>Lesson 7 gives the village a shop and an inn. Click “Next” to finish.</translation>
     </message>
   </context>
@@ -4967,7 +4971,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Click “MP”. The light gives back 10 of the points that skills cost.</translation>
+      <translation>Type 20 for “Points”. The light gives back so much HP.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -5143,139 +5147,139 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Two will speak in turn: a name in “Speaker” tells them apart.</translation>
-    </message>
-    <message>
-      <source>#62</source>
       <translation>Click “OK” to keep his words.</translation>
     </message>
     <message>
-      <source>#63</source>
-      <translation>This is said first. Now Mila answers him.</translation>
-    </message>
-    <message>
-      <source>#64</source>
+      <source>#62</source>
       <translation>Double-click “+” below the last command.</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#63</source>
       <translation>Type Mila's answer, such as It belongs to all of us! Then click “Next”.</translation>
     </message>
     <message>
+      <source>#64</source>
+      <translation>Two speak in turn: a face tells them apart. Click “Face…”.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Everyone has a face here. Choose “Mila” and look at her. Then click “Next”.</translation>
+    </message>
+    <message>
       <source>#66</source>
-      <translation>Enough words: double-click “+” for the battle.</translation>
+      <translation>Click “OK”. Her face will stand beside her words.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Click “Battle”, the last tab.</translation>
+      <translation>Enough words: double-click “+” for the battle.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>Choose your troop, the last one. The line is empty, as the troop has no name.</translation>
+      <translation>Click “Battle”, the last tab.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Without a check mark nobody can flee. So it should be with a boss.</translation>
+      <translation>Choose your troop, the last one. The line is empty, as the troop has no name.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Without this one, a defeat ends the game. The player goes on from a saved game then.</translation>
+      <translation>Without a check mark nobody can flee. So it should be with a boss.</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>Click the battle in the list. What stands below it happens only after a victory.</translation>
+      <translation>Without this one, a defeat ends the game. The player goes on from a saved game then.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Double-click “+” below it. A victory deserves music.</translation>
+      <translation>Click the battle in the list. What stands below it happens only after a victory.</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>Click “Audio”.</translation>
+      <translation>Double-click “+” below it. A victory deserves music.</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>Click “Choose…” to see all the music.</translation>
+      <translation>Click “Audio”.</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>Click “Victory”.</translation>
+      <translation>Click “Choose…” to see all the music.</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>It plays at this volume until the party leaves the mine.</translation>
+      <translation>Click “Victory”.</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>The whole game has to know of the victory. Double-click “+”.</translation>
+      <translation>It plays at this volume until the party leaves the mine.</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>Click “Flow”, where the switches are.</translation>
+      <translation>The whole game has to know of the victory. Double-click “+”.</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>Click “Set switches”.</translation>
+      <translation>Click “Flow”, where the switches are.</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>Click “…” to look through the switches.</translation>
+      <translation>Click “Set switches”.</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>Click “Warden defeated”. The name of a switch says what is so when it is on.</translation>
+      <translation>Click “…” to look through the switches.</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>Make sure of “ON”: click it.</translation>
+      <translation>Click “Warden defeated”. The name of a switch says what is so when it is on.</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>Something in the wrong place? A right click on a command lets you copy, paste and delete it.</translation>
+      <translation>Make sure of “ON”: click it.</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>The switch is the last thing: from now on everybody can ask whether it is on.</translation>
+      <translation>Something in the wrong place? A right click on a command lets you copy, paste and delete it.</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>He should be gone then. Click “New page”.</translation>
+      <translation>The switch is the last thing: from now on everybody can ask whether it is on.</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>Page 2 is in front now, and empty. When its conditions hold, page 1 rests.</translation>
+      <translation>He should be gone then. Click “New page”.</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>Click “…” beside “Switch”.</translation>
+      <translation>Page 2 is in front now, and empty. When its conditions hold, page 1 rests.</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>Double-click “Warden defeated”. That chooses it and closes the window.</translation>
+      <translation>Click “…” beside “Switch”.</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>So this page begins with the victory and stays for the rest of the game.</translation>
+      <translation>Double-click “Warden defeated”. That chooses it and closes the window.</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>Without a picture there is nobody, and the way is free.</translation>
+      <translation>So this page begins with the victory and stays for the rest of the game.</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>Neither words nor battle here: a boss fights once.</translation>
+      <translation>Without a picture there is nobody, and the way is free.</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>A right click on the tab of a page has the same commands as the buttons above.</translation>
+      <translation>Neither words nor battle here: a boss fights once.</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>Click “OK”. There stands your boss.</translation>
+      <translation>A right click on the tab of a page has the same commands as the buttons above.</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>A right click on him offers to copy him: so a second boss is quickly made.</translation>
+      <translation>Click “OK”. There stands your boss.</translation>
     </message>
     <message>
       <source>#95</source>
@@ -5319,7 +5323,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#105</source>
-      <translation>Choose “Sena” in the list of actors. Then click “Next”.</translation>
+      <translation>Choose “Sena” in the list of actors.</translation>
     </message>
     <message>
       <source>#106</source>

@@ -2326,7 +2326,7 @@
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、主人公の姿を決めて、マントを着せます。
+      <translation>主人公がどこで決まるかを見て、マントを着せます。
 「次へ」で始まります。</translation>
     </message>
     <message>
@@ -2355,110 +2355,114 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
+      <translation>マップ一覧の「アンバー村」をクリックしてください。ゲームはこの村で始まります。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>ゲームはミラがここに立って始まります。主人公はイベントではないので、ここには見えません。</translation>
+      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>「イベント」をクリックして、マップにいる人を表示します。</translation>
+      <translation>ゲームはミラがここに立って始まります。主人公はイベントではないので、ここには見えません。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>ミラの仲間になるトーマです。ダブルクリックしてください。</translation>
+      <translation>「イベント」をクリックして、マップにいる人を表示します。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>道でミラを待っている間、トーマはこの姿で立っています。</translation>
+      <translation>ミラの仲間になるトーマです。ダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>話しかけると、まずこのメッセージが出ます。</translation>
+      <translation>道でミラを待っている間、トーマはこの姿で立っています。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>次にパーティーに加わります。この行にあるのは、データベースのアクターの名前です。</translation>
+      <translation>話しかけると、まずこのメッセージが出ます。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>つまり、主人公の姿や職業、レベル、装備は、データベースで決めます。</translation>
+      <translation>次にパーティーに加わります。この行にあるのは、データベースのアクターの名前です。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>「OK」をクリックしてください。</translation>
+      <translation>コマンドを右クリックすると、コピーや削除ができます。今はこのままにします。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>マップで決めるのは、その場所のことです。ゲーム全体で使うものは、データベースにあります。</translation>
+      <translation>つまり、主人公の姿や職業、レベル、装備は、データベースで決めます。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>「データベース」をクリックして開きます。</translation>
+      <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>タブごとに種類が分かれています。マントを作るので「防具」をクリックしてください。</translation>
+      <translation>マップで決めるのは、その場所のことです。ゲーム全体で使うものは、データベースにあります。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>「追加」をクリックすると、空の行が増えます。そのあと「次へ」をクリックします。</translation>
+      <translation>「データベース」をクリックして開きます。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>名前（旅のマントなど）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>タブごとに種類が分かれています。マントを作るので「防具」をクリックしてください。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>「防御力」に4と入力します。高いほど、敵の攻撃で受けるダメージが減ります。</translation>
+      <translation>「追加」をクリックすると、空の行が増えます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>「アクター」をクリックしてください。パーティーに入れる人が並んでいます。</translation>
+      <translation>名前（旅のマントなど）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>ミラはまだ旅人の姿です。「マップ上の姿」の下の画像をクリックしてください。</translation>
+      <translation>「防御力」が高いほど、敵の攻撃で受けるダメージが減ります。マントなら4くらいです。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>「ミラ」をクリックしてください。</translation>
+      <translation>「アクター」をクリックしてください。パーティーに入れる人が並んでいます。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>古い帽子の下にあるマントを選びます。ミラはゲームの最初から着ています。</translation>
+      <translation>古い帽子の下にあるマントを選ぶと、ミラが着ます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>「プレイ」をクリックして、ゲームの中のミラを見てみましょう。</translation>
+      <translation>戦闘での行動はプレイヤーが決めます。「自分で選ぶ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Enterキーで新しいゲームを始め、矢印キーで歩いてください。これがミラです！</translation>
+      <translation>「プレイ」をクリックして、ゲームの主人公を見てみましょう。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>Xキーでゲームのメニューが開きます。ミラの装備を見てください。</translation>
+      <translation>Enterキーで新しく始め、矢印キーで歩いてください。旅人の姿のミラです。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Escキーを、ゲームが閉じるまで押してください。</translation>
+      <translation>Xキーでゲームのメニューが開きます。ミラの装備を見てください。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>「保存」をクリックして、ミラとマントを残します。</translation>
+      <translation>Escキーを、ゲームが閉じるまで押してください。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>データベースにはトーマもいます。いつでも装備を変えられます。</translation>
+      <translation>「保存」をクリックして、ミラとマントを残します。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>完成です！データベースで防具を作り、主人公に装備させました。</translation>
+      <translation>データベースにはトーマもいます。いつでも装備を変えられます。</translation>
     </message>
     <message>
       <source>#34</source>
+      <translation>完成です！データベースで防具を作り、主人公に装備させました。</translation>
+    </message>
+    <message>
+      <source>#35</source>
       <translation>レッスン7では、村に店と宿屋を作ります。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
@@ -4965,7 +4969,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>「MP」をクリックします。スキルで使うポイントが10戻ります。</translation>
+      <translation>「ポイント」に20と入力します。光でHPが20回復します。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -5141,139 +5145,139 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>2人が交互に話すので、「話す人」に名前があるとわかりやすくなります。</translation>
-    </message>
-    <message>
-      <source>#62</source>
       <translation>「OK」をクリックして、せりふを決定します。</translation>
     </message>
     <message>
-      <source>#63</source>
-      <translation>まずこれが表示されます。次はミラの返事です。</translation>
-    </message>
-    <message>
-      <source>#64</source>
+      <source>#62</source>
       <translation>最後のコマンドの下の「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#63</source>
       <translation>ミラの返事（みんなのランプよ！など）を入力してから、「次へ」をクリックします。</translation>
     </message>
     <message>
+      <source>#64</source>
+      <translation>2人が話すので、顔で区別します。「顔…」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>人物の顔です。「ミラ」を選んで確かめてから、「次へ」をクリックします。</translation>
+    </message>
+    <message>
       <source>#66</source>
-      <translation>話は終わりです。「+」をダブルクリックして、戦闘を入れます。</translation>
+      <translation>「OK」をクリックしてください。言葉の横に顔が出るようになります。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>最後の「戦闘」タブをクリックしてください。</translation>
+      <translation>話は終わりです。「+」をダブルクリックして、戦闘を入れます。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>一覧の最後の、作った敵グループを選びます。名前がないので、空の行です。</translation>
+      <translation>最後の「戦闘」タブをクリックしてください。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>オフのままなら逃げられません。ボス戦はこれでよいでしょう。</translation>
+      <translation>一覧の最後の、作った敵グループを選びます。名前がないので、空の行です。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>ここもオフなら、負けるとゲームオーバーです。セーブした所からやり直せます。</translation>
+      <translation>オフのままなら逃げられません。ボス戦はこれでよいでしょう。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>一覧の戦闘をクリックします。その下に書いたことは、勝ったときだけ起きます。</translation>
+      <translation>ここもオフなら、負けるとゲームオーバーです。セーブした所からやり直せます。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>その下の「+」をダブルクリックします。勝利にふさわしい音楽を流しましょう。</translation>
+      <translation>一覧の戦闘をクリックします。その下に書いたことは、勝ったときだけ起きます。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>「オーディオ」をクリックしてください。</translation>
+      <translation>その下の「+」をダブルクリックします。勝利にふさわしい音楽を流しましょう。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>「選択…」をクリックすると、音楽の一覧が出ます。</translation>
+      <translation>「オーディオ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>「勝利」をクリックしてください。</translation>
+      <translation>「選択…」をクリックすると、音楽の一覧が出ます。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>この音量で、鉱山を出るまで流れます。</translation>
+      <translation>「勝利」をクリックしてください。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>勝ったことを、ゲーム全体に知らせます。「+」をダブルクリックしてください。</translation>
+      <translation>この音量で、鉱山を出るまで流れます。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>スイッチのある「フロー」をクリックしてください。</translation>
+      <translation>勝ったことを、ゲーム全体に知らせます。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>「スイッチの操作」をクリックしてください。</translation>
+      <translation>スイッチのある「フロー」をクリックしてください。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>「…」をクリックして、スイッチの一覧を見ます。</translation>
+      <translation>「スイッチの操作」をクリックしてください。</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>「番人を倒した」をクリックします。ONのときに何が起きたかがわかる名前です。</translation>
+      <translation>「…」をクリックして、スイッチの一覧を見ます。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>「ON」をクリックして、スイッチが入るようにします。</translation>
+      <translation>「番人を倒した」をクリックします。ONのときに何が起きたかがわかる名前です。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>順番を間違えたら、コマンドを右クリックして、コピー、貼り付け、削除で直せます。</translation>
+      <translation>「ON」をクリックして、スイッチが入るようにします。</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>最後はスイッチです。これで、どのイベントからも勝利を確かめられます。</translation>
+      <translation>順番を間違えたら、コマンドを右クリックして、コピー、貼り付け、削除で直せます。</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>そのあとボスは消えます。「ページ追加」をクリックしてください。</translation>
+      <translation>最後はスイッチです。これで、どのイベントからも勝利を確かめられます。</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>空の2ページ目ができました。条件を満たすと、1ページ目の代わりに使われます。</translation>
+      <translation>そのあとボスは消えます。「ページ追加」をクリックしてください。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>「スイッチ」の右の「…」をクリックしてください。</translation>
+      <translation>空の2ページ目ができました。条件を満たすと、1ページ目の代わりに使われます。</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>「番人を倒した」をダブルクリックすると、選んで閉じます。</translation>
+      <translation>「スイッチ」の右の「…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>このページは勝利と同時に有効になり、ゲームの最後まで続きます。</translation>
+      <translation>「番人を倒した」をダブルクリックすると、選んで閉じます。</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>画像がないのでだれもいなくなり、通れるようになります。</translation>
+      <translation>このページは勝利と同時に有効になり、ゲームの最後まで続きます。</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>ここにはせりふも戦闘も入れません。ボスとの戦いは1度だけです。</translation>
+      <translation>画像がないのでだれもいなくなり、通れるようになります。</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>ページのタブを右クリックすると、上のボタンと同じ操作を選べます。</translation>
+      <translation>ここにはせりふも戦闘も入れません。ボスとの戦いは1度だけです。</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>「OK」をクリックしてください。マップにボスが立ちます。</translation>
+      <translation>ページのタブを右クリックすると、上のボタンと同じ操作を選べます。</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>ボスを右クリックするとコピーできます。2体目のボスもすぐに作れます。</translation>
+      <translation>「OK」をクリックしてください。マップにボスが立ちます。</translation>
     </message>
     <message>
       <source>#95</source>
@@ -5317,7 +5321,7 @@
     </message>
     <message>
       <source>#105</source>
-      <translation>アクターの一覧で「セナ」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>アクターの一覧で「セナ」を選んでください。</translation>
     </message>
     <message>
       <source>#106</source>

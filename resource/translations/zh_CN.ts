@@ -2326,7 +2326,7 @@
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>这一课让主角有自己的样子，再披上一件斗篷。
+      <translation>这一课看看主角是在哪里决定的，再给她披上一件斗篷。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -2355,110 +2355,114 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
+      <translation>在地图列表中点击“琥珀村”。游戏就从这个村庄开始。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>游戏开始时米拉站在这里。主角不是事件，所以地图上看不到她。</translation>
+      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>点击“事件”，看看地图上有谁。</translation>
+      <translation>游戏开始时米拉站在这里。主角不是事件，所以地图上看不到她。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>这是托马，他会成为米拉的同伴。双击他。</translation>
+      <translation>点击“事件”，看看地图上有谁。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>托马站在路上等米拉时，就是这个样子。</translation>
+      <translation>这是托马，他会成为米拉的同伴。双击他。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>和他说话，会先看到这条消息。</translation>
+      <translation>托马站在路上等米拉时，就是这个样子。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>然后他加入队伍。这一行写的是数据库里的角色。</translation>
+      <translation>和他说话，会先看到这条消息。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>所以主角的样子、职业、等级和装备都在数据库里决定。</translation>
+      <translation>然后他加入队伍。这一行写的是数据库里的角色。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>点击“确定”。</translation>
+      <translation>右键点击指令，可以复制或删除。现在先不改动。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>一张地图只是一个地方。整个游戏都用的东西放在数据库里。</translation>
+      <translation>所以主角的样子、职业、等级和装备都在数据库里决定。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>点击“数据库”，打开它。</translation>
+      <translation>点击“确定”。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>每个选项卡是一类数据。要做一件斗篷，点击“防具”。</translation>
+      <translation>一张地图只是一个地方。整个游戏都用的东西放在数据库里。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>点击“添加”，列表会多出一个空的条目。然后点击“下一步”。</translation>
+      <translation>点击“数据库”，打开它。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>输入名称，例如：旅行斗篷。然后点击“下一步”。</translation>
+      <translation>每个选项卡是一类数据。要做一件斗篷，点击“防具”。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>在“防御力”中输入 4。数值越高，敌人的攻击造成的伤害越少。</translation>
+      <translation>点击“添加”，列表会多出一个空的条目。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>点击“角色”。能加入队伍的人都在这里。</translation>
+      <translation>输入名称，例如：旅行斗篷。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>米拉还是普通旅人的样子。点击“地图形象”下面的图像。</translation>
+      <translation>“防御力”越高，受到的伤害越少。斗篷的话，4 左右正合适。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>点击“米拉”。</translation>
+      <translation>点击“角色”。能加入队伍的人都在这里。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>选择列表中“布帽”下面你做的斗篷，米拉从游戏一开始就会披着它。</translation>
+      <translation>选择“布帽”下面的斗篷，米拉从一开始就会披着。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>点击“试玩”，看看游戏里的米拉。</translation>
+      <translation>战斗中主角的行动由玩家决定。点击“由玩家选择”，确认选中它。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>按 Enter 键开始新游戏，用方向键走一走。这就是米拉！</translation>
+      <translation>点击“试玩”，看看游戏里的主角。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>按 X 键打开游戏菜单，看看米拉的装备。</translation>
+      <translation>按 Enter 键开始新游戏，用方向键走一走。这就是旅人打扮的米拉。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>按 Esc 键，直到游戏关闭。</translation>
+      <translation>按 X 键打开游戏菜单，看看米拉的装备。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>点击“保存”，把米拉和斗篷保存下来。</translation>
+      <translation>按 Esc 键，直到游戏关闭。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>数据库里还有托马，随时都可以给他换装备。</translation>
+      <translation>点击“保存”，把米拉和斗篷保存下来。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>完成了！你在数据库里做了防具，还给主角装备上了。</translation>
+      <translation>数据库里还有托马，随时都可以给他换装备。</translation>
     </message>
     <message>
       <source>#34</source>
+      <translation>完成了！你在数据库里做了防具，还给主角装备上了。</translation>
+    </message>
+    <message>
+      <source>#35</source>
       <translation>第 7 课会让村里的商店和旅店开张。点击“下一步”结束本课。</translation>
     </message>
   </context>
@@ -4965,7 +4969,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>点击“MP”。灯光会恢复 10 点 MP，使用技能要消耗它。</translation>
+      <translation>在“点数”中输入 20。灯光会恢复 20 点 HP。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -5141,139 +5145,139 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>有两个人轮流说话，在“说话人”里写名字更清楚。</translation>
-    </message>
-    <message>
-      <source>#62</source>
       <translation>点击“确定”，保留他的话。</translation>
     </message>
     <message>
-      <source>#63</source>
-      <translation>首先显示这一句。接着由米拉回答。</translation>
-    </message>
-    <message>
-      <source>#64</source>
+      <source>#62</source>
       <translation>双击最后一条指令下面的“+”。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#63</source>
       <translation>输入米拉的回答，例如：灯是大家的！然后点击“下一步”。</translation>
     </message>
     <message>
+      <source>#64</source>
+      <translation>两个人轮流说话，有头像更容易分清。点击“头像…”。</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>这里有各个说话人的头像。选择“米拉”，看看她的样子，然后点击“下一步”。</translation>
+    </message>
+    <message>
       <source>#66</source>
-      <translation>话说完了，双击“+”加入战斗。</translation>
+      <translation>点击“确定”。她的头像会显示在台词旁边。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>点击最后的“战斗”选项卡。</translation>
+      <translation>话说完了，双击“+”加入战斗。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>选择最后面你做的敌群。它还没有名称，所以是空行。</translation>
+      <translation>点击最后的“战斗”选项卡。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>不勾选就不能逃跑，首领战就该这样。</translation>
+      <translation>选择最后面你做的敌群。它还没有名称，所以是空行。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>这里也不勾选：战败则游戏结束，可以从存档继续。</translation>
+      <translation>不勾选就不能逃跑，首领战就该这样。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>点击列表里的战斗。写在它下面的，打赢之后才会发生。</translation>
+      <translation>这里也不勾选：战败则游戏结束，可以从存档继续。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>双击它下面的“+”。胜利时应该有音乐。</translation>
+      <translation>点击列表里的战斗。写在它下面的，打赢之后才会发生。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>点击“音频”。</translation>
+      <translation>双击它下面的“+”。胜利时应该有音乐。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>点击“选择…”，查看所有音乐。</translation>
+      <translation>点击“音频”。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>点击“胜利”。</translation>
+      <translation>点击“选择…”，查看所有音乐。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>音乐以这个音量播放，直到离开矿洞。</translation>
+      <translation>点击“胜利”。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>整个游戏都要知道这次胜利。双击“+”。</translation>
+      <translation>音乐以这个音量播放，直到离开矿洞。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>点击“流程”，开关的指令在这里。</translation>
+      <translation>整个游戏都要知道这次胜利。双击“+”。</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>点击“开关操作”。</translation>
+      <translation>点击“流程”，开关的指令在这里。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>点击“…”，查看所有开关。</translation>
+      <translation>点击“开关操作”。</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>点击“打倒了守卫”。开关的名称说明打开时的情况。</translation>
+      <translation>点击“…”，查看所有开关。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>点击“ON”，确保开关会打开。</translation>
+      <translation>点击“打倒了守卫”。开关的名称说明打开时的情况。</translation>
     </message>
     <message>
       <source>#83</source>
-      <translation>顺序错了？右键点击指令，可以复制、粘贴和删除。</translation>
+      <translation>点击“ON”，确保开关会打开。</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>最后是开关。从此每个事件都能知道首领是否被打败。</translation>
+      <translation>顺序错了？右键点击指令，可以复制、粘贴和删除。</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>之后他就该消失了。点击“新建页”。</translation>
+      <translation>最后是开关。从此每个事件都能知道首领是否被打败。</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>现在显示的是空白的第 2 页。条件满足时，它会代替第 1 页。</translation>
+      <translation>之后他就该消失了。点击“新建页”。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>点击“开关”右边的“…”。</translation>
+      <translation>现在显示的是空白的第 2 页。条件满足时，它会代替第 1 页。</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>双击“打倒了守卫”，选中它并关闭窗口。</translation>
+      <translation>点击“开关”右边的“…”。</translation>
     </message>
     <message>
       <source>#89</source>
-      <translation>这一页从胜利时开始，一直有效到游戏结束。</translation>
+      <translation>双击“打倒了守卫”，选中它并关闭窗口。</translation>
     </message>
     <message>
       <source>#90</source>
-      <translation>没有图像，就谁也不在，路也通了。</translation>
+      <translation>这一页从胜利时开始，一直有效到游戏结束。</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>这里没有台词也没有战斗：首领只打一次。</translation>
+      <translation>没有图像，就谁也不在，路也通了。</translation>
     </message>
     <message>
       <source>#92</source>
-      <translation>右键点击页面的选项卡，也能选择和上面按钮相同的操作。</translation>
+      <translation>这里没有台词也没有战斗：首领只打一次。</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>点击“确定”，首领就站在那里了。</translation>
+      <translation>右键点击页面的选项卡，也能选择和上面按钮相同的操作。</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>右键点击他可以复制，再做一个首领就很快了。</translation>
+      <translation>点击“确定”，首领就站在那里了。</translation>
     </message>
     <message>
       <source>#95</source>
@@ -5317,7 +5321,7 @@
     </message>
     <message>
       <source>#105</source>
-      <translation>在角色列表中选择“塞娜”，然后点击“下一步”。</translation>
+      <translation>在角色列表中选择“塞娜”。</translation>
     </message>
     <message>
       <source>#106</source>

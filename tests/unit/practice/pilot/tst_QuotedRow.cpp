@@ -29,6 +29,10 @@ void tst_QuotedRow::findsWhatTheHintQuotes_data()
         {QStringLiteral("なし"), QStringLiteral("2：薬草を見つけた")}, 1);
     row("none of the rows", "Choose “Gate open”.", switches, -1);
     row("nothing quoted", "Choose the second one.", switches, -1);
+    row("none quoted, but one with the name that was typed", "Choose your cloak. Then click “Next”.",
+        {QStringLiteral("None"), QStringLiteral("1: Cap"), QStringLiteral("2: Village")}, 2);
+    row("quoted before what was typed", "Choose “Cap”.",
+        {QStringLiteral("2: Village"), QStringLiteral("1: Cap")}, 1);
     row("no rows", "Choose “Herb found”.", {}, -1);
 }
 
@@ -36,7 +40,7 @@ void tst_QuotedRow::findsWhatTheHintQuotes()
 {
     QFETCH(QString, hint);
     QFETCH(QStringList, rows);
-    QTEST(quotedRow(hint, rows), "row");
+    QTEST(quotedRow(hint, rows, QStringLiteral("Village")), "row");
 }
 
 QTEST_APPLESS_MAIN(tst_QuotedRow)
