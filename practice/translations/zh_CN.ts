@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>There is nothing to set in test play.</source>
-        <translation>测试游戏中没有可设置的内容。</translation>
+        <translation>试玩中没有可设置的内容。</translation>
     </message>
     <message>
         <source>Credits</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>There are no credits in test play.</source>
-        <translation>测试游戏中没有制作人员名单。</translation>
+        <translation>试玩中没有制作人员名单。</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>The shop offers something that is not in the database: number %1.</source>
-        <translation>商店出售的商品不在数据库中：编号 %1</translation>
+        <translation>商店出售的商品不在数据库中：编号 %1。</translation>
     </message>
 </context>
 <context>
