@@ -6211,7 +6211,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Click “Up” twice: each click is one cell. Then click “Next”.</translation>
+      <translation>Click “Up” five times: it is five cells to the lamp. Then click “Next”.</translation>
     </message>
     <message>
       <source>#71</source>
@@ -6247,7 +6247,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>The way begins at the ring and ends at the disc.</translation>
+      <translation>From ring to disc: here it begins at the event, in the game where Mila stands.</translation>
     </message>
     <message>
       <source>#80</source>

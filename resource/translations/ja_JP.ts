@@ -6209,7 +6209,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>「上に移動」を2回クリックします。1回で1マスです。そのあと「次へ」です。</translation>
+      <translation>「上に移動」を5回クリックします。ランプの前まで5マスです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -6245,7 +6245,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>道のりは、輪から始まり、丸で終わります。</translation>
+      <translation>輪から丸までです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
     </message>
     <message>
       <source>#80</source>

@@ -3062,7 +3062,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以在已有的项目里继续，比如第 8 课的。</translation>
+      <translation>要新建一个有矿洞和大门的项目吗？选“否”可以打开已有这两样的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3430,7 +3430,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>“遇敌”列表还是空的，不会出现敌人。第 14 课再来设置。</translation>
+      <translation>“遇敌”列表还是空的，不会出现敌人。遇敌在第 14 课学习。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -4009,7 +4009,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>这就是贤者塞娜。以后她会用魔法帮助队伍。</translation>
+      <translation>这就是塞娜。以后她会用技能帮助队伍。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4677,7 +4677,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>太难就在数据库里调整。战斗得来的金币可以买草药和剑。</translation>
+      <translation>太难就在数据库里调整。战斗得来的金币可以买草药和猎刀。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -4857,7 +4857,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>点击“技能”选项卡。然后点击“下一步”。</translation>
+      <translation>点击“技能”选项卡，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -6209,7 +6209,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>点击“向上移动”两次，每次走一格。然后点击“下一步”。</translation>
+      <translation>点击“向上移动”五次，走五格就到灯前。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -6245,7 +6245,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>路线从圆环开始，到圆点结束。</translation>
+      <translation>从圆环走到圆点。预览从事件的位置画起，游戏里从米拉站的地方出发。</translation>
     </message>
     <message>
       <source>#80</source>
@@ -6349,7 +6349,7 @@
     </message>
     <message>
       <source>#105</source>
-      <translation>点击“物件”选项卡。然后点击“下一步”。</translation>
+      <translation>点击“物件”选项卡，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#106</source>
