@@ -6195,7 +6195,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>After these words Mila walks up to the lamp and lights it.</translation>
+      <translation>After these words Mila walks toward the lamp, and it is lit.</translation>
     </message>
     <message>
       <source>#67</source>
