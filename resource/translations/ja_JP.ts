@@ -2859,7 +2859,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「X座標」と「Y座標」が、選んだマスです。数字で入力することもできます。</translation>
+      <translation>「X座標」と「Y座標」が、選んだマスの位置です。数字で入力することもできます。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -3062,7 +3062,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン8などの続きとして進めます。</translation>
+      <translation>鉱山と門の入ったプロジェクトを作りますか？「いいえ」なら、鉱山と門のあるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3430,7 +3430,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>「エンカウント」はまだ空で、敵キャラは現れません。レッスン14で設定します。</translation>
+      <translation>「エンカウント」はまだ空で、敵キャラは現れません。現れるのはレッスン14からです。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -3473,7 +3473,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン10などの続きとして進めます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、コモンイベントが2つあるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4009,7 +4009,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>これが賢者のセナです。いずれ、魔法でパーティーを助けます。</translation>
+      <translation>これがセナです。いずれ、魔法でパーティーを助けます。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4093,7 +4093,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>完成です！何がどこにあるかわかりましたね。レッスン13では、持ち物を増やします。</translation>
+      <translation>完成です！何がどこにあるかわかりましたね。レッスン13では、アイテムや武器を作ります。</translation>
     </message>
   </context>
   <context>
@@ -4677,7 +4677,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>強すぎたらデータベースで調整します。得たお金で、薬草や剣が買えます。</translation>
+      <translation>強すぎたらデータベースで調整します。得たお金で、薬草やナイフが買えます。</translation>
     </message>
     <message>
       <source>#62</source>
