@@ -2326,7 +2326,7 @@
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>这一课看看主角是在哪里决定的，再给她披上一件斗篷。
+      <translation>这一课在数据库里做一件斗篷，给主角披上。
 点击“下一步”开始。</translation>
     </message>
     <message>
@@ -2387,7 +2387,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>右键点击指令，可以复制或删除。现在先不改动。</translation>
+      <translation>右键点击指令，可以复制或删除它。托马的指令先不要动。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>“防御力”越高，受到的伤害越少。斗篷的话，4 左右正合适。</translation>
+      <translation>“防御力”越高，受到的伤害越少。斗篷设为 4 左右就很合适。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2427,7 +2427,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>选择“布帽”下面的斗篷，米拉从一开始就会披着。然后点击“下一步”。</translation>
+      <translation>选择列表中旧帽子下面的斗篷，米拉一开始就会披着它。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#27</source>
