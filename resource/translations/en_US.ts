@@ -1871,7 +1871,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Type what Pip says now, such as A herb! Keep it. Then click “Next”.</translation>
+      <translation>Delete the old words and type new ones, such as A herb! Keep it. Then click “Next”.</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2175,7 +2175,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>Type what he says from then on, such as Good luck! Then click “Next”.</translation>
+      <translation>Delete the question and type other words, such as Good luck! Then click “Next”.</translation>
     </message>
     <message>
       <source>#60</source>
@@ -2243,7 +2243,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>“Join” is right for this. “Leave” would take him out of the party again.</translation>
+      <translation>“Leave” would take him out of the party. Here, “Join” is right, and chosen already.</translation>
     </message>
     <message>
       <source>#77</source>
@@ -2583,7 +2583,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>Apron and bag: players see at once that he has something to sell.</translation>
+      <translation>A red cap and a mustache: players will know Bruno again at once.</translation>
     </message>
     <message>
       <source>#30</source>

@@ -1871,7 +1871,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>見つけたあとの言葉（薬草だ！など）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>元の言葉を消し、新しい言葉（薬草だ！など）を入力して「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2175,7 +2175,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>約束のあとの言葉（たのんだぞ、など）を入力し、「次へ」をクリックします。</translation>
+      <translation>質問を消し、約束のあとの言葉（たのんだぞ、など）を入力して「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>ここは「加える」のままにします。「外す」を選ぶと、パーティーから外れます。</translation>
+      <translation>「外す」を選ぶと、パーティーから外れます。ここは「加える」のままにします。</translation>
     </message>
     <message>
       <source>#77</source>
@@ -2583,7 +2583,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>前かけと袋を見れば、何かを売る人だとひと目でわかります。</translation>
+      <translation>赤い帽子と口ひげが目印です。プレイヤーはひと目でブルーノだとわかります。</translation>
     </message>
     <message>
       <source>#30</source>

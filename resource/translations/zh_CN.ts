@@ -1871,7 +1871,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>输入皮普这时说的话，例如：是草药！然后点击“下一步”。</translation>
+      <translation>删掉原来的话，输入新的，例如：是草药！然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2175,7 +2175,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>输入之后说的话，例如：全靠你了。然后点击“下一步”。</translation>
+      <translation>删掉问题，输入之后说的话，例如：全靠你了。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>这里用“加入”。“离开”则会让他离队。</translation>
+      <translation>“离开”会让他离队。这里用已经选中的“加入”。</translation>
     </message>
     <message>
       <source>#77</source>
@@ -2583,7 +2583,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>玩家看到围裙和袋子，就知道他是卖东西的。</translation>
+      <translation>红帽子和小胡子很好认，玩家一眼就能认出布鲁诺。</translation>
     </message>
     <message>
       <source>#30</source>

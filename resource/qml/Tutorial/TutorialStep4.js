@@ -498,7 +498,7 @@
 "folder":false,
 "translationId":29,
 "x":554,
-"y":68,
+"y":44,
 "windowKey":"EventEditorMain",
 "condition":"click,",
 "hint":qsTr("#29"),

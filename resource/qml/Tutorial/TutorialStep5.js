@@ -1398,7 +1398,7 @@
 "name":"Join or leave",
 "folder":false,
 "translationId":76,
-"x":188,
+"x":308,
 "y":-56,
 "windowKey":"EventCommand",
 "condition":"click,",

@@ -506,7 +506,7 @@
 "jump":-1,
 "jumpNo":-1,
 "command":"",
-"showArrow":true,
+"showArrow":false,
 "prohibited":false    
     },
     {
@@ -523,7 +523,7 @@
 "jump":-1,
 "jumpNo":-1,
 "command":"",
-"showArrow":true,
+"showArrow":false,
 "prohibited":false    
     },
     {
