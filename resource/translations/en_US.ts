@@ -2035,7 +2035,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>The answers will stand beside this message. Click “Close”.</translation>
+      <translation>The answers will stand above this message. Click “Close”.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -4375,7 +4375,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>The wooden sword will do for her: her strength will be her skills.</translation>
+      <translation>The wooden sword will do for her: her skills will be her strength.</translation>
     </message>
     <message>
       <source>#70</source>
@@ -6195,7 +6195,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>After these words Mila walks toward the lamp, and it is lit.</translation>
+      <translation>After these words Mila walks up to the lamp and lights it.</translation>
     </message>
     <message>
       <source>#67</source>
