@@ -10,11 +10,11 @@
     </message>
     <message>
         <source>Press Esc: the menu closes.</source>
-        <translation>Esc キーを押すと、メニューが閉じます。</translation>
+        <translation>Escキーを押すと、メニューが閉じます。</translation>
     </message>
     <message>
         <source>Press Esc: this window closes.</source>
-        <translation>Esc キーを押すと、このウィンドウが閉じます。</translation>
+        <translation>Escキーを押すと、このウィンドウが閉じます。</translation>
     </message>
     <message>
         <source>Click “%1”.</source>
@@ -50,12 +50,12 @@
     <message>
         <source>There is no troop %1, so there is nobody to fight. Choose a troop that the database has.</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>敵グループ %1 がないため、戦う相手がいません。データベースにある敵グループを選んでください。</translation>
+        <translation>敵グループ%1がないため、戦う相手がいません。データベースにある敵グループを選んでください。</translation>
     </message>
     <message>
         <source>The troop “%1” has a member that is enemy %2, which the database does not have.</source>
         <extracomment>%1 is the name of a troop, %2 a number.</extracomment>
-        <translation>敵グループ「%1」のメンバーに、データベースにない敵キャラ %2 がいます。</translation>
+        <translation>敵グループ「%1」のメンバーに、データベースにない敵キャラ%2がいます。</translation>
     </message>
     <message>
         <source>The actions of “%1” name skills that the database does not have, so it just attacks.</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>Press Enter to return to the title.</source>
-        <translation>Enter キーでタイトルに戻ります。</translation>
+        <translation>Enterキーでタイトルに戻ります。</translation>
     </message>
 </context>
 <context>
@@ -359,7 +359,7 @@
     <message>
         <source>step %1 of %2</source>
         <extracomment>The lesson goes on here: %1 is the number of the step, %2 how many there are.</extracomment>
-        <translation>手順 %1 / %2</translation>
+        <translation>手順%1 / %2</translation>
     </message>
     <message>
         <source>not there yet</source>
@@ -1027,11 +1027,11 @@
     </message>
     <message>
         <source>The game starts on map %1, and there is none.</source>
-        <translation>ゲームはマップ %1 から始まりますが、そのマップがありません。</translation>
+        <translation>ゲームはマップ%1から始まりますが、そのマップがありません。</translation>
     </message>
     <message>
         <source>The game starts at %1, %2, outside of its map; it starts at its edge.</source>
-        <translation>開始位置 %1, %2 はマップの外です。マップの端から始まります。</translation>
+        <translation>開始位置（%1, %2）はマップの外です。マップの端から始まります。</translation>
     </message>
     <message>
         <source>The party has nobody in it.</source>
@@ -1039,23 +1039,23 @@
     </message>
     <message>
         <source>Actor %1 of the party is not there.</source>
-        <translation>パーティーのアクター %1 がありません。</translation>
+        <translation>パーティーのアクター%1がありません。</translation>
     </message>
     <message>
         <source>The map has %1 x %2 cells; a side has to have 1 to %3. Nobody can go there.</source>
-        <translation>マップの大きさが %1 × %2 マスです。一辺は 1～%3 マスにしてください。このマップには行けません。</translation>
+        <translation>マップの大きさが%1×%2マスです。一辺は1～%3マスにしてください。このマップには行けません。</translation>
     </message>
     <message>
         <source>event %1</source>
-        <translation>イベント %1</translation>
+        <translation>イベント%1</translation>
     </message>
     <message>
         <source>page %1</source>
-        <translation>ページ %1</translation>
+        <translation>ページ%1</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation>%1 行目</translation>
+        <translation>%1行目</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1068,7 +1068,7 @@
     </message>
     <message>
         <source>The game was saved on map %1 at %2, %3, and the project has no such place any more.</source>
-        <translation>セーブした場所（マップ %1 の %2, %3）が、プロジェクトにもうありません。</translation>
+        <translation>セーブした場所（マップ%1、座標%2, %3）が、プロジェクトにもうありません。</translation>
     </message>
     <message>
         <source>The project was changed since this game was saved: some things may not fit.</source>
@@ -1084,7 +1084,7 @@
     </message>
     <message>
         <source>There is no troop %1; nobody fights.</source>
-        <translation>敵グループ %1 がありません。戦闘は行われません。</translation>
+        <translation>敵グループ%1がありません。戦闘は行われません。</translation>
     </message>
     <message>
         <source>There is nothing to choose from.</source>
@@ -1097,15 +1097,15 @@
     </message>
     <message>
         <source>%1 commands were done without a wait: is this a loop without an end? It goes on, slowly.</source>
-        <translation>ウェイトなしで %1 個のコマンドが実行されました。終わらないループではありませんか。少しずつ続けます。</translation>
+        <translation>ウェイトなしで%1個のコマンドが実行されました。終わらないループではありませんか。少しずつ続けます。</translation>
     </message>
     <message>
         <source>There is no command %1; it is passed by.</source>
-        <translation>コマンド %1 はありません。飛ばします。</translation>
+        <translation>コマンド%1はありません。飛ばします。</translation>
     </message>
     <message>
         <source>The route has not got on for %1 seconds: something is in the way.</source>
-        <translation>移動ルートが %1 秒間進んでいません。何かがじゃまをしています。</translation>
+        <translation>移動ルートが%1秒間進んでいません。何かがじゃまをしています。</translation>
     </message>
     <message>
         <source>This event is not on the map.</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>There is no event %1 on the map.</source>
-        <translation>マップにイベント %1 がありません。</translation>
+        <translation>マップにイベント%1がありません。</translation>
     </message>
     <message>
         <source>A loop ends here that has not begun.</source>
@@ -1129,11 +1129,11 @@
     </message>
     <message>
         <source>%1 common events call one another: does one call itself? This call is passed by.</source>
-        <translation>コモンイベントの呼び出しが %1 回重なりました。自分自身を呼び出していませんか。この呼び出しは飛ばします。</translation>
+        <translation>コモンイベントの呼び出しが%1回重なりました。自分自身を呼び出していませんか。この呼び出しは飛ばします。</translation>
     </message>
     <message>
         <source>There is no state %1.</source>
-        <translation>ステート %1 がありません。</translation>
+        <translation>ステート%1がありません。</translation>
     </message>
     <message>
         <source>%1 is now at level %2!</source>
@@ -1141,15 +1141,15 @@
     </message>
     <message>
         <source>There is no skill %1.</source>
-        <translation>スキル %1 がありません。</translation>
+        <translation>スキル%1がありません。</translation>
     </message>
     <message>
         <source>There is no weapon %1.</source>
-        <translation>武器 %1 がありません。</translation>
+        <translation>武器%1がありません。</translation>
     </message>
     <message>
         <source>There is no armor %1.</source>
-        <translation>防具 %1 がありません。</translation>
+        <translation>防具%1がありません。</translation>
     </message>
     <message>
         <source>The party has nothing of that kind to wear; nothing is changed.</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>There is no enemy %1 in this battle.</source>
-        <translation>この戦闘に敵 %1 はいません。</translation>
+        <translation>この戦闘に敵キャラ%1はいません。</translation>
     </message>
     <message>
         <source>Nobody there can do this now.</source>
@@ -1177,19 +1177,19 @@
     </message>
     <message>
         <source>There is no actor %1.</source>
-        <translation>アクター %1 がありません。</translation>
+        <translation>アクター%1がありません。</translation>
     </message>
     <message>
         <source>There is no condition %1; it does not hold.</source>
-        <translation>条件 %1 はありません。満たされないものとします。</translation>
+        <translation>条件%1はありません。満たされないものとします。</translation>
     </message>
     <message>
         <source>There is no common event %1.</source>
-        <translation>コモンイベント %1 がありません。</translation>
+        <translation>コモンイベント%1がありません。</translation>
     </message>
     <message>
         <source>Variable %1 is divided by 0; it stays what it is.</source>
-        <translation>変数 %1 を 0 で割ろうとしました。値は変わりません。</translation>
+        <translation>変数%1を0で割ろうとしました。値は変わりません。</translation>
     </message>
     <message>
         <source>Only an event on a map has self switches.</source>
@@ -1197,19 +1197,19 @@
     </message>
     <message>
         <source>There is no switch or variable %1; the numbers go from 1 to %2.</source>
-        <translation>スイッチ・変数 %1 はありません。番号は 1～%2 です。</translation>
+        <translation>スイッチ・変数%1はありません。番号は1～%2です。</translation>
     </message>
     <message>
         <source>There is no item %1.</source>
-        <translation>アイテム %1 がありません。</translation>
+        <translation>アイテム%1がありません。</translation>
     </message>
     <message>
         <source>There is no picture %1; the numbers go from 1 to %2.</source>
-        <translation>ピクチャ %1 はありません。番号は 1～%2 です。</translation>
+        <translation>ピクチャ%1はありません。番号は1～%2です。</translation>
     </message>
     <message>
         <source>Picture %1 is not shown.</source>
-        <translation>ピクチャ %1 は表示されていません。</translation>
+        <translation>ピクチャ%1は表示されていません。</translation>
     </message>
     <message>
         <source>This cannot be done during a battle.</source>
@@ -1217,11 +1217,11 @@
     </message>
     <message>
         <source>There is no map %1.</source>
-        <translation>マップ %1 がありません。</translation>
+        <translation>マップ%1がありません。</translation>
     </message>
     <message>
         <source>Map %1 has no cell %2, %3.</source>
-        <translation>マップ %1 に %2, %3 のマスはありません。</translation>
+        <translation>マップ%1に、座標（%2, %3）のマスはありません。</translation>
     </message>
     <message>
         <source>A route that repeats has no end to wait for; the event goes on.</source>
@@ -1229,15 +1229,15 @@
     </message>
     <message>
         <source>There is no animation %1.</source>
-        <translation>アニメーション %1 がありません。</translation>
+        <translation>アニメーション%1がありません。</translation>
     </message>
     <message>
         <source>There is no balloon %1.</source>
-        <translation>フキダシ %1 がありません。</translation>
+        <translation>フキダシ%1がありません。</translation>
     </message>
     <message>
         <source>The shop offers something that is not in the database: number %1.</source>
-        <translation>ショップの商品がデータベースにありません：番号 %1</translation>
+        <translation>ショップの商品がデータベースにありません：番号%1</translation>
     </message>
 </context>
 <context>
@@ -1288,31 +1288,31 @@
     <name>player::LogPane</name>
     <message>
         <source>Troop %1</source>
-        <translation>敵グループ %1</translation>
+        <translation>敵グループ%1</translation>
     </message>
     <message>
         <source>Common event %1</source>
-        <translation>コモンイベント %1</translation>
+        <translation>コモンイベント%1</translation>
     </message>
     <message>
         <source>Event %1</source>
-        <translation>イベント %1</translation>
+        <translation>イベント%1</translation>
     </message>
     <message>
         <source>Map %1</source>
-        <translation>マップ %1</translation>
+        <translation>マップ%1</translation>
     </message>
     <message>
         <source>page %1</source>
-        <translation>ページ %1</translation>
+        <translation>ページ%1</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation>%1 行目</translation>
+        <translation>%1行目</translation>
     </message>
     <message>
         <source>What the game cannot do. A double click, or Enter, leads to the place in the editor.</source>
-        <translation>ゲームでできなかったことです。ダブルクリックするか Enter キーを押すと、エディターのその場所が開きます。</translation>
+        <translation>ゲームでできなかったことです。ダブルクリックするかEnterキーを押すと、エディターのその場所が開きます。</translation>
     </message>
 </context>
 <context>
