@@ -6217,7 +6217,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>点击“…”选择开关。我们需要一个新的。</translation>
+      <translation>点击“…”选择开关。这里需要一个新的。</translation>
     </message>
     <message>
       <source>#73</source>
