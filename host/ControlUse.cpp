@@ -34,6 +34,10 @@ ControlUse ControlUse::of(const Step &step, const ControlSpot &spot)
     } else if (condition.type() == Type::kTextLength) {
         use.kind = Kind::kType;
         use.text = QString(qMax(1, condition.value().toInt()), QLatin1Char('a'));
+    } else if (spot.control.isEmpty() && condition.type() == Type::kAction &&
+               condition.value() == QLatin1String("close")) {
+        use.kind = Kind::kEnd;
+        use.text = condition.target();
     } else if (step.icon == QLatin1String("keyboard")) {
         use.kind = Kind::kType;
         use.text = LessonWords::numberToType(step.hint);

@@ -19,15 +19,19 @@ struct ControlUse
         kType,
         /// Choose the entry with the number in the text.
         kChoose,
+        /// End what an action has begun beside the editor's windows: the game that is tried out, say. The
+        /// action stands in the text.
+        kEnd,
     };
 
+    /// Without a control for what needs none: to type is then into what has the keyboard.
     ControlSpot spot;
     Kind kind = Kind::kClick;
     /// Of kType; empty leaves what stands there.
     QString text;
     bool pressesEnter = false;
 
-    /// What a person does for the step at @p spot.
+    /// What a person does for the step at @p spot, which has no control for a step that points at none.
     static ControlUse of(const Step &step, const ControlSpot &spot);
     static ControlUse of(const Way &way);
 };

@@ -164,6 +164,8 @@ void LessonSession::doStep()
         m_runner.next();
     } else if (const std::optional<ControlSpot> pointed = m_guide.pointed()) {
         m_editor->perform(ControlUse::of(step, *pointed));
+    } else if (!step.hasPosition()) {
+        m_editor->perform(ControlUse::of(step, {step.windowKey, {}, -1}));
     }
 }
 

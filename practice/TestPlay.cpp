@@ -55,6 +55,7 @@ TestPlay::TestPlay(EditorWindows *windows, const LessonSession *session, QWidget
     , m_strip(strip)
 {
     windows->setPlayer([this](const PlayRequest &request) { play(request); });
+    connect(windows, &EditorWindows::playEndAsked, this, &TestPlay::stop);
     connect(windows, &EditorWindows::projectLeft, this, &TestPlay::stop);
     connect(windows, &EditorWindows::mainWindowClosed, this, &TestPlay::stop);
 }

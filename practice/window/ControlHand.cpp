@@ -1,5 +1,7 @@
 #include "window/ControlHand.h"
 
+#include "window/EditorWindow.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -110,6 +112,12 @@ void type(QWidget *widget, const ControlUse &use)
     }
 }
 
+bool isControl(const QWidget *widget)
+{
+    return widget != nullptr && widget->isEnabled() &&
+           qobject_cast<const EditorWindow *>(widget->parentWidget()) != nullptr;
+}
+
 bool choose(QWidget *widget, int number)
 {
     auto *const box = qobject_cast<QComboBox *>(widget);
@@ -156,6 +164,17 @@ bool ControlHand::perform(const ControlUse &use) const
         break;
     case Kind::kChoose:
         return choose(m_finder->widgetOf(use.spot), use.text.toInt());
+    case Kind::kEnd:
+        return false; // no control does that
     }
+    return true;
+}
+
+bool ControlHand::performAt(QWidget *focus, const ControlUse &use)
+{
+    if (use.kind != Kind::kType || !isControl(focus)) {
+        return false;
+    }
+    type(focus, use);
     return true;
 }

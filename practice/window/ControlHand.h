@@ -13,6 +13,9 @@ public:
 
     /// False where the control cannot be used at present.
     [[nodiscard]] bool perform(const ControlUse &use) const;
+    /// The same at @p focus, which has the keyboard, where no control is named. False where that is none of a
+    /// window's controls, and for what is not done by keys.
+    [[nodiscard]] static bool performAt(QWidget *focus, const ControlUse &use);
 
 private:
     const ControlFinder *m_finder;

@@ -68,6 +68,9 @@ public:
     [[nodiscard]] virtual QString projectFolder() const = 0;
 
 Q_SIGNALS:
+    /// What is played is to end.
+    void playEndAsked();
+
     /// What was open is gone: another project is open now, none, or the same one with other files.
     void projectLeft();
 

@@ -143,6 +143,17 @@ bool GuidedWindows::restore(const EditorState &state)
 
 bool GuidedWindows::perform(const ControlUse &use)
 {
+    if (use.kind == ControlUse::Kind::kEnd) {
+        const bool isKnown = use.text == QLatin1String("play");
+        if (isKnown) {
+            Q_EMIT playEndAsked();
+        }
+        return isKnown;
+    }
+    if (use.spot.control.isEmpty()) {
+        const QWidget *const top = topWindow();
+        return top != nullptr && ControlHand::performAt(top->focusWidget(), use);
+    }
     return m_guides->hand.perform(use);
 }
 

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
     void skippingDoesTheStep();
+    void whatPointsNowhereIsDoneToo_data();
+    void whatPointsNowhereIsDoneToo();
     void skippingGoesOnWhereNothingCanBeDone();
     void skippingAStepThatWaitsForNextPressesNext();
     void passesOverStepsThatPassByThemselves();
@@ -198,6 +200,42 @@ void tst_LessonMemory::skippingDoesTheStep()
     played.play(
         {Played::item(1, "MainWindow", "list,1"), QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
     played.session.skipStep();
+    QCOMPARE(played.id(), 2);
+}
+
+void tst_LessonMemory::whatPointsNowhereIsDoneToo_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("the game is over") << str("action,play,close") << str("Press the Esc key.")
+                                      << static_cast<int>(ControlUse::Kind::kEnd) << str("play");
+    QTest::newRow("a number") << str("list,1") << str("Type 6 and press Enter.")
+                              << static_cast<int>(ControlUse::Kind::kType) << str("6");
+}
+
+void tst_LessonMemory::whatPointsNowhereIsDoneToo()
+{
+    QFETCH(QString, condition);
+    QFETCH(QString, hint);
+    Played played;
+    played.editor.m_onPerform = [&played, &condition] {
+        const QStringList words = condition.split(QLatin1Char(','));
+        played.editor.report(words.at(0), words.at(1), words.value(2));
+    };
+    QString item = Played::item(1, "MainWindow", condition.toLatin1().constData(), "keyboard",
+                                hint.toLatin1().constData());
+    item.replace(str(R"("x":5,"y":6)"), str(R"("x":-9999,"y":-9999)"));
+    played.play({item, QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
+    played.session.showMe();
+    QVERIFY(played.editor.m_performed.isEmpty());
+    played.session.showMe();
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    const ControlUse use = played.editor.m_performed.constFirst();
+    QVERIFY(use.spot.control.isEmpty());
+    QTEST(static_cast<int>(use.kind), "kind");
+    QTEST(use.text, "text");
     QCOMPARE(played.id(), 2);
 }
 

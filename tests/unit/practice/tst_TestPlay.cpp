@@ -29,6 +29,7 @@ private Q_SLOTS:
     void aGameRunsInAWindowOfItsOwn();
     void theEscapeKeyLeadsBackToTheEditorAsItWas();
     void closingTheWindowLeadsBack();
+    void theEditorEndsTheGameForAPerson();
     void theGameIsTheProjectAsItStands();
     void aSecondGameTakesThePlaceOfTheFirst();
     void aBattleIsTriedFromItsDialog();
@@ -119,6 +120,19 @@ void tst_TestPlay::closingTheWindowLeadsBack()
     QVERIFY(!m_play->isOn());
     QCOMPARE(m_ended, 1);
     QCOMPARE(m_editor->told.constLast(), str("action,play,close in "));
+}
+
+void tst_TestPlay::theEditorEndsTheGameForAPerson()
+{
+    const ControlUse end{{str("MainWindow"), {}, -1}, ControlUse::Kind::kEnd, str("play"), false};
+    play();
+    m_editor->takeTold();
+    QVERIFY((*m_editor)->perform(end));
+    QVERIFY(!m_play->isOn());
+    QCOMPARE(m_editor->takeTold(), QStringList{str("action,play,close in ")});
+    // There is none any more.
+    QVERIFY((*m_editor)->perform(end));
+    QCOMPARE(m_editor->takeTold(), QStringList());
 }
 
 void tst_TestPlay::theGameIsTheProjectAsItStands()

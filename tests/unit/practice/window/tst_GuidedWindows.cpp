@@ -52,6 +52,8 @@ private Q_SLOTS:
     void knowsWhatAControlBringsAbout();
     void knowsWhatAControlMeansAtPresent();
     void usesControlsAsAPersonDoes();
+    void typesIntoWhatHasTheKeyboard();
+    void asksForTheEndOfWhatIsPlayed();
     void bringsBackWindowsAndWhatWasTyped();
     void bringsBackAContextMenu();
     void bringsBackTheCopyingOfOneProject();
@@ -305,6 +307,33 @@ void tst_GuidedWindows::usesControlsAsAPersonDoes()
     QVERIFY(editor.takeTold().contains(str("spinBox,=,31 in MapProperties")));
     QVERIFY(use(editor, spot("MapProperties", "cancel")));
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+}
+
+void tst_GuidedWindows::typesIntoWhatHasTheKeyboard()
+{
+    using Kind = ControlUse::Kind;
+    Editor editor;
+    editor.openProject();
+    const ControlSpot nothing{str("MainWindow"), {}, -1};
+    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 3), Kind::kDoubleClick));
+    editor.find<QWidget>("MapProperties", "width")->setFocus();
+    QVERIFY(!use(editor, nothing));
+    QVERIFY(use(editor, nothing, Kind::kType, "31", true));
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    QCOMPARE(editor.shownMap()->size.width(), 31);
+}
+
+void tst_GuidedWindows::asksForTheEndOfWhatIsPlayed()
+{
+    using Kind = ControlUse::Kind;
+    Editor editor;
+    editor.openProject();
+    int asked = 0;
+    connect(editor.operator->(), &EditorWindows::playEndAsked, this, [&asked] { ++asked; });
+    QVERIFY(!use(editor, {str("MainWindow"), {}, -1}, Kind::kEnd, "something else"));
+    QCOMPARE(asked, 0);
+    QVERIFY(use(editor, {str("MainWindow"), {}, -1}, Kind::kEnd, "play"));
+    QCOMPARE(asked, 1);
 }
 
 void tst_GuidedWindows::bringsBackWindowsAndWhatWasTyped()
