@@ -2326,7 +2326,7 @@ Click “Next” to begin.</translation>
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>Here the hero gets a warm cloak, in the database.
+      <translation>In this lesson the hero gets a warm cloak.
 Click “Next” to begin.</translation>
     </message>
     <message>
@@ -2455,7 +2455,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Toma is in the database, too: give him other clothes whenever you like.</translation>
+      <translation>Looks are set there, too: a click on the picture “On the map” offers others for Mila.</translation>
     </message>
     <message>
       <source>#34</source>
@@ -4971,7 +4971,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Type 20 for “Points”. The light gives back so much HP.</translation>
+      <translation>Type 20 for “Points”. The light gives back so many HP.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -5179,7 +5179,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Choose your troop, the last one. The line is empty, as the troop has no name.</translation>
+      <translation>Choose your troop, the last one. Its line is empty, as the troop has no name.</translation>
     </message>
     <message>
       <source>#70</source>
@@ -6247,7 +6247,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>From ring to disc: here it begins at the event, in the game where Mila stands.</translation>
+      <translation>The way goes from the ring to the disc. In the game it begins where Mila stands.</translation>
     </message>
     <message>
       <source>#80</source>

@@ -2326,7 +2326,7 @@
     <name>TutorialStep6</name>
     <message>
       <source>#1</source>
-      <translation>主人公がどこで決まるかを見て、マントを着せます。
+      <translation>このレッスンでは、主人公にマントを作って着せます。
 「次へ」で始まります。</translation>
     </message>
     <message>
@@ -2439,7 +2439,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>Enterキーで新しく始め、矢印キーで歩いてください。旅人の姿のミラです。</translation>
+      <translation>Enterキーで新しいゲームを始め、矢印キーで歩いてください。旅人の姿のミラです。</translation>
     </message>
     <message>
       <source>#30</source>
@@ -4565,7 +4565,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>初めはスライムです。リストの2番目、さっきのネズミを選んでください。</translation>
+      <translation>最初はスライムです。リストの2番目、さっきのネズミを選んでください。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -5157,11 +5157,11 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>2人が話すので、顔で区別します。「顔…」をクリックしてください。</translation>
+      <translation>2人が話すので、顔で見分けられるようにします。「顔…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>人物の顔です。「ミラ」を選んで確かめてから、「次へ」をクリックします。</translation>
+      <translation>人物の顔の一覧です。「ミラ」を選んで確かめてから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#66</source>

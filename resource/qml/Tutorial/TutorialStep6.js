@@ -562,7 +562,7 @@
     },
     {
 "id":34,
-"name":"Toma, too",
+"name":"Her look, too",
 "folder":false,
 "translationId":33,
 "x":738,
