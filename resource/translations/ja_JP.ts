@@ -5177,7 +5177,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>一覧の最後の、作った敵グループを選びます。名前がないので、空の行です。</translation>
+      <translation>一覧の最後にある、作った敵グループを選びます。名前がないので、空の行です。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -6245,7 +6245,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>輪から丸までです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
+      <translation>輪から丸までが道のりです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
     </message>
     <message>
       <source>#80</source>

@@ -1623,7 +1623,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>好的。以后想放在别处时，点工具栏里的“休息点”就行。</translation>
+      <translation>好的。以后想放在别处时，点击工具栏里的“休息点”就行。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -3058,7 +3058,7 @@
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
-      <translation>这一课做一根拉杆。游戏会记住它被拉动过，于是大门打开。</translation>
+      <translation>这一课让拉杆打开大门：游戏会记住拉杆被拉动过。</translation>
     </message>
     <message>
       <source>#2</source>
