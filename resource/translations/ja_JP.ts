@@ -3473,7 +3473,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>新しいプロジェクトを作りますか？「いいえ」なら、コモンイベントが2つあるものを開きます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン10などの続きとして進めます。</translation>
     </message>
     <message>
       <source>#3</source>
