@@ -2455,7 +2455,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>数据库里还有托马，随时都可以给他换装备。</translation>
+      <translation>在数据库里点击“地图形象”下面的图像，还能换米拉的样子，比如“米拉”。</translation>
     </message>
     <message>
       <source>#34</source>
