@@ -40,11 +40,12 @@ struct Sprite
 struct ShownPicture
 {
     int number = 0;
+    /// Among the pictures for events.
     QString name;
     /// Where its origin lies, in game pixels.
     QPointF at;
     bool isCentred = false;
-    /// In percent.
+    /// In percent of the size that the drawing has.
     QSizeF scale{100, 100};
     /// 0 to 255.
     double opacity = 255;

@@ -1,5 +1,7 @@
 #include "player/view/Artwork.h"
 
+#include "player/scene/Frame.h"
+
 #include <QPainter>
 #include <QTransform>
 
@@ -48,6 +50,14 @@ QPixmap Artwork::source(const QString &folder, const QString &name)
         kept = m_sources.insert(key, m_pictureArt(folder, name));
     }
     return *kept;
+}
+
+QSize Artwork::shownSize(const QString &name)
+{
+    constexpr QSize kScreen(Frame::kWidth, Frame::kHeight);
+    constexpr int kDrawnWidth = 480;
+    const QPixmap drawn = source(QStringLiteral("pictures"), name);
+    return drawn.isNull() ? kScreen / 4 : drawn.size() * kScreen.width() / kDrawnWidth;
 }
 
 QPixmap Artwork::picture(const QString &folder, const QString &name, const QSize &size, bool isMirrored)

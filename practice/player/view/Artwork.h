@@ -32,6 +32,9 @@ public:
                                   bool isMirrored = false);
     /// In the size that it has; null where there is none.
     [[nodiscard]] QPixmap source(const QString &folder, const QString &name);
+    /// How large a picture that an event shows is at 100 percent, in game pixels: a drawing of 480 x 270
+    /// pixels fills the screen.
+    [[nodiscard]] QSize shownSize(const QString &name);
 
     /// Drops what was made for another size.
     void forgetSizes();

@@ -116,10 +116,12 @@ void FramePainter::paintWorld(QPainter *painter, const Frame &frame, const GameD
 void FramePainter::paintPictures(QPainter *painter, const Frame &frame, const ScreenScale &scale)
 {
     for (const ShownPicture &shown : frame.pictures) {
-        // A picture of 100 percent fills the screen.
-        const QPixmap picture = m_artwork->picture(QStringLiteral("backdrops"), shown.name, scale.size());
-        const QSizeF wanted(Frame::kWidth * shown.scale.width() / kPercent,
-                            Frame::kHeight * shown.scale.height() / kPercent);
+        const QSize whole = m_artwork->shownSize(shown.name);
+        const QPixmap picture =
+            m_artwork->picture(QStringLiteral("pictures"), shown.name,
+                               {scale.length(whole.width()), scale.length(whole.height())});
+        const QSizeF wanted(whole.width() * shown.scale.width() / kPercent,
+                            whole.height() * shown.scale.height() / kPercent);
         QRectF place(shown.at, wanted);
         if (shown.isCentred) {
             place.moveCenter(shown.at);

@@ -1,5 +1,10 @@
 #include "PaintingFixture.h"
 
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using namespace player;
 
 namespace {
@@ -43,6 +48,7 @@ private Q_SLOTS:
     void fadesAndFlashesCoverAll();
     void shakingMovesTheWorld();
     void picturesStandAndBlend();
+    void everyPictureThatCanBeChosenIsThere();
     void battlersStandOnTheirFeet();
     void aSelectedBattlerIsMarked();
     void weatherFalls_data();
@@ -239,16 +245,17 @@ void tst_FramePainter::picturesStandAndBlend()
     Frame frame = mapFrame();
     ShownPicture picture;
     picture.name = str("red");
-    picture.scale = QSizeF(25, 25);
+    // A drawing of 64 x 64, of which 480 would fill the width of 640.
+    picture.scale = QSizeF(200, 100);
     picture.at = QPointF(100, 100);
     frame.pictures.append(picture);
     painting.draw(frame);
-    QCOMPARE(painting.count(Qt::red), 160 * 90);
+    QCOMPARE(painting.count(Qt::red), 170 * 85);
     QCOMPARE(painting.at(100, 100), QColor(Qt::red));
     QCOMPARE(painting.at(99, 100), QColor(Qt::green));
     frame.pictures[0].isCentred = true;
     painting.draw(frame);
-    QCOMPARE(painting.at(20, 55), QColor(Qt::red));
+    QCOMPARE(painting.at(16, 60), QColor(Qt::red));
     frame.pictures[0].blending = 1;
     painting.draw(frame);
     QCOMPARE(painting.at(100, 100), QColor(Qt::yellow));
@@ -258,6 +265,36 @@ void tst_FramePainter::picturesStandAndBlend()
     frame.pictures[0].opacity = 0;
     painting.draw(frame);
     QCOMPARE(painting.at(100, 100), QColor(Qt::green));
+}
+
+void tst_FramePainter::everyPictureThatCanBeChosenIsThere()
+{
+    const QString practice = QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/");
+    QFile file(practice + str("descriptions/choices/pictures.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonArray choices =
+        QJsonDocument::fromJson(file.readAll()).object().value(str("choices")).toArray();
+    QVERIFY(choices.size() > 5);
+    Artwork artwork([](int, int, int) { return QPixmap(); },
+                    [practice](const QString &folder, const QString &name) {
+                        return QPixmap(practice + str("pictures/") + folder + QLatin1Char('/') + name +
+                                       str(".png"));
+                    });
+    FramePainter painter(&artwork);
+    const GameData data = plainData();
+    for (const QJsonValue &choice : choices) {
+        Frame frame;
+        ShownPicture picture;
+        picture.name = choice.toObject().value(str("value")).toString();
+        frame.pictures.append(picture);
+        QImage image(kOnce, QImage::Format_RGB32);
+        QPainter device(&image);
+        painter.paint(&device, frame, data, kOnce);
+        device.end();
+        const QVector<Problem> problems = artwork.takeProblems();
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.value(0).text));
+    }
+    QCOMPARE(artwork.shownSize(str("hills")), kOnce);
 }
 
 void tst_FramePainter::battlersStandOnTheirFeet()
