@@ -1038,6 +1038,50 @@
         <translation>队伍里没有人。</translation>
     </message>
     <message>
+        <source>The event stands at %1, %2, outside of its map.</source>
+        <translation>事件的位置 %1, %2 在地图之外。</translation>
+    </message>
+    <message>
+        <source>The event has no pages, so it is never there.</source>
+        <translation>事件没有任何事件页，因此不会出现。</translation>
+    </message>
+    <message>
+        <source>The page has no list of commands: it does nothing.</source>
+        <translation>该事件页没有指令列表，什么也不会发生。</translation>
+    </message>
+    <message>
+        <source>The actor “%1” has class %2, which is not there: no HP and MP grow, and no skills are learned.</source>
+        <translation>角色“%1”的职业 %2 不存在：HP 和 MP 不会成长，也不会学会技能。</translation>
+    </message>
+    <message>
+        <source>The actor “%1” begins with weapon %2, which is not there.</source>
+        <translation>角色“%1”初始装备的武器 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>The actor “%1” begins with armor %2, which is not there.</source>
+        <translation>角色“%1”初始装备的防具 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>The class “%1” learns skill %2, which is not there.</source>
+        <translation>职业“%1”要学会的技能 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>The enemy “%1” drops item %2, which is not there.</source>
+        <translation>敌人“%1”掉落的物品 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>An effect of “%1” names state %2, which is not there.</source>
+        <translation>“%1”的效果所指定的状态 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>An effect of “%1” names skill %2, which is not there.</source>
+        <translation>“%1”的效果所指定的技能 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>An effect of “%1” names common event %2, which is not there.</source>
+        <translation>“%1”的效果所指定的公共事件 %2 不存在。</translation>
+    </message>
+    <message>
         <source>Actor %1 of the party is not there.</source>
         <translation>队伍中的角色 %1 不存在。</translation>
     </message>

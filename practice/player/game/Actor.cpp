@@ -101,7 +101,7 @@ int Actor::attack(const GameData &data) const
 {
     const GearEntry *held = data.weapons.find(weapon);
     const GearEntry *worn = data.armors.find(armor);
-    const int gear = (held != nullptr ? held->attack : 0) + (worn != nullptr ? worn->attack : 0);
+    const qint64 gear = qint64(held != nullptr ? held->attack : 0) + (worn != nullptr ? worn->attack : 0);
     return rated(level + gear, traits(data), "attackRate", 0);
 }
 
@@ -109,7 +109,7 @@ int Actor::defense(const GameData &data) const
 {
     const GearEntry *held = data.weapons.find(weapon);
     const GearEntry *worn = data.armors.find(armor);
-    const int gear = (held != nullptr ? held->defense : 0) + (worn != nullptr ? worn->defense : 0);
+    const qint64 gear = qint64(held != nullptr ? held->defense : 0) + (worn != nullptr ? worn->defense : 0);
     return rated(level + gear, traits(data), "defenseRate", 0);
 }
 

@@ -45,7 +45,7 @@ struct Growth
     int first = 0;
     int each = 0;
 
-    [[nodiscard]] int at(int level) const { return first + each * (level - 1); }
+    [[nodiscard]] qint64 at(int level) const { return first + qint64(each) * (level - 1); }
 };
 
 struct Learning

@@ -2,6 +2,7 @@
 
 #include "player/game/DatabaseReader.h"
 #include "player/game/MapReader.h"
+#include "player/game/References.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -60,6 +61,7 @@ std::shared_ptr<const GameData> GameReader::read(const GameData::Files &files, c
     DatabaseReader::read(files, data.get());
     MapReader::read(files, tiles, data.get());
     checkStart(data.get());
+    References::check(data.get());
     data->fingerprint = hashOf(files);
     return data;
 }

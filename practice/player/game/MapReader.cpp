@@ -71,6 +71,34 @@ QVector<MapEvent> events(const QJsonValue &map)
     return events;
 }
 
+/// Names what is wrong with the events of a map, and moves those outside of it beside its edge.
+void checkEvents(const QString &file, const QJsonValue &json, MapData *map, QVector<Problem> *problems)
+{
+    const QJsonArray entries = list(json, "events");
+    for (MapEvent &event : map->events) {
+        const auto tell = [&](int page, const QString &text) {
+            problems->append(Problem{file, map->id, event.id, page, 0, text});
+        };
+        if (!map->size.isEmpty() && !map->contains(event.cell)) {
+            tell(0, QCoreApplication::translate("TestPlay", "The event stands at %1, %2, outside of its map.")
+                        .arg(event.cell.x())
+                        .arg(event.cell.y()));
+            event.cell = {qBound(-1, event.cell.x(), map->size.width()),
+                          qBound(-1, event.cell.y(), map->size.height())};
+        }
+        if (event.pages.isEmpty()) {
+            tell(0, QCoreApplication::translate("TestPlay", "The event has no pages, so it is never there."));
+        }
+        const QJsonArray pages = list(entries.at(event.id), "pages");
+        for (int page = 0; page < pages.size(); ++page) {
+            if (!member(pages.at(page), "list").isArray()) {
+                tell(page + 1, QCoreApplication::translate(
+                                   "TestPlay", "The page has no list of commands: it does nothing."));
+            }
+        }
+    }
+}
+
 /// Fills in the cells; false when there are none, or too many.
 bool readCells(const QJsonValue &json, const QVector<bool> &floors, MapData *map)
 {
@@ -127,6 +155,7 @@ MapData readMap(int id, const QString &file, const QJsonValue &json, const QVect
                 .arg(MapData::kLargest);
         problems->append(problem);
     }
+    checkEvents(file, json, &map, problems);
     return map;
 }
 

@@ -22,6 +22,13 @@ struct Problem
     /// Place and text in one line.
     [[nodiscard]] QString toString() const;
 
+    /// Whether both are about the same command.
+    [[nodiscard]] bool isAtSameLine(const Problem &other) const
+    {
+        return line > 0 && line == other.line && page == other.page && event == other.event &&
+               map == other.map && file == other.file;
+    }
+
     friend bool operator==(const Problem &left, const Problem &right)
     {
         return left.file == right.file && left.map == right.map && left.event == right.event &&

@@ -1,8 +1,18 @@
 #include "player/scene/Game.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace player {
+
+namespace {
+
+/// Problems that are told: of a game that has more wrong with it, the first ones tell most.
+constexpr int kMostTold = 500;
+/// A line that goes wrong with each number in turn would hide what else is wrong.
+constexpr int kMostAtOneLine = 5;
+
+} // namespace
 
 Game::Game(std::shared_ptr<const GameData> data, const GameSettings &settings,
            std::unique_ptr<const SceneMaker> scenes)
@@ -136,7 +146,10 @@ void Game::setMusic(const Sound &music, int fadeTicks)
 
 void Game::tell(const Problem &problem)
 {
-    if (!m_told.contains(problem)) {
+    if (m_told.size() < kMostTold && !m_told.contains(problem) &&
+        std::count_if(m_told.cbegin(), m_told.cend(), [&problem](const Problem &told) {
+            return told.isAtSameLine(problem);
+        }) < kMostAtOneLine) {
         m_told.append(problem);
         m_problems.append(problem);
     }

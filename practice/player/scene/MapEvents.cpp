@@ -13,6 +13,9 @@ namespace {
 
 /// An event that began by itself so often in a row, and nothing else could happen.
 constexpr int kTooOften = 20;
+/// Commands that all events beside the game do in a tick, however many they are.
+constexpr int kBudgetOfAll = 20000;
+constexpr int kLeastBudget = 2;
 
 /// A list that has nothing but its end does not begin at all.
 bool hasCommands(const CommandList &list)
@@ -89,8 +92,9 @@ void MapEvents::tick()
     // Whoever has talked takes the answer before the next one asks.
     std::stable_partition(all.begin(), all.end(),
                           [](const Interpreter *interpreter) { return interpreter->ownsStage(); });
+    const int budget = qBound(kLeastBudget, kBudgetOfAll / int(all.size()), Interpreter::kBudget);
     for (Interpreter *const interpreter : all) {
-        interpreter->tick();
+        interpreter->tick(budget);
         if (m_stage->isAway() || m_stage->isTransferring()) {
             break;
         }

@@ -77,21 +77,43 @@ Token tokenOf(QChar sign)
     }
 }
 
+/// Takes the number of a colour out of a word such as "\\c[2]" that stands at @p at. Gives how long the word
+/// is; 0 where another one stands.
+int colourWord(const QString &text, int at, int *colour)
+{
+    constexpr int kMostDigits = 3;
+    int end = at + 3;
+    if (end > text.size() || text.at(at + 1).toLower() != QLatin1Char('c') ||
+        text.at(at + 2) != QLatin1Char('[')) {
+        return 0;
+    }
+    int number = 0;
+    int digits = 0;
+    for (; end < text.size() && text.at(end) >= QLatin1Char('0') && text.at(end) <= QLatin1Char('9'); ++end) {
+        number = 10 * number + text.at(end).digitValue();
+        if (++digits > kMostDigits) {
+            return 0;
+        }
+    }
+    if (digits == 0 || end >= text.size() || text.at(end) != QLatin1Char(']')) {
+        return 0;
+    }
+    *colour = number;
+    return end + 1 - at;
+}
+
 } // namespace
 
 QVector<TalkText::Token> TalkText::read(const QString &line, const Game &game)
 {
-    static const QRegularExpression colourWord(QStringLiteral("\\G\\\\[cC]\\[(\\d{1,3})\\]"));
     const QString text = replaced(line, game);
     QVector<Token> tokens;
     int colour = 0;
     for (int i = 0; i < text.size(); ++i) {
         const QChar sign = text.at(i);
         if (sign == QLatin1Char('\\') && i + 1 < text.size()) {
-            const QRegularExpressionMatch match = colourWord.match(text, i);
-            if (match.hasMatch()) {
-                colour = match.captured(1).toInt();
-                i += int(match.capturedLength()) - 1;
+            if (const int length = colourWord(text, i, &colour); length > 0) {
+                i += length - 1;
                 continue;
             }
             const Token token = tokenOf(text.at(i + 1));

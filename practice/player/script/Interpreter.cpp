@@ -33,6 +33,7 @@ void Interpreter::start(const CommandList &list, const ListPlace &place)
     m_wait = Wait::kNothing;
     m_then = nullptr;
     m_saidEndless = false;
+    m_unwaited = 0;
 }
 
 bool Interpreter::ownsStage() const
@@ -46,18 +47,19 @@ int Interpreter::ownEvent() const
     return isHere && m_state->map != 0 ? m_levels.constFirst().place.event : 0;
 }
 
-void Interpreter::tick()
+void Interpreter::tick(int budget)
 {
     for (int done = 0; isRunning(); ++done) {
         if (isWaiting()) {
+            m_unwaited = 0;
             return;
         }
         finishWait();
         if (m_wait != Wait::kNothing || !isRunning()) {
             continue;
         }
-        if (done >= kBudget) {
-            if (std::exchange(m_saidEndless, true)) {
+        if (done >= budget) {
+            if (m_unwaited < kBudget || std::exchange(m_saidEndless, true)) {
                 return;
             }
             tell(QCoreApplication::translate("TestPlay",
@@ -67,6 +69,7 @@ void Interpreter::tick()
             return;
         }
         step();
+        m_unwaited = qMin(m_unwaited + 1, kBudget);
     }
 }
 

@@ -39,7 +39,8 @@ public:
 
     /// Common events that call common events, at most.
     static constexpr int kDeepest = 50;
-    /// Commands that one tick does at most: after that many, the next tick goes on, and a problem says so.
+    /// Commands that one tick does at most. After that many without a wait a problem says so, and the next
+    /// tick goes on.
     static constexpr int kBudget = 2000;
 
     /// All of them have to outlive the interpreter.
@@ -49,7 +50,8 @@ public:
     void start(const CommandList &list, const ListPlace &place);
     void stop() { m_levels.clear(); }
     [[nodiscard]] bool isRunning() const { return !m_levels.isEmpty(); }
-    void tick();
+    /// Does @p budget commands at most.
+    void tick(int budget = kBudget);
     /// It waits for a talk, a transfer or another scene that it has begun: it is the first to go on.
     [[nodiscard]] bool ownsStage() const;
     /// Number of the event on the map that runs, 0 for none.
@@ -137,6 +139,8 @@ private:
     /// Row of m_current, from 0.
     int m_row = 0;
     bool m_saidEndless = false;
+    /// Commands since it last waited.
+    int m_unwaited = 0;
 };
 
 } // namespace player

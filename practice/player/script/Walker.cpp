@@ -14,6 +14,12 @@ int number(const RouteStep &step, int place)
     return step.parameters.at(place).toInt();
 }
 
+/// A distance on a map.
+int cells(const RouteStep &step, int place)
+{
+    return qBound(-MapData::kLargest, number(step, place), MapData::kLargest);
+}
+
 void turn(Character *who, int direction)
 {
     if (!who->hasFixedDirection && direction >= kDown && direction <= kUp) {
@@ -75,7 +81,7 @@ bool walk(Character *who, const RouteStep &order, World *world)
         return isFree;
     }
     case 16:
-        return jump(who, {number(order, 0), number(order, 1)}, world);
+        return jump(who, {cells(order, 0), cells(order, 1)}, world);
     default:
         return step(who, order.code, world);
     }

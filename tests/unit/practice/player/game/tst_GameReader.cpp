@@ -43,7 +43,7 @@ void tst_GameReader::theSampleIsReadWhole()
     QCOMPARE(texts(*data), QStringList());
     QCOMPARE(data->maps.ids().size(), 8);
     QCOMPARE(data->actors.find(1)->name, QStringLiteral("Mila"));
-    QCOMPARE(data->classes.find(1)->hp.at(3), 56);
+    QCOMPARE(data->classes.find(1)->hp.at(3), qint64(56));
     QCOMPARE(data->troops.find(6)->members.size(), 3);
     QCOMPARE(data->troops.find(6)->pages.constFirst().conditions.enemyHp, 50);
     QCOMPARE(data->states.find(4)->maxTurns, 2);
