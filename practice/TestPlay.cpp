@@ -72,6 +72,7 @@ TestPlay::~TestPlay()
 void TestPlay::play(const PlayRequest &request)
 {
     stop();
+    m_request = request;
     const auto data = player::GameReader::read(request.files, drawingsOf(*request.start));
     player::GameSettings settings;
     settings.start = request.troop > 0 ? player::StartWith::kBattleTest : player::StartWith::kTitle;
@@ -82,8 +83,20 @@ void TestPlay::play(const PlayRequest &request)
     m_window = new player::PlayerWindow(player::newGame(data, settings), std::move(artwork),
                                         QDir(request.folder).dirName(), m_strip->window());
     connect(m_window, &player::PlayerWindow::left, this, &TestPlay::onLeft);
+    connect(m_window, &player::PlayerWindow::restartAsked, this, &TestPlay::playAgain);
     connect(m_window, &player::PlayerWindow::placeAsked, this, &TestPlay::showPlace);
     m_window->showBeside(inSight(), m_strip->window()->windowHandle()->screen()->availableGeometry());
+}
+
+void TestPlay::playAgain()
+{
+    if (m_request.troop == 0) {
+        m_windows->play();
+        return;
+    }
+    // The dialog that a battle was begun from is still open, and its project the same.
+    const PlayRequest same = m_request;
+    play(same);
 }
 
 void TestPlay::stop()

@@ -34,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void play(const PlayRequest &request);
+    void playAgain();
     void stop();
     void onLeft();
     void showPlace(const player::Problem &problem);
@@ -42,6 +43,8 @@ private:
     EditorWindows *m_windows;
     const LessonSession *m_session;
     QWidget *m_strip;
+    /// What was played last.
+    PlayRequest m_request;
     /// nullptr while none runs.
     player::PlayerWindow *m_window = nullptr;
 };

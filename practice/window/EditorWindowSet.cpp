@@ -218,6 +218,11 @@ void EditorWindowSet::setPlayer(const PlayWords::Play &play)
     m_ground.project->setPlayer(play);
 }
 
+void EditorWindowSet::play()
+{
+    m_ground.project->run(QStringLiteral("play.project"), m_ground.project->files());
+}
+
 void EditorWindowSet::tellPlayed()
 {
     Q_EMIT happened({QStringLiteral("action"), QStringLiteral("play"), QStringLiteral("close"), QString()});

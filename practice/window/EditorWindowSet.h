@@ -49,6 +49,7 @@ public:
 
     void setProjectsFolder(const QString &folder) override;
     void setPlayer(const PlayWords::Play &play) override;
+    void play() override;
     void tellPlayed() override;
     bool replaceFiles(const QMap<QString, QString> &files) override;
     [[nodiscard]] QString projectFolder() const override { return m_ground.project->files().folder(); }

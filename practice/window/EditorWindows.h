@@ -58,6 +58,8 @@ public:
     /// Hands in who plays the project when the person asks for it: the buttons for it are of use from here
     /// on. The windows stay as they are meanwhile, and of use.
     virtual void setPlayer(const PlayWords::Play &play) = 0;
+    /// Lets the project be played as it stands, as its button does; nothing happens while none is open.
+    virtual void play() = 0;
     /// What was played is over, which a lesson may wait for.
     virtual void tellPlayed() = 0;
     /// Shows a place among the event commands, ready to be changed. False when there is no such place any

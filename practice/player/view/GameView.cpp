@@ -157,6 +157,12 @@ void GameView::keyPressEvent(QKeyEvent *event)
         Q_EMIT leaveAsked();
         return;
     }
+    if (event->key() == Qt::Key_F5) {
+        if (!event->isAutoRepeat()) {
+            Q_EMIT restartAsked();
+        }
+        return;
+    }
     if (!m_keys.press(*event)) {
         QWidget::keyPressEvent(event);
     }

@@ -36,6 +36,8 @@ public:
 Q_SIGNALS:
     /// The escape key was pressed where it closes nothing in the game.
     void leaveAsked();
+    /// The game is to begin anew.
+    void restartAsked();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

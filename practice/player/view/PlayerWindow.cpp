@@ -49,6 +49,7 @@ PlayerWindow::PlayerWindow(std::unique_ptr<Game> game, std::unique_ptr<Artwork> 
     m_timer.setInterval(kTimerMs);
     connect(&m_timer, &QTimer::timeout, this, &PlayerWindow::run);
     connect(m_view, &GameView::leaveAsked, this, &QWidget::close);
+    connect(m_view, &GameView::restartAsked, this, &PlayerWindow::restartAsked);
     connect(m_log, &LogPane::placeAsked, this, &PlayerWindow::placeAsked);
     tell(m_game->takeProblems());
     m_view->setFrame(m_game->frame());

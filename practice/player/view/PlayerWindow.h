@@ -37,6 +37,8 @@ public:
 Q_SIGNALS:
     /// The game is over, or the person has left it: the window is closed.
     void left();
+    /// The person wants the game to begin anew, with what the project is now.
+    void restartAsked();
     /// The person wants to see a place in the editor.
     void placeAsked(const player::Problem &problem);
 

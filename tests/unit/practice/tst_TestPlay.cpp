@@ -32,6 +32,7 @@ private Q_SLOTS:
     void theEditorEndsTheGameForAPerson();
     void theGameIsTheProjectAsItStands();
     void aSecondGameTakesThePlaceOfTheFirst();
+    void theGameBeginsAnewWithWhatTheProjectIsNow();
     void aBattleIsTriedFromItsDialog();
     void theGameWaitsWhileTheEditorIsUsed();
     void anotherProjectEndsTheGame();
@@ -157,12 +158,29 @@ void tst_TestPlay::aSecondGameTakesThePlaceOfTheFirst()
     QVERIFY(m_play->isOn());
 }
 
+void tst_TestPlay::theGameBeginsAnewWithWhatTheProjectIsNow()
+{
+    play();
+    const QPointer<PlayerWindow> first = window();
+    DataFiles &files = (*m_editor)->project()->files();
+    QVERIFY(files.set(str("data/System.json"), str("/gameTitle"), str("Changed since")));
+    QTest::keyClick(first->view(), Qt::Key_F5);
+    QTRY_VERIFY_WITH_TIMEOUT(first.isNull(), kSoonMs);
+    QVERIFY(m_play->isOn());
+    QCOMPARE(window()->game().data().system.gameTitle, str("Changed since"));
+    QTRY_VERIFY_WITH_TIMEOUT(window()->view()->frame().panel("title") != nullptr, kSoonMs);
+}
+
 void tst_TestPlay::aBattleIsTriedFromItsDialog()
 {
     m_editor->openDatabase(7);
     m_editor->click("DatabaseMain", "battleTest");
     m_editor->click("BattleTest", "start");
     QVERIFY(m_play->isOn());
+    QTRY_VERIFY_WITH_TIMEOUT(!window()->view()->frame().battlers.isEmpty(), kSoonMs);
+    const QPointer<PlayerWindow> first = window();
+    QTest::keyClick(first->view(), Qt::Key_F5);
+    QTRY_VERIFY_WITH_TIMEOUT(first.isNull(), kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(!window()->view()->frame().battlers.isEmpty(), kSoonMs);
     QTest::keyClick(window()->view(), Qt::Key_Escape);
     QVERIFY(!m_play->isOn());
