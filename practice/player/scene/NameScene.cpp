@@ -80,7 +80,11 @@ void NameScene::tick(const Input &input, Game *game)
         begin(*game);
         return;
     }
-    type(input.typed);
+    if (!input.typed.isEmpty()) {
+        type(input.typed);
+        // Who types is done with the enter key.
+        m_cursor.setCurrent(int(m_grid.size()) + 1);
+    }
     // What is typed has done its work: the keys that move are for the grid.
     switch (m_cursor.tick(input)) {
     case RowCursor::Result::kChosen:

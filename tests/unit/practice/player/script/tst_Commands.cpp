@@ -202,6 +202,14 @@ void addPartyAndActorRows()
         "127 weapons",
         R"({"code":127,"indent":0,"parameters":[2,0,0,2,false]},{"code":127,"indent":0,"parameters":[1,1,0,1,true]})",
         "expect weapon 2 = 2\nexpect no problems");
+    addRow(
+        "127 a weapon is taken from who wears it",
+        R"({"code":127,"indent":0,"parameters":[1,1,0,1,true]},{"code":121,"indent":0,"parameters":[1,1,0]})",
+        "expect weapon of 1 = 1\nexpect switch 1 on\nexpect weapon of 1 = 0\nexpect weapon 1 = 0");
+    addRow(
+        "127 a weapon that is worn stays",
+        R"({"code":127,"indent":0,"parameters":[1,1,0,1,false]},{"code":121,"indent":0,"parameters":[1,1,0]})",
+        "expect switch 1 on\nexpect weapon of 1 = 1");
     addRow("128 armors", R"({"code":128,"indent":0,"parameters":[1,0,0,1,false]})", "expect armor 1 = 1");
     addRow(
         "129 the party",
@@ -246,7 +254,8 @@ void addPartyAndActorRows()
     addRow("319 a name", R"({"code":319,"indent":0,"parameters":[1,"Milla"]})", "expect name 1 Milla");
     addRow("320 name input",
            R"({"code":320,"indent":0,"parameters":[1,8]},{"code":121,"indent":0,"parameters":[1,1,0]})",
-           "expect panel name\nexpect switch 1 off");
+           "expect panel name\nexpect switch 1 off\nwait 2\npress cancel 4\ntype Emmi\npress act\nexpect "
+           "switch 1 on\nexpect name 1 Emmi");
 }
 
 void addSceneRows()
@@ -262,11 +271,6 @@ void addSceneRows()
     addRow("202 event location", R"({"code":202,"indent":0,"parameters":[0,0,7,4,4]})",
            "expect event 1 at 7 4");
     addRow(
-        "203 scrolling",
-        R"({"code":201,"indent":0,"parameters":[0,2,15,10,1,2]},{"code":203,"indent":0,"parameters":[3,2,6,true]},
-        {"code":121,"indent":0,"parameters":[1,1,0]})",
-        "expect switch 1 on");
-    addRow(
         "205 a movement route of another",
         R"({"code":205,"indent":0,"parameters":[0,{"list":[{"code":3},{"code":1},{"code":13},{"code":17,"parameters":[5]},{"code":0}],
         "repeat":false,"skippable":false,"wait":true}]},{"code":121,"indent":0,"parameters":[1,1,0]})",
@@ -276,15 +280,12 @@ void addSceneRows()
         R"({"code":205,"indent":0,"parameters":[-1,{"list":[{"code":3},{"code":2},{"code":16,"parameters":[0,2]},{"code":0}],
         "repeat":false,"skippable":true,"wait":true}]},{"code":121,"indent":0,"parameters":[1,1,0]})",
         "expect switch 1 on\nexpect at 1 3");
-    addRow("206 transparency",
-           R"({"code":206,"indent":0,"parameters":[0,0]},{"code":121,"indent":0,"parameters":[1,1,0]})",
-           "expect switch 1 on");
     addRow("207 an animation is waited for",
            R"({"code":207,"indent":0,"parameters":[0,1,true]},{"code":121,"indent":0,"parameters":[1,1,0]})",
-           "wait 15\nexpect switch 1 off\nwait 15\nexpect switch 1 on");
+           "expect animation 1\nwait 14\nexpect switch 1 off\nwait 15\nexpect switch 1 on");
     addRow("208 a balloon is waited for",
            R"({"code":208,"indent":0,"parameters":[-1,1,true]},{"code":121,"indent":0,"parameters":[1,1,0]})",
-           "wait 50\nexpect switch 1 off\nwait 20\nexpect switch 1 on");
+           "expect balloon 1\nwait 49\nexpect switch 1 off\nwait 20\nexpect switch 1 on");
     addRow("209 the event is gone",
            R"({"code":209,"indent":0,"parameters":[]},{"code":121,"indent":0,"parameters":[1,1,0]})",
            "expect switch 1 on\nwalk to 3 1\nexpect at 3 1");
@@ -292,7 +293,12 @@ void addSceneRows()
         "302 a shop",
         R"({"code":302,"indent":0,"parameters":[0,1,0,0,false]},{"code":605,"indent":0,"parameters":[1,2,1,5]},
         {"code":121,"indent":0,"parameters":[1,1,0]})",
-        "expect panel gold\nexpect switch 1 off");
+        "expect panel gold\nexpect switch 1 off\nwait 2\nchoose Buy\nexpect choices Herb Sword\nchoose "
+        "Sword\nexpect "
+        "panel number\npress act\nexpect weapon 2 = 1\nexpect gold = 95\nexpect switch 1 off\npress cancel\n"
+        "wait 2\npress cancel\nexpect switch 1 on");
+    addRow("302 a shop that buys nothing", R"({"code":302,"indent":0,"parameters":[0,1,0,0,true]})",
+           "choose Sell\nwait 5\nexpect choices Buy Sell Leave");
     addRow("303 the menu",
            R"({"code":303,"indent":0,"parameters":[]},{"code":121,"indent":0,"parameters":[1,1,0]})",
            "expect panel menu\nwait 2\npress cancel\nexpect switch 1 on");
@@ -377,7 +383,7 @@ void tst_Commands::everyCommandWithAFormIsKnownAndTested()
 {
     // What an event of the map cannot do has its test in tst_BattleCommands; that of the screen in
     // tst_ScreenCommands.
-    QSet<int> tested = {221, 222, 223, 224, 225, 226, 331, 332, 333, 334, 335, 336, 337};
+    QSet<int> tested = {203, 206, 221, 222, 223, 224, 225, 226, 331, 332, 333, 334, 335, 336, 337};
     for (const Row &row : qAsConst(*rows())) {
         const QJsonArray commands = smallGame::json("[" + row.commands + "]").toArray();
         for (const QJsonValue &command : commands) {

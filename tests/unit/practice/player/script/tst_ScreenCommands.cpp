@@ -14,6 +14,9 @@ private Q_SLOTS:
     void theScreenShakesForAWhile();
     void weatherBeginsAndEnds();
     void aPictureMoves();
+    void theMapScrolls();
+    void whoIsTransparentIsNotSeen();
+    void musicFadesOutInItsTime();
 };
 
 namespace {
@@ -116,6 +119,38 @@ void tst_ScreenCommands::aPictureMoves()
     QCOMPARE(moved.opacity, 0.0);
     QCOMPARE(moved.blending, 2);
     QCOMPARE(screen(play).pictures.size(), 1);
+}
+
+void tst_ScreenCommands::theMapScrolls()
+{
+    auto play = begun(
+        R"({"code":201,"indent":0,"parameters":[0,2,15,10,1,2]},{"code":230,"indent":0,"parameters":[10]},
+                         {"code":203,"indent":0,"parameters":[3,4,6,true]})");
+    QCOMPARE(play.run(QStringLiteral("expect map 2\nwait 2")), QString());
+    const QPointF before = play.hand().frame().origin;
+    QCOMPARE(play.run(QStringLiteral("expect switch 1 on")), QString());
+    QCOMPARE(play.hand().frame().origin, before + QPointF(4, 0));
+}
+
+void tst_ScreenCommands::whoIsTransparentIsNotSeen()
+{
+    auto play =
+        begun(R"({"code":206,"indent":0,"parameters":[0,0]},{"code":206,"indent":0,"parameters":[-1,0]},
+                         {"code":230,"indent":0,"parameters":[10]},{"code":206,"indent":0,"parameters":[-1,1]})");
+    QCOMPARE(play.hand().frame().sprites.size(), 2);
+    QCOMPARE(play.run(QStringLiteral("wait 4")), QString());
+    QCOMPARE(play.hand().frame().sprites.size(), 0);
+    QCOMPARE(play.run(QStringLiteral("expect switch 1 on")), QString());
+    QCOMPARE(play.hand().frame().sprites.size(), 1);
+    QCOMPARE(play.hand().frame().sprites.constFirst().event, -1);
+}
+
+void tst_ScreenCommands::musicFadesOutInItsTime()
+{
+    auto play = begun(R"({"code":242,"indent":0,"parameters":[2]})");
+    QCOMPARE(play.run(QStringLiteral("expect switch 1 on")), QString());
+    QVERIFY(play.hand().frame().music.file.isEmpty());
+    QCOMPARE(play.hand().frame().musicFadeTicks, 120);
 }
 
 QTEST_GUILESS_MAIN(tst_ScreenCommands)
