@@ -103,9 +103,11 @@ void tst_SamplePlayed::everyStepAlongItsLesson_data()
         ("encounters on\nplace 2 12 1\n" + steps + "expect battle\nfight\nexpect exp 1 > 0").constData());
     add(16, "classes, skills and traits", "join 3\nexpect mp 3 > 20");
     add(17, "the boss battle",
-        "place 8 20 5\nask 20 3\ngo on\nwin battle\ngo on\nexpect switch 5 on\nexpect item 6 = 1\nask 20 3\n"
+        "join 2\njoin 3\nlevel 1 9\nlevel 2 9\nlevel 3 9\nplace 5 6 8\nask 4 2\nchoose 1\ngo on\n"
+        "place 8 20 5\nask 20 3\ngo on\nfight\nexpect battle won\ngo on\nexpect switch 5 on\nexpect item 6 = "
+        "1\nask 20 3\n"
         "expect message \"Only stones are left.\"");
-    add(18, "troops and battle events", "place 8 20 5\nask 20 3\ngo on\nexpect battle");
+    add(18, "troops and battle events", "place 8 20 5\nask 20 3\ngo on\nexpect battle\nexpect enemies 2 6 2");
     add(19, "a cut scene",
         "set switch 5 on\ngive item 6\nwalk to 0 8\nexpect map 6\ngo on\nexpect switch 6 on\nexpect item 6 = "
         "0");
