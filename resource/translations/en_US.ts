@@ -1371,7 +1371,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>Double-click the first message. So you get back to what you typed.</translation>
+      <translation>Double-click the first message. This takes you back to what you typed.</translation>
     </message>
     <message>
       <source>#42</source>
@@ -2583,7 +2583,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>A red cap and a mustache: players will know Bruno again at once.</translation>
+      <translation>He wears a red cap: players will know Bruno again at once.</translation>
     </message>
     <message>
       <source>#30</source>
@@ -3107,7 +3107,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>So it begins: the player is told of the lever and asked whether to pull it.</translation>
+      <translation>This comes first: the player is told of the lever and asked whether to pull it.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -3603,7 +3603,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>Click the second one. In it stands what every guard calls out first.</translation>
+      <translation>Click the second one. It holds what every guard calls out first.</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4195,7 +4195,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>So much Bruno takes for it. He pays half of it when the player sells some.</translation>
+      <translation>This is what Bruno takes for it. He pays half of that when the player sells some.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -4759,7 +4759,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Type 40 at “Points”. So many HP come back.</translation>
+      <translation>Type 40 at “Points”. That many HP come back.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -4971,7 +4971,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Type 20 for “Points”. The light gives back so many HP.</translation>
+      <translation>Type 20 for “Points”. The light gives back that many HP.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -4991,7 +4991,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Type 220 for “HP”. Nobody else in the mine bears half of that.</translation>
+      <translation>Type 220 for “HP”. Nobody else in the mine can take half of that.</translation>
     </message>
     <message>
       <source>#23</source>
@@ -5087,7 +5087,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Type 20 for “Level”: alone, she would need so much.</translation>
+      <translation>Type 20 for “Level”: alone, she would need that much.</translation>
     </message>
     <message>
       <source>#47</source>
@@ -5183,7 +5183,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Without a check mark nobody can flee. So it should be with a boss.</translation>
+      <translation>Without a check mark nobody can flee. That is right for a boss.</translation>
     </message>
     <message>
       <source>#71</source>
@@ -5799,7 +5799,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>Type 30: so many HP come back.</translation>
+      <translation>Type 30: that many HP come back.</translation>
     </message>
     <message>
       <source>#87</source>
@@ -6479,7 +6479,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>By now your game has many events. Click “Find events”: so none gets lost.</translation>
+      <translation>By now your game has many events. Click “Find events”: none gets lost.</translation>
     </message>
     <message>
       <source>#25</source>

@@ -2583,7 +2583,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>赤い帽子と口ひげが目印です。プレイヤーはひと目でブルーノだとわかります。</translation>
+      <translation>赤い帽子が目印です。プレイヤーはひと目でブルーノだとわかります。</translation>
     </message>
     <message>
       <source>#30</source>
