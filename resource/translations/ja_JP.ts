@@ -2035,7 +2035,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>返事の選択肢は、このメッセージと一緒に出ます。「閉じる」をクリックしてください。</translation>
+      <translation>返事の選択肢は、メッセージの上に重なって出ます。「閉じる」をクリックしてください。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2899,7 +2899,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>まだ音楽がありません。ダブルクリックして、マップの設定を開いてください。</translation>
+      <translation>雪原にはまだ音楽がありません。ダブルクリックして、マップの設定を開いてください。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5181,7 +5181,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>オフのままなら逃げられません。ボス戦はこれでよいでしょう。</translation>
+      <translation>「逃げられる」はオフのままにします。ボス戦からは逃げられません。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -5257,7 +5257,7 @@
     </message>
     <message>
       <source>#89</source>
-      <translation>「番人を倒した」をダブルクリックすると、選んで閉じます。</translation>
+      <translation>「番人を倒した」をダブルクリックしてください。選ぶと同時にウィンドウが閉じます。</translation>
     </message>
     <message>
       <source>#90</source>

@@ -531,7 +531,7 @@
 "name":"MP",
 "folder":false,
 "translationId":32,
-"x":277,
+"x":208,
 "y":-56,
 "windowKey":"Effects",
 "condition":"radioButton,RadioButton,1",

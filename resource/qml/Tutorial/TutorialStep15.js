@@ -242,7 +242,7 @@
 "name":"Health",
 "folder":false,
 "translationId":15,
-"x":77,
+"x":8,
 "y":-56,
 "windowKey":"Effects",
 "condition":"click,",

@@ -735,7 +735,7 @@
 "name":"It ends by itself",
 "folder":false,
 "translationId":40,
-"x":427,
+"x":362,
 "y":82,
 "windowKey":"DatabaseMain",
 "condition":"click,",
