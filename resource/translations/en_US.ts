@@ -891,7 +891,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>The arrow shows where to act, the picture beside it how. At “Next”, read and click it.</translation>
+      <translation>An arrow will show where to act, a picture how. Where you see “Next”, read, then click it.</translation>
     </message>
     <message>
       <source>#3</source>

@@ -2035,7 +2035,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>返事の選択肢は、メッセージの上に重なって出ます。「閉じる」をクリックしてください。</translation>
+      <translation>返事の選択肢は、このメッセージの上に出ます。「閉じる」をクリックしてください。</translation>
     </message>
     <message>
       <source>#25</source>
