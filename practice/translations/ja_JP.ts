@@ -1039,7 +1039,7 @@
     </message>
     <message>
         <source>The event stands at %1, %2, outside of its map.</source>
-        <translation>イベントの位置 %1, %2 はマップの外です。</translation>
+        <translation>イベントの位置（%1, %2）はマップの外です。</translation>
     </message>
     <message>
         <source>The event has no pages, so it is never there.</source>
@@ -1051,35 +1051,35 @@
     </message>
     <message>
         <source>The actor “%1” has class %2, which is not there: no HP and MP grow, and no skills are learned.</source>
-        <translation>アクター「%1」の職業 %2 はありません。HP と MP は増えず、スキルも習得しません。</translation>
+        <translation>アクター「%1」の職業%2はありません。HPとMPは増えず、スキルも習得しません。</translation>
     </message>
     <message>
         <source>The actor “%1” begins with weapon %2, which is not there.</source>
-        <translation>アクター「%1」が最初に装備する武器 %2 はありません。</translation>
+        <translation>アクター「%1」が最初に装備する武器%2はありません。</translation>
     </message>
     <message>
         <source>The actor “%1” begins with armor %2, which is not there.</source>
-        <translation>アクター「%1」が最初に装備する防具 %2 はありません。</translation>
+        <translation>アクター「%1」が最初に装備する防具%2はありません。</translation>
     </message>
     <message>
         <source>The class “%1” learns skill %2, which is not there.</source>
-        <translation>職業「%1」が習得するスキル %2 はありません。</translation>
+        <translation>職業「%1」が習得するスキル%2はありません。</translation>
     </message>
     <message>
         <source>The enemy “%1” drops item %2, which is not there.</source>
-        <translation>敵キャラ「%1」が落とすアイテム %2 はありません。</translation>
+        <translation>敵キャラ「%1」が落とすアイテム%2はありません。</translation>
     </message>
     <message>
         <source>An effect of “%1” names state %2, which is not there.</source>
-        <translation>「%1」の効果に指定されたステート %2 はありません。</translation>
+        <translation>「%1」の効果に指定されたステート%2はありません。</translation>
     </message>
     <message>
         <source>An effect of “%1” names skill %2, which is not there.</source>
-        <translation>「%1」の効果に指定されたスキル %2 はありません。</translation>
+        <translation>「%1」の効果に指定されたスキル%2はありません。</translation>
     </message>
     <message>
         <source>An effect of “%1” names common event %2, which is not there.</source>
-        <translation>「%1」の効果に指定されたコモンイベント %2 はありません。</translation>
+        <translation>「%1」の効果に指定されたコモンイベント%2はありません。</translation>
     </message>
     <message>
         <source>Actor %1 of the party is not there.</source>
