@@ -2455,7 +2455,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>データベースにはトーマもいます。いつでも装備を変えられます。</translation>
+      <translation>データベースで「マップ上の姿」の画像をクリックすると、ミラの姿も選べます。</translation>
     </message>
     <message>
       <source>#34</source>
