@@ -1210,7 +1210,7 @@
     <name>TutorialStep2</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、話のできる男の子をマップに置きます。
+      <translation>このレッスンでは、話しかけると答える男の子を置きます。
 「次へ」で始まります。</translation>
     </message>
     <message>
@@ -2319,7 +2319,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>完成です！選べる会話ができ、仲間も増えました。レッスン6では主人公を作ります。</translation>
+      <translation>完成です！選べる会話ができ、仲間も増えました。レッスン6では主人公にマントを着せます。</translation>
     </message>
   </context>
   <context>
@@ -2459,7 +2459,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>完成です！データベースで防具を作り、主人公に装備させました。</translation>
+      <translation>完成です！防具を作り、主人公に装備させられるようになりました。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4689,7 +4689,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>レッスン15では、主人公たちにスキルを教えます。「次へ」をクリックすると終わります。</translation>
+      <translation>レッスン15では、主人公たちにスキルを覚えさせます。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
   <context>
