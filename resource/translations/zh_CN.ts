@@ -2455,7 +2455,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>在数据库里点击“地图形象”下面的图像，还能换米拉的样子，比如“米拉”。</translation>
+      <translation>在数据库里点击“地图形象”下面的图像，还可以换米拉的样子。</translation>
     </message>
     <message>
       <source>#34</source>

@@ -480,7 +480,7 @@
 "name":"Its kind",
 "folder":false,
 "translationId":29,
-"x":370,
+"x":486,
 "y":0,
 "windowKey":"DatabaseMain",
 "condition":"click,",
