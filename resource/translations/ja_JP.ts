@@ -2527,7 +2527,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>カウンターの向こうのここに、商人が立ちます。名前はブルーノです。</translation>
+      <translation>カウンターの向こうのこのマスに、商人が立ちます。名前はブルーノです。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -2539,7 +2539,7 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>このウィンドウを、レッスン2で覚えましたか？「いいえ」なら、ひととおり見て回ります。</translation>
+      <translation>レッスン2で使ったこのウィンドウを覚えていますか？「いいえ」なら、見て回ります。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -2571,7 +2571,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>「適用」をクリックすると、開いたまま、ここまでの変更が残ります。</translation>
+      <translation>「適用」をクリックすると、ウィンドウを閉じずに、ここまでの変更が残ります。</translation>
     </message>
     <message>
       <source>#27</source>

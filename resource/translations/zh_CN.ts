@@ -2583,7 +2583,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>红帽子很好认，玩家一眼就能认出布鲁诺。</translation>
+      <translation>他戴着红帽子，玩家一眼就能认出布鲁诺。</translation>
     </message>
     <message>
       <source>#30</source>
