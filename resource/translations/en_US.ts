@@ -1303,7 +1303,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>What an event does stands here, line by line. “+” is the place for a new command.</translation>
+      <translation>Here you see what an event does, line by line. “+” is the place for a new command.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -1323,7 +1323,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>A name in “Speaker” would stand above the text. The field can also stay empty.</translation>
+      <translation>A name in “Speaker” would appear above the text. The field can also stay empty.</translation>
     </message>
     <message>
       <source>#30</source>
@@ -1475,7 +1475,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>All maps of the game stand here. Click “Amberfield”, the village.</translation>
+      <translation>All maps of the game are listed here. Click “Amberfield”, the village.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -1519,7 +1519,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Click “OK”. The door stands in its place, and whoever walks against it gets into the house.</translation>
+      <translation>Click “OK”. The door is in its place, and whoever walks against it gets into the house.</translation>
     </message>
     <message>
       <source>#20</source>
@@ -1611,7 +1611,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Choose “Tonic”. All items of the database stand in this list.</translation>
+      <translation>Choose “Tonic”. All items of the database are in this list.</translation>
     </message>
     <message>
       <source>#43</source>
@@ -2035,7 +2035,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>The answers will stand above this message. Click “Close”.</translation>
+      <translation>The answers will appear above this message. Click “Close”.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2055,7 +2055,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>Two answers stand here already. You may type others in their place.</translation>
+      <translation>Two answers are here already. You may type others in their place.</translation>
     </message>
     <message>
       <source>#30</source>
@@ -2399,7 +2399,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>A map is one place. What holds for the whole game stands in the database.</translation>
+      <translation>A map is one place. What holds for the whole game is in the database.</translation>
     </message>
     <message>
       <source>#20</source>
@@ -2507,7 +2507,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>All that a shop can sell stands on “Items”, “Weapons” and “Armor”, with its price.</translation>
+      <translation>All that a shop can sell is on “Items”, “Weapons” and “Armor”, with its price.</translation>
     </message>
     <message>
       <source>#11</source>
@@ -2567,7 +2567,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>What he does will stand here. “+” is the place for the first command.</translation>
+      <translation>What he does will be listed here. “+” is the place for the first command.</translation>
     </message>
     <message>
       <source>#26</source>
@@ -2963,7 +2963,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>First he speaks. The transfer has to stand below that.</translation>
+      <translation>First he speaks. The transfer has to come below that.</translation>
     </message>
     <message>
       <source>#57</source>
@@ -2999,7 +2999,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>Click “OK”. The guard stands in the snow.</translation>
+      <translation>Click “OK”. The guard is standing in the snow.</translation>
     </message>
     <message>
       <source>#66</source>
@@ -3127,7 +3127,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click this line. What stands below it, further right, happens when this answer is given.</translation>
+      <translation>Click this line. What is indented below it happens when this answer is given.</translation>
     </message>
     <message>
       <source>#19</source>
@@ -3551,7 +3551,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Click “OK”. The waiting stands in his route now.</translation>
+      <translation>Click “OK”. The waiting is in his route now.</translation>
     </message>
     <message>
       <source>#22</source>
@@ -3643,11 +3643,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Messages stand at the bottom. When that hides somebody, choose another place here.</translation>
+      <translation>Messages appear at the bottom. If that hides somebody, choose another place here.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Click “OK”. The name will stand above his words.</translation>
+      <translation>Click “OK”. The name will appear above his words.</translation>
     </message>
     <message>
       <source>#46</source>
@@ -3795,7 +3795,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>That stands in the database. Click “Database”.</translation>
+      <translation>That is in the database. Click “Database”.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -3955,7 +3955,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>The choices of the title screen stand on this picture. Lesson 19 sets it up.</translation>
+      <translation>The choices of the title screen lie on this picture. Lesson 19 sets it up.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4095,7 +4095,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>Done! You know what stands where. Lesson 13 makes things to use and to wear.</translation>
+      <translation>Done! You know what is where. Lesson 13 makes things to use and to wear.</translation>
     </message>
   </context>
   <context>
@@ -4151,7 +4151,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>The events tell who gets a thing where. What it costs and does stands in the database.</translation>
+      <translation>The events tell who gets a thing where. What it costs and does is in the database.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4191,7 +4191,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>What it does stands here: it gives back 10 HP.</translation>
+      <translation>This is what it does: it gives back 10 HP.</translation>
     </message>
     <message>
       <source>#24</source>
@@ -4603,7 +4603,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Your troops stand on the left, and the first one is selected. Click “OK”.</translation>
+      <translation>Your troops are on the left, and the first one is selected. Click “OK”.</translation>
     </message>
     <message>
       <source>#43</source>
@@ -5075,7 +5075,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Who fights in a trial stands in this list, whoever is in the party of the game.</translation>
+      <translation>This list has those who fight in a trial, whoever is in the party of the game.</translation>
     </message>
     <message>
       <source>#44</source>
@@ -5167,7 +5167,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Click “OK”. Her face will stand beside her words.</translation>
+      <translation>Click “OK”. Her face will be beside her words.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5191,7 +5191,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Click the battle in the list. What stands below it happens only after a victory.</translation>
+      <translation>Click the battle in the list. What comes below it happens only after a victory.</translation>
     </message>
     <message>
       <source>#73</source>
@@ -5511,7 +5511,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>First the enemies. What they do and what they leave behind stands in the database.</translation>
+      <translation>First the enemies. What they do and what they leave behind is in the database.</translation>
     </message>
     <message>
       <source>#15</source>
@@ -6259,7 +6259,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>The route stands below the words: first they speak, then she walks.</translation>
+      <translation>The route is below the words: first they speak, then she walks.</translation>
     </message>
     <message>
       <source>#83</source>
@@ -6431,7 +6431,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>Click “Show the game's title”, so that the name stands on the title screen.</translation>
+      <translation>Click “Show the game's title”, so that the name is on the title screen.</translation>
     </message>
     <message>
       <source>#13</source>
