@@ -4981,7 +4981,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>ここでも「追加」をクリックします。まだ何もできない敵です。そのあと「次へ」です。</translation>
+      <translation>ここでも「追加」をクリックします。中身が空の敵キャラです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -5505,7 +5505,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>番人の右クリックで「イベントの編集…」が選べます。敵グループは「戦闘の処理」にあります。</translation>
+      <translation>番人を右クリックすると、イベントを編集できます。敵グループは「戦闘の処理」で決めます。</translation>
     </message>
     <message>
       <source>#14</source>
