@@ -5,9 +5,22 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPushButton>
 
 #include <utility>
+
+namespace {
+
+/// Whether the press is beside @p popup or on its frame, which is one pixel wide and has the mouse that
+/// opened it: who presses there again, without moving, means what lies below.
+bool isOutside(const QWidget &widget, const QPoint &position, const QWidget &popup)
+{
+    return widget.window() != &popup ||
+           (&widget == &popup && !popup.rect().adjusted(1, 1, -1, -1).contains(position));
+}
+
+} // namespace
 
 OpenPopup::OpenPopup(QObject *parent)
     : QObject(parent)
@@ -138,7 +151,7 @@ bool OpenPopup::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (auto *widget = qobject_cast<QWidget *>(watched);
-            widget != nullptr && widget->window() != m_popup) {
+            widget != nullptr && isOutside(*widget, static_cast<QMouseEvent *>(event)->pos(), *m_popup)) {
             close();
         }
         break;

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void controlsAreToldWithTheirWindow();
     void popupOpensAWindow();
     void popupClosesAtAPressElsewhere();
+    void popupClosesAtAPressWhereItWasOpened();
     void popupClosesWithEscape();
     void popupIsReplacedByTheNext();
     void aClosedPopupKeepsNoDraft();
@@ -283,6 +284,21 @@ void tst_EditorWindowSet::popupClosesAtAPressElsewhere()
     editor.clickRow("MapEditTreeBox", "maps", 0);
     QCOMPARE(editor.takeTold(), (QStringList{str("pop Popup"), str("list,0, in MapEditTreeBox")}));
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+}
+
+void tst_EditorWindowSet::popupClosesAtAPressWhereItWasOpened()
+{
+    Editor editor;
+    editor.openProject();
+    editor.clickRow("MapEditTreeBox", "maps", 1, Qt::RightButton);
+    editor.takeTold();
+    EditorWindow *const popup = editor->window(str("MapPopup"));
+    // Beside the entries, but inside: as in any menu, nothing happens.
+    QTest::mouseClick(popup, Qt::LeftButton, {}, QPoint(1, 1));
+    QCOMPARE(editor.takeTold(), QStringList());
+    QTest::mouseClick(popup, Qt::LeftButton, {}, QPoint(0, 2));
+    QCOMPARE(editor.takeTold(), QStringList{str("pop Popup")});
+    QVERIFY(!popup->isVisible());
 }
 
 void tst_EditorWindowSet::popupClosesWithEscape()
