@@ -1,27 +1,16 @@
-#include "FakeEditor.h"
-#include "PilotScene.h"
-#include "host/LessonSession.h"
+#include "PilotTest.h"
 
-#include <QSignalSpy>
-#include <QTest>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTimer>
 
-#include <functional>
 #include <utility>
 
 namespace {
 
-constexpr int kSoonMs = 10000;
 // So often the pilot has looked on when a test takes it that it does nothing.
 constexpr int kSeveral = 6;
-
-constexpr QRect kBubble(100, 170, 640, 480); // where the steps below that point send it
 constexpr QRect kMiddle(601, 417, 640, 480); // where it is sent before the first step
-const SeenOverlays::Window kNext{QRect(300, 500, 64, 32), 7};
-
-const QString kClicking = QStringLiteral(
-    R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");
-const QString kTyping = QStringLiteral(
-    R"({"id":2,"x":10,"y":-20,"windowKey":"MainWindow","condition":"textLength,name,2","hint":"Name","icon":"keyboard"})");
 const QString kLeaving = QStringLiteral(
     R"({"id":8,"x":10,"y":-20,"windowKey":"MainWindow","condition":"action,play,close","hint":"Press Esc","icon":"keyboard"})");
 const QString kChoosing = QStringLiteral(
@@ -30,21 +19,15 @@ const QString kQuoting = QStringLiteral(
     R"({"id":7,"x":10,"y":-20,"windowKey":"MainWindow","condition":"click,","hint":"Choose “Herb found”.","icon":"click"})");
 const QString kDragging = QStringLiteral(
     R"({"id":5,"x":10,"y":-20,"windowKey":"MainWindow","condition":"pressed,0,0","hint":"Drag to the right","icon":"click"})");
-const QString kReading = QStringLiteral(
-    R"({"id":3,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"Read","icon":"eye"})");
-const QString kReadingOn = QStringLiteral(
-    R"({"id":4,"x":-9999,"y":-9999,"windowKey":"","condition":"click,","hint":"On","icon":"eye"})");
 
 } // namespace
 
-class tst_Pilot : public QObject
+/// What the pilot does in a step, and what it waits for first.
+class tst_Pilot : public PilotTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void waitsForTheBubbleToStand();
     void aLookThatFailedIsNone();
     void clicksOnlyWhereTheClickGoes();
@@ -58,79 +41,8 @@ private Q_SLOTS:
     void keepsTwoClicksApart();
     void answersOneQuestionAfterTheOther();
     void playsToTheEndAndSeesTheOverlaysGo();
-    void aConditionThatStaysFalseIsBroken();
-    void playsOnBehindABrokenStep();
-    void threeBrokenStepsInARowAreEnough();
     void letsGoWhenTheStepEndsUnderADrag();
-    void aFastClockLengthensTheLimits();
-    void overlaysThatDoNotComeAreBroken();
-    void aFocusThatDoesNotComeIsBroken();
-    void overlaysThatDoNotGoAreBroken();
-    void aKeyThatIsMissingIsBroken();
-    void aPictureThatCannotBeWrittenEndsThePlay();
-    void aRefusedLessonIsBroken();
-    void aLessonThatIsStoppedIsBroken();
-
-private:
-    void makePilot(const Pilot::Settings &settings);
-    void begin(const QStringList &steps);
-    static Pilot::Settings settings();
-
-    Scene m_scene;
-    SeenOverlays m_overlays;
-    std::unique_ptr<FakeEditor> m_editor;
-    std::unique_ptr<LessonSession> m_session;
-    std::unique_ptr<Pilot> m_pilot;
-    QStringList m_steps;
-    int m_chosen = -1;
-    std::optional<QStringList> m_failures; ///< once the play is over
 };
-
-Pilot::Settings tst_Pilot::settings()
-{
-    Pilot::Settings settings;
-    settings.title = QStringLiteral("lesson 1 (en_US, yes)");
-    return settings;
-}
-
-void tst_Pilot::init()
-{
-    m_overlays = {kBubble, {}};
-    m_scene = {};
-    m_scene.look = [this] {
-        return m_overlays;
-    };
-    m_steps.clear();
-    m_chosen = -1;
-    m_failures.reset();
-    m_editor = std::make_unique<FakeEditor>();
-    m_session = std::make_unique<LessonSession>(m_editor.get());
-    makePilot(settings());
-}
-
-void tst_Pilot::cleanup()
-{
-    m_pilot.reset();
-    m_session.reset();
-    m_editor.reset();
-}
-
-void tst_Pilot::makePilot(const Pilot::Settings &settings)
-{
-    m_pilot = std::make_unique<Pilot>(m_session.get(), settings, std::make_unique<SceneEye>(&m_scene),
-                                      std::make_unique<SceneHand>(&m_scene));
-    connect(m_pilot.get(), &Pilot::stepReached, this,
-            [this](int, int, const QString &line) { m_steps += line; });
-    connect(m_pilot.get(), &Pilot::ended, this,
-            [this](const QStringList &failures) { m_failures = failures; });
-}
-
-void tst_Pilot::begin(const QStringList &steps)
-{
-    m_session->receive(
-        QStringLiteral("start\u0001var scenario = [%1];\u0001-1").arg(steps.join(QLatin1Char(','))));
-    QVERIFY(m_session->runner().isRunning());
-}
 
 void tst_Pilot::waitsForTheBubbleToStand()
 {
@@ -245,9 +157,10 @@ void tst_Pilot::choosesWhatTheHintQuotes()
     m_overlays = {kBubble, {kNext}};
     m_scene.rows = rows;
     m_scene.hasList = !rows.isEmpty();
-    m_scene.perform = [this](const Action &action) {
+    int chosen = -1;
+    m_scene.perform = [this, &chosen](const Action &action) {
         if (action.kind == Action::Kind::kChoose) {
-            m_chosen = action.row;
+            chosen = action.row;
         }
         m_scene.hasList = m_scene.hasList && action.kind == Action::Kind::kClick;
         return Hand::Result::kDone;
@@ -259,7 +172,7 @@ void tst_Pilot::choosesWhatTheHintQuotes()
         done.append(int(action.kind));
     }
     QCOMPARE(done, kinds);
-    QCOMPARE(m_chosen, kinds.contains(int(Action::Kind::kChoose)) ? 1 : -1);
+    QCOMPARE(chosen, kinds.contains(int(Action::Kind::kChoose)) ? 1 : -1);
 }
 
 void tst_Pilot::plansAnewWhatWasMissed()
@@ -350,62 +263,6 @@ void tst_Pilot::playsToTheEndAndSeesTheOverlaysGo()
                                             QStringLiteral("003-end.png")}));
 }
 
-void tst_Pilot::aConditionThatStaysFalseIsBroken()
-{
-    Pilot::Settings hasty = settings();
-    hasty.conditionMs = 100;
-    hasty.picturesFolder = QDir::tempPath();
-    makePilot(hasty);
-    begin({kClicking});
-    QTRY_COMPARE_WITH_TIMEOUT(m_scene.pictures, QStringList(QStringLiteral("001-id1-broken.png")), kSoonMs);
-    m_overlays = {};
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QCOMPARE(*m_failures,
-             QStringList(
-                 QStringLiteral(
-                     "lesson 1 (en_US, yes): item 1, list,2: the condition does not come true; done: a "
-                     "click at (138, 302); seen: the bubble at (100, 170), no button, windows: \"Editor\"; "
-                     "picture: %1/001-id1-broken.png")
-                     .arg(QDir::tempPath())));
-}
-
-void tst_Pilot::playsOnBehindABrokenStep()
-{
-    Pilot::Settings hasty = settings();
-    hasty.conditionMs = 100;
-    makePilot(hasty);
-    m_scene.perform = [this](const Action &action) {
-        m_overlays.buttons = {kNext};
-        if (action.kind == Action::Kind::kPressButton) {
-            m_overlays = {};
-            QTimer::singleShot(0, m_session.get(), [this] { m_session->receive(QStringLiteral("next")); });
-        }
-        return Hand::Result::kDone;
-    };
-    begin({kClicking, kReading});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QCOMPARE(m_failures->size(), 1);
-    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("item 1, list,2: the condition")),
-             qPrintable(m_failures->constFirst()));
-    QCOMPARE(m_steps.size(), 2);
-}
-
-void tst_Pilot::threeBrokenStepsInARowAreEnough()
-{
-    Pilot::Settings hasty = settings();
-    hasty.settleMs = 100;
-    makePilot(hasty);
-    m_overlays = {};
-    begin({kClicking, kReading, kTyping, kReadingOn});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QCOMPARE(m_failures->size(), 4);
-    QVERIFY2(m_failures->at(2).contains(QStringLiteral("the bubble does not come to rest")),
-             qPrintable(m_failures->at(2)));
-    QCOMPARE(m_failures->at(3),
-             QStringLiteral("lesson 1 (en_US, yes): given up after 3 broken steps in a row"));
-    QCOMPARE(m_steps.size(), 3);
-}
-
 void tst_Pilot::letsGoWhenTheStepEndsUnderADrag()
 {
     m_scene.perform = [this](const Action &action) {
@@ -420,111 +277,6 @@ void tst_Pilot::letsGoWhenTheStepEndsUnderADrag()
     QTRY_VERIFY_WITH_TIMEOUT(m_steps.size() == 2, kSoonMs);
     QCOMPARE(m_scene.acts.constFirst().kind, Action::Kind::kPress);
     QCOMPARE(m_scene.acts.constLast().kind, Action::Kind::kRelease);
-}
-
-void tst_Pilot::aFastClockLengthensTheLimits()
-{
-    Pilot::Settings fast = settings();
-    fast.conditionMs = 50;
-    fast.speed = 20;
-    makePilot(fast);
-    QElapsedTimer clock;
-    m_scene.perform = [&](const Action &) {
-        clock.start();
-        return Hand::Result::kDone;
-    };
-    begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_scene.acts.size() == 1, kSoonMs);
-    m_overlays = {};
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
-}
-
-void tst_Pilot::overlaysThatDoNotComeAreBroken()
-{
-    Pilot::Settings hasty = settings();
-    hasty.settleMs = 100;
-    makePilot(hasty);
-    m_overlays = {};
-    begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("the bubble does not come to rest")),
-             qPrintable(m_failures->constFirst()));
-}
-
-void tst_Pilot::aFocusThatDoesNotComeIsBroken()
-{
-    Pilot::Settings hasty = settings();
-    hasty.settleMs = 1000;
-    makePilot(hasty);
-    m_scene.takesKeys = false;
-    begin({kTyping});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(
-                 QStringLiteral("the window does not get the focus; done: a click at (138, 302); seen: ")),
-             qPrintable(m_failures->constFirst()));
-}
-
-void tst_Pilot::overlaysThatDoNotGoAreBroken()
-{
-    Pilot::Settings hasty = settings();
-    hasty.settleMs = 1000;
-    makePilot(hasty);
-    begin({kClicking});
-    m_editor->report(QStringLiteral("list"), QStringLiteral("2"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("stay on the screen")),
-             qPrintable(m_failures->constFirst()));
-}
-
-void tst_Pilot::aKeyThatIsMissingIsBroken()
-{
-    m_scene.perform = [this](const Action &action) {
-        if (action.kind != Action::Kind::kType) {
-            return Hand::Result::kDone;
-        }
-        m_overlays = {};
-        return Hand::Result::kImpossible;
-    };
-    begin({kTyping});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(
-                 QStringLiteral("typing \"aa\" cannot be done: the keyboard lacks a key")),
-             qPrintable(m_failures->constFirst()));
-}
-
-void tst_Pilot::aPictureThatCannotBeWrittenEndsThePlay()
-{
-    Pilot::Settings withShots = settings();
-    withShots.picturesFolder = QDir::tempPath();
-    withShots.picturesOfAll = true;
-    makePilot(withShots);
-    m_scene.takesPictures = false;
-    begin({kClicking});
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(QDir::tempPath()), qPrintable(m_failures->constFirst()));
-    QVERIFY(m_scene.acts.isEmpty());
-}
-
-void tst_Pilot::aRefusedLessonIsBroken()
-{
-    const QSignalSpy refusals(m_pilot.get(), &Pilot::refused);
-    m_session->request(QStringLiteral("TutorialStep9"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("does not hand it over")),
-             qPrintable(m_failures->constFirst()));
-    QCOMPARE(refusals.size(), 1);
-}
-
-void tst_Pilot::aLessonThatIsStoppedIsBroken()
-{
-    Pilot::Settings hasty = settings();
-    hasty.settleMs = 300;
-    makePilot(hasty);
-    begin({kClicking});
-    m_session->stop();
-    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
-    QVERIFY(m_scene.acts.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_Pilot)
