@@ -3,10 +3,6 @@
 #include "lesson/LessonWords.h"
 #include "lesson/Scenario.h"
 
-#include <QDir>
-#include <QJsonArray>
-#include <QLineEdit>
-
 #include <algorithm>
 
 namespace {
@@ -35,7 +31,7 @@ bool use(const Editor &editor, const ControlSpot &where, ControlUse::Kind kind =
 
 } // namespace
 
-/// What the windows tell a lesson of their controls, and do for it.
+/// What the windows tell a lesson of their controls.
 class tst_GuidedWindows : public QObject
 {
     Q_OBJECT
@@ -51,12 +47,6 @@ private Q_SLOTS:
     void knowsWhatAControlBringsAbout_data();
     void knowsWhatAControlBringsAbout();
     void knowsWhatAControlMeansAtPresent();
-    void usesControlsAsAPersonDoes();
-    void typesIntoWhatHasTheKeyboard();
-    void asksForTheEndOfWhatIsPlayed();
-    void bringsBackWindowsAndWhatWasTyped();
-    void bringsBackAContextMenu();
-    void bringsBackTheCopyingOfOneProject();
     void saysWhatLeadsBack();
     void aSecondPressBehindNextIsSwallowed();
     void theWindowOnTopGetsTheFocusBack();
@@ -288,113 +278,6 @@ void tst_GuidedWindows::knowsWhatAControlMeansAtPresent()
     QCOMPARE(editor->meaningOf(spot("MapProperties", "name")), QString());
     QCOMPARE(editor->meaningOf(spot("MainWindow", "fileNew")), str("shown"));
     QCOMPARE(editor->meaningOf(spot("MainWindow", "editUndo")), str("grey"));
-}
-
-void tst_GuidedWindows::usesControlsAsAPersonDoes()
-{
-    using Kind = ControlUse::Kind;
-    Editor editor;
-    editor.openProject();
-    QVERIFY(!use(editor, spot("MapProperties", "ok")));
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 3), Kind::kDoubleClick));
-    QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("MapProperties")}));
-    QVERIFY(use(editor, spot("MapProperties", "name"), Kind::kType, "Meadow", true));
-    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    QCOMPARE(editor.rows("maps").at(3).text, str("Meadow"));
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 1), Kind::kRightClick));
-    QVERIFY(use(editor, spot("Menu", "MapPopup/mapProperties")));
-    QVERIFY(use(editor, spot("MapProperties", "width"), Kind::kType, "31"));
-    QVERIFY(editor.takeTold().contains(str("spinBox,=,31 in MapProperties")));
-    QVERIFY(use(editor, spot("MapProperties", "cancel")));
-    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-}
-
-void tst_GuidedWindows::typesIntoWhatHasTheKeyboard()
-{
-    using Kind = ControlUse::Kind;
-    Editor editor;
-    editor.openProject();
-    const ControlSpot nothing{str("MainWindow"), {}, -1};
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 3), Kind::kDoubleClick));
-    editor.find<QWidget>("MapProperties", "width")->setFocus();
-    QVERIFY(!use(editor, nothing));
-    QVERIFY(use(editor, nothing, Kind::kType, "31", true));
-    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    QCOMPARE(editor.shownMap()->size.width(), 31);
-}
-
-void tst_GuidedWindows::asksForTheEndOfWhatIsPlayed()
-{
-    using Kind = ControlUse::Kind;
-    Editor editor;
-    editor.openProject();
-    int asked = 0;
-    connect(editor.operator->(), &EditorWindows::playEndAsked, this, [&asked] { ++asked; });
-    QVERIFY(!use(editor, {str("MainWindow"), {}, -1}, Kind::kEnd, "something else"));
-    QCOMPARE(asked, 0);
-    QVERIFY(use(editor, {str("MainWindow"), {}, -1}, Kind::kEnd, "play"));
-    QCOMPARE(asked, 1);
-}
-
-void tst_GuidedWindows::bringsBackWindowsAndWhatWasTyped()
-{
-    using Kind = ControlUse::Kind;
-    Editor editor;
-    editor.openProject();
-    QVERIFY(use(editor, spot("MainWindow", "drawEllipse")));
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 2), Kind::kDoubleClick));
-    QVERIFY(use(editor, spot("MapProperties", "name"), Kind::kType, "Half"));
-    const EditorState state = editor->state();
-    QVERIFY(use(editor, spot("MapProperties", "name"), Kind::kType, "Other", true));
-    QVERIFY(use(editor, spot("MainWindow", "drawPencil")));
-    QVERIFY(use(editor, spot("MainWindow", "fileOpen")));
-    QVERIFY(editor->restore(EditorState::fromJson(state.toJson())));
-    QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("MapProperties")}));
-    QCOMPARE(editor.find<QLineEdit>("MapProperties", "name")->text(), str("Half"));
-    QVERIFY(editor->chosen().contains(spot("MainWindow", "drawEllipse")));
-    QVERIFY(use(editor, spot("MapProperties", "ok")));
-    QCOMPARE(editor.rows("maps").at(2).text, str("Half"));
-    QCOMPARE(editor->state().toJson().value(str("windows")).toArray().size(), 1);
-}
-
-void tst_GuidedWindows::bringsBackAContextMenu()
-{
-    Editor editor;
-    editor.openProject();
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 2), ControlUse::Kind::kRightClick));
-    const QPoint corner = *editor->origin(str("Menu"));
-    const EditorState state = editor->state();
-    QVERIFY(use(editor, spot("MapEditTreeBox", "maps", 0)));
-    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-    // It belongs to the main window, wherever that is now.
-    const QPoint moved(20, 0);
-    editor.frame()->move(editor.frame()->pos() + moved);
-    QVERIFY(editor->restore(state));
-    QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Popup")}));
-    QCOMPARE(editor->origin(str("Menu")), corner + moved);
-    QVERIFY(use(editor, spot("Menu", "MapPopup/mapProperties")));
-    QCOMPARE(editor.find<QLineEdit>("MapProperties", "name")->text(), editor.rows("maps").at(2).text);
-}
-
-void tst_GuidedWindows::bringsBackTheCopyingOfOneProject()
-{
-    Editor editor;
-    editor->open(str("MainWindow"));
-    QVERIFY(use(editor, spot("MainWindow", "fileNew")));
-    QVERIFY(use(editor, spot("NewProject", "name"), ControlUse::Kind::kType, "Quest"));
-    QVERIFY(use(editor, spot("NewProject", "ok")));
-    QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Copying")}));
-    const EditorState copying = EditorState::fromJson(editor->state().toJson());
-    const QString quest = QDir(editor.folder()).filePath(str("Quest"));
-    for (int time = 0; time < 2; ++time) {
-        QTRY_COMPARE(editor->projectFolder(), quest);
-        QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
-        QCOMPARE(QDir(editor.folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-                 QStringList{str("Quest")});
-        QVERIFY(editor->restore(copying));
-        QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Copying")}));
-        QCOMPARE(editor->projectFolder(), QString());
-    }
 }
 
 void tst_GuidedWindows::saysWhatLeadsBack()
