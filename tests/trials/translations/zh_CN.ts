@@ -103,7 +103,7 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>点击“音量…”。</translation>
+      <translation>点击“选择…”。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -146,11 +146,11 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>勾选“回合”。</translation>
+      <translation>勾选“回合数达到”。</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>在“回合”中输入 3。</translation>
+      <translation>在“回合数达到”中输入 3。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -224,11 +224,11 @@
     </message>
     <message>
       <source>#5</source>
-      <translation>点击“更改最大值…”。可以放下更多角色。</translation>
+      <translation>点击“更改最大数量…”。可以放下更多角色。</translation>
     </message>
     <message>
       <source>#6</source>
-      <translation>在“数据数量”中输入 6。</translation>
+      <translation>在“条目数量”中输入 6。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -419,7 +419,7 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>在“权重”中输入 7。</translation>
+      <translation>在“出现频率”中输入 7。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -540,7 +540,7 @@
     </message>
     <message>
       <source>#7</source>
-      <translation>勾选“固定朝向”。</translation>
+      <translation>勾选“保持朝向”。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -591,7 +591,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>勾选“固定朝向”。</translation>
+      <translation>勾选“保持朝向”。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>输入另一个名称，例如“山坡”，然后按 Enter 键。</translation>
+      <translation>输入另一个名称，例如：山坡。然后按 Enter 键。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -918,7 +918,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>输入地图的名称，例如“岸边”，然后按 Enter 键。</translation>
+      <translation>输入地图的名称，例如：岸边。然后按 Enter 键。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -1000,7 +1000,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>在“移动”中选择“自定义路线”。</translation>
+      <translation>在“移动”中选择“按移动路线”。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -1090,7 +1090,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>在“移动”中选择“自定义路线”。</translation>
+      <translation>在“移动”中选择“按移动路线”。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -1390,7 +1390,7 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>点击“标题画面的命令…”。</translation>
+      <translation>点击“标题画面的指令…”。</translation>
     </message>
     <message>
       <source>#7</source>
@@ -1398,7 +1398,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>在“命令”中选择“制作人员”。</translation>
+      <translation>在“指令”中选择“制作人员”。</translation>
     </message>
     <message>
       <source>#9</source>
