@@ -5699,7 +5699,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Click “Enemy's HP”. That sets warden and 50 %.</translation>
+      <translation>Click “Enemy's HP”. That sets the warden and 50 %.</translation>
     </message>
     <message>
       <source>#62</source>
