@@ -42,6 +42,10 @@ ControlUse ControlUse::of(const Step &step, const ControlSpot &spot)
         use.kind = Kind::kType;
         use.text = LessonWords::numberToType(step.hint);
         use.pressesEnter = condition.type() != Type::kNext && condition.type() != Type::kYesNo;
+    } else if (step.icon == QLatin1String("click") && condition.type() == Type::kNext) {
+        // No condition names the row of what may be a combo box.
+        use.kind = Kind::kClickQuoted;
+        use.text = step.hint;
     }
     return use;
 }
@@ -49,4 +53,9 @@ ControlUse ControlUse::of(const Step &step, const ControlSpot &spot)
 ControlUse ControlUse::of(const Way &way)
 {
     return {way.by, kindOf(way.icon), {}, false};
+}
+
+ControlUse ControlUse::closingMenu()
+{
+    return {{QStringLiteral("Menu"), ControlSpot::dismiss()}, Kind::kClick, {}, false};
 }

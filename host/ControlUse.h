@@ -10,6 +10,9 @@ struct ControlUse
 {
     enum class Kind {
         kClick,
+        /// Choose the row that the hint in the text quotes, where the control is a list to choose from that
+        /// unfolds; click any other.
+        kClickQuoted,
         kDoubleClick,
         kRightClick,
         /// Press there, go some way to the right and down, let go.
@@ -27,11 +30,13 @@ struct ControlUse
     /// Without a control for what needs none: to type is then into what has the keyboard.
     ControlSpot spot;
     Kind kind = Kind::kClick;
-    /// Of kType; empty leaves what stands there.
+    /// Of kClickQuoted, kType and kChoose; empty leaves what stands there.
     QString text;
     bool pressesEnter = false;
 
     /// What a person does for the step at @p spot, which has no control for a step that points at none.
     static ControlUse of(const Step &step, const ControlSpot &spot);
     static ControlUse of(const Way &way);
+    /// Leaves the context menu that is open.
+    static ControlUse closingMenu();
 };

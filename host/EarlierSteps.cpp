@@ -27,7 +27,7 @@ ControlSpot EarlierSteps::openingOf(const QString &windowKey) const
     for (int index = m_index - 1; index >= 0; --index) {
         const Step &step = m_scenario.step(index);
         if (opens(step, windowKey)) {
-            return m_editor->controlAt(step.windowKey, step.spot()).value_or(ControlSpot());
+            return m_editor->controlFor(step).value_or(ControlSpot());
         }
     }
     return {};

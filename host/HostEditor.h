@@ -60,9 +60,16 @@ public:
         return {};
     }
 
-    /// Where it can be used at present, in global screen pixels. Nothing while it is hidden: its window
-    /// closed or below another one, its tab behind another one, its row scrolled away, a context menu over
-    /// it.
+    /// What the step points at. Of several controls that take turns at its place, one that can bring its
+    /// condition about. Nothing where it points nowhere.
+    [[nodiscard]] virtual std::optional<ControlSpot> controlFor(const Step &step) const
+    {
+        return step.hasPosition() ? controlAt(step.windowKey, step.spot()) : std::nullopt;
+    }
+
+    /// Where it can be used at present, in global screen pixels. Nothing while it is grey or hidden: its
+    /// window closed or below another one, its tab behind another one, its row scrolled away, a context menu
+    /// over it.
     [[nodiscard]] virtual std::optional<QRect> rectOf(const ControlSpot &spot) const
     {
         Q_UNUSED(spot)
@@ -156,6 +163,10 @@ public:
 Q_SIGNALS:
     /// Something happened that a condition may wait for.
     void happened(const EditorEvent &event);
+
+    /// A person, or perform(), has used the control, and it did what it is for. Need not be told of a use
+    /// that happened() names as its cause.
+    void used(const ControlSpot &spot);
 
     /// The window came up, or a popup opened (key "Popup"). Emitted before the matching happened().
     void pushed(const QString &windowKey);

@@ -15,6 +15,10 @@ bool isTyping(const EditorEvent &event)
     return event.type == QLatin1String("textLength") || event.type == QLatin1String("spinBox");
 }
 
+/// In so many turns a control is used in vain before something must be wrong with it: a double click is up
+/// to four turns, and the first may have missed.
+constexpr int kMostVainUses = 6;
+
 bool isPress(const EditorEvent &event)
 {
     return event.type == QLatin1String("pressed");
@@ -31,6 +35,7 @@ LessonGuide::LessonGuide(HostEditor *editor, QObject *parent)
     m_help.setSingleShot(true);
     m_help.setInterval(kHelpAfterMs);
     connect(&m_help, &QTimer::timeout, this, &LessonGuide::offerHelp);
+    connect(editor, &HostEditor::used, this, &LessonGuide::noteUse);
     connect(editor, &HostEditor::pushed, this, &LessonGuide::follow);
     connect(editor, &HostEditor::popped, this, &LessonGuide::follow);
     connect(editor, &HostEditor::popupAbandoned, this, &LessonGuide::follow);
@@ -59,8 +64,14 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_wrongMoves = 0;
     m_wrongClicks = 0;
     m_offered = false;
+    m_isUsed = false;
+    m_isUsedNow = false;
+    m_vainSteps = 0;
     m_stray = Stray::kNot;
     m_way.reset();
+    m_beganAstray = false;
+    m_isWayUsed = false;
+    m_vainUses = 0;
     m_couldPutBack = false;
     m_wasGone = false;
     takeStart();
@@ -88,6 +99,7 @@ LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
     if (!m_runs || m_restoring) {
         return Verdict::kNothing;
     }
+    noteUse(event.cause);
     if (isPress(event)) {
         m_pressedIn = m_number;
     }
@@ -114,18 +126,35 @@ LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
     return Verdict::kNothing;
 }
 
+std::optional<ControlUse> LessonGuide::leftUndone() const
+{
+    using Kind = ControlUse::Kind;
+    const std::optional<ControlSpot> &spot = m_needs.pointed;
+    const bool isAct = m_needs.step.icon == QLatin1String("click") ||
+                       m_needs.step.icon == QLatin1String("doubleClick") ||
+                       m_needs.step.icon == QLatin1String("rightClick");
+    if (!m_runs || !spot || !isAct || m_needs.step.condition.type() != Condition::Type::kNext) {
+        return {};
+    }
+    const ControlUse use = ControlUse::of(m_needs.step, *spot);
+    // A row or tab may have been left for another one, and clicking it twice does no harm.
+    const bool isDone = m_isUsed && (spot->part < 0 || m_editor->dataMark() != m_needs.start.dataMark);
+    return isDone || use.kind == Kind::kDrag ? std::nullopt : std::optional(use);
+}
+
 bool LessonGuide::canPutBack() const
 {
     if (!m_runs || !m_settled || m_needs.start.state.isEmpty()) {
         return false;
     }
-    return m_stray == Stray::kProject || (isAstray() && !m_way) ||
+    return m_stray == Stray::kProject || isInVain() || (isAstray() && !m_way) ||
            (m_wrongMoves > 0 && m_editor->dataMark() != m_needs.start.dataMark);
 }
 
 bool LessonGuide::isLost() const
 {
-    return m_stray == Stray::kGone && m_editor->dataMark() == m_needs.start.dataMark;
+    return (m_stray == Stray::kGone && m_editor->dataMark() == m_needs.start.dataMark) ||
+           (m_beganAstray && isAstray() && !m_way) || isInVain();
 }
 
 bool LessonGuide::restore(const StepStart &start)
@@ -144,6 +173,8 @@ bool LessonGuide::restore(const StepStart &start)
     if (m_runs) {
         m_needs.start.dataMark = m_editor->dataMark();
         m_wrongMoves = 0;
+        m_vainUses = 0;
+        m_vainSteps = 0;
         endTurn();
     }
     return restored;
@@ -165,23 +196,28 @@ void LessonGuide::follow()
     }
 }
 
+void LessonGuide::noteUse(const ControlSpot &spot)
+{
+    m_isWayUsed = m_isWayUsed || (m_way && spot.isLike(m_way->by));
+    const bool isIt = m_runs && m_needs.pointed && spot.isLike(*m_needs.pointed);
+    m_isUsed = m_isUsed || isIt;
+    m_isUsedNow = m_isUsedNow || isIt;
+}
+
 void LessonGuide::endTurn()
 {
     m_blamed = false;
-    if (!m_settled) {
+    const bool isFirst = !std::exchange(m_settled, true);
+    if (isFirst) {
         takeStart();
-        m_settled = true;
+    }
+    if (std::exchange(m_isUsedNow, false) && wantsWindow()) {
+        ++m_vainSteps;
     }
     const Whereabouts now(m_editor, &m_needs, m_trail.open());
     const Stray stray = m_runs ? lookAround(now) : Stray::kNot;
-    std::optional<Way> way = now.wayBack(stray);
-    if (way && !m_editor->rectOf(way->by)) {
-        m_editor->reveal(way->by);
-        const bool isGone = way->by.part >= 0 && !m_editor->rectOf(way->by);
-        if (isGone && !m_needs.start.state.isEmpty()) {
-            way.reset(); // a row that is not there leads nowhere, but it can be put back
-        }
-    }
+    const std::optional<Way> way = usableWay(now, stray);
+    m_beganAstray = isFirst ? stray != Stray::kNot : m_beganAstray;
     const bool isNew = std::exchange(m_stray, stray) != stray;
     const bool isOther = std::exchange(m_way, way) != way;
     const bool couldPutBack = std::exchange(m_couldPutBack, canPutBack());
@@ -189,6 +225,27 @@ void LessonGuide::endTurn()
         Q_EMIT changed();
     }
     Q_EMIT turned();
+}
+
+std::optional<Way> LessonGuide::usableWay(const Whereabouts &now, Stray stray)
+{
+    std::optional<Way> way = now.wayBack(stray);
+    const bool isUsed = std::exchange(m_isWayUsed, false);
+    if (!way || m_needs.start.state.isEmpty()) {
+        return way;
+    }
+    if (m_way && way != m_way) {
+        m_vainUses = 0;
+    } else if (isUsed) {
+        ++m_vainUses;
+    }
+    bool isGone = false;
+    if (!m_editor->rectOf(way->by)) {
+        m_editor->reveal(way->by);
+        isGone = way->by.part >= 0 && !m_editor->rectOf(way->by);
+    }
+    // What is not there, or does something else, leads nowhere, but it can be put back.
+    return isGone || m_vainUses >= kMostVainUses ? std::nullopt : way;
 }
 
 Stray LessonGuide::lookAround(const Whereabouts &now)
@@ -214,8 +271,8 @@ Stray LessonGuide::lookAround(const Whereabouts &now)
 
 void LessonGuide::takeStart()
 {
-    if (!m_needs.pointed && m_needs.step.hasPosition()) {
-        m_needs.pointed = m_editor->controlAt(m_needs.step.windowKey, m_needs.step.spot());
+    if (!m_needs.pointed) {
+        m_needs.pointed = m_editor->controlFor(m_needs.step);
     }
     m_needs.start = StepStart::of(*m_editor, m_trail, m_needs.pointed);
     m_ahead = m_behind ? StepAhead(m_editor, *m_behind) : StepAhead();
@@ -252,4 +309,17 @@ bool LessonGuide::wantsEvent() const
     using Type = Condition::Type;
     const Type type = m_needs.step.condition.type();
     return type != Type::kNext && type != Type::kYesNo && type != Type::kWait;
+}
+
+bool LessonGuide::wantsWindow() const
+{
+    using Type = Condition::Type;
+    const Condition &condition = m_needs.step.condition;
+    return condition.type() == Type::kPopup ||
+           (condition.type() == Type::kWindowState && condition.value() == QLatin1String("open"));
+}
+
+bool LessonGuide::isInVain() const
+{
+    return m_vainSteps >= kMostVainUses;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/ControlUse.h"
 #include "host/StepAhead.h"
 #include "host/Whereabouts.h"
 
@@ -40,6 +41,10 @@ public:
     /// To be told of every event.
     [[nodiscard]] Verdict judge(const EditorEvent &event);
 
+    /// What to do for a step that waits for Next, but asks for a click before that which nobody has made.
+    /// Nothing where all was done, and for what the editor cannot do in a person's place, such as typing.
+    [[nodiscard]] std::optional<ControlUse> leftUndone() const;
+
     /// The control, row, tab or cell that the step's position names.
     [[nodiscard]] const std::optional<ControlSpot> &pointed() const { return m_needs.pointed; }
     [[nodiscard]] const StepStart &start() const { return m_needs.start; }
@@ -73,12 +78,18 @@ Q_SIGNALS:
 
 private:
     void follow();
+    void noteUse(const ControlSpot &spot);
     void endTurn();
     [[nodiscard]] Stray lookAround(const Whereabouts &now);
+    /// What leads back, if that can be used and has not come to nothing so far.
+    [[nodiscard]] std::optional<Way> usableWay(const Whereabouts &now, Stray stray);
     void takeStart();
     void blame(const EditorEvent &event);
     void offerHelp();
     [[nodiscard]] bool wantsEvent() const;
+    [[nodiscard]] bool wantsWindow() const;
+    /// What the step asks for was done, and nothing came of it: the editor is in another state than it needs.
+    [[nodiscard]] bool isInVain() const;
 
     HostEditor *m_editor;
     WindowTrail m_trail;
@@ -95,11 +106,22 @@ private:
     bool m_restoring = false;
     int m_wrongMoves = 0;
     int m_wrongClicks = 0;
+    /// What the step points at was used.
+    bool m_isUsed = false;
+    /// The same in this turn, and in how many turns without an end of the step, which is to open a window.
+    bool m_isUsedNow = false;
+    int m_vainSteps = 0;
     /// One click may report several things.
     bool m_blamed = false;
     bool m_offered = false;
     Stray m_stray = Stray::kNot;
     std::optional<Way> m_way;
+    /// The step began with the person astray.
+    bool m_beganAstray = false;
+    /// The control of m_way was used in this turn.
+    bool m_isWayUsed = false;
+    /// In how many turns it was used and still was what leads back.
+    int m_vainUses = 0;
     bool m_couldPutBack = false;
     /// What the step points at was not there at the end of the last turn.
     bool m_wasGone = false;

@@ -161,11 +161,27 @@ void LessonSession::doStep()
     }
     const Step step = m_runner.step();
     if (step.condition.type() == Condition::Type::kNext) {
-        m_runner.next();
+        passStep();
     } else if (const std::optional<ControlSpot> pointed = m_guide.pointed()) {
         m_editor->perform(ControlUse::of(step, *pointed));
     } else if (!step.hasPosition()) {
         m_editor->perform(ControlUse::of(step, {step.windowKey, {}, -1}));
+    }
+}
+
+void LessonSession::passStep()
+{
+    const int before = m_reached;
+    if (const std::optional<ControlUse> undone = m_guide.leftUndone()) {
+        m_editor->perform(*undone);
+        if (undone->kind == ControlUse::Kind::kRightClick && m_reached == before) {
+            // A person's menu is gone when she clicks Next.
+            m_editor->perform(ControlUse::closingMenu());
+        }
+    }
+    // What was done may have been the step behind as well.
+    if (m_reached == before) {
+        m_runner.next();
     }
 }
 
@@ -230,11 +246,11 @@ void LessonSession::onPressed(CompanionCommand::Kind button)
 
 void LessonSession::next()
 {
-    Q_EMIT nextArrived();
     // While what leads back is shown there is no such button; a press may be on its way.
     if (!isAstray()) {
-        m_runner.next();
+        passStep();
     }
+    Q_EMIT nextArrived();
 }
 
 void LessonSession::answer(bool yes)

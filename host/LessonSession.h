@@ -43,7 +43,8 @@ public:
     /// A command of the companion, fields separated by the byte 0x01.
     void receive(const QString &command);
 
-    /// A button of the host's own that stands for the companion's Next, or its Yes and No.
+    /// A button of the host's own that stands for the companion's Next, or its Yes and No. Next does the
+    /// click that the step asks for where nobody has made it: what comes next may need what it does.
     void next();
     void answer(bool yes);
 
@@ -161,6 +162,8 @@ private:
     void onFinished();
     /// Does what the step asks for, or nothing where that cannot be done.
     void doStep();
+    /// Goes on from a step that waits for Next.
+    void passStep();
     void setBookmark(const QJsonObject &bookmark);
 
     HostEditor *m_editor;

@@ -6,10 +6,8 @@
 StepAhead::StepAhead(const HostEditor *editor, const Step &step)
     : m_editor(editor)
     , m_step(step)
+    , m_pointed(editor->controlFor(step))
 {
-    if (step.hasPosition()) {
-        m_pointed = editor->controlAt(step.windowKey, step.spot());
-    }
     if (m_pointed) {
         m_meaning = editor->meaningOf(*m_pointed);
     }

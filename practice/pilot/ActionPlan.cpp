@@ -1,9 +1,9 @@
 #include "pilot/ActionPlan.h"
 
+#include "lesson/QuotedRow.h"
 #include "lesson/Scenario.h"
 #include "pilot/ArrowSpot.h"
 #include "pilot/DragWay.h"
-#include "pilot/QuotedRow.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "pilot/Pilot.h"
 
 #include "host/LessonSession.h"
+#include "lesson/QuotedRow.h"
 #include "pilot/Mistake.h"
-#include "pilot/QuotedRow.h"
 
 #include <QDir>
 

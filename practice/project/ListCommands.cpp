@@ -119,6 +119,27 @@ void ListCommands::addTo(Commands &commands, Fields &fields, RowSources &sources
     }
 }
 
+void ListCommands::addTo(StateParts &states)
+{
+    const QString entry = QStringLiteral("entry");
+    const QString from = QStringLiteral("from");
+    states.add(
+        QStringLiteral("copiedEntry"),
+        [this, entry, from] {
+            QJsonObject copied{{from, m_copiedFrom}};
+            if (!m_copied.isUndefined()) {
+                copied.insert(entry, m_copied);
+            }
+            return copied;
+        },
+        [this, entry, from](const QJsonValue &value) {
+            if (value.isObject()) {
+                m_copied = value.toObject().value(entry);
+                m_copiedFrom = value.toObject().value(from).toString();
+            }
+        });
+}
+
 void ListCommands::addCommand(Commands &commands, const char *name, Change change, Can can)
 {
     const Commands::RunWithArgument run = [this, change, can](DataLayer &layer, const CommandCall &call) {

@@ -2,6 +2,7 @@
 
 #include "project/Commands.h"
 #include "project/Fields.h"
+#include "project/StateParts.h"
 
 class QJsonArray;
 
@@ -18,6 +19,8 @@ public:
 
     /// Adds the commands "list.", the field "list.count" and the roots "entry" and "counted".
     void addTo(Commands &commands, Fields &fields, RowSources &sources);
+    /// What was copied.
+    void addTo(StateParts &states);
 
 private:
     /// A list as it is at present, and where it stands.

@@ -33,6 +33,8 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     m_tools.addTo(m_states);
     m_newProject.addTo(m_states);
     m_board.addTo(m_states);
+    m_lists.addTo(m_states);
+    m_events.addTo(m_states);
     // What was typed belongs to the files that it was typed for.
     connect(&m_files, &DataFiles::left, &m_drafts, &Drafts::clear);
     connect(&m_files, &DataFiles::left, this, &Project::left);

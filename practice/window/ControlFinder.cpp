@@ -71,6 +71,11 @@ QWidget *ControlFinder::targetOf(const ControlSpot &spot) const
     return scrolled != nullptr ? scrolled->viewport() : widget;
 }
 
+QWidget *ControlFinder::menu() const
+{
+    return m_view.popup();
+}
+
 bool ControlFinder::isUsable(const ControlSpot &spot) const
 {
     const EditorWindow *const popup = m_view.popup();
@@ -108,7 +113,7 @@ std::optional<QRect> ControlFinder::rectOf(const ControlSpot &spot) const
 {
     const QWidget *const widget = widgetOf(spot);
     const QWidget *const target = targetOf(spot);
-    if (target == nullptr || !target->isVisible() || !isUsable(spot)) {
+    if (target == nullptr || !target->isVisible() || !target->isEnabled() || !isUsable(spot)) {
         return {};
     }
     const QRect part = partRect(spot, target);

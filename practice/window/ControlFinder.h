@@ -43,7 +43,10 @@ public:
     /// The widget that takes the mouse for it.
     [[nodiscard]] QWidget *targetOf(const ControlSpot &spot) const;
 
-    /// Where it can be used; nothing while it cannot be seen or its window is blocked.
+    /// The context menu that is open; nullptr for none.
+    [[nodiscard]] QWidget *menu() const;
+
+    /// Where it can be used; nothing while it cannot be seen, is grey or its window is blocked.
     [[nodiscard]] std::optional<QRect> rectOf(const ControlSpot &spot) const;
     void reveal(const ControlSpot &spot) const;
 

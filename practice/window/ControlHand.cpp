@@ -1,5 +1,6 @@
 #include "window/ControlHand.h"
 
+#include "lesson/QuotedRow.h"
 #include "window/EditorWindow.h"
 
 #include <QApplication>
@@ -129,6 +130,15 @@ bool choose(QWidget *widget, int number)
     return true;
 }
 
+bool chooseQuoted(QComboBox *box, const QString &hint)
+{
+    QStringList rows;
+    for (int row = 0; row < box->count(); ++row) {
+        rows.append(box->itemText(row));
+    }
+    return choose(box, quotedRow(hint, rows, QString()));
+}
+
 } // namespace
 
 ControlHand::ControlHand(const ControlFinder *finder)
@@ -138,6 +148,13 @@ ControlHand::ControlHand(const ControlFinder *finder)
 
 bool ControlHand::perform(const ControlUse &use) const
 {
+    if (use.spot.control == ControlSpot::dismiss()) {
+        QWidget *const menu = m_finder->menu();
+        if (menu != nullptr) {
+            pressKey(menu, Qt::Key_Escape);
+        }
+        return menu != nullptr;
+    }
     if (!m_finder->rectOf(use.spot)) {
         m_finder->reveal(use.spot);
     }
@@ -146,7 +163,14 @@ bool ControlHand::perform(const ControlUse &use) const
     if (!rect || !target->isEnabled()) {
         return false;
     }
+    QWidget *const widget = m_finder->widgetOf(use.spot);
     switch (use.kind) {
+    case Kind::kClickQuoted:
+        if (auto *const box = qobject_cast<QComboBox *>(widget)) {
+            return chooseQuoted(box, use.text);
+        }
+        click(target, rect->center(), Qt::LeftButton);
+        break;
     case Kind::kClick:
         click(target, rect->center(), Qt::LeftButton);
         break;
@@ -160,10 +184,13 @@ bool ControlHand::perform(const ControlUse &use) const
         drag(target, rect->center());
         break;
     case Kind::kType:
-        type(m_finder->widgetOf(use.spot), use);
+        if (use.spot.part >= 0) {
+            click(target, rect->center(), Qt::LeftButton);
+        }
+        type(widget, use);
         break;
     case Kind::kChoose:
-        return choose(m_finder->widgetOf(use.spot), use.text.toInt());
+        return choose(widget, use.text.toInt());
     case Kind::kEnd:
         return false; // no control does that
     }

@@ -88,6 +88,9 @@ void EditorWindowSet::wire(EditorWindow *window)
         });
     connect(window, &EditorWindow::asked, this,
             [this, window](const ControlAction &action, const QPoint &position, const ControlSpot &cause) {
+                if (action.popup.isEmpty()) {
+                    Q_EMIT used(toldSpot(cause));
+                }
                 onAsked(window, action, position, cause);
             });
     connect(window, &EditorWindow::leaveAsked, this,

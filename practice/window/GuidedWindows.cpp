@@ -1,5 +1,6 @@
 #include "window/GuidedWindows.h"
 
+#include "lesson/description/ControlSpots.h"
 #include "lesson/description/KnownWords.h"
 #include "window/EditorWindow.h"
 #include "window/EventPlaces.h"
@@ -66,6 +67,20 @@ QString GuidedWindows::windowOf(const QString &windowKey) const
 std::optional<ControlSpot> GuidedWindows::controlAt(const QString &windowKey, const QPoint &point) const
 {
     return m_guides->finder.controlAt(windowKey, point);
+}
+
+std::optional<ControlSpot> GuidedWindows::controlFor(const Step &step) const
+{
+    const std::optional<ControlSpot> shown = HostEditor::controlFor(step);
+    if (!shown || step.windowKey == m_view.descriptions->popupKey() || canCause(*shown, step.condition)) {
+        return shown;
+    }
+    // It may be behind another tab.
+    const QVector<ControlSpot> spots = controlsAt(*m_view.descriptions, step.windowKey, step.spot());
+    const auto found = std::find_if(spots.cbegin(), spots.cend(), [this, &step](const ControlSpot &spot) {
+        return canCause(spot, step.condition);
+    });
+    return found != spots.cend() ? *found : shown;
 }
 
 std::optional<QRect> GuidedWindows::rectOf(const ControlSpot &spot) const

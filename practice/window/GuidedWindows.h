@@ -25,6 +25,7 @@ public:
     [[nodiscard]] QString windowOf(const QString &windowKey) const override;
     [[nodiscard]] std::optional<ControlSpot> controlAt(const QString &windowKey,
                                                        const QPoint &point) const override;
+    [[nodiscard]] std::optional<ControlSpot> controlFor(const Step &step) const override;
     [[nodiscard]] std::optional<QRect> rectOf(const ControlSpot &spot) const override;
     void reveal(const ControlSpot &spot) override;
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const override;

@@ -146,6 +146,17 @@ void CommandWords::addEnemies(RowSources &sources)
     }
 }
 
+void CommandWords::addTo(StateParts &states)
+{
+    states.add(
+        str("copiedCommands"), [this] { return m_copied; },
+        [this](const QJsonValue &value) {
+            if (value.isArray()) {
+                m_copied = value.toArray();
+            }
+        });
+}
+
 void CommandWords::addForms(Commands &commands, Fields &fields, RowSources &sources)
 {
     sources.addRoot(formFile(), [](const DataLayer & /*layer*/) -> std::optional<DataPlace> {

@@ -3,6 +3,7 @@
 #include "project/Commands.h"
 #include "project/Fields.h"
 #include "project/StartData.h"
+#include "project/StateParts.h"
 #include "project/events/CommandList.h"
 
 /// What windows do with lists of event commands, whichever data file holds them: "commands.of PATH" says
@@ -15,6 +16,8 @@ public:
     CommandWords(const StartData *start, const RowSources *sources);
 
     void addTo(Commands &commands, Fields &fields, RowSources &sources);
+    /// What was copied.
+    void addTo(StateParts &states);
 
 private:
     void addForms(Commands &commands, Fields &fields, RowSources &sources);

@@ -47,6 +47,23 @@ void EventWords::addTo(Commands &commands, Fields &fields, RowSources &sources)
     addPages(commands, sources);
 }
 
+void EventWords::addTo(StateParts &states)
+{
+    const QString event = str("event");
+    const QString page = str("page");
+    states.add(
+        str("copiedEvent"),
+        [this, event, page] {
+            return QJsonObject{{event, m_copiedEvent}, {page, m_copiedPage}};
+        },
+        [this, event, page](const QJsonValue &value) {
+            if (value.isObject()) {
+                m_copiedEvent = value.toObject().value(event).toObject();
+                m_copiedPage = value.toObject().value(page).toObject();
+            }
+        });
+}
+
 void EventWords::addPages(Commands &commands, RowSources &sources)
 {
     sources.add(pagesSource(), [this](const DataLayer &layer) {

@@ -4,6 +4,7 @@
 #include "project/Fields.h"
 #include "project/MapBoard.h"
 #include "project/StartData.h"
+#include "project/StateParts.h"
 
 class MapEvents;
 
@@ -16,6 +17,8 @@ public:
     EventWords(const StartData *start, const RowSources *sources, MapBoard *board, const EditorTools *tools);
 
     void addTo(Commands &commands, Fields &fields, RowSources &sources);
+    /// What was copied.
+    void addTo(StateParts &states);
 
 private:
     using PageChange = std::function<void(QJsonArray *pages, int *current)>;

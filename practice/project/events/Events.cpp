@@ -17,3 +17,9 @@ void Events::addTo(Commands &commands, Fields &fields, RowSources &sources)
     m_quick.addTo(commands, sources);
     m_search.addTo(commands, sources);
 }
+
+void Events::addTo(StateParts &states)
+{
+    m_commands.addTo(states);
+    m_events.addTo(states);
+}

@@ -24,6 +24,7 @@ public:
 
     /// The words outlive the events, too.
     void addTo(Commands &commands, Fields &fields, RowSources &sources);
+    void addTo(StateParts &states);
 
 private:
     CommandWords m_commands;

@@ -27,6 +27,9 @@ private Q_SLOTS:
     void whatPointsNowhereIsDoneToo();
     void skippingGoesOnWhereNothingCanBeDone();
     void skippingAStepThatWaitsForNextPressesNext();
+    void nextDoesTheClickThatNobodyHasMade();
+    void nextLeavesWhatWasDone();
+    void nextChoosesTheRowAgainThatWasLeft();
     void passesOverStepsThatPassByThemselves();
     void saysWhenAStateIsLost();
     void resumesWhereALessonWasLeft();
@@ -253,11 +256,68 @@ void tst_LessonMemory::skippingAStepThatWaitsForNextPressesNext()
 {
     Played played;
     played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 1));
-    played.play(
-        {Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)"), QStringLiteral(R"("id":3)")});
+    played.play({Played::item(1, "MainWindow", "click,", "eye"), QStringLiteral(R"("id":2)"),
+                 QStringLiteral(R"("id":3)")});
     played.session.skipStep();
     QCOMPARE(played.id(), 2);
     QVERIFY(played.editor.m_performed.isEmpty());
+}
+
+void tst_LessonMemory::nextDoesTheClickThatNobodyHasMade()
+{
+    const ControlSpot button = Played::spot("MainWindow", "add");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), button);
+    played.play({Played::item(1, "MainWindow", "click,", "click", "Click “Add”."),
+                 Played::item(2, "MainWindow", "click,", "rightClick"),
+                 Played::item(3, "MainWindow", "click,", "keyboard"), QStringLiteral(R"("id":4)")});
+    played.session.next();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, button);
+    QCOMPARE(played.editor.m_performed.constFirst().kind, ControlUse::Kind::kClickQuoted);
+    QCOMPARE(played.editor.m_performed.constFirst().text, QString::fromUtf8("Click “Add”."));
+    // A menu that came up has gone when a person gets to Next.
+    played.session.next();
+    QCOMPARE(played.id(), 3);
+    QCOMPARE(played.editor.m_performed.size(), 3);
+    QCOMPARE(played.editor.m_performed.at(1).kind, ControlUse::Kind::kRightClick);
+    QCOMPARE(played.editor.m_performed.at(2).spot, Played::spot("Menu", "@dismiss"));
+    // What to type is the person's own.
+    played.session.next();
+    QCOMPARE(played.id(), 4);
+    QCOMPARE(played.editor.m_performed.size(), 3);
+}
+
+void tst_LessonMemory::nextLeavesWhatWasDone()
+{
+    const ControlSpot button = Played::spot("MainWindow", "add");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), button);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                 QStringLiteral(R"("id":3)")});
+    Q_EMIT played.editor.used(button);
+    played.session.next();
+    QCOMPARE(played.id(), 2);
+    QVERIFY(played.editor.m_performed.isEmpty());
+    // Another control is none of it.
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "delete"));
+    played.session.next();
+    QCOMPARE(played.id(), 3);
+    QCOMPARE(played.editor.m_performed.size(), 1);
+}
+
+void tst_LessonMemory::nextChoosesTheRowAgainThatWasLeft()
+{
+    const ControlSpot tab = Played::spot("MainWindow", "tabs", 1);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), tab);
+    played.play({Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)")});
+    Q_EMIT played.editor.used(tab);
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "tabs", 2));
+    played.session.next();
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, tab);
 }
 
 void tst_LessonMemory::resumesWhereALessonWasLeft()

@@ -74,7 +74,7 @@ public:
     {
         const int before = id();
         const Step step = session.runner().step();
-        const std::optional<ControlSpot> pointed = m_editor->controlAt(step.windowKey, step.spot());
+        const std::optional<ControlSpot> pointed = m_editor->controlFor(step);
         if (step.condition.type() == Condition::Type::kNext) {
             session.next();
         } else if (step.condition.type() == Condition::Type::kYesNo) {
@@ -144,6 +144,7 @@ public:
     /// have to be put back for it, which leads to a step before.
     bool goesOn()
     {
+        int tries = 0;
         for (int attempt = 0; attempt < kMostAttempts && followsTheArrow(); ++attempt) {
             if (!isPlaying()) {
                 return true;
@@ -153,8 +154,12 @@ public:
                 if (!isToRead) {
                     return true;
                 }
+                tries = 0;
             } else if (!session.canPutBack()) {
-                return false;
+                // She tries it again.
+                if (++tries > kMostTries) {
+                    return false;
+                }
             } else {
                 session.putBack();
                 m_log.append(str("put back"));
@@ -170,7 +175,7 @@ public:
             return str("at the end");
         }
         const Step step = session.runner().step();
-        const std::optional<ControlSpot> pointed = m_editor->controlAt(step.windowKey, step.spot());
+        const std::optional<ControlSpot> pointed = m_editor->controlFor(step);
         return str("step %1 %2; open %3; points at %4, which %5; %6; last %7")
             .arg(step.id)
             .arg(step.conditionText, m_editor->openWindows().join(QLatin1Char(' ')),
@@ -188,6 +193,8 @@ private:
     static constexpr int kMostUses = 60;
     /// More steps to read and to do again than lessons have in a row.
     static constexpr int kMostAttempts = 60;
+    /// Of one step, before she gives up.
+    static constexpr int kMostTries = 8;
 
     static bool endsTheGame(const Step &step)
     {

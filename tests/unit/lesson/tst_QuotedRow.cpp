@@ -1,4 +1,4 @@
-#include "pilot/QuotedRow.h"
+#include "lesson/QuotedRow.h"
 
 #include <QTest>
 
