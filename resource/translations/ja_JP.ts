@@ -5697,7 +5697,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>「敵キャラのHP」をクリックすると、番人と50 %が選ばれます。</translation>
+      <translation>「敵キャラのHP」をクリックすると、番人と50%が選ばれます。</translation>
     </message>
     <message>
       <source>#62</source>
