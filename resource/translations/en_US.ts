@@ -3359,27 +3359,27 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>Click “Choose…” to see all the music there is.</translation>
+      <translation>In “Music”, choose “Village”, a calm piece for a peaceful place.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Click “Village”, a calm piece for a peaceful place.</translation>
+      <translation>Click “Choose…”. In that window there is more to set for a piece.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>“Volume” says how loud it is. A little below 100 % leaves room for sounds.</translation>
+      <translation>“Village” is chosen here, too. The list holds all the music there is.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>Click “OK” to take this piece.</translation>
+      <translation>“Volume” says how loud it is. A little below 100 % leaves room for sounds.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Type the name that the player is to see here, such as Amberfield. Then click “Next”.</translation>
+      <translation>Click “OK” to take this piece.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Click “OK”. The village has its music now, and a name for the player.</translation>
+      <translation>Type the name that the player is to see here, such as Amberfield, and press Enter.</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3407,62 +3407,70 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>There is nothing but rock here. Yet without a backdrop, its battles would show a meadow.</translation>
+      <translation>Click the “Nature” tab. Its “Rock” is the tile that the mine is built of.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Double-click “Old mine”.</translation>
+      <translation>There is nothing but rock here. Yet without a backdrop, its battles would show a meadow.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Click the empty field beside “Battle backdrop”.</translation>
+      <translation>Double-click “Old mine”.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Click some of the names; on the right you see each backdrop. Then click “Next”.</translation>
+      <translation>Click the empty field beside “Battle backdrop”.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Click “Rocks”, which suits a mine.</translation>
+      <translation>Click some of the names; on the right you see each backdrop. Then click “Next”.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Click “OK” to take this backdrop.</translation>
+      <translation>Click “Rocks”, which suits a mine.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>The list of “Encounters” is empty: no enemies come yet. Lesson 14 brings the first ones.</translation>
+      <translation>Click “OK” to take this backdrop.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Click “OK”. Enemies in the mine will stand among rocks.</translation>
+      <translation>Click “Show the name on arrival” to switch it off: the mine is to stay nameless.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>The map looks as it did before: a backdrop is seen in battles only.</translation>
+      <translation>Click “OK”. Enemies in the mine will stand among rocks.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>“Undo” takes back what was set in “Map properties”, too, window by window.</translation>
+      <translation>The map looks as it did before: a backdrop is seen in battles only.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Click “Map” to hide the events again.</translation>
+      <translation>No enemies come here yet, as “Encounters” is empty. Lesson 14 brings the first ones.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>In this mode “Map properties…” is there for a right click in the map view, too.</translation>
+      <translation>“Undo” takes back what was set in “Map properties”, too, window by window.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Click “Save” to write music, name and backdrop into the project's folder.</translation>
+      <translation>Click “Map” to hide the events again.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>Done! You can give a map its music, a name on arrival and a backdrop for battles.</translation>
+      <translation>In this mode “Map properties…” is there for a right click in the map view, too.</translation>
     </message>
     <message>
       <source>#49</source>
+      <translation>Click “Save” to write music, name and backdrop into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>Done! You can give a map its music, a name on arrival and a backdrop for battles.</translation>
+    </message>
+    <message>
+      <source>#51</source>
       <translation>Lesson 11 lets guards walk on a route of your own. Click “Next” to finish.</translation>
     </message>
   </context>
@@ -5587,7 +5595,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Click “Each turn”: the beetle gets 5 HP back each turn.</translation>
+      <translation>Click “Each turn”: the beetle gets 5 HP back each turn. Then click “Next”.</translation>
     </message>
     <message>
       <source>#34</source>
@@ -5607,326 +5615,318 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>In “Restriction”, choose “Cannot act”.</translation>
+      <translation>In “Restriction”, choose “Cannot act”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Click “Gone when a battle ends”, so that nobody sleeps on the map.</translation>
-    </message>
-    <message>
-      <source>#40</source>
       <translation>Click “After a turn”: sleepers wake by themselves. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#40</source>
       <translation>Type 2: sleep lasts for two turns at least.</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#41</source>
       <translation>Type 2 here, too: and for no more than two turns.</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#42</source>
       <translation>Click “OK”. The database closes and keeps all of this.</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#43</source>
       <translation>Next the troop: enemies that fight together. Two bats join the warden.</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#44</source>
       <translation>Click the “Troops” tab.</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#45</source>
       <translation>Click “The stone warden”.</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#46</source>
       <translation>Click “Add” for a new member. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#47</source>
       <translation>In “Enemy”, choose “Cave bat”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#48</source>
       <translation>Type 200: the bat moves to the left of the warden.</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#49</source>
       <translation>Type 440: this bat flies on the right.</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#50</source>
       <translation>Click “Battle test…” to meet the three of them.</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#51</source>
       <translation>Click “Add”: Mila joins the party for the test. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#52</source>
       <translation>Type 30. Such a strong Mila sees the whole battle.</translation>
     </message>
     <message>
-      <source>#54</source>
+      <source>#53</source>
       <translation>Click “Start the battle”.</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#54</source>
       <translation>Fight a turn: Enter chooses “Attack”, and Enter again whom. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#55</source>
       <translation>All three strike, but there is no surprise. That is what battle events are for.</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#56</source>
       <translation>Press the Esc key to leave the battle.</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#57</source>
       <translation>Click “OK”. Mila stays in the party for later tests.</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#58</source>
       <translation>Now the battle events. First: a warden who is badly hurt draws strength from the rock.</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#59</source>
       <translation>Click “Conditions…” to say when it happens.</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#60</source>
       <translation>Click “Enemy's HP”. That sets the warden and 50 %.</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#61</source>
       <translation>Double-click “+” to add a command.</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#62</source>
       <translation>Most commands work in a battle, too. Those on the “Battle” tab work only there.</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#63</source>
       <translation>“Show message” is selected already. Click “OK”.</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#64</source>
       <translation>Type what happens, such as The warden draws strength from the rock! Then click “Next”.</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#65</source>
       <translation>It is nobody's speech, so “Speaker” stays empty.</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#66</source>
       <translation>Double-click the new “+”.</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#67</source>
       <translation>Click the “Screen” tab. The ground is to shake.</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>Click “Shake screen”.</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#69</source>
       <translation>Type 8 for a strong tremor. 9 is the most.</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#70</source>
       <translation>Type 40: it lasts 40 frames, two thirds of a second.</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#71</source>
       <translation>With this check mark, the next command comes only after the shaking.</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#72</source>
       <translation>Double-click “Flash screen”. That takes the command at once.</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#73</source>
       <translation>Red, green and blue at 255 make white light.</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#74</source>
       <translation>At 170, the battle is still seen through the light.</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#75</source>
       <translation>Type 20: the light is soon gone.</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#76</source>
       <translation>Click the “Flow” tab. A short pause comes next.</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#77</source>
       <translation>Double-click “Wait”.</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#78</source>
       <translation>Type 20.</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#79</source>
       <translation>So 20 frames are a third of a second: time to see the flash.</translation>
     </message>
     <message>
-      <source>#81</source>
+      <source>#80</source>
       <translation>Click the “Battle” tab.</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#81</source>
       <translation>These heal enemies, let them appear or act, or end the battle.</translation>
     </message>
     <message>
-      <source>#83</source>
+      <source>#82</source>
       <translation>Double-click “Change enemy HP”.</translation>
     </message>
     <message>
-      <source>#84</source>
+      <source>#83</source>
       <translation>The first member is chosen already: the stone warden.</translation>
     </message>
     <message>
-      <source>#85</source>
+      <source>#84</source>
       <translation>“Increase” is on, so he is healed. “Decrease” would hurt him.</translation>
     </message>
     <message>
-      <source>#86</source>
+      <source>#85</source>
       <translation>Type 30: that many HP come back.</translation>
     </message>
     <message>
-      <source>#87</source>
+      <source>#86</source>
       <translation>One command too many? A right click on it has “Delete command”.</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#87</source>
       <translation>Click “New page”: each page is an event of its own. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#88</source>
       <translation>Click “Conditions…” for this page.</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#89</source>
       <translation>Click “From turn”.</translation>
     </message>
     <message>
-      <source>#91</source>
+      <source>#90</source>
       <translation>Type 3: it happens when the third turn begins.</translation>
     </message>
     <message>
-      <source>#92</source>
+      <source>#91</source>
       <translation>Click “Change enemy state”. The “Battle” tab is still in front.</translation>
     </message>
     <message>
-      <source>#93</source>
+      <source>#92</source>
       <translation>In “Enemy”, choose “The whole troop”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#94</source>
+      <source>#93</source>
       <translation>“Add” gives them a state, “Remove” takes one away.</translation>
     </message>
     <message>
-      <source>#95</source>
+      <source>#94</source>
       <translation>In “State”, choose the last one: the state that you have made.</translation>
     </message>
     <message>
-      <source>#96</source>
+      <source>#95</source>
       <translation>Click the “Message” tab. Mila notices it.</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#96</source>
       <translation>Double-click “Show message”.</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#97</source>
       <translation>Click “Face…”: this time somebody speaks.</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#98</source>
       <translation>Click “Mila”.</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#99</source>
       <translation>Type what she says, such as They are asleep! Then click “Next”.</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#100</source>
       <translation>Click “Speaker” and type her name. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#101</source>
       <translation>Toma answers her. Click “Face…”.</translation>
     </message>
     <message>
-      <source>#103</source>
-      <translation>Click a few names to see the faces. Then click “Next”.</translation>
+      <source>#102</source>
+      <translation>Click “Sena”. On the right you see each face before you take it.</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#103</source>
       <translation>Click “Toma”.</translation>
     </message>
     <message>
-      <source>#105</source>
+      <source>#104</source>
       <translation>Type his answer, such as Strike now, before they wake! Then click “Next”.</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#105</source>
       <translation>This “Speaker” may stay empty: by the face everybody knows him.</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#106</source>
       <translation>Click “Battle test…”. Now you see both events.</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#107</source>
       <translation>Attack the warden, turn by turn. In the third turn they fall asleep, and Mila speaks.</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#108</source>
       <translation>When half of his HP are gone, the ground shakes, and he gets 30 back. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#109</source>
       <translation>Type 8, which is nearer to the Mila that comes here in the game.</translation>
     </message>
     <message>
-      <source>#111</source>
+      <source>#110</source>
       <translation>See whether she can win alone; she may need friends. Esc leaves the battle.</translation>
     </message>
     <message>
-      <source>#112</source>
+      <source>#111</source>
       <translation>Click “OK” to keep the troop and its events.</translation>
     </message>
     <message>
-      <source>#113</source>
+      <source>#112</source>
       <translation>The warden on the map needs no change: his event has named this troop all along.</translation>
     </message>
     <message>
-      <source>#114</source>
-      <translation>The bats and beetles that roam the old mine act by your rules, too.</translation>
-    </message>
-    <message>
-      <source>#115</source>
+      <source>#113</source>
       <translation>“Play” leads to the warden as well, but it is a long way: village, forest, lever, mine.</translation>
     </message>
     <message>
-      <source>#116</source>
+      <source>#114</source>
       <translation>Click “Save” to write enemies, state and troop into the project's folder.</translation>
     </message>
     <message>
-      <source>#117</source>
+      <source>#115</source>
       <translation>Done! You can put enemies together and let things happen in a battle.</translation>
     </message>
     <message>
-      <source>#118</source>
+      <source>#116</source>
       <translation>Lesson 18 stages a scene that plays by itself. Click “Next” to finish.</translation>
     </message>
   </context>

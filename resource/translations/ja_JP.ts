@@ -3358,27 +3358,27 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>「選択…」をクリックしてください。音楽の一覧が出ます。</translation>
+      <translation>「音楽」で、のどかな場所に合う「村」を選んでください。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>のどかな場所に合う「村」をクリックしてください。</translation>
+      <translation>「選択…」をクリックしてください。曲をもっと細かく設定できます。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>「音量」で大きさを決めます。100%より少し低いと、効果音が聞き取りやすくなります。</translation>
+      <translation>ここでも「村」が選ばれています。使える音楽は、すべてこの一覧にあります。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>「OK」をクリックして、この曲に決めます。</translation>
+      <translation>「音量」で大きさを決めます。100%より少し低いと、効果音が聞き取りやすくなります。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>プレイヤーに見せる名前（アンバー村など）を入力します。そのあと「次へ」です。</translation>
+      <translation>「OK」をクリックして、この曲に決めます。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>「OK」をクリックしてください。村に音楽と表示名が付きました。</translation>
+      <translation>プレイヤーに見せる名前（アンバー村など）を入力して、Enterキーを押してください。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3406,62 +3406,70 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>見渡すかぎりの岩です。でも、背景を決めないと、戦闘の場面は草原になります。</translation>
+      <translation>「自然」タブをクリックしてください。この鉱山は、その中の「岩」でできています。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>「古い鉱山」をダブルクリックしてください。</translation>
+      <translation>見渡すかぎりの岩です。でも、背景を決めないと、戦闘の場面は草原になります。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>「戦闘の背景」の横の空いた枠をクリックしてください。</translation>
+      <translation>「古い鉱山」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>名前をいくつかクリックして、右の絵を見比べます。そのあと「次へ」です。</translation>
+      <translation>「戦闘の背景」の横の空いた枠をクリックしてください。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>鉱山に合う「岩場」をクリックしてください。</translation>
+      <translation>名前をいくつかクリックして、右の絵を見比べます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>「OK」をクリックして、この背景に決めます。</translation>
+      <translation>鉱山に合う「岩場」をクリックしてください。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>「エンカウント」はまだ空で、敵キャラは現れません。現れるのはレッスン14からです。</translation>
+      <translation>「OK」をクリックして、この背景に決めます。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>「OK」をクリックしてください。鉱山の敵キャラは、岩場に現れるようになります。</translation>
+      <translation>「到着時に名前を表示」をクリックしてオフにします。鉱山の名前は出しません。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>マップの見た目は変わりません。背景が見えるのは、戦闘のときだけです。</translation>
+      <translation>「OK」をクリックしてください。鉱山の敵キャラは、岩場に現れるようになります。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>「マップの設定」での変更も、「元に戻す」でウィンドウ1回分ずつ戻せます。</translation>
+      <translation>マップの見た目は変わりません。背景が見えるのは、戦闘のときだけです。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>「マップ」をクリックして、イベントを隠します。</translation>
+      <translation>「エンカウント」がまだ空なので、敵キャラは現れません。現れるのはレッスン14からです。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>このモードでは、マップ画面を右クリックしても「マップの設定…」が選べます。</translation>
+      <translation>「マップの設定」での変更も、「元に戻す」でウィンドウ1回分ずつ戻せます。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>「保存」をクリックしてください。音楽も名前も背景もプロジェクトに書き込まれます。</translation>
+      <translation>「マップ」をクリックして、イベントを隠します。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>完成です！マップに音楽と、着いたときに出る名前、戦闘の背景を付けられます。</translation>
+      <translation>このモードでは、マップ画面を右クリックしても「マップの設定…」が選べます。</translation>
     </message>
     <message>
       <source>#49</source>
+      <translation>「保存」をクリックしてください。音楽も名前も背景もプロジェクトに書き込まれます。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>完成です！マップに音楽と、着いたときに出る名前、戦闘の背景を付けられます。</translation>
+    </message>
+    <message>
+      <source>#51</source>
       <translation>レッスン11では、決めた道順で衛兵を歩かせます。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
@@ -5585,7 +5593,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>「毎ターン」をクリックします。カブトムシのHPが毎ターン5回復します。</translation>
+      <translation>「毎ターン」をクリックします。カブトムシのHPが毎ターン5回復します。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -5605,326 +5613,318 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>「行動制約」で「行動できない」を選びます。</translation>
+      <translation>「行動制約」で「行動できない」を選んでから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>「戦闘終了時に解除」をクリックします。マップではだれも眠りません。</translation>
-    </message>
-    <message>
-      <source>#40</source>
       <translation>「ターン終了時」をクリックすると、自然に目が覚めます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#40</source>
       <translation>2と入力します。少なくとも2ターンは眠ります。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#41</source>
       <translation>ここも2にします。長くても2ターンで目が覚めます。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#42</source>
       <translation>「OK」をクリックすると、ここまでの変更を残してデータベースが閉じます。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#43</source>
       <translation>次は敵グループ、つまり一緒に戦う敵キャラです。番人にコウモリを2匹付けます。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#44</source>
       <translation>「敵グループ」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#45</source>
       <translation>「岩の番人との戦い」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#46</source>
       <translation>「追加」をクリックすると、メンバーが増えます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#47</source>
       <translation>「敵キャラ」で「どうくつコウモリ」を選んでから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#48</source>
       <translation>200と入力します。コウモリが番人の左へ移ります。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#49</source>
       <translation>440と入力します。こちらは右側を飛びます。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#50</source>
       <translation>「戦闘テスト…」をクリックして、3体と戦ってみましょう。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#51</source>
       <translation>「追加」をクリックすると、テスト用のパーティーにミラが入ります。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#52</source>
       <translation>30と入力します。強いミラなら、戦いを最後まで見られます。</translation>
     </message>
     <message>
-      <source>#54</source>
+      <source>#53</source>
       <translation>「戦闘開始」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#54</source>
       <translation>1ターン戦います。Enterキーで「攻撃」、もう一度で相手を選びます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#55</source>
       <translation>3体とも攻撃してきますが、まだ単調です。そこで戦闘イベントの出番です。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#56</source>
       <translation>Escキーを押して、戦闘をやめます。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#57</source>
       <translation>「OK」をクリックします。ミラはあとのテストにも参加します。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#58</source>
       <translation>いよいよ戦闘イベントです。まず、傷ついた番人が岩から力を得るようにします。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#59</source>
       <translation>「条件…」をクリックして、いつ起こるかを決めます。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#60</source>
       <translation>「敵キャラのHP」をクリックすると、番人と50%が選ばれます。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#61</source>
       <translation>「+」をダブルクリックして、コマンドを追加します。</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#62</source>
       <translation>ほとんどのコマンドは戦闘中も使えます。「戦闘」タブのものは戦闘専用です。</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#63</source>
       <translation>「メッセージの表示」が選ばれています。「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#64</source>
       <translation>起こること（番人が岩の力を吸い取った！など）を入力します。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#65</source>
       <translation>だれかの言葉ではないので、「話す人」は空のままです。</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#66</source>
       <translation>新しい「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#67</source>
       <translation>「画面」タブをクリックします。地面を揺らしましょう。</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>「画面のシェイク」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#69</source>
       <translation>8と入力します。最大の9に近い、強い揺れです。</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#70</source>
       <translation>40と入力します。40フレーム、つまり1秒の3分の2です。</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#71</source>
       <translation>ここがオンなら、揺れが終わってから次のコマンドに進みます。</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#72</source>
       <translation>「画面のフラッシュ」をダブルクリックします。これだけでコマンドが決まります。</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#73</source>
       <translation>赤、緑、青が全部255なので、白い光になります。</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#74</source>
       <translation>170なら、光の中でも戦闘の様子が見えます。</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#75</source>
       <translation>20と入力します。光はすぐに消えます。</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#76</source>
       <translation>「フロー」タブをクリックします。ここで少し間を置きます。</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#77</source>
       <translation>「ウェイト」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#78</source>
       <translation>20と入力します。</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#79</source>
       <translation>20フレームは1秒の3分の1です。その間に光が見えます。</translation>
     </message>
     <message>
-      <source>#81</source>
+      <source>#80</source>
       <translation>「戦闘」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#81</source>
       <translation>敵キャラを回復、出現、行動させたり、戦闘を中断したりできます。</translation>
     </message>
     <message>
-      <source>#83</source>
+      <source>#82</source>
       <translation>「敵キャラのHP増減」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#84</source>
+      <source>#83</source>
       <translation>最初のメンバー、岩の番人が選ばれています。</translation>
     </message>
     <message>
-      <source>#85</source>
+      <source>#84</source>
       <translation>「増やす」なので回復です。「減らす」ならダメージになります。</translation>
     </message>
     <message>
-      <source>#86</source>
+      <source>#85</source>
       <translation>30と入力します。HPが30戻ります。</translation>
     </message>
     <message>
-      <source>#87</source>
+      <source>#86</source>
       <translation>コマンドが余分なときは、右クリックで「コマンドの削除」が選べます。</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#87</source>
       <translation>「ページの追加」をクリックします。1ページが1つのイベントです。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#88</source>
       <translation>このページの「条件…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#89</source>
       <translation>「ターン数」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#91</source>
+      <source>#90</source>
       <translation>3と入力します。3ターン目の始めに起こります。</translation>
     </message>
     <message>
-      <source>#92</source>
+      <source>#91</source>
       <translation>「戦闘」タブのままなので、「敵キャラのステートの変更」をクリックします。</translation>
     </message>
     <message>
-      <source>#93</source>
+      <source>#92</source>
       <translation>「敵キャラ」で「敵グループ全体」を選んでから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#94</source>
+      <source>#93</source>
       <translation>「付加」でステートになり、「解除」で元に戻ります。</translation>
     </message>
     <message>
-      <source>#95</source>
+      <source>#94</source>
       <translation>「ステート」で、最後にある自分で作ったものを選びます。</translation>
     </message>
     <message>
-      <source>#96</source>
+      <source>#95</source>
       <translation>「メッセージ」タブをクリックします。ミラが気づきます。</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#96</source>
       <translation>「メッセージの表示」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#97</source>
       <translation>今度は人が話すので、「顔…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#98</source>
       <translation>「ミラ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#99</source>
       <translation>ミラの言葉（みんな眠ったわ！など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#100</source>
       <translation>「話す人」をクリックして、ミラの名前を書きます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#101</source>
       <translation>トーマが答えます。「顔…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#103</source>
-      <translation>名前をいくつかクリックして、顔を見てみます。そのあと「次へ」です。</translation>
+      <source>#102</source>
+      <translation>「セナ」をクリックしてみましょう。決める前に、右で顔を確かめられます。</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#103</source>
       <translation>「トーマ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#105</source>
+      <source>#104</source>
       <translation>トーマの返事（今のうちに攻めるんだ！など）を入力します。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#105</source>
       <translation>顔を見ればトーマだとわかるので、この「話す人」は空でもかまいません。</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#106</source>
       <translation>「戦闘テスト…」をクリックしてください。2つのイベントを確かめます。</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#107</source>
       <translation>番人を攻撃し続けます。3ターン目に敵が眠り、ミラが話します。</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#108</source>
       <translation>番人のHPが半分になると地面が揺れ、30回復します。見たら「次へ」です。</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#109</source>
       <translation>8と入力します。ゲームでここに来るころのミラに近い強さです。</translation>
     </message>
     <message>
-      <source>#111</source>
+      <source>#110</source>
       <translation>1人で勝てるか試します。仲間が要るかもしれません。Escキーでやめられます。</translation>
     </message>
     <message>
-      <source>#112</source>
+      <source>#111</source>
       <translation>「OK」をクリックして、敵グループと戦闘イベントを残します。</translation>
     </message>
     <message>
-      <source>#113</source>
+      <source>#112</source>
       <translation>マップの番人はそのままで大丈夫です。イベントが、この敵グループを呼び出します。</translation>
     </message>
     <message>
-      <source>#114</source>
-      <translation>古い鉱山に出るコウモリやカブトムシも、決めたとおりに行動します。</translation>
-    </message>
-    <message>
-      <source>#115</source>
+      <source>#113</source>
       <translation>「プレイ」でも番人に会えますが、村から森、レバー、鉱山と長い道のりです。</translation>
     </message>
     <message>
-      <source>#116</source>
+      <source>#114</source>
       <translation>「保存」をクリックしてください。作ったものがすべてプロジェクトに書き込まれます。</translation>
     </message>
     <message>
-      <source>#117</source>
+      <source>#115</source>
       <translation>完成です！敵グループを組み、戦闘中に出来事を起こせるようになりました。</translation>
     </message>
     <message>
-      <source>#118</source>
+      <source>#116</source>
       <translation>レッスン18では、自動で進むイベントシーンを作ります。「次へ」で終わります。</translation>
     </message>
   </context>

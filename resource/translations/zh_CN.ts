@@ -3358,27 +3358,27 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>点击“选择…”，查看所有的音乐。</translation>
+      <translation>在“音乐”中选择“村庄”，它适合安宁的地方。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>点击“村庄”，它适合安宁的地方。</translation>
+      <translation>点击“选择…”，可以进一步设置这首音乐。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>“音量”决定声音大小。略低于 100 %，音效才不会被盖住。</translation>
+      <translation>这里也已经选好“村庄”。所有的音乐都在这个列表里。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>点击“确定”，使用这首音乐。</translation>
+      <translation>“音量”决定声音大小。略低于 100 %，音效才不会被盖住。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>输入玩家会看到的名称，例如：琥珀村。然后点击“下一步”。</translation>
+      <translation>点击“确定”，使用这首音乐。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>点击“确定”。村庄有了音乐，也有了给玩家看的名称。</translation>
+      <translation>输入玩家会看到的名称，例如：琥珀村。然后按 Enter 键。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -3406,62 +3406,70 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>这里到处是岩石。可是不设背景的话，战斗画面会是一片草原。</translation>
+      <translation>点击“自然”选项卡。这个矿洞就是用里面的“岩石”搭成的。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>双击“旧矿洞”。</translation>
+      <translation>这里到处是岩石。可是不设背景的话，战斗画面会是一片草原。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>点击“战斗背景”旁边的空框。</translation>
+      <translation>双击“旧矿洞”。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>点击几个名称，在右边看看背景的样子。然后点击“下一步”。</translation>
+      <translation>点击“战斗背景”旁边的空框。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>点击“岩地”，它适合矿洞。</translation>
+      <translation>点击几个名称，在右边看看背景的样子。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>点击“确定”，使用这个背景。</translation>
+      <translation>点击“岩地”，它适合矿洞。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>“遇敌”列表还是空的，不会出现敌人。遇敌在第 14 课学习。</translation>
+      <translation>点击“确定”，使用这个背景。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>点击“确定”。以后矿洞里的敌人会出现在岩地上。</translation>
+      <translation>点击“到达时显示名称”来取消勾选：进入矿洞时不显示名称。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>地图看上去没有变化，背景只在战斗时才看得到。</translation>
+      <translation>点击“确定”。以后矿洞里的敌人会出现在岩地上。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>“撤销”也能取消在“地图属性”里的修改，一次取消一个窗口的内容。</translation>
+      <translation>地图看上去没有变化，背景只在战斗时才看得到。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>点击“地图”，重新隐藏事件。</translation>
+      <translation>“遇敌”列表还是空的，不会出现敌人。遇敌在第 14 课学习。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>在这个模式下，右键点击地图视图也能选“地图属性…”。</translation>
+      <translation>“撤销”也能取消在“地图属性”里的修改，一次取消一个窗口的内容。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>点击“保存”，把音乐、名称和背景写入项目的文件夹。</translation>
+      <translation>点击“地图”，重新隐藏事件。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>完成了！你会给地图配音乐、设置到达时显示的名称和战斗背景了。</translation>
+      <translation>在这个模式下，右键点击地图视图也能选“地图属性…”。</translation>
     </message>
     <message>
       <source>#49</source>
+      <translation>点击“保存”，把音乐、名称和背景写入项目的文件夹。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>完成了！你会给地图配音乐、设置到达时显示的名称和战斗背景了。</translation>
+    </message>
+    <message>
+      <source>#51</source>
       <translation>第 11 课会让卫兵沿着你定的路线走动。点击“下一步”结束本课。</translation>
     </message>
   </context>
@@ -5585,7 +5593,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>点击“每回合”，甲虫每回合会恢复 5 点 HP。</translation>
+      <translation>点击“每回合”，甲虫每回合会恢复 5 点 HP。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -5605,326 +5613,318 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>在“行动限制”中选择“无法行动”。</translation>
+      <translation>在“行动限制”中选择“无法行动”。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>点击“战斗结束时解除”，回到地图上就不会睡着了。</translation>
-    </message>
-    <message>
-      <source>#40</source>
       <translation>点击“回合结束时”，睡着的人就会自己醒来。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#40</source>
       <translation>输入 2：至少睡两个回合。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#41</source>
       <translation>这里也输入 2：最多睡两个回合。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#42</source>
       <translation>点击“确定”，数据库会保留这些修改并关闭。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#43</source>
       <translation>接下来是敌群，也就是一起战斗的敌人。给守卫添两只蝙蝠。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#44</source>
       <translation>点击“敌群”选项卡。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#45</source>
       <translation>点击“岩石守卫之战”。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#46</source>
       <translation>点击“添加”，增加一个成员。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#47</source>
       <translation>在“敌人”中选择“洞穴蝙蝠”。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#48</source>
       <translation>输入 200，蝙蝠会移到守卫左边。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#49</source>
       <translation>输入 440，这只飞在右边。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#50</source>
       <translation>点击“战斗测试…”，和它们三个较量一下。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#51</source>
       <translation>点击“添加”，米拉会加入测试的队伍。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#52</source>
       <translation>输入 30。米拉这么强，就能撑完整场战斗。</translation>
     </message>
     <message>
-      <source>#54</source>
+      <source>#53</source>
       <translation>点击“开始战斗”。</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#54</source>
       <translation>打一个回合：按 Enter 选“攻击”，再按一次选对象。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#55</source>
       <translation>三个敌人都会攻击，但没有什么变化。这就要靠战斗事件了。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#56</source>
       <translation>按 Esc 键离开战斗。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#57</source>
       <translation>点击“确定”，米拉会留在队伍里，供以后测试。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#58</source>
       <translation>现在制作战斗事件。第一个：受了重伤的守卫从岩石中获得力量。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#59</source>
       <translation>点击“条件…”，设置什么时候发生。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#60</source>
       <translation>点击“敌人的 HP”，守卫和 50 % 会自动填好，正合适。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#61</source>
       <translation>双击“+”，添加一条指令。</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#62</source>
       <translation>大部分指令在战斗中也能用，“战斗”选项卡里的只能在战斗中用。</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#63</source>
       <translation>已经选中了“显示消息”。点击“确定”。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#64</source>
       <translation>输入发生的事，例如：守卫从岩石中吸取力量！然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#65</source>
       <translation>这不是谁说的话，“说话人”空着就行。</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#66</source>
       <translation>双击新的“+”。</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#67</source>
       <translation>点击“画面”选项卡，让大地震动。</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>点击“震动画面”。</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#69</source>
       <translation>输入 8，震得厉害一些。最大是 9。</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#70</source>
       <translation>输入 40：持续 40 帧，也就是三分之二秒。</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#71</source>
       <translation>勾选后，震动结束才执行下一条指令。</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#72</source>
       <translation>双击“闪烁画面”，双击可以直接选定指令。</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#73</source>
       <translation>红、绿、蓝都是 255，就是白光。</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#74</source>
       <translation>170 的强度下，仍能透过光看到战斗。</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#75</source>
       <translation>输入 20，让光很快消失。</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#76</source>
       <translation>点击“流程”选项卡，这里要停顿一下。</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#77</source>
       <translation>双击“等待”。</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#78</source>
       <translation>输入 20。</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#79</source>
       <translation>20 帧就是三分之一秒，让玩家看清闪光。</translation>
     </message>
     <message>
-      <source>#81</source>
+      <source>#80</source>
       <translation>点击“战斗”选项卡。</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#81</source>
       <translation>可以让敌人恢复、出现、行动，也可以中止战斗。</translation>
     </message>
     <message>
-      <source>#83</source>
+      <source>#82</source>
       <translation>双击“敌人 HP 增减”。</translation>
     </message>
     <message>
-      <source>#84</source>
+      <source>#83</source>
       <translation>已经选好了第一个成员：岩石守卫。</translation>
     </message>
     <message>
-      <source>#85</source>
+      <source>#84</source>
       <translation>选中的是“增加”，也就是恢复。“减少”则会使其受伤。</translation>
     </message>
     <message>
-      <source>#86</source>
+      <source>#85</source>
       <translation>输入 30，恢复 30 点 HP。</translation>
     </message>
     <message>
-      <source>#87</source>
+      <source>#86</source>
       <translation>指令多了？右键点击它，可以选“删除指令”。</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#87</source>
       <translation>点击“新建页”，每一页是一个事件。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#88</source>
       <translation>点击这一页的“条件…”。</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#89</source>
       <translation>点击“回合数达到”。</translation>
     </message>
     <message>
-      <source>#91</source>
+      <source>#90</source>
       <translation>输入 3，第三回合开始时发生。</translation>
     </message>
     <message>
-      <source>#92</source>
+      <source>#91</source>
       <translation>“战斗”选项卡还开着，点击“敌人状态变更”。</translation>
     </message>
     <message>
-      <source>#93</source>
+      <source>#92</source>
       <translation>在“敌人”中选择“整个敌群”。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#94</source>
+      <source>#93</source>
       <translation>“附加”使其陷入状态，“解除”则是去除状态。</translation>
     </message>
     <message>
-      <source>#95</source>
+      <source>#94</source>
       <translation>在“状态”中选择最后一个，就是你做的那个。</translation>
     </message>
     <message>
-      <source>#96</source>
+      <source>#95</source>
       <translation>点击“消息”选项卡。米拉会注意到。</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#96</source>
       <translation>双击“显示消息”。</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#97</source>
       <translation>点击“头像…”，这次是有人在说话。</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#98</source>
       <translation>点击“米拉”。</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#99</source>
       <translation>输入米拉说的话，例如：它们睡着了！然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#100</source>
       <translation>点击“说话人”，写上她的名字。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#101</source>
       <translation>托马回答她。点击“头像…”。</translation>
     </message>
     <message>
-      <source>#103</source>
-      <translation>点击几个名称，看看头像。然后点击“下一步”。</translation>
+      <source>#102</source>
+      <translation>点击“塞娜”看看：确定之前，可以在右边查看头像。</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#103</source>
       <translation>点击“托马”。</translation>
     </message>
     <message>
-      <source>#105</source>
+      <source>#104</source>
       <translation>输入他的回答，例如：趁现在快打！然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#105</source>
       <translation>看头像就知道是托马，这里的“说话人”可以空着。</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#106</source>
       <translation>点击“战斗测试…”，看看这两个事件。</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#107</source>
       <translation>每回合都攻击守卫。第三回合敌人会睡着，米拉会说话。</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#108</source>
       <translation>守卫的 HP 减半时，大地震动，他会恢复 30 点。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#109</source>
       <translation>输入 8，更接近游戏中走到这里时的米拉。</translation>
     </message>
     <message>
-      <source>#111</source>
+      <source>#110</source>
       <translation>看看她一个人能不能赢，也许需要同伴。按 Esc 键可以离开。</translation>
     </message>
     <message>
-      <source>#112</source>
+      <source>#111</source>
       <translation>点击“确定”，保留敌群和战斗事件。</translation>
     </message>
     <message>
-      <source>#113</source>
+      <source>#112</source>
       <translation>地图上的守卫不用改，他的事件用的就是这个敌群。</translation>
     </message>
     <message>
-      <source>#114</source>
-      <translation>旧矿洞里出没的蝙蝠和甲虫，也按你的设置行动。</translation>
-    </message>
-    <message>
-      <source>#115</source>
+      <source>#113</source>
       <translation>用“试玩”也能见到守卫，不过路很长：村庄、森林、拉杆、矿洞。</translation>
     </message>
     <message>
-      <source>#116</source>
+      <source>#114</source>
       <translation>点击“保存”，把敌人、状态和敌群写入项目的文件夹。</translation>
     </message>
     <message>
-      <source>#117</source>
+      <source>#115</source>
       <translation>完成了！你会编排敌群，也会让战斗中发生各种事情了。</translation>
     </message>
     <message>
-      <source>#118</source>
+      <source>#116</source>
       <translation>第 18 课会编排自动进行的过场演出。点击“下一步”结束本课。</translation>
     </message>
   </context>
