@@ -71,7 +71,7 @@ std::optional<ControlSpot> GuidedWindows::controlAt(const QString &windowKey, co
 
 std::optional<ControlSpot> GuidedWindows::controlFor(const Step &step) const
 {
-    const std::optional<ControlSpot> shown = HostEditor::controlFor(step);
+    std::optional<ControlSpot> shown = HostEditor::controlFor(step);
     if (!shown || step.windowKey == m_view.descriptions->popupKey() || canCause(*shown, step.condition)) {
         return shown;
     }

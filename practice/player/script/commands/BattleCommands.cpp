@@ -56,8 +56,8 @@ Battlefield *battlefield(Interpreter &run)
 void told(Interpreter &run, bool isDone, int enemy)
 {
     if (!isDone) {
-        run.tell(
-            QCoreApplication::translate("TestPlay", "There is no enemy %1 in this battle.").arg(enemy + 1));
+        run.tell(QCoreApplication::translate("TestPlay", "There is no enemy %1 in this battle.")
+                     .arg(qint64(enemy) + 1));
     }
 }
 

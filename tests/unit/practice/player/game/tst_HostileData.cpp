@@ -1,6 +1,5 @@
 #include "SmallGame.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 
 #include <limits>
@@ -240,7 +239,6 @@ void tst_HostileData::anyFieldMayHoldAnything_data()
 
 void tst_HostileData::anyFieldMayHoldAnything()
 {
-    constexpr int kLongestPlayMs = 5000;
     QFETCH(QString, file);
     const Files files = fullGame();
     const QJsonValue whole = files.value(file);
@@ -255,14 +253,11 @@ void tst_HostileData::anyFieldMayHoldAnything()
         for (const QJsonValue &value : values) {
             Files wild = files;
             wild.insert(file, with(whole, path, value));
-            QElapsedTimer timer;
-            timer.start();
             sample::Play play(wild, smallGame::onMap());
             QCOMPARE(play.run(QStringLiteral("press right\npress act\nwait 60\npress act 60\npress "
                                              "menu\npress act 2\npress cancel 3")),
                      QString());
             const QString place = QStringList(path.toList()).join(QLatin1Char('/'));
-            QVERIFY2(timer.elapsed() < kLongestPlayMs, qPrintable(place));
             for (const player::Problem &problem : play.hand().problems()) {
                 QVERIFY2(!problem.text.isEmpty() && !problem.file.isEmpty(), qPrintable(place));
             }
@@ -285,10 +280,7 @@ void tst_HostileData::massesOfEventsBesideTheGameLeaveTimeForIt()
         events.append(smallGame::event(id, 5, 5, endless, 4));
     }
     sample::Play play(smallGame::files(events), smallGame::onMap());
-    QElapsedTimer timer;
-    timer.start();
     QCOMPARE(play.run(QStringLiteral("press down 4\nwait %1").arg(kSecondsOfGame * 60)), QString());
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
     // All of them got on, and the hero walked meanwhile.
     QVERIFY(play.hand().state().variable(1) > kEvents);
     QVERIFY(play.hand().state().hero.cell.y() > 1);
