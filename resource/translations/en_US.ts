@@ -4735,178 +4735,226 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Click “Database”. First you make two skills.</translation>
+      <translation>One of your heroes waits in “Amberfield”, which is open now.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click the “Skills” tab. All skills of the game are in its list.</translation>
+      <translation>Click “Events” to see who is in the village. Then click “Next”.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Click “Add”: a new, empty skill comes last in the list. Then click “Next”.</translation>
+      <translation>Toma waits here. Double-click him.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>The first one heals. Type a name, such as Heal, and click “Next”.</translation>
+      <translation>Whoever speaks to Toma gets him into the party, with his class and all its skills.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>Choose “One ally” at “Acts on”. Then click “Next”.</translation>
+      <translation>Click “Cancel”. Before he joins, there should be something to learn.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>At 0 it costs no MP and can be used without end. Change that when you like.</translation>
+      <translation>Click “Database”. First you make two skills.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Click “Add…” below “Effects” to decide what the skill does.</translation>
+      <translation>Click the “Skills” tab. All skills of the game are in its list.</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>“HP” is chosen: the skill changes somebody's health.</translation>
+      <translation>Click “Add”: a new, empty skill comes last in the list. Then click “Next”.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Type 40 at “Points”. That many HP come back.</translation>
+      <translation>The first one heals. Type a name, such as Heal, and click “Next”.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Click “OK”.</translation>
+      <translation>Choose “One ally” at “Acts on”.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>The second skill attacks. Click “Add” once more, and then “Next”.</translation>
+      <translation>Click “Add…” below “Effects” to decide what the skill does.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Type a name, such as Spark, and click “Next”.</translation>
+      <translation>“HP” is chosen: the skill changes somebody's health.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>Choose “One enemy” this time. Then click “Next”.</translation>
+      <translation>Type 40 at “Points”. That many HP come back.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Click “Add…” for its effect.</translation>
+      <translation>Click “OK”.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Type -25. A number below 0 takes HP away.</translation>
+      <translation>Click “OK” to keep the first skill. At 0 MP it can be used without end.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>A skill may have several effects. Click “Add…” again.</translation>
+      <translation>Click “Database” again, for the second skill.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Click “Element”. “Fire” comes first there, which suits a spark.</translation>
+      <translation>The second skill attacks. Click “Add” once more, and then “Next”.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Click “OK”. Enemies that fear fire will suffer twice as much.</translation>
+      <translation>Type a name, such as Spark, and click “Next”.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>Click “OK” to keep both skills.</translation>
+      <translation>Choose “One enemy” this time.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Nobody can use the skills yet. Each hero has a class, and the class decides on the skills.</translation>
+      <translation>Click “Add…” for its effect.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>Click “Database” again, now for the classes.</translation>
+      <translation>Type -25. A number below 0 takes HP away.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>Click the “Classes” tab. The curves there show how HP and MP grow with the level.</translation>
+      <translation>A skill may have several effects. Click “Add…” again.</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Click “Traveler”, the class of Mila.</translation>
+      <translation>Click “Element”. “Fire” comes first there, which suits a spark.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Click “Add…” below “Skills to learn”.</translation>
+      <translation>Click “OK”. Enemies that fear fire will suffer twice as much.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Click your second skill, the one that attacks.</translation>
+      <translation>Click “OK” to keep the second skill.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>At level 1 Mila knows it from the start. Click “OK”.</translation>
+      <translation>Who can learn the skills? Double-click the Elder.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>Toma is a Guardian and has to bear a lot. Click “Guardian”.</translation>
+      <translation>Not the Elder: he only talks, and is not in the database of heroes.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “Add…” below “Traits”. A trait is always there, without being used.</translation>
+      <translation>Click “Cancel”. He can stay as he is.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>“Max HP” is chosen, which is what a Guardian needs.</translation>
+      <translation>Nobody can use the skills yet. Each hero has a class, and the class decides on the skills.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Type 120 for a fifth more HP, and press Enter.</translation>
+      <translation>Click “Database” again, now for the classes.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Sena is the one who heals. Click “Sage”, her class.</translation>
+      <translation>Click the “Classes” tab. The curves there show how HP and MP grow with the level.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Click your first skill, the one that heals.</translation>
+      <translation>“Traveler”, the class of Mila, is selected. Click “Add…” below “Skills to learn”.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Skills can come from a trait, too. Click “Add…” below “Traits”.</translation>
+      <translation>Click your second skill, the one that attacks.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>Click the “Skills” tab. Then click “Next”.</translation>
+      <translation>At level 1 Mila knows it from the start. Click “OK”.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>“Knows a skill” gives one at any level. The list also has a trait that forbids one.</translation>
+      <translation>Click “Add…” below “Traits”. A trait is always there, without being used.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>“Strike” is chosen, so that Sena can also defend herself.</translation>
+      <translation>“Max HP” is chosen. Type 110 and press Enter: Mila gets a tenth more HP.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Click “OK”. All three classes differ from one another now.</translation>
+      <translation>Toma is a Guardian and has to bear a lot. Click “Guardian”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Click “Save” to write skills and classes into the project's folder.</translation>
+      <translation>A Guardian needs even more HP. Click “Add…” below “Traits”.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Click “Play” to see the new skill in the game.</translation>
+      <translation>Type 120 for a fifth more HP, and press Enter.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Begin a new game. On the map, X opens the menu, with Mila's skills.</translation>
+      <translation>Sena is the one who heals. Click “Sage”, her class.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>The menu also shows her status, with her class. Toma and Sena join later.</translation>
+      <translation>Click “Add…” below “Skills to learn”.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Close the menu and press Esc on the map. You are back in the editor.</translation>
+      <translation>Click your first skill, the one that heals.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Done! You can make skills, let a class learn them, and give it traits.</translation>
+      <translation>Skills can come from a trait, too. Click “Add…” below “Traits”.</translation>
     </message>
     <message>
       <source>#51</source>
+      <translation>Click the “Skills” tab. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>“Knows a skill” gives one at any level. The list also has a trait that forbids one.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>“Strike” is chosen, so that Sena can also defend herself.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>Click “OK”. All three classes differ from one another now.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>A Guardian should look like one. Double-click Toma.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click “Keeps its direction”. He keeps his eyes on the path, whoever speaks to him.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Click “Save” to write skills and classes into the project's folder.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click “Play” to see the new skill in the game.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>Begin a new game. On the map, X opens the menu, with Mila's skills.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>The menu also shows her status, with her class. Toma and Sena join later.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Look around in the menu. Esc on the map leads back to the editor.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Done! You can make skills, let a class learn them, and give it traits.</translation>
+    </message>
+    <message>
+      <source>#63</source>
       <translation>Lesson 16 builds the battle against the stone warden. Click “Next” to finish.</translation>
     </message>
   </context>
@@ -5963,39 +6011,39 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Chapter 1: the way up. Click “Full size”, so that the arrow points at the right cell.</translation>
+      <translation>Chapter 1: the way up. Click “Amberfield”, where it begins.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Amberfield”. The way to the hilltop begins in the village.</translation>
-    </message>
-    <message>
-      <source>#10</source>
       <translation>Click “Events” to see and make events.</translation>
     </message>
     <message>
-      <source>#11</source>
+      <source>#10</source>
       <translation>The path ends here in the west. Double-click this cell to make the way up.</translation>
     </message>
     <message>
-      <source>#12</source>
+      <source>#11</source>
       <translation>Without a picture the event is not seen. Players just walk on along the path.</translation>
     </message>
     <message>
-      <source>#13</source>
+      <source>#12</source>
       <translation>Choose “Touched by the player”, as with a door. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#13</source>
       <translation>Double-click “+” to add a command.</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>Click the “Scene” tab.</translation>
     </message>
     <message>
+      <source>#15</source>
+      <translation>Click “Transfer”. It leads to another place.</translation>
+    </message>
+    <message>
       <source>#16</source>
-      <translation>Double-click “Transfer”. It leads to another place.</translation>
+      <translation>Click “OK”.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -6015,371 +6063,335 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Click “OK”.</translation>
-    </message>
-    <message>
-      <source>#22</source>
       <translation>Click “OK” to keep the command.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>Click “Copy page”. The way back will be much the same.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>Click “OK”. The way up is there.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>The path is two cells wide: later you can copy the way with a right click, “Copy event”.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>Click “Hilltop”. Whoever comes up has to come down again.</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#26</source>
       <translation>Double-click this cell, where the path leaves the map.</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#27</source>
       <translation>Click “Paste page”. The copy comes with its command and with its way to start.</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#28</source>
       <translation>The copy is page 2. It counts, because it comes last.</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#29</source>
       <translation>It still leads up the hill. Double-click the command to change that.</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#30</source>
       <translation>Click “Choose…” again.</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#31</source>
       <translation>Click “Amberfield”.</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#32</source>
       <translation>Click the path, one cell from its western end. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#33</source>
       <translation>Not on the way up itself, though: column 0 would lead right back to the hill.</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#34</source>
       <translation>Click “OK” to take this cell.</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#35</source>
       <translation>Click “OK”. The command leads back to the village now.</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#36</source>
       <translation>Click “OK”. Now there is a way back, too.</translation>
     </message>
     <message>
+      <source>#37</source>
+      <translation>Chapter 2: the words. Double-click this free cell. The event of the scene goes here.</translation>
+    </message>
+    <message>
       <source>#38</source>
-      <translation>Here, too, “Copy event” and “Paste event” after a right click make the second cell.</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>Chapter 2: the words. The Elder waits here already. Double-click him.</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>He appears when this switch is on. The battle against the warden turns it on.</translation>
-    </message>
-    <message>
-      <source>#41</source>
-      <translation>Click “Cancel”. He can stay as he is.</translation>
-    </message>
-    <message>
-      <source>#42</source>
-      <translation>Double-click this free cell. The event of the scene goes here.</translation>
-    </message>
-    <message>
-      <source>#43</source>
       <translation>Nobody sees this event. It tells all others what to do, like a director.</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>Choose switch 5 at “Switch”, as for the Elder.</translation>
+      <source>#39</source>
+      <translation>Choose switch 5 at “Switch”: the battle against the warden turns it on. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#40</source>
       <translation>Choose “By itself”: the scene begins at once, while the player watches. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#41</source>
       <translation>Mila is the first to speak. Double-click “+”.</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#42</source>
       <translation>Double-click “Show message”.</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#43</source>
       <translation>Click “Face…”. In a scene, faces show who speaks.</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>Click “Mila”.</translation>
+      <source>#44</source>
+      <translation>All faces are in this list. In this scene Mila, Toma and the Elder speak.</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#45</source>
+      <translation>Mila speaks first. Click “Mila”.</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>Click “OK”. Her face will be beside her words.</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#47</source>
       <translation>Type her words, such as Look, the whole village! Then click “Next”.</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#48</source>
       <translation>Click “OK” to keep her message.</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#49</source>
       <translation>Toma answers. Double-click the new “+”.</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>“Show message” is selected. Click “OK”.</translation>
+      <source>#50</source>
+      <translation>Double-click “Show message” again.</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#51</source>
       <translation>Click “Face…”.</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#52</source>
       <translation>Click “Toma”.</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#53</source>
       <translation>Type his words, such as Soon it will be bright. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>Click “OK” to keep his answer.</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>The Elder has the last word. Double-click “+”.</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>Click “Elder”.</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>Type his thanks, such as You brought the light home. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>Click “OK”. All three have spoken now.</translation>
     </message>
     <message>
+      <source>#59</source>
+      <translation>Click the last message. It is the Elder's; the other two come before it.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Chapter 3: the movement. After these words Mila walks to the lamp. Double-click “+”.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Click “Movement route”. It lets somebody walk.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Double-click it to add it to the scene.</translation>
+    </message>
+    <message>
       <source>#63</source>
-      <translation>Three messages, one after the other: that is how the scene begins.</translation>
+      <translation>“Player” is chosen here, and that is Mila.</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>Click “OK”. The words are finished.</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>Chapter 3: the movement. Double-click the event of the scene.</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>After these words Mila walks up to the lamp and lights it.</translation>
-    </message>
-    <message>
-      <source>#67</source>
-      <translation>Double-click “Movement route”. It lets somebody walk.</translation>
-    </message>
-    <message>
-      <source>#68</source>
-      <translation>Choose “Player”, who is Mila.</translation>
-    </message>
-    <message>
-      <source>#69</source>
       <translation>Click “Edit…” to lay down the way.</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#65</source>
       <translation>Click “Up” five times: it is five cells to the lamp. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#66</source>
       <translation>Click “Switch on…”. A switch will light the lamp when she is there.</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#67</source>
       <translation>Click “…” to choose a switch. You need a new one.</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#68</source>
       <translation>Click “Change maximum…”.</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#69</source>
       <translation>Type 6 and press Enter.</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#70</source>
       <translation>Click the new switch, the sixth.</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#71</source>
       <translation>Type a name, such as Lamp returned, and press Enter.</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#72</source>
       <translation>Click “OK”. The switch comes last in the route.</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#73</source>
       <translation>Click “Preview…” to see the way.</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#74</source>
       <translation>The way goes from the ring to the disc. In the game it begins where Mila stands.</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#75</source>
       <translation>Click “Close”.</translation>
     </message>
     <message>
-      <source>#81</source>
-      <translation>Click “OK”. The next command waits until she has arrived.</translation>
+      <source>#76</source>
+      <translation>With the check mark here, the next command waits until she has arrived.</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#77</source>
+      <translation>Click “OK” to keep the route.</translation>
+    </message>
+    <message>
+      <source>#78</source>
       <translation>The route is below the words: first they speak, then she walks.</translation>
     </message>
     <message>
-      <source>#83</source>
-      <translation>Click “OK”. The movement is finished.</translation>
+      <source>#79</source>
+      <translation>Chapter 4: the end. When the lamp burns, there is music. Double-click “+”.</translation>
     </message>
     <message>
-      <source>#84</source>
-      <translation>Chapter 4: the end. Double-click the scene once more.</translation>
-    </message>
-    <message>
-      <source>#85</source>
-      <translation>When the lamp burns, there is music. Double-click “+”.</translation>
-    </message>
-    <message>
-      <source>#86</source>
+      <source>#80</source>
       <translation>Click the “Audio” tab.</translation>
     </message>
     <message>
-      <source>#87</source>
-      <translation>Double-click “Play music”.</translation>
+      <source>#81</source>
+      <translation>Click “Play music”.</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#82</source>
       <translation>Click “Choose…” to see all pieces.</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#83</source>
       <translation>Click “Home”: the light is back where it belongs.</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#84</source>
       <translation>Click “OK” to take this music.</translation>
     </message>
     <message>
-      <source>#91</source>
-      <translation>And there is light. Double-click “+”.</translation>
+      <source>#85</source>
+      <translation>Less “Volume” would make the music softer. For the end it can stay as it is.</translation>
     </message>
     <message>
-      <source>#92</source>
-      <translation>Click the “Screen” tab.</translation>
+      <source>#86</source>
+      <translation>Words, movement, music: the scene is complete from top to bottom.</translation>
     </message>
     <message>
-      <source>#93</source>
-      <translation>Click “Flash screen”. For a moment light fills the screen.</translation>
-    </message>
-    <message>
-      <source>#94</source>
-      <translation>The numbers are right as they are: white light, as short as a blink.</translation>
-    </message>
-    <message>
-      <source>#95</source>
-      <translation>Words, movement, music, light: the scene is complete from top to bottom.</translation>
-    </message>
-    <message>
-      <source>#96</source>
+      <source>#87</source>
       <translation>The scene must not begin again. Click “New page”.</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#88</source>
       <translation>Choose your new switch, the last one, at “Switch”.</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#89</source>
       <translation>Once the lamp burns, this empty page counts, and nothing happens any more.</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#90</source>
       <translation>Click “OK”. Only the lamp itself is left.</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#91</source>
       <translation>Double-click the stand of the lamp.</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#92</source>
       <translation>This page shows the stand without light. A second one will let it shine.</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#93</source>
       <translation>Click “New page”.</translation>
     </message>
     <message>
-      <source>#103</source>
+      <source>#94</source>
       <translation>Choose switch 6 here, too.</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#95</source>
       <translation>Click the empty field below “Picture”.</translation>
     </message>
     <message>
-      <source>#105</source>
-      <translation>Click the “Things” tab. Then click “Next”.</translation>
+      <source>#96</source>
+      <translation>Click the “Things” tab.</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#97</source>
+      <translation>Page 1 has the picture “Lamp stand”. Page 2 takes the one below it.</translation>
+    </message>
+    <message>
+      <source>#98</source>
       <translation>Click “Lit lamp”.</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#99</source>
       <translation>Click “Moves its feet while standing”: with a lamp it makes the flame flicker.</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#100</source>
       <translation>Click “Keeps its direction”, as a lamp does not turn to anybody.</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#101</source>
       <translation>Click “OK”. The story has its end.</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#102</source>
       <translation>Click “Save” to write the scene into the project's folder.</translation>
     </message>
     <message>
-      <source>#111</source>
-      <translation>Done! You can let heroes speak, walk and light a lamp, all by themselves.</translation>
-    </message>
-    <message>
-      <source>#112</source>
-      <translation>Lesson 19 adds the title screen; then you play it all. Click “Next” to finish.</translation>
+      <source>#103</source>
+      <translation>Done! Your heroes speak and walk by themselves. Lesson 19 adds the title screen.</translation>
     </message>
   </context>
   <context>
@@ -6431,7 +6443,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>Click “Show the game's title”, so that the name is on the title screen.</translation>
+      <translation>Click “Show the game's title”, so that the name is on the title screen. Then click “Next”.</translation>
     </message>
     <message>
       <source>#13</source>
@@ -6439,94 +6451,86 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>“None” is chosen now: the title screen would stay dark behind the name.</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>Click “Village at dusk” to look at it.</translation>
-    </message>
-    <message>
-      <source>#16</source>
       <translation>The lamp is what the story is about: double-click “The lamp” to take it.</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>Click “Commands of the title screen…” to see what players can choose there.</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>“Add” would put a command of your own into the list, “Up” and “Down” would move it.</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>What the command does would be chosen here, “Credits” for instance.</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>In this field it could get words that suit your story.</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>An empty list stands for “New game”, “Continue” and “Quit”. That is all that you need.</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>Click “OK”. The list stays empty.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>Click “OK” to keep name and picture.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>By now your game has many events. Click “Find events”: none gets lost.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>All events of your game are in this list. A part of a name, typed above, makes it shorter.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>With “Switch” or “Variable” here you find out which events use one.</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>Click this row. It tells the map, the event and the cell where it stands.</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#26</source>
       <translation>Double-click it to see the event on its map.</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#27</source>
       <translation>The event is marked, and its map is chosen here. All these places are parts of your game.</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>The way of your players ends on the hilltop, beside the lamp.</translation>
+      <source>#28</source>
+      <translation>If your story grows, a right click on a map and “New map…” add more of them.</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>Click “Save”. With that, your game is complete.</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>Click “Play” and see how your game begins.</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>There it is: your name, your picture, and the three commands.</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#32</source>
       <translation>You can make maps, people, battles and scenes now, and a game of them all. Well done!</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#33</source>
       <translation>Let others play it, watch them, and change what they stumble over.</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#34</source>
       <translation>This was the last lesson. Choose “New game” and play on to the end!</translation>
     </message>
   </context>

@@ -4733,178 +4733,226 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>「データベース」をクリックしてください。まず、スキルを2つ作ります。</translation>
+      <translation>開いている「アンバー村」で、主人公の1人が待っています。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>「スキル」タブをクリックしてください。ゲームのスキルが一覧に並びます。</translation>
+      <translation>「イベント」をクリックすると、村の人たちが見えます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>「追加」をクリックすると、一覧の最後に空のスキルができます。そのあと「次へ」です。</translation>
+      <translation>トーマはここにいます。ダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>1つ目は回復のスキルです。名前（いやしなど）を入力して、「次へ」をクリックします。</translation>
+      <translation>話しかけると、トーマが仲間になります。職業とそのスキルも一緒です。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>「効果範囲」で「味方単体」を選びます。そのあと「次へ」をクリックします。</translation>
+      <translation>「キャンセル」をクリックしてください。仲間になる前に、覚えるものを作りましょう。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>0のままなら、MPを使わずに何度でも使えます。あとで変えてもかまいません。</translation>
+      <translation>「データベース」をクリックしてください。まず、スキルを2つ作ります。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>「使用効果」の下の「追加…」をクリックして、スキルの働きを決めます。</translation>
+      <translation>「スキル」タブをクリックしてください。ゲームのスキルが一覧に並びます。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>「HP」が選ばれています。対象のHPを変えるスキルになります。</translation>
+      <translation>「追加」をクリックすると、一覧の最後に空のスキルができます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>「ポイント」に40と入力してください。それだけHPが回復します。</translation>
+      <translation>1つ目は回復のスキルです。名前（いやしなど）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>「OK」をクリックしてください。</translation>
+      <translation>「効果範囲」で「味方単体」を選んでください。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>2つ目は攻撃のスキルです。もう一度「追加」をクリックして、「次へ」をクリックします。</translation>
+      <translation>「使用効果」の下の「追加…」をクリックして、スキルの働きを決めます。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>名前（火花など）を入力して、「次へ」をクリックしてください。</translation>
+      <translation>「HP」が選ばれています。対象のHPを変えるスキルになります。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>今度は「敵単体」を選びます。そのあと「次へ」をクリックします。</translation>
+      <translation>「ポイント」に40と入力してください。それだけHPが回復します。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>「追加…」をクリックして、使用効果を加えます。</translation>
+      <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>-25と入力してください。マイナスの値なら、HPが減ります。</translation>
+      <translation>「OK」をクリックして、1つ目を決定します。消費MPは0なので、何度でも使えます。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>使用効果はいくつでも持てます。もう一度「追加…」をクリックしてください。</translation>
+      <translation>もう一度「データベース」をクリックします。次は2つ目のスキルです。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>「属性」をクリックしてください。最初の「炎」が火花にぴったりです。</translation>
+      <translation>2つ目は攻撃のスキルです。もう一度「追加」をクリックして、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>「OK」をクリックしてください。炎が弱点の敵には、2倍効きます。</translation>
+      <translation>名前（火花など）を入力して、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>「OK」をクリックして、2つのスキルを決定します。</translation>
+      <translation>今度は「敵単体」を選んでください。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>まだだれもこのスキルを使えません。何を覚えるかは、主人公の職業で決まります。</translation>
+      <translation>「追加…」をクリックして、使用効果を加えます。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>もう一度「データベース」をクリックします。次は職業です。</translation>
+      <translation>-25と入力してください。マイナスの値なら、HPが減ります。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>「職業」タブをクリックしてください。HPとMPの伸び方がグラフでわかります。</translation>
+      <translation>使用効果はいくつでも持てます。もう一度「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>ミラの職業「旅人」をクリックしてください。</translation>
+      <translation>「属性」をクリックしてください。最初の「炎」が火花にぴったりです。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>「習得するスキル」の下の「追加…」をクリックしてください。</translation>
+      <translation>「OK」をクリックしてください。炎が弱点の敵には、2倍効きます。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>2つ目に作った、攻撃のスキルをクリックしてください。</translation>
+      <translation>「OK」をクリックして、2つ目のスキルを決定します。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>レベル1なら、ミラは最初から使えます。「OK」をクリックしてください。</translation>
+      <translation>だれがスキルを覚えられるのでしょう。長老をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>トーマは仲間を守る役です。「守り手」をクリックしてください。</translation>
+      <translation>長老は話すだけで、スキルを覚えません。データベースの主人公ではないからです。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>「特徴」の下の「追加…」をクリックします。特徴は、使わなくても常に働きます。</translation>
+      <translation>「キャンセル」をクリックしてください。長老はこのままで大丈夫です。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>「最大HP」が選ばれています。守り手にちょうど必要な特徴です。</translation>
+      <translation>まだだれもこのスキルを使えません。何を覚えるかは、主人公の職業で決まります。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>120と入力してEnterキーを押すと、HPが2割増えます。</translation>
+      <translation>もう一度「データベース」をクリックします。次は職業です。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>回復はセナの役目です。セナの職業「賢者」をクリックしてください。</translation>
+      <translation>「職業」タブをクリックしてください。HPとMPの伸び方がグラフでわかります。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>1つ目に作った、回復のスキルをクリックしてください。</translation>
+      <translation>ミラの職業「旅人」です。「習得するスキル」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>スキルは特徴でも持てます。「特徴」の下の「追加…」をクリックしてください。</translation>
+      <translation>2つ目に作った、攻撃のスキルをクリックしてください。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>「スキル」タブをクリックします。そのあと「次へ」をクリックします。</translation>
+      <translation>レベル1なら、ミラは最初から使えます。「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>「スキル追加」なら、レベルに関係なく使えます。使えなくする特徴もあります。</translation>
+      <translation>「特徴」の下の「追加…」をクリックします。特徴は、使わなくても常に働きます。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>「強打」が選ばれています。これでセナも自分の身を守れます。</translation>
+      <translation>「最大HP」が選ばれています。110と入力してEnterキーを押すと、HPが1割増えます。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>「OK」をクリックしてください。3つの職業に、それぞれ個性ができました。</translation>
+      <translation>トーマは仲間を守る役です。「守り手」をクリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>「保存」をクリックしてください。スキルと職業がフォルダーに書き込まれます。</translation>
+      <translation>守り手には、もっとHPが必要です。「特徴」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>「プレイ」をクリックして、新しいスキルをゲームで見てみましょう。</translation>
+      <translation>120と入力してEnterキーを押すと、HPが2割増えます。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>ゲームを始め、マップでXキーを押すとメニューが開き、ミラのスキルが見られます。</translation>
+      <translation>回復はセナの役目です。セナの職業「賢者」をクリックしてください。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>メニューの「ステータス」で職業なども見られます。トーマとセナは、あとで仲間になります。</translation>
+      <translation>「習得するスキル」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>メニューを閉じ、マップでEscキーを押すと、エディターに戻ります。</translation>
+      <translation>1つ目に作った、回復のスキルをクリックしてください。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>完成です！スキルを作って職業に覚えさせ、特徴を付けられるようになりました。</translation>
+      <translation>スキルは特徴でも持てます。「特徴」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#51</source>
+      <translation>「スキル」タブをクリックします。そのあと「次へ」をクリックします。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>「スキル追加」なら、レベルに関係なく使えます。使えなくする特徴もあります。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>「強打」が選ばれています。これでセナも自分の身を守れます。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>「OK」をクリックしてください。3つの職業に、それぞれ個性ができました。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>守り手らしく見せましょう。トーマをダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>「向きを変えない」をクリックします。話しかけられても、道から目を離しません。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>「保存」をクリックしてください。スキルと職業がフォルダーに書き込まれます。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>「プレイ」をクリックして、新しいスキルをゲームで見てみましょう。</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>ゲームを始め、マップでXキーを押すとメニューが開き、ミラのスキルが見られます。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>メニューの「ステータス」で職業なども見られます。トーマとセナは、あとで仲間になります。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>メニューをひととおり見てみましょう。マップでEscキーを押すと、エディターに戻ります。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>完成です！スキルを作って職業に覚えさせ、特徴を付けられるようになりました。</translation>
+    </message>
+    <message>
+      <source>#63</source>
       <translation>レッスン16では、岩の番人との戦いを作ります。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
@@ -5961,39 +6009,39 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>第1章は丘への道です。「等倍」をクリックすると、矢印が正しいマスを指します。</translation>
+      <translation>第1章は丘への道です。道の始まる「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>「アンバー村」をクリックしてください。丘の上への道は、村から始まります。</translation>
-    </message>
-    <message>
-      <source>#10</source>
       <translation>「イベント」をクリックして、イベントを作れるようにします。</translation>
     </message>
     <message>
-      <source>#11</source>
+      <source>#10</source>
       <translation>村の道は、西のここで終わります。このマスをダブルクリックして、丘への道を作ります。</translation>
     </message>
     <message>
-      <source>#12</source>
+      <source>#11</source>
       <translation>画像がないので、イベントは見えません。プレイヤーは道をそのまま歩くだけです。</translation>
     </message>
     <message>
-      <source>#13</source>
+      <source>#12</source>
       <translation>「プレイヤーから接触」を選ぶと、マスに乗ったとき始まります。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#13</source>
       <translation>「+」をダブルクリックして、コマンドを追加します。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>「シーン」タブをクリックしてください。</translation>
     </message>
     <message>
+      <source>#15</source>
+      <translation>「場所移動」をクリックしてください。別の場所へ移動させるコマンドです。</translation>
+    </message>
+    <message>
       <source>#16</source>
-      <translation>「場所移動」をダブルクリックしてください。別の場所へ移動させるコマンドです。</translation>
+      <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -6013,371 +6061,335 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>「OK」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#22</source>
       <translation>「OK」をクリックして、コマンドを決定します。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>「ページコピー」をクリックします。帰り道もよく似ているので、あとで使います。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>「OK」をクリックしてください。丘への道ができました。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>道は2マス幅です。あとで右クリックの「イベントのコピー」で、下のマスにも置けます。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>「丘の上」をクリックしてください。登った人には、帰り道も必要です。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#26</source>
       <translation>道がマップの外へ出るこのマスを、ダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#27</source>
       <translation>「ページ貼り付け」をクリックします。コマンドも開始条件も一緒に入ります。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#28</source>
       <translation>貼り付けたものは2ページ目です。後ろのページが優先されます。</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#29</source>
       <translation>行き先はまだ丘の上です。コマンドをダブルクリックして変えましょう。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#30</source>
       <translation>もう一度「選択…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#31</source>
       <translation>「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#32</source>
       <translation>道の西の端から1つ右のマスをクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#33</source>
       <translation>X座標が0だと丘への道の上なので、すぐまた丘へ戻されてしまいます。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#34</source>
       <translation>「OK」をクリックして、このマスに決めます。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#35</source>
       <translation>「OK」をクリックしてください。行き先が村に変わりました。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#36</source>
       <translation>「OK」をクリックしてください。帰り道もできました。</translation>
     </message>
     <message>
+      <source>#37</source>
+      <translation>第2章はせりふです。この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
+    </message>
+    <message>
       <source>#38</source>
-      <translation>ここも右クリックの「イベントのコピー」「イベントの貼り付け」で、隣のマスに置けます。</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>第2章はせりふです。長老はもうここにいます。ダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>このスイッチがONのときだけ現れます。番人との戦いに勝つとONになります。</translation>
-    </message>
-    <message>
-      <source>#41</source>
-      <translation>「キャンセル」をクリックしてください。長老はこのままで大丈夫です。</translation>
-    </message>
-    <message>
-      <source>#42</source>
-      <translation>この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
-    </message>
-    <message>
-      <source>#43</source>
       <translation>このイベントは見えません。監督のように、みんなの動きを決めます。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>「スイッチ」で、長老と同じ5番を選んでください。</translation>
+      <source>#39</source>
+      <translation>「スイッチ」で5番を選びます。番人に勝つとONになります。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#40</source>
       <translation>「自動実行」を選ぶと、シーンがすぐ始まります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#41</source>
       <translation>最初に話すのはミラです。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#42</source>
       <translation>「メッセージの表示」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#43</source>
       <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐわかります。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>「ミラ」をクリックしてください。</translation>
+      <source>#44</source>
+      <translation>顔はすべてこの一覧にあります。このシーンでは、ミラ、トーマ、長老が話します。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#45</source>
+      <translation>最初に話すのはミラです。「ミラ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#47</source>
       <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#48</source>
       <translation>「OK」をクリックして、ミラのメッセージを決定します。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#49</source>
       <translation>トーマが答えます。新しい「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>「メッセージの表示」が選ばれています。「OK」をクリックしてください。</translation>
+      <source>#50</source>
+      <translation>もう一度「メッセージの表示」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#51</source>
       <translation>「顔…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#52</source>
       <translation>「トーマ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#53</source>
       <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>「OK」をクリックして、トーマの返事を決定します。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>最後は長老の言葉です。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>「長老」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>「OK」をクリックしてください。これで3人とも話しました。</translation>
     </message>
     <message>
+      <source>#59</source>
+      <translation>最後のメッセージをクリックします。長老の言葉で、その前に2人が話します。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>第3章は動きです。ミラがランプへ歩きます。「+」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>「移動ルートの設定」をクリックします。だれかを歩かせるコマンドです。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>ダブルクリックして、シーンに加えましょう。</translation>
+    </message>
+    <message>
       <source>#63</source>
-      <translation>3つのメッセージが順に並びました。これがシーンの始まりです。</translation>
+      <translation>「プレイヤー」が選ばれています。ミラのことです。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>「OK」をクリックしてください。せりふはこれで完成です。</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>第3章は動きです。シーンのイベントをダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>この言葉のあと、ミラがランプへ歩いていき、明かりを灯します。</translation>
-    </message>
-    <message>
-      <source>#67</source>
-      <translation>「移動ルートの設定」をダブルクリックします。だれかを歩かせるコマンドです。</translation>
-    </message>
-    <message>
-      <source>#68</source>
-      <translation>「プレイヤー」を選んでください。ミラのことです。</translation>
-    </message>
-    <message>
-      <source>#69</source>
       <translation>「編集…」をクリックして、歩き方を決めます。</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#65</source>
       <translation>「上に移動」を5回クリックします。ランプの前まで5マスです。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#66</source>
       <translation>「スイッチON…」をクリックします。着いたときに、スイッチでランプを灯します。</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#67</source>
       <translation>「…」をクリックしてスイッチを選びます。新しいものが必要です。</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#68</source>
       <translation>「最大数の変更…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#69</source>
       <translation>6と入力して、Enterキーを押してください。</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#70</source>
       <translation>新しくできた、6番目のスイッチをクリックしてください。</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#71</source>
       <translation>名前（ランプを返したなど）を入力して、Enterキーを押してください。</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#72</source>
       <translation>「OK」をクリックします。スイッチはルートの最後に入りました。</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#73</source>
       <translation>「プレビュー…」をクリックして、歩き方を確かめましょう。</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#74</source>
       <translation>輪から丸までが道のりです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#75</source>
       <translation>「閉じる」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#81</source>
-      <translation>「OK」をクリックします。歩き終わるまで、次のコマンドは待ちます。</translation>
+      <source>#76</source>
+      <translation>ここにチェックがあれば、歩き終わるまで次のコマンドは待ちます。</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#77</source>
+      <translation>「OK」をクリックして、ルートを決定します。</translation>
+    </message>
+    <message>
+      <source>#78</source>
       <translation>ルートはせりふの下に並びます。話し終わってから、歩き始めます。</translation>
     </message>
     <message>
-      <source>#83</source>
-      <translation>「OK」をクリックしてください。動きはこれで完成です。</translation>
+      <source>#79</source>
+      <translation>第4章は結末です。ランプが灯ると音楽が流れます。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#84</source>
-      <translation>第4章は結末です。もう一度シーンのイベントをダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#85</source>
-      <translation>ランプが灯ったら音楽を流します。「+」をダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#86</source>
+      <source>#80</source>
       <translation>「オーディオ」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#87</source>
-      <translation>「音楽の演奏」をダブルクリックしてください。</translation>
+      <source>#81</source>
+      <translation>「音楽の演奏」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#82</source>
       <translation>「選択…」をクリックして、曲の一覧を出します。</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#83</source>
       <translation>「わが家」をクリックしてください。光が帰ってきた場面にぴったりです。</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#84</source>
       <translation>「OK」をクリックして、この曲に決めます。</translation>
     </message>
     <message>
-      <source>#91</source>
-      <translation>そして、光があふれます。「+」をダブルクリックしてください。</translation>
+      <source>#85</source>
+      <translation>「音量」を下げると静かになります。結末なので、このままにしましょう。</translation>
     </message>
     <message>
-      <source>#92</source>
-      <translation>「画面」タブをクリックしてください。</translation>
+      <source>#86</source>
+      <translation>せりふ、動き、音楽。上から下まで、これでシーンがそろいました。</translation>
     </message>
     <message>
-      <source>#93</source>
-      <translation>「画面のフラッシュ」をクリックします。一瞬、光が画面に満ちます。</translation>
-    </message>
-    <message>
-      <source>#94</source>
-      <translation>数値はこのままで大丈夫です。白い光が、まばたきするほどの間だけ出ます。</translation>
-    </message>
-    <message>
-      <source>#95</source>
-      <translation>せりふ、動き、音楽、光。上から下まで、これでシーンがそろいました。</translation>
-    </message>
-    <message>
-      <source>#96</source>
+      <source>#87</source>
       <translation>シーンは1回だけでよいので、「ページ追加」をクリックします。</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#88</source>
       <translation>「スイッチ」で、新しく作った最後のスイッチを選んでください。</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#89</source>
       <translation>ランプが灯ったあとはこの空のページになり、もう何も起こりません。</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#90</source>
       <translation>「OK」をクリックしてください。あとはランプだけです。</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#91</source>
       <translation>ランプの台をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#92</source>
       <translation>このページは、明かりのない台です。2ページ目で光らせましょう。</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#93</source>
       <translation>「ページ追加」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#103</source>
+      <source>#94</source>
       <translation>ここでも、6番のスイッチを選んでください。</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#95</source>
       <translation>「画像」の下の空いた枠をクリックしてください。</translation>
     </message>
     <message>
-      <source>#105</source>
-      <translation>「もの」タブをクリックします。そのあと「次へ」をクリックします。</translation>
+      <source>#96</source>
+      <translation>「もの」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#97</source>
+      <translation>1ページ目の画像は「ランプ台」です。2ページ目には、その下の画像を使います。</translation>
+    </message>
+    <message>
+      <source>#98</source>
       <translation>「灯ったランプ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#99</source>
       <translation>「止まっている間も足踏み」をクリックすると、炎がゆらめきます。</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#100</source>
       <translation>「向きを変えない」をクリックします。ランプは、だれのほうも向きません。</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#101</source>
       <translation>「OK」をクリックしてください。これで物語に結末ができました。</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#102</source>
       <translation>「保存」をクリックしてください。シーンがフォルダーに書き込まれます。</translation>
     </message>
     <message>
-      <source>#111</source>
-      <translation>完成です！登場人物がひとりでに話し、歩くシーンを作れるようになりました。</translation>
-    </message>
-    <message>
-      <source>#112</source>
-      <translation>レッスン19でタイトル画面を付けて、遊んでみます。「次へ」をクリックすると終わります。</translation>
+      <source>#103</source>
+      <translation>完成です！シーンを作れるようになりました。レッスン19では、タイトル画面を付けます。</translation>
     </message>
   </context>
   <context>
@@ -6429,7 +6441,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>「ゲームタイトルを表示」をクリックすると、名前がタイトル画面に出ます。</translation>
+      <translation>「ゲームタイトルを表示」をクリックすると、名前が画面に出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -6437,94 +6449,86 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>今は「なし」です。このままでは、名前の後ろは暗いままになります。</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>「夕暮れの村」をクリックすると、その画像が見られます。</translation>
-    </message>
-    <message>
-      <source>#16</source>
       <translation>物語の主役はランプです。「ランプ」をダブルクリックして決めましょう。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>「タイトル画面のコマンド…」をクリックして、選べる項目を確かめましょう。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>「追加」で自分のコマンドを一覧に入れ、「上へ」「下へ」で順番を変えられます。</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>コマンドの働きは、ここで選びます。たとえば「クレジット」などです。</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>この欄で、物語に合う言葉に変えることもできます。</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>一覧が空なら「ニューゲーム」「コンティニュー」「終了」が出ます。今回はこれで十分です。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>「OK」をクリックしてください。一覧は空のままにします。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>「OK」をクリックして、名前と画像を決定します。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>イベントもずいぶん増えました。「イベント検索」をクリックすれば、すぐ見つかります。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>ゲームのすべてのイベントです。上の欄に名前の一部を入力すると、絞り込めます。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>ここで「スイッチ」や「変数」を選ぶと、それを使うイベントがわかります。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>この行をクリックしてください。マップ、イベント、マスの座標が書かれています。</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#26</source>
       <translation>ダブルクリックすると、マップ上のイベントが表示されます。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#27</source>
       <translation>イベントに印が付き、そのマップが選ばれました。並んでいるのは、みなあなたのマップです。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>プレイヤーの旅は、丘の上のランプのそばで終わります。</translation>
+      <source>#28</source>
+      <translation>物語が広がったら、マップを右クリックし、「新しいマップ…」で増やせます。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>「保存」をクリックしてください。これでゲームの完成です。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>「プレイ」をクリックして、ゲームの始まりを見てみましょう。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>タイトル画面です。付けた名前、選んだ画像、3つのコマンドが並んでいます。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#32</source>
       <translation>マップも人物も戦闘も作り、1本のゲームになりました。おめでとうございます！</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#33</source>
       <translation>だれかに遊んでもらい、つまずいたところを直すと、もっとよくなります。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#34</source>
       <translation>レッスンはこれで全部です。「ニューゲーム」を選び、最後まで遊んでみてください！</translation>
     </message>
   </context>

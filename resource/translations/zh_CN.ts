@@ -4733,178 +4733,226 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>点击“数据库”。先做两个技能。</translation>
+      <translation>现在打开的是“琥珀村”，有一位主角在那里等着。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“技能”选项卡。游戏里的技能都在它的列表中。</translation>
+      <translation>点击“事件”，看看村里有谁。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>点击“添加”，列表末尾会出现一个空的技能。然后点击“下一步”。</translation>
+      <translation>托马就在这里。双击他。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>第一个技能用来恢复。输入名称，例如：治疗。然后点击“下一步”。</translation>
+      <translation>和托马说话，他就会加入队伍，还会带来他的职业和技能。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>在“作用对象”中选择“单个队友”。然后点击“下一步”。</translation>
+      <translation>点击“取消”。在他加入之前，先做好可以学的技能。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>0 表示不消耗 MP，可以一直使用。以后可以随意修改。</translation>
+      <translation>点击“数据库”。先做两个技能。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>点击“使用效果”下面的“添加…”，决定技能的作用。</translation>
+      <translation>点击“技能”选项卡。游戏里的技能都在它的列表中。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>已经选中“HP”：这个技能会改变对象的 HP。</translation>
+      <translation>点击“添加”，列表末尾会出现一个空的技能。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>在“点数”中输入 40，就会恢复这么多 HP。</translation>
+      <translation>第一个技能用来恢复。输入名称，例如：治疗。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>点击“确定”。</translation>
+      <translation>在“作用对象”中选择“单个队友”。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>第二个技能用来攻击。再次点击“添加”，然后点击“下一步”。</translation>
+      <translation>点击“使用效果”下面的“添加…”，决定技能的作用。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>输入名称，例如：火花。然后点击“下一步”。</translation>
+      <translation>已经选中“HP”：这个技能会改变对象的 HP。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>这次选择“单个敌人”。然后点击“下一步”。</translation>
+      <translation>在“点数”中输入 40，就会恢复这么多 HP。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“添加…”，加入使用效果。</translation>
+      <translation>点击“确定”。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>输入 -25。负数会减少 HP。</translation>
+      <translation>点击“确定”，保留第一个技能。它不消耗 MP，可以一直使用。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>一个技能可以有好几种使用效果。再次点击“添加…”。</translation>
+      <translation>再次点击“数据库”，来做第二个技能。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>点击“属性”。排在首位的“火”正适合火花。</translation>
+      <translation>第二个技能用来攻击。再次点击“添加”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>点击“确定”。怕火的敌人会受到双倍伤害。</translation>
+      <translation>输入名称，例如：火花。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>点击“确定”，保留这两个技能。</translation>
+      <translation>这次选择“单个敌人”。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>现在还没有人会用这些技能。主角能学会什么，由他的职业决定。</translation>
+      <translation>点击“添加…”，加入使用效果。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>再次点击“数据库”，这次来设置职业。</translation>
+      <translation>输入 -25。负数会减少 HP。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>点击“职业”选项卡。曲线表示 HP 和 MP 怎样随等级增长。</translation>
+      <translation>一个技能可以有好几种使用效果。再次点击“添加…”。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>点击米拉的职业“旅人”。</translation>
+      <translation>点击“属性”。排在首位的“火”正适合火花。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>点击“学会的技能”下面的“添加…”。</translation>
+      <translation>点击“确定”。怕火的敌人会受到双倍伤害。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>点击你做的第二个技能，也就是用来攻击的那个。</translation>
+      <translation>点击“确定”，保留第二个技能。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>等级是 1，所以米拉一开始就会用。点击“确定”。</translation>
+      <translation>谁能学会这些技能？双击长老。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>托马负责保护大家，要很耐打。点击“守护者”。</translation>
+      <translation>长老只会说话，学不了。他不是数据库里的主角。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“特性”下面的“添加…”。特性不用使用，始终有效。</translation>
+      <translation>点击“取消”，长老保持原样就好。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>已经选中“最大 HP”，这正是守护者需要的。</translation>
+      <translation>现在还没有人会用这些技能。主角能学会什么，由他的职业决定。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>输入 120，再按 Enter 键，HP 就会增加两成。</translation>
+      <translation>再次点击“数据库”，这次来设置职业。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>负责恢复的是塞娜。点击她的职业“贤者”。</translation>
+      <translation>点击“职业”选项卡。曲线表示 HP 和 MP 怎样随等级增长。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>点击你做的第一个技能，也就是用来恢复的那个。</translation>
+      <translation>已经选中米拉的职业“旅人”。点击“学会的技能”下面的“添加…”。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>特性也能带来技能。点击“特性”下面的“添加…”。</translation>
+      <translation>点击你做的第二个技能，也就是用来攻击的那个。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>点击“技能”选项卡，然后点击“下一步”。</translation>
+      <translation>等级是 1，所以米拉一开始就会用。点击“确定”。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>用“追加技能”得到的技能不看等级。列表里也有禁止技能的特性。</translation>
+      <translation>点击“特性”下面的“添加…”。特性不用使用，始终有效。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>已经选中“重击”，这样塞娜也能保护自己。</translation>
+      <translation>已经选中“最大 HP”。输入 110，再按 Enter 键，米拉的 HP 增加一成。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>点击“确定”。现在三个职业各不相同了。</translation>
+      <translation>托马负责保护大家。点击“守护者”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>点击“保存”，把技能和职业写入项目的文件夹。</translation>
+      <translation>守护者需要更多 HP。点击“特性”下面的“添加…”。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>点击“试玩”，在游戏里看看新的技能。</translation>
+      <translation>输入 120，再按 Enter 键，HP 就会增加两成。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>开始新游戏，在地图上按 X 键打开菜单，就能看到米拉的技能。</translation>
+      <translation>负责恢复的是塞娜。点击她的职业“贤者”。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>菜单里还能看到她的职业和状态。托马和塞娜以后才会加入。</translation>
+      <translation>点击“学会的技能”下面的“添加…”。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>关闭菜单，在地图上按 Esc 键，就回到编辑器。</translation>
+      <translation>点击你做的第一个技能，也就是用来恢复的那个。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>完成了！你会制作技能、让职业学会它们，还会添加特性。</translation>
+      <translation>特性也能带来技能。点击“特性”下面的“添加…”。</translation>
     </message>
     <message>
       <source>#51</source>
+      <translation>点击“技能”选项卡，然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>用“追加技能”得到的技能不看等级。列表里也有禁止技能的特性。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>已经选中“重击”，这样塞娜也能保护自己。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>点击“确定”。现在三个职业各不相同了。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>守护者要有守护者的样子。双击托马。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>点击“保持朝向”。不管谁来搭话，他都盯着路。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>点击“保存”，把技能和职业写入项目的文件夹。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>点击“试玩”，在游戏里看看新的技能。</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>开始新游戏，在地图上按 X 键打开菜单，就能看到米拉的技能。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>菜单里还能看到她的职业和状态。托马和塞娜以后才会加入。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>在菜单里随意看看。在地图上按 Esc 键，就回到编辑器。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>完成了！你会制作技能、让职业学会它们，还会添加特性。</translation>
+    </message>
+    <message>
+      <source>#63</source>
       <translation>第 16 课会制作与岩石守卫的战斗。点击“下一步”结束本课。</translation>
     </message>
   </context>
@@ -5961,39 +6009,39 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>第一章：上山的路。点击“实际大小”，让箭头指向正确的格子。</translation>
+      <translation>第一章：上山的路。路从村里开始，点击“琥珀村”。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“琥珀村”。通往山岗的路从村里开始。</translation>
-    </message>
-    <message>
-      <source>#10</source>
       <translation>点击“事件”，进入制作事件的模式。</translation>
     </message>
     <message>
-      <source>#11</source>
+      <source>#10</source>
       <translation>村里的路在西边到头。双击这一格，制作上山的通道。</translation>
     </message>
     <message>
-      <source>#12</source>
+      <source>#11</source>
       <translation>没有图像，玩家看不到这个事件，只要沿着路往前走。</translation>
     </message>
     <message>
-      <source>#13</source>
+      <source>#12</source>
       <translation>选择“玩家接触”，玩家踏上去就会开始。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#13</source>
       <translation>双击“+”，添加一条指令。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>点击“场景”选项卡。</translation>
     </message>
     <message>
+      <source>#15</source>
+      <translation>点击“场所移动”，它会把玩家带到别处。</translation>
+    </message>
+    <message>
       <source>#16</source>
-      <translation>双击“场所移动”，它会把玩家带到别处。</translation>
+      <translation>点击“确定”。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -6013,371 +6061,335 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“确定”。</translation>
-    </message>
-    <message>
-      <source>#22</source>
       <translation>点击“确定”，保留这条指令。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>点击“复制页”。回来的路差不多，等一下会用到。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>点击“确定”，上山的路就有了。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>路有两格宽：以后可以右键点击它，用“复制事件”放到下面一格。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>点击“山岗”。上来的人还得能回去。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#26</source>
       <translation>双击这一格，路从这里离开地图。</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#27</source>
       <translation>点击“粘贴页”。指令和触发方式会一起复制过来。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#28</source>
       <translation>粘贴来的是第 2 页。排在最后的页优先。</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#29</source>
       <translation>它还是通往山岗。双击这条指令来修改。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#30</source>
       <translation>再次点击“选择…”。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#31</source>
       <translation>点击“琥珀村”。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#32</source>
       <translation>点击从路的西端数起的第二格。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#33</source>
       <translation>不要选 X 坐标为 0 的格子：那里就是上山的路，会立刻又上山。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#34</source>
       <translation>点击“确定”，就用这一格。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#35</source>
       <translation>点击“确定”。现在它通往村庄了。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#36</source>
       <translation>点击“确定”，回来的路也有了。</translation>
     </message>
     <message>
+      <source>#37</source>
+      <translation>第二章：台词。双击这个空格，把演出的事件放在这里。</translation>
+    </message>
+    <message>
       <source>#38</source>
-      <translation>这里同样可以右键点击，用“复制事件”“粘贴事件”做出第二格。</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>第二章：台词。长老已经等在这里了，双击他。</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>这个开关为 ON 时他才出现。战胜守卫后开关就会打开。</translation>
-    </message>
-    <message>
-      <source>#41</source>
-      <translation>点击“取消”，长老保持原样就好。</translation>
-    </message>
-    <message>
-      <source>#42</source>
-      <translation>双击这个空格，把演出的事件放在这里。</translation>
-    </message>
-    <message>
-      <source>#43</source>
       <translation>这个事件谁也看不见。它像导演一样指挥大家。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>在“开关”中选择和长老一样的 5 号。</translation>
+      <source>#39</source>
+      <translation>在“开关”中选择 5 号，战胜守卫后它会打开。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#40</source>
       <translation>选择“自动执行”，演出会立刻开始，玩家只需观看。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#41</source>
       <translation>先说话的是米拉。双击“+”。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#42</source>
       <translation>双击“显示消息”。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#43</source>
       <translation>点击“头像…”。演出中，头像能说明是谁在说话。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>点击“米拉”。</translation>
+      <source>#44</source>
+      <translation>所有头像都在这个列表里。这一场说话的有米拉、托马和长老。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#45</source>
+      <translation>先说话的是米拉。点击“米拉”。</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>点击“确定”。头像会出现在台词旁边。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#47</source>
       <translation>输入她的话，例如：看，整个村庄都看得到。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#48</source>
       <translation>点击“确定”，保留她的消息。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#49</source>
       <translation>托马来回答。双击新的“+”。</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>已经选中了“显示消息”。点击“确定”。</translation>
+      <source>#50</source>
+      <translation>再次双击“显示消息”。</translation>
     </message>
     <message>
-      <source>#55</source>
+      <source>#51</source>
       <translation>点击“头像…”。</translation>
     </message>
     <message>
-      <source>#56</source>
+      <source>#52</source>
       <translation>点击“托马”。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#53</source>
       <translation>输入他的话，例如：马上就亮了。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>点击“确定”，保留他的回答。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>最后由长老说话。双击“+”。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>点击“长老”。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>输入感谢的话，例如：你们带回了光明。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>点击“确定”。三个人都说过话了。</translation>
     </message>
     <message>
+      <source>#59</source>
+      <translation>点击最后一条消息。这是长老的话，前面两个人先说。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>第三章：动作。说完话，米拉走到灯前。双击“+”。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>点击“设置移动路线”，它能让人物走动。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>双击它，加入到演出里。</translation>
+    </message>
+    <message>
       <source>#63</source>
-      <translation>三条消息依次排列，演出就这样开始。</translation>
+      <translation>已经选中“玩家”，也就是米拉。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>点击“确定”，台词就完成了。</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>第三章：动作。双击演出的事件。</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>说完这些话，米拉走到灯前把它点亮。</translation>
-    </message>
-    <message>
-      <source>#67</source>
-      <translation>双击“设置移动路线”，它能让人物走动。</translation>
-    </message>
-    <message>
-      <source>#68</source>
-      <translation>选择“玩家”，也就是米拉。</translation>
-    </message>
-    <message>
-      <source>#69</source>
       <translation>点击“编辑…”，设置怎么走。</translation>
     </message>
     <message>
-      <source>#70</source>
+      <source>#65</source>
       <translation>点击“向上移动”五次，走五格就到灯前。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#71</source>
+      <source>#66</source>
       <translation>点击“开关 ON…”。她走到时，用开关点亮灯。</translation>
     </message>
     <message>
-      <source>#72</source>
+      <source>#67</source>
       <translation>点击“…”选择开关。这里需要一个新的。</translation>
     </message>
     <message>
-      <source>#73</source>
+      <source>#68</source>
       <translation>点击“更改最大数量…”。</translation>
     </message>
     <message>
-      <source>#74</source>
+      <source>#69</source>
       <translation>输入 6，再按 Enter 键。</translation>
     </message>
     <message>
-      <source>#75</source>
+      <source>#70</source>
       <translation>点击新增的第 6 个开关。</translation>
     </message>
     <message>
-      <source>#76</source>
+      <source>#71</source>
       <translation>输入名称，例如：归还了灯。再按 Enter 键。</translation>
     </message>
     <message>
-      <source>#77</source>
+      <source>#72</source>
       <translation>点击“确定”。开关排在路线的最后。</translation>
     </message>
     <message>
-      <source>#78</source>
+      <source>#73</source>
       <translation>点击“预览…”，看看这条路线。</translation>
     </message>
     <message>
-      <source>#79</source>
+      <source>#74</source>
       <translation>从圆环走到圆点。预览从事件的位置画起，游戏里从米拉站的地方出发。</translation>
     </message>
     <message>
-      <source>#80</source>
+      <source>#75</source>
       <translation>点击“关闭”。</translation>
     </message>
     <message>
-      <source>#81</source>
-      <translation>点击“确定”。她走到之后，才执行下一条指令。</translation>
+      <source>#76</source>
+      <translation>这里勾选着，她走到之后才执行下一条指令。</translation>
     </message>
     <message>
-      <source>#82</source>
+      <source>#77</source>
+      <translation>点击“确定”，保留这条路线。</translation>
+    </message>
+    <message>
+      <source>#78</source>
       <translation>路线排在台词下面：先说话，再走动。</translation>
     </message>
     <message>
-      <source>#83</source>
-      <translation>点击“确定”，动作就完成了。</translation>
+      <source>#79</source>
+      <translation>第四章：结局。灯亮时响起音乐。双击“+”。</translation>
     </message>
     <message>
-      <source>#84</source>
-      <translation>第四章：结局。再次双击演出的事件。</translation>
-    </message>
-    <message>
-      <source>#85</source>
-      <translation>灯亮时响起音乐。双击“+”。</translation>
-    </message>
-    <message>
-      <source>#86</source>
+      <source>#80</source>
       <translation>点击“音频”选项卡。</translation>
     </message>
     <message>
-      <source>#87</source>
-      <translation>双击“播放音乐”。</translation>
+      <source>#81</source>
+      <translation>点击“播放音乐”。</translation>
     </message>
     <message>
-      <source>#88</source>
+      <source>#82</source>
       <translation>点击“选择…”，查看所有乐曲。</translation>
     </message>
     <message>
-      <source>#89</source>
+      <source>#83</source>
       <translation>点击“家”：光明回到了它该在的地方。</translation>
     </message>
     <message>
-      <source>#90</source>
+      <source>#84</source>
       <translation>点击“确定”，就用这首乐曲。</translation>
     </message>
     <message>
-      <source>#91</source>
-      <translation>然后光芒四射。双击“+”。</translation>
+      <source>#85</source>
+      <translation>调低“音量”，乐曲会更轻。这是结局，保持不变就好。</translation>
     </message>
     <message>
-      <source>#92</source>
-      <translation>点击“画面”选项卡。</translation>
+      <source>#86</source>
+      <translation>台词、动作、音乐：从上到下，演出完整了。</translation>
     </message>
     <message>
-      <source>#93</source>
-      <translation>点击“闪烁画面”。一瞬间，光会充满整个画面。</translation>
-    </message>
-    <message>
-      <source>#94</source>
-      <translation>数值不用改：白色的光，只有一眨眼的工夫。</translation>
-    </message>
-    <message>
-      <source>#95</source>
-      <translation>台词、动作、音乐、光：从上到下，演出完整了。</translation>
-    </message>
-    <message>
-      <source>#96</source>
+      <source>#87</source>
       <translation>演出只能有一次。点击“新建页”。</translation>
     </message>
     <message>
-      <source>#97</source>
+      <source>#88</source>
       <translation>在“开关”中选择最后一个，也就是新建的开关。</translation>
     </message>
     <message>
-      <source>#98</source>
+      <source>#89</source>
       <translation>灯亮之后，这个空白页生效，不会再发生任何事。</translation>
     </message>
     <message>
-      <source>#99</source>
+      <source>#90</source>
       <translation>点击“确定”。现在只差那盏灯了。</translation>
     </message>
     <message>
-      <source>#100</source>
+      <source>#91</source>
       <translation>双击灯台。</translation>
     </message>
     <message>
-      <source>#101</source>
+      <source>#92</source>
       <translation>这一页是没有光的灯台。第二页让它发光。</translation>
     </message>
     <message>
-      <source>#102</source>
+      <source>#93</source>
       <translation>点击“新建页”。</translation>
     </message>
     <message>
-      <source>#103</source>
+      <source>#94</source>
       <translation>这里也选择 6 号开关。</translation>
     </message>
     <message>
-      <source>#104</source>
+      <source>#95</source>
       <translation>点击“图像”下面的空框。</translation>
     </message>
     <message>
-      <source>#105</source>
-      <translation>点击“物件”选项卡，然后点击“下一步”。</translation>
+      <source>#96</source>
+      <translation>点击“物件”选项卡。</translation>
     </message>
     <message>
-      <source>#106</source>
+      <source>#97</source>
+      <translation>第 1 页用的是“灯台”，第 2 页要用它下面的图像。</translation>
+    </message>
+    <message>
+      <source>#98</source>
       <translation>点击“点亮的灯”。</translation>
     </message>
     <message>
-      <source>#107</source>
+      <source>#99</source>
       <translation>点击“静止时也踏步”，灯焰就会跳动。</translation>
     </message>
     <message>
-      <source>#108</source>
+      <source>#100</source>
       <translation>点击“保持朝向”：灯不会转向任何人。</translation>
     </message>
     <message>
-      <source>#109</source>
+      <source>#101</source>
       <translation>点击“确定”，故事有了结局。</translation>
     </message>
     <message>
-      <source>#110</source>
+      <source>#102</source>
       <translation>点击“保存”，把演出写入项目的文件夹。</translation>
     </message>
     <message>
-      <source>#111</source>
-      <translation>完成了！你会让人物自己说话、走动，还点亮了灯。</translation>
-    </message>
-    <message>
-      <source>#112</source>
-      <translation>第 19 课加上标题画面，再试玩整个游戏。点击“下一步”结束本课。</translation>
+      <source>#103</source>
+      <translation>完成了！人物会自己说话、走动了。第 19 课将加上标题画面。</translation>
     </message>
   </context>
   <context>
@@ -6429,7 +6441,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>点击“显示游戏标题”，让名字出现在标题画面上。</translation>
+      <translation>点击“显示游戏标题”，让名字出现在标题画面上。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -6437,94 +6449,86 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>现在选的是“无”，名字后面会是一片黑暗。</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>点击“黄昏的村庄”，看看这张图像。</translation>
-    </message>
-    <message>
-      <source>#16</source>
       <translation>故事讲的是那盏灯：双击“明灯”，就用它了。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>点击“标题画面的指令…”，看看玩家在那里能选什么。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>“添加”可以把指令放进列表，“上移”和“下移”改变顺序。</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>指令要做什么在这里选择，例如“制作人员”。</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>在这一栏里，可以换成适合故事的文字。</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>列表为空时有“新游戏”“继续游戏”“退出游戏”三项，这样就够了。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>点击“确定”，列表保持为空。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>点击“确定”，保留名字和图像。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>游戏里的事件已经很多了。点击“查找事件”，就不怕找不到。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>这里列出了游戏的所有事件。在上面输入部分名称，可以缩小范围。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>在这里选“开关”或“变量”，就能查出哪些事件用到了它。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>点击这一行，上面写着地图、事件和它所在的格子。</translation>
     </message>
     <message>
-      <source>#28</source>
+      <source>#26</source>
       <translation>双击它，就能在地图上看到这个事件。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#27</source>
       <translation>事件已被标出，它的地图也在这里选中了。这些地方都属于你的游戏。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>玩家的旅程将在山岗上的灯旁结束。</translation>
+      <source>#28</source>
+      <translation>故事变长时，右键点击地图，用“新建地图…”就能再加地图。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>点击“保存”。这样，你的游戏就完成了。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>点击“试玩”，看看你的游戏怎样开始。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>这就是标题画面：你起的名字、你选的图像，还有三个指令。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#32</source>
       <translation>你会做地图、人物、战斗和演出，还把它们做成了一个游戏。恭喜你！</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#33</source>
       <translation>请别人来玩，看看他们在哪里遇到困难，再改进那里。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#34</source>
       <translation>课程到此结束。选择“新游戏”，一直玩到结局吧！</translation>
     </message>
   </context>
