@@ -5055,7 +5055,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Click the empty field below “Picture”: it is how he looks in battle.</translation>
+      <translation>Click the empty field below “Picture”: his looks in battle.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -5143,7 +5143,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Type 20 for “Level”: alone, she would need that much.</translation>
+      <translation>Type 20 for “Level”: alone, she needs that much.</translation>
     </message>
     <message>
       <source>#47</source>
@@ -5207,7 +5207,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>Double-click “+” below the last command.</translation>
+      <translation>Double-click “+” below the commands.</translation>
     </message>
     <message>
       <source>#63</source>

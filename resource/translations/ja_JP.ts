@@ -4973,7 +4973,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。村から鉱山までがそろったプロジェクトができます。</translation>
+      <translation>「OK」をクリックしてください。村から鉱山までのプロジェクトができます。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -5033,7 +5033,7 @@
     </message>
     <message>
       <source>#19</source>
-      <translation>ランプができました。「敵キャラ」をクリックして、番人を作ります。</translation>
+      <translation>ランプは完成です。「敵キャラ」をクリックして、番人を作ります。</translation>
     </message>
     <message>
       <source>#20</source>
@@ -5049,7 +5049,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>「攻撃力」に18と入力します。盾が役に立つ強さです。</translation>
+      <translation>「攻撃力」に18と入力します。盾が役立つ強さです。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -5101,7 +5101,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>戦う相手は敵グループです。「敵グループ」をクリックしてください。</translation>
+      <translation>相手は敵グループです。「敵グループ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5169,7 +5169,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>イベントには名前を付けられます。プレイヤーには見えません。</translation>
+      <translation>名前を付けられます。プレイヤーには見えません。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -5193,7 +5193,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>「+」をダブルクリックして、せりふから始めましょう。</translation>
+      <translation>「+」をダブルクリックして、せりふから始めます。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -5221,7 +5221,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>「OK」をクリックしてください。言葉の横に顔が出るようになります。</translation>
+      <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5289,7 +5289,7 @@
     </message>
     <message>
       <source>#83</source>
-      <translation>「ON」をクリックして、スイッチが入るようにします。</translation>
+      <translation>「ON」をクリックして、スイッチを入れます。</translation>
     </message>
     <message>
       <source>#84</source>
@@ -5381,7 +5381,7 @@
     </message>
     <message>
       <source>#106</source>
-      <translation>これは、前に仲間だった人が戻ってくるときのための設定です。</translation>
+      <translation>前に仲間だった人が戻ってくるときのための設定です。</translation>
     </message>
     <message>
       <source>#107</source>
@@ -5453,7 +5453,7 @@
     </message>
     <message>
       <source>#124</source>
-      <translation>画像も一緒にコピーされたので、姿は同じです。</translation>
+      <translation>画像もコピーされたので、姿は同じです。</translation>
     </message>
     <message>
       <source>#125</source>
@@ -5497,7 +5497,7 @@
     </message>
     <message>
       <source>#135</source>
-      <translation>番人は鉱山の奥で待っています。今は、ゲームが閉じるまでEscキーを押してください。</translation>
+      <translation>番人は鉱山の奥で待っています。ゲームが閉じるまでEscキーを押してください。</translation>
     </message>
     <message>
       <source>#136</source>
