@@ -4855,7 +4855,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Click the “Classes” tab. The curves there show how HP and MP grow with the level.</translation>
+      <translation>Click the “Classes” tab. Each hero has one of these classes.</translation>
     </message>
     <message>
       <source>#39</source>
@@ -4879,27 +4879,27 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Toma is a Guardian and has to bear a lot. Click “Guardian”. Then click “Next”.</translation>
+      <translation>The curve shows how HP grow with the level. Toma's class, the Guardian, has most of all.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>A Guardian needs even more HP. Click “Add…” below “Traits”.</translation>
-    </message>
-    <message>
-      <source>#46</source>
-      <translation>Type 120 for a fifth more HP, and press Enter.</translation>
-    </message>
-    <message>
-      <source>#47</source>
       <translation>Sena is the one who heals. Click “Sage”, her class.</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>Click “Add…” below “Skills to learn”.</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>Click your first skill, the one that heals.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>A Sage has few HP. Click “Add…” below “Traits” to help her.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>Type 120 for a fifth more HP, and press Enter.</translation>
     </message>
     <message>
       <source>#50</source>
@@ -4919,7 +4919,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>Click “OK”. All three classes differ from one another now.</translation>
+      <translation>Click “OK”. Each of the three heroes has strengths of their own now.</translation>
     </message>
     <message>
       <source>#55</source>
@@ -6135,7 +6135,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Choose switch 5 at “Switch”: the battle against the warden turns it on. Then click “Next”.</translation>
+      <translation>Choose switch 5 at “Switch”: the battle against the warden turns it on.</translation>
     </message>
     <message>
       <source>#40</source>
@@ -6231,7 +6231,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>“Player” is chosen here, and that is Mila.</translation>
+      <translation>Choose “Player”, who is Mila.</translation>
     </message>
     <message>
       <source>#64</source>
@@ -6331,7 +6331,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>Choose your new switch, the last one, at “Switch”.</translation>
+      <translation>Choose your new switch, the last one, as a condition. Then click “Next”.</translation>
     </message>
     <message>
       <source>#89</source>
@@ -6355,7 +6355,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#94</source>
-      <translation>Choose switch 6 here, too.</translation>
+      <translation>Choose switch 6 here, too. Then click “Next”.</translation>
     </message>
     <message>
       <source>#95</source>

@@ -4853,7 +4853,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>「職業」タブをクリックしてください。HPとMPの伸び方がグラフでわかります。</translation>
+      <translation>「職業」タブをクリックしてください。主人公には、それぞれ職業があります。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -4877,27 +4877,27 @@
     </message>
     <message>
       <source>#44</source>
-      <translation>トーマは仲間を守る役です。「守り手」をクリックします。そのあと「次へ」です。</translation>
+      <translation>グラフは、レベルごとのHPの伸びです。トーマの職業は、3つの中でいちばんHPが多くなります。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>守り手には、もっとHPが必要です。「特徴」の下の「追加…」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#46</source>
-      <translation>120と入力してEnterキーを押すと、HPが2割増えます。</translation>
-    </message>
-    <message>
-      <source>#47</source>
       <translation>回復はセナの役目です。セナの職業「賢者」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>「習得するスキル」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>1つ目に作った、回復のスキルをクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>賢者はHPが少なめです。「特徴」の下の「追加…」をクリックして補いましょう。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>120と入力してEnterキーを押すと、HPが2割増えます。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -4917,7 +4917,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>「OK」をクリックしてください。3つの職業に、それぞれ個性ができました。</translation>
+      <translation>「OK」をクリックしてください。3人に、それぞれの強みができました。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -6133,7 +6133,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「スイッチ」で5番を選びます。番人に勝つとONになります。そのあと「次へ」です。</translation>
+      <translation>「スイッチ」で5番を選んでください。番人に勝つとONになります。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -6229,7 +6229,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>「プレイヤー」が選ばれています。ミラのことです。</translation>
+      <translation>「プレイヤー」を選んでください。ミラのことです。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -6329,7 +6329,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>「スイッチ」で、新しく作った最後のスイッチを選んでください。</translation>
+      <translation>条件として、新しく作った最後のスイッチを選びます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -6353,7 +6353,7 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>ここでも、6番のスイッチを選んでください。</translation>
+      <translation>ここでも6番のスイッチを選びます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#95</source>

@@ -4853,7 +4853,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>点击“职业”选项卡。曲线表示 HP 和 MP 怎样随等级增长。</translation>
+      <translation>点击“职业”选项卡。每位主角都有其中一个职业。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -4877,27 +4877,27 @@
     </message>
     <message>
       <source>#44</source>
-      <translation>托马负责保护大家。点击“守护者”，然后点击“下一步”。</translation>
+      <translation>这条曲线表示 HP 怎样随等级增长。托马的职业 HP 最多。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>守护者需要更多 HP。点击“特性”下面的“添加…”。</translation>
-    </message>
-    <message>
-      <source>#46</source>
-      <translation>输入 120，再按 Enter 键，HP 就会增加两成。</translation>
-    </message>
-    <message>
-      <source>#47</source>
       <translation>负责恢复的是塞娜。点击她的职业“贤者”。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>点击“学会的技能”下面的“添加…”。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>点击你做的第一个技能，也就是用来恢复的那个。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>贤者的 HP 不多。点击“特性”下面的“添加…”来弥补。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>输入 120，再按 Enter 键，HP 就会增加两成。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -4917,7 +4917,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>点击“确定”。现在三个职业各不相同了。</translation>
+      <translation>点击“确定”。现在三位主角各有所长。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -6133,7 +6133,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>在“开关”中选择 5 号，战胜守卫后它会打开。然后点击“下一步”。</translation>
+      <translation>在“开关”中选择 5 号，战胜守卫后它会打开。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -6229,7 +6229,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>已经选中“玩家”，也就是米拉。</translation>
+      <translation>选择“玩家”，也就是米拉。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -6329,7 +6329,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>在“开关”中选择最后一个，也就是新建的开关。</translation>
+      <translation>选择最后一个，也就是新建的开关作为条件。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -6353,7 +6353,7 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>这里也选择 6 号开关。</translation>
+      <translation>这里也选择 6 号开关。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#95</source>
