@@ -94,6 +94,9 @@ bool letPilotPlay(PracticeEditor *editor, const PilotPlay &play, Pilot::Settings
     QObject::connect(
         pilot, &Pilot::stepReached, pilot,
         [progress](int index, int count, const QString &line) { progress->showStep(index, count, line); });
+    QObject::connect(pilot, &Pilot::pressedAgain, pilot, [](const QString &line) {
+        std::fprintf(stderr, "again: %s\n", line.toUtf8().constData());
+    });
     QObject::connect(pilot, &Pilot::refused, pilot, [lacks] { *lacks = true; });
     QObject::connect(
         pilot, &Pilot::ended, pilot,

@@ -22,6 +22,9 @@ public:
     [[nodiscard]] virtual std::optional<SeenOverlays> overlays() = 0;
     /// Whether a click at @p spot would reach a window of the editor, and one that takes it.
     [[nodiscard]] virtual bool takesClickAt(const QPoint &spot) = 0;
+    /// Whether a click at @p place, in pixels of the companion's @p window, would reach that window: nothing
+    /// lies above it there.
+    [[nodiscard]] virtual bool takesPressAt(quint32 window, const QPoint &place) = 0;
     /// Whether keys would reach the window of the editor at @p spot.
     [[nodiscard]] virtual bool takesKeysAt(const QPoint &spot) = 0;
     /// How many times a button of the mouse came up in a window of the editor, as the editor has heard of it.

@@ -20,6 +20,8 @@ constexpr int kSeenMs = 150;
 // So often a beginner, or whoever cannot know, does again what came to nothing, and waits so long for it.
 constexpr int kMostTries = 3;
 constexpr int kTryMs = 2000;
+// What is only slow has come by then: a press that comes twice passes two steps.
+constexpr int kPressTryMs = 8000;
 
 QString orNothing(const QString &text)
 {
@@ -98,6 +100,7 @@ void Pilot::onStepReached()
     Q_EMIT stepReached(runner.index() + 1, runner.scenario().size(), stepText());
     m_hasErred = false;
     m_tries = 0;
+    m_isPressLeft = false;
     m_sinceDone.invalidate();
     // So that what is there at the first look counts as just come.
     m_seen = {};
@@ -142,10 +145,20 @@ void Pilot::onLimit()
                                             "buttons do not show"));
         break;
     case Phase::kActing:
-        breakStep(QStringLiteral("the window does not get the focus"));
+        breakStep(QStringLiteral("the window does not get the focus, or another one covers the companion's "
+                                 "button"));
         break;
     case Phase::kAwaiting:
-        if (triesAgain()) {
+        if (pressesAgain()) {
+            ++m_tries;
+            m_isPressLeft = true;
+            Q_EMIT pressedAgain(
+                QStringLiteral("%1: item %2, %3: the press of a button came to nothing and is made again; %4")
+                    .arg(m_settings.title)
+                    .arg(m_session->runner().step().id)
+                    .arg(m_session->runner().step().conditionText, evidence()));
+            enter(Phase::kWatching, m_settings.settleMs);
+        } else if (triesAgain()) {
             ++m_tries;
             // What lay over it has taken the first click.
             m_sinceDone.start();
@@ -261,7 +274,10 @@ void Pilot::watch()
     if (m_sinceDone.isValid() && !m_sinceDone.hasExpired(kSeenMs * m_settings.speed)) {
         return;
     }
-    const std::optional<ActionPlan> plan = isLost() ? returning() : planned();
+    std::optional<ActionPlan> plan = isLost() ? returning() : planned();
+    if (plan && !isLost() && m_isPressLeft) {
+        plan->actions = plan->actions.mid(plan->actions.size() - 1);
+    }
     if (!plan || isTooSoon(*plan) || (plan->spot && !m_eye->takesClickAt(*plan->spot))) {
         return;
     }
@@ -387,6 +403,9 @@ bool Pilot::canAct(const Action &action, const ActionPlan &plan)
     if (plan.actions.value(m_next - 1).kind == Action::Kind::kChooseQuoted && m_eye->seesList()) {
         return false;
     }
+    if (action.kind == Action::Kind::kPressButton) {
+        return isClickHeard && m_eye->takesPressAt(action.window, action.place);
+    }
     return isClickHeard && (!action.isOfKeyboard() || !plan.spot || m_eye->takesKeysAt(*plan.spot));
 }
 
@@ -395,10 +414,22 @@ bool Pilot::triesAgain() const
     return (m_settings.isBeginner || m_plan.canComeToNothing) && m_tries < kMostTries;
 }
 
+bool Pilot::pressesAgain() const
+{
+    return !m_plan.actions.isEmpty() && m_plan.actions.constLast().kind == Action::Kind::kPressButton &&
+           m_tries < kMostTries;
+}
+
+int Pilot::patienceMs() const
+{
+    const int patience = pressesAgain() ? kPressTryMs : triesAgain() ? kTryMs : m_settings.conditionMs;
+    return qMin(patience, m_settings.conditionMs) + m_plan.waitMs;
+}
+
 void Pilot::endActing()
 {
     if (m_intent == Intent::kStep) {
-        enter(Phase::kAwaiting, (triesAgain() ? kTryMs : m_settings.conditionMs) + m_plan.waitMs);
+        enter(Phase::kAwaiting, patienceMs());
     } else {
         m_sinceDone.start();
         enter(Phase::kWatching, m_settings.settleMs);

@@ -66,6 +66,9 @@ Q_SIGNALS:
     void stepReached(int index, int count, const QString &line);
     /// The companion does not hand over the lesson.
     void refused();
+    /// A press of the companion's button came to nothing and is made again, as a person would; @p line tells
+    /// what was seen before that.
+    void pressedAgain(const QString &line);
     /// The play is over; @p failures has a line for each broken step, and none when the lesson was played to
     /// its end.
     void ended(const QStringList &failures);
@@ -108,6 +111,10 @@ private:
     [[nodiscard]] Action choiceFor(const QString &hint) const;
     /// Whether what was done is done again when nothing comes of it.
     [[nodiscard]] bool triesAgain() const;
+    /// Whether the press that ended what was done is made again, and that alone.
+    [[nodiscard]] bool pressesAgain() const;
+    /// How long the condition may take before something is done again, or before the step is broken.
+    [[nodiscard]] int patienceMs() const;
     void endActing();
     void watchEnd();
     void end();
@@ -159,6 +166,8 @@ private:
     int m_mistakes = 0;
     bool m_hasErred = false;
     int m_tries = 0;
+    /// Of what the step asks for only the press of the companion's button is left to be done.
+    bool m_isPressLeft = false;
     QElapsedTimer m_sinceDone;
     /// The editor had heard of so many clicks before the last one, if that was in this plan.
     std::optional<int> m_clicksBefore;

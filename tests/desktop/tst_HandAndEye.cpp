@@ -68,6 +68,7 @@ private Q_SLOTS:
     void typesWhatTheKeyboardHas();
     void typesNothingOfWhatItHasNot();
     void knowsWhereAClickGoes();
+    void knowsWhetherAButtonIsCovered();
     void takesAPictureOfTheScreen();
 
 private:
@@ -261,6 +262,21 @@ void tst_HandAndEye::knowsWhereAClickGoes()
     const QPoint besideDialog = XWindows::positionOf(m_window->winId()) + QPoint(3, 3);
     QVERIFY(!m_eye->takesClickAt(besideDialog));
     QVERIFY(!m_eye->takesKeysAt(besideDialog));
+}
+
+void tst_HandAndEye::knowsWhetherAButtonIsCovered()
+{
+    const std::unique_ptr<QWidget> button = showOverlay({700, 400, 64, 32});
+    QVERIFY(button != nullptr);
+    const auto id = quint32(button->winId());
+    QTRY_VERIFY_WITH_TIMEOUT(m_eye->takesPressAt(id, {21, 16}), kSoonMs);
+    const std::unique_ptr<QWidget> above = showOverlay({700, 400, 40, 32});
+    QVERIFY(above != nullptr);
+    above->raise(); // a window manager may show below what came first
+    QTRY_VERIFY_WITH_TIMEOUT(!m_eye->takesPressAt(id, {21, 16}), kSoonMs);
+    QVERIFY(m_eye->takesPressAt(id, {50, 16}));
+    button->hide();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_eye->takesPressAt(id, {50, 16}), kSoonMs);
 }
 
 void tst_HandAndEye::takesAPictureOfTheScreen()

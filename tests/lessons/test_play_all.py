@@ -27,6 +27,8 @@ items = lesson_ways.items_of(path.read_text())
 for id in lesson_ways.visited(items, options["way"]):
     if str(id) not in os.environ.get("PASSED_BY", "").split():
         print(f"step 1/1 id {{id}} - click,", flush=True)
+if "AGAIN" in os.environ:
+    print("again: " + os.environ["AGAIN"], file=sys.stderr)
 if options["way"] == "yes":
     (projects / path.stem / "data").mkdir(parents=True)
     (projects / path.stem / "data/MapInfos.json").write_text("[]")
@@ -74,6 +76,12 @@ class PlaysOfLessons(unittest.TestCase):
         self.assertEqual(played.returncode, 0, played.stderr)
         self.assertEqual(plays, [["TutorialStep2", "yes", []], ["TutorialStep1", "yes", []],
                                  ["TutorialStep2", "no", ["TutorialStep1"]]])
+
+    def test_a_press_that_was_made_again_is_told_and_breaks_nothing(self):
+        self.lesson("TutorialStep1", STRAIGHT)
+        played, _ = self.play(AGAIN="lesson 1: item 2")
+        self.assertEqual(played.returncode, 0, played.stderr)
+        self.assertIn("again: lesson 1: item 2\n1 of 1 plays", played.stdout)
 
     def test_what_a_broken_play_has_left_is_not_opened(self):
         self.lesson("TutorialStep1", STRAIGHT)

@@ -162,6 +162,28 @@ bool XEye::takesClickAt(const QPoint &spot)
     return editorWindowAt(spot) != nullptr;
 }
 
+bool XEye::takesPressAt(quint32 window, const QPoint &place)
+{
+    xcb_window_t from = window;
+    xcb_window_t at = m_x->root();
+    QPoint spot = place;
+    // Down from the screen to what lies lowest in the tree: a window manager may have put a frame around it.
+    while (at != XCB_NONE) {
+        const XReply<xcb_translate_coordinates_reply_t> reply(xcb_translate_coordinates_reply(
+            m_x->get(),
+            xcb_translate_coordinates(m_x->get(), from, at, static_cast<int16_t>(spot.x()),
+                                      static_cast<int16_t>(spot.y())),
+            nullptr));
+        if (reply == nullptr || at == window) {
+            return reply != nullptr;
+        }
+        spot = {reply->dst_x, reply->dst_y};
+        from = at;
+        at = reply->child;
+    }
+    return false;
+}
+
 bool XEye::takesKeysAt(const QPoint &spot)
 {
     QWindow *const window = editorWindowAt(spot);

@@ -17,6 +17,7 @@ public:
 
     [[nodiscard]] std::optional<SeenOverlays> overlays() override;
     [[nodiscard]] bool takesClickAt(const QPoint &spot) override;
+    [[nodiscard]] bool takesPressAt(quint32 window, const QPoint &place) override;
     [[nodiscard]] bool takesKeysAt(const QPoint &spot) override;
     [[nodiscard]] int clicksHeard() override { return m_heard->clicks; }
     [[nodiscard]] bool seesList() override;

@@ -11,6 +11,7 @@ struct Scene
     std::function<bool(const QPoint &)> takesClicks = [](const QPoint &) {
         return true;
     };
+    bool takesPresses = true;
     bool takesKeys = true;
     bool hasList = true;
     QStringList rows;
@@ -19,6 +20,7 @@ struct Scene
     int looks = 0;
     int questionsForKeys = 0;
     int questionsForLists = 0;
+    int questionsForPresses = 0;
     int questionsForClicks = 0;
     QStringList pictures;
     QVector<Action> acts;
@@ -40,6 +42,13 @@ public:
         return m_scene->look();
     }
     bool takesClickAt(const QPoint &spot) override { return m_scene->takesClicks(spot); }
+    bool takesPressAt(quint32 window, const QPoint &place) override
+    {
+        Q_UNUSED(window)
+        Q_UNUSED(place)
+        ++m_scene->questionsForPresses;
+        return m_scene->takesPresses;
+    }
     bool takesKeysAt(const QPoint &spot) override
     {
         Q_UNUSED(spot)

@@ -11,6 +11,7 @@
 
 inline constexpr int kSoonMs = 10000;
 inline constexpr QRect kBubble(100, 170, 640, 480); // where the steps below that point send it
+inline constexpr QRect kMiddle(601, 417, 640, 480); // where it is sent before the first step
 inline const SeenOverlays::Window kNext{QRect(300, 500, 64, 32), 7};
 inline const QString kClicking = QStringLiteral(
     R"({"id":1,"x":10,"y":-20,"windowKey":"MainWindow","condition":"list,2","hint":"Choose","icon":"click"})");

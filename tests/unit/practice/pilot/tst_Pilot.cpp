@@ -4,13 +4,13 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 // So often the pilot has looked on when a test takes it that it does nothing.
 constexpr int kSeveral = 6;
-constexpr QRect kMiddle(601, 417, 640, 480); // where it is sent before the first step
 const QString kLeaving = QStringLiteral(
     R"({"id":8,"x":10,"y":-20,"windowKey":"MainWindow","condition":"action,play,close","hint":"Press Esc","icon":"keyboard"})");
 const QString kChoosing = QStringLiteral(
@@ -38,6 +38,8 @@ private Q_SLOTS:
     void choosesWhatTheHintQuotes_data();
     void choosesWhatTheHintQuotes();
     void plansAnewWhatWasMissed();
+    void pressesOnlyAButtonThatNothingCovers();
+    void repeatsAPressAndNotTheClickBeforeIt();
     void keepsTwoClicksApart();
     void answersOneQuestionAfterTheOther();
     void playsToTheEndAndSeesTheOverlaysGo();
@@ -190,6 +192,39 @@ void tst_Pilot::plansAnewWhatWasMissed()
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 2, kSoonMs);
     QCOMPARE(m_scene.acts.at(0).window, 7U);
     QCOMPARE(m_scene.acts.at(1).window, 9U);
+}
+
+void tst_Pilot::pressesOnlyAButtonThatNothingCovers()
+{
+    m_overlays = {kMiddle, {kNext}};
+    m_scene.takesPresses = false;
+    begin({kReading});
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.questionsForPresses > kSeveral, kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
+    m_scene.takesPresses = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QCOMPARE(m_scene.acts.constFirst().window, kNext.id);
+}
+
+void tst_Pilot::repeatsAPressAndNotTheClickBeforeIt()
+{
+    Pilot::Settings hasty = settings();
+    hasty.conditionMs = 500;
+    makePilot(hasty);
+    m_scene.hasList = false;
+    m_overlays = {kBubble, {kNext}};
+    begin({kQuoting});
+    const auto presses = [this] {
+        return std::count_if(m_scene.acts.cbegin(), m_scene.acts.cend(),
+                             [](const Action &action) { return action.kind == Action::Kind::kPressButton; });
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(presses(), 2, kSoonMs);
+    m_overlays = {};
+    m_session->receive(QStringLiteral("next"));
+    const auto clicks = std::count_if(m_scene.acts.cbegin(), m_scene.acts.cend(), [](const Action &action) {
+        return action.kind == Action::Kind::kClick;
+    });
+    QCOMPARE(clicks, 1);
 }
 
 void tst_Pilot::keepsTwoClicksApart()

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void aFastClockLengthensTheLimits();
     void overlaysThatDoNotComeAreBroken();
     void aFocusThatDoesNotComeIsBroken();
+    void aButtonThatStaysCoveredIsBroken();
+    void aPressThatAlwaysComesToNothingIsBroken();
     void overlaysThatDoNotGoAreBroken();
     void aKeyThatIsMissingIsBroken();
     void aPictureThatCannotBeWrittenEndsThePlay();
@@ -118,8 +120,50 @@ void tst_PilotFailures::aFocusThatDoesNotComeIsBroken()
     m_scene.takesKeys = false;
     begin({kTyping});
     QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral(
+                 "the window does not get the focus, or another one covers the companion's button; done: a "
+                 "click at (138, 302); seen: ")),
+             qPrintable(m_failures->constFirst()));
+}
+
+void tst_PilotFailures::aButtonThatStaysCoveredIsBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.settleMs = 500;
+    makePilot(hasty);
+    m_overlays = {kMiddle, {kNext}};
+    m_scene.takesPresses = false;
+    begin({kReading});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QVERIFY(m_scene.acts.isEmpty());
     QVERIFY2(m_failures->constFirst().contains(
-                 QStringLiteral("the window does not get the focus; done: a click at (138, 302); seen: ")),
+                 QStringLiteral("item 3, click,: the window does not get the focus, or another one covers")),
+             qPrintable(m_failures->constFirst()));
+}
+
+void tst_PilotFailures::aPressThatAlwaysComesToNothingIsBroken()
+{
+    Pilot::Settings hasty = settings();
+    hasty.conditionMs = 100;
+    makePilot(hasty);
+    QStringList again;
+    connect(m_pilot.get(), &Pilot::pressedAgain, this, [&again](const QString &line) { again += line; });
+    m_overlays = {kMiddle, {kNext}};
+    m_scene.perform = [this](const Action &) {
+        if (m_scene.acts.size() == 4) {
+            m_overlays = {};
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kReading});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(m_scene.acts.size(), 4);
+    QCOMPARE(again.size(), 3);
+    QVERIFY2(again.constFirst().startsWith(QStringLiteral(
+                 "lesson 1 (en_US, yes): item 3, click,: the press of a button came to nothing "
+                 "and is made again; done: a click on the companion's button; seen: ")),
+             qPrintable(again.constFirst()));
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("item 3, click,: the condition does not come")),
              qPrintable(m_failures->constFirst()));
 }
 
