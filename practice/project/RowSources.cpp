@@ -29,6 +29,11 @@ QVector<Row> rowsOf(const QJsonArray &list)
 
 } // namespace
 
+QString namelessText(int number)
+{
+    return QStringLiteral("%1:").arg(number);
+}
+
 void RowSources::add(const QString &name, Rows rows)
 {
     m_sources.insert(name, {std::move(rows), {}, {}});

@@ -30,6 +30,10 @@ struct Row
     }
 };
 
+/// What a list shows of an entry without a name, as the database does where it has its number before the
+/// name.
+[[nodiscard]] QString namelessText(int number);
+
 /// Where lists get their rows from, by name. A list in a data file needs no entry here: its path, such as
 /// "data/Items", is its name, and its rows are the names of its entries; those that are null have none.
 class RowSources

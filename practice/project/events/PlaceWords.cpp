@@ -201,7 +201,9 @@ QPoint PlaceWords::startOfRoute(const DataLayer &layer) const
         return {system[QLatin1String("startX")].toInt(), system[QLatin1String("startY")].toInt()};
     }
     const QVector<MapEvents::Event> events = MapEvents(file).all();
-    const int wanted = target == kThisEvent ? layer.selected(MapEvents::path()) : target;
+    // Nobody knows where the player is on a map that the game does not begin on.
+    const bool isOfMap = target != kThisEvent && target != kPlayer;
+    const int wanted = isOfMap ? target : layer.selected(MapEvents::path());
     for (const MapEvents::Event &event : events) {
         if (event.number == wanted) {
             return event.cell;

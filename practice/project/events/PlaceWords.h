@@ -26,7 +26,8 @@ private:
     void beginPlace(const QString &paths, const Fields &fields, DataLayer &layer) const;
     static void acceptPlace(const Fields &fields, DataLayer &layer);
     void beginRoute(const QString &paths, DataLayer &layer) const;
-    /// The cell where who takes the route stands; the middle of the map where that is not known.
+    /// The cell where who takes the route stands: the player at first, or, where the game begins on another
+    /// map, at the event. The middle of the map where there is no event.
     [[nodiscard]] QPoint startOfRoute(const DataLayer &layer) const;
     [[nodiscard]] QVector<Row> targets(const DataLayer &layer) const;
 

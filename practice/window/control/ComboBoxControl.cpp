@@ -2,29 +2,58 @@
 
 #include <QComboBox>
 
+#include <functional>
+
 namespace {
 
-/// Shows @p rows in the box, with the one chosen that @p value stands for.
-void show(QComboBox *box, const QVector<Row> &rows, const QJsonValue &value)
+/// What is shown for a value that none of the rows stands for.
+using Stranger = std::function<QString(const QJsonValue &)>;
+
+/// Shows @p rows in the box, with the one chosen that @p value stands for. Where none does, such as for an
+/// entry that was deleted, a row of its own behind them says what is there; to choose that one changes
+/// nothing.
+void show(QComboBox *box, const QVector<Row> &rows, const QJsonValue &value, const Stranger &stranger)
 {
     const QSignalBlocker quiet(box);
-    bool isSame = box->count() == rows.size();
-    for (int row = 0; isSame && row < rows.size(); ++row) {
-        isSame = box->itemText(row) == rows.at(row).text;
+    QStringList texts;
+    for (const Row &row : rows) {
+        texts.append(row.text);
+    }
+    int current = rowWith(rows, value);
+    const QString own = current < 0 ? stranger(value) : QString();
+    if (!own.isEmpty()) {
+        current = int(texts.size());
+        texts.append(own);
+    }
+    bool isSame = box->count() == texts.size();
+    for (int row = 0; isSame && row < texts.size(); ++row) {
+        isSame = box->itemText(row) == texts.at(row);
     }
     // An open list must not close while its texts stay what they are.
     if (!isSame) {
         box->clear();
-        for (const Row &row : rows) {
-            box->addItem(row.text);
-        }
+        box->addItems(texts);
     }
-    box->setCurrentIndex(rowWith(rows, value));
-#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
-    // What no row stands for any more, such as an entry that was deleted, is shown as it is.
-    box->setPlaceholderText(value.isUndefined() || value == QJsonValue(0) ? QString()
-                                                                          : value.toVariant().toString());
-#endif
+    box->setCurrentIndex(current);
+}
+
+/// The text in "other", else the value itself: the number of an entry as that of one without a name. None for
+/// nothing, and for 0, which is no entry.
+Stranger readStranger(ControlReader &reader)
+{
+    const QString kOther = QStringLiteral("other");
+    const bool isOfList = !reader.hasChoices();
+    const QString other =
+        reader.has(kOther) ? reader.json().localText(kOther).value(reader.context().locale) : QString();
+    return [isOfList, other](const QJsonValue &value) {
+        if (value.isUndefined() || value.isNull() || value == QJsonValue(0)) {
+            return QString();
+        }
+        if (!other.isEmpty()) {
+            return other;
+        }
+        return isOfList && value.isDouble() ? namelessText(value.toInt()) : value.toVariant().toString();
+    };
 }
 
 } // namespace
@@ -34,15 +63,16 @@ ControlMaker readComboBox(ControlReader &reader)
     const QString field = reader.field();
     const Rows rows = reader.rows(true);
     const QJsonValue missing = reader.missing();
-    return [field, rows, missing, name = reader.description().name](EditorWindow *window) {
+    const Stranger stranger = readStranger(reader);
+    return [field, rows, missing, stranger, name = reader.description().name](EditorWindow *window) {
         auto *box = new QComboBox(window);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        keepFresh(box, window, [box, window, field, rows, missing] {
-            show(box, rows(window), fieldValue(window, field, missing));
+        keepFresh(box, window, [box, window, field, rows, missing, stranger] {
+            show(box, rows(window), fieldValue(window, field, missing), stranger);
         });
-        settleWhenComing(box, window, [box, window, field, rows] {
+        settleWhenComing(box, window, [window, field, rows, missing] {
             const QVector<Row> all = rows(window);
-            if (box->currentIndex() < 0 && !all.isEmpty()) {
+            if (!all.isEmpty() && rowWith(all, fieldValue(window, field, missing)) < 0) {
                 window->choose(field, all.constFirst());
             }
         });

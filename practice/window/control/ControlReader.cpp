@@ -85,10 +85,14 @@ Rows ControlReader::rows(bool hasNone)
     return [list, text, addsNone, none](const EditorWindow *window) {
         const RowSources &sources = window->project().sources();
         QVector<Row> rows = sources.rows(list, window->layer());
-        if (text != nullptr) {
-            for (Row &row : rows) {
+        for (Row &row : rows) {
+            if (text != nullptr) {
                 row.text =
                     text->text(sources.entry(list, row.number, window->layer()), row.number, window->layer());
+            }
+            // A row that shows nothing could not be told from the next one.
+            if (row.text.isEmpty() && row.tile == GameMap::kEmpty) {
+                row.text = namelessText(row.number);
             }
         }
         if (addsNone) {

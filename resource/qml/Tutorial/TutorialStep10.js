@@ -718,7 +718,7 @@
 "name":"No name on arrival",
 "folder":false,
 "translationId":42,
-"x":252,
+"x":196,
 "y":126,
 "windowKey":"MapProperties",
 "condition":"checked,showName,0",

@@ -990,7 +990,7 @@
 "name":"He keeps watch",
 "folder":false,
 "translationId":56,
-"x":117,
+"x":51,
 "y":288,
 "windowKey":"EventEditorMain",
 "condition":"checked,directionFix,1",

@@ -191,7 +191,7 @@
 "name":"Show the name",
 "folder":false,
 "translationId":12,
-"x":573,
+"x":540,
 "y":224,
 "windowKey":"DatabaseMain",
 "condition":"click,",

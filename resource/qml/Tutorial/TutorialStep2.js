@@ -327,7 +327,7 @@
 "name":"Feet that move",
 "folder":false,
 "translationId":20,
-"x":117,
+"x":84,
 "y":336,
 "windowKey":"EventEditorMain",
 "condition":"click,",

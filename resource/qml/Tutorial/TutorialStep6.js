@@ -446,7 +446,7 @@
 "name":"Who tells her what to do in battle",
 "folder":false,
 "translationId":27,
-"x":368,
+"x":362,
 "y":142,
 "windowKey":"DatabaseMain",
 "condition":"radioButton,RadioButton,0",

@@ -106,7 +106,7 @@
 "name":"Choose mp",
 "folder":false,
 "translationId":7,
-"x":277,
+"x":208,
 "y":-56,
 "windowKey":"Effects",
 "condition":"radioButton,RadioButton,1",

@@ -4,6 +4,8 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
@@ -13,7 +15,8 @@
 class SampleEditor : public Editor
 {
 public:
-    explicit SampleEditor(const char *locale = "en_US")
+    /// @p texts: what stands in the project in place of each number, such as "#12".
+    explicit SampleEditor(const char *locale = "en_US", const QMap<QString, QString> &texts = {})
         : Editor(locale)
     {
         openProject();
@@ -23,7 +26,7 @@ public:
         for (const QString &name : names) {
             QFile file(data.filePath(name));
             if (file.open(QIODevice::ReadOnly)) {
-                files.insert(str("data/") + name, QString::fromUtf8(file.readAll()));
+                files.insert(str("data/") + name, withTexts(QString::fromUtf8(file.readAll()), texts));
             }
         }
         if (files.isEmpty() || !(*this)->replaceFiles(files)) {
@@ -97,5 +100,14 @@ public:
     }
 
 private:
+    static QString withTexts(QString data, const QMap<QString, QString> &texts)
+    {
+        for (auto text = texts.begin(); text != texts.end(); ++text) {
+            const QByteArray list = QJsonDocument(QJsonArray{*text}).toJson(QJsonDocument::Compact);
+            data.replace(str("\"%1\"").arg(text.key()), QString::fromUtf8(list).mid(1).chopped(1));
+        }
+        return data;
+    }
+
     [[nodiscard]] Project *project() const { return (*this)->project(); }
 };

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void aComboBoxHasTheValueOfTheField();
     void aComboBoxOfAListHasTheNumber();
     void aValueThatIsNoChoiceIsLeftAlone();
+    void aNumberOfOnesOwnHasItsWord();
+    void entriesWithoutANameHaveTheirNumber();
+    void anEntryThatIsNotThereHasItsNumber();
     void aMissingMemberIsTheChoiceOfNothing();
     void theOnlyMemberIsRenamed();
     void radioButtonsOfAFieldBelongTogether();
@@ -80,7 +83,59 @@ void tst_ChoiceControls::aValueThatIsNoChoiceIsLeftAlone()
     auto *box = bench.make<QComboBox>(
         R"("type": "comboBox", "field": "data/Items/{items}/scope", "choices": [TEXT, TEXT])");
     bench.window.show();
-    QCOMPARE(box->currentIndex(), -1);
+    QCOMPARE(box->currentText(), str("7"));
+    // To choose what is there already changes nothing and counts for nothing.
+    QTest::keyClick(box, Qt::Key_End);
+    Q_EMIT box->activated(2);
+    QVERIFY(!bench.project.isModified());
+    QVERIFY(bench.told.isEmpty());
+    QTest::keyClick(box, Qt::Key_Home);
+    QCOMPARE(bench.value("data/Items.json", "/1/scope"), QJsonValue(0));
+    QCOMPARE(box->count(), 2);
+}
+
+void tst_ChoiceControls::aNumberOfOnesOwnHasItsWord()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(kItems));
+    auto *box = bench.make<QComboBox>(
+        R"("type": "comboBox", "field": "data/Items/{items}/scope", "choices": [TEXT, TEXT], "other": TEXT)");
+    bench.window.show();
+    QCOMPARE(box->currentIndex(), 2);
+    QCOMPARE(box->currentText(), str("c"));
+    bench.window.setCurrentRow(str("data/Items"), 1);
+    QCOMPARE(box->currentIndex(), 1);
+    QCOMPARE(box->count(), 2);
+    bench.window.setField(str("data/Items/{items}/scope"), 30);
+    QCOMPARE(box->currentIndex(), 2);
+}
+
+void tst_ChoiceControls::entriesWithoutANameHaveTheirNumber()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"name": "Herb", "scope": 2}, {"name": "", "scope": 1}])"));
+    auto *box = bench.make<QComboBox>(
+        R"("type": "comboBox", "field": "data/Items/{items}/scope", "source": "data/Items")");
+    auto *list = bench.make<RowList>(R"("type": "list", "source": "data/Items", "rowHeight": 20)");
+    bench.window.show();
+    QCOMPARE(box->currentText(), str("2:"));
+    QCOMPARE(list->item(0)->text(), str("Herb"));
+    QCOMPARE(list->item(1)->text(), str("2:"));
+    QVERIFY(!bench.project.isModified());
+}
+
+void tst_ChoiceControls::anEntryThatIsNotThereHasItsNumber()
+{
+    Bench bench;
+    QVERIFY(
+        bench.project.replaceFiles({{str("data/Items.json"), str(R"([null])")},
+                                    {str("data/Actors.json"), str(R"([null, {"item": 3}, {"item": 0}])")}}));
+    auto *box = bench.make<QComboBox>(
+        R"("type": "comboBox", "field": "data/Actors/{actors}/item", "source": "data/Items")");
+    bench.window.show();
+    QCOMPARE(box->currentText(), str("3:"));
+    bench.window.setCurrentRow(str("data/Actors"), 1);
+    QCOMPARE(box->currentText(), QString());
     QVERIFY(!bench.project.isModified());
 }
 

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void textsHaveRoom();
     void menusHaveRoom_data() { textsHaveRoom_data(); }
     void menusHaveRoom();
+    void marksArePointedAtOnTheirWords_data() { textsHaveRoom_data(); }
+    void marksArePointedAtOnTheirWords();
     void controlsStandApartAndInside();
     void windowsFitTheSmallestScreen();
 };
@@ -37,6 +39,8 @@ constexpr int kRoomInToolButton = 2;
 constexpr int kRoomInBox = 32;
 constexpr int kRoomInTab = 8;
 constexpr int kRoomInRow = 10;
+/// Width of a letter in Japanese and Chinese.
+constexpr int kLetter = 12;
 /// Above and below the text of a field together.
 constexpr int kRoomInField = 6;
 
@@ -159,6 +163,27 @@ void compare(const QString &where, const EditorWindow *window, const QVector<Con
     }
 }
 
+/// The controls with a mark and words of which the arrow, in the middle of their place, points at blank
+/// ground more than a letter behind the words.
+void compareMarks(const QString &where, const EditorWindow *window,
+                  const QVector<ControlDescription> &controls, QStringList *faults, int *looked)
+{
+    for (const ControlDescription &control : controls) {
+        if (control.type != str("checkBox") && control.type != str("radioButton")) {
+            continue;
+        }
+        *looked += 1;
+        const auto *widget = window->findChild<QWidget *>(control.name, Qt::FindDirectChildrenOnly);
+        const int words = widget != nullptr ? widget->sizeHint().width() : 0;
+        const int tip = control.geometry.width() / 2;
+        if (tip > words + kLetter) {
+            faults->append(str("%1 %2: the arrow points %3 pixels behind the words")
+                               .arg(where, control.name)
+                               .arg(tip - words));
+        }
+    }
+}
+
 void compareAreas(const QString &where, const QSize &size, const QVector<ControlDescription> &controls,
                   QStringList *faults)
 {
@@ -217,6 +242,24 @@ void tst_LooksLayout::menusHaveRoom()
     const auto *bar = editor.frame()->findChild<QMenuBar *>();
     QVERIFY(bar->sizeHint().width() <= kSmallestScreen.width());
     QVERIFY(bar->height() <= kMenuHeight);
+}
+
+void tst_LooksLayout::marksArePointedAtOnTheirWords()
+{
+    QFETCH(QString, locale);
+    Editor editor(qPrintable(locale));
+    editor.openProject();
+    const DescriptionSet set = descriptions();
+    const QStringList keys = set.keys();
+    QStringList faults;
+    int looked = 0;
+    for (const QString &key : keys) {
+        if (const EditorWindow *window = editor->window(key)) {
+            compareMarks(key, window, set[key].controls, &faults, &looked);
+        }
+    }
+    QVERIFY(looked > 150);
+    QVERIFY2(faults.isEmpty(), qPrintable(QLatin1Char('\n') + faults.join(QLatin1Char('\n'))));
 }
 
 void tst_LooksLayout::controlsStandApartAndInside()

@@ -5,6 +5,7 @@
 
 #include "EveryWindow.h"
 #include "Palettes.h"
+#include "SampleFiles.h"
 
 #include <QDir>
 #include <QStyleFactory>
@@ -20,7 +21,7 @@ int main(int argc, char **argv)
     const QDir folder(arguments.at(1));
     QApplication::setStyle(QStyleFactory::create(str("Fusion")));
     QApplication::setPalette(arguments.at(3) == str("dark") ? darkPalette() : lightPalette());
-    SampleEditor editor(qPrintable(arguments.at(2)));
+    SampleEditor editor(qPrintable(arguments.at(2)), sample::catalogue(arguments.at(2)));
     bool isSaved = QDir().mkpath(folder.path());
     const auto look = [&folder, &isSaved](const QString &what, EditorWindow *window) {
         QString name = what;

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void unknownCommandsAreShownAndKept();
     void aPlaceIsChosenForSeveralFields();
     void aRouteIsWrittenStepByStep();
+    void theRouteOfThePlayerBeginsWhereItIs();
     void quickEvents_data();
     void quickEvents();
 
@@ -367,6 +368,35 @@ void tst_EventWords::aRouteIsWrittenStepByStep()
         QJsonDocument(route.toObject()).toJson(QJsonDocument::Compact),
         QByteArray(
             R"({"list":[{"code":1},{"code":3},{"code":15,"parameters":[45]},{"code":0}],"repeat":true})"));
+}
+
+void tst_EventWords::theRouteOfThePlayerBeginsWhereItIs()
+{
+    ProjectRoom room;
+    begin(room, {1, 1});
+    makeEvent(room, {2, 5});
+    room.setField("data/System/startMapId", 1);
+    room.setField("data/System/startX", 7);
+    room.setField("data/System/startY", 3);
+    DataLayer *event = room.project.drafts().begin();
+    room.run("event.edit");
+    room.setField(kList, QJsonDocument::fromJson(R"([
+        {"code": 205, "indent": 0, "parameters": [-1, {"list": [{"code": 4}, {"code": 0}]}]},
+        {"code": 0, "indent": 0, "parameters": []}])")
+                             .array()
+                             .toVariantList());
+    room.run((QByteArray("commands.of ") + kList).constData());
+    room.choose((QByteArray("commands ") + kList).constData(), 0);
+    DataLayer *form = room.project.drafts().begin();
+    room.run("command.edit");
+    room.run("route.begin command/1 command/0");
+    QCOMPARE(room.field("route.target").toInt(), -1);
+    QCOMPARE(room.field("route.start").toPoint(), QPoint(7, 3));
+    // Where the game begins elsewhere, the event is the best that is known.
+    room.setField("data/System/startMapId", 2);
+    QCOMPARE(room.field("route.start").toPoint(), QPoint(2, 5));
+    room.project.drafts().drop(form);
+    room.project.drafts().drop(event);
 }
 
 void tst_EventWords::quickEvents_data()
