@@ -3,6 +3,9 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
+#include <limits>
+
 namespace player {
 
 QString Problem::toString() const
@@ -23,6 +26,17 @@ QString Problem::toString() const
                            : QCoreApplication::translate("TestPlay", "%1: %2",
                                                          "a place in the project, and what is wrong")
                                  .arg(place.join(QStringLiteral(", ")), text);
+}
+
+bool Problem::addTo(QVector<Problem> *problems) const
+{
+    const auto same = std::find(problems->begin(), problems->end(), *this);
+    if (same == problems->end()) {
+        problems->append(*this);
+        return true;
+    }
+    same->times += qMin(times, std::numeric_limits<int>::max() - same->times);
+    return false;
 }
 
 } // namespace player

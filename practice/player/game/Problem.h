@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 namespace player {
 
@@ -18,6 +19,8 @@ struct Problem
     /// Row of the command in its list, from 1, 0 for none.
     int line = 0;
     QString text;
+    /// How often it happened since it was told last; no part of what it is.
+    int times = 1;
 
     /// Place and text in one line.
     [[nodiscard]] QString toString() const;
@@ -28,6 +31,10 @@ struct Problem
         return line > 0 && line == other.line && page == other.page && event == other.event &&
                map == other.map && file == other.file;
     }
+
+    /// Adds it to problems that are to be told: one that is among them already is counted there. False for
+    /// that.
+    bool addTo(QVector<Problem> *problems) const;
 
     friend bool operator==(const Problem &left, const Problem &right)
     {

@@ -26,7 +26,10 @@ void Hand::tick(const Input &input)
         // Where no map goes on, the game is over.
         m_lastBattle = below != nullptr ? BattleOutcome(below->result()) : BattleOutcome::kLost;
     }
-    m_problems += m_game->takeProblems();
+    const QVector<Problem> problems = m_game->takeProblems();
+    for (const Problem &problem : problems) {
+        problem.addTo(&m_problems);
+    }
     m_sounds += m_game->frame().sounds;
 }
 

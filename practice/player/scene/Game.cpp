@@ -146,7 +146,11 @@ void Game::setMusic(const Sound &music, int fadeTicks)
 
 void Game::tell(const Problem &problem)
 {
-    if (m_told.size() < kMostTold && !m_told.contains(problem) &&
+    if (m_told.contains(problem)) {
+        problem.addTo(&m_problems);
+        return;
+    }
+    if (m_told.size() < kMostTold &&
         std::count_if(m_told.cbegin(), m_told.cend(), [&problem](const Problem &told) {
             return told.isAtSameLine(problem);
         }) < kMostAtOneLine) {

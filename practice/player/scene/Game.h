@@ -27,6 +27,8 @@ struct GameSettings
     StartWith start = StartWith::kTitle;
     int troop = 0;
     quint64 seed = 1;
+    /// Name of the project: that of a game which has no title of its own.
+    QString name;
     /// Where save games lie; empty when there is no place for them.
     QString saveFolder;
 };
@@ -51,7 +53,7 @@ public:
     [[nodiscard]] const GameSettings &settings() const { return m_settings; }
     /// The person has left the game.
     [[nodiscard]] bool isOver() const { return m_isOver; }
-    /// What could not be done since the last call.
+    /// What could not be done since the last call, each problem once, with how often it happened.
     [[nodiscard]] QVector<Problem> takeProblems();
 
     // For scenes.
@@ -79,7 +81,7 @@ public:
     void play(const Sound &sound);
     /// Heard from now on, with 0 ticks at once; a sound without a file ends it.
     void setMusic(const Sound &music, int fadeTicks = 0);
-    /// The same problem is told once only.
+    /// The same problem is counted; so are a few of one line, at most.
     void tell(const Problem &problem);
 
 private:

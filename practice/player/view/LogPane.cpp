@@ -92,22 +92,35 @@ LogPane::LogPane(const GameData *gameData, QWidget *parent)
 void LogPane::add(const QVector<Problem> &problems)
 {
     for (const Problem &problem : problems) {
-        if (m_problems.size() < kMostRows) {
-            m_problems.append(problem);
-            addRow(problem);
+        if (m_problems.size() >= kMostRows && !m_problems.contains(problem)) {
+            continue;
         }
+        if (problem.addTo(&m_problems)) {
+            m_list->addItem(QString());
+        }
+        write(int(m_problems.indexOf(problem)));
     }
     if (!m_problems.isEmpty()) {
         show();
     }
 }
 
-void LogPane::addRow(const Problem &problem)
+void LogPane::write(int row)
 {
+    constexpr int kMostCounted = 9999;
+    const Problem &problem = m_problems.at(row);
     const QString place = placeInWords(problem, *m_data);
-    const QString text = place.isEmpty() ? problem.text : place + QStringLiteral(": ") + problem.text;
-    auto *item = new QListWidgetItem(text, m_list);
-    item->setToolTip(text);
+    QString text = place.isEmpty() ? problem.text : place + QStringLiteral(": ") + problem.text;
+    if (problem.times > kMostCounted) {
+        text.prepend(QStringLiteral("(×%1+) ").arg(kMostCounted));
+    } else if (problem.times > 1) {
+        text.prepend(QStringLiteral("(×%1) ").arg(problem.times));
+    }
+    QListWidgetItem *const item = m_list->item(row);
+    if (item->text() != text) {
+        item->setText(text);
+        item->setToolTip(text);
+    }
 }
 
 } // namespace player

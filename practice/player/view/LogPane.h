@@ -16,7 +16,8 @@ struct GameData;
 /// line. Empty for what has no place.
 [[nodiscard]] QString placeInWords(const Problem &problem, const GameData &data);
 
-/// What a game could not do, a row each. It is hidden until there is something to tell.
+/// What a game could not do, a row each, with how often it happened. It is hidden until there is something to
+/// tell.
 class LogPane : public QWidget
 {
     Q_OBJECT
@@ -36,7 +37,8 @@ Q_SIGNALS:
     void placeAsked(const player::Problem &problem);
 
 private:
-    void addRow(const Problem &problem);
+    /// Writes what is known of the problem in this row.
+    void write(int row);
 
     const GameData *m_data;
     QLabel *m_heading;

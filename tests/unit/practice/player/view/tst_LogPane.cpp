@@ -3,6 +3,8 @@
 
 #include <QListWidget>
 
+#include <limits>
+
 using namespace player;
 
 /// What a game could not do, in rows that lead to the place.
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void placesAreToldByTheirNames_data();
     void placesAreToldByTheirNames();
     void aRowLeadsToItsPlace();
+    void whatRepeatsIsOneRowWithACount();
     void keepsNoMoreRowsThanAreRead();
 
 private:
@@ -103,11 +106,36 @@ void tst_LogPane::aRowLeadsToItsPlace()
     QVERIFY(told.constLast() == first);
 }
 
+void tst_LogPane::whatRepeatsIsOneRowWithACount()
+{
+    Problem lever{str("data/Map001.json"), 1, 3, 2, 5, str("There is no item 9.")};
+    const Problem other{str("data/Map001.json"), 1, 3, 2, 6, str("There is no item 9.")};
+    m_pane->add({lever, other});
+    QCOMPARE(list()->item(0)->text(), str("Meadow › Lever › page 2 › line 5: There is no item 9."));
+    lever.times = 4;
+    m_pane->add({lever});
+    QCOMPARE(m_pane->rows(), 2);
+    QCOMPARE(list()->count(), 2);
+    QCOMPARE(list()->item(0)->text(), str("(×5) Meadow › Lever › page 2 › line 5: There is no item 9."));
+    QCOMPARE(list()->item(0)->toolTip(), list()->item(0)->text());
+    QCOMPARE(list()->item(1)->text(), str("Meadow › Lever › page 2 › line 6: There is no item 9."));
+    lever.times = std::numeric_limits<int>::max();
+    m_pane->add({lever});
+    QVERIFY2(list()->item(0)->text().startsWith(str("(×9999+) Meadow")), qPrintable(list()->item(0)->text()));
+}
+
 void tst_LogPane::keepsNoMoreRowsThanAreRead()
 {
-    const QVector<Problem> many(5 * LogPane::kMostRows, {{}, 0, 0, 0, 0, str("again")});
+    QVector<Problem> many;
+    for (int line = 1; line <= 5 * LogPane::kMostRows; ++line) {
+        many.append({{}, 0, 0, 0, line, str("again")});
+    }
     m_pane->add(many);
     QCOMPARE(m_pane->rows(), int(LogPane::kMostRows));
+    QCOMPARE(list()->count(), int(LogPane::kMostRows));
+    // Those that are told are still counted.
+    m_pane->add({many.constFirst(), many.constLast()});
+    QVERIFY(list()->item(0)->text().startsWith(str("(×2) ")));
     QCOMPARE(list()->count(), int(LogPane::kMostRows));
 }
 
