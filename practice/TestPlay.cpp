@@ -78,6 +78,7 @@ void TestPlay::play(const PlayRequest &request)
     settings.start = request.troop > 0 ? player::StartWith::kBattleTest : player::StartWith::kTitle;
     settings.troop = request.troop;
     settings.seed = QRandomGenerator::global()->generate64();
+    settings.name = QDir(request.folder).dirName();
     settings.saveFolder = QDir(request.folder).filePath(QStringLiteral("save"));
     auto artwork = std::make_unique<player::Artwork>(tileArt(request.start, data), &Pictures::load);
     m_window = new player::PlayerWindow(player::newGame(data, settings), std::move(artwork),

@@ -1050,6 +1050,39 @@
         <translation>このページには実行内容のリストがないため、何も起こりません。</translation>
     </message>
     <message>
+        <source>The page begins by trigger %1, which there is not: it begins when it is asked.</source>
+        <translation>ページの開始条件%1はありません。話しかけたときに開始します。</translation>
+    </message>
+    <message>
+        <source>The page moves in way %1, which there is not: the event stays.</source>
+        <translation>ページの移動方法%1はありません。イベントは動きません。</translation>
+    </message>
+    <message>
+        <source>The map has %1 numbers of tiles; %2 x %3 cells in %4 layers need %5. Cells without a number are empty, and nobody can walk there.</source>
+        <translation>マップのタイル番号が%1個です。%2 × %3マスで%4レイヤーには%5個必要です。番号のないマスは空になり、そこは歩けません。</translation>
+    </message>
+    <message>
+        <source>%1, %2 in layer %3</source>
+        <comment>place of a cell on a map</comment>
+        <translation>レイヤー%3の（%1, %2）</translation>
+    </message>
+    <message>
+        <source>The map has tiles that are not there: %1 in all, the first one at %2. Their cells are empty; draw them anew.</source>
+        <translation>マップに存在しないタイルがあります（全部で%1個、最初は%2）。そのマスは空になります。描き直してください。</translation>
+    </message>
+    <message>
+        <source>The map “%1” has tile set %2, which is not there: its tiles have their usual colours.</source>
+        <translation>マップ「%1」のタイルセット%2はありません。タイルは通常の色で表示されます。</translation>
+    </message>
+    <message>
+        <source>The skill “%1” shows animation %2, which is not there.</source>
+        <translation>スキル「%1」で表示するアニメーション%2はありません。</translation>
+    </message>
+    <message>
+        <source>The animation “%1” has %2 pictures; it has to have 1 to %3.</source>
+        <translation>アニメーション「%1」のフレーム数が%2です。1～%3にしてください。</translation>
+    </message>
+    <message>
         <source>The actor “%1” has class %2, which is not there: no HP and MP grow, and no skills are learned.</source>
         <translation>アクター「%1」の職業%2はありません。HPとMPは増えず、スキルも習得しません。</translation>
     </message>
@@ -1326,6 +1359,11 @@
         <source>Cancel, to the editor</source>
         <extracomment>Below a game, behind the escape key: what it does. There is room for some 30 letters.</extracomment>
         <translation>取り消し・エディターに戻る</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <extracomment>Below a game, behind the F5 key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>最初から</translation>
     </message>
 </context>
 <context>

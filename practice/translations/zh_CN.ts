@@ -1050,6 +1050,39 @@
         <translation>该事件页没有指令列表，什么也不会发生。</translation>
     </message>
     <message>
+        <source>The page begins by trigger %1, which there is not: it begins when it is asked.</source>
+        <translation>事件页的触发方式 %1 不存在，将在对话时触发。</translation>
+    </message>
+    <message>
+        <source>The page moves in way %1, which there is not: the event stays.</source>
+        <translation>事件页的移动方式 %1 不存在，事件不会移动。</translation>
+    </message>
+    <message>
+        <source>The map has %1 numbers of tiles; %2 x %3 cells in %4 layers need %5. Cells without a number are empty, and nobody can walk there.</source>
+        <translation>地图有 %1 个图块编号，而 %2 x %3 格、%4 个图层需要 %5 个。没有编号的格子为空，无法通行。</translation>
+    </message>
+    <message>
+        <source>%1, %2 in layer %3</source>
+        <comment>place of a cell on a map</comment>
+        <translation>图层 %3 的 %1, %2</translation>
+    </message>
+    <message>
+        <source>The map has tiles that are not there: %1 in all, the first one at %2. Their cells are empty; draw them anew.</source>
+        <translation>地图上有不存在的图块：共 %1 个，第一个在%2。这些格子为空，请重新绘制。</translation>
+    </message>
+    <message>
+        <source>The map “%1” has tile set %2, which is not there: its tiles have their usual colours.</source>
+        <translation>地图“%1”使用的图块组 %2 不存在，图块将显示为通常的颜色。</translation>
+    </message>
+    <message>
+        <source>The skill “%1” shows animation %2, which is not there.</source>
+        <translation>技能“%1”要播放的动画 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>The animation “%1” has %2 pictures; it has to have 1 to %3.</source>
+        <translation>动画“%1”的帧数为 %2，应为 1 到 %3。</translation>
+    </message>
+    <message>
         <source>The actor “%1” has class %2, which is not there: no HP and MP grow, and no skills are learned.</source>
         <translation>角色“%1”的职业 %2 不存在：HP 和 MP 不会成长，也不会学会技能。</translation>
     </message>
@@ -1326,6 +1359,11 @@
         <source>Cancel, to the editor</source>
         <extracomment>Below a game, behind the escape key: what it does. There is room for some 30 letters.</extracomment>
         <translation>取消、返回编辑器</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <extracomment>Below a game, behind the F5 key: what it does. There is room for some 20 letters.</extracomment>
+        <translation>重新开始</translation>
     </message>
 </context>
 <context>

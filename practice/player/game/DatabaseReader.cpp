@@ -14,6 +14,9 @@ using JsonRead::member;
 using JsonRead::number;
 using JsonRead::text;
 
+/// Pictures of an animation: ten seconds in a battle are 150.
+constexpr int kMostPictures = 600;
+
 NamedNumbers named(const QJsonValue &object, const char *key)
 {
     NamedNumbers numbers;
@@ -163,7 +166,7 @@ StateEntry state(const QJsonValue &json)
 AnimationEntry animation(const QJsonValue &json)
 {
     AnimationEntry entry;
-    entry.frames = qBound(1, number(json, "frames", 1), 600);
+    entry.frames = qBound(1, number(json, "frames", 1), kMostPictures);
     entry.isOnScreen = flag(json, "onScreen");
     return entry;
 }
@@ -211,6 +214,24 @@ void readList(const GameData::Files &files, const QString &name, T (*readEntry)(
             entry.name = text(entries.at(id), "name");
             entry.note = text(entries.at(id), "note");
             into->insert(entry);
+        }
+    }
+}
+
+void checkAnimations(const GameData::Files &files, QVector<Problem> *problems)
+{
+    const QString file = QStringLiteral("data/Animations.json");
+    const QJsonArray entries = files.value(file).toArray();
+    for (const QJsonValue &entry : entries) {
+        const int pictures = number(entry, "frames", 1);
+        if (entry.isObject() && (pictures < 1 || pictures > kMostPictures)) {
+            Problem problem;
+            problem.file = file;
+            problem.text =
+                QCoreApplication::translate("TestPlay", "The animation “%1” has %2 pictures; it has to have "
+                                                        "1 to %3.")
+                    .arg(text(entry, "name"), QString::number(pictures), QString::number(kMostPictures));
+            problems->append(problem);
         }
     }
 }
@@ -272,6 +293,7 @@ void read(const GameData::Files &files, GameData *data)
     readList(files, QStringLiteral("Troops"), &troop, &data->troops, problems);
     readList(files, QStringLiteral("States"), &state, &data->states, problems);
     readList(files, QStringLiteral("Animations"), &animation, &data->animations, problems);
+    checkAnimations(files, problems);
     readList(files, QStringLiteral("CommonEvents"), &commonEvent, &data->commonEvents, problems);
     // New projects have no file of their own for these: the editor's tile sets stand in.
     if (files.contains(QStringLiteral("data/Tilesets.json"))) {

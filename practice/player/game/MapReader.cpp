@@ -16,6 +16,21 @@ using JsonRead::member;
 using JsonRead::number;
 using JsonRead::text;
 
+constexpr int kLastMoveType = int(MoveType::kRoute);
+constexpr int kLastTrigger = int(Trigger::kParallel);
+
+bool isOneOf(const QJsonValue &page, const char *key, int last)
+{
+    const int value = number(page, key);
+    return value >= 0 && value <= last;
+}
+
+/// 0 for a number that has no meaning.
+int oneOf(const QJsonValue &page, const char *key, int last)
+{
+    return isOneOf(page, key, last) ? number(page, key) : 0;
+}
+
 /// Whether one can stand on a tile, by its number; 0 is no tile.
 QVector<bool> floors(const QStringList &tiles)
 {
@@ -40,13 +55,13 @@ EventPage page(const QJsonValue &json)
     page.conditions.variableValue = number(conditions, "variableValue");
     page.conditions.selfSwitch = text(conditions, "selfSwitch");
     page.image = text(json, "image");
-    page.moveType = MoveType(qBound(0, number(json, "moveType"), 3));
+    page.moveType = MoveType(oneOf(json, "moveType", kLastMoveType));
     page.moveSpeed = number(json, "moveSpeed");
     page.moveFrequency = number(json, "moveFrequency");
     page.hasFixedDirection = flag(json, "directionFix");
     page.isThrough = flag(json, "through");
     page.stepsInPlace = flag(json, "stepAnime");
-    page.trigger = Trigger(qBound(0, number(json, "trigger"), 4));
+    page.trigger = Trigger(oneOf(json, "trigger", kLastTrigger));
     page.route = Route::fromJson(member(json, "moveRoute"));
     page.list = commandsFromJson(member(json, "list"));
     return page;
@@ -91,6 +106,18 @@ void checkEvents(const QString &file, const QJsonValue &json, MapData *map, QVec
         }
         const QJsonArray pages = list(entries.at(event.id), "pages");
         for (int page = 0; page < pages.size(); ++page) {
+            if (!isOneOf(pages.at(page), "trigger", kLastTrigger)) {
+                tell(page + 1, QCoreApplication::translate(
+                                   "TestPlay", "The page begins by trigger %1, which there is not: it begins "
+                                               "when it is asked.")
+                                   .arg(number(pages.at(page), "trigger")));
+            }
+            if (!isOneOf(pages.at(page), "moveType", kLastMoveType)) {
+                tell(page + 1,
+                     QCoreApplication::translate("TestPlay", "The page moves in way %1, which there is not: "
+                                                             "the event stays.")
+                         .arg(number(pages.at(page), "moveType")));
+            }
             if (!member(pages.at(page), "list").isArray()) {
                 tell(page + 1, QCoreApplication::translate(
                                    "TestPlay", "The page has no list of commands: it does nothing."));
@@ -99,8 +126,8 @@ void checkEvents(const QString &file, const QJsonValue &json, MapData *map, QVec
     }
 }
 
-/// Fills in the cells; false when there are none, or too many.
-bool readCells(const QJsonValue &json, const QVector<bool> &floors, MapData *map)
+/// Takes the numbers of the cells; false when there are none, or too many.
+bool readCells(const QJsonValue &json, MapData *map)
 {
     const QSize size(number(json, "width"), number(json, "height"));
     if (size.width() < 1 || size.height() < 1 || size.width() > MapData::kLargest ||
@@ -114,6 +141,12 @@ bool readCells(const QJsonValue &json, const QVector<bool> &floors, MapData *map
     for (int i = 0; i < qMin(int(data.size()), int(map->tiles.size())); ++i) {
         map->tiles[i] = data.at(i).toInt();
     }
+    return true;
+}
+
+void findFloor(const QVector<bool> &floors, MapData *map)
+{
+    const int cells = map->size.width() * map->size.height();
     map->floor.fill(false, cells);
     for (int cell = 0; cell < cells; ++cell) {
         // The uppermost tile decides.
@@ -125,7 +158,48 @@ bool readCells(const QJsonValue &json, const QVector<bool> &floors, MapData *map
             }
         }
     }
-    return true;
+}
+
+/// Names cells that are missing or have tiles that are not there; the latter become empty.
+void checkCells(const QString &file, const QJsonValue &json, int lastTile, MapData *map,
+                QVector<Problem> *problems)
+{
+    const auto tell = [&](const QString &text) {
+        problems->append(Problem{file, map->id, 0, 0, 0, text});
+    };
+    const QJsonArray data = list(json, "data");
+    if (data.size() != map->tiles.size()) {
+        tell(QCoreApplication::translate("TestPlay",
+                                         "The map has %1 numbers of tiles; %2 x %3 cells in %4 layers need "
+                                         "%5. Cells without a number are empty, and nobody can walk there.")
+                 .arg(data.size())
+                 .arg(map->size.width())
+                 .arg(map->size.height())
+                 .arg(MapData::kLayers)
+                 .arg(map->tiles.size()));
+    }
+    const int cells = map->size.width() * map->size.height();
+    int wild = 0;
+    QString first;
+    for (int i = 0; i < qMin(int(data.size()), int(map->tiles.size())); ++i) {
+        const bool isNumber = data.at(i).isDouble() && data.at(i).toInt(-1) == data.at(i).toDouble();
+        if (isNumber && map->tiles.at(i) >= 0 && map->tiles.at(i) <= lastTile) {
+            continue;
+        }
+        map->tiles[i] = 0;
+        if (wild++ == 0) {
+            first = QCoreApplication::translate("TestPlay", "%1, %2 in layer %3", "place of a cell on a map")
+                        .arg(i % cells % map->size.width())
+                        .arg(i % cells / map->size.width())
+                        .arg(i / cells + 1);
+        }
+    }
+    if (wild > 0) {
+        tell(QCoreApplication::translate("TestPlay",
+                                         "The map has tiles that are not there: %1 in all, the first one at "
+                                         "%2. Their cells are empty; draw them anew.")
+                 .arg(QString::number(wild), first));
+    }
 }
 
 MapData readMap(int id, const QString &file, const QJsonValue &json, const QVector<bool> &floors,
@@ -143,7 +217,10 @@ MapData readMap(int id, const QString &file, const QJsonValue &json, const QVect
         map.encounters.append({number(encounter, "troopId"), qBound(0, number(encounter, "weight"), 1000)});
     }
     map.events = events(json);
-    if (!readCells(json, floors, &map)) {
+    if (readCells(json, &map)) {
+        checkCells(file, json, int(floors.size()) - 1, &map, problems);
+        findFloor(floors, &map);
+    } else {
         Problem problem;
         problem.file = file;
         problem.map = id;

@@ -63,8 +63,32 @@ public:
 
     void skillsAndItems()
     {
-        each(m_data->skills, "data/Skills.json", [this](const SkillEntry &entry) { effects(entry); });
+        each(m_data->skills, "data/Skills.json", [this](const SkillEntry &entry) {
+            effects(entry);
+            if (isWild(m_data->animations, entry.animation)) {
+                tell(said(
+                    QT_TRANSLATE_NOOP("TestPlay", "The skill “%1” shows animation %2, which is not there."),
+                    entry.name, entry.animation));
+            }
+        });
         each(m_data->items, "data/Items.json", [this](const ItemEntry &entry) { effects(entry); });
+    }
+
+    /// Without a file of their own, a project has the editor's tile sets.
+    void tileSets()
+    {
+        const QList<int> maps = m_data->tileSets.ids().isEmpty() ? QList<int>() : m_data->maps.ids();
+        for (const int id : maps) {
+            const MapData &map = *m_data->maps.find(id);
+            if (m_data->tileSets.find(map.tileSet) == nullptr) {
+                m_file = QStringLiteral("data/Map%1.json").arg(id, 3, 10, QLatin1Char('0'));
+                tell(said(QT_TRANSLATE_NOOP("TestPlay",
+                                            "The map “%1” has tile set %2, which is not there: its tiles "
+                                            "have their usual colours."),
+                          map.name, map.tileSet),
+                     id);
+            }
+        }
     }
 
     void enemies()
@@ -114,10 +138,11 @@ private:
         }
     }
 
-    void tell(const QString &text)
+    void tell(const QString &text, int map = 0)
     {
         Problem problem;
         problem.file = m_file;
+        problem.map = map;
         problem.text = text;
         m_data->problems.append(problem);
     }
@@ -135,6 +160,7 @@ void check(GameData *data)
     check.classes();
     check.skillsAndItems();
     check.enemies();
+    check.tileSets();
 }
 
 } // namespace player::References

@@ -122,7 +122,7 @@ Seen balloon(Hand *hand, const QStringList &values)
     return {holds, holds ? values.at(0) : QStringLiteral("none")};
 }
 
-/// On somebody on the map, or in a battle.
+/// On somebody on the map, or in a battle, where the party counts, too.
 Seen animation(Hand *hand, const QStringList &values)
 {
     const int wanted = values.at(0).toInt();
@@ -132,7 +132,8 @@ Seen animation(Hand *hand, const QStringList &values)
             return one.animation == wanted;
         };
         return std::any_of(frame.sprites.begin(), frame.sprites.end(), shows) ||
-               std::any_of(frame.battlers.begin(), frame.battlers.end(), shows);
+               std::any_of(frame.battlers.begin(), frame.battlers.end(), shows) ||
+               std::any_of(frame.animations.begin(), frame.animations.end(), shows);
     });
     return {holds, holds ? values.at(0) : QStringLiteral("none")};
 }

@@ -139,6 +139,7 @@ bool BattleScene::tickLog(const Input &input, Game *game)
     m_view.latest = told.note;
     m_view.hasLatest = told.hasNote;
     m_view.animation = told.animation;
+    m_lineTicks = qMax(m_lineTicks, BattleView::ticksOf(told.animation, game->data()));
     m_view.ticks = 0;
     if (told.hasNote) {
         m_view.follow(told.note);
@@ -232,14 +233,21 @@ bool BattleScene::beginEvent()
 void BattleScene::tell(const QVector<Note> &notes)
 {
     int animation = 0;
+    QVector<Fighter> animated;
     for (const Note &note : notes) {
         if (note.kind == Note::Kind::kUsesSkill) {
             const SkillEntry *skill = m_interpreter->data().skills.find(note.id);
             animation = skill != nullptr ? skill->animation : 0;
+            animated.clear();
         }
         const bool isAboutDoer = note.kind == Note::Kind::kUsesSkill || note.kind == Note::Kind::kAttacks;
+        // Whatever a skill does to somebody, it is seen once.
+        const bool isSeen = !isAboutDoer && !animated.contains(note.who);
+        if (isSeen) {
+            animated.append(note.who);
+        }
         m_told.append({BattleWords::of(note, m_battle->fighters(), m_interpreter->data()), note, true,
-                       isAboutDoer ? 0 : animation});
+                       isSeen ? animation : 0});
     }
 }
 

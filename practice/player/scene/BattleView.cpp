@@ -14,6 +14,11 @@ constexpr int kFlashTicks = 8;
 /// Of the opacity of who falls, in a tick.
 constexpr int kFadeAway = 7;
 constexpr int kTicksOfPicture = 4;
+/// Of the party's panel.
+constexpr int kLine = 24;
+/// Side of an animation over a member of the party, and its middle from the left edge of the panel.
+constexpr int kAnimation = 96;
+constexpr int kLeftOfAnimation = 56;
 
 /// The field of a troop is as high as the screen, and its members stand around their places. Here the lower
 /// part is needed for the party: everybody moves up.
@@ -70,6 +75,19 @@ void BattleView::show(const Battle &battle, const GameData &data, Frame *frame) 
     }
 }
 
+int BattleView::picture(const GameData &data) const
+{
+    const int due = ticks / kTicksOfPicture;
+    const AnimationEntry *const entry = data.animations.find(animation);
+    return entry != nullptr && due < entry->frames ? due : -1;
+}
+
+int BattleView::ticksOf(int animation, const GameData &data)
+{
+    const AnimationEntry *const entry = data.animations.find(animation);
+    return entry != nullptr ? entry->frames * kTicksOfPicture : 0;
+}
+
 void BattleView::showEnemies(const Battle &battle, const GameData &data, Frame *frame) const
 {
     const QVector<Fighter> troop = battle.fighters().present(true);
@@ -91,11 +109,9 @@ void BattleView::showEnemies(const Battle &battle, const GameData &data, Frame *
         if (isStruck) {
             shown.flashes = latest.kind == Note::Kind::kLosesHp && ticks < kFlashTicks;
             shown.popup = isPoints(latest.kind) ? QString::number(latest.amount) : QString();
-            const AnimationEntry *entry = data.animations.find(animation);
-            const int picture = ticks / kTicksOfPicture;
-            if (entry != nullptr && picture < entry->frames) {
+            if (const int its = picture(data); its >= 0) {
                 shown.animation = animation;
-                shown.animationFrame = picture;
+                shown.animationFrame = its;
             }
         }
         frame->battlers.append(shown);
@@ -122,6 +138,11 @@ void BattleView::showParty(const Battle &battle, const GameData &data, Frame *fr
         panel.gauges.append(
             {Terms::hp(), hpOf(battle, fighter), actor->maxHp(data), QRect(212, top, 112, 22)});
         panel.gauges.append({Terms::mp(), actor->mp, actor->maxMp(data), QRect(336, top, 88, 22)});
+        if (const int its = picture(data); its >= 0 && hasLatest && latest.who == fighter) {
+            const QPoint line = panel.rect.topLeft() + QPoint(kLeftOfAnimation, top + kLine / 2);
+            const QPoint half(kAnimation / 2, kAnimation / 2);
+            frame->animations.append({animation, its, QRect(line - half, QSize(kAnimation, kAnimation))});
+        }
         if (fighter == asked || fighter == aimedAt) {
             panel.lines.last().runs.first().colour = 6;
         }

@@ -35,6 +35,9 @@ struct BattleView
     void follow(const Note &note);
     void seeAll() { m_kept.clear(); }
 
+    /// How long it takes, 0 for one that is not there.
+    [[nodiscard]] static int ticksOf(int animation, const GameData &data);
+
     void show(const Battle &battle, const GameData &data, Frame *frame) const;
 
 private:
@@ -45,6 +48,8 @@ private:
     };
 
     [[nodiscard]] int hpOf(const Battle &battle, const Fighter &fighter) const;
+    /// The picture of the animation that is due now, -1 for none.
+    [[nodiscard]] int picture(const GameData &data) const;
     void showEnemies(const Battle &battle, const GameData &data, Frame *frame) const;
     void showParty(const Battle &battle, const GameData &data, Frame *frame) const;
     void showLog(Frame *frame) const;

@@ -71,6 +71,16 @@ struct FrameBattler
     int maxHp = 0;
 };
 
+/// An animation that nobody carries who could be seen, such as one over a member of the party in a battle.
+struct FrameAnimation
+{
+    /// Number of its entry, and its picture, from 0.
+    int animation = 0;
+    int animationFrame = 0;
+    /// In game pixels.
+    QRect around;
+};
+
 /// Letters of one colour; 0 is the usual one.
 struct Run
 {
@@ -160,6 +170,8 @@ struct Frame
     QVector<FrameBattler> battlers;
     /// From back to front; the last one with rows takes the keys.
     QVector<Panel> panels;
+    /// Above the panels.
+    QVector<FrameAnimation> animations;
 
     /// -255 to 255 for each colour, and how grey all is, 0 to 255.
     int tintRed = 0;

@@ -96,12 +96,15 @@ void TitleScene::show(const Game &game, Frame *frame) const
 {
     const SystemEntry &system = game.data().system;
     frame->title = system.titleBackdrop;
-    if (system.showsTitle && !system.gameTitle.isEmpty()) {
+    // One that nobody has made yet says at least what is being played.
+    const bool isPlain = system.titleBackdrop.isEmpty() && system.titleCommands.isEmpty();
+    const QString name = system.gameTitle.isEmpty() ? game.settings().name : system.gameTitle;
+    if ((system.showsTitle || isPlain) && !name.isEmpty()) {
         Panel title;
         title.role = QStringLiteral("gameTitle");
         title.rect = kTitle;
         title.background = Panel::Background::kDim;
-        title.title = system.gameTitle;
+        title.title = name;
         frame->panels.append(title);
     }
     if (!m_list.help().isEmpty()) {

@@ -77,7 +77,7 @@ QPixmap Artwork::picture(const QString &folder, const QString &name, const QSize
     const QPixmap whole = source(folder, name);
     if (whole.isNull() && !m_missing.contains(folder + QLatin1Char('/') + name)) {
         m_missing.insert(folder + QLatin1Char('/') + name);
-        Problem problem;
+        Problem problem = m_place;
         //: %1 is the name of a picture in the project.
         problem.text =
             tr("There is no picture “%1”: a plain box is shown. Choose another picture in its place.")

@@ -36,6 +36,10 @@ public:
     /// pixels fills the screen.
     [[nodiscard]] QSize shownSize(const QString &name);
 
+    /// Where the pictures that are drawn from now on are asked for, told with those that are missing; none
+    /// for Problem().
+    void setPlace(const Problem &place) { m_place = place; }
+
     /// Drops what was made for another size.
     void forgetSizes();
 
@@ -50,6 +54,7 @@ private:
     QHash<QString, QPixmap> m_pictures;
     QSet<QString> m_missing;
     QVector<Problem> m_problems;
+    Problem m_place;
 };
 
 } // namespace player

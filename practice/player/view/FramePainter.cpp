@@ -23,6 +23,22 @@ QPainter::CompositionMode modeOf(int blending)
     }
 }
 
+/// Whether there is nothing but panels, which would stand in a void: a title without a picture, a menu, a
+/// shop.
+bool hasPanelsOnly(const Frame &frame)
+{
+    return frame.map == 0 && frame.title.isEmpty() && frame.backdrop.isEmpty() && frame.battlers.isEmpty() &&
+           !frame.panels.isEmpty() && frame.panel("gameOver") == nullptr;
+}
+
+void paintDusk(QPainter *painter, const QRect &rect)
+{
+    QLinearGradient dusk(rect.topLeft(), rect.bottomLeft());
+    dusk.setColorAt(0, QColor(0x12, 0x1c, 0x38));
+    dusk.setColorAt(1, QColor(0x3c, 0x50, 0x74));
+    painter->fillRect(rect, dusk);
+}
+
 } // namespace
 
 FramePainter::FramePainter(Artwork *artwork)
@@ -75,6 +91,7 @@ void FramePainter::paint(QPainter *painter, const Frame &frame, const GameData &
     for (const Panel &panel : frame.panels) {
         m_panels.paint(painter, panel, scale, frame.tick);
     }
+    SpritePainter::paintAnimations(painter, frame, data, scale);
     painter->restore();
 }
 
@@ -98,6 +115,9 @@ void FramePainter::paintWorld(QPainter *painter, const Frame &frame, const GameD
     const QRect all(QPoint(), scale.size());
     const QPoint shake = scale.point(frame.shake);
     painter->translate(shake);
+    if (hasPanelsOnly(frame)) {
+        paintDusk(painter, all);
+    }
     const QString backdrops = QStringLiteral("backdrops");
     if (!frame.backdrop.isEmpty()) {
         painter->drawPixmap(QPoint(), m_artwork->picture(backdrops, frame.backdrop, all.size()));

@@ -27,10 +27,13 @@ KeyLine::KeyLine(QWidget *parent)
     const QString menu = tr("Menu, cancel");
     //: Below a game, behind the escape key: what it does. There is room for some 30 letters.
     const QString leave = tr("Cancel, to the editor");
+    //: Below a game, behind the F5 key: what it does. There is room for some 20 letters.
+    const QString anew = tr("Begin anew");
     add({QStringLiteral("←"), QStringLiteral("↑"), QStringLiteral("↓"), QStringLiteral("→")}, walk);
     add({QStringLiteral("Enter")}, act);
     add({QStringLiteral("X")}, menu);
     add({QStringLiteral("Esc")}, leave);
+    add({QStringLiteral("F5")}, anew);
     row->addStretch();
 }
 

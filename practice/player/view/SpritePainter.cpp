@@ -16,11 +16,26 @@ constexpr int kEnemySize = 128;
 constexpr double kStepLift = 0.06;
 constexpr double kOpaque = 255.0;
 
-void animate(QPainter *painter, int animation, int frame, const GameData &data, const QRectF &around)
+/// @p around is where it is seen unless it goes over all of the screen.
+void animate(QPainter *painter, int animation, int frame, const GameData &data, const ScreenScale &scale,
+             const QRectF &around)
 {
     if (const AnimationEntry *entry = data.animations.find(animation)) {
-        drawAnimation(painter, animation, double(frame) / qMax(1, entry->frames), around);
+        drawAnimation(painter, animation, double(frame) / qMax(1, entry->frames),
+                      entry->isOnScreen ? QRectF(QPointF(), scale.size()) : around);
     }
+}
+
+/// Who it is, where a picture is missing. The hero's comes from the database.
+Problem placeOf(const Sprite &sprite, int map)
+{
+    Problem place;
+    if (sprite.event > 0) {
+        place.file = QStringLiteral("data/Map%1.json").arg(map, 3, 10, QLatin1Char('0'));
+        place.map = map;
+        place.event = sprite.event;
+    }
+    return place;
 }
 
 } // namespace
@@ -43,13 +58,15 @@ void SpritePainter::paint(QPainter *painter, const Frame &frame, const GameData 
     for (const Sprite &sprite : frame.sprites) {
         const QRect cell = cellOf(sprite);
         if (seen.intersects(cell)) {
+            m_artwork->setPlace(placeOf(sprite, frame.map));
             paintSprite(painter, sprite, cell, scale.length(sprite.height));
         }
     }
+    m_artwork->setPlace({});
     // What they feel is seen above all of them.
     for (const Sprite &sprite : frame.sprites) {
         const QRect cell = cellOf(sprite).translated(0, -scale.length(sprite.height));
-        animate(painter, sprite.animation, sprite.animationFrame, data,
+        animate(painter, sprite.animation, sprite.animationFrame, data, scale,
                 cell.adjusted(-around / 4, -around / 4, around / 4, around / 4));
         if (sprite.balloon > 0) {
             const int size = scale.length(22);
@@ -90,7 +107,15 @@ void SpritePainter::paintBattlers(QPainter *painter, const Frame &frame, const G
         const QPoint feet = scale.point(battler.at);
         const QRect place(feet - QPoint(size / 2, size), QSize(size, size));
         paintBattler(painter, battler, place, scale, frame.tick);
-        animate(painter, battler.animation, battler.animationFrame, data, place);
+        animate(painter, battler.animation, battler.animationFrame, data, scale, place);
+    }
+}
+
+void SpritePainter::paintAnimations(QPainter *painter, const Frame &frame, const GameData &data,
+                                    const ScreenScale &scale)
+{
+    for (const FrameAnimation &shown : frame.animations) {
+        animate(painter, shown.animation, shown.animationFrame, data, scale, scale.rect(shown.around));
     }
 }
 

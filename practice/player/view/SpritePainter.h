@@ -19,6 +19,10 @@ public:
     void paint(QPainter *painter, const Frame &frame, const GameData &data, const ScreenScale &scale);
     void paintBattlers(QPainter *painter, const Frame &frame, const GameData &data, const ScreenScale &scale);
 
+    /// What is seen above the panels.
+    static void paintAnimations(QPainter *painter, const Frame &frame, const GameData &data,
+                                const ScreenScale &scale);
+
 private:
     void paintSprite(QPainter *painter, const Sprite &sprite, const QRect &cell, int lift);
     void paintBattler(QPainter *painter, const FrameBattler &battler, const QRect &place,

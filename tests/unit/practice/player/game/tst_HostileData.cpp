@@ -16,6 +16,7 @@ private Q_SLOTS:
     void anyFieldMayHoldAnything();
     void massesOfEventsBesideTheGameLeaveTimeForIt();
     void aLineThatGoesWrongInManyWaysIsNamedAFewTimes();
+    void whatGoesWrongAgainIsNamedOnceAndCounted();
 };
 
 namespace {
@@ -167,6 +168,29 @@ void tst_HostileData::whatIsWrongIsNamed_data()
         "event 2, page 1: The page has no list of commands");
     add("Map001/width", 0, "data/Map001.json: The map has 0 x 6 cells");
     add("Map001/height", 10000, "data/Map001.json: The map has 10 x 10000 cells");
+    add("Map001/data", QJsonArray(),
+        "data/Map001.json: The map has 0 numbers of tiles; 10 x 6 cells in 3 layers need 180.");
+    add("Map001/data", QJsonArray({1, 1, 1}), "data/Map001.json: The map has 3 numbers of tiles");
+    add("Map001/data", QStringLiteral("x"), "data/Map001.json: The map has 0 numbers of tiles");
+    add("Map001/data/13", 777,
+        "data/Map001.json: The map has tiles that are not there: 1 in all, the first one at 3, 1 in layer "
+        "1.");
+    add("Map001/data/129", -1,
+        "data/Map001.json: The map has tiles that are not there: 1 in all, the first one at 9, 0 in layer "
+        "3.");
+    add("Map001/data/0", QStringLiteral("1"),
+        "data/Map001.json: The map has tiles that are not there: 1 in all");
+    add("Map001/data/0", 1.5, "data/Map001.json: The map has tiles that are not there: 1 in all");
+    add("Map001/tilesetId", 77, "data/Map001.json: The map “One” has tile set 77");
+    add("Map001/events/2/pages/0/trigger", 9,
+        "data/Map001.json, event 2, page 1: The page begins by trigger 9, which there is not");
+    add("Map001/events/2/pages/0/moveType", -1,
+        "data/Map001.json, event 2, page 1: The page moves in way -1, which there is not");
+    add("Map001/events/1/pages/0/list/9/parameters/1", 77,
+        "data/Map001.json, event 1, page 1, line 10: There is no animation 77");
+    add("Skills/1/animationId", 77, "data/Skills.json: The skill “Strike” shows animation 77");
+    add("Animations/1/frames", 0, "data/Animations.json: The animation “Spark” has 0 pictures");
+    add("Animations/1/frames", 601, "data/Animations.json: The animation “Spark” has 601 pictures");
     add("System/partyMembers", QJsonArray{77}, "data/System.json: Actor 77 of the party is not there.");
     add("System/partyMembers", QStringLiteral("all"), "data/System.json: The party has nobody in it.");
     add("System/startMapId", 9, "The game starts on map 9, and there is none.");
@@ -299,6 +323,18 @@ void tst_HostileData::aLineThatGoesWrongInManyWaysIsNamedAFewTimes()
         told += problem.line == 3 ? 1 : 0;
     }
     QCOMPARE(told, 5);
+}
+
+void tst_HostileData::whatGoesWrongAgainIsNamedOnceAndCounted()
+{
+    sample::Play play(smallGame::filesWith(R"({"code":311,"indent":0,"parameters":[0,77,0,0,1,false]},
+        {"code":122,"indent":0,"parameters":[1,1,1,0,1]})"),
+                      smallGame::onMap());
+    QCOMPARE(play.run(QStringLiteral("ask 3 1\nwait 30\nask 3 1\nwait 30\nask 3 1\nwait 30")), QString());
+    QCOMPARE(play.hand().state().variable(1), 3);
+    QCOMPARE(play.hand().problems().size(), 1);
+    QCOMPARE(play.hand().problems().constFirst().line, 1);
+    QCOMPARE(play.hand().problems().constFirst().times, 3);
 }
 
 QTEST_GUILESS_MAIN(tst_HostileData)

@@ -66,6 +66,8 @@ private Q_SLOTS:
     void whatCannotBeChosenSaysWhy();
     void cancellingLeadsBackToTheOneBefore();
     void aSkillIsChosenWithItsTarget();
+    void anAnimationIsSeenOverThoseOfTheParty();
+    void anAnimationIsSeenOnceForEachDeed();
     void aBattleEventRunsAtItsTime();
     void anAbortedBattleCountsAsFled();
     void aTroopWithoutMembersEndsAtOnceAndIsTold();
@@ -171,6 +173,76 @@ void tst_BattleScene::aSkillIsChosenWithItsTarget()
     QVERIFY(run.hurry("commands"));
     QVERIFY(run.game.state().knownActor(2)->hp >= 31); // 15 + 20, less 4 at most
     QCOMPARE(run.game.state().knownActor(1)->mp, 6);
+}
+
+void tst_BattleScene::anAnimationIsSeenOverThoseOfTheParty()
+{
+    SlimeGame small;
+    AnimationEntry spark;
+    spark.id = 3;
+    spark.frames = 20;
+    small.data->animations.insert(spark);
+    SlimeGame::change(&small.data->skills, SlimeGame::kHeal, [](SkillEntry *heal) { heal->animation = 3; });
+    small.begin();
+    small.actor(1).learn(SlimeGame::kHeal);
+    small.actor(1).hp = 5;
+    BattleRun run(small);
+    QVERIFY(run.hurry("commands"));
+    QVERIFY(run.choose(QStringLiteral("Skills")));
+    QVERIFY(run.choose(QStringLiteral("Heal")));
+    QVERIFY(run.choose(QStringLiteral("Mila")));
+    QVERIFY(run.choose(QStringLiteral("Guard")));
+    QVector<int> pictures;
+    for (int tick = 0; tick < 600; ++tick) {
+        run.game.tick();
+        const Frame &frame = run.game.frame();
+        for (const FrameAnimation &shown : frame.animations) {
+            QCOMPARE(shown.animation, 3);
+            // On her line, the first one.
+            const QRect party = frame.panel("status")->rect;
+            QVERIFY(party.contains(shown.around.center()));
+            QVERIFY(shown.around.center().y() < party.top() + 36);
+            if (!pictures.contains(shown.animationFrame)) {
+                pictures.append(shown.animationFrame);
+            }
+        }
+    }
+    // All of it, though it takes longer than one reads the line.
+    QCOMPARE(pictures.size(), 20);
+    QCOMPARE(pictures.constLast(), 19);
+}
+
+void tst_BattleScene::anAnimationIsSeenOnceForEachDeed()
+{
+    SlimeGame small;
+    AnimationEntry spark;
+    spark.id = 3;
+    spark.frames = 2;
+    small.data->animations.insert(spark);
+    SlimeGame::change(&small.data->skills, SlimeGame::kSpores, [](SkillEntry *spores) {
+        spores->animation = 3;
+        spores->effects.prepend({QStringLiteral("hp"), -2});
+    });
+    SlimeGame::change(&small.data->classes, 1, [](ClassEntry *traveler) {
+        traveler->learnings = {{1, SlimeGame::kSpores}};
+    });
+    small.begin();
+    BattleRun run(small);
+    QVERIFY(run.hurry("commands"));
+    QVERIFY(run.choose(QStringLiteral("Skills")));
+    QVERIFY(run.choose(QStringLiteral("Spores")));
+    QVERIFY(run.choose(QStringLiteral("Slime")));
+    QVERIFY(run.choose(QStringLiteral("Guard")));
+    int begun = 0;
+    bool wasSeen = false;
+    for (int tick = 0; tick < 600; ++tick) {
+        run.game.tick();
+        const FrameBattler slime = run.game.frame().battlers.value(0);
+        const bool isSeen = slime.animation == 3 && slime.animationFrame == 0;
+        begun += isSeen && !wasSeen ? 1 : 0;
+        wasSeen = isSeen;
+    }
+    QCOMPARE(begun, 1);
 }
 
 void tst_BattleScene::aBattleEventRunsAtItsTime()

@@ -62,6 +62,8 @@ private Q_SLOTS:
     void aFolderThatCannotBeWrittenIsTold();
     void withoutSavesThereIsNothingToContinue();
     void theTitleHasTheProjectsCommands();
+    void aTitleThatNobodyHasMadeHasTheProjectsName_data();
+    void aTitleThatNobodyHasMadeHasTheProjectsName();
     void wildTitleCommandsLeaveANewGame();
 };
 
@@ -213,6 +215,32 @@ void tst_SaveScenes::theTitleHasTheProjectsCommands()
     QCOMPARE(run.game.frame().panel("gameTitle")->title, QStringLiteral("The lamp"));
     QCOMPARE(run.rows(), QStringList({QStringLiteral("Set out"), QStringLiteral("Credits")}));
     QVERIFY(!run.isEnabled(1));
+}
+
+void tst_SaveScenes::aTitleThatNobodyHasMadeHasTheProjectsName_data()
+{
+    QTest::addColumn<QString>("backdrop");
+    QTest::addColumn<QString>("gameTitle");
+    QTest::addColumn<QString>("seen");
+    QTest::newRow("nothing at all") << QString() << QString() << QStringLiteral("Lanterns");
+    QTest::newRow("only a name") << QString() << QStringLiteral("The lamp") << QStringLiteral("The lamp");
+    // Its maker has chosen a picture, and no title on it.
+    QTest::newRow("only a picture") << QStringLiteral("lamp") << QStringLiteral("The lamp") << QString();
+}
+
+void tst_SaveScenes::aTitleThatNobodyHasMadeHasTheProjectsName()
+{
+    QFETCH(QString, backdrop);
+    QFETCH(QString, gameTitle);
+    SaveGround ground;
+    ground.settings.name = QStringLiteral("Lanterns");
+    ground.small.data->system.titleBackdrop = backdrop;
+    ground.small.data->system.gameTitle = gameTitle;
+    SceneRun run(ground.small, ground.settings);
+    run.game.begin(std::make_unique<TitleScene>());
+    run.wait(3);
+    const Panel *const title = run.game.frame().panel("gameTitle");
+    QTEST(title != nullptr ? title->title : QString(), "seen");
 }
 
 void tst_SaveScenes::wildTitleCommandsLeaveANewGame()

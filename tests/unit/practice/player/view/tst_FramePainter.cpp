@@ -45,6 +45,8 @@ private Q_SLOTS:
     void tintsShiftTheColours();
     void greyTakesTheColoursAway();
     void panelsAreNotTinted();
+    void panelsByThemselvesDoNotStandInTheDark_data();
+    void panelsByThemselvesDoNotStandInTheDark();
     void fadesAndFlashesCoverAll();
     void shakingMovesTheWorld();
     void picturesStandAndBlend();
@@ -55,6 +57,8 @@ private Q_SLOTS:
     void weatherFalls();
     void balloonsAreAllDifferent();
     void animationsMove();
+    void animationsGoOverThePanels();
+    void anAnimationMayGoOverAllOfTheScreen();
 };
 
 void tst_FramePainter::theMapFillsTheScreenWithoutASeam_data()
@@ -161,11 +165,15 @@ void tst_FramePainter::aMissingPictureIsABoxAndAProblemOnce()
     Frame frame = mapFrame();
     frame.sprites.append(spriteAt(3, 2));
     frame.sprites[0].image = str("nobody");
+    frame.sprites[0].event = 4;
     painting.draw(frame);
     QVERIFY(painting.at(96 + 8, 64 + 16) != QColor(Qt::green));
     painting.draw(frame);
     const QVector<Problem> problems = painting.artwork().takeProblems();
     QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems.constFirst().file, str("data/Map001.json"));
+    QCOMPARE(problems.constFirst().map, 1);
+    QCOMPARE(problems.constFirst().event, 4);
     QVERIFY2(problems.constFirst().text.contains(str("nobody")), qPrintable(problems.constFirst().text));
     painting.draw(frame);
     QCOMPARE(painting.artwork().takeProblems().size(), 0);
@@ -192,6 +200,32 @@ void tst_FramePainter::greyTakesTheColoursAway()
     QCOMPARE(grey.red(), grey.green());
     QCOMPARE(grey.green(), grey.blue());
     QCOMPARE(grey.red(), qGray(0, 255, 0));
+}
+
+void tst_FramePainter::panelsByThemselvesDoNotStandInTheDark_data()
+{
+    QTest::addColumn<QString>("role");
+    QTest::addColumn<bool>("isDark");
+    QTest::newRow("title") << str("title") << false;
+    QTest::newRow("menu") << str("menu") << false;
+    QTest::newRow("the end") << str("gameOver") << true;
+    QTest::newRow("nothing") << QString() << true;
+}
+
+void tst_FramePainter::panelsByThemselvesDoNotStandInTheDark()
+{
+    QFETCH(QString, role);
+    QFETCH(bool, isDark);
+    Painting painting(kOnce);
+    Frame frame;
+    if (!role.isEmpty()) {
+        Panel panel;
+        panel.role = role;
+        panel.rect = QRect(200, 100, 200, 100);
+        frame.panels.append(panel);
+    }
+    painting.draw(frame);
+    QCOMPARE(painting.at(20, 340) == QColor(Qt::black), isDark);
 }
 
 void tst_FramePainter::panelsAreNotTinted()
@@ -390,6 +424,36 @@ void tst_FramePainter::animationsMove()
     // One that the database does not have.
     frame.sprites[0].animation = 77;
     QCOMPARE(painting.draw(frame), none);
+}
+
+void tst_FramePainter::animationsGoOverThePanels()
+{
+    Painting painting(kOnce);
+    Frame frame = mapFrame();
+    Panel panel;
+    panel.rect = QRect(200, 200, 400, 100);
+    frame.panels.append(panel);
+    const QImage none = painting.draw(frame);
+    frame.animations.append({1, 1, QRect(220, 220, 60, 60)});
+    const QImage seen = painting.draw(frame);
+    QVERIFY(seen != none);
+    QVERIFY(seen.copy(220, 220, 60, 60) != none.copy(220, 220, 60, 60));
+    QCOMPARE(seen.copy(0, 0, 640, 190), none.copy(0, 0, 640, 190));
+}
+
+void tst_FramePainter::anAnimationMayGoOverAllOfTheScreen()
+{
+    Painting painting(kOnce);
+    Frame frame = mapFrame();
+    frame.sprites.append(spriteAt(15, 9));
+    frame.sprites[0].animation = 1;
+    frame.sprites[0].animationFrame = 2;
+    const QRect upper(0, 0, 640, 120);
+    const QImage small = painting.draw(frame).copy(upper);
+    AnimationEntry entry = *painting.data().animations.find(1);
+    entry.isOnScreen = true;
+    painting.data().animations.insert(entry);
+    QVERIFY(painting.draw(frame).copy(upper) != small);
 }
 
 QTEST_MAIN(tst_FramePainter)
