@@ -3787,15 +3787,15 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+      <translation>Maps say what a place looks like, events what happens there. You have made both.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Click “Events” to see the people of the village.</translation>
+      <translation>Click “Events” to see the people of the village. Then click “Next”.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>Toma stands here as an event. It tells what he says and that he joins the party.</translation>
+      <translation>Toma, on the path, is an event. It tells what he says and that he joins the party.</translation>
     </message>
     <message>
       <source>#12</source>
@@ -3807,7 +3807,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Each tab holds one kind of data. Click the first one, “Actors”. Then click “Next”.</translation>
+      <translation>Each tab holds one kind of data. “Actors” has to be in front. If it is not, click it.</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3823,211 +3823,211 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click “Toma” again, to look at his picture.</translation>
+      <translation>Click “Toma” again, to see what else he has.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Click the picture to see what else he could look like.</translation>
+      <translation>This is how he walks on the map. Sena will get her picture here, too.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>Click “Guard”. An armed man might do as well.</translation>
+      <translation>And this is the weapon with which he begins.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Click “Elder”. The large picture shows what is selected; Toma stays as he was.</translation>
-    </message>
-    <message>
-      <source>#22</source>
-      <translation>Double-click “Toma”. That takes the picture and closes the window at once.</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>Click “Classes”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>Click “Guardian”, the class of Toma.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>This curve shows how the highest HP of a Guardian grow from level to level.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>Click “Traveler”, the class of Mila. Her HP grow more slowly.</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>“Skills” holds what an actor can do in a battle besides a plain blow.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>When a skill strikes, sparks or the like are seen. They are made in “Animations”.</translation>
+    </message>
+    <message>
       <source>#27</source>
-      <translation>Click “Skills”. Then click “Next”.</translation>
-    </message>
-    <message>
-      <source>#28</source>
-      <translation>This is what is seen when it strikes. It is made on the tab “Animations”.</translation>
-    </message>
-    <message>
-      <source>#29</source>
       <translation>Click “Items”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#28</source>
       <translation>Click “Tonic”, which lies in a chest in Mila's house.</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>This is what it does: it ends the state “Fainted”, so that an ally wakes up.</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>Click “Weapons”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>Click “Hunting knife”, which Bruno sells.</translation>
     </message>
     <message>
+      <source>#32</source>
+      <translation>Click “Wooden sword”: its attack is lower.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Caps and cloaks are in “Armor”. They have a defense instead of an attack.</translation>
+    </message>
+    <message>
       <source>#34</source>
-      <translation>Click “Wooden sword”: its attack is lower. Armor has a defense instead.</translation>
+      <translation>“Enemies” has those whom the party fights. Lesson 14 puts some into the forest.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “Enemies”. Then click “Next”.</translation>
-    </message>
-    <message>
-      <source>#36</source>
-      <translation>Click the picture of the slime.</translation>
-    </message>
-    <message>
-      <source>#37</source>
-      <translation>Click “Ghost”. The pictures of enemies are not those of people.</translation>
-    </message>
-    <message>
-      <source>#38</source>
-      <translation>Click “Mushroom”. Lesson 14 puts enemies like this into the forest.</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>Click “Stone warden”. Lesson 16 puts him into the old mine.</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>Double-click “Slime”, so that this enemy stays what it is.</translation>
-    </message>
-    <message>
-      <source>#41</source>
       <translation>“Troops” puts enemies together; “States” holds what befalls somebody in a battle.</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#36</source>
       <translation>Click “Tile sets”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#37</source>
       <translation>Click “Winter”. A map with this tile set lies in snow.</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#38</source>
       <translation>Click “Night”. The old mine has this one.</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>Click “Common events”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#40</source>
       <translation>Click the second one. Both guards of lesson 11 call it: it is written only once.</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#41</source>
       <translation>Click the first one: the words with which the game opens.</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#42</source>
       <translation>Click “System”. It holds what concerns the game as a whole. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#43</source>
       <translation>Click the large field. It will hold the picture of the title screen.</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#44</source>
       <translation>Click “Village at dusk” to look at it.</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#45</source>
+      <translation>The large picture shows what is selected. Nothing is changed by that.</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>Now click “The lamp”, which the story is about.</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#47</source>
       <translation>Click “The long road”. It suits a game that is about traveling.</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#48</source>
       <translation>The choices of the title screen lie on this picture. Lesson 19 sets it up.</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>Double-click “None”. The title screen stays empty until then.</translation>
+      <source>#49</source>
+      <translation>As long as nothing is decided, “None” is right. It comes before all the pictures.</translation>
     </message>
     <message>
-      <source>#55</source>
-      <translation>That was the walk. Click “Cancel”, so that nothing is changed by it.</translation>
+      <source>#50</source>
+      <translation>Double-click “None”. The title screen stays empty until lesson 19.</translation>
     </message>
     <message>
-      <source>#56</source>
-      <translation>Click “Database” again.</translation>
+      <source>#51</source>
+      <translation>That was the walk. You have only looked, so nothing is changed.</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#52</source>
+      <translation>Whatever you change now is kept by “OK” and forgotten by “Cancel”.</translation>
+    </message>
+    <message>
+      <source>#53</source>
       <translation>Now for Sena. Click “Actors”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>The list has room for two. Click “Change maximum…”.</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>Type 3 and press the Enter key.</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>A new actor is empty. It is quicker to copy one: click “Toma”.</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>Click “Copy”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>Click the new row, number 3.</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#59</source>
       <translation>Click “Paste”. There are two Tomas now. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#60</source>
       <translation>Type Sena in place of his name. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#61</source>
       <translation>She still looks like Toma. Click the picture.</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#62</source>
+      <translation>“People” has the pictures for actors. Chests and doors, for events, are in “Things”.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “Elder”, only to try. She would look much too old.</translation>
+    </message>
+    <message>
+      <source>#64</source>
       <translation>Click “Sena”.</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#65</source>
       <translation>This is Sena. Later on, she will help the party with magic.</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#66</source>
+      <translation>“OK” takes what is selected. A double click on a name does the same.</translation>
+    </message>
+    <message>
+      <source>#67</source>
       <translation>Double-click “Sena” to take this picture.</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>Her face has come along. The game shows it where you look at her figures.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Double-click the number at “First level” to select it. Then click “Next”.</translation>
     </message>
     <message>
       <source>#70</source>
@@ -4035,7 +4035,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>To see her in the game, put her into the party. Click “System”.</translation>
+      <translation>To see her in the game, put her into the party. Click “System”, then click “Next”.</translation>
     </message>
     <message>
       <source>#72</source>
@@ -4091,18 +4091,22 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>In the story Sena joins only in lesson 16. Click her in the party.</translation>
+      <translation>Click “Database” again.</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>Click “Delete”. She leaves the party, not the database. Then click “Next”.</translation>
+      <translation>In the story Sena joins only in lesson 16. Click her in the party.</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>Click “Save” to keep Sena in the project's folder.</translation>
+      <translation>Click “Delete”. She leaves the party, not the database. Then click “Next”.</translation>
     </message>
     <message>
       <source>#88</source>
+      <translation>Click “Save” to keep Sena in the project's folder. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#89</source>
       <translation>Done! You know what is where. Lesson 13 makes things to use and to wear.</translation>
     </message>
   </context>
@@ -4143,23 +4147,23 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Things come from chests: in “Mila's house” lie a herb and a tonic.</translation>
+      <translation>Click “Full size” to see each map close up.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Things come from shops, too: in “Shop” Bruno sells what the party needs.</translation>
+      <translation>Things come from chests. Click “Mila's house”, where a herb and a tonic lie.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>And from enemies: from lesson 14 on, those on the “Forest path” leave something.</translation>
+      <translation>Things come from shops, too. Click “Shop”, where Bruno sells what the party needs.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>In the “Old mine” lies what nobody sells: the lamp of the village.</translation>
+      <translation>Click “Forest path”. From lesson 14 on, its enemies leave something, too.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>The events tell who gets a thing where. What it costs and does is in the database.</translation>
+      <translation>Click “Old mine”. There lies what nobody sells: the lamp of the village.</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4183,259 +4187,259 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>What she can do comes from the database: her class, her level and what she wears.</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>Click “Database”.</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>Click “Items”. Then click “Next”.</translation>
+      <source>#20</source>
+      <translation>What things cost and do is here. Click “Items”.</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>Click “Bread”, the cheapest thing that Bruno has.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>This is what it does: it gives back 10 HP.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>This is what Bruno takes for it. He pays half of that when the player sells some.</translation>
     </message>
     <message>
-      <source>#25</source>
-      <translation>Bread is gone once it is eaten. Without this check mark it could be eaten again and again.</translation>
-    </message>
-    <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>Click “Herb”. It costs more and gives back 30 HP.</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>Click “Tonic”. It costs much more, so it should do more.</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>Players read this in the shop and in their bag.</translation>
-    </message>
-    <message>
-      <source>#29</source>
-      <translation>A tonic is a regular item. “Key item” is for things of the story, such as a lamp.</translation>
-    </message>
-    <message>
-      <source>#30</source>
+      <source>#26</source>
       <translation>So far it only wakes up an ally, who then has 1 HP and can hardly do a thing.</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#27</source>
       <translation>Click “Add…”.</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#28</source>
       <translation>Click “MP”. The tonic is to give back MP, too, which skills cost.</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#29</source>
       <translation>10 points are right for a beginner. A number below 0 would take MP away.</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#30</source>
       <translation>Click “OK”.</translation>
     </message>
     <message>
-      <source>#35</source>
-      <translation>Both are at work when the tonic is used, from top to bottom.</translation>
+      <source>#31</source>
+      <translation>The tonic now has both effects. Click “OK” to keep it.</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#32</source>
+      <translation>Click “Save”, so that the tonic is safe, whatever comes.</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>Next come the weapons. Click “Database”.</translation>
+    </message>
+    <message>
+      <source>#34</source>
       <translation>Click “Weapons”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#35</source>
       <translation>Click “Hunting knife”, the best weapon so far.</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#36</source>
       <translation>Click “Wooden sword”, with which Mila and Toma begin.</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#37</source>
       <translation>A blow takes twice the attack, less the defense of the other. So each point counts twice.</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#38</source>
       <translation>A better sword is to come. Click “Change maximum…” to make room for it.</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#39</source>
       <translation>Type 3 and press the Enter key.</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#40</source>
       <translation>Click the new row, number 3.</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#41</source>
       <translation>Type a name, such as Iron sword. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#42</source>
       <translation>In a text, such as “Description”, a right click opens a menu for copying and pasting.</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#43</source>
       <translation>Double-click the number at “Attack” to select it. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#44</source>
       <translation>Type 14: this is a real sword. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#45</source>
       <translation>Now the price. Click “Hunting knife” again to compare.</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>A slime brings 3 gold. So you can count how many battles the knife costs.</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>Should players have to save up for the sword for a long time?</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#48</source>
       <translation>Type 90. Players will have it soon.</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#49</source>
       <translation>A cheap sword makes the next battles easy. Enemies can be stronger, then.</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#50</source>
       <translation>Type 180. Who has it can be proud of it.</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#51</source>
       <translation>Until then players use the knife. So there is something for each purse.</translation>
     </message>
     <message>
+      <source>#52</source>
+      <translation>The sword is ready. Click “OK” to keep it.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Click “Save” to keep the sword in the project, too.</translation>
+    </message>
+    <message>
       <source>#54</source>
-      <translation>Click “Armor”. Then click “Next”.</translation>
+      <translation>Now for the armor. Click “Database”.</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>Click “Travel cloak”, which Mila wears.</translation>
+      <translation>Click “Armor”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>Click “Cloth cap” to compare. Each point of “Defense” takes one off every blow.</translation>
+      <translation>Click “Travel cloak”, which Mila wears.</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>Now back to “Travel cloak”. Click it.</translation>
+      <translation>Click “Cloth cap” to compare. Each point of “Defense” takes one off every blow.</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>Traits are at work as long as somebody wears the thing. This list is empty so far.</translation>
+      <translation>Now back to “Travel cloak”. Click it.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>“Max HP” is chosen already. Type 120: with the cloak Mila has a fifth more HP.</translation>
+      <translation>Traits are at work as long as somebody wears the thing. This list is empty so far.</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>Click “Actors”. Then click “Next”.</translation>
+      <translation>“Max HP” is chosen already. Type 120: with the cloak Mila has a fifth more HP.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Click “Toma”. He is the strongest and gets the new sword.</translation>
+      <translation>Click “Actors”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>Choose the new sword, the last one in this list.</translation>
+      <translation>Click “Toma”. He is the strongest and gets the new sword.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Toma is hot-headed. Should he choose by himself what he does in battles?</translation>
+      <translation>Choose the new sword, the last one in this list.</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>Then leave “You choose” on. In a battle the player tells him what to do.</translation>
+      <translation>Toma is hot-headed. Should he choose by himself what he does in battles?</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>That is good for a small party: each tonic goes where it is needed.</translation>
+      <translation>Then leave “You choose” on. In a battle the player tells him what to do.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Click “By itself”.</translation>
+      <translation>That is good for a small party: each tonic goes where it is needed.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>He strikes when he likes. Battles get faster, and less can be planned.</translation>
+      <translation>Click “By itself”.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>Click “Sena”, whom you made in lesson 12.</translation>
+      <translation>He strikes when he likes. Battles get faster, and less can be planned.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>The wooden sword will do for her: her skills will be her strength.</translation>
+      <translation>Click “Sena”. The wooden sword will do for her: her skills are her strength.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Click “Mila”.</translation>
+      <translation>Click “Mila”, who wears the cloak.</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>She begins the game with the cloak, so the trait is at work from the first step on.</translation>
+      <translation>Does the cloak change her looks, too? Click her picture to find out.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Click “OK” to keep it all.</translation>
+      <translation>It does not: what somebody wears changes figures. The picture is chosen here.</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>The game begins in “Amberfield”. Toma waits there, on the path.</translation>
+      <translation>Double-click “Mila”: she stays as everybody knows her.</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>Click “Play” again.</translation>
+      <translation>Click “OK” to keep it all.</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>Does Mila have more HP than before?</translation>
+      <translation>Click “Play” again.</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>Then look at “Equipment”: only who wears the cloak has its trait.</translation>
+      <translation>Does Mila have more HP than before?</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>If she wears it, its trait says 100 %. Change it to 120 % after the lesson.</translation>
+      <translation>Then look at “Equipment”: only who wears the cloak has its trait.</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>The cloak works! Close the menu with the X key, walk to Toma and talk to him.</translation>
+      <translation>If she wears it, its trait says 100 %. Change it to 120 % after the lesson.</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>He comes along. Open the menu: “Equipment” shows his sword and how hard he strikes.</translation>
+      <translation>The cloak works! Close the menu with the X key, walk to Toma and talk to him.</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>Click “Save” to write sword, tonic and cloak into the project's folder.</translation>
+      <translation>He comes along. Open the menu: “Equipment” shows his sword and how hard he strikes.</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>In “Shop” the sword is not for sale yet: the database does not decide that.</translation>
+      <translation>Click “Save” to write sword, tonic and cloak into the project's folder.</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>Bruno's event has the list of his goods. Add the sword there after the lesson, as in lesson 7.</translation>
+      <translation>In “Shop”, Bruno's event has the list of his goods. Add the sword there, as in lesson 7.</translation>
     </message>
     <message>
       <source>#83</source>

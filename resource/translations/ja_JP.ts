@@ -3785,15 +3785,15 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
+      <translation>マップは場所の姿、イベントはそこで起こることを決めます。どちらも、もう作りましたね。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>「イベント」をクリックして、村の人物を表示してください。</translation>
+      <translation>「イベント」をクリックして村人を表示し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>ここにトーマのイベントがあります。話す言葉と、仲間になることが決めてあります。</translation>
+      <translation>道にいるトーマはイベントです。話す言葉と、仲間になることが決めてあります。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -3805,7 +3805,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>種類ごとにタブがあります。「アクター」をクリックしてから、「次へ」をクリックします。</translation>
+      <translation>種類ごとにタブがあります。「アクター」が開いていなければ、クリックしてください。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3821,211 +3821,211 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>もう一度「トーマ」をクリックして、姿を見てみましょう。</translation>
+      <translation>もう一度「トーマ」をクリックして、ほかの設定を見てみましょう。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>画像をクリックして、ほかにどんな姿があるか見てみましょう。</translation>
+      <translation>マップを歩くときの姿です。あとで、セナの姿もここで決めます。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>「衛兵」をクリックしてください。武装した姿も悪くありません。</translation>
+      <translation>こちらは、最初から持っている武器です。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>「長老」をクリックしてください。大きく表示されるだけで、トーマは変わりません。</translation>
-    </message>
-    <message>
-      <source>#22</source>
-      <translation>「トーマ」をダブルクリックしてください。画像が決まり、ウィンドウも閉じます。</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>「職業」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>トーマの職業「守り手」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>このグラフは、守り手の最大HPがレベルごとに増える様子です。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>ミラの職業「旅人」をクリックしてください。HPの増え方は、ゆるやかです。</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>「スキル」には、普通の攻撃のほかに戦闘で使える技があります。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>スキルを使うと、火花などが見えます。それを作るのが「アニメーション」です。</translation>
+    </message>
+    <message>
       <source>#27</source>
-      <translation>「スキル」をクリックします。そのあと「次へ」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#28</source>
-      <translation>スキルを使ったときのアニメーションです。「アニメーション」タブで作ります。</translation>
-    </message>
-    <message>
-      <source>#29</source>
       <translation>「アイテム」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#28</source>
       <translation>ミラの家の宝箱に入っている「気付け薬」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>使ったときの働きです。気付け薬は「気絶」というステートを治します。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>「武器」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>ブルーノが売っている「狩猟ナイフ」をクリックしてください。</translation>
     </message>
     <message>
+      <source>#32</source>
+      <translation>「木の剣」をクリックしてください。攻撃力は低めです。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>帽子やマントは「防具」にあります。攻撃力の代わりに防御力があります。</translation>
+    </message>
+    <message>
       <source>#34</source>
-      <translation>「木の剣」をクリックしてください。攻撃力は低めです。防具には防御力があります。</translation>
+      <translation>「敵キャラ」は戦う相手です。レッスン14で森に出します。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>「敵キャラ」をクリックします。そのあと「次へ」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#36</source>
-      <translation>スライムの画像をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#37</source>
-      <translation>「ゴースト」をクリックしてください。敵キャラには専用の画像があります。</translation>
-    </message>
-    <message>
-      <source>#38</source>
-      <translation>「キノコ」をクリックしてください。こんな敵キャラを、レッスン14で森に出します。</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>「岩の番人」をクリックしてください。レッスン16で、古い鉱山に現れます。</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>「スライム」をダブルクリックしてください。元の姿のままにします。</translation>
-    </message>
-    <message>
-      <source>#41</source>
       <translation>「敵グループ」で敵キャラを組み合わせます。「ステート」は戦闘中に受ける状態です。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#36</source>
       <translation>「タイルセット」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#37</source>
       <translation>「冬」をクリックしてください。このタイルセットのマップは雪景色になります。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#38</source>
       <translation>「夜」をクリックしてください。古い鉱山で使っています。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>「コモンイベント」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#40</source>
       <translation>2番目をクリックしてください。レッスン11の衛兵2人が、同じものを呼び出します。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#41</source>
       <translation>1番目をクリックしてください。ゲームの最初に流れる文章です。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#42</source>
       <translation>ゲーム全体に関わる「システム」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#43</source>
       <translation>大きな枠をクリックしてください。タイトル画面の画像が入る場所です。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#44</source>
       <translation>「夕暮れの村」をクリックして見てみましょう。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#45</source>
+      <translation>選んだ画像が大きく表示されます。まだ何も変わりません。</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>次に、物語の中心の「ランプ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#47</source>
       <translation>「長い道」をクリックしてください。旅のゲームに合いそうです。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#48</source>
       <translation>この画像の上に選択肢が出ます。決めるのはレッスン19です。</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>「なし」をダブルクリックしてください。それまでタイトル画面は空のままです。</translation>
+      <source>#49</source>
+      <translation>まだ決めないので、一番上の「なし」がよいでしょう。画像を使わないという意味です。</translation>
     </message>
     <message>
-      <source>#55</source>
-      <translation>これでひと巡りしました。何も変えずに閉じるので、「キャンセル」をクリックします。</translation>
+      <source>#50</source>
+      <translation>「なし」をダブルクリックしてください。レッスン19まで、タイトル画面は空のままです。</translation>
     </message>
     <message>
-      <source>#56</source>
-      <translation>もう一度「データベース」をクリックしてください。</translation>
+      <source>#51</source>
+      <translation>これでひと巡りしました。見ただけなので、何も変わっていません。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#52</source>
+      <translation>これからの変更は、「OK」で決定、「キャンセル」で取り消しになります。</translation>
+    </message>
+    <message>
+      <source>#53</source>
       <translation>次はセナを作ります。「アクター」をクリックし、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>一覧には2人分の場所しかありません。「最大数の変更…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>3と入力して、Enterキーを押してください。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>新しいアクターは空です。コピーして作るほうが早いので、「トーマ」をクリックします。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>「コピー」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>新しい3番の行をクリックしてください。</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#59</source>
       <translation>「貼り付け」をクリックすると、トーマが2人になります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#60</source>
       <translation>名前をセナに書き換えてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#61</source>
       <translation>まだトーマの姿です。画像をクリックしてください。</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#62</source>
+      <translation>アクターの画像は「人物」にあります。「もの」の宝箱やドアは、イベント用です。</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>試しに「長老」をクリックしてください。セナには年を取りすぎていますね。</translation>
+    </message>
+    <message>
+      <source>#64</source>
       <translation>「セナ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#65</source>
       <translation>これがセナです。いずれ、魔法でパーティーを助けます。</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#66</source>
+      <translation>「OK」で、選んだ画像に決まります。名前のダブルクリックでも同じです。</translation>
+    </message>
+    <message>
+      <source>#67</source>
       <translation>「セナ」をダブルクリックして、この画像に決めます。</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>顔も一緒に変わりました。ゲームでは、能力を見る画面に出ます。</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>「初期レベル」の数値をダブルクリックして選び、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -4033,7 +4033,7 @@
     </message>
     <message>
       <source>#71</source>
-      <translation>ゲームで見られるように、パーティーに入れます。「システム」をクリックしてください。</translation>
+      <translation>ゲームに出すために「システム」をクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#72</source>
@@ -4089,18 +4089,22 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>物語でセナが加わるのはレッスン16です。パーティーのセナをクリックしてください。</translation>
+      <translation>もう一度「データベース」をクリックしてください。</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>「削除」をクリックします。データベースには残ります。そのあと「次へ」をクリックします。</translation>
+      <translation>物語でセナが加わるのはレッスン16です。パーティーのセナをクリックしてください。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>「保存」をクリックして、セナをプロジェクトのフォルダーに書き込みます。</translation>
+      <translation>「削除」をクリックします。データベースには残ります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#88</source>
+      <translation>「保存」をクリックしてセナを書き込み、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#89</source>
       <translation>完成です！何がどこにあるかわかりましたね。レッスン13では、アイテムや武器を作ります。</translation>
     </message>
   </context>
@@ -4141,23 +4145,23 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>物は宝箱から手に入ります。「ミラの家」には薬草と気付け薬があります。</translation>
+      <translation>「等倍」をクリックしてください。マップを近くから見られます。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>買うこともできます。「お店」ではブルーノが商品を売っています。</translation>
+      <translation>物は宝箱から手に入ります。薬草と気付け薬がある「ミラの家」をクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>敵キャラからも手に入ります。レッスン14から「森の小道」に現れます。</translation>
+      <translation>買うこともできます。ブルーノが商品を売る「お店」をクリックしてください。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>「古い鉱山」には、どこにも売っていない村のランプがあります。</translation>
+      <translation>「森の小道」をクリックしてください。レッスン14から、敵キャラも物を落とします。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>イベントが決めるのは、どこで手に入るかです。価格や働きはデータベースにあります。</translation>
+      <translation>「古い鉱山」をクリックしてください。どこにも売っていない村のランプがあります。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4181,259 +4185,259 @@
     </message>
     <message>
       <source>#19</source>
-      <translation>ミラの強さは、データベースの職業、レベル、身につけた物で決まります。</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>「データベース」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>「アイテム」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <source>#20</source>
+      <translation>物の価格や働きはここで決めます。「アイテム」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>ブルーノの店でいちばん安い「パン」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>使ったときの働きです。パンでは、HPが10回復します。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>ブルーノはこの価格で売り、その半額で買い取ります。</translation>
     </message>
     <message>
-      <source>#25</source>
-      <translation>パンは食べるとなくなります。この印がなければ、何度でも使えます。</translation>
-    </message>
-    <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>「薬草」をクリックしてください。パンより高く、HPが30回復します。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>「気付け薬」をクリックしてください。ずっと高いので、もっと効く薬にします。</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>プレイヤーが店や持ち物の画面で読む説明です。</translation>
-    </message>
-    <message>
-      <source>#29</source>
-      <translation>薬は通常アイテムです。「大事なもの」は、ランプなど物語に関わる物に使います。</translation>
-    </message>
-    <message>
-      <source>#30</source>
+      <source>#26</source>
       <translation>今は気絶を治すだけです。起きた味方はHPが1しかありません。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#27</source>
       <translation>「追加…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#28</source>
       <translation>「MP」をクリックしてください。スキルに使うMPも回復する薬にします。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#29</source>
       <translation>最初は10ポイントで十分です。マイナスにすると、MPが減ります。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#30</source>
       <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#35</source>
-      <translation>薬を使うと、両方が上から順に働きます。</translation>
+      <source>#31</source>
+      <translation>薬の効果が2つになりました。「OK」をクリックして決定します。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#32</source>
+      <translation>「保存」をクリックして、薬をプロジェクトに書き込んでおきます。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>次は武器です。「データベース」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#34</source>
       <translation>「武器」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#35</source>
       <translation>今のところいちばん強い「狩猟ナイフ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#36</source>
       <translation>ミラとトーマが初めに持つ「木の剣」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#37</source>
       <translation>攻撃力の2倍から相手の防御力を引いた分がダメージです。1つの差が2倍になります。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#38</source>
       <translation>もっと強い剣を作ります。「最大数の変更…」をクリックして、場所を増やします。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#39</source>
       <translation>3と入力して、Enterキーを押してください。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#40</source>
       <translation>新しい3番の行をクリックしてください。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#41</source>
       <translation>名前（鉄の剣など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#42</source>
       <translation>「説明」などの入力欄は、右クリックのメニューでコピーや貼り付けができます。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#43</source>
       <translation>「攻撃力」の数値をダブルクリックして選びます。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#44</source>
       <translation>本物の剣なので、14と入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#45</source>
       <translation>次は価格です。もう一度「狩猟ナイフ」をクリックして比べます。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>スライム1匹でお金が3もらえます。何回戦えばナイフを買えるか、計算できます。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>プレイヤーが長くお金をためないと買えない剣にしますか？</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#48</source>
       <translation>90と入力してください。すぐに手が届きます。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#49</source>
       <translation>安い剣があると戦闘が楽になります。そのぶん敵キャラを強くできます。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#50</source>
       <translation>180と入力してください。手に入れた人の自慢の剣になります。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#51</source>
       <translation>それまではナイフを使います。手ごろな物とあこがれの品が、店にそろいます。</translation>
     </message>
     <message>
+      <source>#52</source>
+      <translation>剣ができました。「OK」をクリックして決定します。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>剣も書き込むため、「保存」をクリックしてください。</translation>
+    </message>
+    <message>
       <source>#54</source>
-      <translation>「防具」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>今度は防具です。「データベース」をクリックしてください。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>ミラが身につけている「旅のマント」をクリックしてください。</translation>
+      <translation>「防具」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>比べるために「布の帽子」をクリックしてください。「防御力」1でダメージが1減ります。</translation>
+      <translation>ミラが身につけている「旅のマント」をクリックしてください。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>「旅のマント」をクリックして、戻ってください。</translation>
+      <translation>比べるために「布の帽子」をクリックしてください。「防御力」1でダメージが1減ります。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>特徴は、身につけている間ずっと働きます。この一覧は、まだ空です。</translation>
+      <translation>「旅のマント」をクリックして、戻ってください。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>「最大HP」が選ばれています。120と入力すると、マントを着たミラのHPが2割増えます。</translation>
+      <translation>特徴は、身につけている間ずっと働きます。この一覧は、まだ空です。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>「アクター」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「最大HP」が選ばれています。120と入力すると、マントを着たミラのHPが2割増えます。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>力持ちの「トーマ」をクリックしてください。新しい剣は彼に持たせます。</translation>
+      <translation>「アクター」をクリックします。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>この一覧の最後にある、新しい剣を選んでください。</translation>
+      <translation>力持ちの「トーマ」をクリックしてください。新しい剣は彼に持たせます。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>トーマは血の気の多い人です。戦闘での行動を、自分で決めさせますか？</translation>
+      <translation>この一覧の最後にある、新しい剣を選んでください。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>「自分で選ぶ」のままにします。戦闘では、プレイヤーが行動を選びます。</translation>
+      <translation>トーマは血の気の多い人です。戦闘での行動を、自分で決めさせますか？</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>少人数のパーティーに向いています。薬も必要な人に使えます。</translation>
+      <translation>「自分で選ぶ」のままにします。戦闘では、プレイヤーが行動を選びます。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>「自動で戦う」をクリックしてください。</translation>
+      <translation>少人数のパーティーに向いています。薬も必要な人に使えます。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>トーマは思うままに攻撃します。戦闘は速くなりますが、作戦は立てにくくなります。</translation>
+      <translation>「自動で戦う」をクリックしてください。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>レッスン12で作った「セナ」をクリックしてください。</translation>
+      <translation>トーマは思うままに攻撃します。戦闘は速くなりますが、作戦は立てにくくなります。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>セナの強みはスキルなので、武器は木の剣で十分です。</translation>
+      <translation>「セナ」をクリックしてください。強みはスキルなので、武器は木の剣で十分です。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>「ミラ」をクリックしてください。</translation>
+      <translation>マントを着ている「ミラ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>ミラは最初からマントを着ているので、特徴もすぐに働きます。</translation>
+      <translation>マントで見た目も変わるのでしょうか。画像をクリックして確かめましょう。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>「OK」をクリックして、変更をすべて決定します。</translation>
+      <translation>見た目は変わりません。装備で変わるのは能力だけで、画像はここで選びます。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>ゲームは「アンバー村」で始まります。トーマは道にいます。</translation>
+      <translation>「ミラ」をダブルクリックしてください。いつもの姿のままにします。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>もう一度「プレイ」をクリックしてください。</translation>
+      <translation>「OK」をクリックして、変更をすべて決定します。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>ミラのHPは前より増えましたか？</translation>
+      <translation>もう一度「プレイ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>「装備」を見てください。マントを着ている人にだけ、特徴が働きます。</translation>
+      <translation>ミラのHPは前より増えましたか？</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>着ているなら、特徴が100%のままです。レッスンのあとで120%に直してください。</translation>
+      <translation>「装備」を見てください。マントを着ている人にだけ、特徴が働きます。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>マントの効果です！Xキーでメニューを閉じ、トーマに話しかけてください。</translation>
+      <translation>着ているなら、特徴が100%のままです。レッスンのあとで120%に直してください。</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>仲間になりました。メニューの「装備」で、剣と攻撃力を確かめてください。</translation>
+      <translation>マントの効果です！Xキーでメニューを閉じ、トーマに話しかけてください。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>「保存」をクリックして、剣や薬、マントをプロジェクトのフォルダーに書き込みます。</translation>
+      <translation>仲間になりました。メニューの「装備」で、剣と攻撃力を確かめてください。</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>「お店」に剣はまだありません。データベースでは、売る場所は決まりません。</translation>
+      <translation>「保存」をクリックして、剣や薬、マントをプロジェクトのフォルダーに書き込みます。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>商品はブルーノのイベントで決めます。レッスン7の要領で、あとから剣を加えられます。</translation>
+      <translation>商品は「お店」のブルーノのイベントで決めます。レッスン7の要領で、剣を加えられます。</translation>
     </message>
     <message>
       <source>#83</source>

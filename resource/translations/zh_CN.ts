@@ -3785,15 +3785,15 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
+      <translation>地图决定一个地方的样子，事件决定那里发生什么。前面各课讲的就是这些。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>点击“事件”，让村里的人物显示出来。</translation>
+      <translation>点击“事件”，让村里的人物显示出来。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>托马在这里是一个事件，里面写着他说的话，以及他会加入队伍。</translation>
+      <translation>路上的托马是一个事件，里面写着他说的话，以及他会加入队伍。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -3805,7 +3805,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>每个选项卡放一类数据。点击第一个“角色”，然后点击“下一步”。</translation>
+      <translation>每个选项卡放一类数据。现在要打开“角色”。如果不是，请点击它。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3821,211 +3821,211 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>再次点击“托马”，看看他的图像。</translation>
+      <translation>再次点击“托马”，看看他的其他设置。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>点击图像，看看他还可以是什么样子。</translation>
+      <translation>这是他在地图上走动的样子。塞娜的图像稍后也在这里设置。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>点击“卫兵”。全副武装的样子也不错。</translation>
+      <translation>这是他一开始就带着的武器。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“长老”。右边只是放大显示，托马还没有改变。</translation>
-    </message>
-    <message>
-      <source>#22</source>
-      <translation>双击“托马”，选定图像并同时关闭窗口。</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>点击“职业”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>点击托马的职业“守护者”。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>这条曲线表示守护者的最大 HP 怎样随等级增长。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>点击米拉的职业“旅人”。她的 HP 增长得慢一些。</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>“技能”里是角色在战斗中除了普通攻击还能使用的招数。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>使用技能时会看到火花之类的效果，它们在“动画”里制作。</translation>
+    </message>
+    <message>
       <source>#27</source>
-      <translation>点击“技能”，然后点击“下一步”。</translation>
-    </message>
-    <message>
-      <source>#28</source>
-      <translation>这是使用时看到的效果，来自“动画”选项卡。</translation>
-    </message>
-    <message>
-      <source>#29</source>
       <translation>点击“物品”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#30</source>
+      <source>#28</source>
       <translation>点击“提神药”，它就放在米拉家的宝箱里。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#29</source>
       <translation>这里写着使用后的效果：解除“昏倒”状态，让人醒来。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#30</source>
       <translation>点击“武器”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#31</source>
       <translation>点击“猎刀”，布鲁诺的店里有卖。</translation>
     </message>
     <message>
+      <source>#32</source>
+      <translation>点击“木剑”：它的攻击力低一些。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>帽子和斗篷在“防具”里，它们提高的是防御力。</translation>
+    </message>
+    <message>
       <source>#34</source>
-      <translation>点击“木剑”：它的攻击力低一些。防具则有防御力。</translation>
+      <translation>“敌人”是队伍要对付的对手。第 14 课会让他们出现在森林里。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“敌人”，然后点击“下一步”。</translation>
-    </message>
-    <message>
-      <source>#36</source>
-      <translation>点击史莱姆的图像。</translation>
-    </message>
-    <message>
-      <source>#37</source>
-      <translation>点击“幽灵”。敌人有专用的图像。</translation>
-    </message>
-    <message>
-      <source>#38</source>
-      <translation>点击“蘑菇”。第 14 课会让这样的敌人出现在森林里。</translation>
-    </message>
-    <message>
-      <source>#39</source>
-      <translation>点击“岩石守卫”。第 16 课会让他出现在旧矿洞里。</translation>
-    </message>
-    <message>
-      <source>#40</source>
-      <translation>双击“史莱姆”，让这个敌人保持原样。</translation>
-    </message>
-    <message>
-      <source>#41</source>
       <translation>“敌群”把敌人编在一起；“状态”是战斗中身上发生的变化。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#36</source>
       <translation>点击“图块组”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#37</source>
       <translation>点击“冬天”。用这个图块组，地图就是一片雪景。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#38</source>
       <translation>点击“夜晚”。旧矿洞用的就是它。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>点击“公共事件”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#40</source>
       <translation>点击第二个。第 11 课的两名卫兵都调用它，只要写一次。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#41</source>
       <translation>点击第一个：它是游戏开头的文字。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#42</source>
       <translation>点击“系统”，这里是关系到整个游戏的设置。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#43</source>
       <translation>点击大方框，标题画面的图像会放在这里。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#44</source>
       <translation>点击“黄昏的村庄”看一看。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#45</source>
+      <translation>选中的图像会放大显示，这时还没有任何改变。</translation>
+    </message>
+    <message>
+      <source>#46</source>
       <translation>再点击“明灯”，故事讲的就是它。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#47</source>
       <translation>点击“漫长的路”。它适合讲旅行的游戏。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#48</source>
       <translation>标题画面的选项会显示在这个图像上。第 19 课再来设置。</translation>
     </message>
     <message>
-      <source>#54</source>
-      <translation>双击“无”。在那之前标题画面先空着。</translation>
+      <source>#49</source>
+      <translation>还没有决定时，就选最上面的“无”，意思是不用图像。</translation>
     </message>
     <message>
-      <source>#55</source>
-      <translation>走完一圈了。点击“取消”，这样什么都不会改变。</translation>
+      <source>#50</source>
+      <translation>双击“无”。第 19 课之前，标题画面先空着。</translation>
     </message>
     <message>
-      <source>#56</source>
-      <translation>再次点击“数据库”。</translation>
+      <source>#51</source>
+      <translation>走完一圈了。刚才只是看看，什么都没有改变。</translation>
     </message>
     <message>
-      <source>#57</source>
+      <source>#52</source>
+      <translation>接下来的修改，点“确定”会保留，点“取消”会放弃。</translation>
+    </message>
+    <message>
+      <source>#53</source>
       <translation>现在来做塞娜。点击“角色”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#58</source>
+      <source>#54</source>
       <translation>列表里只有两个位置。点击“更改最大数量…”。</translation>
     </message>
     <message>
-      <source>#59</source>
+      <source>#55</source>
       <translation>输入 3，然后按 Enter 键。</translation>
     </message>
     <message>
-      <source>#60</source>
+      <source>#56</source>
       <translation>新的角色是空的，复制一个更快：点击“托马”。</translation>
     </message>
     <message>
-      <source>#61</source>
+      <source>#57</source>
       <translation>点击“复制”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#62</source>
+      <source>#58</source>
       <translation>点击新的第 3 行。</translation>
     </message>
     <message>
-      <source>#63</source>
+      <source>#59</source>
       <translation>点击“粘贴”，现在有两个托马了。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#64</source>
+      <source>#60</source>
       <translation>把名字改成塞娜，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#65</source>
+      <source>#61</source>
       <translation>她看上去还是托马。点击图像。</translation>
     </message>
     <message>
-      <source>#66</source>
+      <source>#62</source>
+      <translation>角色的图像在“人物”里。“物件”里的宝箱和门是给事件用的。</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>先点击“长老”试试。对塞娜来说太老了。</translation>
+    </message>
+    <message>
+      <source>#64</source>
       <translation>点击“塞娜”。</translation>
     </message>
     <message>
-      <source>#67</source>
+      <source>#65</source>
       <translation>这就是塞娜。以后她会用技能帮助队伍。</translation>
     </message>
     <message>
-      <source>#68</source>
+      <source>#66</source>
+      <translation>“确定”会采用选中的图像，双击名称也一样。</translation>
+    </message>
+    <message>
+      <source>#67</source>
       <translation>双击“塞娜”，使用这个图像。</translation>
     </message>
     <message>
-      <source>#69</source>
+      <source>#68</source>
       <translation>头像也跟着换了。在游戏里查看她的能力时会显示。</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>双击“初始等级”的数值，把它选中。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -4033,7 +4033,7 @@
     </message>
     <message>
       <source>#71</source>
-      <translation>把她放进队伍，就能在游戏里看到她。点击“系统”。</translation>
+      <translation>把她放进队伍，就能在游戏里看到她。点击“系统”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#72</source>
@@ -4089,18 +4089,22 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>故事里，塞娜要到第 16 课才加入。点击队伍里的她。</translation>
+      <translation>再次点击“数据库”。</translation>
     </message>
     <message>
       <source>#86</source>
-      <translation>点击“删除”。她离开队伍，但还在数据库里。然后点击“下一步”。</translation>
+      <translation>故事里，塞娜要到第 16 课才加入。点击队伍里的她。</translation>
     </message>
     <message>
       <source>#87</source>
-      <translation>点击“保存”，把塞娜写入项目的文件夹。</translation>
+      <translation>点击“删除”。她离开队伍，但还在数据库里。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#88</source>
+      <translation>点击“保存”，把塞娜写入项目的文件夹。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#89</source>
       <translation>完成了！你已经知道数据库里什么在哪里。第 13 课制作物品和装备。</translation>
     </message>
   </context>
@@ -4141,23 +4145,23 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>东西可以来自宝箱：“米拉的家”里放着草药和提神药。</translation>
+      <translation>点击“实际大小”，把地图看得更清楚。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>东西也可以买到：布鲁诺在“商店”里出售各种商品。</translation>
+      <translation>东西可以来自宝箱。点击“米拉的家”，那里放着草药和提神药。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>还可以来自敌人：第 14 课起，“林间小路”的敌人会掉落东西。</translation>
+      <translation>东西也可以买到。点击“商店”，布鲁诺在那里出售各种商品。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>“旧矿洞”里有买不到的东西：村里的灯。</translation>
+      <translation>点击“林间小路”。第 14 课起，那里的敌人也会掉落东西。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>事件决定东西在哪里得到；价格和作用写在数据库里。</translation>
+      <translation>点击“旧矿洞”。那里有买不到的东西：村里的灯。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4181,259 +4185,259 @@
     </message>
     <message>
       <source>#19</source>
-      <translation>她的能力来自数据库：职业、等级和身上的装备。</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>点击“数据库”。</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>点击“物品”，然后点击“下一步”。</translation>
+      <source>#20</source>
+      <translation>东西的价格和作用就写在这里。点击“物品”。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>点击“面包”，它是店里最便宜的东西。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>它的效果写在这里：恢复 10 点 HP。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>布鲁诺按这个价格出售，收购时付一半。</translation>
     </message>
     <message>
-      <source>#25</source>
-      <translation>面包吃掉就没了。不勾选这里，就可以反复使用。</translation>
-    </message>
-    <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>点击“草药”。它更贵，恢复 30 点 HP。</translation>
     </message>
     <message>
-      <source>#27</source>
+      <source>#25</source>
       <translation>点击“提神药”。它贵得多，应该更有用。</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>玩家在商店和背包里会读到这段说明。</translation>
-    </message>
-    <message>
-      <source>#29</source>
-      <translation>药是普通物品。“重要物品”用于故事里的东西，例如灯。</translation>
-    </message>
-    <message>
-      <source>#30</source>
+      <source>#26</source>
       <translation>现在它只能唤醒同伴，醒来的人只有 1 点 HP。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#27</source>
       <translation>点击“添加…”。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#28</source>
       <translation>点击“MP”。让这种药也恢复使用技能所需的 MP。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#29</source>
       <translation>初期 10 点就够了。负数会减少 MP。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#30</source>
       <translation>点击“确定”。</translation>
     </message>
     <message>
-      <source>#35</source>
-      <translation>使用药的时候，两个效果从上到下依次起作用。</translation>
+      <source>#31</source>
+      <translation>药现在有两个效果了。点击“确定”保留。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#32</source>
+      <translation>点击“保存”，药就稳妥地存好了。</translation>
+    </message>
+    <message>
+      <source>#33</source>
+      <translation>接下来是武器。点击“数据库”。</translation>
+    </message>
+    <message>
+      <source>#34</source>
       <translation>点击“武器”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#35</source>
       <translation>点击“猎刀”，它是目前最好的武器。</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#36</source>
       <translation>点击“木剑”，米拉和托马一开始就拿着它。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#37</source>
       <translation>伤害是攻击力的两倍减去对方的防御力，所以攻击力每加 1，伤害就多 2。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#38</source>
       <translation>要做一把更好的剑。点击“更改最大数量…”，为它腾出位置。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#39</source>
       <translation>输入 3，然后按 Enter 键。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#40</source>
       <translation>点击新的第 3 行。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#41</source>
       <translation>输入名称，例如：铁剑。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#44</source>
+      <source>#42</source>
       <translation>在“说明”等文字框里，右键点击可以打开复制和粘贴的菜单。</translation>
     </message>
     <message>
-      <source>#45</source>
+      <source>#43</source>
       <translation>双击“攻击力”的数值，把它选中。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#44</source>
       <translation>这是真正的剑，输入 14，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#47</source>
+      <source>#45</source>
       <translation>接下来是价格。再次点击“猎刀”比较一下。</translation>
     </message>
     <message>
-      <source>#48</source>
+      <source>#46</source>
       <translation>打败一只史莱姆得 3 金币。这样就能算出买猎刀要打多少场。</translation>
     </message>
     <message>
-      <source>#49</source>
+      <source>#47</source>
       <translation>要让玩家攒很久的钱才买得起这把剑吗？</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#48</source>
       <translation>输入 90，玩家很快就能买到。</translation>
     </message>
     <message>
-      <source>#51</source>
+      <source>#49</source>
       <translation>剑便宜，战斗就轻松，敌人可以做得更强。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#50</source>
       <translation>输入 180，买到的人会很得意。</translation>
     </message>
     <message>
-      <source>#53</source>
+      <source>#51</source>
       <translation>在那之前可以用猎刀。店里的东西就有了高低之分。</translation>
     </message>
     <message>
+      <source>#52</source>
+      <translation>剑做好了。点击“确定”保留。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>点击“保存”，把剑也存进项目。</translation>
+    </message>
+    <message>
       <source>#54</source>
-      <translation>点击“防具”，然后点击“下一步”。</translation>
+      <translation>现在轮到防具。点击“数据库”。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>点击“旅行斗篷”，这是米拉穿的。</translation>
+      <translation>点击“防具”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>点击“布帽”比较一下。“防御力”每高一点，受到的伤害就少一点。</translation>
+      <translation>点击“旅行斗篷”，这是米拉穿的。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>再点击“旅行斗篷”，回到它这里。</translation>
+      <translation>点击“布帽”比较一下。“防御力”每高一点，受到的伤害就少一点。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>只要穿在身上，特性就一直起作用。这个列表还是空的。</translation>
+      <translation>再点击“旅行斗篷”，回到它这里。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>已经选中了“最大 HP”。输入 120，穿上斗篷 HP 就多五分之一。</translation>
+      <translation>只要穿在身上，特性就一直起作用。这个列表还是空的。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>点击“角色”，然后点击“下一步”。</translation>
+      <translation>已经选中了“最大 HP”。输入 120，穿上斗篷 HP 就多五分之一。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>点击“托马”。他力气最大，新剑给他用。</translation>
+      <translation>点击“角色”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>在这个列表里选择最后一个，也就是新剑。</translation>
+      <translation>点击“托马”。他力气最大，新剑给他用。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>托马性子急。战斗中要让他自己决定行动吗？</translation>
+      <translation>在这个列表里选择最后一个，也就是新剑。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>那就保留“由玩家选择”，战斗中由玩家指挥他。</translation>
+      <translation>托马性子急。战斗中要让他自己决定行动吗？</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>队伍人少时这样更好：药能用在需要的人身上。</translation>
+      <translation>那就保留“由玩家选择”，战斗中由玩家指挥他。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>点击“自动战斗”。</translation>
+      <translation>队伍人少时这样更好：药能用在需要的人身上。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>他想打就打。战斗更快，但更难计划。</translation>
+      <translation>点击“自动战斗”。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>点击第 12 课做的“塞娜”。</translation>
+      <translation>他想打就打。战斗更快，但更难计划。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>她用木剑就够了，她的长处是技能。</translation>
+      <translation>点击“塞娜”。她的长处是技能，武器用木剑就够了。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>点击“米拉”。</translation>
+      <translation>点击穿着斗篷的“米拉”。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>她一开始就穿着斗篷，所以特性从第一步起就有效。</translation>
+      <translation>斗篷也会改变她的样子吗？点击图像看一看。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>点击“确定”，全部保留。</translation>
+      <translation>不会。装备只改变能力，图像要在这里另外选。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>游戏从“琥珀村”开始。托马就在路上。</translation>
+      <translation>双击“米拉”，让她保持大家熟悉的样子。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>再次点击“试玩”。</translation>
+      <translation>点击“确定”，全部保留。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>米拉的 HP 比以前多了吗？</translation>
+      <translation>再次点击“试玩”。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>那就看看“装备”：只有穿着斗篷的人才有它的特性。</translation>
+      <translation>米拉的 HP 比以前多了吗？</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>如果穿着，说明特性还是 100 %。课后把它改成 120 %。</translation>
+      <translation>那就看看“装备”：只有穿着斗篷的人才有它的特性。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>斗篷起作用了！按 X 键关闭菜单，走过去和托马说话。</translation>
+      <translation>如果穿着，说明特性还是 100 %。课后把它改成 120 %。</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>他加入了。打开菜单，在“装备”里看看他的剑和攻击力。</translation>
+      <translation>斗篷起作用了！按 X 键关闭菜单，走过去和托马说话。</translation>
     </message>
     <message>
       <source>#80</source>
-      <translation>点击“保存”，把剑、药和斗篷写入项目的文件夹。</translation>
+      <translation>他加入了。打开菜单，在“装备”里看看他的剑和攻击力。</translation>
     </message>
     <message>
       <source>#81</source>
-      <translation>“商店”里还没有这把剑：在哪里卖不由数据库决定。</translation>
+      <translation>点击“保存”，把剑、药和斗篷写入项目的文件夹。</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>商品列表在布鲁诺的事件里。课后可以像第 7 课那样把剑加进去。</translation>
+      <translation>商品列表在“商店”里布鲁诺的事件中。课后可以像第 7 课那样把剑加进去。</translation>
     </message>
     <message>
       <source>#83</source>
