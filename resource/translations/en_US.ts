@@ -4163,7 +4163,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>Click “Old mine”. There lies what nobody sells: the lamp of the village.</translation>
+      <translation>Click “Old mine”. From lesson 16 on, its boss has what nobody sells: the lamp.</translation>
     </message>
     <message>
       <source>#14</source>

@@ -4161,7 +4161,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>「古い鉱山」をクリックしてください。どこにも売っていない村のランプがあります。</translation>
+      <translation>「古い鉱山」をクリックしてください。買えない村のランプは、レッスン16のボスが持ちます。</translation>
     </message>
     <message>
       <source>#14</source>

@@ -4161,7 +4161,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>点击“旧矿洞”。那里有买不到的东西：村里的灯。</translation>
+      <translation>点击“旧矿洞”。村里的灯是买不到的，第 16 课的首领会带着它。</translation>
     </message>
     <message>
       <source>#14</source>

@@ -1041,7 +1041,7 @@
 "name":"People and things",
 "folder":false,
 "translationId":62,
-"x":38,
+"x":158,
 "y":-106,
 "windowKey":"ImageSelector",
 "condition":"click,",
