@@ -1,24 +1,31 @@
 #include "player/view/KeyLine.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QPainter>
 
 namespace player {
+
+namespace {
+
+constexpr int kLargest = 12;
+constexpr int kSmallest = 9;
+constexpr int kMargin = 8;
+/// Within a cap, beside its letters.
+constexpr int kInCap = 4;
+constexpr int kBetweenCaps = 3;
+/// Between the caps and what they do, and between two of these.
+constexpr int kBehindCaps = 5;
+constexpr int kBetweenHints = 14;
+constexpr int kAround = 4;
+constexpr int kEdgeOpacity = 110;
+
+} // namespace
 
 KeyLine::KeyLine(QWidget *parent)
     : QWidget(parent)
 {
-    constexpr int kFontPixels = 12;
     setObjectName(QStringLiteral("keyLine"));
-    QFont small = font();
-    small.setPixelSize(kFontPixels);
-    setFont(small);
-    // A small window cuts it off rather than being kept large by it.
+    // A small window is not kept large by it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 3, 8, 3);
-    row->setSpacing(4);
-    row->addStretch();
     //: Below a game, behind the arrow keys: what they do. There is room for some 20 letters.
     const QString walk = tr("Walk, choose");
     //: Below a game, behind the enter key: what it does. There is room for some 20 letters.
@@ -29,29 +36,100 @@ KeyLine::KeyLine(QWidget *parent)
     const QString leave = tr("Cancel, to the editor");
     //: Below a game, behind the F5 key: what it does. There is room for some 20 letters.
     const QString anew = tr("Begin anew");
-    add({QStringLiteral("←"), QStringLiteral("↑"), QStringLiteral("↓"), QStringLiteral("→")}, walk);
-    add({QStringLiteral("Enter")}, act);
-    add({QStringLiteral("X")}, menu);
-    add({QStringLiteral("Esc")}, leave);
-    add({QStringLiteral("F5")}, anew);
-    row->addStretch();
+    m_hints = {{{QStringLiteral("←"), QStringLiteral("↑"), QStringLiteral("↓"), QStringLiteral("→")}, walk},
+               {{QStringLiteral("Enter")}, act},
+               {{QStringLiteral("X")}, menu},
+               {{QStringLiteral("Esc")}, leave},
+               {{QStringLiteral("F5")}, anew}};
+    QStringList words;
+    for (const Hint &hint : qAsConst(m_hints)) {
+        words.append(hint.caps.join(QLatin1Char(' ')) + QStringLiteral(": ") + hint.meaning);
+    }
+    setAccessibleName(words.join(QStringLiteral("; ")));
 }
 
-void KeyLine::add(const QStringList &caps, const QString &meaning)
+QSize KeyLine::sizeHint() const
 {
-    auto *row = static_cast<QHBoxLayout *>(layout());
-    for (const QString &cap : caps) {
-        auto *key = new QLabel(cap, this);
-        key->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
-        key->setAutoFillBackground(true);
-        key->setBackgroundRole(QPalette::Button);
-        key->setForegroundRole(QPalette::ButtonText);
-        key->setAlignment(Qt::AlignCenter);
-        key->setContentsMargins(4, 0, 4, 0);
-        row->addWidget(key);
+    const QFontMetrics metrics(letters(kLargest));
+    return {widthOf(count(), metrics), metrics.height() + 2 * kAround + 2};
+}
+
+QFont KeyLine::letters(int pixels) const
+{
+    QFont small = font();
+    small.setPixelSize(pixels);
+    return small;
+}
+
+int KeyLine::widthOf(const Hint &hint, const QFontMetrics &metrics) const
+{
+    int width = kBehindCaps + metrics.horizontalAdvance(hint.meaning) - kBetweenCaps;
+    for (const QString &cap : hint.caps) {
+        width += metrics.horizontalAdvance(cap) + 2 * kInCap + kBetweenCaps;
     }
-    row->addWidget(new QLabel(meaning, this));
-    row->addSpacing(10);
+    return width;
+}
+
+int KeyLine::widthOf(int hints, const QFontMetrics &metrics) const
+{
+    int width = 2 * kMargin + qMax(0, hints - 1) * kBetweenHints;
+    for (int hint = 0; hint < hints; ++hint) {
+        width += widthOf(m_hints.at(hint), metrics);
+    }
+    return width;
+}
+
+int KeyLine::lettersWithin(int width) const
+{
+    int pixels = kLargest;
+    while (pixels > kSmallest && widthOf(count(), QFontMetrics(letters(pixels))) > width) {
+        --pixels;
+    }
+    return pixels;
+}
+
+int KeyLine::toldWithin(int width) const
+{
+    const QFontMetrics metrics(letters(lettersWithin(width)));
+    int told = count();
+    while (told > 0 && widthOf(told, metrics) > width) {
+        --told;
+    }
+    return told;
+}
+
+void KeyLine::paintEvent(QPaintEvent * /*event*/)
+{
+    const QFont font = letters(lettersWithin(width()));
+    const QFontMetrics metrics(font);
+    const int told = toldWithin(width());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font);
+    // Seen on light and dark desktops alike.
+    QColor edge = palette().color(QPalette::ButtonText);
+    edge.setAlpha(kEdgeOpacity);
+    int left = kMargin + (width() - widthOf(told, metrics)) / 2;
+    const auto room = [this, &left](int width) {
+        return QRect(left, kAround / 2, width, height() - kAround);
+    };
+    for (int number = 0; number < told; ++number) {
+        const Hint &hint = m_hints.at(number);
+        for (const QString &cap : hint.caps) {
+            const QRect rect = room(metrics.horizontalAdvance(cap) + 2 * kInCap);
+            painter.setPen(edge);
+            painter.setBrush(palette().color(QPalette::Button));
+            painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+            painter.setPen(palette().color(QPalette::ButtonText));
+            painter.drawText(rect, Qt::AlignCenter, cap);
+            left += rect.width() + kBetweenCaps;
+        }
+        left += kBehindCaps - kBetweenCaps;
+        const QRect rect = room(metrics.horizontalAdvance(hint.meaning));
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, hint.meaning);
+        left += rect.width() + kBetweenHints;
+    }
 }
 
 } // namespace player
