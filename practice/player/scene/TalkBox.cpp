@@ -68,6 +68,7 @@ void TalkBox::scrollText(const ScrollingText &text)
 {
     m_kind = Kind::kScroll;
     m_scroll = text;
+    m_scrollLines.clear();
     m_scrolled = -TalkPanels::all().height();
 }
 
@@ -96,18 +97,26 @@ void TalkBox::tick(const Input &input, Game *game)
         tickItems(input, game);
         break;
     case Kind::kScroll:
-        tickScroll(input);
+        tickScroll(input, *game);
         break;
     }
 }
 
-void TalkBox::readPage(const Game &game)
+void TalkBox::readMessage(const Game &game)
 {
-    m_lines.clear();
-    for (int line = m_page; line < qMin(m_page + TalkPanels::kLinesOfPage, int(m_message.lines.size()));
-         ++line) {
-        m_lines.append(TalkText::read(m_message.lines.at(line), game));
+    m_allLines.clear();
+    const int width = TalkPanels::lineOf(TalkPanels::message(m_message.place)) -
+                      (m_message.face.isEmpty() ? 0 : TalkPanels::kFace);
+    for (const QString &line : qAsConst(m_message.lines)) {
+        m_allLines += TalkText::wrapped(TalkText::read(line, game), width);
     }
+    m_page = 0;
+    beginPage();
+}
+
+void TalkBox::beginPage()
+{
+    m_lines = m_allLines.mid(m_page, TalkPanels::kLinesOfPage);
     m_done = 0;
     m_pause = 0;
     m_isInstant = false;
@@ -157,8 +166,7 @@ void TalkBox::typeLetters(bool all)
 void TalkBox::tickMessage(const Input &input, Game *game)
 {
     if (m_page < 0) {
-        m_page = 0;
-        readPage(*game);
+        readMessage(*game);
     }
     if (m_waitsForKey) {
         m_waitsForKey = !isKey(input);
@@ -179,19 +187,19 @@ void TalkBox::tickMessage(const Input &input, Game *game)
         }
         return;
     }
-    const bool isLast = m_page + TalkPanels::kLinesOfPage >= m_message.lines.size();
+    const bool isLast = m_page + TalkPanels::kLinesOfPage >= m_allLines.size();
     if (isLast && m_message.asksNext) {
         m_kind = Kind::kNothing; // the message stays
     } else if (m_endsByItself || isKey(input)) {
-        endPage(game);
+        endPage();
     }
 }
 
-void TalkBox::endPage(Game *game)
+void TalkBox::endPage()
 {
     m_page += TalkPanels::kLinesOfPage;
-    if (m_page < m_message.lines.size()) {
-        readPage(*game);
+    if (m_page < m_allLines.size()) {
+        beginPage();
     } else {
         end(0);
     }
@@ -261,12 +269,26 @@ void TalkBox::tickItems(const Input &input, Game *game)
     }
 }
 
-void TalkBox::tickScroll(const Input &input)
+void TalkBox::readScroll(const Game &game)
 {
+    for (const QString &line : qAsConst(m_scroll.lines)) {
+        const QVector<QVector<TalkText::Token>> parts =
+            TalkText::wrapped(TalkText::read(line, game), TalkPanels::lineOf(TalkPanels::all()));
+        for (const QVector<TalkText::Token> &part : parts) {
+            m_scrollLines.append(TalkText::shown(part, int(part.size())));
+        }
+    }
+}
+
+void TalkBox::tickScroll(const Input &input, const Game &game)
+{
+    if (m_scrollLines.isEmpty()) {
+        readScroll(game);
+    }
     const bool isFast =
         !m_scroll.cannotBeSpedUp && (input.isHeld(GameKey::kAct) || input.isPressed(GameKey::kAct));
     m_scrolled += m_scroll.speed * (isFast ? 1.5 : 0.3);
-    if (m_scrolled >= double(m_scroll.lines.size()) * kScrollLine) {
+    if (m_scrolled >= double(m_scrollLines.size()) * kScrollLine) {
         end(0);
     }
 }
@@ -328,9 +350,7 @@ void TalkBox::show(const Game &game, Frame *frame) const
         panel.rect = TalkPanels::all();
         panel.background = Panel::Background::kDim;
         panel.scrolled = m_scrolled;
-        for (const QString &line : m_scroll.lines) {
-            panel.lines.append(TalkText::shown(line, game));
-        }
+        panel.lines = m_scrollLines;
     } else {
         return;
     }

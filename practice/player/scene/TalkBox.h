@@ -34,15 +34,17 @@ public:
 private:
     enum class Kind { kNothing, kMessage, kChoices, kNumber, kItems, kScroll };
 
-    void readPage(const Game &game);
+    void readMessage(const Game &game);
+    void beginPage();
     void tickMessage(const Input &input, Game *game);
     /// Shows further letters, up to a pause or a key; all of them with @p all.
     void typeLetters(bool all);
-    void endPage(Game *game);
+    void endPage();
     void tickChoices(const Input &input, Game *game);
     void tickNumber(const Input &input);
     void tickItems(const Input &input, Game *game);
-    void tickScroll(const Input &input);
+    void readScroll(const Game &game);
+    void tickScroll(const Input &input, const Game &game);
     void end(int answer);
 
     Kind m_kind = Kind::kNothing;
@@ -50,7 +52,9 @@ private:
     Message m_message;
     /// The message is on the screen, also while its answer is asked for.
     bool m_hasMessage = false;
-    /// The first line of the page that is shown; -1 before it is read.
+    /// All lines that it has on the screen.
+    QVector<QVector<TalkText::Token>> m_allLines;
+    /// The first line of the page that is shown; -1 before the message is read.
     int m_page = -1;
     QVector<QVector<TalkText::Token>> m_lines;
     /// Tokens of the page that are done with.
@@ -66,6 +70,7 @@ private:
     ItemInput m_itemInput;
     QVector<int> m_items;
     ScrollingText m_scroll;
+    QVector<PanelLine> m_scrollLines;
     double m_scrolled = 0;
     RowCursor m_cursor;
     int m_answer = 0;

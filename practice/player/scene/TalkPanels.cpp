@@ -57,4 +57,9 @@ QRect all()
     return {0, 0, Frame::kWidth, Frame::kHeight};
 }
 
+int lineOf(const QRect &panel)
+{
+    return panel.width() - 2 * kPadding;
+}
+
 } // namespace player::TalkPanels

@@ -11,6 +11,8 @@ constexpr int kMessageHeight = 120;
 constexpr int kRowHeight = 24;
 constexpr int kPadding = 12;
 constexpr int kLinesOfPage = 4;
+/// What a face takes of each line.
+constexpr int kFace = 108;
 
 /// @p place 0 top, 1 middle, 2 bottom.
 [[nodiscard]] QRect message(int place);
@@ -19,5 +21,7 @@ constexpr int kLinesOfPage = 4;
 [[nodiscard]] QRect number(int digits, int messagePlace);
 [[nodiscard]] QRect items(int messagePlace);
 [[nodiscard]] QRect all();
+/// How long a line of text in a panel may be.
+[[nodiscard]] int lineOf(const QRect &panel);
 
 } // namespace player::TalkPanels

@@ -102,7 +102,64 @@ int colourWord(const QString &text, int at, int *colour)
     return end + 1 - at;
 }
 
+constexpr int kNarrow = 9;
+constexpr int kWide = 18;
+constexpr int kWideInLine = 16;
+constexpr ushort kFirstWide = 0x2E80;
+
+bool isWide(const QString &letter)
+{
+    return !letter.isEmpty() && letter.at(0).unicode() >= kFirstWide;
+}
+
+bool isBlank(const Token &token)
+{
+    return token.kind == Kind::kLetter && token.letter == QLatin1String(" ");
+}
+
+/// Whether a line may end behind one letter and the next one begin with the other.
+bool mayPart(const Token &last, const Token &next)
+{
+    static const QString closing =
+        QStringLiteral("、。，．！？：；）」』】》〉”’…ー々ぁぃぅぇぉっゃゅょァィゥェォッャュョ,.!?:;)");
+    static const QString opening = QStringLiteral("（「『【《〈“‘(");
+    if (isBlank(last) || next.kind != Kind::kLetter || isBlank(next)) {
+        return isBlank(last) && !isBlank(next);
+    }
+    return (isWide(last.letter) || isWide(next.letter)) && !closing.contains(next.letter) &&
+           !opening.contains(last.letter);
+}
+
 } // namespace
+
+QVector<QVector<Token>> TalkText::wrapped(const QVector<Token> &tokens, int width)
+{
+    QVector<QVector<Token>> lines(1);
+    int filled = 0;
+    // Where the line that is being filled may end, 0 for nowhere yet, and what of it is filled up to there.
+    int part = 0;
+    int filledToPart = 0;
+    for (const Token &token : tokens) {
+        const int size = token.kind != Kind::kLetter ? 0 : (isWide(token.letter) ? kWideInLine : kNarrow);
+        QVector<Token> &line = lines.last();
+        if (!line.isEmpty() && mayPart(line.constLast(), token)) {
+            part = int(line.size());
+            filledToPart = filled;
+        }
+        // A blank at the end of a line needs no room.
+        if (filled + size > width && filled > 0 && !isBlank(token)) {
+            const int end = part > 0 ? part : int(line.size());
+            const QVector<Token> rest = line.mid(end);
+            filled -= part > 0 ? filledToPart : filled;
+            line.resize(end);
+            lines.append(rest);
+            part = 0;
+        }
+        lines.last().append(token);
+        filled += size;
+    }
+    return lines;
+}
 
 QVector<TalkText::Token> TalkText::read(const QString &line, const Game &game)
 {
@@ -158,11 +215,9 @@ PanelLine TalkText::shown(const QString &line, const Game &game)
 
 int TalkText::width(const QString &text)
 {
-    constexpr int kNarrow = 9;
-    constexpr char16_t kFirstWide = 0x2E80;
     int width = 0;
     for (const QChar letter : text) {
-        width += letter.unicode() >= kFirstWide ? 2 * kNarrow : kNarrow;
+        width += letter.unicode() >= kFirstWide ? kWide : kNarrow;
     }
     return width;
 }

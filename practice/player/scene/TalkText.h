@@ -26,6 +26,9 @@ public:
     };
 
     [[nodiscard]] static QVector<Token> read(const QString &line, const Game &game);
+    /// The same in lines of so many game pixels at most, roughly: cut between words, or between two letters
+    /// of an East Asian script where neither is a sign that belongs to the other.
+    [[nodiscard]] static QVector<QVector<Token>> wrapped(const QVector<Token> &tokens, int width);
     /// All of the line, or its first letters.
     [[nodiscard]] static PanelLine shown(const QVector<Token> &tokens, int count);
     [[nodiscard]] static PanelLine shown(const QString &line, const Game &game);
