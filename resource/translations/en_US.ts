@@ -6431,7 +6431,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>A game begins with its title screen. Yours has neither name nor picture yet.</translation>
+      <translation>A game begins with its title screen. Yours has only the project's name so far.</translation>
     </message>
     <message>
       <source>#9</source>

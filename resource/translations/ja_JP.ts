@@ -6429,7 +6429,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>ゲームを始めると、まずタイトル画面が出ます。今はまだ、名前も画像もありません。</translation>
+      <translation>ゲームを始めると、まずタイトル画面が出ます。今はまだ、プロジェクトの名前があるだけです。</translation>
     </message>
     <message>
       <source>#9</source>

@@ -6429,7 +6429,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>游戏开始时首先出现标题画面。现在它既没有名字，也没有图像。</translation>
+      <translation>游戏开始时首先出现标题画面。现在那里只有项目的名字。</translation>
     </message>
     <message>
       <source>#9</source>
