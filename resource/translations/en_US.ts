@@ -4027,11 +4027,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Double-click the number at “First level” to select it. Then click “Next”.</translation>
+      <translation>“First level” is the level with which she begins. So far it is Toma's.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>“First level” is where she begins. She is stronger than the others: type 2.</translation>
+      <translation>She is a little stronger than he is. Type 2.</translation>
     </message>
     <message>
       <source>#71</source>
@@ -4087,7 +4087,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#84</source>
-      <translation>Press the Esc key until the game closes.</translation>
+      <translation>Look around as you like. Press the Esc key until the game closes.</translation>
     </message>
     <message>
       <source>#85</source>
@@ -4283,7 +4283,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Double-click the number at “Attack” to select it. Then click “Next”.</translation>
+      <translation>“Attack” says how hard it strikes. It should be more than that of the knife.</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4739,7 +4739,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>One of your heroes waits in “Amberfield”, which is open now.</translation>
+      <translation>A hero waits in “Amberfield”, open now. Click “Full size”, then click “Next”.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4847,11 +4847,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “Cancel”. He can stay as he is.</translation>
+      <translation>These commands are all that he does. Heroes have a class, which decides on their skills.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Nobody can use the skills yet. Each hero has a class, and the class decides on the skills.</translation>
+      <translation>Click “Cancel”. He can stay as he is.</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5227,7 +5227,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Click “OK”. Her face will be beside her words.</translation>
+      <translation>Double-click “Mila” to take this face. It will be beside her words.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5475,11 +5475,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#128</source>
-      <translation>Now the Elder should say something glad, such as You found it! Take it up the hill.</translation>
+      <translation>Type glad words instead, such as You found it! Take it up the hill. Then click “Next”.</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>Type his new words into “Text”, and click “OK”.</translation>
+      <translation>Click “OK” to keep his new words.</translation>
     </message>
     <message>
       <source>#130</source>
@@ -5503,7 +5503,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#135</source>
-      <translation>The warden waits deep in the mine. For now, press the Esc key until the game closes.</translation>
+      <translation>The warden is far away, deep in the mine. Look around; Esc leads back to the editor.</translation>
     </message>
     <message>
       <source>#136</source>
@@ -6019,283 +6019,283 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Events” to see and make events.</translation>
+      <translation>Click “Full size”, so that the arrow points at the right cell. Then click “Next”.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>The path ends here in the west. Double-click this cell to make the way up.</translation>
+      <translation>Click “Events” to see and make events.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>Without a picture the event is not seen. Players just walk on along the path.</translation>
+      <translation>The path ends here in the west. Double-click this cell to make the way up.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>Choose “Touched by the player”, as with a door. Then click “Next”.</translation>
+      <translation>Without a picture the event is not seen. Players just walk on along the path.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>Double-click “+” to add a command.</translation>
+      <translation>Choose “Touched by the player”, as with a door. Then click “Next”.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Click the “Scene” tab.</translation>
+      <translation>Double-click “+” to add a command.</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>Click “Transfer”. It leads to another place.</translation>
+      <translation>Click the “Scene” tab.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Click “OK”.</translation>
+      <translation>Click “Transfer”. It leads to another place.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>Click “Choose…” to choose the place on a map.</translation>
+      <translation>Click “OK”.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click “Hilltop”.</translation>
+      <translation>Click “Choose…” to choose the place on a map.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Click the lower end of the path, one cell above the edge of the map.</translation>
+      <translation>Click “Hilltop”.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>“Facing” stays as it is: whoever arrives goes on looking the same way.</translation>
+      <translation>Click the lower end of the path, one cell above the edge of the map.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>Click “OK” to keep the command.</translation>
+      <translation>“Facing” stays as it is: whoever arrives goes on looking the same way.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Click “Copy page”. The way back will be much the same.</translation>
+      <translation>Click “OK” to keep the command.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>Click “OK”. The way up is there.</translation>
+      <translation>Click “Copy page”. The way back will be much the same.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>The path is two cells wide: later you can copy the way with a right click, “Copy event”.</translation>
+      <translation>Click “OK”. The way up is there.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Click “Hilltop”. Whoever comes up has to come down again.</translation>
+      <translation>The path is two cells wide: later you can copy the way with a right click, “Copy event”.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>Double-click this cell, where the path leaves the map.</translation>
+      <translation>Click “Hilltop”. Whoever comes up has to come down again.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>Click “Paste page”. The copy comes with its command and with its way to start.</translation>
+      <translation>Double-click this cell, where the path leaves the map.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>The copy is page 2. It counts, because it comes last.</translation>
+      <translation>Click “Paste page”. The copy comes with its command and with its way to start.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>It still leads up the hill. Double-click the command to change that.</translation>
+      <translation>The copy is page 2. It counts, because it comes last.</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>Click “Choose…” again.</translation>
+      <translation>It still leads up the hill. Double-click the command to change that.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Click “Amberfield”.</translation>
+      <translation>Click “Choose…” again.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Click the path, one cell from its western end. Then click “Next”.</translation>
+      <translation>Click “Amberfield”.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Not on the way up itself, though: column 0 would lead right back to the hill.</translation>
+      <translation>Click the path, one cell from its western end. Then click “Next”.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>Click “OK” to take this cell.</translation>
+      <translation>Not on the way up itself, though: column 0 would lead right back to the hill.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “OK”. The command leads back to the village now.</translation>
+      <translation>Click “OK” to take this cell.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Click “OK”. Now there is a way back, too.</translation>
+      <translation>Click “OK”. The command leads back to the village now.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Chapter 2: the words. Double-click this free cell. The event of the scene goes here.</translation>
+      <translation>Click “OK”. Now there is a way back, too.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Nobody sees this event. It tells all others what to do, like a director.</translation>
+      <translation>Chapter 2: the words. Double-click this free cell. The event of the scene goes here.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Choose switch 5 at “Switch”: the battle against the warden turns it on.</translation>
+      <translation>Nobody sees this event. It tells all others what to do, like a director.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Choose “By itself”: the scene begins at once, while the player watches. Then click “Next”.</translation>
+      <translation>Choose switch 5 at “Switch”: the battle against the warden turns it on.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>Mila is the first to speak. Double-click “+”.</translation>
+      <translation>Choose “By itself”: the scene begins at once, while the player watches. Then click “Next”.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Double-click “Show message”.</translation>
+      <translation>Mila is the first to speak. Double-click “+”.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Click “Face…”. In a scene, faces show who speaks.</translation>
+      <translation>Double-click “Show message”.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>All faces are in this list. In this scene Mila, Toma and the Elder speak.</translation>
+      <translation>Click “Face…”. In a scene, faces show who speaks.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Mila speaks first. Click “Mila”.</translation>
+      <translation>All faces are in this list. In this scene Mila, Toma and the Elder speak.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Click “OK”. Her face will be beside her words.</translation>
+      <translation>Mila speaks first. Click “Mila”.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Type her words, such as Look, the whole village! Then click “Next”.</translation>
+      <translation>Double-click “Mila” to take her face. It will be beside her words.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>Click “OK” to keep her message.</translation>
+      <translation>Type her words, such as Look, the whole village! Then click “Next”.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Toma answers. Double-click the new “+”.</translation>
+      <translation>Click “OK” to keep her message.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Double-click “Show message” again.</translation>
+      <translation>Toma answers. Double-click the new “+”.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Click “Face…”.</translation>
+      <translation>Double-click “Show message” again.</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>Click “Toma”.</translation>
+      <translation>Click “Face…”.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Type his words, such as Soon it will be bright. Then click “Next”.</translation>
+      <translation>Click “Toma”.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>Click “OK” to keep his answer.</translation>
+      <translation>Type his words, such as Soon it will be bright. Then click “Next”.</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>The Elder has the last word. Double-click “+”.</translation>
+      <translation>Click “OK” to keep his answer.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>Click “Elder”.</translation>
+      <translation>The Elder has the last word. Double-click “+”.</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>Type his thanks, such as You brought the light home. Then click “Next”.</translation>
+      <translation>Click “Elder”.</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>Click “OK”. All three have spoken now.</translation>
+      <translation>Type his thanks, such as You brought the light home. Then click “Next”.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>Click the last message. It is the Elder's; the other two come before it.</translation>
+      <translation>Click “OK”. All three have spoken now.</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>Chapter 3: the movement. After these words Mila walks to the lamp. Double-click “+”.</translation>
+      <translation>Click the last message. It is the Elder's; the other two come before it.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Click “Movement route”. It lets somebody walk.</translation>
+      <translation>Chapter 3: the movement. After these words Mila walks to the lamp. Double-click “+”.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>Double-click it to add it to the scene.</translation>
+      <translation>Click “Movement route”. It lets somebody walk.</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>Choose “Player”, who is Mila.</translation>
+      <translation>Double-click it to add it to the scene.</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>Click “Edit…” to lay down the way.</translation>
+      <translation>Choose “Player”, who is Mila.</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>Click “Up” five times: it is five cells to the lamp. Then click “Next”.</translation>
+      <translation>Click “Edit…” to lay down the way.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Click “Switch on…”. A switch will light the lamp when she is there.</translation>
+      <translation>Click “Up” five times: it is five cells to the lamp. Then click “Next”.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Click “…” to choose a switch. You need a new one.</translation>
+      <translation>Click “Switch on…”. A switch will light the lamp when she is there.</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>Click “Change maximum…”.</translation>
+      <translation>Click “…” to choose a switch. You need a new one.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Type 6 and press Enter.</translation>
+      <translation>Click “Change maximum…”.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Click the new switch, the sixth.</translation>
+      <translation>Type 6 and press Enter.</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>Type a name, such as Lamp returned, and press Enter.</translation>
+      <translation>Click the new switch, the sixth.</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>Click “OK”. The switch comes last in the route.</translation>
+      <translation>Type a name, such as Lamp returned, and press Enter.</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>Click “Preview…” to see the way.</translation>
+      <translation>Click “OK”. The switch comes last in the route.</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>The way goes from the ring to the disc. In the game it begins where Mila stands.</translation>
+      <translation>Click “Preview…” to see the way.</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>Click “Close”.</translation>
+      <translation>The way goes from the ring to the disc. In the game it begins where Mila stands.</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>With the check mark here, the next command waits until she has arrived.</translation>
+      <translation>Click “Close”.</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>Click “OK” to keep the route.</translation>
+      <translation>With the check mark here, the next command waits until she has arrived.</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>The route is below the words: first they speak, then she walks.</translation>
+      <translation>Click “OK” to keep the route.</translation>
     </message>
     <message>
       <source>#79</source>

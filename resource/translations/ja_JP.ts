@@ -4025,11 +4025,11 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>「初期レベル」の数値をダブルクリックして選び、「次へ」をクリックしてください。</translation>
+      <translation>「初期レベル」はゲーム開始時のレベルです。今はトーマと同じです。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>「初期レベル」はゲーム開始時のレベルです。セナは少し強いので、2と入力します。</translation>
+      <translation>セナは少し強いので、2と入力してください。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -4085,7 +4085,7 @@
     </message>
     <message>
       <source>#84</source>
-      <translation>ゲームが閉じるまで、Escキーを押してください。</translation>
+      <translation>自由に見て回りましょう。Escキーを何度か押すと、エディターに戻ります。</translation>
     </message>
     <message>
       <source>#85</source>
@@ -4281,7 +4281,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>「攻撃力」の数値をダブルクリックして選びます。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「攻撃力」で剣の強さが決まります。狩猟ナイフより強くしましょう。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4737,7 +4737,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>開いている「アンバー村」で、主人公の1人が待っています。</translation>
+      <translation>「アンバー村」に主人公の1人がいます。「等倍」をクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4845,11 +4845,11 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>「キャンセル」をクリックしてください。長老はこのままで大丈夫です。</translation>
+      <translation>長老は、このコマンドを実行するだけです。主人公のスキルは職業で決まります。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>まだだれもこのスキルを使えません。何を覚えるかは、主人公の職業で決まります。</translation>
+      <translation>「キャンセル」をクリックしてください。長老はこのままで大丈夫です。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5225,7 +5225,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
+      <translation>「ミラ」をダブルクリックすると決まります。言葉の横に顔が出ます。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5473,11 +5473,11 @@
     </message>
     <message>
       <source>#128</source>
-      <translation>ここは勝利のあとの言葉にします。例：見つけたか！西の丘へ運んでおくれ。</translation>
+      <translation>言葉を書き換え（見つけたか！西の丘へ運んでおくれ、など）、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>「本文」に新しい言葉を入力して、「OK」をクリックしてください。</translation>
+      <translation>「OK」をクリックして、新しい言葉を決定します。</translation>
     </message>
     <message>
       <source>#130</source>
@@ -5501,7 +5501,7 @@
     </message>
     <message>
       <source>#135</source>
-      <translation>番人は鉱山の奥で待っています。ゲームが閉じるまでEscキーを押してください。</translation>
+      <translation>番人はずっと奥の鉱山です。好きなだけ歩き、Escキーでエディターに戻りましょう。</translation>
     </message>
     <message>
       <source>#136</source>
@@ -6017,283 +6017,283 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「イベント」をクリックして、イベントを作れるようにします。</translation>
+      <translation>「等倍」をクリックすると、矢印が正しいマスを指します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>村の道は、西のここで終わります。このマスをダブルクリックして、丘への道を作ります。</translation>
+      <translation>「イベント」をクリックして、イベントを作れるようにします。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>画像がないので、イベントは見えません。プレイヤーは道をそのまま歩くだけです。</translation>
+      <translation>村の道は、西のここで終わります。このマスをダブルクリックして、丘への道を作ります。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>「プレイヤーから接触」を選ぶと、マスに乗ったとき始まります。そのあと「次へ」です。</translation>
+      <translation>画像がないので、イベントは見えません。プレイヤーは道をそのまま歩くだけです。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>「+」をダブルクリックして、コマンドを追加します。</translation>
+      <translation>「プレイヤーから接触」を選ぶと、マスに乗ったとき始まります。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>「シーン」タブをクリックしてください。</translation>
+      <translation>「+」をダブルクリックして、コマンドを追加します。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>「場所移動」をクリックしてください。別の場所へ移動させるコマンドです。</translation>
+      <translation>「シーン」タブをクリックしてください。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>「OK」をクリックしてください。</translation>
+      <translation>「場所移動」をクリックしてください。別の場所へ移動させるコマンドです。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>「選択…」をクリックして、マップ上で行き先を選びます。</translation>
+      <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>「丘の上」をクリックしてください。</translation>
+      <translation>「選択…」をクリックして、マップ上で行き先を選びます。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>道のいちばん下から、1つ上のマスをクリックしてください。</translation>
+      <translation>「丘の上」をクリックしてください。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>「向き」はそのままにします。着いたあとも、歩いてきた向きのままです。</translation>
+      <translation>道のいちばん下から、1つ上のマスをクリックしてください。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>「OK」をクリックして、コマンドを決定します。</translation>
+      <translation>「向き」はそのままにします。着いたあとも、歩いてきた向きのままです。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>「ページコピー」をクリックします。帰り道もよく似ているので、あとで使います。</translation>
+      <translation>「OK」をクリックして、コマンドを決定します。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>「OK」をクリックしてください。丘への道ができました。</translation>
+      <translation>「ページコピー」をクリックします。帰り道もよく似ているので、あとで使います。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>道は2マス幅です。あとで右クリックの「イベントのコピー」で、下のマスにも置けます。</translation>
+      <translation>「OK」をクリックしてください。丘への道ができました。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>「丘の上」をクリックしてください。登った人には、帰り道も必要です。</translation>
+      <translation>道は2マス幅です。あとで右クリックの「イベントのコピー」で、下のマスにも置けます。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>道がマップの外へ出るこのマスを、ダブルクリックしてください。</translation>
+      <translation>「丘の上」をクリックしてください。登った人には、帰り道も必要です。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>「ページ貼り付け」をクリックします。コマンドも開始条件も一緒に入ります。</translation>
+      <translation>道がマップの外へ出るこのマスを、ダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>貼り付けたものは2ページ目です。後ろのページが優先されます。</translation>
+      <translation>「ページ貼り付け」をクリックします。コマンドも開始条件も一緒に入ります。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>行き先はまだ丘の上です。コマンドをダブルクリックして変えましょう。</translation>
+      <translation>貼り付けたものは2ページ目です。後ろのページが優先されます。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>もう一度「選択…」をクリックしてください。</translation>
+      <translation>行き先はまだ丘の上です。コマンドをダブルクリックして変えましょう。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>「アンバー村」をクリックしてください。</translation>
+      <translation>もう一度「選択…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>道の西の端から1つ右のマスをクリックします。そのあと「次へ」をクリックします。</translation>
+      <translation>「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>X座標が0だと丘への道の上なので、すぐまた丘へ戻されてしまいます。</translation>
+      <translation>道の西の端から1つ右のマスをクリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>「OK」をクリックして、このマスに決めます。</translation>
+      <translation>X座標が0だと丘への道の上なので、すぐまた丘へ戻されてしまいます。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>「OK」をクリックしてください。行き先が村に変わりました。</translation>
+      <translation>「OK」をクリックして、このマスに決めます。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>「OK」をクリックしてください。帰り道もできました。</translation>
+      <translation>「OK」をクリックしてください。行き先が村に変わりました。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>第2章はせりふです。この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
+      <translation>「OK」をクリックしてください。帰り道もできました。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>このイベントは見えません。監督のように、みんなの動きを決めます。</translation>
+      <translation>第2章はせりふです。この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>「スイッチ」で5番を選んでください。番人に勝つとONになります。</translation>
+      <translation>このイベントは見えません。監督のように、みんなの動きを決めます。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>「自動実行」を選ぶと、シーンがすぐ始まります。そのあと「次へ」をクリックします。</translation>
+      <translation>「スイッチ」で5番を選んでください。番人に勝つとONになります。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>最初に話すのはミラです。「+」をダブルクリックしてください。</translation>
+      <translation>「自動実行」を選ぶと、シーンがすぐ始まります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>「メッセージの表示」をダブルクリックしてください。</translation>
+      <translation>最初に話すのはミラです。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐわかります。</translation>
+      <translation>「メッセージの表示」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>顔はすべてこの一覧にあります。このシーンでは、ミラ、トーマ、長老が話します。</translation>
+      <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐわかります。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>最初に話すのはミラです。「ミラ」をクリックしてください。</translation>
+      <translation>顔はすべてこの一覧にあります。このシーンでは、ミラ、トーマ、長老が話します。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
+      <translation>最初に話すのはミラです。「ミラ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>「ミラ」をダブルクリックすると決まります。言葉の横に顔が出ます。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>「OK」をクリックして、ミラのメッセージを決定します。</translation>
+      <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>トーマが答えます。新しい「+」をダブルクリックしてください。</translation>
+      <translation>「OK」をクリックして、ミラのメッセージを決定します。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>もう一度「メッセージの表示」をダブルクリックしてください。</translation>
+      <translation>トーマが答えます。新しい「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>「顔…」をクリックしてください。</translation>
+      <translation>もう一度「メッセージの表示」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>「トーマ」をクリックしてください。</translation>
+      <translation>「顔…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>「トーマ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>「OK」をクリックして、トーマの返事を決定します。</translation>
+      <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>最後は長老の言葉です。「+」をダブルクリックしてください。</translation>
+      <translation>「OK」をクリックして、トーマの返事を決定します。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>「長老」をクリックしてください。</translation>
+      <translation>最後は長老の言葉です。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>「長老」をクリックしてください。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>「OK」をクリックしてください。これで3人とも話しました。</translation>
+      <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>最後のメッセージをクリックします。長老の言葉で、その前に2人が話します。</translation>
+      <translation>「OK」をクリックしてください。これで3人とも話しました。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>第3章は動きです。ミラがランプへ歩きます。「+」をダブルクリックしてください。</translation>
+      <translation>最後のメッセージをクリックします。長老の言葉で、その前に2人が話します。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>「移動ルートの設定」をクリックします。だれかを歩かせるコマンドです。</translation>
+      <translation>第3章は動きです。ミラがランプへ歩きます。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>ダブルクリックして、シーンに加えましょう。</translation>
+      <translation>「移動ルートの設定」をクリックします。だれかを歩かせるコマンドです。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>「プレイヤー」を選んでください。ミラのことです。</translation>
+      <translation>ダブルクリックして、シーンに加えましょう。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>「編集…」をクリックして、歩き方を決めます。</translation>
+      <translation>「プレイヤー」を選んでください。ミラのことです。</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>「上に移動」を5回クリックします。ランプの前まで5マスです。そのあと「次へ」です。</translation>
+      <translation>「編集…」をクリックして、歩き方を決めます。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>「スイッチON…」をクリックします。着いたときに、スイッチでランプを灯します。</translation>
+      <translation>「上に移動」を5回クリックします。ランプの前まで5マスです。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>「…」をクリックしてスイッチを選びます。新しいものが必要です。</translation>
+      <translation>「スイッチON…」をクリックします。着いたときに、スイッチでランプを灯します。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>「最大数の変更…」をクリックしてください。</translation>
+      <translation>「…」をクリックしてスイッチを選びます。新しいものが必要です。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>6と入力して、Enterキーを押してください。</translation>
+      <translation>「最大数の変更…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>新しくできた、6番目のスイッチをクリックしてください。</translation>
+      <translation>6と入力して、Enterキーを押してください。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>名前（ランプを返したなど）を入力して、Enterキーを押してください。</translation>
+      <translation>新しくできた、6番目のスイッチをクリックしてください。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>「OK」をクリックします。スイッチはルートの最後に入りました。</translation>
+      <translation>名前（ランプを返したなど）を入力して、Enterキーを押してください。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>「プレビュー…」をクリックして、歩き方を確かめましょう。</translation>
+      <translation>「OK」をクリックします。スイッチはルートの最後に入りました。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>輪から丸までが道のりです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
+      <translation>「プレビュー…」をクリックして、歩き方を確かめましょう。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>「閉じる」をクリックしてください。</translation>
+      <translation>輪から丸までが道のりです。ここではイベントから、ゲームではミラの位置から始まります。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>ここにチェックがあれば、歩き終わるまで次のコマンドは待ちます。</translation>
+      <translation>「閉じる」をクリックしてください。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>「OK」をクリックして、ルートを決定します。</translation>
+      <translation>ここにチェックがあれば、歩き終わるまで次のコマンドは待ちます。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>ルートはせりふの下に並びます。話し終わってから、歩き始めます。</translation>
+      <translation>「OK」をクリックして、ルートを決定します。</translation>
     </message>
     <message>
       <source>#79</source>

@@ -4025,11 +4025,11 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>双击“初始等级”的数值，把它选中。然后点击“下一步”。</translation>
+      <translation>“初始等级”是一开始的等级。现在和托马一样。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>“初始等级”是一开始的等级。塞娜比别人强一些，输入 2。</translation>
+      <translation>塞娜比他强一些。输入 2。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -4085,7 +4085,7 @@
     </message>
     <message>
       <source>#84</source>
-      <translation>按 Esc 键，直到游戏关闭。</translation>
+      <translation>可以随意看看。多按几次 Esc 键，就会回到编辑器。</translation>
     </message>
     <message>
       <source>#85</source>
@@ -4281,7 +4281,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>双击“攻击力”的数值，把它选中。然后点击“下一步”。</translation>
+      <translation>“攻击力”决定它有多强，应该比猎刀高。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4737,7 +4737,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>现在打开的是“琥珀村”，有一位主角在那里等着。</translation>
+      <translation>现在打开的是“琥珀村”，有一位主角等在这里。点击“实际大小”，再点击“下一步”。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4845,11 +4845,11 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“取消”，长老保持原样就好。</translation>
+      <translation>长老只做这些指令写的事。主角能学会什么，由职业决定。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>现在还没有人会用这些技能。主角能学会什么，由他的职业决定。</translation>
+      <translation>点击“取消”，长老保持原样就好。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5225,7 +5225,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>点击“确定”。她的头像会显示在台词旁边。</translation>
+      <translation>双击“米拉”，选定头像。它会显示在台词旁边。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -5473,11 +5473,11 @@
     </message>
     <message>
       <source>#128</source>
-      <translation>这里长老该高兴了，例如：找到了！把它带到山岗上去吧。</translation>
+      <translation>改成高兴的话，例如：找到了！把它带到山岗上去吧。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#129</source>
-      <translation>在“内容”中输入他的新台词，再点击“确定”。</translation>
+      <translation>点击“确定”，保留他的新台词。</translation>
     </message>
     <message>
       <source>#130</source>
@@ -5501,7 +5501,7 @@
     </message>
     <message>
       <source>#135</source>
-      <translation>守卫在矿洞深处等着。现在先按 Esc 键，直到游戏关闭。</translation>
+      <translation>守卫在遥远的矿洞深处。可以随意走走，按 Esc 键回到编辑器。</translation>
     </message>
     <message>
       <source>#136</source>
@@ -6017,283 +6017,283 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“事件”，进入制作事件的模式。</translation>
+      <translation>点击“实际大小”，让箭头指向正确的格子。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>村里的路在西边到头。双击这一格，制作上山的通道。</translation>
+      <translation>点击“事件”，进入制作事件的模式。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>没有图像，玩家看不到这个事件，只要沿着路往前走。</translation>
+      <translation>村里的路在西边到头。双击这一格，制作上山的通道。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>选择“玩家接触”，玩家踏上去就会开始。然后点击“下一步”。</translation>
+      <translation>没有图像，玩家看不到这个事件，只要沿着路往前走。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>双击“+”，添加一条指令。</translation>
+      <translation>选择“玩家接触”，玩家踏上去就会开始。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>点击“场景”选项卡。</translation>
+      <translation>双击“+”，添加一条指令。</translation>
     </message>
     <message>
       <source>#15</source>
-      <translation>点击“场所移动”，它会把玩家带到别处。</translation>
+      <translation>点击“场景”选项卡。</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>点击“确定”。</translation>
+      <translation>点击“场所移动”，它会把玩家带到别处。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>点击“选择…”，在地图上选择目的地。</translation>
+      <translation>点击“确定”。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>点击“山岗”。</translation>
+      <translation>点击“选择…”，在地图上选择目的地。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>点击道路下端的这一格，它比地图边缘高一格。</translation>
+      <translation>点击“山岗”。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>“朝向”保持不变：到达后仍面向原来的方向。</translation>
+      <translation>点击道路下端的这一格，它比地图边缘高一格。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“确定”，保留这条指令。</translation>
+      <translation>“朝向”保持不变：到达后仍面向原来的方向。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>点击“复制页”。回来的路差不多，等一下会用到。</translation>
+      <translation>点击“确定”，保留这条指令。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>点击“确定”，上山的路就有了。</translation>
+      <translation>点击“复制页”。回来的路差不多，等一下会用到。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>路有两格宽：以后可以右键点击它，用“复制事件”放到下面一格。</translation>
+      <translation>点击“确定”，上山的路就有了。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>点击“山岗”。上来的人还得能回去。</translation>
+      <translation>路有两格宽：以后可以右键点击它，用“复制事件”放到下面一格。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>双击这一格，路从这里离开地图。</translation>
+      <translation>点击“山岗”。上来的人还得能回去。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>点击“粘贴页”。指令和触发方式会一起复制过来。</translation>
+      <translation>双击这一格，路从这里离开地图。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>粘贴来的是第 2 页。排在最后的页优先。</translation>
+      <translation>点击“粘贴页”。指令和触发方式会一起复制过来。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>它还是通往山岗。双击这条指令来修改。</translation>
+      <translation>粘贴来的是第 2 页。排在最后的页优先。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>再次点击“选择…”。</translation>
+      <translation>它还是通往山岗。双击这条指令来修改。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>点击“琥珀村”。</translation>
+      <translation>再次点击“选择…”。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>点击从路的西端数起的第二格。然后点击“下一步”。</translation>
+      <translation>点击“琥珀村”。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>不要选 X 坐标为 0 的格子：那里就是上山的路，会立刻又上山。</translation>
+      <translation>点击从路的西端数起的第二格。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>点击“确定”，就用这一格。</translation>
+      <translation>不要选 X 坐标为 0 的格子：那里就是上山的路，会立刻又上山。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“确定”。现在它通往村庄了。</translation>
+      <translation>点击“确定”，就用这一格。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>点击“确定”，回来的路也有了。</translation>
+      <translation>点击“确定”。现在它通往村庄了。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>第二章：台词。双击这个空格，把演出的事件放在这里。</translation>
+      <translation>点击“确定”，回来的路也有了。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>这个事件谁也看不见。它像导演一样指挥大家。</translation>
+      <translation>第二章：台词。双击这个空格，把演出的事件放在这里。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>在“开关”中选择 5 号，战胜守卫后它会打开。</translation>
+      <translation>这个事件谁也看不见。它像导演一样指挥大家。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>选择“自动执行”，演出会立刻开始，玩家只需观看。然后点击“下一步”。</translation>
+      <translation>在“开关”中选择 5 号，战胜守卫后它会打开。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>先说话的是米拉。双击“+”。</translation>
+      <translation>选择“自动执行”，演出会立刻开始，玩家只需观看。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>双击“显示消息”。</translation>
+      <translation>先说话的是米拉。双击“+”。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>点击“头像…”。演出中，头像能说明是谁在说话。</translation>
+      <translation>双击“显示消息”。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>所有头像都在这个列表里。这一场说话的有米拉、托马和长老。</translation>
+      <translation>点击“头像…”。演出中，头像能说明是谁在说话。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>先说话的是米拉。点击“米拉”。</translation>
+      <translation>所有头像都在这个列表里。这一场说话的有米拉、托马和长老。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>点击“确定”。头像会出现在台词旁边。</translation>
+      <translation>先说话的是米拉。点击“米拉”。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>输入她的话，例如：看，整个村庄都看得到。然后点击“下一步”。</translation>
+      <translation>再双击“米拉”，选定头像。它会出现在台词旁边。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>点击“确定”，保留她的消息。</translation>
+      <translation>输入她的话，例如：看，整个村庄都看得到。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>托马来回答。双击新的“+”。</translation>
+      <translation>点击“确定”，保留她的消息。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>再次双击“显示消息”。</translation>
+      <translation>托马来回答。双击新的“+”。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>点击“头像…”。</translation>
+      <translation>再次双击“显示消息”。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>点击“托马”。</translation>
+      <translation>点击“头像…”。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>输入他的话，例如：马上就亮了。然后点击“下一步”。</translation>
+      <translation>点击“托马”。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>点击“确定”，保留他的回答。</translation>
+      <translation>输入他的话，例如：马上就亮了。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>最后由长老说话。双击“+”。</translation>
+      <translation>点击“确定”，保留他的回答。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>点击“长老”。</translation>
+      <translation>最后由长老说话。双击“+”。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>输入感谢的话，例如：你们带回了光明。然后点击“下一步”。</translation>
+      <translation>点击“长老”。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>点击“确定”。三个人都说过话了。</translation>
+      <translation>输入感谢的话，例如：你们带回了光明。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>点击最后一条消息。这是长老的话，前面两个人先说。</translation>
+      <translation>点击“确定”。三个人都说过话了。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>第三章：动作。说完话，米拉走到灯前。双击“+”。</translation>
+      <translation>点击最后一条消息。这是长老的话，前面两个人先说。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>点击“设置移动路线”，它能让人物走动。</translation>
+      <translation>第三章：动作。说完话，米拉走到灯前。双击“+”。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>双击它，加入到演出里。</translation>
+      <translation>点击“设置移动路线”，它能让人物走动。</translation>
     </message>
     <message>
       <source>#63</source>
-      <translation>选择“玩家”，也就是米拉。</translation>
+      <translation>双击它，加入到演出里。</translation>
     </message>
     <message>
       <source>#64</source>
-      <translation>点击“编辑…”，设置怎么走。</translation>
+      <translation>选择“玩家”，也就是米拉。</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>点击“向上移动”五次，走五格就到灯前。然后点击“下一步”。</translation>
+      <translation>点击“编辑…”，设置怎么走。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>点击“开关 ON…”。她走到时，用开关点亮灯。</translation>
+      <translation>点击“向上移动”五次，走五格就到灯前。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>点击“…”选择开关。这里需要一个新的。</translation>
+      <translation>点击“开关 ON…”。她走到时，用开关点亮灯。</translation>
     </message>
     <message>
       <source>#68</source>
-      <translation>点击“更改最大数量…”。</translation>
+      <translation>点击“…”选择开关。这里需要一个新的。</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>输入 6，再按 Enter 键。</translation>
+      <translation>点击“更改最大数量…”。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>点击新增的第 6 个开关。</translation>
+      <translation>输入 6，再按 Enter 键。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>输入名称，例如：归还了灯。再按 Enter 键。</translation>
+      <translation>点击新增的第 6 个开关。</translation>
     </message>
     <message>
       <source>#72</source>
-      <translation>点击“确定”。开关排在路线的最后。</translation>
+      <translation>输入名称，例如：归还了灯。再按 Enter 键。</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>点击“预览…”，看看这条路线。</translation>
+      <translation>点击“确定”。开关排在路线的最后。</translation>
     </message>
     <message>
       <source>#74</source>
-      <translation>从圆环走到圆点。预览从事件的位置画起，游戏里从米拉站的地方出发。</translation>
+      <translation>点击“预览…”，看看这条路线。</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>点击“关闭”。</translation>
+      <translation>从圆环走到圆点。预览从事件的位置画起，游戏里从米拉站的地方出发。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>这里勾选着，她走到之后才执行下一条指令。</translation>
+      <translation>点击“关闭”。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>点击“确定”，保留这条路线。</translation>
+      <translation>这里勾选着，她走到之后才执行下一条指令。</translation>
     </message>
     <message>
       <source>#78</source>
-      <translation>路线排在台词下面：先说话，再走动。</translation>
+      <translation>点击“确定”，保留这条路线。</translation>
     </message>
     <message>
       <source>#79</source>

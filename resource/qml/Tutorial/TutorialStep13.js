@@ -715,7 +715,7 @@
     },
     {
 "id":45,
-"name":"Select the number",
+"name":"How strong",
 "folder":false,
 "translationId":43,
 "x":352,
@@ -723,7 +723,7 @@
 "windowKey":"DatabaseMain",
 "condition":"click,",
 "hint":qsTr("#43"),
-"icon":"doubleClick",
+"icon":"eye",
 "jump":-1,
 "jumpNo":-1,
 "command":"",

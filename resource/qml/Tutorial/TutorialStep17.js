@@ -2083,7 +2083,7 @@
 "windowKey":"EventCommand",
 "condition":"click,",
 "hint":qsTr("#100"),
-"icon":"click",
+"icon":"keyboard",
 "jump":-1,
 "jumpNo":-1,
 "command":"",
