@@ -212,6 +212,14 @@ void EditorWindow::setDefaultButton(QPushButton *button)
 {
     m_defaultButton = button;
     button->setDefault(true);
+    // A button shows that the return key is its own while it has the focus, and for good that it is not when
+    // the focus goes: outside of a QDialog nobody marks the default button again.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget * /*before*/, QWidget *now) {
+        if (now != nullptr && isAncestorOf(now)) {
+            const auto *pressed = qobject_cast<QPushButton *>(now);
+            m_defaultButton->setDefault(pressed == nullptr || pressed == m_defaultButton);
+        }
+    });
 }
 
 void EditorWindow::focusFirst()

@@ -5,12 +5,22 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 #include <utility>
 
 namespace {
 
 using Kind = WindowDescription::Kind;
+
+/// Says that @p window belongs to the one that opens it. Else it belongs to the main window, and that is what
+/// many a window manager would give the keyboard to when it closes, past what else is open.
+void standAbove(QWidget *window, const QWidget *opener)
+{
+    if (window->winId() != 0) { // which makes it known to the window system
+        window->windowHandle()->setTransientParent(opener->window()->windowHandle());
+    }
+}
 
 } // namespace
 
@@ -131,6 +141,9 @@ bool EditorWindowSet::openWith(const QString &windowKey, const ControlAction &ac
                                          : m_ground.project->drafts().top());
     for (const QString &command : action.begin) {
         window->run(command, action.entry);
+    }
+    if (!m_stack.isEmpty()) {
+        standAbove(window, m_windows[m_stack.last()]);
     }
     window->window()->show();
     window->activateWindow();

@@ -6,17 +6,35 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMenuBar>
+#include <QWindow>
+
+namespace {
+
+/// So long a window manager may take until it has given the keyboard to another window.
+constexpr int kHandOverMs = 1000;
+
+} // namespace
 
 InputBlock::InputBlock(MainFrame *frame, QObject *parent)
     : QObject(parent)
     , m_frame(frame)
 {
     qApp->installEventFilter(this);
+    // When a dialog closes, many a window manager gives the keyboard to the main window, past the dialog that
+    // is on top now. Later than that it is the person who goes there, to use the strip.
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
+        const bool isRecent = m_topSince.isValid() && m_topSince.elapsed() < kHandOverMs;
+        const bool isQuestion = QApplication::activeModalWidget() != nullptr;
+        if (m_top != nullptr && isRecent && !isQuestion && window == m_frame->windowHandle()) {
+            m_top->activateWindow();
+        }
+    });
 }
 
 void InputBlock::setTop(QWidget *window)
 {
     m_top = window != nullptr && window->isWindow() ? window : nullptr;
+    m_topSince.start();
     // Its keys go with it.
     m_frame->menuBar()->setEnabled(m_top == nullptr);
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 
 class MainFrame;
 class QWidget;
 
 /// Keeps mouse and keys from everything in the editor but the window on top. Qt's own modal windows would
-/// block the whole frame of the main window, and with it the lesson strip, which has to stay of use.
+/// block the whole frame of the main window, and with it the lesson strip, which has to stay of use. Where
+/// one window closes, the keyboard goes to the one below it.
 class InputBlock : public QObject
 {
     Q_OBJECT
@@ -26,4 +28,5 @@ protected:
 private:
     MainFrame *m_frame;
     QWidget *m_top = nullptr;
+    QElapsedTimer m_topSince;
 };

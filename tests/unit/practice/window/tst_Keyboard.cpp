@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QWindow>
 
 /// The editor without a mouse.
 class tst_Keyboard : public QObject
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void aListShowsThatItHasTheFocus();
     void tabGoesThroughTheControlsInOrder();
     void returnPressesTheButtonWithTheFocus();
+    void theButtonOfTheReturnKeyIsMarked();
+    void aWindowBelongsToTheOneThatOpenedIt();
     void theMenuKeyOpensTheMenuOfTheRow();
     void theMenuKeyOpensTheMenuOfTheCell();
     void popupKeysAreThePopups();
@@ -177,6 +180,47 @@ void tst_Keyboard::returnPressesTheButtonWithTheFocus()
     Editor::key(Qt::Key_Return);
     QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
     QCOMPARE(editor.shownMap()->name, str("Village"));
+}
+
+void tst_Keyboard::theButtonOfTheReturnKeyIsMarked()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("MapProperties"));
+    const auto *ok = editor.find<QPushButton>("MapProperties", "ok");
+    QVERIFY(ok->isDefault());
+    QVERIFY(tabTo("cancel"));
+    QVERIFY(!ok->isDefault());
+    QVERIFY(tabTo("name"));
+    QVERIFY(ok->isDefault());
+    QVERIFY(tabTo("ok"));
+    QVERIFY(ok->isDefault());
+    QVERIFY(tabTo("name"));
+    QVERIFY(ok->isDefault());
+}
+
+void tst_Keyboard::aWindowBelongsToTheOneThatOpenedIt()
+{
+    // So the keyboard comes back to that when it closes, whatever the window manager.
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    const auto handle = [&editor](const char *key) {
+        return editor->window(str(key))->window()->windowHandle();
+    };
+    QCOMPARE(handle("DatabaseMain")->transientParent(), handle("MainWindow"));
+    editor->open(str("ChangeMaximum"));
+    QCOMPARE(handle("ChangeMaximum")->transientParent(), handle("DatabaseMain"));
+    // Where it does not, such as with one that goes by the main window, it is brought back.
+    editor->close(str("ChangeMaximum"));
+    handle("MainWindow")->requestActivate();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), handle("DatabaseMain"));
+    editor->close(str("DatabaseMain"));
+    QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
+    editor->open(str("EventEditorMain"));
+    editor->open(str("VariableSelector"));
+    editor->open(str("ChangeMaximum"));
+    QCOMPARE(handle("ChangeMaximum")->transientParent(), handle("VariableSelector"));
 }
 
 void tst_Keyboard::theMenuKeyOpensTheMenuOfTheRow()
