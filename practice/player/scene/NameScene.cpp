@@ -50,6 +50,10 @@ void NameScene::begin(const Game &game)
     //: Take those that names in your language are written with.
     m_grid = lettersOf(tr("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-'. "));
     m_cursor = RowCursor(int(m_grid.size()) + 2, kColumns);
+    // A name that is there is taken by one key; what ends the input is not hidden below the letters.
+    if (!m_name.isEmpty()) {
+        pointAtDone();
+    }
 }
 
 bool NameScene::isFull() const
@@ -83,7 +87,7 @@ void NameScene::tick(const Input &input, Game *game)
     if (!input.typed.isEmpty()) {
         type(input.typed);
         // Who types is done with the enter key.
-        m_cursor.setCurrent(int(m_grid.size()) + 1);
+        pointAtDone();
     }
     // What is typed has done its work: the keys that move are for the grid.
     switch (m_cursor.tick(input)) {
@@ -92,6 +96,9 @@ void NameScene::tick(const Input &input, Game *game)
         break;
     case RowCursor::Result::kCancelled:
         eraseLast();
+        if (m_name.isEmpty()) {
+            m_cursor.setCurrent(0);
+        }
         break;
     default:
         break;
@@ -103,6 +110,9 @@ void NameScene::choose(Game *game)
     const int row = m_cursor.current();
     if (row < m_grid.size()) {
         type(m_grid.at(row));
+        if (isFull()) {
+            pointAtDone();
+        }
         return;
     }
     if (row == m_grid.size()) {
@@ -117,6 +127,11 @@ void NameScene::choose(Game *game)
         actor->name = name;
     }
     game->pop();
+}
+
+void NameScene::pointAtDone()
+{
+    m_cursor.setCurrent(int(m_grid.size()) + 1);
 }
 
 QString NameScene::help() const

@@ -24,6 +24,7 @@ private:
     void type(const QString &text);
     void eraseLast();
     void choose(Game *game);
+    void pointAtDone();
     [[nodiscard]] bool isFull() const;
     [[nodiscard]] QString help() const;
     /// Letters as a person counts them: what two code units make is one.

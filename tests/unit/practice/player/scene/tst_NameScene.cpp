@@ -12,12 +12,18 @@ class tst_NameScene : public QObject
 private Q_SLOTS:
     void aNameIsTyped();
     void aNameIsChosenLetterByLetter();
+    void theNameThatIsThereIsTakenByOneKey();
+    void whatIsToBeDoneNextIsPointedAt();
     void aNameHasNoMoreThanItsLetters();
     void anEmptyNameIsNotTaken();
     void whatLooksLikeOneLetterIsOne();
     void anActorWhoIsNotThereIsNoHarm();
 
 private:
+    static QString pointed(const SceneRun &run)
+    {
+        return run.list() != nullptr ? run.list()->rows.value(run.list()->current).text : QString();
+    }
     static void type(SceneRun *run, const QString &text)
     {
         Input input;
@@ -61,6 +67,38 @@ void tst_NameScene::aNameIsChosenLetterByLetter()
     QVERIFY(run.choose(QStringLiteral("b")));
     done(&run);
     QCOMPARE(run.game.state().knownActor(1)->name, QStringLiteral("Bob"));
+}
+
+void tst_NameScene::theNameThatIsThereIsTakenByOneKey()
+{
+    SlimeGame small;
+    small.begin();
+    SceneRun run(small);
+    run.open<NameScene>(1, 8);
+    Scene *scene = run.game.scene();
+    run.act();
+    QVERIFY(run.game.scene() != scene);
+    QCOMPARE(run.game.state().knownActor(1)->name, QStringLiteral("Mila"));
+}
+
+void tst_NameScene::whatIsToBeDoneNextIsPointedAt()
+{
+    SlimeGame small;
+    small.begin();
+    SceneRun run(small);
+    run.open<NameScene>(1, 5);
+    QCOMPARE(pointed(run), QStringLiteral("Done"));
+    eraseAll(&run);
+    QCOMPARE(pointed(run), QStringLiteral("A"));
+    for (int letter = 0; letter < 4; ++letter) {
+        run.act();
+        QCOMPARE(pointed(run), QStringLiteral("A"));
+    }
+    // The fifth letter is the last one.
+    run.act();
+    QCOMPARE(pointed(run), QStringLiteral("Done"));
+    run.act();
+    QCOMPARE(run.game.state().knownActor(1)->name, QStringLiteral("AAAAA"));
 }
 
 void tst_NameScene::aNameHasNoMoreThanItsLetters()
