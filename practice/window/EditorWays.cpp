@@ -10,13 +10,23 @@ namespace {
 using Does = Way::Does;
 using Kind = WindowDescription::Kind;
 
-/// Whether the window has a control that closes it and keeps what was done there.
+/// Whether it does more to the window than to leave it.
+bool closesForMore(const ControlAction &action)
+{
+    return action.close && !(action.run.isEmpty() && action.open.isEmpty());
+}
+
+bool canCloseForMore(const ControlAction &action)
+{
+    return closesForMore(action) || (action.otherwise != nullptr && canCloseForMore(*action.otherwise));
+}
+
+/// Whether the window has a control that closes it and keeps what was done there, or goes on with it.
 bool canBeAccepted(const WindowDescription &window)
 {
     return std::any_of(window.controls.cbegin(), window.controls.cend(),
                        [](const ControlDescription &control) {
-                           return (control.click.close && !control.click.run.isEmpty()) ||
-                                  (control.doubleClick.close && !control.doubleClick.run.isEmpty());
+                           return canCloseForMore(control.click) || canCloseForMore(control.doubleClick);
                        });
 }
 
@@ -56,8 +66,7 @@ void EditorWays::addAction(const ControlAction &action, const ControlSpot &by, c
 {
     const QString how = QString::fromLatin1(icon);
     if (action.close) {
-        const bool drops =
-            action.run.isEmpty() && action.open.isEmpty() && canBeAccepted((*m_descriptions)[from]);
+        const bool drops = !closesForMore(action) && canBeAccepted((*m_descriptions)[from]);
         m_ways.append({by, how, from, Does::kCloses, from, drops});
     }
     if (!action.open.isEmpty()) {
