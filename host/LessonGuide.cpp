@@ -6,6 +6,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -24,6 +25,13 @@ bool isPress(const EditorEvent &event)
     return event.type == QLatin1String("pressed");
 }
 
+/// Whether the icon of the step asks for a use of the mouse.
+bool isMouseAct(const Step &step)
+{
+    return step.icon == QLatin1String("click") || step.icon == QLatin1String("doubleClick") ||
+           step.icon == QLatin1String("rightClick");
+}
+
 } // namespace
 
 LessonGuide::LessonGuide(HostEditor *editor, QObject *parent)
@@ -35,7 +43,7 @@ LessonGuide::LessonGuide(HostEditor *editor, QObject *parent)
     m_help.setSingleShot(true);
     m_help.setInterval(kHelpAfterMs);
     connect(&m_help, &QTimer::timeout, this, &LessonGuide::offerHelp);
-    connect(editor, &HostEditor::used, this, &LessonGuide::noteUse);
+    connect(editor, &HostEditor::used, this, &LessonGuide::takeUse);
     connect(editor, &HostEditor::pushed, this, &LessonGuide::follow);
     connect(editor, &HostEditor::popped, this, &LessonGuide::follow);
     connect(editor, &HostEditor::popupAbandoned, this, &LessonGuide::follow);
@@ -74,6 +82,7 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_vainUses = 0;
     m_couldPutBack = false;
     m_wasGone = false;
+    m_looksElsewhere = false;
     takeStart();
     m_turn.start();
     if (wantsEvent()) {
@@ -119,27 +128,51 @@ LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
         StepRule(m_editor, m_needs.step, m_needs.pointed).counts(event)) {
         return Verdict::kDone;
     }
-    if (!isElsewhere && m_ahead.isDoneBy(event)) {
+    if (!isElsewhere && !m_looksElsewhere && m_ahead.isDoneBy(event)) {
         return Verdict::kRanAhead;
     }
     blame(event);
     return Verdict::kNothing;
 }
 
+void LessonGuide::takeUse(const ControlSpot &spot)
+{
+    follow();
+    noteUse(spot);
+    if (m_runs && !m_restoring) {
+        EditorEvent use;
+        use.cause = spot;
+        blame(use);
+    }
+}
+
 std::optional<ControlUse> LessonGuide::leftUndone() const
 {
     using Kind = ControlUse::Kind;
     const std::optional<ControlSpot> &spot = m_needs.pointed;
-    const bool isAct = m_needs.step.icon == QLatin1String("click") ||
-                       m_needs.step.icon == QLatin1String("doubleClick") ||
-                       m_needs.step.icon == QLatin1String("rightClick");
-    if (!m_runs || !spot || !isAct || m_needs.step.condition.type() != Condition::Type::kNext) {
+    if (!m_runs || !spot || !isMouseAct(m_needs.step) ||
+        m_needs.step.condition.type() != Condition::Type::kNext) {
         return {};
     }
     const ControlUse use = ControlUse::of(m_needs.step, *spot);
     // A row or tab may have been left for another one, and clicking it twice does no harm.
     const bool isDone = m_isUsed && (spot->part < 0 || m_editor->dataMark() != m_needs.start.dataMark);
     return isDone || use.kind == Kind::kDrag ? std::nullopt : std::optional(use);
+}
+
+void LessonGuide::chooseAsBefore()
+{
+    if (!m_runs || !m_settled || !isLook()) {
+        return;
+    }
+    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    const QVector<ControlSpot> spots = left();
+    for (const ControlSpot &spot : spots) {
+        m_editor->reveal(spot);
+        if (m_editor->rectOf(spot)) {
+            m_editor->perform({spot, ControlUse::Kind::kClick, {}, false});
+        }
+    }
 }
 
 bool LessonGuide::canPutBack() const
@@ -220,6 +253,7 @@ void LessonGuide::endTurn()
     m_beganAstray = isFirst ? stray != Stray::kNot : m_beganAstray;
     const bool isNew = std::exchange(m_stray, stray) != stray;
     const bool isOther = std::exchange(m_way, way) != way;
+    m_looksElsewhere = m_runs && isLook() && looksElsewhere();
     const bool couldPutBack = std::exchange(m_couldPutBack, canPutBack());
     if (isNew || isOther || couldPutBack != m_couldPutBack) {
         Q_EMIT changed();
@@ -280,7 +314,9 @@ void LessonGuide::takeStart()
 
 void LessonGuide::blame(const EditorEvent &event)
 {
-    const bool isAsked = m_needs.pointed && event.cause.isLike(*m_needs.pointed) &&
+    // Into what is only shown a person may type something of her own.
+    const bool isForUse = !isLook() || isTyping(event);
+    const bool isAsked = isForUse && m_needs.pointed && event.cause.isLike(*m_needs.pointed) &&
                          !(m_needs.step.condition.type() == Condition::Type::kMouseEvent &&
                            event.type == QLatin1String("mouseEvent"));
     const bool leadsBack = m_way && event.cause.isLike(m_way->by);
@@ -309,6 +345,32 @@ bool LessonGuide::wantsEvent() const
     using Type = Condition::Type;
     const Type type = m_needs.step.condition.type();
     return type != Type::kNext && type != Type::kYesNo && type != Type::kWait;
+}
+
+bool LessonGuide::isLook() const
+{
+    return !wantsEvent() && !isMouseAct(m_needs.step) && m_needs.step.icon != QLatin1String("keyboard");
+}
+
+QVector<ControlSpot> LessonGuide::left() const
+{
+    const QVector<ControlSpot> now = m_editor->chosen();
+    QVector<ControlSpot> left;
+    for (const ControlSpot &spot : m_needs.start.chosen) {
+        if (!now.contains(spot)) {
+            left.append(spot);
+        }
+    }
+    return left;
+}
+
+bool LessonGuide::looksElsewhere() const
+{
+    const QVector<ControlSpot> spots = left();
+    // The first click of two has chosen a row already.
+    return std::any_of(spots.cbegin(), spots.cend(), [this](const ControlSpot &spot) {
+        return !m_ahead.pointed() || !spot.isSameControl(*m_ahead.pointed());
+    });
 }
 
 bool LessonGuide::wantsWindow() const

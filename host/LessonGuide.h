@@ -45,6 +45,10 @@ public:
     /// Nothing where all was done, and for what the editor cannot do in a person's place, such as typing.
     [[nodiscard]] std::optional<ControlUse> leftUndone() const;
 
+    /// Chooses the tabs, tools and rows of the start of the step again, as far as they are in reach, where
+    /// the step only shows something: whoever has looked at others meanwhile goes on with the lesson's.
+    void chooseAsBefore();
+
     /// The control, row, tab or cell that the step's position names.
     [[nodiscard]] const std::optional<ControlSpot> &pointed() const { return m_needs.pointed; }
     [[nodiscard]] const StepStart &start() const { return m_needs.start; }
@@ -78,6 +82,8 @@ Q_SIGNALS:
 
 private:
     void follow();
+    /// A control was used of which no event tells: what it has changed counts as well.
+    void takeUse(const ControlSpot &spot);
     void noteUse(const ControlSpot &spot);
     void endTurn();
     [[nodiscard]] Stray lookAround(const Whereabouts &now);
@@ -87,6 +93,11 @@ private:
     void blame(const EditorEvent &event);
     void offerHelp();
     [[nodiscard]] bool wantsEvent() const;
+    /// The step asks for nothing but to look, or for an answer.
+    [[nodiscard]] bool isLook() const;
+    /// What was chosen when the step began and is not now.
+    [[nodiscard]] QVector<ControlSpot> left() const;
+    [[nodiscard]] bool looksElsewhere() const;
     [[nodiscard]] bool wantsWindow() const;
     /// What the step asks for was done, and nothing came of it: the editor is in another state than it needs.
     [[nodiscard]] bool isInVain() const;
@@ -111,6 +122,8 @@ private:
     /// The same in this turn, and in how many turns without an end of the step, which is to open a window.
     bool m_isUsedNow = false;
     int m_vainSteps = 0;
+    /// In a step to look at, something else was chosen than what it began with, at the end of the last turn.
+    bool m_looksElsewhere = false;
     /// One click may report several things.
     bool m_blamed = false;
     bool m_offered = false;

@@ -14,7 +14,10 @@ LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     , m_bubble(editor, &m_screen, &m_runner, &m_guide)
 {
     m_wait.setSingleShot(true);
-    connect(&m_wait, &QTimer::timeout, &m_runner, &ScenarioRunner::elapsed);
+    connect(&m_wait, &QTimer::timeout, this, [this] {
+        m_guide.chooseAsBefore();
+        m_runner.elapsed();
+    });
     connectParts();
     connect(editor, &HostEditor::happened, this, &LessonSession::onHappened);
 }
@@ -179,6 +182,7 @@ void LessonSession::passStep()
             m_editor->perform(ControlUse::closingMenu());
         }
     }
+    m_guide.chooseAsBefore();
     // What was done may have been the step behind as well.
     if (m_reached == before) {
         m_runner.next();
@@ -256,6 +260,7 @@ void LessonSession::next()
 void LessonSession::answer(bool yes)
 {
     Q_EMIT nextArrived();
+    m_guide.chooseAsBefore();
     m_runner.answer(yes);
 }
 

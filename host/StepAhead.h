@@ -19,6 +19,8 @@ public:
 
     /// Whether the event is what that step asks for, through the control that it points at.
     [[nodiscard]] bool isDoneBy(const EditorEvent &event) const;
+    /// What that step points at; nothing where there is no such step.
+    [[nodiscard]] const std::optional<ControlSpot> &pointed() const { return m_pointed; }
 
 private:
     const HostEditor *m_editor = nullptr;

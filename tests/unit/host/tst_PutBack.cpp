@@ -10,12 +10,17 @@ class tst_PutBack : public QObject
 private Q_SLOTS:
     void anotherProjectIsPutBack();
     void theDataArePutBackAfterAWrongMove();
+    void whatAWrongButtonHasChangedIsPutBack();
+    void theButtonThatTheStepPointsAtIsNoWrongOne();
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
     void whatWentWrongEarlierIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
+    void whatIsUsedInVainIsPutBack();
+    void whatDoesAsItIsToldIsNotInVain();
+    void aWayThatIsUsedInVainLeadsNowhere();
 };
 
 void tst_PutBack::anotherProjectIsPutBack()
@@ -59,6 +64,34 @@ void tst_PutBack::theDataArePutBackAfterAWrongMove()
     QVERIFY(!played.session.isAstray());
     QVERIFY(!played.session.canPutBack());
     QCOMPARE(played.id(), 1);
+}
+
+void tst_PutBack::whatAWrongButtonHasChangedIsPutBack()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "moveUp"));
+    played.play({Played::item(1, "MainWindow", "click,")});
+    QSignalSpy changed(&played.session, &LessonSession::astrayChanged);
+    // No condition waits for such a button, so no event tells of it.
+    played.editor.m_data = str("a step away");
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "moveAway"));
+    played.turn();
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::theButtonThatTheStepPointsAtIsNoWrongOne()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "moveUp"));
+    played.play({Played::item(1, "MainWindow", "click,")});
+    played.editor.m_data = str("a step up");
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "moveUp"));
+    played.turn();
+    QVERIFY(!played.session.canPutBack());
 }
 
 void tst_PutBack::aTaskThatChangesTheDataIsNothingToPutBack()
@@ -171,6 +204,75 @@ void tst_PutBack::anotherProjectCountsWhereTheStepPointsNowhere()
     QVERIFY(played.session.canPutBack());
     played.session.putBack();
     QVERIFY(!played.session.isAstray());
+}
+
+void tst_PutBack::whatIsUsedInVainIsPutBack()
+{
+    const ControlSpot button = Played::spot("MainWindow", "new");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), button);
+    played.play({Played::item(1, "MainWindow", "click,"),
+                 Played::item(2, "MainWindow", "windowState,NewProject,open"), QStringLiteral(R"("id":3)")});
+    played.session.next();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    // The button does something, and no window opens: its editor is in another state than the step needs.
+    int uses = 0;
+    while (!played.session.canPutBack() && uses < 20) {
+        Q_EMIT played.editor.used(button);
+        played.turn();
+        ++uses;
+    }
+    // A double click or two may miss.
+    QVERIFY2(uses > 4 && uses < 20, qPrintable(QString::number(uses)));
+    played.session.putBack();
+    played.turn();
+    // The step cannot be done as it began, so it is done from the one before.
+    QCOMPARE(played.id(), 1);
+    QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::whatDoesAsItIsToldIsNotInVain()
+{
+    const ControlSpot button = Played::spot("MainWindow", "add");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), button);
+    played.play({Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)")});
+    for (int use = 0; use < 20; ++use) {
+        Q_EMIT played.editor.used(button);
+        played.turn();
+        QVERIFY(!played.session.canPutBack());
+    }
+}
+
+void tst_PutBack::aWayThatIsUsedInVainLeadsNowhere()
+{
+    Played played;
+    played.editor.m_ways = someWays();
+    played.editor.m_controls.insert(str(kProperties), Played::spot(kProperties, "name"));
+    played.editor.open(str(kProperties));
+    played.play({Played::item(1, kProperties, "textLength,name,3"), QStringLiteral(R"("id":2)")});
+    played.use(kProperties, "@dismiss");
+    played.editor.close(str(kProperties));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    const std::optional<Way> way = played.session.wayBack();
+    QVERIFY(way);
+    int uses = 0;
+    while (played.session.wayBack() && uses < 20) {
+        QVERIFY(!played.session.canPutBack());
+        Q_EMIT played.editor.used(way->by);
+        played.turn();
+        ++uses;
+    }
+    QVERIFY2(uses > 4 && uses < 20, qPrintable(QString::number(uses)));
+    QVERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    QVERIFY(played.lastTold().contains(str("|put it back|")));
+    played.session.putBack();
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.editor.m_stack, (QStringList{str("MainWindow"), str(kProperties)}));
 }
 
 QTEST_GUILESS_MAIN(tst_PutBack)

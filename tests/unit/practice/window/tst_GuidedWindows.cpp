@@ -40,9 +40,12 @@ private Q_SLOTS:
     void namesTheControlAtAPosition();
     void tellsWhereControlsAre();
     void tellsNothingOfWhatCannotBeUsed();
+    void whatIsGreyCannotBeUsed();
+    void ofSeveralAtOnePlaceTakesTheOneThatTheStepNeeds();
     void tellsHowThingsCameAbout();
     void tellsADragFromAClick();
     void knowsWhatLeadsWhere();
+    void escapeDropsWhatAnotherControlGoesOnWith();
     void aGreyEntryLeadsNowhere();
     void knowsWhatAControlBringsAbout_data();
     void knowsWhatAControlBringsAbout();
@@ -116,6 +119,45 @@ void tst_GuidedWindows::tellsNothingOfWhatCannotBeUsed()
     QVERIFY(editor->rectOf(spot("Menu", "MapPopup/newMap")));
     QVERIFY(!editor->rectOf(spot("Menu", "TilePopup/changeTileSet")));
     Q_UNUSED(covered)
+}
+
+void tst_GuidedWindows::whatIsGreyCannotBeUsed()
+{
+    Editor editor;
+    editor.openProject();
+    const ControlSpot undo = spot("MainWindow", "editUndo");
+    QVERIFY(!editor->rectOf(undo));
+    QVERIFY(!use(editor, undo));
+    QVERIFY(use(editor, spot("MainWindow", "tiles", 4)));
+    QVERIFY(use(editor, cell(2, 2)));
+    QVERIFY(editor->rectOf(undo));
+    QVERIFY(use(editor, undo));
+    QVERIFY(!editor->rectOf(undo));
+}
+
+void tst_GuidedWindows::ofSeveralAtOnePlaceTakesTheOneThatTheStepNeeds()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    // On the tab of the actors their class stands where that of the tilesets has their picture.
+    Step step;
+    step.windowKey = str("DatabaseMain");
+    const QPoint corner = QPoint(465, 96) - LessonWords::kTip;
+    step.x = corner.x();
+    step.y = corner.y();
+    const auto pointed = [&editor, &step](const char *condition) {
+        step.condition = *Condition::parse(str(condition));
+        return editor->controlFor(step).value_or(ControlSpot());
+    };
+    QCOMPARE(pointed("click,"), spot("DatabaseMain", "actorClass"));
+    QCOMPARE(pointed("comboBox,actorClass,1"), spot("DatabaseMain", "actorClass"));
+    QCOMPARE(pointed("comboBox,tilesetImage,1"), spot("DatabaseMain", "tilesetImage"));
+    // What no control there can bring about is left to the one that shows.
+    QCOMPARE(pointed("comboBox,nothing,1"), spot("DatabaseMain", "actorClass"));
+    step.x = LessonWords::kNoPosition;
+    step.y = LessonWords::kNoPosition;
+    QVERIFY(!editor->controlFor(step));
 }
 
 void tst_GuidedWindows::tellsHowThingsCameAbout()
@@ -210,6 +252,23 @@ void tst_GuidedWindows::knowsWhatLeadsWhere()
         // It goes by itself, and in no other way.
         QVERIFY(way.does != Does::kCloses || way.windowKey != str("Copying") || way.icon == str("wait"));
     }
+}
+
+void tst_GuidedWindows::escapeDropsWhatAnotherControlGoesOnWith()
+{
+    const Editor editor;
+    const Ways ways = editor->ways();
+    const auto drops = [&ways](const char *control) {
+        const auto found = std::find_if(ways.cbegin(), ways.cend(), [control](const Way &way) {
+            return way.by == spot("EventCommandSelect", control) && way.does == Way::Does::kCloses;
+        });
+        return found == ways.cend() ? -1 : int(found->drops);
+    };
+    // A command is taken into its form, or is inserted at once.
+    QCOMPARE(drops("commands"), 0);
+    QCOMPARE(drops("ok"), 0);
+    QCOMPARE(drops("cancel"), 1);
+    QCOMPARE(drops("@dismiss"), 1);
 }
 
 void tst_GuidedWindows::knowsWhatAControlBringsAbout_data()
