@@ -117,7 +117,13 @@ bool LessonSession::passesByItself(int id) const
 void LessonSession::putBack()
 {
     if (m_guide.isLost() && canGoBack()) {
-        goBackTo(m_history.goBackToGood());
+        const int lost = m_runner.step().id;
+        LessonHistory::Visit visit = m_history.goBackToGood();
+        if (std::exchange(m_lostIn, lost) == lost && m_history.canGoBack()) {
+            // From there it led to the same end: what is to be done otherwise was decided before.
+            visit = m_history.goBack();
+        }
+        goBackTo(visit);
     } else {
         restore(m_guide.start());
     }
@@ -274,6 +280,7 @@ void LessonSession::begin(const std::optional<Scenario> &scenario, int id)
         Q_EMIT problemFound(QStringLiteral("%1 has no item %2 to begin at; it begins at its first")
                                 .arg(lessonName(), QString::number(first)));
     }
+    m_lostIn.reset();
     m_screen.start();
     Q_EMIT started();
     m_runner.start(*scenario, first);

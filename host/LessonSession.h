@@ -65,7 +65,7 @@ public:
     /// there were wrong moves; or what the step points at is not there.
     [[nodiscard]] bool canPutBack() const { return m_guide.canPutBack(); }
     /// Brings back what there was when the step was reached. Where the step cannot be done even so, it goes
-    /// back to the one in which something went wrong.
+    /// back to the one in which something went wrong, and a step further where that did not help.
     void putBack();
 
     /// Whether there is a step before this one that was played.
@@ -185,6 +185,8 @@ private:
     int m_doublePressMs = kDoublePressMs;
     /// How many steps were reached.
     int m_reached = 0;
+    /// Id of the step from which putBack() has led to an earlier one.
+    std::optional<int> m_lostIn;
     /// The step was shown by showMe() already.
     bool m_shown = false;
 };

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void whatWentWrongEarlierIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
+    void whoIsLostAgainGoesBackFurther();
     void whatIsUsedInVainIsPutBack();
     void whatDoesAsItIsToldIsNotInVain();
     void aWayThatIsUsedInVainLeadsNowhere();
@@ -204,6 +205,31 @@ void tst_PutBack::anotherProjectCountsWhereTheStepPointsNowhere()
     QVERIFY(played.session.canPutBack());
     played.session.putBack();
     QVERIFY(!played.session.isAstray());
+}
+
+void tst_PutBack::whoIsLostAgainGoesBackFurther()
+{
+    // There is no project to open, whoever opens the dialog.
+    const ControlSpot open = Played::spot("FileDialog", "open");
+    Played played;
+    played.editor.m_controls.insert(str("FileDialog"), open);
+    played.editor.m_hidden.append(open);
+    played.play({Played::item(1, "MainWindow", "yesNo"),
+                 Played::item(2, "MainWindow", "windowState,FileDialog,open"),
+                 Played::item(3, "FileDialog", "windowState,FileDialog,close"), QStringLiteral(R"("id":4)")});
+    played.session.answer(false);
+    played.turn();
+    for (const int back : {2, 1}) {
+        played.use("MainWindow", "fileOpen");
+        played.editor.open(str("FileDialog"));
+        QCOMPARE(played.id(), 3);
+        QTRY_VERIFY(played.session.isAstray());
+        played.session.putBack();
+        played.turn();
+        QCOMPARE(played.id(), back);
+        QVERIFY(!played.session.isAstray());
+        QCOMPARE(played.editor.m_stack, QStringList{str("MainWindow")});
+    }
 }
 
 void tst_PutBack::whatIsUsedInVainIsPutBack()
