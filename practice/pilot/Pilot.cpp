@@ -145,6 +145,13 @@ void Pilot::onLimit()
                                             "buttons do not show"));
         break;
     case Phase::kActing:
+        if (awaitsList() && triesAgain()) {
+            // What the mistake had unfolded has taken the click.
+            ++m_tries;
+            m_sinceDone.start();
+            enter(Phase::kWatching, m_settings.settleMs);
+            break;
+        }
         breakStep(QStringLiteral("the window does not get the focus, or another one covers the companion's "
                                  "button"));
         break;
@@ -367,6 +374,9 @@ void Pilot::act()
     case Hand::Result::kDone:
         m_done.append(action.inWords());
         ++m_next;
+        if (awaitsList() && triesAgain()) {
+            enter(Phase::kActing, qMin(kTryMs, m_settings.settleMs));
+        }
         break;
     case Hand::Result::kMissed:
         // If it was a double click after all, the next step is reached before the next look.
@@ -407,6 +417,11 @@ bool Pilot::canAct(const Action &action, const ActionPlan &plan)
         return isClickHeard && m_eye->takesPressAt(action.window, action.place);
     }
     return isClickHeard && (!action.isOfKeyboard() || !plan.spot || m_eye->takesKeysAt(*plan.spot));
+}
+
+bool Pilot::awaitsList() const
+{
+    return m_next < m_plan.actions.size() && m_plan.actions.at(m_next).kind == Action::Kind::kChoose;
 }
 
 bool Pilot::triesAgain() const

@@ -109,6 +109,8 @@ private:
     [[nodiscard]] bool canAct(const Action &action, const ActionPlan &plan);
     /// What is done in the list that has dropped down.
     [[nodiscard]] Action choiceFor(const QString &hint) const;
+    /// A list has to drop down before it goes on.
+    [[nodiscard]] bool awaitsList() const;
     /// Whether what was done is done again when nothing comes of it.
     [[nodiscard]] bool triesAgain() const;
     /// Whether the press that ended what was done is made again, and that alone.

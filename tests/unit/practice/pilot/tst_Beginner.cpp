@@ -36,6 +36,7 @@ private Q_SLOTS:
     void doesNotErrWhereNoClickGoes();
     void followsTheArrowBack();
     void putsBackWhatWentWrong();
+    void clicksAgainWhereNoListDropsDown();
     void isBrokenWhereNothingLeadsBack();
 
 private:
@@ -218,6 +219,29 @@ void tst_Beginner::putsBackWhatWentWrong()
     QCOMPARE(done(),
              (QStringList{QStringLiteral("a click at (138, 328)"), QStringLiteral("a click at (40, 900)"),
                           QStringLiteral("a click at (138, 302)")}));
+}
+
+void tst_Beginner::clicksAgainWhereNoListDropsDown()
+{
+    m_scene.hasList = false;
+    m_scene.perform = [this](const Action &action) {
+        const int acts = int(m_scene.acts.size());
+        soon([this, acts, action] {
+            // The double click beside it has folded the list up again, and the first click is lost in that.
+            m_scene.hasList = acts == 3;
+            if (action.kind == Action::Kind::kChoose) {
+                m_editor->report(QStringLiteral("comboBox"), QStringLiteral("kind"), QStringLiteral("3"));
+            }
+        });
+        return Hand::Result::kDone;
+    };
+    QString choice = kFirst;
+    begin({choice.replace(QStringLiteral("list,2"), QStringLiteral("comboBox,kind,3"))});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(*m_failures, QStringList());
+    QCOMPARE(done().mid(1),
+             (QStringList{QStringLiteral("a click at (138, 302)"), QStringLiteral("a click at (138, 302)"),
+                          QStringLiteral("choosing row 3")}));
 }
 
 void tst_Beginner::isBrokenWhereNothingLeadsBack()
