@@ -293,7 +293,7 @@
 "name":"Its column and row",
 "folder":false,
 "translationId":18,
-"x":289,
+"x":423,
 "y":356,
 "windowKey":"Location",
 "condition":"click,",
