@@ -1119,11 +1119,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#59</source>
-      <translation>The maps to choose from are on the left. This picture shows the one that is chosen.</translation>
+      <translation>One map is chosen already. Click “OK” to add it to your game.</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>One map is chosen already. Click “OK” to add it to your game.</translation>
+      <translation>It is a map like yours. “Width” and “Height” in its properties make it larger or smaller.</translation>
     </message>
     <message>
       <source>#61</source>
@@ -1187,11 +1187,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>Click “Map properties…” once more.</translation>
+      <translation>Click “Load a sample map…” once more.</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>“Width” and “Height” make a map larger or smaller. Click “Cancel” to leave it as it is.</translation>
+      <translation>On the left are the maps to choose from, for any game of yours. Click “Cancel” for now.</translation>
     </message>
     <message>
       <source>#78</source>
@@ -1387,11 +1387,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Double-click “+” below the messages.</translation>
+      <translation>“+” has many more commands than messages. One of them shows how the player feels.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Click a few tabs to see what else an event can do. Then click “Next”.</translation>
+      <translation>Double-click “+” below the messages.</translation>
     </message>
     <message>
       <source>#47</source>
@@ -1515,158 +1515,162 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>Click “OK”.</translation>
+      <translation>Every cell has a column and a row. These are the numbers of the one that you clicked.</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>Click “OK”. The door is in its place, and whoever walks against it gets into the house.</translation>
+      <translation>Click “OK”.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>Now the other side. Click “Mila's house” to open this map.</translation>
+      <translation>Click “OK”. The door is in its place, and whoever walks against it gets into the house.</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>A passage goes one way only. Right-click this cell for the way back. Then click “Next”.</translation>
+      <translation>Now the other side. Click “Mila's house” to open this map.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Click “Passage” again. It goes into the marked cell.</translation>
+      <translation>A passage goes one way only. Right-click this cell for the way back. Then click “Next”.</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>Choose “Amberfield”: the way out leads into the village.</translation>
+      <translation>Click “Passage” again. It goes into the marked cell.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Click “Choose…” for the place in the village.</translation>
+      <translation>Choose “Amberfield”: the way out leads into the village.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Double-click this cell below the door. On the door itself, the player would go in again.</translation>
+      <translation>A place can be typed as well. Type 5, the column of the door. Then click “Next”.</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>It looks like a second door. Double-click it: a quick event can be changed like any other.</translation>
+      <translation>Type 7, one below the door, and press Enter. On the door, the player would go in again.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>The quick event has named it “Passage”. You can type a better name, such as Way out.</translation>
+      <translation>It looks like a second door. Double-click it: a quick event can be changed like any other.</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>All that the quick event has written is this command: it takes the player to the village.</translation>
+      <translation>The quick event has named it “Passage”. You can type a better name, such as Way out.</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>“Touched by the player” means that walking there is enough. Nobody has to press a key.</translation>
+      <translation>All that the quick event has written is this command: it takes the player to the village.</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>A passage is always the same, so it has one page. Events that change, like chests, have more.</translation>
+      <translation>“Touched by the player” means that walking there is enough. Nobody has to press a key.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>The map shows a door here already. Click this picture to take it away.</translation>
+      <translation>An event can wait for something. Nothing is set here: the way out is always there.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Click “People”: “None” is chosen there, at the top. Then click “Next”.</translation>
+      <translation>A passage is always the same, so it has one page. Events that change, like chests, have more.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>The field is empty now. Nothing is drawn on the cell, but the passage works as before.</translation>
+      <translation>The map shows a door here already. Click this picture to take it away.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>The house is open, but empty. Right-click this cell for a first chest. Then click “Next”.</translation>
+      <translation>Click “People”: “None” is chosen there, at the top. Then click “Next”.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Click “Treasure”.</translation>
+      <translation>The field is empty now. Nothing is drawn on the cell, but the passage works as before.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Choose “Item”. A chest can hold gold, a weapon or armor, too. Then click “Next”.</translation>
+      <translation>“Cancel” would drop all that you have changed in this window. “OK” keeps it.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>“Herb” is chosen already: it gives back HP when it is used.</translation>
+      <translation>The house is open, but empty. Right-click this cell for a first chest. Then click “Next”.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Click “OK” to put the chest there.</translation>
+      <translation>Click “Treasure”.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>The chest gives its herb only once. Right-click this cell for another one. Then click “Next”.</translation>
+      <translation>Choose “Item”. A chest can hold gold, a weapon or armor, too. Then click “Next”.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Click “Treasure” again.</translation>
+      <translation>“Herb” is chosen already: it gives back HP when it is used.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>Choose “Item” here, too. Then click “Next”.</translation>
+      <translation>Click “OK” to put the chest there.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Choose “Tonic”. All items of the database are in this list.</translation>
+      <translation>The chest gives its herb only once. Right-click this cell for another one. Then click “Next”.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>The chest tells players what they find. You need not write a message for that.</translation>
+      <translation>Click “Treasure” again.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>Should the house also have a crystal where the party can rest and save the game?</translation>
+      <translation>Choose “Item” here, too.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>All right. “Resting place” in the tool bar is there when you want one elsewhere.</translation>
+      <translation>Choose “Tonic”. All items of the database are in this list.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>Right-click this cell: here the crystal is in nobody's way. Then click “Next”.</translation>
+      <translation>The chest tells players what they find. You need not write a message for that.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Click “Resting place”.</translation>
+      <translation>Should the house also have a crystal where the party can rest and save the game?</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>Nothing else is needed here. Click “OK” to put the crystal there.</translation>
+      <translation>All right. “Resting place” in the tool bar is there when you want one elsewhere.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Click “Amberfield”. The game begins there, so look once more at the door from outside.</translation>
+      <translation>Right-click this cell: here the crystal is in nobody's way. Then click “Next”.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Click “Map”. The events are hidden, and you see again what is only drawn.</translation>
+      <translation>Click “Resting place”.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Click “Save” to keep the door, the way out and the chests.</translation>
+      <translation>Nothing else is needed here. Click “OK” to put the crystal there.</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>Click “Play” and see for yourself that the door leads into the house.</translation>
+      <translation>Click “Amberfield”. The game begins there, so look once more at the door from outside.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Begin a new game and walk into the door with the arrow keys. Then click “Next”.</translation>
+      <translation>Click “Save” to keep the door, the way out and the chests. Then click “Next”.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>Open each chest with Enter, and try it a second time. Leave the house, then click “Next”.</translation>
+      <translation>Click “Play” and see for yourself that the door leads into the house.</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>Press Esc, again if need be, until you are back in the editor.</translation>
+      <translation>Begin a new game and walk into the door with the arrow keys. Then click “Next”.</translation>
     </message>
     <message>
       <source>#56</source>
+      <translation>Try each chest twice with Enter, and leave the house. Then press Esc until you are back.</translation>
+    </message>
+    <message>
+      <source>#57</source>
       <translation>Done! Doors and chests are quickly made. In lesson 4, the herb changes what Pip says.</translation>
     </message>
   </context>
@@ -2611,7 +2615,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Click the greeting. Commands run from top to bottom, so it comes first.</translation>
+      <translation>This is the greeting. Commands run from top to bottom, so it comes first.</translation>
     </message>
     <message>
       <source>#37</source>
@@ -2671,7 +2675,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Click the new line. The window with the goods opens when the greeting has been read.</translation>
+      <translation>The new line opens the window with the goods once the greeting has been read.</translation>
     </message>
     <message>
       <source>#52</source>
@@ -2715,7 +2719,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>Click “Save”.</translation>
+      <translation>Click “Save”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#63</source>
@@ -2827,23 +2831,23 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>With ten ways out in a game, names help. Type one if you like.</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>No picture: like every way out, this event is not seen in the game.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>It has to start when the player steps on it: choose “Touched by the player”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>Double-click “+”.</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>First click “Party”. Its commands give gold, items and members, but no way out.</translation>
+    </message>
+    <message>
       <source>#26</source>
-      <translation>Click the “Scene” tab.</translation>
+      <translation>A way out is a change of scene: click the “Scene” tab.</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2927,19 +2931,19 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Click “Guard”.</translation>
+      <translation>Click “Guard”. Then click “Next”.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>Should he turn to the player who talks to him?</translation>
+      <translation>Do you know what “Keeps its direction” is for?</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Then click “Keeps its direction”. He stands as if on parade.</translation>
+      <translation>With it, somebody looks ahead whoever talks to him. Without it, the guard turns to you.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>Then leave “Keeps its direction” off. He turns by himself, as everybody does.</translation>
+      <translation>Then you know that it stays off here: he turns to those who are lost.</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2963,7 +2967,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>First he speaks. The transfer has to come below that.</translation>
+      <translation>A right click here can copy or delete his words. The transfer has to come below them.</translation>
     </message>
     <message>
       <source>#57</source>
@@ -3087,11 +3091,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Click “Mine entrance”. The gate and the lever are on this map. Then click “Next”.</translation>
+      <translation>Click “Mine entrance”. The gate and the lever are on this map.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
+      <translation>Click “Full size”, so that the arrow points at the right cell. Then click “Next”.</translation>
     </message>
     <message>
       <source>#10</source>
@@ -3103,166 +3107,138 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>The lever does something already. Double-click its first command to see it.</translation>
+      <translation>The lever asks already. What is indented below this answer happens when it is given.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>This comes first: the player is told of the lever and asked whether to pull it.</translation>
+      <translation>A gate opens, it says here; but so far these are only words.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Click “OK”.</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>Double-click the second command. It holds the answers.</translation>
-    </message>
-    <message>
-      <source>#16</source>
-      <translation>There are two answers, as in lesson 5. Only the first one is to have an effect.</translation>
-    </message>
-    <message>
-      <source>#17</source>
-      <translation>Whoever presses X gives this answer. So nobody pulls the lever by mistake.</translation>
-    </message>
-    <message>
-      <source>#18</source>
-      <translation>Click this line. What is indented below it happens when this answer is given.</translation>
-    </message>
-    <message>
-      <source>#19</source>
-      <translation>Click the next line. A gate opens, it says; but so far these are only words.</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>Double-click this “+”. It belongs to the first answer, too.</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>Click the “Flow” tab. Its commands decide and remember.</translation>
+      <source>#15</source>
+      <translation>Click the “Flow” tab: its commands decide and remember. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#22</source>
-      <translation>Click “Set switches”.</translation>
+      <source>#16</source>
+      <translation>Double-click “Set switches”. That chooses the command and opens it at once.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#17</source>
       <translation>A switch is ON or OFF. The game remembers it, and events on every map can ask for it.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#18</source>
       <translation>Click “…” to see all switches with their names.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#19</source>
       <translation>Click “Gate open”. The gate waits for this switch; its name is a help for you alone.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#20</source>
       <translation>Click “OK” to take this switch.</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>Click “ON”: pulling the lever turns the switch on.</translation>
+      <source>#21</source>
+      <translation>“ON” is chosen already: pulling the lever turns the switch on. Click “OK”.</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>Click the new line. The gate has an open second page that waits for this switch.</translation>
+      <source>#22</source>
+      <translation>Here is your command. The gate has an open second page that waits for this switch.</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#23</source>
       <translation>Double-click “+” below it. The game is to count, too.</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>Click “Set variables”.</translation>
+      <source>#24</source>
+      <translation>Double-click “Set variables”.</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#25</source>
       <translation>A variable is a number that the game remembers. Number 1 will count pulled levers.</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#26</source>
       <translation>Click “Add”. “Set” would forget what was there before.</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>Click the small upper arrow once, so that 1 is added. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
       <translation>Right-click this line: “Delete command” is there, for mistakes. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#30</source>
       <translation>Click “Keeps its direction”: a thing does not turn to whoever examines it.</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#31</source>
       <translation>A pulled lever should look pulled. Click “New page”.</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#32</source>
       <translation>Page 2 is in front now. Of all pages whose conditions hold, the last one counts.</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#33</source>
       <translation>Choose “Gate open” beside “Switch”. This page is to wait for it.</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#34</source>
       <translation>As long as the switch is OFF, the lever has its first page. Once it is ON, it has this one.</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#35</source>
       <translation>A self switch belongs to one event only, like a chest's. The gate could not see it.</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#36</source>
       <translation>Click the empty field below “Picture”.</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#37</source>
       <translation>Click the “Things” tab: the lever is no person.</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#38</source>
       <translation>Click “Pulled lever”.</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>Each page has its own settings: click “Keeps its direction” here, too.</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>This page has no commands: a lever that was pulled does nothing more.</translation>
     </message>
     <message>
-      <source>#46</source>
-      <translation>Right-click the page's number. Its menu copies and deletes pages. Then click “Next”.</translation>
+      <source>#40</source>
+      <translation>Click the first page: there the lever is up and asks, as before. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>Click the first page. There the lever is up and asks, as before.</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#41</source>
       <translation>Click “OK” to keep both pages.</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>Click “Save” to keep the lever.</translation>
+      <source>#42</source>
+      <translation>Click “Save” to keep the lever. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#43</source>
       <translation>Click “Play” and begin a new game. South of the village lies the forest, behind it the mine.</translation>
     </message>
     <message>
-      <source>#51</source>
-      <translation>Pull the lever, look at it and walk into the gate. Then press Esc, again if need be.</translation>
+      <source>#44</source>
+      <translation>Pull the lever, look at it and walk into the gate. Esc leads back. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#45</source>
       <translation>Done! The game remembers with switches and variables. Lesson 10 is about music.</translation>
     </message>
   </context>
@@ -3519,235 +3495,271 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>The event has a number for a name. A name such as Guard is easier to find again.</translation>
-    </message>
-    <message>
-      <source>#12</source>
-      <translation>A note is for you alone: where his patrol leads, say. Players never see it.</translation>
-    </message>
-    <message>
-      <source>#13</source>
       <translation>Click the empty field below “Picture”.</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#12</source>
       <translation>Click “Guard”.</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#13</source>
       <translation>Click “OK”.</translation>
     </message>
     <message>
-      <source>#16</source>
-      <translation>Choose “Walks a route”: he is to go where you tell him to, and nowhere else.</translation>
+      <source>#14</source>
+      <translation>Choose “Walks a route”: he is to go where you tell him to. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>Click “Route…” to lay down his way.</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>Each of these buttons adds a movement. Click “Left” once: one cell. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>At the end of his way he looks around. Click “Wait…”.</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>Time is counted in frames, 60 of them a second. 30 are right for a short look.</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>Click “OK”. The waiting is in his route now.</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>Click “Right” as often as “Left”, so that he comes back to his cell. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>At this end he stops as well: click “Wait…” once more.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>Click “OK”. Here he waits just as long.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>“Repeat the route” is on, so he never tires. Click “OK”.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>This is how fast he takes each step. The player walks at “Normal speed”, too.</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>And this is how long he rests between two steps. For a patrol, leave it as it is.</translation>
-    </message>
-    <message>
-      <source>#28</source>
+      <source>#25</source>
       <translation>Click “Moves its feet while standing”, so that he does not freeze while he waits.</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#26</source>
       <translation>A guard can be spoken to while he walks. He stops until all has been said.</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>What does he say? Double-click “+”.</translation>
-    </message>
-    <message>
-      <source>#31</source>
-      <translation>Click the “Flow” tab, then “Next”.</translation>
-    </message>
-    <message>
-      <source>#32</source>
-      <translation>Click “Common event”.</translation>
-    </message>
-    <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>A common event is a list of commands that any event can run. It is written once only.</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>What does he say? Double-click “+”.</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>Common events are called from the “Flow” tab. Click it.</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>Double-click “Common event”.</translation>
+    </message>
+    <message>
+      <source>#31</source>
       <translation>Click the second one. It holds what every guard calls out first.</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#32</source>
       <translation>Click “OK” to add the call.</translation>
     </message>
     <message>
-      <source>#36</source>
-      <translation>Here the common event runs. When it has ended, the next line follows.</translation>
+      <source>#33</source>
+      <translation>Click the new line. Here the common event runs; when it ends, the next line follows.</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#34</source>
       <translation>Double-click “+” below it, for what only he has to say.</translation>
     </message>
     <message>
-      <source>#38</source>
-      <translation>Click the “Message” tab. “Show message” is at its top. Then click “Next”.</translation>
+      <source>#35</source>
+      <translation>Click the “Message” tab. “Show message” is at its top.</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#36</source>
       <translation>Click “OK” to write a message.</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#37</source>
       <translation>Type his words, such as All quiet on the forest path. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#38</source>
       <translation>Click “OK” to keep his words.</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#39</source>
       <translation>Double-click the message once more: the player should see who speaks.</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#40</source>
       <translation>Type who speaks, such as Guard, into “Speaker”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>Messages appear at the bottom. If that hides somebody, choose another place here.</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#41</source>
       <translation>Click “OK”. The name will appear above his words.</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#42</source>
+      <translation>Click his message. Players hear first what all guards call out, and then this.</translation>
+    </message>
+    <message>
+      <source>#43</source>
       <translation>Right-click the call: it could be copied for other guards with this menu. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>“Apply” keeps what is there while the window stays open: good before longer work.</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#44</source>
       <translation>Click “OK”. The guard takes his post.</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>Click “Mine entrance”, where the second one keeps watch. Then click “Next”.</translation>
+      <source>#45</source>
+      <translation>Does he obey? Click “Play” and begin a new game. He walks just below you.</translation>
     </message>
     <message>
-      <source>#50</source>
-      <translation>Double-click this cell near the gate.</translation>
-    </message>
-    <message>
-      <source>#51</source>
-      <translation>Two guards of one name are hard to tell apart. Second guard would do for him.</translation>
-    </message>
-    <message>
-      <source>#52</source>
-      <translation>He gets a picture, too: click the empty field below “Picture”.</translation>
-    </message>
-    <message>
-      <source>#53</source>
-      <translation>A double click is quicker than “OK”: double-click “Guard”.</translation>
-    </message>
-    <message>
-      <source>#54</source>
-      <translation>“Stays in place” is right for him: he keeps watch over the gate.</translation>
-    </message>
-    <message>
-      <source>#55</source>
-      <translation>Click “Moves its feet while standing” for him, too.</translation>
-    </message>
-    <message>
-      <source>#56</source>
-      <translation>Click “Keeps its direction”. Even when spoken to, he looks straight ahead.</translation>
-    </message>
-    <message>
-      <source>#57</source>
-      <translation>Double-click “+”. He uses the same words as the other guard.</translation>
-    </message>
-    <message>
-      <source>#58</source>
-      <translation>The call is on the “Flow” tab again: click it, and then “Next”.</translation>
-    </message>
-    <message>
-      <source>#59</source>
-      <translation>Click “Common event” once more.</translation>
-    </message>
-    <message>
-      <source>#60</source>
-      <translation>Click “OK” to choose which one.</translation>
-    </message>
-    <message>
-      <source>#61</source>
-      <translation>Click the second one again.</translation>
-    </message>
-    <message>
-      <source>#62</source>
-      <translation>Click “OK”. Both guards call the same list now.</translation>
-    </message>
-    <message>
-      <source>#63</source>
-      <translation>Should the words change one day, you change the common event: all guards follow.</translation>
-    </message>
-    <message>
-      <source>#64</source>
-      <translation>Click “OK”. Now both posts are manned.</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>Click “Save” to keep both guards.</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>Click “Play” and begin a new game. The first guard walks just below you.</translation>
-    </message>
-    <message>
-      <source>#67</source>
+      <source>#46</source>
       <translation>Watch him walk, then step before him and press Enter. Esc leads back here.</translation>
     </message>
     <message>
+      <source>#47</source>
+      <translation>Click “Mine entrance”, where the second guard keeps watch.</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>Double-click this cell near the gate.</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>He gets a picture, too: click the empty field below “Picture”.</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>A double click is quicker than “OK”: double-click “Guard”.</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>Click “Moves its feet while standing” for him, too.</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>Click “Keeps its direction”. Even when spoken to, he looks straight ahead.</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>Double-click “+”. He uses the same words as the other guard.</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>The call is on the “Flow” tab again: click it, and then “Next”.</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>Double-click “Common event” once more.</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>Click the second one again.</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>Click “OK”. Both guards call the same list now.</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>Click the call. Should its words change one day, you change them once: all guards follow.</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>What he says next depends on the gate. A conditional branch looks at a switch first.</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>Double-click “+” below the call.</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>Double-click “Conditional branch”. The “Flow” tab is still there.</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>Choose “Gate open”: it is the lever that turns this switch on. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>Click “OFF”: the branch is for those who find the gate shut.</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>Click this box, too. It adds a second branch, for when the gate is open.</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>Click this line. What is indented below it happens as long as the gate is shut.</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>Double-click the indented “+” below it, for a hint.</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>Click the “Message” tab, then “Next”.</translation>
+    </message>
+    <message>
       <source>#68</source>
-      <translation>Done! Routes move people, and common events save work. Lesson 12 visits the database.</translation>
+      <translation>Type a hint, such as Only the lever opens this gate. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>Click this line. Below it stands what happens once the gate is open.</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>Double-click this “+”, so that he does not send players to the lever again.</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>“Show message” is still selected. Click “OK”.</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>Type other words, such as Go in, but take care. Then click “Next”.</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>Click “OK”. Now both posts are manned.</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>Click “Save” to keep both guards.</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>Click “Play” once more. The mine lies south of the village, behind the forest.</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>Ask the guard, pull the lever on the left and ask him again. Esc leads back here.</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>Done! Routes move people, common events save work. Lesson 12 visits the database.</translation>
     </message>
   </context>
   <context>
@@ -4483,11 +4495,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>So far the party walks through unharmed. Enemies are made in the database first.</translation>
+      <translation>Click “Full size”, so that the arrow points at the right cell of the map.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Click “Database”.</translation>
+      <translation>So far nothing happens here. Enemies are made in the database: click “Database”.</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4495,63 +4507,63 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>This is the slime. It can take little, and it does not hit hard: right for a start.</translation>
+      <translation>This is the slime, weak enough for a start. “EXP” and “Gold” are the reward for beating it.</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>“EXP” and “Gold” are what the party gets for beating it.</translation>
-    </message>
-    <message>
-      <source>#14</source>
       <translation>A beaten enemy may leave something. Click “Add…”.</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>The first item is selected already: the herb. That suits a slime of the forest.</translation>
     </message>
     <message>
-      <source>#16</source>
+      <source>#15</source>
       <translation>Type 8: one slime in eight leaves a herb.</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#16</source>
       <translation>Click “OK”.</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#17</source>
       <translation>What else could live in a forest? Click the picture of the slime.</translation>
     </message>
     <message>
+      <source>#18</source>
+      <translation>These are the monsters. Click “Mushroom” to see it large.</translation>
+    </message>
+    <message>
       <source>#19</source>
-      <translation>Click the “Animals” tab.</translation>
+      <translation>Click “Ghost”, too. Each enemy has its own picture.</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>Click one after the other, the “Wolf” last. Each has its own picture.</translation>
-    </message>
-    <message>
-      <source>#21</source>
       <translation>The slime has to stay a slime: click “Cancel”.</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>A second enemy is quickly made from the first. Click “Copy”. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>Click “Add”: the list gets one more row. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>The new row is selected. Click “Paste” to fill it with the copy. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>It is to be a rat. Type its name, such as Giant rat. Then click “Next”.</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>It still looks like a slime. Click the picture.</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>Click the “Animals” tab.</translation>
     </message>
     <message>
       <source>#27</source>
@@ -4571,7 +4583,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>Type a name by which you know the troop, such as One rat. Then click “Next”.</translation>
+      <translation>A name helps you to find the troop again. Type one if you like, such as One rat.</translation>
     </message>
     <message>
       <source>#32</source>
@@ -4583,103 +4595,103 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>This is how the troop faces the party. Larger troops have more members, each in its place.</translation>
+      <translation>The picture below shows how the rat faces the party. Click the first troop to compare.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>Is it too strong? A trial battle tells. Click “Battle test…”.</translation>
+      <translation>There stands the slime. Click row 2 to go back to your own troop.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Nobody is entered here, so the party of the game fights as it begins: Mila alone.</translation>
+      <translation>Is it too strong? A trial battle tells. Click “Battle test…”.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>With “Add” you can also try a party as it will be later, with other levels and weapons.</translation>
+      <translation>Nobody is entered here, so the party of the game fights as it begins: Mila alone.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Click “Start the battle”.</translation>
+      <translation>With “Add” you can also try a party as it will be later, with other levels and weapons.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Attack the rat with the Enter key. When you have seen enough, press Esc.</translation>
+      <translation>Click “Start the battle”.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Which troops turn up is a matter of the map. Double-click “Forest path”.</translation>
+      <translation>Attack the rat with the Enter key. When you have seen enough, press Esc.</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>“Encounters” is the list of its troops. It is empty: click “Add…”.</translation>
+      <translation>Which troops turn up is a matter of the map. Double-click “Forest path”.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Your troops are on the left, and the first one is selected. Click “OK”.</translation>
+      <translation>“Encounters” is empty. Click “Add…”: your first troop is selected there.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>A battle now begins after 12 to 36 steps, each time anew. Nothing is seen beforehand.</translation>
+      <translation>Enemies come unannounced. Click “Show the name on arrival” to switch it off here.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>The party can try to flee. If it loses, the game is over, so save in time.</translation>
+      <translation>A battle now begins after 12 to 36 steps, each time anew. Nothing is seen beforehand.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>A right click on the map in the list leads there, too, to add the rat later.</translation>
+      <translation>The party can try to flee. If it loses, the game is over, so save in time.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>In the mode “Map”, a right click on the map itself has “Map properties…” as well.</translation>
+      <translation>A right click on the map in the list leads there, too, to add the rat later.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Click the village, the first map.</translation>
+      <translation>In the mode “Map”, a right click on the map itself has “Map properties…” as well.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>No troop is entered for this map, so nobody is attacked here.</translation>
+      <translation>Click the village, the first map.</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>Go back to the forest for one thing more: click it.</translation>
+      <translation>No troop is entered for this map, so nobody is attacked here.</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>A good game warns its players. You draw a place that looks spooky.</translation>
+      <translation>Go back to the forest for one thing more: click it.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Click “Map”, so that you can draw.</translation>
+      <translation>A good game warns its players. You draw a place that looks spooky.</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>Click the “Ground” tab.</translation>
+      <translation>Click “Map”, so that you can draw.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Click “Sand”. Where slimes crawl, the grass is gone.</translation>
+      <translation>Click the “Ground” tab.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>Click this cell beside the path.</translation>
+      <translation>Click “Water”. Slimes like it, but nobody could walk through a pond.</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>It only warns. Battles begin anywhere on this map, not just here.</translation>
+      <translation>Click “Sand” instead. Where slimes crawl, the grass is gone.</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>A right click on the tiles changes the tile set. In “Night”, all the forest is spooky.</translation>
+      <translation>Click this cell beside the path.</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>Click “Water”. Slimes like it wet.</translation>
+      <translation>It only warns. Battles begin anywhere on this map, not just here.</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>Click a few cells around here. Then click “Next”.</translation>
+      <translation>A right click on the tiles changes the tile set. In “Night”, all the forest is spooky.</translation>
     </message>
     <message>
       <source>#59</source>

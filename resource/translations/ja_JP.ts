@@ -1119,11 +1119,11 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>左側に、追加できるマップが並んでいます。この画像は、今選ばれているマップです。</translation>
+      <translation>すでに1枚選ばれています。「OK」をクリックして、ゲームに追加してください。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>すでに1枚選ばれています。「OK」をクリックして、ゲームに追加してください。</translation>
+      <translation>自分のマップと同じものです。大きさは、設定の「幅」と「高さ」で変えられます。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -1187,11 +1187,11 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>もう一度「マップの設定…」をクリックしてください。</translation>
+      <translation>もう一度「サンプルマップを読み込む…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>「幅」と「高さ」で大きさを変えられます。今は「キャンセル」をクリックしてください。</translation>
+      <translation>左側のマップは、どのゲームにも加えられます。今は「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -1387,11 +1387,11 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>メッセージの下の「+」をダブルクリックしてください。</translation>
+      <translation>「+」から加えられるのは、文章だけではありません。気持ちを表すコマンドもあります。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>タブをいくつかクリックして、ほかにできることを見てください。それから「次へ」です。</translation>
+      <translation>メッセージの下の「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -1515,158 +1515,162 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>「OK」をクリックしてください。</translation>
+      <translation>マスにはそれぞれX座標とY座標があります。これは、いまクリックしたマスのものです。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>「OK」をクリックするとドアができます。ぶつかるように進むと、家に入ります。</translation>
+      <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>次は家の中です。「ミラの家」をクリックして、マップを開いてください。</translation>
+      <translation>「OK」をクリックするとドアができます。ぶつかるように進むと、家に入ります。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>場所移動は一方通行です。帰り道のために、このマスを右クリックします。そのあと「次へ」です。</translation>
+      <translation>次は家の中です。「ミラの家」をクリックして、マップを開いてください。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>もう一度「場所移動」をクリックしてください。印の付いたマスにできます。</translation>
+      <translation>場所移動は一方通行です。帰り道のために、このマスを右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>「アンバー村」を選んでください。出口は村に通じます。</translation>
+      <translation>もう一度「場所移動」をクリックしてください。印の付いたマスにできます。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>「選択…」をクリックして、村のどこに出るかを決めます。</translation>
+      <translation>「アンバー村」を選んでください。出口は村に通じます。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>ドアの下のこのマスをダブルクリックします。ドアの上に出すと、また中に入ってしまいます。</translation>
+      <translation>場所は入力でも決められます。ドアのX座標の5を入力してから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>出口にもドアの絵が付きました。ダブルクリックすると、普通のイベントと同じように直せます。</translation>
+      <translation>ドアのすぐ下の7を入力し、Enterキーを押します。ドアの上では、また中に入ってしまいます。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>種類が名前になっています。出口など、わかりやすい名前に変えてもかまいません。</translation>
+      <translation>出口にもドアの絵が付きました。ダブルクリックすると、普通のイベントと同じように直せます。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>簡単作成が書いたのは、このコマンドだけです。プレイヤーを村へ移動させます。</translation>
+      <translation>種類が名前になっています。出口など、わかりやすい名前に変えてもかまいません。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>「プレイヤーから接触」なので、そこへ歩くだけで動きます。キーは要りません。</translation>
+      <translation>簡単作成が書いたのは、このコマンドだけです。プレイヤーを村へ移動させます。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>場所移動はいつも同じなので1ページです。宝箱のように変わるイベントは、ページが増えます。</translation>
+      <translation>「プレイヤーから接触」なので、そこへ歩くだけで動きます。キーは要りません。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>マップにはもうドアの絵があります。この画像をクリックして外しましょう。</translation>
+      <translation>イベントには出現条件を付けられます。ここには何もないので、出口はいつでも使えます。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>「人物」をクリックすると、いちばん上の「なし」が選ばれます。そのあと「次へ」です。</translation>
+      <translation>場所移動はいつも同じなので1ページです。宝箱のように変わるイベントは、ページが増えます。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>枠が空になりました。絵は出ませんが、場所移動はそのまま働きます。</translation>
+      <translation>マップにはもうドアの絵があります。この画像をクリックして外しましょう。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>家に入れても、まだ空っぽです。宝箱を置くこのマスを右クリックします。そのあと「次へ」です。</translation>
+      <translation>「人物」をクリックすると、いちばん上の「なし」が選ばれます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>「宝箱」をクリックしてください。</translation>
+      <translation>枠が空になりました。絵は出ませんが、場所移動はそのまま働きます。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>「アイテム」を選びます。お金や武器、防具も入れられます。そのあと「次へ」をクリックします。</translation>
+      <translation>「キャンセル」なら、このウィンドウで変えたことは残りません。「OK」なら残ります。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>「薬草」が選ばれています。使うとHPが回復します。</translation>
+      <translation>家に入れても、まだ空っぽです。宝箱を置くこのマスを右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>「OK」をクリックして、宝箱を置きます。</translation>
+      <translation>「宝箱」をクリックしてください。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>薬草が出るのは1回だけです。もう1つ置くこの隅を右クリックします。そのあと「次へ」です。</translation>
+      <translation>「アイテム」を選びます。お金や武器、防具も入れられます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>もう一度「宝箱」をクリックしてください。</translation>
+      <translation>「薬草」が選ばれています。使うとHPが回復します。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>ここでも「アイテム」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>「OK」をクリックして、宝箱を置きます。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>「気付け薬」を選んでください。この一覧には、データベースのアイテムが全部あります。</translation>
+      <translation>薬草が出るのは1回だけです。もう1つ置くこの隅を右クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>何を手に入れたかは自動で表示されます。メッセージを書く必要はありません。</translation>
+      <translation>もう一度「宝箱」をクリックしてください。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>この家に、休んだりセーブしたりできる水晶も置きますか？</translation>
+      <translation>ここでも「アイテム」を選んでください。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>わかりました。ほかの場所に欲しくなったら、ツールバーの「休憩所」で作れます。</translation>
+      <translation>「気付け薬」を選んでください。この一覧には、データベースのアイテムが全部あります。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>ドアから離れたこのマスを右クリックします。そのあと「次へ」をクリックします。</translation>
+      <translation>何を手に入れたかは自動で表示されます。メッセージを書く必要はありません。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>「休憩所」をクリックしてください。</translation>
+      <translation>この家に、休んだりセーブしたりできる水晶も置きますか？</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>ほかに決めることはありません。「OK」をクリックして、水晶を置きます。</translation>
+      <translation>わかりました。ほかの場所に欲しくなったら、ツールバーの「休憩所」で作れます。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>ゲームが始まる「アンバー村」をクリックして、外からドアをもう一度見てください。</translation>
+      <translation>ドアから離れたこのマスを右クリックします。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>「マップ」をクリックしてください。イベントが隠れて、描いた絵だけが見えます。</translation>
+      <translation>「休憩所」をクリックしてください。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>「保存」をクリックして、ドアと出口と宝箱を保存します。</translation>
+      <translation>ほかに決めることはありません。「OK」をクリックして、水晶を置きます。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>「プレイ」をクリックして、ドアから家に入れることを確かめましょう。</translation>
+      <translation>ゲームが始まる「アンバー村」をクリックして、外からドアをもう一度見てください。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>新しいゲームを始め、矢印キーでドアまで歩きます。入れたら「次へ」をクリックします。</translation>
+      <translation>「保存」をクリックして、ドアと出口と宝箱を保存します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>宝箱の前でEnterキーを押し、もう一度押してみます。家を出たら「次へ」をクリックします。</translation>
+      <translation>「プレイ」をクリックして、ドアから家に入れることを確かめましょう。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>エディターに戻るまでEscキーを押してください。</translation>
+      <translation>新しいゲームを始め、矢印キーでドアまで歩きます。入れたら「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#56</source>
+      <translation>宝箱の前で2回ずつEnterキーを押し、家を出ます。そのあと、戻るまでEscキーを押してください。</translation>
+    </message>
+    <message>
+      <source>#57</source>
       <translation>完成です！ドアと宝箱を作れるようになりました。レッスン4では、ピップの言葉が変わります。</translation>
     </message>
   </context>
@@ -2611,7 +2615,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>あいさつの行をクリックしてください。上から順に動くので、これが最初です。</translation>
+      <translation>これがあいさつの行です。上から順に動くので、最初に実行されます。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -2671,7 +2675,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>新しい行をクリックしてください。あいさつを読み終えると、商品のウィンドウが開きます。</translation>
+      <translation>これが新しい行です。あいさつを読み終えると、商品のウィンドウが開きます。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -2715,7 +2719,7 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>「保存」をクリックしてください。</translation>
+      <translation>「保存」をクリックしてください。それから「次へ」です。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -2827,23 +2831,23 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>出口が増えると、名前が役に立ちます。よければ付けておきましょう。</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>画像は入れません。出口のイベントは、ゲームでは見えないままにします。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>乗ったら動くように、「プレイヤーから接触」を選んでから、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>「+」をダブルクリックしてください。</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>まず「パーティー」をクリックしてください。お金や仲間のコマンドで、移動はありません。</translation>
+    </message>
+    <message>
       <source>#26</source>
-      <translation>「シーン」タブをクリックしてください。</translation>
+      <translation>ほかの場所へ移るのは、場面の切り替えです。「シーン」タブをクリックしてください。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2927,19 +2931,19 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>「衛兵」をクリックしてください。</translation>
+      <translation>「衛兵」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>話しかけたプレイヤーのほうを向くようにしますか？</translation>
+      <translation>「向きを変えない」の使いみちを、もう知っていますか？</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>では「向きを変えない」をクリックしてください。まっすぐ前を見たまま立ちます。</translation>
+      <translation>付けると、話しかけられても前を見たままです。付けないので、衛兵はこちらを向きます。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>では「向きを変えない」はオフのままです。ほかの人と同じように向きを変えます。</translation>
+      <translation>では、ここではオフのままでよいとわかりますね。道に迷った人のほうを向く衛兵です。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2963,7 +2967,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>まず話します。場所移動は、この下に入れます。</translation>
+      <translation>右クリックで、コピーや削除もできます。場所移動は、この言葉の下に入れます。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -3086,11 +3090,11 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>門とレバーのある「鉱山の入口」をクリックします。そのあと「次へ」をクリックします。</translation>
+      <translation>門とレバーのある「鉱山の入口」をクリックしてください。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
+      <translation>「等倍」をクリックすると、矢印が正しいマスを指します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -3102,166 +3106,138 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>このレバーには、もうコマンドがあります。最初の1つをダブルクリックして見てみましょう。</translation>
+      <translation>レバーはもう質問をします。この答えを選ぶと、下の右に寄った行が動きます。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>まず、レバーがあることを伝え、引くかどうかをたずねます。</translation>
+      <translation>門が開くと書いてありますが、まだ言葉だけです。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>「OK」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>2つ目のコマンドをダブルクリックしてください。答えの選択肢です。</translation>
-    </message>
-    <message>
-      <source>#16</source>
-      <translation>レッスン5と同じように、答えは2つです。何かが起きるのは1つ目だけにします。</translation>
-    </message>
-    <message>
-      <source>#17</source>
-      <translation>キャンセルすると、この答えになります。うっかり引いてしまうことはありません。</translation>
-    </message>
-    <message>
-      <source>#18</source>
-      <translation>この行をクリックしてください。下の右に寄った行は、この答えを選んだときに動きます。</translation>
-    </message>
-    <message>
-      <source>#19</source>
-      <translation>次の行をクリックしてください。門が開くと書いてありますが、まだ言葉だけです。</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>この「+」をダブルクリックしてください。これも1つ目の答えの中です。</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>「フロー」タブをクリックしてください。判断や記憶のコマンドがあります。</translation>
+      <source>#15</source>
+      <translation>「フロー」タブをクリックします。判断や記憶のコマンドがあります。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#22</source>
-      <translation>「スイッチの操作」をクリックしてください。</translation>
+      <source>#16</source>
+      <translation>「スイッチの操作」をダブルクリックすると、そのまま設定に進みます。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#17</source>
       <translation>スイッチはONかOFFです。ゲームが覚えていて、どのマップからも調べられます。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#18</source>
       <translation>「…」をクリックすると、スイッチの一覧が名前と一緒に出ます。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#19</source>
       <translation>「門が開いた」をクリックします。門が待っているスイッチです。名前は自分用の目印です。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#20</source>
       <translation>「OK」をクリックして、このスイッチに決めます。</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>「ON」をクリックしてください。レバーを引くとスイッチが入ります。</translation>
+      <source>#21</source>
+      <translation>「ON」のままで、引くとスイッチが入ります。「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>新しい行をクリックしてください。門の2ページ目は、このスイッチを待っています。</translation>
+      <source>#22</source>
+      <translation>できた行です。門の2ページ目は、このスイッチがONになるのを待っています。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#23</source>
       <translation>その下の「+」をダブルクリックします。回数も数えさせましょう。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>「変数の操作」をクリックしてください。</translation>
+      <source>#24</source>
+      <translation>「変数の操作」をダブルクリックしてください。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#25</source>
       <translation>変数は、ゲームが覚えている数です。1番の変数で、引いたレバーの数を数えます。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#26</source>
       <translation>「加算」をクリックしてください。「代入」では前の数が消えてしまいます。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>上向きの小さな矢印を1回クリックして、1を足すようにします。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>「OK」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#29</source>
       <translation>この行を右クリックします。間違えたら「コマンドの削除」で消せます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#30</source>
       <translation>ものはこちらを向かないので、「向きを変えない」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#31</source>
       <translation>引いたレバーは、引いた姿にします。「ページ追加」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#32</source>
       <translation>2ページ目が表示されています。出現条件の合うページのうち、最後のものが使われます。</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#33</source>
       <translation>「スイッチ」で「門が開いた」を選びます。このページの出現条件になります。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#34</source>
       <translation>スイッチがOFFの間は1ページ目、ONになるとこのページになります。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#35</source>
       <translation>セルフスイッチは宝箱のように1つのイベント専用で、門からは調べられません。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#36</source>
       <translation>「画像」の下の空いた枠をクリックしてください。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#37</source>
       <translation>レバーは人物ではないので、「もの」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#38</source>
       <translation>「引いたレバー」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>設定はページごとです。ここでも「向きを変えない」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>このページにはコマンドがありません。引いたあとのレバーは、もう何もしません。</translation>
     </message>
     <message>
-      <source>#46</source>
-      <translation>ページの番号を右クリックすると、コピーや削除のメニューが出ます。そのあと「次へ」です。</translation>
+      <source>#40</source>
+      <translation>1ページ目をクリックして、引く前のレバーを見比べます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>1ページ目をクリックしてください。こちらは引く前で、今までどおりたずねます。</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#41</source>
       <translation>「OK」をクリックして、両方のページを残します。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>「保存」をクリックして、レバーを保存します。</translation>
+      <source>#42</source>
+      <translation>「保存」をクリックして、レバーを保存します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#43</source>
       <translation>「プレイ」をクリックして、新しいゲームを始めます。村の南が森、その先が鉱山です。</translation>
     </message>
     <message>
-      <source>#51</source>
-      <translation>レバーを引いて姿を確かめ、門に入ります。そのあと、戻るまでEscキーを押してください。</translation>
+      <source>#44</source>
+      <translation>レバーを引いて姿を確かめ、門に入ります。Escキーで戻ったら「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#45</source>
       <translation>完成です！スイッチと変数の使い方を覚えました。レッスン10は音楽です。</translation>
     </message>
   </context>
@@ -3517,235 +3493,271 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>名前は番号のままです。衛兵などと付けておくと、あとで探しやすくなります。</translation>
-    </message>
-    <message>
-      <source>#12</source>
-      <translation>メモは自分用です。巡回する場所などを書けます。プレイヤーには見えません。</translation>
-    </message>
-    <message>
-      <source>#13</source>
       <translation>「画像」の下の空いた枠をクリックしてください。</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#12</source>
       <translation>「衛兵」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#13</source>
       <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#16</source>
-      <translation>「移動ルートのとおり」を選んでください。決めた道だけを歩くようになります。</translation>
+      <source>#14</source>
+      <translation>「移動ルートのとおり」を選び、決めた道を歩かせます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>「移動ルート…」をクリックして、歩く道を決めます。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>ボタンごとに動きが1つ加わります。「左に移動」を1回クリックします。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>端まで歩いたら、あたりを見回します。「ウェイト…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>時間はフレームで数え、60で1秒です。30なら、少し見回すのにちょうどいい長さです。</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>「OK」をクリックすると、ルートにウェイトが入ります。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>「右に移動」を左と同じ回数クリックすると、元のマスに戻ります。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>こちらの端でも止まるように、もう一度「ウェイト…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>「OK」をクリックしてください。こちらでも同じだけ待ちます。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>「動作を繰り返す」がオンなので、ずっと続きます。「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>一歩の速さです。プレイヤーも同じ「標準の速さ」で歩きます。</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>こちらは、一歩ごとの間の長さです。巡回ならこのままでかまいません。</translation>
-    </message>
-    <message>
-      <source>#28</source>
+      <source>#25</source>
       <translation>「止まっている間も足踏み」をクリックすると、待つ間も動いて見えます。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#26</source>
       <translation>歩いている衛兵にも話しかけられます。話が終わるまでは立ち止まります。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>何を言わせましょう？「+」をダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#31</source>
-      <translation>「フロー」タブをクリックして、「次へ」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#32</source>
-      <translation>「コモンイベント」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>コモンイベントは、どのイベントからも使えるコマンドの集まりです。一度書けば済みます。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>何を言わせましょう？「+」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>コモンイベントは「フロー」タブから呼び出します。クリックしてください。</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>「コモンイベント」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#31</source>
       <translation>2番目をクリックしてください。衛兵がみんな最初に言う言葉が入っています。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#32</source>
       <translation>「OK」をクリックして、呼び出しを加えます。</translation>
     </message>
     <message>
-      <source>#36</source>
-      <translation>ここでコモンイベントが動きます。それが終わると、次の行に進みます。</translation>
+      <source>#33</source>
+      <translation>新しい行をクリックしてください。ここでコモンイベントが動き、終わると次の行に進みます。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#34</source>
       <translation>その下の「+」をダブルクリックして、この衛兵だけの言葉を加えます。</translation>
     </message>
     <message>
-      <source>#38</source>
-      <translation>「メッセージの表示」のある「メッセージ」タブをクリックし、「次へ」をクリックします。</translation>
+      <source>#35</source>
+      <translation>「メッセージの表示」のある「メッセージ」タブをクリックしてください。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#36</source>
       <translation>「OK」をクリックして、メッセージを書きます。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#37</source>
       <translation>言葉（森の小道、異常なし！など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#38</source>
       <translation>「OK」をクリックして、言葉を決定します。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#39</source>
       <translation>メッセージをもう一度ダブルクリックして、だれの言葉かわかるようにします。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#40</source>
       <translation>「話す人」に名前（衛兵など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>メッセージは下に出ます。人物が隠れるときは、ここで別の位置を選びます。</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#41</source>
       <translation>「OK」をクリックしてください。言葉の上に名前が出ます。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#42</source>
+      <translation>メッセージの行をクリックしてください。衛兵共通の言葉に続いて、これが出ます。</translation>
+    </message>
+    <message>
+      <source>#43</source>
       <translation>呼び出しの行を右クリックすると、コピーしてほかの衛兵にも使えます。そのあと「次へ」です。</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>「適用」なら、ウィンドウを開いたまま変更が残ります。長い作業のときに便利です。</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#44</source>
       <translation>「OK」をクリックしてください。衛兵が持ち場に着きます。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>2人目の持ち場「鉱山の入口」をクリックします。そのあと「次へ」をクリックします。</translation>
+      <source>#45</source>
+      <translation>思いどおりに歩くか、試しましょう。「プレイ」で新しいゲームを始めると、すぐ下にいます。</translation>
     </message>
     <message>
-      <source>#50</source>
-      <translation>門の近くのこのマスをダブルクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#51</source>
-      <translation>同じ名前では見分けにくいので、2人目の衛兵などがよいでしょう。</translation>
-    </message>
-    <message>
-      <source>#52</source>
-      <translation>この衛兵にも姿が要ります。「画像」の下の枠をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#53</source>
-      <translation>「衛兵」をダブルクリックしてください。「OK」を押すより早く決まります。</translation>
-    </message>
-    <message>
-      <source>#54</source>
-      <translation>門の見張りなので、「動かない」のままにします。</translation>
-    </message>
-    <message>
-      <source>#55</source>
-      <translation>この衛兵でも「止まっている間も足踏み」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#56</source>
-      <translation>「向きを変えない」をクリックします。話しかけられても、前を向いたままです。</translation>
-    </message>
-    <message>
-      <source>#57</source>
-      <translation>「+」をダブルクリックしてください。もう1人と同じ言葉を使います。</translation>
-    </message>
-    <message>
-      <source>#58</source>
-      <translation>呼び出しは、また「フロー」タブにあります。クリックして、「次へ」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#59</source>
-      <translation>もう一度「コモンイベント」をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#60</source>
-      <translation>「OK」をクリックして、どれを使うか選びます。</translation>
-    </message>
-    <message>
-      <source>#61</source>
-      <translation>もう一度、2番目をクリックしてください。</translation>
-    </message>
-    <message>
-      <source>#62</source>
-      <translation>「OK」をクリックします。これで2人が同じ言葉を使います。</translation>
-    </message>
-    <message>
-      <source>#63</source>
-      <translation>言葉を変えたくなったら、コモンイベントを直すだけで、衛兵全員が変わります。</translation>
-    </message>
-    <message>
-      <source>#64</source>
-      <translation>「OK」をクリックしてください。これで2人ともそろいました。</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>「保存」をクリックして、2人の衛兵を保存します。</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>「プレイ」をクリックして新しいゲームを始めます。すぐ下を衛兵が巡回しています。</translation>
-    </message>
-    <message>
-      <source>#67</source>
+      <source>#46</source>
       <translation>歩く様子を見て、前に立ってEnterキーを押します。Escキーで戻ってください。</translation>
     </message>
     <message>
+      <source>#47</source>
+      <translation>2人目の衛兵が見張る「鉱山の入口」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>門の近くのこのマスをダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>この衛兵にも姿が要ります。「画像」の下の枠をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>「衛兵」をダブルクリックしてください。「OK」を押すより早く決まります。</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>この衛兵でも「止まっている間も足踏み」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>「向きを変えない」をクリックします。話しかけられても、前を向いたままです。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>「+」をダブルクリックしてください。もう1人と同じ言葉を使います。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>呼び出しは、また「フロー」タブにあります。クリックして、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>もう一度「コモンイベント」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>もう一度、2番目をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>「OK」をクリックします。これで2人が同じ言葉を使います。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>呼び出しの行をクリックします。コモンイベントを直せば、衛兵全員の言葉が変わります。</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>次の言葉は、門が開いているかどうかで変えます。条件分岐でスイッチを調べましょう。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>呼び出しの下の「+」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>「フロー」タブのままです。「条件分岐」をダブルクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>レバーで入る「門が開いた」を選んでから、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>「OFF」をクリックしてください。門がまだ閉まっているときの分岐です。</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>ここもクリックします。それ以外のとき、つまり門が開いたあとの分岐ができます。</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>この行をクリックしてください。門が閉まっている間は、下の右に寄った行が動きます。</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>その下の右に寄った「+」をダブルクリックして、ヒントを言わせます。</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>「メッセージ」タブをクリックして、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
       <source>#68</source>
-      <translation>完成です！移動ルートとコモンイベントを覚えました。レッスン12はデータベースです。</translation>
+      <translation>ヒント（門はレバーで開きます、など）を入力してから、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>この行をクリックしてください。門が開いたあとは、この下の行が動きます。</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>この「+」をダブルクリックします。もうレバーの話はさせません。</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>「メッセージの表示」が選ばれたままです。「OK」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>別の言葉（中では気をつけて、など）を入力してから、「次へ」をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>「OK」をクリックしてください。これで2人ともそろいました。</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>「保存」をクリックして、2人の衛兵を保存します。</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>もう一度「プレイ」をクリックします。鉱山は村の南、森の先です。</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>衛兵に話しかけ、左のレバーを引き、もう一度話しかけます。Escキーで戻ってください。</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>完成です！移動ルートとコモンイベントと条件分岐を覚えました。次はデータベースです。</translation>
     </message>
   </context>
   <context>
@@ -4481,11 +4493,11 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>今はまだ、何も起こらずに通れます。まずデータベースで敵キャラを作ります。</translation>
+      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>「データベース」をクリックしてください。</translation>
+      <translation>今はまだ、何も起こらない森です。敵キャラを作る「データベース」をクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4493,63 +4505,63 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>これはスライムです。HPも攻撃力も低く、最初の相手にちょうどいい強さです。</translation>
+      <translation>最初の相手にちょうどいいスライムです。「経験値」と「お金」は、倒すともらえます。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>「経験値」と「お金」は、倒したパーティーがもらえる分です。</translation>
-    </message>
-    <message>
-      <source>#14</source>
       <translation>倒した敵キャラが何かを落とすこともあります。「追加…」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>1番目のアイテム、薬草が選ばれています。森のスライムにぴったりです。</translation>
     </message>
     <message>
-      <source>#16</source>
+      <source>#15</source>
       <translation>8と入力してください。8匹に1匹が薬草を落とします。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#16</source>
       <translation>「OK」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#17</source>
       <translation>ほかに、森にはどんな敵キャラがいるでしょう。スライムの画像をクリックしてください。</translation>
     </message>
     <message>
+      <source>#18</source>
+      <translation>モンスターの画像です。「キノコ」をクリックすると、大きく見られます。</translation>
+    </message>
+    <message>
       <source>#19</source>
-      <translation>「動物」タブをクリックしてください。</translation>
+      <translation>「ゴースト」もクリックしてみましょう。どれも姿が違います。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>順にクリックして、最後に「オオカミ」を選んでください。それぞれ姿が違います。</translation>
-    </message>
-    <message>
-      <source>#21</source>
       <translation>スライムの姿は変えません。「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>2種類目はコピーで作ると早くできます。「コピー」をクリックしてから、「次へ」です。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>「追加」をクリックすると、一覧に1行増えます。そのあと「次へ」をクリックしてください。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>新しい行が選ばれています。「貼り付け」で中身を入れて、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>これをネズミにします。名前（大ネズミなど）を入力して、「次へ」をクリックします。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>姿はまだスライムです。画像をクリックしてください。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>「動物」タブをクリックしてください。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -4569,7 +4581,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>見分けのつく名前（ネズミ1匹など）を入力して、「次へ」をクリックしてください。</translation>
+      <translation>名前があると見つけやすくなります。よければ付けましょう（ネズミ1匹など）。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -4581,103 +4593,103 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>戦闘ではこう並びます。大きなグループなら、メンバーを増やして位置を決めます。</translation>
+      <translation>下の画像が、戦闘での姿です。1番目の敵グループをクリックして比べましょう。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>強すぎないか、戦って確かめます。「戦闘テスト…」をクリックしてください。</translation>
+      <translation>こちらはスライムです。2番の行をクリックして、自分の敵グループに戻ります。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>何も入れなければ、ゲーム開始時のパーティー、つまりミラ1人で戦います。</translation>
+      <translation>強すぎないか、戦って確かめます。「戦闘テスト…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>「追加」を使えば、レベルや武器を変えて、物語の先のパーティーでも試せます。</translation>
+      <translation>何も入れなければ、ゲーム開始時のパーティー、つまりミラ1人で戦います。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>「戦闘開始」をクリックしてください。</translation>
+      <translation>「追加」を使えば、レベルや武器を変えて、物語の先のパーティーでも試せます。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Enterキーでネズミを攻撃してみましょう。終わるときはEscキーを押します。</translation>
+      <translation>「戦闘開始」をクリックしてください。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>どの敵グループが出るかはマップで決めます。「森の小道」をダブルクリックしてください。</translation>
+      <translation>Enterキーでネズミを攻撃してみましょう。終わるときはEscキーを押します。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>「エンカウント」が、出る敵グループの一覧です。空なので「追加…」をクリックします。</translation>
+      <translation>どの敵グループが出るかはマップで決めます。「森の小道」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>左に敵グループが並び、1番目が選ばれています。「OK」をクリックしてください。</translation>
+      <translation>「エンカウント」は空です。「追加…」をクリックすると、1番目の敵グループが選ばれています。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>これで、12～36歩ごとに戦闘が起こります。敵の姿は前もって見えません。</translation>
+      <translation>ぶきみな森に案内は要りません。「到着時に名前を表示」をオフにしてください。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>逃げることもできます。負けるとゲームオーバーなので、セーブはこまめにします。</translation>
+      <translation>これで、12～36歩ごとに戦闘が起こります。敵の姿は前もって見えません。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>一覧のマップを右クリックしても、設定を開けます。ネズミもあとで加えられます。</translation>
+      <translation>逃げることもできます。負けるとゲームオーバーなので、セーブはこまめにします。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>「マップ」のモードなら、マップ画面を右クリックしても「マップの設定…」が出ます。</translation>
+      <translation>一覧のマップを右クリックしても、設定を開けます。ネズミもあとで加えられます。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>いちばん上の村をクリックしてください。</translation>
+      <translation>「マップ」のモードなら、マップ画面を右クリックしても「マップの設定…」が出ます。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>このマップには敵グループが入っていないので、だれにも襲われません。</translation>
+      <translation>いちばん上の村をクリックしてください。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>森にはもう1つすることがあります。クリックして戻ってください。</translation>
+      <translation>このマップには敵グループが入っていないので、だれにも襲われません。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>よいゲームは、危険を前もって知らせます。あやしい場所を描いてみましょう。</translation>
+      <translation>森にはもう1つすることがあります。クリックして戻ってください。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>「マップ」をクリックして、描けるようにします。</translation>
+      <translation>よいゲームは、危険を前もって知らせます。あやしい場所を描いてみましょう。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>「地面」タブをクリックしてください。</translation>
+      <translation>「マップ」をクリックして、描けるようにします。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>「砂」をクリックしてください。スライムの通った所は草がなくなります。</translation>
+      <translation>「地面」タブをクリックしてください。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>道のわきの、このマスをクリックしてください。</translation>
+      <translation>「水」をクリックしてください。スライムは喜びますが、池は歩いて通れません。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>これは目印です。戦闘は、このマップのどこでも起こります。</translation>
+      <translation>代わりに「砂」をクリックしてください。スライムの通った所は草がなくなります。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>タイルを右クリックすればタイルセットを変えられます。「夜」なら森全体が不気味です。</translation>
+      <translation>道のわきの、このマスをクリックしてください。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>「水」をクリックしてください。スライムは湿った所が好きです。</translation>
+      <translation>これは目印です。戦闘は、このマップのどこでも起こります。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>このあたりのマスを、いくつかクリックしてください。それから「次へ」です。</translation>
+      <translation>タイルを右クリックすればタイルセットを変えられます。「夜」なら森全体が不気味です。</translation>
     </message>
     <message>
       <source>#59</source>

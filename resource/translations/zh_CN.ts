@@ -1119,11 +1119,11 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>左边列出了可以选择的地图，这张图像显示的是选中的那一张。</translation>
+      <translation>已经选中了一张地图。点击“确定”，把它加入你的游戏。</translation>
     </message>
     <message>
       <source>#60</source>
-      <translation>已经选中了一张地图。点击“确定”，把它加入你的游戏。</translation>
+      <translation>它和你自己的地图一样。地图属性里的“宽度”和“高度”可以改变大小。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -1187,11 +1187,11 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>再次点击“地图属性…”。</translation>
+      <translation>再次点击“载入示例地图…”。</translation>
     </message>
     <message>
       <source>#77</source>
-      <translation>“宽度”和“高度”可以改变地图的大小。现在点击“取消”，保持原样。</translation>
+      <translation>左边的地图可以用在你的任何游戏里。现在点击“取消”。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -1387,11 +1387,11 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>双击消息下面的“+”。</translation>
+      <translation>“+”能添加的不只是消息，还有表现心情的指令。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>点击几个选项卡，看看事件还能做什么。然后点击“下一步”。</translation>
+      <translation>双击消息下面的“+”。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -1515,158 +1515,162 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>点击“确定”。</translation>
+      <translation>每个格子都有 X 坐标和 Y 坐标。这里显示的是刚才点击的那一格。</translation>
     </message>
     <message>
       <source>#19</source>
-      <translation>点击“确定”，门就做好了。玩家朝它走去，就会进到屋里。</translation>
+      <translation>点击“确定”。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>接着做另一边。点击“米拉的家”，打开这张地图。</translation>
+      <translation>点击“确定”，门就做好了。玩家朝它走去，就会进到屋里。</translation>
     </message>
     <message>
       <source>#21</source>
-      <translation>通道是单向的。右键点击这一格，在这里做返回的通道。然后点击“下一步”。</translation>
+      <translation>接着做另一边。点击“米拉的家”，打开这张地图。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>再次点击“通道”，它会做在标出的格子里。</translation>
+      <translation>通道是单向的。右键点击这一格，在这里做返回的通道。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>选择“琥珀村”：出口通到村里。</translation>
+      <translation>再次点击“通道”，它会做在标出的格子里。</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>点击“选择…”，指定出现在村里的哪一格。</translation>
+      <translation>选择“琥珀村”：出口通到村里。</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>双击门下面的这一格。如果出现在门上，玩家又会进屋。</translation>
+      <translation>位置也可以直接输入。输入门的 X 坐标 5，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#26</source>
-      <translation>出口也成了一扇门。双击它：快速事件和别的事件一样可以修改。</translation>
+      <translation>输入门下面一格的 7，再按 Enter 键。如果出现在门上，玩家又会进屋。</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>名称就是它的种类。可以改成更好找的名称，例如：出口。</translation>
+      <translation>出口也成了一扇门。双击它：快速事件和别的事件一样可以修改。</translation>
     </message>
     <message>
       <source>#28</source>
-      <translation>快速事件只写了这一条指令：把玩家带到村里。</translation>
+      <translation>名称就是它的种类。可以改成更好找的名称，例如：出口。</translation>
     </message>
     <message>
       <source>#29</source>
-      <translation>“玩家接触”表示走过去就会触发，不用按任何键。</translation>
+      <translation>快速事件只写了这一条指令：把玩家带到村里。</translation>
     </message>
     <message>
       <source>#30</source>
-      <translation>通道始终不变，所以只有一页。宝箱这种会变化的事件有好几页。</translation>
+      <translation>“玩家接触”表示走过去就会触发，不用按任何键。</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>地图上这里已经画了门。点击这个图像，把它去掉。</translation>
+      <translation>事件可以等某个条件满足才出现。这里什么都没选，所以出口一直都在。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>点击“人物”，最上面的“无”就会被选中。然后点击“下一步”。</translation>
+      <translation>通道始终不变，所以只有一页。宝箱这种会变化的事件有好几页。</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>图像框空了。格子上不再显示图像，但通道照样有效。</translation>
+      <translation>地图上这里已经画了门。点击这个图像，把它去掉。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>屋子能进了，可里面还是空的。右键点击这一格放第一个宝箱。然后点击“下一步”。</translation>
+      <translation>点击“人物”，最上面的“无”就会被选中。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>点击“宝箱”。</translation>
+      <translation>图像框空了。格子上不再显示图像，但通道照样有效。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>选择“物品”。宝箱里也可以放金钱、武器或防具。然后点击“下一步”。</translation>
+      <translation>点击“取消”会放弃在这个窗口里的修改，“确定”则会保留。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>已经选中了“草药”，使用后可以恢复 HP。</translation>
+      <translation>屋子能进了，可里面还是空的。右键点击这一格放第一个宝箱。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>点击“确定”，放好宝箱。</translation>
+      <translation>点击“宝箱”。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>草药只能拿一次。右键点击这个角落，再放一个宝箱。然后点击“下一步”。</translation>
+      <translation>选择“物品”。宝箱里也可以放金钱、武器或防具。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>再次点击“宝箱”。</translation>
+      <translation>已经选中了“草药”，使用后可以恢复 HP。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>这里同样选择“物品”，然后点击“下一步”。</translation>
+      <translation>点击“确定”，放好宝箱。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>选择“提神药”。数据库里的物品都在这个列表里。</translation>
+      <translation>草药只能拿一次。右键点击这个角落，再放一个宝箱。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>找到了什么会自动显示，不用你来写消息。</translation>
+      <translation>再次点击“宝箱”。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>要不要在屋里再放一块水晶，让队伍休息和存档？</translation>
+      <translation>这里同样选择“物品”。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>好的。以后想放在别处时，点击工具栏里的“休息点”就行。</translation>
+      <translation>选择“提神药”。数据库里的物品都在这个列表里。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>右键点击这个离门远的格子。然后点击“下一步”。</translation>
+      <translation>找到了什么会自动显示，不用你来写消息。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>点击“休息点”。</translation>
+      <translation>要不要在屋里再放一块水晶，让队伍休息和存档？</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>其他都不用设置。点击“确定”，放好水晶。</translation>
+      <translation>好的。以后想放在别处时，点击工具栏里的“休息点”就行。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>点击游戏开始的地方“琥珀村”，再从外面看看那扇门。</translation>
+      <translation>右键点击这个离门远的格子。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>点击“地图”。事件会隐藏起来，只剩下画好的部分。</translation>
+      <translation>点击“休息点”。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>点击“保存”，保存门、出口和宝箱。</translation>
+      <translation>其他都不用设置。点击“确定”，放好水晶。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>点击“试玩”，亲自看看那扇门能不能进屋。</translation>
+      <translation>点击游戏开始的地方“琥珀村”，再从外面看看那扇门。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>开始新游戏，用方向键沿路走到门前，走进去。然后点击“下一步”。</translation>
+      <translation>点击“保存”，保存门、出口和宝箱。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>在每个宝箱前按 Enter 键，再按一次试试。走出屋子后点击“下一步”。</translation>
+      <translation>点击“试玩”，亲自看看那扇门能不能进屋。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>按 Esc 键，直到回到编辑器。</translation>
+      <translation>开始新游戏，用方向键沿路走到门前，走进去。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#56</source>
+      <translation>在每个宝箱前按两次 Enter 键，再走出屋子。然后按 Esc 键，直到回到编辑器。</translation>
+    </message>
+    <message>
+      <source>#57</source>
       <translation>完成了！门和宝箱很快就能做好。第 4 课里，找到草药后皮普会说别的话。</translation>
     </message>
   </context>
@@ -2611,7 +2615,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>点击问候这一行。指令从上到下执行，它最先出现。</translation>
+      <translation>这一行是问候。指令从上到下执行，它最先出现。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -2671,7 +2675,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>点击新的一行。看完问候，就会打开商品的窗口。</translation>
+      <translation>这是新的一行。看完问候，就会打开商品的窗口。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -2715,7 +2719,7 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>点击“保存”。</translation>
+      <translation>点击“保存”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -2827,23 +2831,23 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>出口多了，名称就很有用。愿意的话，可以起一个。</translation>
-    </message>
-    <message>
-      <source>#23</source>
       <translation>不用图像。和别的出口一样，这个事件在游戏里看不见。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>玩家踩上去就要开始：选择“玩家接触”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>双击“+”。</translation>
     </message>
     <message>
+      <source>#25</source>
+      <translation>先点击“队伍”。这里的指令管金币、物品和队员，没有去别处的。</translation>
+    </message>
+    <message>
       <source>#26</source>
-      <translation>点击“场景”选项卡。</translation>
+      <translation>去别处就是换场景：点击“场景”选项卡。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -2927,19 +2931,19 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>点击“卫兵”。</translation>
+      <translation>点击“卫兵”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>和他说话时，要让他转向玩家吗？</translation>
+      <translation>你知道“保持朝向”有什么用吗？</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>那就勾选“保持朝向”，他会站得笔直，目不斜视。</translation>
+      <translation>勾选后，有人搭话也一直看着前方。这里不勾选，卫兵会转过身来。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>那就不勾选“保持朝向”。他和别人一样，会自己转过来。</translation>
+      <translation>那你就知道这里不用勾选：他会转向迷路的人。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -2963,7 +2967,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>他先说话，场所移动要放在下面。</translation>
+      <translation>在这里右键点击可以复制或删除他的话。场所移动要放在下面。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -3086,11 +3090,11 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>点击“矿洞入口”，大门和拉杆都在这张地图上。然后点击“下一步”。</translation>
+      <translation>点击“矿洞入口”，大门和拉杆都在这张地图上。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
+      <translation>点击“实际大小”，让箭头指向正确的格子。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -3102,166 +3106,138 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>这根拉杆已经有指令了。双击第一条，看看是什么。</translation>
+      <translation>拉杆已经会提问了。选了这个回答，就执行它下面缩进的内容。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>首先告诉玩家这里有拉杆，并问要不要拉。</translation>
+      <translation>这里说大门打开了，可目前只是一句话。</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>点击“确定”。</translation>
-    </message>
-    <message>
-      <source>#15</source>
-      <translation>双击第二条指令，里面是可以选的回答。</translation>
-    </message>
-    <message>
-      <source>#16</source>
-      <translation>和第 5 课一样有两个回答，只有第一个会起作用。</translation>
-    </message>
-    <message>
-      <source>#17</source>
-      <translation>按取消键就等于选这个回答，不会误拉。</translation>
-    </message>
-    <message>
-      <source>#18</source>
-      <translation>点击这一行。下面缩进的内容，在选了这个回答时执行。</translation>
-    </message>
-    <message>
-      <source>#19</source>
-      <translation>点击下一行。这里说大门打开了，可目前只是一句话。</translation>
-    </message>
-    <message>
-      <source>#20</source>
       <translation>双击这个“+”。它也属于第一个回答。</translation>
     </message>
     <message>
-      <source>#21</source>
-      <translation>点击“流程”选项卡，里面的指令用来判断和记住事情。</translation>
+      <source>#15</source>
+      <translation>点击“流程”选项卡，里面的指令用来判断和记住事情。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#22</source>
-      <translation>点击“开关操作”。</translation>
+      <source>#16</source>
+      <translation>双击“开关操作”，选中这条指令并直接打开它。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#17</source>
       <translation>开关只有 ON 和 OFF。游戏会一直记住，任何地图上的事件都能查看它。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#18</source>
       <translation>点击“…”，查看所有开关和它们的名称。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#19</source>
       <translation>点击“大门已打开”，大门等的就是它。名称只是给你自己看的。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#20</source>
       <translation>点击“确定”，就用这个开关。</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>点击“ON”：拉动拉杆就打开开关。</translation>
+      <source>#21</source>
+      <translation>已经选中“ON”，拉动拉杆就打开开关。点击“确定”。</translation>
     </message>
     <message>
-      <source>#28</source>
-      <translation>点击新的一行。大门的第 2 页是打开的样子，等的正是这个开关。</translation>
+      <source>#22</source>
+      <translation>这就是新加的指令。大门的第 2 页是打开的样子，等的正是这个开关。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#23</source>
       <translation>双击下面的“+”。还要让游戏记次数。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>点击“变量操作”。</translation>
+      <source>#24</source>
+      <translation>双击“变量操作”。</translation>
     </message>
     <message>
-      <source>#31</source>
+      <source>#25</source>
       <translation>变量是游戏记住的数字。用第 1 个变量来数拉过几根拉杆。</translation>
     </message>
     <message>
-      <source>#32</source>
+      <source>#26</source>
       <translation>点击“加”。“赋值”会丢掉原来的数。</translation>
     </message>
     <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>点击一次向上的小箭头，让它加 1。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>点击“确定”。</translation>
+    </message>
+    <message>
+      <source>#29</source>
       <translation>右键点击这一行。做错了，可以用菜单里的“删除指令”删掉。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#30</source>
       <translation>物件不会转过来面对玩家，所以点击“保持朝向”。</translation>
     </message>
     <message>
-      <source>#36</source>
+      <source>#31</source>
       <translation>拉过的拉杆应该是拉下的样子。点击“新建页”。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#32</source>
       <translation>现在显示的是第 2 页。条件都满足的页面里，以最后一页为准。</translation>
     </message>
     <message>
-      <source>#38</source>
+      <source>#33</source>
       <translation>在“开关”旁选择“大门已打开”，作为这一页的出现条件。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#34</source>
       <translation>开关是 OFF 时用第 1 页，变成 ON 就用这一页。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#35</source>
       <translation>独立开关只属于一个事件，比如宝箱。大门看不到它。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#36</source>
       <translation>点击“图像”下面的空框。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#37</source>
       <translation>拉杆不是人物，点击“物件”选项卡。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#38</source>
       <translation>点击“拉下的拉杆”。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>每一页都有自己的设置：这里也点击“保持朝向”。</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#39</source>
       <translation>这一页没有指令：拉过的拉杆不再起作用。</translation>
     </message>
     <message>
-      <source>#46</source>
-      <translation>右键点击页码，菜单里可以复制和删除页面。然后点击“下一步”。</translation>
+      <source>#40</source>
+      <translation>点击第 1 页：这里的拉杆还没拉下，照旧会提问。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>点击第 1 页。这里的拉杆还没拉下，照旧会提问。</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#41</source>
       <translation>点击“确定”，保留这两页。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>点击“保存”，把拉杆保存下来。</translation>
+      <source>#42</source>
+      <translation>点击“保存”，把拉杆保存下来。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#50</source>
+      <source>#43</source>
       <translation>点击“试玩”，开始新游戏。村庄南边是森林，再往前就是矿洞。</translation>
     </message>
     <message>
-      <source>#51</source>
-      <translation>拉动拉杆，看看它的样子，再走进大门。然后按 Esc 键，直到回到编辑器。</translation>
+      <source>#44</source>
+      <translation>拉动拉杆，看看它的样子，再走进大门。按 Esc 键回来后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#52</source>
+      <source>#45</source>
       <translation>完成了！用开关和变量就能让游戏记住事情。第 10 课讲音乐。</translation>
     </message>
   </context>
@@ -3517,235 +3493,271 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>事件的名称现在只有编号。改成卫兵之类的名称，以后更好找。</translation>
-    </message>
-    <message>
-      <source>#12</source>
-      <translation>备注是写给自己看的，比如巡逻路线。玩家看不到。</translation>
-    </message>
-    <message>
-      <source>#13</source>
       <translation>点击“图像”下面的空框。</translation>
     </message>
     <message>
-      <source>#14</source>
+      <source>#12</source>
       <translation>点击“卫兵”。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#13</source>
       <translation>点击“确定”。</translation>
     </message>
     <message>
-      <source>#16</source>
-      <translation>选择“按移动路线”，让他只走你定好的路。</translation>
+      <source>#14</source>
+      <translation>选择“按移动路线”，让他只走你定好的路。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#15</source>
       <translation>点击“移动路线…”，定下他走的路。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#16</source>
       <translation>每个按钮添加一个动作。点击一次“向左移动”，走一格。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#19</source>
+      <source>#17</source>
       <translation>走到头后要停下看看四周。点击“等待…”。</translation>
     </message>
     <message>
-      <source>#20</source>
+      <source>#18</source>
       <translation>时间以帧为单位，60 帧是一秒。30 帧正好看一眼四周。</translation>
     </message>
     <message>
-      <source>#21</source>
+      <source>#19</source>
       <translation>点击“确定”，等待就加进了路线。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#20</source>
       <translation>点击“向右移动”，次数和向左一样，让他走回原处。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#21</source>
       <translation>这一头也要停一停：再点击一次“等待…”。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#22</source>
       <translation>点击“确定”。在这一头也停同样久。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#23</source>
       <translation>“重复路线”已经勾选，他会一直走下去。点击“确定”。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#24</source>
       <translation>这是走每一步的快慢。玩家也是“正常速度”。</translation>
     </message>
     <message>
-      <source>#27</source>
-      <translation>这是两步之间停多久。巡逻时不用改。</translation>
-    </message>
-    <message>
-      <source>#28</source>
+      <source>#25</source>
       <translation>点击“静止时也踏步”，等待时他就不会像定住一样。</translation>
     </message>
     <message>
-      <source>#29</source>
+      <source>#26</source>
       <translation>卫兵走动时也能和他说话。话说完之前他会站住。</translation>
     </message>
     <message>
-      <source>#30</source>
-      <translation>他说什么呢？双击“+”。</translation>
-    </message>
-    <message>
-      <source>#31</source>
-      <translation>点击“流程”选项卡，然后点击“下一步”。</translation>
-    </message>
-    <message>
-      <source>#32</source>
-      <translation>点击“公共事件”。</translation>
-    </message>
-    <message>
-      <source>#33</source>
+      <source>#27</source>
       <translation>公共事件是一组任何事件都能执行的指令，只要写一次。</translation>
     </message>
     <message>
-      <source>#34</source>
+      <source>#28</source>
+      <translation>他说什么呢？双击“+”。</translation>
+    </message>
+    <message>
+      <source>#29</source>
+      <translation>公共事件在“流程”选项卡里调用。点击这个选项卡。</translation>
+    </message>
+    <message>
+      <source>#30</source>
+      <translation>双击“公共事件”。</translation>
+    </message>
+    <message>
+      <source>#31</source>
       <translation>点击第 2 个，里面是每个卫兵开口先说的话。</translation>
     </message>
     <message>
-      <source>#35</source>
+      <source>#32</source>
       <translation>点击“确定”，加入这次调用。</translation>
     </message>
     <message>
-      <source>#36</source>
-      <translation>执行到这里时运行公共事件，结束后接着执行下一行。</translation>
+      <source>#33</source>
+      <translation>点击新的一行。执行到这里时运行公共事件，结束后接着执行下一行。</translation>
     </message>
     <message>
-      <source>#37</source>
+      <source>#34</source>
       <translation>双击下面的“+”，添加只有他才说的话。</translation>
     </message>
     <message>
-      <source>#38</source>
-      <translation>点击“消息”选项卡，最上面就是“显示消息”。然后点击“下一步”。</translation>
+      <source>#35</source>
+      <translation>点击“消息”选项卡，最上面就是“显示消息”。</translation>
     </message>
     <message>
-      <source>#39</source>
+      <source>#36</source>
       <translation>点击“确定”来写消息。</translation>
     </message>
     <message>
-      <source>#40</source>
+      <source>#37</source>
       <translation>输入他的话，例如：林间小路，一切正常。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#41</source>
+      <source>#38</source>
       <translation>点击“确定”，保留他的话。</translation>
     </message>
     <message>
-      <source>#42</source>
+      <source>#39</source>
       <translation>再双击这条消息：要让玩家看到是谁在说话。</translation>
     </message>
     <message>
-      <source>#43</source>
+      <source>#40</source>
       <translation>在“说话人”里输入名字，例如：卫兵。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#44</source>
-      <translation>消息显示在画面下方。挡住人物时，可以在这里换位置。</translation>
-    </message>
-    <message>
-      <source>#45</source>
+      <source>#41</source>
       <translation>点击“确定”。名字会显示在他的话上方。</translation>
     </message>
     <message>
-      <source>#46</source>
+      <source>#42</source>
+      <translation>点击消息这一行。玩家先听到卫兵们通用的台词，然后才是这句话。</translation>
+    </message>
+    <message>
+      <source>#43</source>
       <translation>右键点击调用的那一行：用菜单可以复制给别的卫兵。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#47</source>
-      <translation>“应用”会在不关窗口的情况下保留修改，内容多的时候很方便。</translation>
-    </message>
-    <message>
-      <source>#48</source>
+      <source>#44</source>
       <translation>点击“确定”，卫兵就上岗了。</translation>
     </message>
     <message>
-      <source>#49</source>
-      <translation>点击第二名卫兵站岗的“矿洞入口”。然后点击“下一步”。</translation>
+      <source>#45</source>
+      <translation>他会照做吗？点击“试玩”，开始新游戏，他就在你下方巡逻。</translation>
     </message>
     <message>
-      <source>#50</source>
-      <translation>双击大门附近的这一格。</translation>
-    </message>
-    <message>
-      <source>#51</source>
-      <translation>两名卫兵同名就不好分辨，可以叫他第二名卫兵。</translation>
-    </message>
-    <message>
-      <source>#52</source>
-      <translation>也给他选图像：点击“图像”下面的空框。</translation>
-    </message>
-    <message>
-      <source>#53</source>
-      <translation>双击“卫兵”，比点击“确定”更快。</translation>
-    </message>
-    <message>
-      <source>#54</source>
-      <translation>他要守着大门，保持“不移动”就好。</translation>
-    </message>
-    <message>
-      <source>#55</source>
-      <translation>也给他点击“静止时也踏步”。</translation>
-    </message>
-    <message>
-      <source>#56</source>
-      <translation>点击“保持朝向”。有人和他说话，他也一直看着前方。</translation>
-    </message>
-    <message>
-      <source>#57</source>
-      <translation>双击“+”。他要说和另一名卫兵一样的话。</translation>
-    </message>
-    <message>
-      <source>#58</source>
-      <translation>调用还是在“流程”选项卡里。点击它，然后点击“下一步”。</translation>
-    </message>
-    <message>
-      <source>#59</source>
-      <translation>再次点击“公共事件”。</translation>
-    </message>
-    <message>
-      <source>#60</source>
-      <translation>点击“确定”，选择用哪一个。</translation>
-    </message>
-    <message>
-      <source>#61</source>
-      <translation>再次点击第 2 个。</translation>
-    </message>
-    <message>
-      <source>#62</source>
-      <translation>点击“确定”。现在两名卫兵用的是同一组指令。</translation>
-    </message>
-    <message>
-      <source>#63</source>
-      <translation>以后想换台词，只要修改公共事件，所有卫兵都会跟着变。</translation>
-    </message>
-    <message>
-      <source>#64</source>
-      <translation>点击“确定”。两个岗位都有人了。</translation>
-    </message>
-    <message>
-      <source>#65</source>
-      <translation>点击“保存”，把两名卫兵都保存下来。</translation>
-    </message>
-    <message>
-      <source>#66</source>
-      <translation>点击“试玩”，开始新游戏。第一名卫兵就在你下方巡逻。</translation>
-    </message>
-    <message>
-      <source>#67</source>
+      <source>#46</source>
       <translation>看他走动，再站到他面前按 Enter 键。按 Esc 键回到这里。</translation>
     </message>
     <message>
+      <source>#47</source>
+      <translation>点击第二名卫兵站岗的“矿洞入口”。</translation>
+    </message>
+    <message>
+      <source>#48</source>
+      <translation>双击大门附近的这一格。</translation>
+    </message>
+    <message>
+      <source>#49</source>
+      <translation>也给他选图像：点击“图像”下面的空框。</translation>
+    </message>
+    <message>
+      <source>#50</source>
+      <translation>双击“卫兵”，比点击“确定”更快。</translation>
+    </message>
+    <message>
+      <source>#51</source>
+      <translation>也给他点击“静止时也踏步”。</translation>
+    </message>
+    <message>
+      <source>#52</source>
+      <translation>点击“保持朝向”。有人和他说话，他也一直看着前方。</translation>
+    </message>
+    <message>
+      <source>#53</source>
+      <translation>双击“+”。他要说和另一名卫兵一样的话。</translation>
+    </message>
+    <message>
+      <source>#54</source>
+      <translation>调用还是在“流程”选项卡里。点击它，然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#55</source>
+      <translation>再次双击“公共事件”。</translation>
+    </message>
+    <message>
+      <source>#56</source>
+      <translation>再次点击第 2 个。</translation>
+    </message>
+    <message>
+      <source>#57</source>
+      <translation>点击“确定”。现在两名卫兵用的是同一组指令。</translation>
+    </message>
+    <message>
+      <source>#58</source>
+      <translation>点击调用的那一行。以后只要修改公共事件，所有卫兵的台词都会跟着变。</translation>
+    </message>
+    <message>
+      <source>#59</source>
+      <translation>接下来的话要看大门开没开。条件分支会先查看开关，再决定往哪边走。</translation>
+    </message>
+    <message>
+      <source>#60</source>
+      <translation>双击调用下面的“+”。</translation>
+    </message>
+    <message>
+      <source>#61</source>
+      <translation>“流程”选项卡还开着，双击“条件分支”。</translation>
+    </message>
+    <message>
+      <source>#62</source>
+      <translation>选择“大门已打开”，拉杆打开的就是这个开关。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#63</source>
+      <translation>点击“OFF”：这条分支用在大门还关着的时候。</translation>
+    </message>
+    <message>
+      <source>#64</source>
+      <translation>再点击这一项，为其他情况，也就是开门以后，再加一条分支。</translation>
+    </message>
+    <message>
+      <source>#65</source>
+      <translation>点击这一行。大门还关着时，执行它下面缩进的内容。</translation>
+    </message>
+    <message>
+      <source>#66</source>
+      <translation>双击它下面缩进的“+”，让他给个提示。</translation>
+    </message>
+    <message>
+      <source>#67</source>
+      <translation>点击“消息”选项卡，然后点击“下一步”。</translation>
+    </message>
+    <message>
       <source>#68</source>
-      <translation>完成了！你学会了移动路线和公共事件。第 12 课去看数据库。</translation>
+      <translation>输入提示，例如：拉动拉杆才能开门。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#69</source>
+      <translation>点击这一行。大门打开以后，执行的是它下面的内容。</translation>
+    </message>
+    <message>
+      <source>#70</source>
+      <translation>双击这个“+”，别让他再提拉杆的事。</translation>
+    </message>
+    <message>
+      <source>#71</source>
+      <translation>“显示消息”还选中着，点击“确定”。</translation>
+    </message>
+    <message>
+      <source>#72</source>
+      <translation>输入另一句话，例如：进去吧，多加小心。然后点击“下一步”。</translation>
+    </message>
+    <message>
+      <source>#73</source>
+      <translation>点击“确定”。两个岗位都有人了。</translation>
+    </message>
+    <message>
+      <source>#74</source>
+      <translation>点击“保存”，把两名卫兵都保存下来。</translation>
+    </message>
+    <message>
+      <source>#75</source>
+      <translation>再次点击“试玩”。矿洞在村庄南边，穿过森林就到。</translation>
+    </message>
+    <message>
+      <source>#76</source>
+      <translation>和卫兵说话，拉动左边的拉杆，再和他说一次。按 Esc 键回到这里。</translation>
+    </message>
+    <message>
+      <source>#77</source>
+      <translation>完成了！你学会了移动路线、公共事件和条件分支。第 12 课去看数据库。</translation>
     </message>
   </context>
   <context>
@@ -4481,11 +4493,11 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>现在队伍可以平安通过。先在数据库里制作敌人。</translation>
+      <translation>点击“实际大小”，让箭头指向正确的格子。</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>点击“数据库”。</translation>
+      <translation>现在这里很太平。敌人要在数据库里制作：点击“数据库”。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4493,63 +4505,63 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>这是史莱姆。它不经打，攻击也弱，适合当第一个对手。</translation>
+      <translation>这是史莱姆，适合当第一个对手。打倒它能得到“经验值”和“金钱”。</translation>
     </message>
     <message>
       <source>#13</source>
-      <translation>“经验值”和“金钱”是打倒它后队伍得到的奖励。</translation>
-    </message>
-    <message>
-      <source>#14</source>
       <translation>打倒的敌人有时会掉落东西。点击“添加…”。</translation>
     </message>
     <message>
-      <source>#15</source>
+      <source>#14</source>
       <translation>已经选中了第一种物品：草药。正适合森林里的史莱姆。</translation>
     </message>
     <message>
-      <source>#16</source>
+      <source>#15</source>
       <translation>输入 8，平均八只史莱姆中有一只会掉落草药。</translation>
     </message>
     <message>
-      <source>#17</source>
+      <source>#16</source>
       <translation>点击“确定”。</translation>
     </message>
     <message>
-      <source>#18</source>
+      <source>#17</source>
       <translation>森林里还会有什么？点击史莱姆的图像看看。</translation>
     </message>
     <message>
+      <source>#18</source>
+      <translation>这里是怪物的图像。点击“蘑菇”，可以看大图。</translation>
+    </message>
+    <message>
       <source>#19</source>
-      <translation>点击“动物”选项卡。</translation>
+      <translation>再点击“幽灵”看看。每种敌人都有自己的图像。</translation>
     </message>
     <message>
       <source>#20</source>
-      <translation>依次点击看看，最后点“狼”。每种都有自己的图像。</translation>
-    </message>
-    <message>
-      <source>#21</source>
       <translation>史莱姆要保持原样：点击“取消”。</translation>
     </message>
     <message>
-      <source>#22</source>
+      <source>#21</source>
       <translation>第二种敌人可以用第一种来做。点击“复制”，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#23</source>
+      <source>#22</source>
       <translation>点击“添加”，列表会多一行。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#24</source>
+      <source>#23</source>
       <translation>新的一行已选中。点击“粘贴”填入内容，然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#25</source>
+      <source>#24</source>
       <translation>把它改成老鼠。输入名称，例如：巨鼠。然后点击“下一步”。</translation>
     </message>
     <message>
-      <source>#26</source>
+      <source>#25</source>
       <translation>它看起来还是史莱姆。点击图像。</translation>
+    </message>
+    <message>
+      <source>#26</source>
+      <translation>点击“动物”选项卡。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -4569,7 +4581,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>输入容易认的名称，例如：一只老鼠。然后点击“下一步”。</translation>
+      <translation>有了名称就容易找到。愿意的话可以起一个，例如：一只老鼠。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -4581,103 +4593,103 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>战斗中敌群就是这样站位的。大的敌群有更多成员，各有各的位置。</translation>
+      <translation>下面的图像就是战斗时的样子。点击第一个敌群比较一下。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>会不会太强？打一场就知道。点击“战斗测试…”。</translation>
+      <translation>那里是史莱姆。点击第 2 行，回到你自己的敌群。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>这里不加人，就由游戏开始时的队伍出战：只有米拉一人。</translation>
+      <translation>会不会太强？打一场就知道。点击“战斗测试…”。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>用“添加”还可以试试以后的队伍，设定等级和武器。</translation>
+      <translation>这里不加人，就由游戏开始时的队伍出战：只有米拉一人。</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>点击“开始战斗”。</translation>
+      <translation>用“添加”还可以试试以后的队伍，设定等级和武器。</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>按 Enter 键攻击老鼠。看够了就按 Esc 键。</translation>
+      <translation>点击“开始战斗”。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>哪些敌群会出现，由地图决定。双击“林间小路”。</translation>
+      <translation>按 Enter 键攻击老鼠。看够了就按 Esc 键。</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>“遇敌”里是会出现的敌群，现在是空的。点击“添加…”。</translation>
+      <translation>哪些敌群会出现，由地图决定。双击“林间小路”。</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>左边是所有敌群，已选中第一个。点击“确定”。</translation>
+      <translation>“遇敌”是空的。点击“添加…”，里面已选中第一个敌群。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>现在每走 12 到 36 步就会有一场战斗，事先看不到敌人。</translation>
+      <translation>敌人来了可不会通报。点击“到达时显示名称”，把它关掉。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>队伍可以尝试逃跑。输了游戏就结束，要记得存档。</translation>
+      <translation>现在每走 12 到 36 步就会有一场战斗，事先看不到敌人。</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>在列表中右键点击地图，也能打开它的属性。以后可以这样加入老鼠。</translation>
+      <translation>队伍可以尝试逃跑。输了游戏就结束，要记得存档。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>在“地图”模式下，右键点击地图本身，也有“地图属性…”。</translation>
+      <translation>在列表中右键点击地图，也能打开它的属性。以后可以这样加入老鼠。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>点击第一张地图：村庄。</translation>
+      <translation>在“地图”模式下，右键点击地图本身，也有“地图属性…”。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>这张地图没有设敌群，在这里不会遇到敌人。</translation>
+      <translation>点击第一张地图：村庄。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>森林里还有一件事要做。点击它，回到那里。</translation>
+      <translation>这张地图没有设敌群，在这里不会遇到敌人。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>好的游戏会先给玩家提个醒。来画一处看着可疑的地方。</translation>
+      <translation>森林里还有一件事要做。点击它，回到那里。</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>点击“地图”，就可以绘制了。</translation>
+      <translation>好的游戏会先给玩家提个醒。来画一处看着可疑的地方。</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>点击“地面”选项卡。</translation>
+      <translation>点击“地图”，就可以绘制了。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>点击“沙地”。史莱姆爬过的地方不长草。</translation>
+      <translation>点击“地面”选项卡。</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>点击小路旁边的这一格。</translation>
+      <translation>点击“水面”。史莱姆喜欢水，可是谁也走不过池塘。</translation>
     </message>
     <message>
       <source>#55</source>
-      <translation>它只是提醒。战斗在这张地图的任何地方都会发生。</translation>
+      <translation>换成“沙地”，点击它。史莱姆爬过的地方不长草。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>右键点击图块可以更换图块组。换成“夜晚”，整片森林都会阴森森的。</translation>
+      <translation>点击小路旁边的这一格。</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>点击“水面”。史莱姆喜欢潮湿。</translation>
+      <translation>它只是提醒。战斗在这张地图的任何地方都会发生。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>点击这附近的几个格子，然后点击“下一步”。</translation>
+      <translation>右键点击图块可以更换图块组。换成“夜晚”，整片森林都会阴森森的。</translation>
     </message>
     <message>
       <source>#59</source>
