@@ -128,7 +128,7 @@
 "windowKey":"MainWindow",
 "condition":"click,",
 "hint":qsTr("#8"),
-"icon":"click",
+"icon":"eye",
 "jump":-1,
 "jumpNo":-1,
 "command":"",
