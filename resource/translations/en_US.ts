@@ -3803,7 +3803,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>Click “Events” to see the people of the village. Then click “Next”.</translation>
+      <translation>“Events” has to be on, so that you see the people. If it is not, click it.</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4027,11 +4027,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>“OK” takes what is selected. A double click on a name does the same.</translation>
+      <translation>A double click on a name would take its picture at once. “OK” does the same.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Double-click “Sena” to take this picture.</translation>
+      <translation>Click “OK” to give Sena this picture.</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4415,7 +4415,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#73</source>
-      <translation>Double-click “Mila”: she stays as everybody knows her.</translation>
+      <translation>Click “OK”: she stays as everybody knows her.</translation>
     </message>
     <message>
       <source>#74</source>
@@ -4751,7 +4751,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>A hero waits in “Amberfield”, open now. Click “Full size”, then click “Next”.</translation>
+      <translation>A hero waits in “Amberfield”, open now. If the zoom is not 100 %, click “Full size”.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -5239,7 +5239,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>Double-click “Mila” to take this face. It will be beside her words.</translation>
+      <translation>Click “OK”. Her face will be beside her words.</translation>
     </message>
     <message>
       <source>#67</source>
@@ -6183,7 +6183,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>Double-click “Mila” to take her face. It will be beside her words.</translation>
+      <translation>Click “OK”. Her face will be beside her words.</translation>
     </message>
     <message>
       <source>#48</source>

@@ -3801,7 +3801,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>「イベント」をクリックして村人を表示し、「次へ」をクリックしてください。</translation>
+      <translation>村人が見えるように、「イベント」を選んでおきます。まだならクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4025,11 +4025,11 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>「OK」で、選んだ画像に決まります。名前のダブルクリックでも同じです。</translation>
+      <translation>名前をダブルクリックしてもすぐに決まります。「OK」でも同じです。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>「セナ」をダブルクリックして、この画像に決めます。</translation>
+      <translation>「OK」をクリックして、この画像に決めます。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4413,7 +4413,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>「ミラ」をダブルクリックしてください。いつもの姿のままにします。</translation>
+      <translation>「OK」をクリックします。ミラは、いつもの姿のままです。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -4749,7 +4749,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>「アンバー村」に主人公の1人がいます。「等倍」をクリックし、「次へ」をクリックします。</translation>
+      <translation>「アンバー村」に主人公の1人がいます。倍率が100%でなければ、「等倍」をクリックします。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -5237,7 +5237,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>「ミラ」をダブルクリックすると決まります。言葉の横に顔が出ます。</translation>
+      <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -6181,7 +6181,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>「ミラ」をダブルクリックすると決まります。言葉の横に顔が出ます。</translation>
+      <translation>「OK」をクリックしてください。言葉の横に顔が出ます。</translation>
     </message>
     <message>
       <source>#48</source>

@@ -3801,7 +3801,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>点击“事件”，让村里的人物显示出来。然后点击“下一步”。</translation>
+      <translation>要看到村里的人物，需要选中“事件”。还没选中的话，请点击它。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4025,11 +4025,11 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>“确定”会采用选中的图像，双击名称也一样。</translation>
+      <translation>双击名称会马上采用它的图像，点“确定”也一样。</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>双击“塞娜”，使用这个图像。</translation>
+      <translation>点击“确定”，使用这个图像。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4413,7 +4413,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>双击“米拉”，让她保持大家熟悉的样子。</translation>
+      <translation>点击“确定”，让她保持大家熟悉的样子。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -4749,7 +4749,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>现在打开的是“琥珀村”，有一位主角等在这里。点击“实际大小”，再点击“下一步”。</translation>
+      <translation>现在打开的是“琥珀村”，有一位主角等在这里。如果缩放不是 100 %，点击“实际大小”。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -5237,7 +5237,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>双击“米拉”，选定头像。它会显示在台词旁边。</translation>
+      <translation>点击“确定”。她的头像会显示在台词旁边。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -6181,7 +6181,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>再双击“米拉”，选定头像。它会出现在台词旁边。</translation>
+      <translation>点击“确定”。头像会出现在台词旁边。</translation>
     </message>
     <message>
       <source>#48</source>
