@@ -3803,7 +3803,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#10</source>
-      <translation>“Events” has to be on, so that you see the people. If it is not, click it.</translation>
+      <translation>Click “Events” to see the people of the village. Then click “Next”.</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4451,7 +4451,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#82</source>
-      <translation>In “Shop”, Bruno's event has the list of his goods. Add the sword there, as in lesson 7.</translation>
+      <translation>In “Shop”, Bruno's event has the list of his goods. Add the sword later, as in lesson 7.</translation>
     </message>
     <message>
       <source>#83</source>
@@ -6031,7 +6031,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Full size”, so that the arrow points at the right cell. Then click “Next”.</translation>
+      <translation>The arrow points at cells of the map now. If the zoom is not 100 %, click “Full size”.</translation>
     </message>
     <message>
       <source>#10</source>

@@ -3801,7 +3801,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>村人が見えるように、「イベント」を選んでおきます。まだならクリックしてください。</translation>
+      <translation>「イベント」をクリックして村人を表示し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -4449,7 +4449,7 @@
     </message>
     <message>
       <source>#82</source>
-      <translation>商品は「お店」のブルーノのイベントで決めます。レッスン7の要領で、剣を加えられます。</translation>
+      <translation>商品は「お店」のブルーノのイベントで決めます。あとでレッスン7のように剣を加えられます。</translation>
     </message>
     <message>
       <source>#83</source>
@@ -6029,7 +6029,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックすると、矢印が正しいマスを指します。そのあと「次へ」をクリックします。</translation>
+      <translation>次から、矢印はマップのマスを指します。倍率が100%でなければ、「等倍」をクリックします。</translation>
     </message>
     <message>
       <source>#10</source>

@@ -3801,7 +3801,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>要看到村里的人物，需要选中“事件”。还没选中的话，请点击它。</translation>
+      <translation>点击“事件”，让村里的人物显示出来。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -6029,7 +6029,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“实际大小”，让箭头指向正确的格子。然后点击“下一步”。</translation>
+      <translation>接下来箭头会指向地图的格子。如果缩放不是 100 %，点击“实际大小”。</translation>
     </message>
     <message>
       <source>#10</source>

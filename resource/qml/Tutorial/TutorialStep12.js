@@ -154,7 +154,7 @@
     },
     {
 "id":10,
-"name":"The people are shown",
+"name":"Show the people",
 "folder":false,
 "translationId":10,
 "x":396,
@@ -162,7 +162,7 @@
 "windowKey":"MainWindow",
 "condition":"click,",
 "hint":qsTr("#10"),
-"icon":"eye",
+"icon":"click",
 "jump":-1,
 "jumpNo":-1,
 "command":"",

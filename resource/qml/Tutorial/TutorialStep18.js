@@ -145,7 +145,7 @@
 "windowKey":"MainWindow",
 "condition":"click,",
 "hint":qsTr("#9"),
-"icon":"click",
+"icon":"eye",
 "jump":-1,
 "jumpNo":-1,
 "command":"",
