@@ -8,7 +8,7 @@ namespace {
 
 /// Keys that were meant for the battle do not count.
 constexpr int kDeafTicks = 30;
-const QRect kRect(160, 132, 320, 96);
+const QRect kRect(160, 120, 320, 120);
 
 } // namespace
 
@@ -31,7 +31,8 @@ void GameOverScene::show(const Game &, Frame *frame) const
     panel.role = QStringLiteral("gameOver");
     panel.rect = kRect;
     panel.title = tr("Game over");
-    panel.lines = {PanelLine(tr("Press Enter to return to the title."))};
+    // The sign that it waits stands in a line of its own.
+    panel.lines = {PanelLine(tr("Press Enter to return to the title.")), PanelLine()};
     panel.isWaiting = m_ticks > kDeafTicks;
     frame->panels.append(panel);
 }

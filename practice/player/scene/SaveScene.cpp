@@ -4,6 +4,8 @@
 #include "player/scene/Game.h"
 #include "player/scene/Terms.h"
 
+#include <algorithm>
+
 namespace player {
 
 namespace {
@@ -57,6 +59,14 @@ void SaveScene::list(const Game &game)
     }
     m_list.setRows(rows);
     m_isListed = true;
+    if (m_mode != Mode::kLoad) {
+        return;
+    }
+    const auto first = std::find_if(m_slots.cbegin(), m_slots.cend(),
+                                    [](const SaveSlot &slot) { return slot.state.has_value(); });
+    if (first != m_slots.cend()) {
+        m_list.setCurrent(int(first - m_slots.cbegin()));
+    }
 }
 
 ListRow SaveScene::row(int slot, const SaveFiles &files, const GameData &data) const

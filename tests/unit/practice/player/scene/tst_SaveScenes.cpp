@@ -88,6 +88,8 @@ void tst_SaveScenes::aGameIsSavedAndGoneOnWith()
     QVERIFY(title.choose(QStringLiteral("Continue")));
     title.wait(1);
     QCOMPARE(title.role(), QStringLiteral("load"));
+    // The one that is there is pointed at.
+    QCOMPARE(title.list()->current, 1);
     QVERIFY(title.choose(QStringLiteral("2  Amberfield")));
     title.wait(2);
     QCOMPARE(title.game.state().gold, 55);
