@@ -5251,7 +5251,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#69</source>
-      <translation>Choose your troop, the last one. Its line is empty, as the troop has no name.</translation>
+      <translation>Choose your troop, the last one. It has no name, so its line shows its number alone.</translation>
     </message>
     <message>
       <source>#70</source>

@@ -3422,7 +3422,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>「エンカウント」がまだ空なので、敵キャラは現れません。現れるのはレッスン14からです。</translation>
+      <translation>設定の「エンカウント」が空なので、敵キャラは出ません。最初に出るのはレッスン14です。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -3957,7 +3957,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>まだ決めないので、一番上の「なし」がよいでしょう。画像を使わないという意味です。</translation>
+      <translation>まだ決めないので、いちばん上の「なし」がよいでしょう。画像を使わないという意味です。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -4013,7 +4013,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>試しに「長老」をクリックしてください。セナには年を取りすぎていますね。</translation>
+      <translation>試しに「長老」をクリックしてください。セナにしては、年を取りすぎていますね。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -4045,7 +4045,7 @@
     </message>
     <message>
       <source>#71</source>
-      <translation>ゲームに出すために「システム」をクリックし、「次へ」をクリックします。</translation>
+      <translation>セナをパーティーに入れます。「システム」をクリックし、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#72</source>
@@ -4157,7 +4157,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックしてください。マップを近くから見られます。</translation>
+      <translation>「等倍」をクリックしてください。マップが見やすい大きさになります。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -4173,7 +4173,7 @@
     </message>
     <message>
       <source>#13</source>
-      <translation>「古い鉱山」をクリックしてください。買えない村のランプは、レッスン16のボスが持ちます。</translation>
+      <translation>「古い鉱山」をクリックしてください。どの店にもないランプは、レッスン16のボスが持ちます。</translation>
     </message>
     <message>
       <source>#14</source>
@@ -4765,7 +4765,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>「キャンセル」をクリックしてください。仲間になる前に、覚えるものを作りましょう。</translation>
+      <translation>「キャンセル」をクリックしてください。仲間になる前に、覚えるスキルを作りましょう。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -4853,7 +4853,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>長老は話すだけで、スキルを覚えません。データベースの主人公ではないからです。</translation>
+      <translation>長老は話すだけで、スキルを覚えません。データベースのアクターではないからです。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4989,7 +4989,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。村から鉱山までのプロジェクトができます。</translation>
+      <translation>「OK」をクリックしてください。村から鉱山までがそろったプロジェクトができます。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -5117,7 +5117,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>相手は敵グループです。「敵グループ」をクリックしてください。</translation>
+      <translation>戦闘の相手は敵グループです。「敵グループ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5249,7 +5249,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>一覧の最後にある、作った敵グループを選びます。名前がないので、空の行です。</translation>
+      <translation>一覧の最後にある、作った敵グループを選びます。名前がないので、番号だけの行です。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -6333,7 +6333,7 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>「音量」を下げると静かになります。結末なので、このままにしましょう。</translation>
+      <translation>「音量」を下げると、音が小さくなります。結末の曲なので、このままにしましょう。</translation>
     </message>
     <message>
       <source>#86</source>
@@ -6457,7 +6457,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>「ゲームタイトルを表示」をクリックすると、名前が画面に出ます。そのあと「次へ」です。</translation>
+      <translation>「ゲームタイトルを表示」をクリックすると、タイトル画面に出ます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#13</source>

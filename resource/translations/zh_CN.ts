@@ -5249,7 +5249,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>选择最后面你做的敌群。它还没有名称，所以是空行。</translation>
+      <translation>选择最后面你做的敌群。它还没有名称，所以只显示编号。</translation>
     </message>
     <message>
       <source>#70</source>
