@@ -1123,7 +1123,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>自分のマップと同じものです。大きさは、設定の「幅」と「高さ」で変えられます。</translation>
+      <translation>自分のマップと同じように使えます。大きさは、設定の「幅」と「高さ」で変えられます。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -1387,7 +1387,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>「+」から加えられるのは、文章だけではありません。気持ちを表すコマンドもあります。</translation>
+      <translation>「+」で加えられるのは、メッセージだけではありません。気持ちを表すコマンドもあります。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -1515,7 +1515,7 @@
     </message>
     <message>
       <source>#18</source>
-      <translation>マスにはそれぞれX座標とY座標があります。これは、いまクリックしたマスのものです。</translation>
+      <translation>マスにはそれぞれX座標とY座標があります。これは、今クリックしたマスのものです。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -1547,7 +1547,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>ドアのすぐ下の7を入力し、Enterキーを押します。ドアの上では、また中に入ってしまいます。</translation>
+      <translation>Y座標は、ドアの1つ下の7にして、Enterキーを押します。ドアの上だと、また中に入ります。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -1667,7 +1667,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>宝箱の前で2回ずつEnterキーを押し、家を出ます。そのあと、戻るまでEscキーを押してください。</translation>
+      <translation>宝箱の前で2回ずつEnterキーを押して、家を出ます。エディターへはEscキーで戻ります。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -2719,7 +2719,7 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>「保存」をクリックしてください。それから「次へ」です。</translation>
+      <translation>「保存」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -2843,7 +2843,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>まず「パーティー」をクリックしてください。お金や仲間のコマンドで、移動はありません。</translation>
+      <translation>まず「パーティー」をクリックしてください。お金や仲間のコマンドだけで、移動はありません。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -2939,11 +2939,11 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>付けると、話しかけられても前を見たままです。付けないので、衛兵はこちらを向きます。</translation>
+      <translation>オンにすると、話しかけられても前を見たままです。今はオフなので、衛兵はこちらを向きます。</translation>
     </message>
     <message>
       <source>#50</source>
-      <translation>では、ここではオフのままでよいとわかりますね。道に迷った人のほうを向く衛兵です。</translation>
+      <translation>では、ここはオフのままにしましょう。道に迷った人のほうを向く衛兵です。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -3106,7 +3106,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>レバーはもう質問をします。この答えを選ぶと、下の右に寄った行が動きます。</translation>
+      <translation>レバーは、もう質問をします。この答えを選ぶと、下の字下げした行が実行されます。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -3142,11 +3142,11 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>「ON」のままで、引くとスイッチが入ります。「OK」をクリックしてください。</translation>
+      <translation>「ON」なので、レバーを引くとスイッチが入ります。「OK」をクリックしてください。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>できた行です。門の2ページ目は、このスイッチがONになるのを待っています。</translation>
+      <translation>今加えた行です。門の2ページ目は、このスイッチがONになるのを待っています。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -3218,7 +3218,7 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>1ページ目をクリックして、引く前のレバーを見比べます。そのあと「次へ」をクリックします。</translation>
+      <translation>1ページ目をクリックして、引く前のレバーと見比べます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -3629,11 +3629,11 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>思いどおりに歩くか、試しましょう。「プレイ」で新しいゲームを始めると、すぐ下にいます。</translation>
+      <translation>思いどおりに歩くでしょうか。「プレイ」で新しいゲームを始めてください。すぐ下にいます。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>歩く様子を見て、前に立ってEnterキーを押します。Escキーで戻ってください。</translation>
+      <translation>歩く様子を見たら、前に立ってEnterキーを押します。Escキーで戻ってください。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -3697,7 +3697,7 @@
     </message>
     <message>
       <source>#62</source>
-      <translation>レバーで入る「門が開いた」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>レバーでONになる「門が開いた」を選んでから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -3709,11 +3709,11 @@
     </message>
     <message>
       <source>#65</source>
-      <translation>この行をクリックしてください。門が閉まっている間は、下の右に寄った行が動きます。</translation>
+      <translation>この行をクリックしてください。門が閉まっている間は、下の字下げした行が実行されます。</translation>
     </message>
     <message>
       <source>#66</source>
-      <translation>その下の右に寄った「+」をダブルクリックして、ヒントを言わせます。</translation>
+      <translation>その下の字下げした「+」をダブルクリックして、ヒントを言わせます。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -3725,7 +3725,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>この行をクリックしてください。門が開いたあとは、この下の行が動きます。</translation>
+      <translation>この行をクリックしてください。門が開いたあとは、この下の行が実行されます。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -4025,7 +4025,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>名前をダブルクリックしてもすぐに決まります。「OK」でも同じです。</translation>
+      <translation>名前をダブルクリックすると、すぐに決まります。「OK」でも同じです。</translation>
     </message>
     <message>
       <source>#67</source>
@@ -4629,7 +4629,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>ぶきみな森に案内は要りません。「到着時に名前を表示」をオフにしてください。</translation>
+      <translation>不気味な森に案内は要りません。「到着時に名前を表示」をクリックしてオフにします。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -5485,7 +5485,7 @@
     </message>
     <message>
       <source>#128</source>
-      <translation>言葉を書き換え（見つけたか！西の丘へ運んでおくれ、など）、「次へ」をクリックします。</translation>
+      <translation>言葉を（見つけたか！西の丘へ運んでおくれ、などに）書き換えて、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#129</source>
@@ -5513,7 +5513,7 @@
     </message>
     <message>
       <source>#135</source>
-      <translation>番人はずっと奥の鉱山です。好きなだけ歩き、Escキーでエディターに戻りましょう。</translation>
+      <translation>番人がいるのは、遠い鉱山の奥です。好きなだけ歩いたら、Escキーでエディターに戻ります。</translation>
     </message>
     <message>
       <source>#136</source>
