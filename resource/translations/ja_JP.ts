@@ -3629,7 +3629,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>思いどおりに歩くでしょうか。「プレイ」で新しいゲームを始めてください。すぐ下にいます。</translation>
+      <translation>衛兵が思いどおりに歩くか、「プレイ」で新しいゲームを始めて確かめます。すぐ下にいます。</translation>
     </message>
     <message>
       <source>#46</source>
