@@ -5,6 +5,7 @@
 #include "Tutorial/overlay/OverlayWindow.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPushButton>
 
 #include <algorithm>
@@ -18,6 +19,12 @@ constexpr std::array<const char *, IndicatorButtons::kCount> kNames{"nextButton"
 std::array<bool, IndicatorButtons::kCount> wanted(const IndicatorState &state)
 {
     return {state.nextWindowEnabled, state.yesNoWindowEnabled, state.yesNoWindowEnabled};
+}
+
+bool isHeldByTheMouse(const QObject *button)
+{
+    const auto *const held = qobject_cast<const QPushButton *>(button);
+    return held != nullptr && held->isDown() && QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
 }
 
 } // namespace
@@ -108,6 +115,10 @@ bool IndicatorButtons::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ActivationChange &&
         (isTheActiveWindow(qobject_cast<QWidget *>(watched)) || !isActive())) {
         Q_EMIT activationChanged();
+    }
+    // The host may take the keyboard back while the person presses; the button would give the press up.
+    if (event->type() == QEvent::FocusOut && isHeldByTheMouse(watched)) {
+        return true;
     }
     return QObject::eventFilter(watched, event);
 }

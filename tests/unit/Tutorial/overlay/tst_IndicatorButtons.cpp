@@ -49,6 +49,7 @@ private Q_SLOTS:
     void farPlacesAreCutToWhatAWindowReaches();
     void oneThatBecomesActiveIsTold();
     void oneThatTakesOverFromAnotherIsToldOnce();
+    void aPressCountsAlthoughTheKeyboardIsTakenBack();
     void closedOnesAreLeftAlone();
     void deletesItsWindows();
 
@@ -159,6 +160,27 @@ void tst_IndicatorButtons::oneThatTakesOverFromAnotherIsToldOnce()
     const QSignalSpy changed(m_buttons.get(), &Buttons::activationChanged);
     activate(m_buttons->window(Buttons::kNo));
     QCOMPARE(changed.count(), 1);
+}
+
+void tst_IndicatorButtons::aPressCountsAlthoughTheKeyboardIsTakenBack()
+{
+    QPushButton *const next = m_buttons->window(Buttons::kNext);
+    QSignalSpy clicked(next, &QPushButton::clicked);
+    QWidget editor;
+    activate(next);
+    QTest::mousePress(next, Qt::LeftButton);
+    QVERIFY(next->isDown());
+    activate(&editor);
+    QVERIFY(!next->hasFocus());
+    QTest::mouseRelease(next, Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+    // What is pressed with the keyboard is given up with it.
+    activate(next);
+    QTest::keyPress(next, Qt::Key_Space);
+    QVERIFY(next->isDown());
+    activate(&editor);
+    QVERIFY(!next->isDown());
+    QCOMPARE(clicked.size(), 1);
 }
 
 void tst_IndicatorButtons::closedOnesAreLeftAlone()
