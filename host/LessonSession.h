@@ -62,7 +62,7 @@ public:
     /// and when no control leads back.
     [[nodiscard]] std::optional<Way> wayBack() const { return m_guide.wayBack(); }
     /// Whether putBack() would mend something: the data are not what they were when the step was reached, and
-    /// there were wrong moves; or what the step points at is not there.
+    /// there were wrong moves; what the step points at is not there; or it was used in vain again and again.
     [[nodiscard]] bool canPutBack() const { return m_guide.canPutBack(); }
     /// Brings back what there was when the step was reached. Where the step cannot be done even so, it goes
     /// back to the one in which something went wrong, and a step further where that did not help.

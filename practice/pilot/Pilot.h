@@ -151,7 +151,7 @@ private:
     QElapsedTimer m_sinceMoved;
     QElapsedTimer m_sinceClick;
     QPoint m_lastClick;
-    /// That a button of the companion was pressed.
+    /// Since the editor heard that a button of the companion was pressed.
     QElapsedTimer m_sinceHeard;
     SeenOverlays m_seen;
     ActionPlan m_plan;

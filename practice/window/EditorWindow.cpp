@@ -212,8 +212,8 @@ void EditorWindow::setDefaultButton(QPushButton *button)
 {
     m_defaultButton = button;
     button->setDefault(true);
-    // A button shows that the return key is its own while it has the focus, and for good that it is not when
-    // the focus goes: outside of a QDialog nobody marks the default button again.
+    // While another button has the focus, the return key is that one's, and Qt takes the mark away from this
+    // one. Outside of a QDialog nobody gives it back afterwards.
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget * /*before*/, QWidget *now) {
         if (now != nullptr && isAncestorOf(now)) {
             const auto *pressed = qobject_cast<QPushButton *>(now);

@@ -2,10 +2,10 @@
 
 #include "player/game/GameData.h"
 
-/// What entries of the database say of one another.
+/// What entries of the database and maps say of other entries.
 namespace player::References {
 
-/// Adds a problem for each entry that names one which is not there, and what becomes of that.
+/// Adds a problem for each one that names an entry which is not there; it tells what the game does instead.
 void check(GameData *data);
 
 } // namespace player::References

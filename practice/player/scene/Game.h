@@ -81,7 +81,8 @@ public:
     void play(const Sound &sound);
     /// Heard from now on, with 0 ticks at once; a sound without a file ends it.
     void setMusic(const Sound &music, int fadeTicks = 0);
-    /// The same problem is counted; so are a few of one line, at most.
+    /// The same problem is counted. Of one line a few different ones are told and of a game some hundreds;
+    /// the rest is dropped.
     void tell(const Problem &problem);
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 /// An event that began by itself so often in a row, and nothing else could happen.
 constexpr int kTooOften = 20;
-/// Commands that all events beside the game do in a tick, however many they are.
+/// Commands that all events do together in a tick, however many they are, but for the least of each.
 constexpr int kBudgetOfAll = 20000;
 constexpr int kLeastBudget = 2;
 
