@@ -3559,7 +3559,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#27</source>
-      <translation>A common event is a list of commands that any event can run. It is written once only.</translation>
+      <translation>A common event is a list of commands that any event can run. You write it only once.</translation>
     </message>
     <message>
       <source>#28</source>
@@ -3731,7 +3731,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>Double-click this “+”, so that he does not send players to the lever again.</translation>
+      <translation>Double-click this “+”: once the gate is open, he need not speak of the lever.</translation>
     </message>
     <message>
       <source>#71</source>
