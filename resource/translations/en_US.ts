@@ -4855,7 +4855,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>Not the Elder: he only talks, and is not in the database of heroes.</translation>
+      <translation>Not the Elder: he only talks, and is not among the “Actors” of the database.</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4895,7 +4895,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>The curve shows how HP grow with the level. Toma's class, the Guardian, has most of all.</translation>
+      <translation>The curve shows how HP grow with the level. Toma's class, the Guardian, has the most.</translation>
     </message>
     <message>
       <source>#45</source>
