@@ -3667,7 +3667,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#54</source>
-      <translation>The call is on the “Flow” tab again: click it, and then “Next”.</translation>
+      <translation>The call is on the “Flow” tab again. Click it. Then click “Next”.</translation>
     </message>
     <message>
       <source>#55</source>
@@ -3719,7 +3719,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Click the “Message” tab, then “Next”.</translation>
+      <translation>Click the “Message” tab. Then click “Next”.</translation>
     </message>
     <message>
       <source>#68</source>
@@ -4627,11 +4627,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>“Encounters” is empty. Click “Add…”: your first troop is selected there.</translation>
+      <translation>“Encounters” is empty. Click “Add…”: troop 1, the slime, is selected there.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>Enemies come unannounced. Click “Show the name on arrival” to switch it off here.</translation>
+      <translation>So eerie a forest needs no sign. Click “Show the name on arrival” to switch it off here.</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4751,7 +4751,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>A hero waits in “Amberfield”, open now. If the zoom is not 100 %, click “Full size”.</translation>
+      <translation>A hero waits in “Amberfield”. If the zoom is not 100 %, click “Full size”.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4807,7 +4807,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>Click “OK” to keep the first skill. At 0 MP it can be used without end.</translation>
+      <translation>Click “OK” to keep the first skill. At 0 MP it can be used as often as you like.</translation>
     </message>
     <message>
       <source>#23</source>
@@ -4859,7 +4859,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>These commands are all that he does. Heroes have a class, which decides on their skills.</translation>
+      <translation>These commands are all that he does. What a hero can learn, the class decides.</translation>
     </message>
     <message>
       <source>#36</source>
@@ -6335,7 +6335,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>Less “Volume” would make the music softer. For the end it can stay as it is.</translation>
+      <translation>A lower “Volume” would make the music softer. For the end it can stay as it is.</translation>
     </message>
     <message>
       <source>#86</source>
@@ -6535,7 +6535,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>There it is: your name, your picture, and the three commands.</translation>
+      <translation>There it is: the name of your game, your picture, and the three commands.</translation>
     </message>
     <message>
       <source>#32</source>

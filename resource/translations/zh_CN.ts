@@ -4629,7 +4629,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>敌人来了可不会通报。点击“到达时显示名称”，把它关掉。</translation>
+      <translation>阴森的森林不需要路牌。点击“到达时显示名称”，把它关掉。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4749,7 +4749,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>现在打开的是“琥珀村”，有一位主角等在这里。如果缩放不是 100 %，点击“实际大小”。</translation>
+      <translation>“琥珀村”里有一位主角。如果缩放不是 100 %，点击“实际大小”。</translation>
     </message>
     <message>
       <source>#9</source>
