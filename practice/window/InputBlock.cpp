@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMenuBar>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -20,15 +21,23 @@ InputBlock::InputBlock(MainFrame *frame, QObject *parent)
     , m_frame(frame)
 {
     qApp->installEventFilter(this);
-    // When a dialog closes, many a window manager gives the keyboard to the main window, past the dialog that
-    // is on top now. Later than that it is the person who goes there, to use the strip.
+    // When a dialog opens or closes, many a window manager gives the keyboard to the main window, past the
+    // dialog that is on top now. Later than that it is the person who goes there, to use the strip.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *window) {
         const bool isRecent = m_topSince.isValid() && m_topSince.elapsed() < kHandOverMs;
-        const bool isQuestion = QApplication::activeModalWidget() != nullptr;
-        if (m_top != nullptr && isRecent && !isQuestion && window == m_frame->windowHandle()) {
-            m_top->activateWindow();
+        if (m_top != nullptr && isRecent && window == m_frame->windowHandle()) {
+            // It may be on its way to yet another one, such as a game that begins.
+            QTimer::singleShot(0, this, &InputBlock::handKeyboardOn);
         }
     });
+}
+
+void InputBlock::handKeyboardOn()
+{
+    const bool isQuestion = QApplication::activeModalWidget() != nullptr;
+    if (m_top != nullptr && !isQuestion && QGuiApplication::focusWindow() == m_frame->windowHandle()) {
+        m_top->activateWindow();
+    }
 }
 
 void InputBlock::setTop(QWidget *window)

@@ -26,6 +26,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// From the main window to the one on top.
+    void handKeyboardOn();
+
     MainFrame *m_frame;
     QWidget *m_top = nullptr;
     QElapsedTimer m_topSince;

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void returnPressesTheButtonWithTheFocus();
     void theButtonOfTheReturnKeyIsMarked();
     void aWindowBelongsToTheOneThatOpenedIt();
+    void whatGetsTheKeyboardBehindTheMainWindowKeepsIt();
     void theMenuKeyOpensTheMenuOfTheRow();
     void theMenuKeyOpensTheMenuOfTheCell();
     void popupKeysAreThePopups();
@@ -197,6 +198,23 @@ void tst_Keyboard::theButtonOfTheReturnKeyIsMarked()
     QVERIFY(ok->isDefault());
     QVERIFY(tabTo("name"));
     QVERIFY(ok->isDefault());
+}
+
+void tst_Keyboard::whatGetsTheKeyboardBehindTheMainWindowKeepsIt()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("MapProperties"));
+    QTRY_COMPARE(QApplication::activeWindow(), editor->window(str("MapProperties"))->window());
+    // Such as a game that is begun from a dialog.
+    QWidget game;
+    game.show();
+    editor->window(str("MainWindow"))->window()->windowHandle()->requestActivate();
+    game.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &game);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(QApplication::activeWindow(), &game);
 }
 
 void tst_Keyboard::aWindowBelongsToTheOneThatOpenedIt()
