@@ -1547,7 +1547,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>Y座標は、ドアの1つ下の7にして、Enterキーを押します。ドアの上だと、また中に入ります。</translation>
+      <translation>Y座標には、ドアのすぐ下の7を入力し、Enterキーを押します。ドアの上だと、また中に入ります。</translation>
     </message>
     <message>
       <source>#27</source>
