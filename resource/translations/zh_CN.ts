@@ -1547,7 +1547,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>输入门下面一格的 7，再按 Enter 键。如果出现在门上，玩家又会进屋。</translation>
+      <translation>输入 7，也就是门下面的一格，再按 Enter 键。如果出现在门上，玩家又会进屋。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -1655,7 +1655,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>点击“保存”，保存门、出口和宝箱。然后点击“下一步”。</translation>
+      <translation>点击“保存”，把门、出口和宝箱保存下来。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -2843,7 +2843,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>先点击“队伍”。这里的指令管金币、物品和队员，没有去别处的。</translation>
+      <translation>先点击“队伍”。这里的指令用来增减金币、物品和队员，没有通往别处的。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -3142,7 +3142,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>已经选中“ON”，拉动拉杆就打开开关。点击“确定”。</translation>
+      <translation>已经选中“ON”，拉动拉杆就会打开开关。点击“确定”。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -3557,7 +3557,7 @@
     </message>
     <message>
       <source>#27</source>
-      <translation>公共事件是一组任何事件都能执行的指令，只要写一次。</translation>
+      <translation>公共事件是任何事件都能执行的一组指令，只要写一次。</translation>
     </message>
     <message>
       <source>#28</source>
@@ -3633,7 +3633,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>看他走动，再站到他面前按 Enter 键。按 Esc 键回到这里。</translation>
+      <translation>看他走动，再站到他面前按 Enter 键。最后按 Esc 键回到这里。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -3705,7 +3705,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>再点击这一项，为其他情况，也就是开门以后，再加一条分支。</translation>
+      <translation>也点击这一项：再加一条分支，用在其他情况，也就是大门打开以后。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -3729,11 +3729,11 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>双击这个“+”，别让他再提拉杆的事。</translation>
+      <translation>双击这个“+”：门开了，他就不必再提拉杆。</translation>
     </message>
     <message>
       <source>#71</source>
-      <translation>“显示消息”还选中着，点击“确定”。</translation>
+      <translation>选中的仍然是“显示消息”。点击“确定”。</translation>
     </message>
     <message>
       <source>#72</source>
@@ -3753,7 +3753,7 @@
     </message>
     <message>
       <source>#76</source>
-      <translation>和卫兵说话，拉动左边的拉杆，再和他说一次。按 Esc 键回到这里。</translation>
+      <translation>和卫兵说话，拉动左边的拉杆，再和他说一次话。最后按 Esc 键回到这里。</translation>
     </message>
     <message>
       <source>#77</source>
@@ -3793,7 +3793,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>现在要打开“琥珀村”。如果不是，请在这个列表中点击它。</translation>
+      <translation>现在打开的应该是“琥珀村”。如果不是，请在这个列表中点击它。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -3817,7 +3817,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>每个选项卡放一类数据。现在要打开“角色”。如果不是，请点击它。</translation>
+      <translation>每个选项卡放一类数据。现在显示的应该是“角色”。如果不是，请点击它。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -4037,7 +4037,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>“初始等级”是一开始的等级。现在和托马一样。</translation>
+      <translation>“初始等级”是她刚加入时的等级。现在和托马一样。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -4097,7 +4097,7 @@
     </message>
     <message>
       <source>#84</source>
-      <translation>可以随意看看。多按几次 Esc 键，就会回到编辑器。</translation>
+      <translation>可以随意看看。最后按 Esc 键，直到游戏关闭。</translation>
     </message>
     <message>
       <source>#85</source>
@@ -4161,11 +4161,11 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>东西可以来自宝箱。点击“米拉的家”，那里放着草药和提神药。</translation>
+      <translation>有些东西放在宝箱里。点击“米拉的家”，那里有草药和提神药。</translation>
     </message>
     <message>
       <source>#11</source>
-      <translation>东西也可以买到。点击“商店”，布鲁诺在那里出售各种商品。</translation>
+      <translation>有些东西可以买到。点击“商店”，布鲁诺在那里出售各种商品。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -4245,11 +4245,11 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>药现在有两个效果了。点击“确定”保留。</translation>
+      <translation>提神药现在有两个效果了。点击“确定”保留。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>点击“保存”，药就稳妥地存好了。</translation>
+      <translation>点击“保存”，先把提神药存好。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -4625,11 +4625,11 @@
     </message>
     <message>
       <source>#42</source>
-      <translation>“遇敌”是空的。点击“添加…”，里面已选中第一个敌群。</translation>
+      <translation>“遇敌”是空的。点击“添加…”，里面已选中第一个敌群：史莱姆。</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>阴森的森林不需要路牌。点击“到达时显示名称”，把它关掉。</translation>
+      <translation>这么阴森的森林不需要路牌。点击“到达时显示名称”来取消勾选。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -4677,7 +4677,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>换成“沙地”，点击它。史莱姆爬过的地方不长草。</translation>
+      <translation>所以改为点击“沙地”。史莱姆爬过的地方不长草。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -4805,7 +4805,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>点击“确定”，保留第一个技能。它不消耗 MP，可以一直使用。</translation>
+      <translation>点击“确定”，保留第一个技能。它不消耗 MP，用多少次都可以。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -4853,7 +4853,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>长老只会说话，学不了。他不是数据库里的主角。</translation>
+      <translation>长老只会说话，学不了。他不在数据库的“角色”里。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4941,7 +4941,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>点击“保持朝向”。不管谁来搭话，他都盯着路。</translation>
+      <translation>点击“保持朝向”。不管谁来搭话，他都一直看着路。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -5497,7 +5497,7 @@
     </message>
     <message>
       <source>#131</source>
-      <translation>点击“确定”，保留他的第三页。</translation>
+      <translation>点击“确定”，保留他的第 3 页。</translation>
     </message>
     <message>
       <source>#132</source>
@@ -5925,7 +5925,7 @@
     </message>
     <message>
       <source>#100</source>
-      <translation>点击“说话人”，写上她的名字。然后点击“下一步”。</translation>
+      <translation>点击“说话人”，输入她的名字。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#101</source>
@@ -6245,7 +6245,7 @@
     </message>
     <message>
       <source>#63</source>
-      <translation>双击它，加入到演出里。</translation>
+      <translation>双击它，把它加进演出。</translation>
     </message>
     <message>
       <source>#64</source>
@@ -6321,7 +6321,7 @@
     </message>
     <message>
       <source>#82</source>
-      <translation>点击“选择…”，查看所有乐曲。</translation>
+      <translation>点击“选择…”，查看所有音乐。</translation>
     </message>
     <message>
       <source>#83</source>
@@ -6329,11 +6329,11 @@
     </message>
     <message>
       <source>#84</source>
-      <translation>点击“确定”，就用这首乐曲。</translation>
+      <translation>点击“确定”，就用这首音乐。</translation>
     </message>
     <message>
       <source>#85</source>
-      <translation>调低“音量”，乐曲会更轻。这是结局，保持不变就好。</translation>
+      <translation>调低“音量”，音乐会更轻。这是结局，保持不变就好。</translation>
     </message>
     <message>
       <source>#86</source>
@@ -6345,7 +6345,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>选择最后一个，也就是新建的开关作为条件。然后点击“下一步”。</translation>
+      <translation>在“开关”中选择最后一个，也就是你新建的那个。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -6361,7 +6361,7 @@
     </message>
     <message>
       <source>#92</source>
-      <translation>这一页是没有光的灯台。第二页让它发光。</translation>
+      <translation>这一页是没有光的灯台。第 2 页让它发光。</translation>
     </message>
     <message>
       <source>#93</source>
