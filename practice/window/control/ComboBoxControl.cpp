@@ -43,7 +43,7 @@ Stranger readStranger(ControlReader &reader)
 {
     const QString kOther = QStringLiteral("other");
     const bool isOfList = !reader.hasChoices();
-    const QString other =
+    QString other =
         reader.has(kOther) ? reader.json().localText(kOther).value(reader.context().locale) : QString();
     return [isOfList, other](const QJsonValue &value) {
         if (value.isUndefined() || value.isNull() || value == QJsonValue(0)) {
