@@ -46,6 +46,7 @@ ControlUse ControlUse::of(const Step &step, const ControlSpot &spot)
         // No condition names the row of what may be a combo box.
         use.kind = Kind::kClickQuoted;
         use.text = step.hint;
+        use.times = LessonWords::timesToClick(step.hint);
     }
     return use;
 }

@@ -33,6 +33,8 @@ struct ControlUse
     /// Of kClickQuoted, kType and kChoose; empty leaves what stands there.
     QString text;
     bool pressesEnter = false;
+    /// How often it is done, one after the other.
+    int times = 1;
 
     /// What a person does for the step at @p spot, which has no control for a step that points at none.
     static ControlUse of(const Step &step, const ControlSpot &spot);

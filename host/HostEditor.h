@@ -154,6 +154,11 @@ public:
         return {};
     }
 
+    /// The middle of what a person clicks for LessonSession::putBack(), in global screen pixels: where no
+    /// control leads back, the arrow points there. Nothing while it cannot be used; viewChanged() tells when
+    /// it can, or stands elsewhere.
+    [[nodiscard]] virtual std::optional<QPoint> spotToPutBack() const { return {}; }
+
     /// Rectangle of the whole screen area of the editor.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 

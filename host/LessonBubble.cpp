@@ -51,7 +51,8 @@ void LessonBubble::tell()
         update.next = false;
         update.yesNo = false;
         update.arrow = true;
-        update.iconKind = LessonWords::iconKind(way ? way->icon : QString());
+        const QString icon = place ? QStringLiteral("click") : QString();
+        update.iconKind = LessonWords::iconKind(way ? way->icon : icon);
     }
     m_hint = update.hint;
     m_screen->tell(update);
@@ -69,6 +70,9 @@ void LessonBubble::follow()
     const std::optional<QPoint> place = target();
     if (place && m_pointing && place != m_screen->place() && !m_glide.isActive()) {
         m_screen->move(*place);
+    } else if (place && !m_pointing && m_guide->isAstray()) {
+        // The button to put things back has come up.
+        tell();
     }
 }
 
@@ -79,7 +83,9 @@ std::optional<QPoint> LessonBubble::target() const
     }
     if (m_guide->isAstray()) {
         const std::optional<Way> &way = m_guide->wayBack();
-        const std::optional<QPoint> spot = way ? m_editor->spotOf(way->by) : std::nullopt;
+        const std::optional<QPoint> spot = way                     ? m_editor->spotOf(way->by)
+                                           : m_guide->canPutBack() ? m_editor->spotToPutBack()
+                                                                   : std::nullopt;
         return spot ? std::optional(*spot - LessonWords::kTip) : std::nullopt;
     }
     const Step &step = m_runner->step();

@@ -81,8 +81,11 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_isWayUsed = false;
     m_vainUses = 0;
     m_couldPutBack = false;
+    m_wasDamaged = false;
     m_wasGone = false;
     m_looksElsewhere = false;
+    m_choosesElsewhere = false;
+    m_left.clear();
     takeStart();
     m_turn.start();
     if (wantsEvent()) {
@@ -177,9 +180,16 @@ void LessonGuide::chooseAsBefore()
 
 bool LessonGuide::canPutBack() const
 {
-    if (!m_runs || !m_settled || m_needs.start.state.isEmpty()) {
-        return false;
-    }
+    return canRestore() && (isDamaged() || (m_choosesElsewhere && !isAstray()));
+}
+
+bool LessonGuide::canRestore() const
+{
+    return m_runs && m_settled && !m_needs.start.state.isEmpty();
+}
+
+bool LessonGuide::isDamaged() const
+{
     return m_stray == Stray::kProject || isInVain() || (isAstray() && !m_way) ||
            (m_wrongMoves > 0 && m_editor->dataMark() != m_needs.start.dataMark);
 }
@@ -208,6 +218,8 @@ bool LessonGuide::restore(const StepStart &start)
         m_wrongMoves = 0;
         m_vainUses = 0;
         m_vainSteps = 0;
+        m_choosesElsewhere = false;
+        m_left = left();
         endTurn();
     }
     return restored;
@@ -239,7 +251,7 @@ void LessonGuide::noteUse(const ControlSpot &spot)
 
 void LessonGuide::endTurn()
 {
-    m_blamed = false;
+    const bool isBlamed = std::exchange(m_blamed, false);
     const bool isFirst = !std::exchange(m_settled, true);
     if (isFirst) {
         takeStart();
@@ -254,6 +266,8 @@ void LessonGuide::endTurn()
     const bool isNew = std::exchange(m_stray, stray) != stray;
     const bool isOther = std::exchange(m_way, way) != way;
     m_looksElsewhere = m_runs && isLook() && looksElsewhere();
+    lookWhatIsChosen(isBlamed);
+    m_wasDamaged = canRestore() && isDamaged();
     const bool couldPutBack = std::exchange(m_couldPutBack, canPutBack());
     if (isNew || isOther || couldPutBack != m_couldPutBack) {
         Q_EMIT changed();
@@ -308,7 +322,8 @@ void LessonGuide::takeStart()
     if (!m_needs.pointed) {
         m_needs.pointed = m_editor->controlFor(m_needs.step);
     }
-    m_needs.start = StepStart::of(*m_editor, m_trail, m_needs.pointed);
+    const StepStart before = std::exchange(m_needs.start, StepStart::of(*m_editor, m_trail, m_needs.pointed));
+    m_needs.start.takeWindows(before, m_editor->windowOf(m_needs.step.windowKey));
     m_ahead = m_behind ? StepAhead(m_editor, *m_behind) : StepAhead();
 }
 
@@ -371,6 +386,16 @@ bool LessonGuide::looksElsewhere() const
     return std::any_of(spots.cbegin(), spots.cend(), [this](const ControlSpot &spot) {
         return !m_ahead.pointed() || !spot.isSameControl(*m_ahead.pointed());
     });
+}
+
+void LessonGuide::lookWhatIsChosen(bool isBlamed)
+{
+    const QVector<ControlSpot> before = std::exchange(m_left, m_runs ? left() : QVector<ControlSpot>());
+    const bool isMore = std::any_of(m_left.cbegin(), m_left.cend(), [&](const ControlSpot &spot) {
+        const bool isAsked = m_needs.pointed && spot.isSameControl(*m_needs.pointed);
+        return !isAsked && !before.contains(spot);
+    });
+    m_choosesElsewhere = !m_left.isEmpty() && !isLook() && (m_choosesElsewhere || (isBlamed && isMore));
 }
 
 bool LessonGuide::wantsWindow() const

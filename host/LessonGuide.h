@@ -61,8 +61,8 @@ public:
     [[nodiscard]] bool canPutBack() const;
     /// Whether the step cannot be done even as it began: what went wrong did so earlier.
     [[nodiscard]] bool isLost() const;
-    /// Whether canPutBack() was so before what happened last.
-    [[nodiscard]] bool couldPutBack() const { return m_couldPutBack; }
+    /// Whether canPutBack() was so before what happened last, for more than another choice of rows.
+    [[nodiscard]] bool wasDamaged() const { return m_wasDamaged; }
 
     /// Brings back what there was at the start of the step, or at another one.
     bool restore(const StepStart &start);
@@ -92,6 +92,12 @@ private:
     void takeStart();
     void blame(const EditorEvent &event);
     void offerHelp();
+    /// There is a state to bring back.
+    [[nodiscard]] bool canRestore() const;
+    /// Data, project or windows are not what the step needs, beyond what a control leads back to.
+    [[nodiscard]] bool isDamaged() const;
+    /// Whether a wrong move, which was made in this turn for @p isBlamed, has chosen something else.
+    void lookWhatIsChosen(bool isBlamed);
     [[nodiscard]] bool wantsEvent() const;
     /// The step asks for nothing but to look, or for an answer.
     [[nodiscard]] bool isLook() const;
@@ -124,6 +130,10 @@ private:
     int m_vainSteps = 0;
     /// In a step to look at, something else was chosen than what it began with, at the end of the last turn.
     bool m_looksElsewhere = false;
+    /// In a step to do, a wrong move has chosen another tab, tool or row, and it is chosen still.
+    bool m_choosesElsewhere = false;
+    /// left() at the end of the last turn.
+    QVector<ControlSpot> m_left;
     /// One click may report several things.
     bool m_blamed = false;
     bool m_offered = false;
@@ -136,6 +146,7 @@ private:
     /// In how many turns it was used and still was what leads back.
     int m_vainUses = 0;
     bool m_couldPutBack = false;
+    bool m_wasDamaged = false;
     /// What the step points at was not there at the end of the last turn.
     bool m_wasGone = false;
     QTimer m_turn;

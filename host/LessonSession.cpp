@@ -182,7 +182,9 @@ void LessonSession::passStep()
 {
     const int before = m_reached;
     if (const std::optional<ControlUse> undone = m_guide.leftUndone()) {
-        m_editor->perform(*undone);
+        for (int time = 0; time < undone->times && m_reached == before; ++time) {
+            m_editor->perform(*undone);
+        }
         if (undone->kind == ControlUse::Kind::kRightClick && m_reached == before) {
             // A person's menu is gone when she clicks Next.
             m_editor->perform(ControlUse::closingMenu());
@@ -350,7 +352,7 @@ void LessonSession::onStepReached()
     if (step.condition.type() == Condition::Type::kWait) {
         m_wait.start(step.condition.waitMs());
     }
-    if (m_guide.couldPutBack()) {
+    if (m_guide.wasDamaged()) {
         m_history.noteDamage();
     }
     m_history.enter(step.id);

@@ -21,6 +21,20 @@ StepStart StepStart::of(const HostEditor &editor, const WindowTrail &trail,
     return start;
 }
 
+void StepStart::takeWindows(const StepStart &before, const QString &needed)
+{
+    const auto isOnTop = [&needed](const OpenWindows &windows) {
+        return !windows.isEmpty() && windows.constLast().name == needed;
+    };
+    if (before.project != project || isOnTop(open) || !isOnTop(before.open)) {
+        return;
+    }
+    open = before.open;
+    lastCauses = before.lastCauses;
+    chosen = before.chosen;
+    openingMeanings = before.openingMeanings;
+}
+
 QJsonObject StepStart::toJson() const
 {
     QJsonArray windows;

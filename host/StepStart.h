@@ -25,6 +25,10 @@ struct StepStart
     static StepStart of(const HostEditor &editor, const WindowTrail &trail,
                         const std::optional<ControlSpot> &pointed);
 
+    /// A step that begins astray, as the person has left @p needed, the window of the step, since @p before:
+    /// the windows are to be opened as they were there.
+    void takeWindows(const StepStart &before, const QString &needed);
+
     /// What another run needs of it: the state, and how the windows came up.
     [[nodiscard]] QJsonObject toJson() const;
     static StepStart fromJson(const QJsonObject &json);

@@ -110,8 +110,7 @@ std::optional<Way> Whereabouts::wayBack(Stray stray) const
 
 std::optional<Way> Whereabouts::wayToWindows() const
 {
-    const WayBack search(m_editor->ways());
-    std::optional<Way> way = search.first(m_open, [this](const OpenWindows &open) { return isThere(open); });
+    std::optional<Way> way = wayThatCanBeUsed();
     if (!way) {
         return {};
     }
@@ -128,6 +127,31 @@ std::optional<Way> Whereabouts::wayToWindows() const
     }
     const bool isWrong = isOther && m_editor->dataMark() != m_needs->start.dataMark;
     return isWrong ? std::nullopt : way;
+}
+
+std::optional<Way> Whereabouts::wayThatCanBeUsed() const
+{
+    Ways ways = m_editor->ways();
+    const auto find = [this, &ways] {
+        return WayBack(ways).first(m_open, [this](const OpenWindows &open) { return isThere(open); });
+    };
+    const std::optional<Way> shortest = find();
+    std::optional<Way> way = shortest;
+    while (way && isOutOfReach(*way)) {
+        const ControlSpot by = way->by;
+        const auto isBy = [&by](const Way &other) {
+            return other.by.isSameControl(by);
+        };
+        ways.erase(std::remove_if(ways.begin(), ways.end(), isBy), ways.end());
+        way = find();
+    }
+    // Where nothing else leads there, it may come into reach by itself.
+    return way ? way : shortest;
+}
+
+bool Whereabouts::isOutOfReach(const Way &way) const
+{
+    return way.by.control != ControlSpot::dismiss() && !m_editor->rectOf(way.by) && !wayToChosen();
 }
 
 bool Whereabouts::opensSomethingElse(const Way &way) const

@@ -51,6 +51,11 @@ private:
     /// Whether the step asks for the right click that has opened this menu, which may lie over the spot then.
     [[nodiscard]] bool isAskedMenu(const OpenWindow &menu) const;
     [[nodiscard]] std::optional<Way> wayToWindows() const;
+    /// The shortest way to the windows whose first control is not grey; where there is none such, just the
+    /// shortest.
+    [[nodiscard]] std::optional<Way> wayThatCanBeUsed() const;
+    /// Whether its control cannot be used now, nor when what was chosen is chosen again.
+    [[nodiscard]] bool isOutOfReach(const Way &way) const;
     /// Whether its control means something else than when the window or menu was opened for the step.
     [[nodiscard]] bool opensSomethingElse(const Way &way) const;
     /// With what the window or menu that the way leads to was opened for the step; none where nobody knows.

@@ -40,4 +40,8 @@ bool saysDrag(const QString &hint);
 /// The number that a hint asks to type, such as "6" or "-20": the first one in it. Empty when there is none.
 QString numberToType(const QString &hint);
 
+/// How often a hint asks to click: 5 for "Click “Up” five times." 1 where it does not say. Words of its
+/// language for two to ten, or figures.
+int timesToClick(const QString &hint);
+
 } // namespace LessonWords

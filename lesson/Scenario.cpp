@@ -35,6 +35,13 @@ Step readStep(const QJsonObject &object, QVector<UnknownWord> *unknownWords)
     step.jumpNo = object.value(QLatin1String("jumpNo")).toInt(LessonWords::kNoJump);
     step.command = textOf(object, QLatin1String("command"));
     step.showArrow = object.value(QLatin1String("showArrow")).toBool(true);
+    if (!step.icon.isEmpty() && LessonWords::iconKind(step.icon) == int(LessonWords::kIcons.size())) {
+        unknownWords->append(
+            {step.id, step.icon,
+             QStringLiteral("\"%1\" is not an icon; there are click, doubleClick, rightClick, eye, wait and "
+                            "keyboard")
+                 .arg(step.icon)});
+    }
     QString problem;
     if (const std::optional<Condition> condition = Condition::parse(step.conditionText, &problem)) {
         step.condition = *condition;

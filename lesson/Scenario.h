@@ -60,7 +60,8 @@ public:
     /// Whether a step stands in this window.
     [[nodiscard]] bool hasStepIn(const QString &windowKey) const;
 
-    /// Conditions and commands that cannot be read; a step with such a condition has that of the button Next.
+    /// Icons, conditions and commands that cannot be read; a step with such a condition has that of the
+    /// button Next.
     [[nodiscard]] const QVector<UnknownWord> &unknownWords() const { return m_unknownWords; }
 
     /// Whether both have the same steps but for their texts: one lesson, in whatever language.

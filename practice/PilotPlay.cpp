@@ -9,8 +9,8 @@
 
 namespace {
 
-const QString kAll = QStringLiteral("all");
-const QString kLesson = QStringLiteral("TutorialStep");
+const QLatin1String kAll("all");
+const QLatin1String kLesson("TutorialStep");
 
 /// What the option @p name names of @p known: one, or all of them with @p all.
 QStringList chosen(const QCommandLineParser &parser, const QString &name, const QString &all,

@@ -7,7 +7,7 @@
 
 namespace {
 
-const QString kProjects = QStringLiteral("projects");
+const QLatin1String kProjects("projects");
 
 } // namespace
 

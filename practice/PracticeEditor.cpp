@@ -39,6 +39,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_testPlay(std::make_unique<TestPlay>(m_windows.get(), &m_session, m_strip))
 {
     m_windows->dock(m_strip);
+    m_windows->setPutBackButton(m_strip->putBackButton());
     m_windows->setUnattended(options.unattended);
     const QString chosen = m_place.place();
     if (const QString place = chosen.isEmpty() ? options.projectsFolder : chosen; !place.isEmpty()) {
@@ -215,6 +216,8 @@ void PracticeEditor::onListed()
 void PracticeEditor::onLessonWanted()
 {
     m_session.stop();
+    // A game or a dialog of the lesson before would lie above what the next one points at.
+    m_testPlay->stop();
     m_windows->closeDialogs();
     if (m_link.isConnected()) {
         m_course.ask();

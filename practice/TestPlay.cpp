@@ -130,9 +130,12 @@ void TestPlay::showPlace(const player::Problem &problem)
         place.in = EventPlace::In::kTroops;
     } else if (problem.file == QLatin1String("data/CommonEvents.json")) {
         place.in = EventPlace::In::kCommonEvents;
+    } else if (problem.map == 0) {
+        place.in = EventPlace::In::kDatabase;
+        place.list = QString(problem.file).remove(QStringLiteral(".json"));
     }
     place.map = problem.map;
-    place.event = problem.event;
+    place.event = problem.event > 0 ? problem.event : problem.entry;
     place.page = problem.page;
     place.line = problem.line;
     m_windows->showPlace(place);

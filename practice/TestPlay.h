@@ -25,6 +25,8 @@ public:
     ~TestPlay() override;
 
     [[nodiscard]] bool isOn() const { return m_window != nullptr; }
+    /// Ends the game, if one runs.
+    void stop();
     /// Gives the keyboard to the game.
     void takeFocus();
 
@@ -35,7 +37,6 @@ Q_SIGNALS:
 private:
     void play(const PlayRequest &request);
     void playAgain();
-    void stop();
     void onLeft();
     void showPlace(const player::Problem &problem);
     [[nodiscard]] QVector<QRect> inSight() const;

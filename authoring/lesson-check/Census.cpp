@@ -34,9 +34,9 @@ QSet<QString> keysOf(const QJsonObject &a, const QJsonObject &b)
 }
 
 /// The row of the library as a whole.
-const QString kAll = QStringLiteral("all");
-const QString kCommand = QStringLiteral("command");
-const QString kLastText = QStringLiteral("maxTranslationId");
+const QLatin1String kAll("all");
+const QLatin1String kCommand("command");
+const QLatin1String kLastText("maxTranslationId");
 
 void addTo(QJsonObject &sums, const QString &key, int number)
 {

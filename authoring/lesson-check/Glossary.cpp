@@ -32,9 +32,11 @@ bool isLatin(const QString &word)
 /// Where the word stands in the text; letters of the Latin script count as whole words only.
 QVector<int> placesOf(const QString &word, const QString &text)
 {
-    const QString pattern = QRegularExpression::escape(word);
-    const QRegularExpression form(isLatin(word) ? QStringLiteral("\\b%1\\b").arg(pattern) : pattern,
-                                  QRegularExpression::CaseInsensitiveOption);
+    QString pattern = QRegularExpression::escape(word);
+    if (isLatin(word)) {
+        pattern = QStringLiteral("\\b%1\\b").arg(pattern);
+    }
+    const QRegularExpression form(pattern, QRegularExpression::CaseInsensitiveOption);
     QVector<int> places;
     for (auto match = form.globalMatch(text); match.hasNext();) {
         places.append(int(match.next().capturedStart()));

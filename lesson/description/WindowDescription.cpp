@@ -155,6 +155,10 @@ void readWhatKindHas(JsonReader &reader, WindowDescription &window)
         window.isDraft = reader.flag(str("draft"));
         window.menus = MenuDescription::read(reader, toolButtonsOf(window.controls));
     }
+    if (window.kind == Kind::kWindow && reader.has(str("titleField"))) {
+        window.titleField = reader.text(str("titleField"));
+        window.titleText = reader.localText(str("titleText"));
+    }
     if (window.kind == Kind::kWindow && reader.has(str("minimumSize"))) {
         window.minimumSize = reader.size(str("minimumSize"));
     }

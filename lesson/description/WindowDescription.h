@@ -115,6 +115,10 @@ struct WindowDescription
     /// The key of the window that a part belongs to; of the window or "screen" that an area stands for.
     QString owner;
     LocalText title;
+    /// Of a window that is called after what it is opened for: the field whose text stands in the title, in
+    /// place of the %1 of this text. While there is none it is @c title.
+    QString titleField;
+    LocalText titleText;
     QSize size;
     /// Of a window that the person can resize; empty for all others.
     QSize minimumSize;

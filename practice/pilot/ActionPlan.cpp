@@ -81,6 +81,13 @@ QVector<Action> typing(const Step &step)
     return actions;
 }
 
+/// The hint alone says so, and what ends with the click ends with the first.
+int clicksFor(const Step &step)
+{
+    const bool isForNext = step.icon == QLatin1String("click") && step.condition.type() == Type::kNext;
+    return isForNext ? LessonWords::timesToClick(step.hint) : 1;
+}
+
 /// What follows the click of the mouse.
 QVector<Action> finishing(const Step &step)
 {
@@ -153,7 +160,7 @@ std::optional<ActionPlan> ActionPlan::make(const Step &step, const Sight &sight,
     if (plan.spot && mouse == Kind::kClick && LessonWords::saysDrag(step.hint)) {
         plan.actions = dragging(*plan.spot, dragWay(step.hint));
     } else if (plan.spot && mouse) {
-        plan.actions.append({*mouse, *plan.spot, 0, {}, 0});
+        plan.actions += QVector<Action>(clicksFor(step), {*mouse, *plan.spot, 0, {}, 0});
         plan.actions += finishing(step);
     } else if (plan.spot && step.condition.type() == Type::kWait && step.icon == QLatin1String("eye")) {
         // What shows by itself may need the mouse above it.

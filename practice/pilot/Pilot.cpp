@@ -401,11 +401,15 @@ bool Pilot::canAct(const Action &action, const ActionPlan &plan)
     if (action.kind == Action::Kind::kChoose) {
         return m_eye->seesList();
     }
-    if (!action.isOfKeyboard() && action.kind != Action::Kind::kPressButton) {
+    if (!action.isOfKeyboard() && action.kind != Action::Kind::kClick &&
+        action.kind != Action::Kind::kPressButton) {
         return true;
     }
     // A window manager may hold a click back, and keys or a button of the companion would come before it.
     const bool isClickHeard = !m_clicksBefore || m_eye->clicksHeard() > *m_clicksBefore;
+    if (action.kind == Action::Kind::kClick) {
+        return isClickHeard;
+    }
     if (action.kind == Action::Kind::kChooseQuoted) {
         return isClickHeard;
     }

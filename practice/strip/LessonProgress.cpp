@@ -7,12 +7,12 @@
 
 namespace {
 
-const QString kRecords = QStringLiteral("progress.json");
-const QString kFormat = QStringLiteral("format");
-const QString kLessons = QStringLiteral("lessons");
-const QString kDone = QStringLiteral("done");
-const QString kStep = QStringLiteral("step");
-const QString kSteps = QStringLiteral("steps");
+const QLatin1String kRecords("progress.json");
+const QLatin1String kFormat("format");
+const QLatin1String kLessons("lessons");
+const QLatin1String kDone("done");
+const QLatin1String kStep("step");
+const QLatin1String kSteps("steps");
 
 /// Of progress.json. A file of another format is put aside like a damaged one.
 constexpr int kPresentFormat = 1;

@@ -175,6 +175,11 @@ void LessonStrip::setState(const StripState &state)
     tell(state.text);
 }
 
+QWidget *LessonStrip::putBackButton() const
+{
+    return m_putBack;
+}
+
 void LessonStrip::showProgress(const StripState &state)
 {
     const bool isPlaying = state.phase == StripState::Phase::kPlaying && state.steps > 0;

@@ -20,6 +20,9 @@ public:
 
     void setState(const StripState &state);
 
+    /// "Put it back".
+    [[nodiscard]] QWidget *putBackButton() const;
+
 Q_SIGNALS:
     void nextPressed();
     void answered(bool yes);

@@ -38,7 +38,7 @@
     </message>
     <message>
         <source>Something is different from what this step needs. Click “Put it back” in the lesson strip.</source>
-        <translation>今の状態では、この手順を続けられません。レッスンの帯にある「元に戻す」をクリックしてください。</translation>
+        <translation>このままでは続けられません。レッスンの帯の「手順の最初に戻す」をクリックしてください。</translation>
     </message>
     <message>
         <source>Wait a moment: this window closes by itself.</source>
@@ -459,7 +459,7 @@
     <message>
         <source>Put it back</source>
         <extracomment>Makes everything as it was when the step began.</extracomment>
-        <translation>元に戻す</translation>
+        <translation>手順の最初に戻す</translation>
     </message>
     <message>
         <source>Skip step</source>
@@ -1315,6 +1315,63 @@
     <message>
         <source>The shop offers something that is not in the database: number %1.</source>
         <translation>ショップの商品がデータベースにありません：番号%1</translation>
+    </message>
+    <message>
+        <source>There is no movement %1; it is passed by.</source>
+        <translation>移動コマンド%1はありません。飛ばします。</translation>
+    </message>
+    <message>
+        <source>A wait of %1 frames is too long; it ends after %2.</source>
+        <translation>待ち時間%1フレームは長すぎるので、%2フレームで終わります。</translation>
+    </message>
+    <message>
+        <source>The face “%1” is one picture: its number %2 makes no difference.</source>
+        <translation>顔画像「%1」は1枚だけなので、番号%2は何も変えません。</translation>
+    </message>
+    <message>
+        <source>An action of the enemy “%1” uses skill %2, which is not there.</source>
+        <translation>敵キャラ「%1」の行動が使うスキル%2がありません。</translation>
+    </message>
+    <message>
+        <source>The trait “%2” makes no difference to the enemy “%1”: enemies use the skills of their actions, and win no EXP.</source>
+        <translation>特徴「%2」は敵キャラ「%1」には意味がありません。敵キャラは行動パターンのスキルを使い、経験値を得ません。</translation>
+    </message>
+    <message>
+        <source>A trait of “%1” names state %2, which is not there.</source>
+        <translation>「%1」の特徴にあるステート%2がありません。</translation>
+    </message>
+    <message>
+        <source>A trait of “%1” names skill %2, which is not there.</source>
+        <translation>「%1」の特徴にあるスキル%2がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” has the trait “%2”, which there is not.</source>
+        <translation>「%1」の特徴「%2」というものはありません。</translation>
+    </message>
+    <message>
+        <source>“%1” has the effect “%2”, which there is not.</source>
+        <translation>「%1」の効果「%2」というものはありません。</translation>
+    </message>
+    <message>
+        <source>The skill “%1” has the target %2, which there is not: it concerns nobody.</source>
+        <translation>スキル「%1」の対象%2というものはありません。だれにも効きません。</translation>
+    </message>
+    <message>
+        <source>Actor %1 of the party for trial battles is not there.</source>
+        <translation>戦闘テストのパーティーにいるアクター%1がありません。</translation>
+    </message>
+    <message>
+        <source>The title screen has the command “%1”, which there is not.</source>
+        <translation>タイトル画面のコマンド「%1」というものはありません。</translation>
+    </message>
+    <message>
+        <source>The game&apos;s language is set to %1. Test play says its own words, such as those of menus, in the language of the editor.</source>
+        <translation>ゲームの言語は%1に設定されています。テストプレイでは、メニューなどの言葉はエディターの言語で表示されます。</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <comment>the locale that this translation is in</comment>
+        <translation>ja_JP</translation>
     </message>
 </context>
 <context>

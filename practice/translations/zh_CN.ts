@@ -1316,6 +1316,63 @@
         <source>The shop offers something that is not in the database: number %1.</source>
         <translation>商店出售的商品不在数据库中：编号 %1。</translation>
     </message>
+    <message>
+        <source>There is no movement %1; it is passed by.</source>
+        <translation>没有移动指令 %1，已跳过。</translation>
+    </message>
+    <message>
+        <source>A wait of %1 frames is too long; it ends after %2.</source>
+        <translation>等待 %1 帧太长了，将在 %2 帧后结束。</translation>
+    </message>
+    <message>
+        <source>The face “%1” is one picture: its number %2 makes no difference.</source>
+        <translation>头像“%1”只有一张图，编号 %2 没有作用。</translation>
+    </message>
+    <message>
+        <source>An action of the enemy “%1” uses skill %2, which is not there.</source>
+        <translation>敌人“%1”的行动所使用的技能 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>The trait “%2” makes no difference to the enemy “%1”: enemies use the skills of their actions, and win no EXP.</source>
+        <translation>特性“%2”对敌人“%1”不起作用：敌人只使用行动模式中的技能，也不会获得经验值。</translation>
+    </message>
+    <message>
+        <source>A trait of “%1” names state %2, which is not there.</source>
+        <translation>“%1”的特性所指的状态 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>A trait of “%1” names skill %2, which is not there.</source>
+        <translation>“%1”的特性所指的技能 %2 不存在。</translation>
+    </message>
+    <message>
+        <source>“%1” has the trait “%2”, which there is not.</source>
+        <translation>“%1”的特性“%2”并不存在。</translation>
+    </message>
+    <message>
+        <source>“%1” has the effect “%2”, which there is not.</source>
+        <translation>“%1”的效果“%2”并不存在。</translation>
+    </message>
+    <message>
+        <source>The skill “%1” has the target %2, which there is not: it concerns nobody.</source>
+        <translation>技能“%1”的目标 %2 并不存在：它对谁都不起作用。</translation>
+    </message>
+    <message>
+        <source>Actor %1 of the party for trial battles is not there.</source>
+        <translation>战斗测试队伍中的角色 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>The title screen has the command “%1”, which there is not.</source>
+        <translation>标题画面的指令“%1”并不存在。</translation>
+    </message>
+    <message>
+        <source>The game&apos;s language is set to %1. Test play says its own words, such as those of menus, in the language of the editor.</source>
+        <translation>游戏的语言设置为 %1。试玩时，菜单等文字以编辑器的语言显示。</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <comment>the locale that this translation is in</comment>
+        <translation>zh_CN</translation>
+    </message>
 </context>
 <context>
     <name>player::Artwork</name>

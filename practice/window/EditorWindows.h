@@ -35,6 +35,9 @@ public:
     /// high as its size hint. It stays of use while a dialog is open.
     virtual void dock(QWidget *strip) = 0;
 
+    /// Where no control leads a person back to the lesson, the arrow points at this button.
+    virtual void setPutBackButton(QWidget *button) = 0;
+
     /// A button of the companion was pressed: the window on top gets the focus, and what the person presses
     /// in the editor for a moment is the rest of a double click and not meant for it.
     virtual void takeFocusBack() = 0;

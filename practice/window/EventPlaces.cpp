@@ -4,6 +4,7 @@
 #include "window/EditorWindows.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -14,9 +15,27 @@ QString str(const char *text)
     return QString::fromLatin1(text);
 }
 
-/// Tabs of the window with the database.
 constexpr int kTroopsTab = 7;
 constexpr int kCommonEventsTab = 11;
+/// What the tabs of the window with the database have.
+constexpr std::array<const char *, 13> kLists = {
+    "data/Actors",   "data/Classes",      "data/Skills", "data/Items",  "data/Weapons",
+    "data/Armors",   "data/Enemies",      "data/Troops", "data/States", "data/Animations",
+    "data/Tilesets", "data/CommonEvents", "data/System"};
+
+/// -1 for a list that has no tab.
+int tabOf(const EventPlace &place)
+{
+    if (place.in == In::kTroops) {
+        return kTroopsTab;
+    }
+    if (place.in == In::kCommonEvents) {
+        return kCommonEventsTab;
+    }
+    const auto list = std::find_if(kLists.cbegin(), kLists.cend(),
+                                   [&place](const char *name) { return place.list == QLatin1String(name); });
+    return list == kLists.cend() ? -1 : int(list - kLists.cbegin());
+}
 
 } // namespace
 
@@ -66,23 +85,32 @@ bool EventPlaces::showOnMap(const EventPlace &place) const
 
 bool EventPlaces::showInDatabase(const EventPlace &place) const
 {
+    const int tab = tabOf(place);
+    if (tab < 0) {
+        return false;
+    }
     const bool isTroop = place.in == In::kTroops;
-    const QString list = isTroop ? str("data/Troops") : str("data/CommonEvents");
+    const QString list = str(kLists.at(size_t(tab)));
     Project &project = *m_view.project;
-    if (!project.sources().entry(list, place.event, project.files()).isObject()) {
+    const bool isEntry = place.in != In::kDatabase || place.event > 0;
+    if (isEntry && !project.sources().entry(list, place.event, project.files()).isObject()) {
         return false;
     }
     const QString key = str("DatabaseMain");
     m_windows->open(key);
     EditorWindow *const window = m_view.window(key);
-    window->setCurrentRow(str("databaseTab"), isTroop ? kTroopsTab : kCommonEventsTab);
-    window->layer().select(list, place.event);
+    window->setCurrentRow(str("databaseTab"), tab);
+    if (isEntry) {
+        window->layer().select(list, place.event);
+    }
     if (isTroop && place.page > 0) {
         window->setCurrentRow(str("data/Troops/{troops}/pages"), place.page - 1);
     }
-    selectRow(isTroop ? str("data/Troops/{troops}/pages/{pages}/list")
-                      : str("data/CommonEvents/{commonEvents}/list"),
-              place, &window->layer());
+    if (place.in != In::kDatabase) {
+        selectRow(isTroop ? str("data/Troops/{troops}/pages/{pages}/list")
+                          : str("data/CommonEvents/{commonEvents}/list"),
+                  place, &window->layer());
+    }
     return true;
 }
 

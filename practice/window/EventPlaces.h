@@ -6,8 +6,8 @@
 class DataLayer;
 class EditorWindows;
 
-/// Leads a person to a place among the event commands: shows the map with the event marked, opens the window
-/// in which the commands are changed, and selects page and row there.
+/// Leads a person to a place in the database, or among the event commands: shows the map with the event
+/// marked, opens the window in which the commands are changed, and selects page and row there.
 class EventPlaces
 {
 public:

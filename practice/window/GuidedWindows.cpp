@@ -6,6 +6,7 @@
 #include "window/EventPlaces.h"
 
 #include <QAbstractScrollArea>
+#include <QEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -180,6 +181,29 @@ QString GuidedWindows::hintBack(const Way &way, const Step &step) const
 QString GuidedWindows::hintToPutBack(const Step & /*step*/) const
 {
     return BackHints::hintToPutBack();
+}
+
+std::optional<QPoint> GuidedWindows::spotToPutBack() const
+{
+    const bool isThere = m_putBackButton != nullptr && m_putBackButton->isVisible();
+    return isThere ? std::optional(m_putBackButton->mapToGlobal(m_putBackButton->rect().center()))
+                   : std::nullopt;
+}
+
+void GuidedWindows::setPutBackButton(QWidget *button)
+{
+    m_putBackButton = button;
+    button->installEventFilter(this);
+}
+
+bool GuidedWindows::eventFilter(QObject *watched, QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    if (watched == m_putBackButton &&
+        (type == QEvent::Show || type == QEvent::Move || type == QEvent::Resize)) {
+        Q_EMIT viewChanged();
+    }
+    return EditorWindows::eventFilter(watched, event);
 }
 
 bool GuidedWindows::showPlace(const EventPlace &place)

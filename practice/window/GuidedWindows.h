@@ -10,6 +10,8 @@
 #include "window/PressGuard.h"
 #include "window/StateKeeper.h"
 
+#include <QPointer>
+
 #include <memory>
 
 /// The part of the windows that guides a person: what a lesson asks of an editor beside which windows are
@@ -41,6 +43,11 @@ public:
     [[nodiscard]] QString hintBack(const Way &way, const Step &step) const override;
     [[nodiscard]] QString hintToPutBack(const Step &step) const override;
 
+    [[nodiscard]] std::optional<QPoint> spotToPutBack() const override;
+
+    void setPutBackButton(QWidget *button) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     bool showPlace(const EventPlace &place) override;
 
     void takeFocusBack() override;
@@ -59,6 +66,7 @@ private:
 
     EditorView m_view;
     std::unique_ptr<Guides> m_guides;
+    QPointer<QWidget> m_putBackButton;
     FocusReturn m_focus;
     PressGuard m_presses;
     HoverTips m_tips;

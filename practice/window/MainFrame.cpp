@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -29,6 +30,21 @@ MainFrame::MainFrame()
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_layout->setMenuBar(m_menuBar);
+    // Qt itself has no key for it.
+    const auto *key = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(key, &QShortcut::activated, this, &MainFrame::openFirstMenu);
+}
+
+void MainFrame::openFirstMenu()
+{
+    const QList<QAction *> menus = m_menuBar->actions();
+    if (menus.isEmpty() || !m_menuBar->isEnabled()) {
+        return;
+    }
+    m_menuBar->setActiveAction(menus.constFirst());
+    if (QMenu *const menu = menus.constFirst()->menu()) {
+        menu->setActiveAction(menu->actions().value(0));
+    }
 }
 
 void MainFrame::setContents(EditorWindow *contents)

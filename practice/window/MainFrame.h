@@ -44,6 +44,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// As in other programs, with its first entry chosen; not while a dialog is open.
+    void openFirstMenu();
     /// Heights of what stands above and below the contents when the frame is @p width wide.
     [[nodiscard]] int heightAbove(int width) const;
     [[nodiscard]] int heightBelow() const;

@@ -6,18 +6,21 @@
 
 namespace {
 
-const QString kFolder = QStringLiteral("tiles");
+QString folder()
+{
+    return QStringLiteral("tiles");
+}
 
 } // namespace
 
 QStringList tileDrawings()
 {
-    return Pictures::namesIn(kFolder);
+    return Pictures::namesIn(folder());
 }
 
 QPixmap drawTile(const QString &drawing, int pixels)
 {
-    const QPixmap picture = Pictures::load(kFolder, drawing);
+    const QPixmap picture = Pictures::load(folder(), drawing);
     if (picture.isNull()) {
         QPixmap empty(pixels, pixels);
         empty.fill(Qt::transparent);

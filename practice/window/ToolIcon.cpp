@@ -8,7 +8,10 @@
 
 namespace {
 
-const QString kFolder = QStringLiteral("icons");
+QString folder()
+{
+    return QStringLiteral("icons");
+}
 
 /// How many pixels of a picture are one of a button, for screens of twice the usual resolution.
 constexpr int kScale = 2;
@@ -30,13 +33,13 @@ QPixmap paleCopy(const QPixmap &picture)
 
 QStringList toolIcons()
 {
-    return Pictures::namesIn(kFolder);
+    return Pictures::namesIn(folder());
 }
 
 QIcon toolIcon(const QString &name)
 {
     QIcon icon;
-    QPixmap picture = Pictures::load(kFolder, name);
+    QPixmap picture = Pictures::load(folder(), name);
     if (!picture.isNull()) {
         picture.setDevicePixelRatio(kScale);
         icon.addPixmap(picture, QIcon::Normal);

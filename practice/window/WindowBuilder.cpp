@@ -12,6 +12,15 @@ namespace {
 
 using Kind = WindowDescription::Kind;
 
+/// Keeps the window's title: @p text with what stands in @p field in its %1, or @p title where nothing does.
+void connectTitle(EditorWindow *window, const QString &field, const QString &title, const QString &text)
+{
+    QObject::connect(window, &EditorWindow::refreshed, window, [window, field, title, text] {
+        const QString name = window->field(field).toString();
+        window->setWindowTitle(name.isEmpty() ? title : text.arg(name));
+    });
+}
+
 } // namespace
 
 QString WindowBuilder::mainKey()
@@ -30,6 +39,12 @@ WindowBuilder::WindowBuilder(const DescriptionSet &descriptions, const ControlCo
     }
     for (const QString &key : keys) {
         read(key, descriptions[key].controls, errors);
+        const QString &titleField = descriptions[key].titleField;
+        const QString problem =
+            titleField.isEmpty() ? QString() : context.project->fields().problemOf(titleField);
+        if (!problem.isEmpty()) {
+            errors->append(QStringLiteral("%1.json: titleField: %2").arg(key, problem));
+        }
         for (const PopupDescription &popup : descriptions[key].popups) {
             read(popup.name, popup.controls, errors);
         }
@@ -101,7 +116,11 @@ void WindowBuilder::makePart(const WindowDescription &description, Windows *wind
 void WindowBuilder::makeDialog(const WindowDescription &description, Windows *windows) const
 {
     EditorWindow *dialog = makeWindow(description.key, description.size, windows->main, Qt::Dialog);
-    dialog->setWindowTitle(description.title.value(m_context.locale));
+    const QString title = description.title.value(m_context.locale);
+    dialog->setWindowTitle(title);
+    if (!description.titleField.isEmpty()) {
+        connectTitle(dialog, description.titleField, title, description.titleText.value(m_context.locale));
+    }
     nameControls(dialog, description.controls, dialog->windowTitle());
     if (description.closesAfterMs > 0) {
         dialog->setTimedAction(description.closesAfterMs, description.after);

@@ -85,7 +85,9 @@ void WindowPlaces::place(EditorWindow *window) const
 
 QPoint WindowPlaces::popupCorner(const QPoint &position, const QSize &size) const
 {
-    return fitted(position, size, screen());
+    // A dialog may stand on another screen than the main window.
+    const QScreen *const there = QGuiApplication::screenAt(position);
+    return fitted(position, size, there != nullptr ? there->geometry() : screen());
 }
 
 void WindowPlaces::tellOrigin(const QString &key)

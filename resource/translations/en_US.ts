@@ -1215,7 +1215,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with a village, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with the village of this course? “No” lets you open one of yours.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1435,7 +1435,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#57</source>
-      <translation>Done! You can make an event, choose its look and let it speak.</translation>
+      <translation>Done! You can make people who speak. “Play” in the tool bar lets you meet Pip in the game.</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1567,7 +1567,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#31</source>
-      <translation>An event can wait for something. Nothing is set here: the way out is always there.</translation>
+      <translation>No conditions are set here, as with Pip: the way out is always there.</translation>
     </message>
     <message>
       <source>#32</source>
@@ -1587,7 +1587,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>“Cancel” would drop all that you have changed in this window. “OK” keeps it.</translation>
+      <translation>Had you only tried something out, “Cancel” would forget it. This time “OK” is right.</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1683,7 +1683,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with Pip and the chests, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with Pip and the chests? “No” opens one of yours, such as lesson 3's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1951,7 +1951,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with the village, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with the village? “No” opens one of yours, such as lesson 4's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2335,7 +2335,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project for this lesson? “No” opens one of yours, such as lesson 5's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2383,7 +2383,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Whoever asks him reads this first.</translation>
+      <translation>Whoever talks to him reads this first.</translation>
     </message>
     <message>
       <source>#15</source>
@@ -2391,7 +2391,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>A right click on a command lets you copy or delete it. Leave Toma's as they are.</translation>
+      <translation>A right click on that line could delete it, and Toma would stay behind. Leave it as it is.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2423,7 +2423,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>Each point of “Defense” makes an enemy's blow weaker. 4 would suit a cloak.</translation>
+      <translation>Each point of “Defense” makes an enemy's blow weaker. If you like, type 4 for the cloak.</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2479,7 +2479,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project for this lesson, with an empty shop and inn? “No” opens one of yours.</translation>
+      <translation>Make a new project, with empty shop and inn? “No” opens one of yours, such as lesson 6's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2535,7 +2535,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>Double-click this cell. On an empty cell that makes a new event.</translation>
+      <translation>Double-click this cell to make his event.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2651,7 +2651,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Choose the second one in the list, the travel cloak.</translation>
+      <translation>Choose the second one in the list, the cloak that Mila wears.</translation>
     </message>
     <message>
       <source>#46</source>
@@ -2679,11 +2679,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#52</source>
-      <translation>A right click on this line lets you copy it, for a shop in another village.</translation>
+      <translation>A right click on the shop's line lets you copy it, for a shop in another village.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>A right click on the number of the page copies all of the page.</translation>
+      <translation>A right click on the tab of the page can copy it, to a page 2 with other goods.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -2751,7 +2751,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with a village and a forest beyond reach? “No” opens one of yours.</translation>
+      <translation>Make a new project, with village and forest? “No” opens one of yours, such as lesson 7's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2955,7 +2955,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Click the “Message” tab, to let him speak first.</translation>
+      <translation>First he speaks. Make sure that the “Message” tab is in front: click it.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -3127,7 +3127,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>A switch is ON or OFF. The game remembers it, and events on every map can ask for it.</translation>
+      <translation>You know switches from lesson 4. Events on every map can ask for one: the gate, too.</translation>
     </message>
     <message>
       <source>#18</source>
@@ -3187,7 +3187,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Page 2 is in front now. Of all pages whose conditions hold, the last one counts.</translation>
+      <translation>Page 2 is in front now. It is blank: it needs a condition and a picture.</translation>
     </message>
     <message>
       <source>#33</source>
@@ -3251,7 +3251,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with village and mine, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with village and mine? “No” opens one of yours, such as lesson 9's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3275,7 +3275,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Music belongs to a map. It begins when the player comes in, and lasts until the next map.</translation>
+      <translation>Music belongs to a map, as in the snow of lesson 8. The village is to get its own.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -3375,7 +3375,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#33</source>
-      <translation>Now for battles. The map's backdrop is seen behind the enemies: here it is “Mountains”.</translation>
+      <translation>Now for battles. Enemies stand before a backdrop: on this map it is “Mountains”.</translation>
     </message>
     <message>
       <source>#34</source>
@@ -3766,12 +3766,12 @@ Click “Next” to begin.</translation>
     <name>TutorialStep12</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson you tour the database and make a third hero.
+      <translation>In this lesson you tour the database and add Sena, a hero.
 Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with two heroes, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with two heroes? “No” opens one of yours, such as lesson 11's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3819,7 +3819,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#14</source>
-      <translation>Each tab holds one kind of data. “Actors” has to be in front. If it is not, click it.</translation>
+      <translation>You were here in lesson 6. “Actors” has to be in front. If it is not, click it.</translation>
     </message>
     <message>
       <source>#15</source>
@@ -4131,7 +4131,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with a shop and its goods, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with a shop and goods? “No” opens one of yours, such as lesson 12's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4159,7 +4159,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>Click “Full size” to see each map close up.</translation>
+      <translation>Click “Full size” to see each map at its normal size.</translation>
     </message>
     <message>
       <source>#10</source>
@@ -4467,7 +4467,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, in which the forest is still peaceful? “No” opens one of yours.</translation>
+      <translation>Make a new project, with a quiet forest? “No” opens one of yours, such as lesson 13's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4603,7 +4603,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>Is it too strong? A trial battle tells. Click “Battle test…”.</translation>
+      <translation>Is it too strong? A test tells. Click “Battle test…”.</translation>
     </message>
     <message>
       <source>#37</source>
@@ -4643,15 +4643,15 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>A right click on the map in the list leads there, too, to add the rat later.</translation>
+      <translation>Is the rat to come, too? A right click on the map in the list has “Map properties…” for that.</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>In the mode “Map”, a right click on the map itself has “Map properties…” as well.</translation>
+      <translation>In the mode “Map”, a right click in the map view leads there as well.</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>Click the village, the first map.</translation>
+      <translation>Click “Amberfield”, the village.</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4671,7 +4671,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>Click the “Ground” tab.</translation>
+      <translation>Make sure that the “Ground” tab is in front: click it.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4727,7 +4727,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with three heroes, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with three heroes? “No” opens one of yours that has the class “Sage”.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4751,7 +4751,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>A hero waits in “Amberfield”. If the zoom is not 100 %, click “Full size”.</translation>
+      <translation>“Amberfield” has to be open: if not, click it. If the zoom is not 100 %, click “Full size”.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4783,7 +4783,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#16</source>
-      <translation>The first one heals. Type a name, such as Heal, and click “Next”.</translation>
+      <translation>The first one heals. Type a name, such as Heal. Then click “Next”.</translation>
     </message>
     <message>
       <source>#17</source>
@@ -4815,11 +4815,11 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#24</source>
-      <translation>The second skill attacks. Click “Add” once more, and then “Next”.</translation>
+      <translation>The second skill attacks. Click “Add” once more. Then click “Next”.</translation>
     </message>
     <message>
       <source>#25</source>
-      <translation>Type a name, such as Spark, and click “Next”.</translation>
+      <translation>Type a name, such as Spark. Then click “Next”.</translation>
     </message>
     <message>
       <source>#26</source>
@@ -4887,7 +4887,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#42</source>
-      <translation>Click “Add…” below “Traits”. A trait is always there, without being used.</translation>
+      <translation>Click “Add…” below “Traits”. A class can have some, too, as the cloak of lesson 13 has.</translation>
     </message>
     <message>
       <source>#43</source>
@@ -4895,7 +4895,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>The curve shows how HP grow with the level. Toma's class, the Guardian, has the most.</translation>
+      <translation>You know this curve of HP. At each level the trait adds a tenth for Mila.</translation>
     </message>
     <message>
       <source>#45</source>
@@ -4983,7 +4983,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project for this lesson? “No” opens one of yours that has five kinds of enemies.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5111,7 +5111,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>A trait is what is always so. Click “Add…” below “Traits”.</translation>
+      <translation>A boss can have traits, too, like a class. Click “Add…” below “Traits”.</translation>
     </message>
     <message>
       <source>#35</source>
@@ -5135,7 +5135,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>Would you like to see at once how strong he is, with a party for trials?</translation>
+      <translation>Would you like to see at once, in a test, how strong he is?</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5147,7 +5147,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#43</source>
-      <translation>This list has those who fight in a trial, whoever is in the party of the game.</translation>
+      <translation>This list has those who fight in a test, whoever is in the party of the game.</translation>
     </message>
     <message>
       <source>#44</source>
@@ -5179,7 +5179,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#51</source>
-      <translation>Double-click this cell. On an empty cell, that makes a new event.</translation>
+      <translation>Double-click this cell to make it.</translation>
     </message>
     <message>
       <source>#52</source>
@@ -5187,7 +5187,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>You can give the event a name here; players never see it.</translation>
+      <translation>A name such as Warden helps you to find him among all the events. You may type one.</translation>
     </message>
     <message>
       <source>#54</source>
@@ -5347,7 +5347,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#93</source>
-      <translation>A right click on the tab of a page has the same commands as the buttons above.</translation>
+      <translation>One page too many? A right click on its tab has “Delete page”.</translation>
     </message>
     <message>
       <source>#94</source>
@@ -5415,7 +5415,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#110</source>
-      <translation>“A” is free: each event has a switch A of its own.</translation>
+      <translation>“A” is chosen, as it was with Toma. Each event has an A of its own.</translation>
     </message>
     <message>
       <source>#111</source>
@@ -5535,7 +5535,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, in which the boss fights alone? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with a boss who is alone? “No” opens one of yours, such as lesson 16's.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5575,7 +5575,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>Whoever examines the warden has to fight the troop “The stone warden” and cannot flee.</translation>
+      <translation>Whoever examines the warden has to fight his troop and cannot flee.</translation>
     </message>
     <message>
       <source>#13</source>
@@ -5655,7 +5655,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>Click “Add…” below “Traits”. Traits always hold.</translation>
+      <translation>The beetle gets a trait, too. Click “Add…” below “Traits”.</translation>
     </message>
     <message>
       <source>#33</source>
@@ -5707,7 +5707,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#45</source>
-      <translation>Click “The stone warden”.</translation>
+      <translation>Click number 6, the troop of the warden.</translation>
     </message>
     <message>
       <source>#46</source>
@@ -5998,12 +5998,12 @@ Click “Next” to begin.</translation>
     <name>TutorialStep18</name>
     <message>
       <source>#1</source>
-      <translation>In this lesson you stage the end of the story, a scene.
+      <translation>In this lesson you stage the last scene, in four parts.
 Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with all but the end, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with all but the end? “No” opens one with a lamp's stand on the hilltop.</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6027,7 +6027,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#8</source>
-      <translation>Chapter 1: the way up. Click “Amberfield”, where it begins.</translation>
+      <translation>Part 1: the way up. Click “Amberfield”, where it begins.</translation>
     </message>
     <message>
       <source>#9</source>
@@ -6147,7 +6147,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#38</source>
-      <translation>Chapter 2: the words. Double-click this free cell. The event of the scene goes here.</translation>
+      <translation>Part 2: the words. Double-click this free cell. The event of the scene goes here.</translation>
     </message>
     <message>
       <source>#39</source>
@@ -6239,7 +6239,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Chapter 3: the movement. After these words Mila walks to the lamp. Double-click “+”.</translation>
+      <translation>Part 3: the movement. After these words Mila walks to the lamp. Double-click “+”.</translation>
     </message>
     <message>
       <source>#62</source>
@@ -6311,7 +6311,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#79</source>
-      <translation>Chapter 4: the end. When the lamp burns, there is music. Double-click “+”.</translation>
+      <translation>Part 4: the end. When the lamp burns, there is music. Double-click “+”.</translation>
     </message>
     <message>
       <source>#80</source>
@@ -6419,7 +6419,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with the whole game, for this lesson? “No” lets you open one of yours.</translation>
+      <translation>Make a new project, with the whole game? “No” opens one of yours, such as lesson 18's.</translation>
     </message>
     <message>
       <source>#3</source>

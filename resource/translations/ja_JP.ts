@@ -1107,7 +1107,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>自分のマップを右クリックしてください。「マップを削除」は、描いた内容ごと消します。</translation>
+      <translation>自分のマップを右クリックしてください。「マップを削除」は中身ごと消すので、選びません。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1215,7 +1215,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>村の入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>このコースの村が入ったプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1395,7 +1395,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>「シーン」タブをクリックしてください。マップの見え方を変えるコマンドです。</translation>
+      <translation>「シーン」タブをクリックしてください。マップの見え方を変えるコマンドがあります。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -1403,7 +1403,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>知らせを聞いたプレイヤーの頭の上に出ます。</translation>
+      <translation>フキダシは、知らせを聞いたプレイヤーの頭の上に出ます。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -1435,7 +1435,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>完成です！イベントを作り、姿を選び、話をさせられるようになりました。</translation>
+      <translation>完成です！話す人物を作れるようになりました。ツールバーの「プレイ」でピップに会えます。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1555,7 +1555,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>種類が名前になっています。出口など、わかりやすい名前に変えてもかまいません。</translation>
+      <translation>簡単作成が付けた名前です。出口など、わかりやすい名前に変えてもかまいません。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -1567,7 +1567,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>イベントには出現条件を付けられます。ここには何もないので、出口はいつでも使えます。</translation>
+      <translation>ピップと同じく、出現条件はありません。出口はいつでも使えます。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -1587,7 +1587,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「キャンセル」なら、このウィンドウで変えたことは残りません。「OK」なら残ります。</translation>
+      <translation>試しただけなら、「キャンセル」でやめられます。今回は「OK」を使います。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -1663,11 +1663,11 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>新しいゲームを始め、矢印キーでドアまで歩きます。入れたら「次へ」をクリックします。</translation>
+      <translation>新しいゲームを始め、矢印キーでドアまで歩きます。入れたら「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#56</source>
-      <translation>宝箱の前で2回ずつEnterキーを押して、家を出ます。エディターへはEscキーで戻ります。</translation>
+      <translation>宝箱の前で2回ずつEnterキーを押して、家を出ます。最後にEscキーでエディターに戻ります。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -1678,12 +1678,12 @@
     <name>TutorialStep4</name>
     <message>
       <source>#1</source>
-      <translation>薬草を見つけるとピップの話が変わるようにします。
+      <translation>このレッスンでは、薬草を見つけるとピップの話が変わります。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>ピップと宝箱の入ったプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>ピップと宝箱のあるプロジェクトを作りますか？「いいえ」なら、レッスン3などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1691,7 +1691,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。ピップと、宝箱のあるミラの家が入ります。</translation>
+      <translation>「OK」をクリックしてください。ピップと、宝箱のあるミラの家がプロジェクトに入ります。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -1755,7 +1755,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>2ページ目は何もしません。だから、物語は一度しか流れません。</translation>
+      <translation>2ページ目は何もしません。だから、物語は1度しか流れません。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -1895,7 +1895,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>ピップと話し、家の右の宝箱を開けて、もう一度話します。戻るにはEscキーです。</translation>
+      <translation>ピップと話し、家の中の右の宝箱を開けて、もう一度話します。Escキーで戻ります。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -1939,19 +1939,19 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>完成です！ページでイベントを変えられます。レッスン5は会話です。「次へ」で終わります。</translation>
+      <translation>完成です！ページでイベントを変えられるようになりました。レッスン5では、会話を作ります。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep5</name>
     <message>
       <source>#1</source>
-      <translation>長老の頼みに返事を選べる会話を作ります。
+      <translation>このレッスンでは、長老の頼みに返事を選べる会話を作ります。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>村の入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>村の入った新しいプロジェクトを作りますか？「いいえ」なら、レッスン4などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1959,7 +1959,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。ピップとミラの家がある村が入ります。</translation>
+      <translation>「OK」をクリックしてください。ピップとミラの家がある村がプロジェクトに入ります。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -2011,7 +2011,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>では、ここは空のままにします。長老はじっと立ちます。あとからでも変えられます。</translation>
+      <translation>では、ここはオフのままにします。長老はじっと立ちます。あとからでも変えられます。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -2031,7 +2031,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>頼みの言葉（ランプをさがしてくれるか？など）を入力し、「次へ」をクリックします。</translation>
+      <translation>頼みの言葉（ランプをさがしてくれるか？など）を入力し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -2083,7 +2083,7 @@
     </message>
     <message>
       <source>#35</source>
-      <translation>お礼の言葉（ありがとう、ミラ！など）を入力し、「次へ」をクリックします。</translation>
+      <translation>お礼の言葉（ありがとう、ミラ！など）を入力し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#36</source>
@@ -2091,7 +2091,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>断られたときの言葉（また来なさい、など）を入力し、「次へ」をクリックします。</translation>
+      <translation>断られたときの言葉（また来なさい、など）を入力し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -2119,7 +2119,7 @@
     </message>
     <message>
       <source>#44</source>
-      <translation>この欄をクリックして「長老にたのまれた」を選び、「次へ」をクリックします。</translation>
+      <translation>この欄をクリックして「長老にたのまれた」を選び、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -2219,7 +2219,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>トーマの言葉（おれも行く、など）を入力し、「次へ」をクリックします。</translation>
+      <translation>トーマの言葉（おれも行く、など）を入力し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>この欄をクリックして「トーマ」を選び、「次へ」をクリックします。</translation>
+      <translation>この欄をクリックして「トーマ」を選び、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#76</source>
@@ -2295,7 +2295,7 @@
     </message>
     <message>
       <source>#88</source>
-      <translation>「セルフスイッチ」の欄をクリックして「A」を選び、「次へ」をクリックします。</translation>
+      <translation>「セルフスイッチ」の欄をクリックして「A」を選び、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -2323,7 +2323,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>完成です！選べる会話ができ、仲間も増えました。レッスン6では主人公にマントを着せます。</translation>
+      <translation>完成です！返事を選べる会話ができ、仲間も増えました。レッスン6では主人公の装備を作ります。</translation>
     </message>
   </context>
   <context>
@@ -2335,7 +2335,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>このレッスン用の新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、レッスン5などの続きとして進めます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2391,7 +2391,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>コマンドを右クリックすると、コピーや削除ができます。今はこのままにします。</translation>
+      <translation>その行を右クリックして削除すると、トーマは仲間になりません。今はこのままにします。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2423,7 +2423,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>「防御力」が高いほど、敵の攻撃で受けるダメージが減ります。マントなら4くらいです。</translation>
+      <translation>「防御力」が高いほど、受けるダメージが減ります。よければ4などと入力してください。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -2451,7 +2451,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>Escキーを、ゲームが閉じるまで押してください。</translation>
+      <translation>ゲームが閉じるまで、Escキーを押してください。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -2479,7 +2479,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>無人の店と宿屋のあるプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>無人の店と宿屋のあるプロジェクトを作りますか？「いいえ」なら、レッスン6などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2535,7 +2535,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>このマスをダブルクリックしてください。空いたマスなら、新しいイベントができます。</translation>
+      <translation>このマスをダブルクリックして、商人のイベントを作ります。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -2595,7 +2595,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>話しかけた人のほうを向きます。「向きを変えない」をオンにすると向きません。</translation>
+      <translation>ブルーノは話しかけた人のほうを向きます。「向きを変えない」をオンにすると向きません。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -2651,7 +2651,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>リストの2番目、旅のマントを選んでください。</translation>
+      <translation>リストの2番目、ミラの着ているマントを選んでください。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -2679,11 +2679,11 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>この行を右クリックするとコピーできます。ほかの村の店にも使えます。</translation>
+      <translation>店の行を右クリックするとコピーできます。ほかの村の店にも使えます。</translation>
     </message>
     <message>
       <source>#53</source>
-      <translation>ページの番号を右クリックすると、ページ全体をコピーできます。</translation>
+      <translation>ページのタブを右クリックするとコピーできます。別の商品を並べる2ページ目に使えます。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -2699,7 +2699,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>カウンターの奥のこのマスに主人が立ちます。クリックしてから、「次へ」をクリックします。</translation>
+      <translation>カウンターの奥に宿屋の主人が立ちます。このマスをクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -2711,7 +2711,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>主人は泊まるかを聞き、お金を受け取ります。ひと晩でパーティーは全回復します。</translation>
+      <translation>宿屋の主人は泊まるか聞き、お金を受け取ります。ひと晩でパーティーは全回復します。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -2727,7 +2727,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>東の2軒に入り、カウンターを回りこんでEnterキーを押します。済んだら「次へ」です。</translation>
+      <translation>東の2軒に入り、カウンターを回り込んでEnterキーを押します。済んだら「次へ」です。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -2751,7 +2751,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>村と森の間に道のないプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>村と森の間に道のないプロジェクトを作りますか？「いいえ」なら、レッスン7などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2907,7 +2907,7 @@
     </message>
     <message>
       <source>#41</source>
-      <translation>音楽はマップごとで、着くと切り替わります。「選択…」をクリックしてください。</translation>
+      <translation>音楽はマップごとに決められ、着くと切り替わります。「選択…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -2923,7 +2923,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>雪原で迷ったら、彼にたずねます。森まで連れて帰ってくれる衛兵です。</translation>
+      <translation>雪原で迷った人が話しかけると、森まで連れて帰ってくれる衛兵です。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -2955,7 +2955,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>先に話をさせます。「メッセージ」タブをクリックしてください。</translation>
+      <translation>先に話をさせます。「メッセージ」タブをクリックして、手前に出しておきます。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -3062,7 +3062,8 @@
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、引いたことをゲームが覚えるレバーを作り、門を開けます。</translation>
+      <translation>このレッスンでは、レバーで門を開け、開けたままにします。
+「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
@@ -3106,7 +3107,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>レバーは、もう質問をします。この答えを選ぶと、下の字下げした行が実行されます。</translation>
+      <translation>質問はもう入っています。この答えを選ぶと、下の字下げした行が実行されます。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -3126,7 +3127,7 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>スイッチはONかOFFです。ゲームが覚えていて、どのマップからも調べられます。</translation>
+      <translation>スイッチはレッスン4で使いました。どのマップのイベントからも、門からも調べられます。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -3134,7 +3135,7 @@
     </message>
     <message>
       <source>#19</source>
-      <translation>「門が開いた」をクリックします。門が待っているスイッチです。名前は自分用の目印です。</translation>
+      <translation>「門が開いた」をクリックしてください。門が待っているスイッチです。名前は自分用の目印です。</translation>
     </message>
     <message>
       <source>#20</source>
@@ -3150,7 +3151,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>その下の「+」をダブルクリックします。回数も数えさせましょう。</translation>
+      <translation>その下の「+」をダブルクリックしてください。回数も数えさせましょう。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -3182,11 +3183,11 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>引いたレバーは、引いた姿にします。「ページ追加」をクリックしてください。</translation>
+      <translation>引いたあとは、引いた姿に変えます。「ページ追加」をクリックしてください。</translation>
     </message>
     <message>
       <source>#32</source>
-      <translation>2ページ目が表示されています。出現条件の合うページのうち、最後のものが使われます。</translation>
+      <translation>2ページ目が表示されています。まだ空なので、出現条件と画像が要ります。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -3238,7 +3239,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>完成です！スイッチと変数の使い方を覚えました。レッスン10は音楽です。</translation>
+      <translation>完成です！スイッチと変数の使い方を覚えました。レッスン10では、音楽を付けます。</translation>
     </message>
   </context>
   <context>
@@ -3250,7 +3251,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>村や鉱山の入った新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>村と鉱山の入ったプロジェクトを作りますか？「いいえ」なら、レッスン9などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3274,7 +3275,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>音楽はマップごとに決めます。プレイヤーが入ると始まり、次のマップまで続きます。</translation>
+      <translation>レッスン8の雪原のように、音楽はマップごとに決めます。村にも付けましょう。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -3302,7 +3303,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>マップの一覧で「アンバー村」をクリックしてください。</translation>
+      <translation>マップ一覧の「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -3374,11 +3375,11 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>次は戦闘です。敵キャラの後ろに見えるのが戦闘の背景で、ここでは「山」です。</translation>
+      <translation>次は戦闘です。敵キャラの後ろが戦闘の背景で、「鉱山の入口」では「山」です。</translation>
     </message>
     <message>
       <source>#34</source>
-      <translation>マップの一覧で「古い鉱山」をクリックしてください。</translation>
+      <translation>マップ一覧の「古い鉱山」をクリックしてください。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -3398,7 +3399,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>名前をいくつかクリックして、右の絵を見比べます。そのあと「次へ」です。</translation>
+      <translation>名前をいくつかクリックして、右の絵を見比べます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -3442,7 +3443,7 @@
     </message>
     <message>
       <source>#50</source>
-      <translation>完成です！マップに音楽と、着いたときに出る名前、戦闘の背景を付けられます。</translation>
+      <translation>完成です！マップに音楽、着いたときに出る名前、戦闘の背景を付けられるようになりました。</translation>
     </message>
     <message>
       <source>#51</source>
@@ -3453,7 +3454,8 @@
     <name>TutorialStep11</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、村を巡回する衛兵と、鉱山を見張る衛兵を置きます。</translation>
+      <translation>このレッスンでは、村を巡回する衛兵と鉱山の見張りを置きます。
+「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
@@ -3465,7 +3467,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。村と鉱山、衛兵みんなが使う言葉が入ります。</translation>
+      <translation>「OK」をクリックしてください。村と鉱山、衛兵共通の言葉がプロジェクトに入ります。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -3629,7 +3631,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>衛兵が思いどおりに歩くか、「プレイ」で新しいゲームを始めて確かめます。すぐ下にいます。</translation>
+      <translation>「プレイ」をクリックして、新しいゲームを始めます。衛兵は、すぐ下を歩いているはずです。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -3657,7 +3659,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>「向きを変えない」をクリックします。話しかけられても、前を向いたままです。</translation>
+      <translation>「向きを変えない」をクリックしてください。話しかけられても、前を向いたままです。</translation>
     </message>
     <message>
       <source>#53</source>
@@ -3677,11 +3679,11 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>「OK」をクリックします。これで2人が同じ言葉を使います。</translation>
+      <translation>「OK」をクリックしてください。これで2人が同じ言葉を使います。</translation>
     </message>
     <message>
       <source>#58</source>
-      <translation>呼び出しの行をクリックします。コモンイベントを直せば、衛兵全員の言葉が変わります。</translation>
+      <translation>呼び出しの行をクリックしてください。コモンイベントを直せば、衛兵全員の言葉が変わります。</translation>
     </message>
     <message>
       <source>#59</source>
@@ -3705,7 +3707,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>ここもクリックします。それ以外のとき、つまり門が開いたあとの分岐ができます。</translation>
+      <translation>ここもクリックしてください。それ以外のとき、つまり門が開いたあとの分岐ができます。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -3729,7 +3731,7 @@
     </message>
     <message>
       <source>#70</source>
-      <translation>この「+」をダブルクリックします。もうレバーの話はさせません。</translation>
+      <translation>この「+」をダブルクリックしてください。もうレバーの話はさせません。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -3749,7 +3751,7 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>もう一度「プレイ」をクリックします。鉱山は村の南、森の先です。</translation>
+      <translation>もう一度「プレイ」をクリックしてください。鉱山は村の南、森の先です。</translation>
     </message>
     <message>
       <source>#76</source>
@@ -3757,19 +3759,19 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>完成です！移動ルートとコモンイベントと条件分岐を覚えました。次はデータベースです。</translation>
+      <translation>完成です！移動ルートとコモンイベントを覚えました。レッスン12ではデータベースを巡ります。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep12</name>
     <message>
       <source>#1</source>
-      <translation>データベースを見て回り、3人目の仲間セナを作ります。
+      <translation>このレッスンではデータベースを巡り、3人目の仲間を作ります。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>仲間が2人いる新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>仲間が2人いるプロジェクトを作りますか？「いいえ」なら、レッスン11などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3817,7 +3819,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>種類ごとにタブがあります。「アクター」が開いていなければ、クリックしてください。</translation>
+      <translation>レッスン6で使ったウィンドウです。「アクター」が開いていなければ、クリックしてください。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3845,7 +3847,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>「職業」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「職業」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -3869,7 +3871,7 @@
     </message>
     <message>
       <source>#27</source>
-      <translation>「アイテム」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「アイテム」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#28</source>
@@ -3881,7 +3883,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「武器」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「武器」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -3905,7 +3907,7 @@
     </message>
     <message>
       <source>#36</source>
-      <translation>「タイルセット」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「タイルセット」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -3917,7 +3919,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「コモンイベント」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「コモンイベント」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -3989,7 +3991,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>「コピー」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「コピー」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -4073,7 +4075,7 @@
     </message>
     <message>
       <source>#78</source>
-      <translation>「ニューゲーム」をクリックし、ミラが歩けるまで読みます。それから「次へ」です。</translation>
+      <translation>「ニューゲーム」をクリックし、ミラが歩けるまで読みます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#79</source>
@@ -4124,12 +4126,12 @@
     <name>TutorialStep13</name>
     <message>
       <source>#1</source>
-      <translation>薬を改良し、新しい剣を作り、マントを強くします。
+      <translation>このレッスンでは、もっとよい薬と剣とマントを作ります。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>店のある新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>店のある新しいプロジェクトを作りますか？「いいえ」なら、レッスン12などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4137,11 +4139,11 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。これまでの持ち物が入ったプロジェクトができます。</translation>
+      <translation>「OK」をクリックしてください。これまでのアイテムと武器、防具の入ったプロジェクトです。</translation>
     </message>
     <message>
       <source>#5</source>
-      <translation>持ち物のデータをコピーしています。終わると自動で先へ進みます。</translation>
+      <translation>アイテムなどをコピーしています。終わると自動で先へ進みます。</translation>
     </message>
     <message>
       <source>#6</source>
@@ -4157,7 +4159,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックしてください。マップが見やすい大きさになります。</translation>
+      <translation>「等倍」をクリックしてください。マップが元の大きさで表示されます。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -4181,7 +4183,7 @@
     </message>
     <message>
       <source>#15</source>
-      <translation>「ニューゲーム」をクリックし、ミラが歩けるまで読みます。それから「次へ」です。</translation>
+      <translation>「ニューゲーム」をクリックし、ミラが歩けるまで読みます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#16</source>
@@ -4209,7 +4211,7 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>使ったときの働きです。パンでは、HPが10回復します。</translation>
+      <translation>使ったときの働きです。パンは、HPを10回復します。</translation>
     </message>
     <message>
       <source>#23</source>
@@ -4257,7 +4259,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>「武器」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「武器」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4269,7 +4271,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>攻撃力の2倍から相手の防御力を引いた分がダメージです。1つの差が2倍になります。</translation>
+      <translation>攻撃力の2倍から相手の防御力を引いた分がダメージです。攻撃力1の差が2の差になります。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -4341,7 +4343,7 @@
     </message>
     <message>
       <source>#55</source>
-      <translation>「防具」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「防具」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#56</source>
@@ -4365,11 +4367,11 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>「アクター」をクリックします。そのあと「次へ」をクリックしてください。</translation>
+      <translation>「アクター」をクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>力持ちの「トーマ」をクリックしてください。新しい剣は彼に持たせます。</translation>
+      <translation>いちばん力持ちの「トーマ」をクリックしてください。新しい剣を持たせます。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -4377,11 +4379,11 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>トーマは血の気の多い人です。戦闘での行動を、自分で決めさせますか？</translation>
+      <translation>トーマは血の気の多い人です。戦闘での行動を、本人に任せますか？</translation>
     </message>
     <message>
       <source>#65</source>
-      <translation>「自分で選ぶ」のままにします。戦闘では、プレイヤーが行動を選びます。</translation>
+      <translation>では、「自分で選ぶ」のままにします。戦闘では、プレイヤーがトーマの行動を選びます。</translation>
     </message>
     <message>
       <source>#66</source>
@@ -4465,7 +4467,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>森がまだ平和な、新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>森がまだ平和なプロジェクトを作りますか？「いいえ」なら、レッスン13などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4549,7 +4551,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>新しい行が選ばれています。「貼り付け」で中身を入れて、「次へ」をクリックします。</translation>
+      <translation>新しい行が選ばれています。「貼り付け」をクリックして中身を入れます。そのあと「次へ」です。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -4577,7 +4579,7 @@
     </message>
     <message>
       <source>#30</source>
-      <translation>「追加」をクリックして、2つ目の敵グループを作ります。そのあと「次へ」です。</translation>
+      <translation>「追加」をクリックして、2つ目の敵グループを作ります。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#31</source>
@@ -4641,15 +4643,15 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>一覧のマップを右クリックしても、設定を開けます。ネズミもあとで加えられます。</translation>
+      <translation>ネズミも出しますか？一覧のマップを右クリックし、「マップの設定…」で加えられます。</translation>
     </message>
     <message>
       <source>#47</source>
-      <translation>「マップ」のモードなら、マップ画面を右クリックしても「マップの設定…」が出ます。</translation>
+      <translation>「マップ」のモードなら、マップ画面を右クリックしても、同じ設定を開けます。</translation>
     </message>
     <message>
       <source>#48</source>
-      <translation>いちばん上の村をクリックしてください。</translation>
+      <translation>いちばん上の「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -4669,7 +4671,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>「地面」タブをクリックしてください。</translation>
+      <translation>「地面」タブをクリックして、手前に出しておきます。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4693,7 +4695,7 @@
     </message>
     <message>
       <source>#59</source>
-      <translation>「イベント」のモードで右クリックすると、レッスン16のボスのように見える敵も作れます。</translation>
+      <translation>「イベント」のモードで右クリックすれば、レッスン16のボスのような、姿の見える敵も作れます。</translation>
     </message>
     <message>
       <source>#60</source>
@@ -4725,7 +4727,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>主人公が3人いる新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>主人公が3人のプロジェクトを作りますか？「いいえ」なら、職業「賢者」のあるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4749,11 +4751,11 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>「アンバー村」に主人公の1人がいます。倍率が100%でなければ、「等倍」をクリックします。</translation>
+      <translation>別のマップなら「アンバー村」を、倍率が100%でなければ「等倍」をクリックしてください。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>「イベント」をクリックすると、村の人たちが見えます。そのあと「次へ」です。</translation>
+      <translation>「イベント」をクリックすると、村の人たちが見えます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -4781,7 +4783,7 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>1つ目は回復のスキルです。名前（いやしなど）を入力して、「次へ」をクリックします。</translation>
+      <translation>まずは回復のスキルです。名前（いやしなど）を入力し、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#17</source>
@@ -4805,11 +4807,11 @@
     </message>
     <message>
       <source>#22</source>
-      <translation>「OK」をクリックして、1つ目を決定します。消費MPは0なので、何度でも使えます。</translation>
+      <translation>「OK」をクリックして、1つ目のスキルを決定します。消費MPは0なので、何度でも使えます。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>もう一度「データベース」をクリックします。次は2つ目のスキルです。</translation>
+      <translation>もう一度「データベース」をクリックしてください。次は2つ目のスキルです。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -4817,7 +4819,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>名前（火花など）を入力して、「次へ」をクリックしてください。</translation>
+      <translation>名前（火花など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -4865,7 +4867,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>もう一度「データベース」をクリックします。次は職業です。</translation>
+      <translation>もう一度「データベース」をクリックしてください。次は職業です。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -4885,7 +4887,7 @@
     </message>
     <message>
       <source>#42</source>
-      <translation>「特徴」の下の「追加…」をクリックします。特徴は、使わなくても常に働きます。</translation>
+      <translation>「特徴」の下の「追加…」をクリックしてください。職業にもマントと同じく特徴が付きます。</translation>
     </message>
     <message>
       <source>#43</source>
@@ -4893,7 +4895,7 @@
     </message>
     <message>
       <source>#44</source>
-      <translation>グラフは、レベルごとのHPの伸びです。トーマの職業は、3つの中でいちばんHPが多くなります。</translation>
+      <translation>レッスン12で見たHPのグラフです。特徴で、ミラのHPはどのレベルでも1割増えます。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -4921,7 +4923,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>「スキル」タブをクリックします。そのあと「次へ」をクリックします。</translation>
+      <translation>「スキル」タブをクリックしてから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -4941,7 +4943,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>「向きを変えない」をクリックします。話しかけられても、道から目を離しません。</translation>
+      <translation>「向きを変えない」をクリックしてください。話しかけられても、道から目を離しません。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -4981,7 +4983,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>このレッスン用の新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>新しいプロジェクトを作りますか？「いいえ」なら、敵キャラが5種類いるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4989,7 +4991,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>「OK」をクリックしてください。村から鉱山までがそろったプロジェクトができます。</translation>
+      <translation>「OK」をクリックします。村から鉱山までがそろったプロジェクトができます。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -4997,11 +4999,11 @@
     </message>
     <message>
       <source>#6</source>
-      <translation>「開く」をクリックしてください。プロジェクトの一覧が出ます。</translation>
+      <translation>「開く」をクリックします。プロジェクトの一覧が出ます。</translation>
     </message>
     <message>
       <source>#7</source>
-      <translation>一覧でプロジェクトを選び、「開く」をクリックしてください。</translation>
+      <translation>一覧でプロジェクトを選び、「開く」をクリックします。</translation>
     </message>
     <message>
       <source>#8</source>
@@ -5009,7 +5011,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>「等倍」をクリックしてください。矢印が正しいマスを指すようになります。</translation>
+      <translation>「等倍」をクリックします。矢印が正しいマスを指すようになります。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -5029,7 +5031,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>名前（暁のランプなど）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>名前（暁のランプなど）を入力してから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -5037,11 +5039,11 @@
     </message>
     <message>
       <source>#16</source>
-      <translation>ランプの光は力をくれます。「使用効果」の下の「追加…」をクリックしてください。</translation>
+      <translation>ランプの光は力をくれます。「使用効果」の下の「追加…」をクリックします。</translation>
     </message>
     <message>
       <source>#17</source>
-      <translation>「ポイント」に20と入力します。光でHPが20回復します。</translation>
+      <translation>「ポイント」に20と入力してください。光でHPが20回復します。</translation>
     </message>
     <message>
       <source>#18</source>
@@ -5057,15 +5059,15 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>名前（岩の番人など）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>名前（岩の番人など）を入力してから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#22</source>
-      <translation>「HP」に220と入力します。鉱山のほかの敵の何倍もあります。</translation>
+      <translation>「HP」に220と入力してください。鉱山のほかの敵の何倍もあります。</translation>
     </message>
     <message>
       <source>#23</source>
-      <translation>「攻撃力」に18と入力します。盾が役立つ強さです。</translation>
+      <translation>「攻撃力」に18と入力してください。盾が役立つ強さです。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -5097,7 +5099,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>「優先度」に7と入力します。行動が複数あるとき、高いほどよく選ばれます。</translation>
+      <translation>「優先度」に7と入力してください。行動が複数あるとき、高いほどよく選ばれます。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -5109,19 +5111,19 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>特徴は、いつも働く性質です。「特徴」の下の「追加…」をクリックしてください。</translation>
+      <translation>ボスにも職業のように特徴を付けられます。「特徴」の下の「追加…」をクリックします。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>120と入力します。周りの岩の力で「最大HP」が2割増えます。</translation>
+      <translation>120と入力してください。周りの岩の力で「最大HP」が2割増えます。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>戦闘の相手は敵グループです。「敵グループ」をクリックしてください。</translation>
+      <translation>戦闘の相手は敵グループです。「敵グループ」をクリックします。</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>敵グループの一覧の下の「追加」をクリックし、「次へ」をクリックしてください。</translation>
+      <translation>敵グループの一覧の下の「追加」をクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#38</source>
@@ -5133,11 +5135,11 @@
     </message>
     <message>
       <source>#40</source>
-      <translation>試しのパーティーで、ボスの強さを今すぐ確かめますか？</translation>
+      <translation>戦闘テストで、ボスの強さを今すぐ確かめますか？</translation>
     </message>
     <message>
       <source>#41</source>
-      <translation>絵の下の「戦闘テスト…」で、いつでも試せます。</translation>
+      <translation>画像の下の「戦闘テスト…」で、いつでも試せます。</translation>
     </message>
     <message>
       <source>#42</source>
@@ -5145,11 +5147,11 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>試しに戦う人の一覧です。ゲームのパーティーとは別に決められます。</translation>
+      <translation>テストで戦う人の一覧です。ゲームのパーティーとは別に決められます。</translation>
     </message>
     <message>
       <source>#44</source>
-      <translation>「追加」をクリックしてから、「次へ」をクリックしてください。</translation>
+      <translation>「追加」をクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -5157,7 +5159,7 @@
     </message>
     <message>
       <source>#46</source>
-      <translation>「レベル」に20と入力します。1人で勝つにはこのくらい必要です。</translation>
+      <translation>「レベル」に20と入力してください。1人で勝つにはこのくらい必要です。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -5165,7 +5167,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>「戦闘開始」で戦えます。終わったら「次へ」をクリックしてください。</translation>
+      <translation>「戦闘開始」で戦えます。終わったら「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -5177,7 +5179,7 @@
     </message>
     <message>
       <source>#51</source>
-      <translation>このマスをダブルクリックしてください。何もないマスなら、新しいイベントができます。</translation>
+      <translation>このマスをダブルクリックして、ボスのイベントを作ります。</translation>
     </message>
     <message>
       <source>#52</source>
@@ -5185,7 +5187,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>名前を付けられます。プレイヤーには見えません。</translation>
+      <translation>名前（番人など）を入力しておくと、イベントが増えても見つけやすくなります。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -5229,7 +5231,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>2人が話すので、顔で見分けられるようにします。「顔…」をクリックしてください。</translation>
+      <translation>2人が話すので、顔で見分けられるようにします。「顔…」をクリックします。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -5249,7 +5251,7 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>一覧の最後にある、作った敵グループを選びます。名前がないので、番号だけの行です。</translation>
+      <translation>一覧の最後にある、作った敵グループを選んでください。名前がないので、番号だけの行です。</translation>
     </message>
     <message>
       <source>#70</source>
@@ -5265,7 +5267,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>その下の「+」をダブルクリックします。勝利にふさわしい音楽を流しましょう。</translation>
+      <translation>その下の「+」をダブルクリックしてください。勝利にふさわしい音楽を流しましょう。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -5317,7 +5319,7 @@
     </message>
     <message>
       <source>#86</source>
-      <translation>そのあとボスは消えます。「ページ追加」をクリックしてください。</translation>
+      <translation>そのあとボスは消えます。「ページ追加」をクリックします。</translation>
     </message>
     <message>
       <source>#87</source>
@@ -5345,7 +5347,7 @@
     </message>
     <message>
       <source>#93</source>
-      <translation>ページのタブを右クリックすると、上のボタンと同じ操作を選べます。</translation>
+      <translation>ページが余分なときは、タブを右クリックして「ページの削除」を選びます。</translation>
     </message>
     <message>
       <source>#94</source>
@@ -5353,7 +5355,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>仲間がもう1人要ります。マップ一覧の「宿屋」をクリックしてください。</translation>
+      <translation>仲間がもう1人要ります。マップ一覧の「宿屋」をクリックします。</translation>
     </message>
     <message>
       <source>#96</source>
@@ -5373,11 +5375,11 @@
     </message>
     <message>
       <source>#100</source>
-      <translation>セナの言葉（わたしも行く！など）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>セナの言葉（わたしも行く！など）を入力してから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#101</source>
-      <translation>手がかり（鉱山で何かが目を覚ました、など）を入力してから、「次へ」です。</translation>
+      <translation>手がかり（鉱山で何かが目を覚ました、など）を入力し、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#102</source>
@@ -5385,7 +5387,7 @@
     </message>
     <message>
       <source>#103</source>
-      <translation>「パーティー」タブをクリックしてから、「次へ」をクリックしてください。</translation>
+      <translation>「パーティー」タブをクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#104</source>
@@ -5405,7 +5407,7 @@
     </message>
     <message>
       <source>#108</source>
-      <translation>「フロー」タブをクリックしてから、「次へ」をクリックしてください。</translation>
+      <translation>「フロー」タブをクリックし、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#109</source>
@@ -5413,7 +5415,7 @@
     </message>
     <message>
       <source>#110</source>
-      <translation>「A」のままでかまいません。Aはイベントごとに別のスイッチです。</translation>
+      <translation>トーマのときと同じく「A」のままにします。Aはイベントごとに別のスイッチです。</translation>
     </message>
     <message>
       <source>#111</source>
@@ -5429,7 +5431,7 @@
     </message>
     <message>
       <source>#114</source>
-      <translation>「セルフスイッチ」で「A」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>「セルフスイッチ」で「A」を選んでから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#115</source>
@@ -5473,7 +5475,7 @@
     </message>
     <message>
       <source>#125</source>
-      <translation>「スイッチ」で「番人を倒した」を選んでから、「次へ」をクリックしてください。</translation>
+      <translation>「スイッチ」で「番人を倒した」を選んでから、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#126</source>
@@ -5485,7 +5487,7 @@
     </message>
     <message>
       <source>#128</source>
-      <translation>言葉を（見つけたか！西の丘へ運んでおくれ、などに）書き換えて、「次へ」をクリックします。</translation>
+      <translation>喜びの言葉（見つけたか！丘の上へ運んでおくれ、など）に書き換え、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#129</source>
@@ -5501,7 +5503,7 @@
     </message>
     <message>
       <source>#132</source>
-      <translation>「保存」をクリックしてください。ボス、セナ、長老が書き込まれます。</translation>
+      <translation>「保存」をクリックします。ボス、セナ、長老が書き込まれます。</translation>
     </message>
     <message>
       <source>#133</source>
@@ -5533,7 +5535,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>ボスのいる新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>ボスが1体だけのプロジェクトを作りますか？「いいえ」なら、レッスン16などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5565,7 +5567,7 @@
     </message>
     <message>
       <source>#10</source>
-      <translation>マップの一覧で「古い鉱山」をクリックしてください。</translation>
+      <translation>マップ一覧の「古い鉱山」をクリックしてください。</translation>
     </message>
     <message>
       <source>#11</source>
@@ -5573,7 +5575,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>番人を調べると、敵グループ「岩の番人との戦い」との戦闘になり、逃げられません。</translation>
+      <translation>番人を調べると、その敵グループとの戦闘になり、逃げられません。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -5621,7 +5623,7 @@
     </message>
     <message>
       <source>#24</source>
-      <translation>10と入力します。10匹に1匹くらいが薬草を落とします。</translation>
+      <translation>10と入力してください。10匹に1匹くらいが薬草を落とします。</translation>
     </message>
     <message>
       <source>#25</source>
@@ -5637,7 +5639,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>3と入力します。手ごわい敵なので、落としやすくします。</translation>
+      <translation>3と入力してください。手ごわい敵なので、落としやすくします。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -5653,7 +5655,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>「特徴」の下の「追加…」をクリックします。特徴はいつでも働きます。</translation>
+      <translation>カブトムシにも特徴を付けます。「特徴」の下の「追加…」をクリックしてください。</translation>
     </message>
     <message>
       <source>#33</source>
@@ -5661,15 +5663,15 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>「OK」をクリックします。カブトムシとは、短期決戦がよさそうです。</translation>
+      <translation>「OK」をクリックしてください。カブトムシとは、短期決戦がよさそうです。</translation>
     </message>
     <message>
       <source>#35</source>
-      <translation>「ステート」タブをクリックします。ボス戦で使う、眠りのステートを作ります。</translation>
+      <translation>「ステート」タブをクリックしてください。ボス戦で使う、眠りのステートを作ります。</translation>
     </message>
     <message>
       <source>#36</source>
-      <translation>「追加」をクリックすると、新しいステートができます。そのあと「次へ」です。</translation>
+      <translation>「追加」をクリックすると、新しいステートができます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#37</source>
@@ -5681,11 +5683,11 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「ターン終了時」をクリックすると、自然に目が覚めます。そのあと「次へ」です。</translation>
+      <translation>「ターン終了時」をクリックすると、自然に目が覚めます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#40</source>
-      <translation>2と入力します。少なくとも2ターンは眠ります。</translation>
+      <translation>2と入力してください。少なくとも2ターンは眠ります。</translation>
     </message>
     <message>
       <source>#41</source>
@@ -5705,11 +5707,11 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>「岩の番人との戦い」をクリックしてください。</translation>
+      <translation>6番の、番人の敵グループをクリックしてください。</translation>
     </message>
     <message>
       <source>#46</source>
-      <translation>「追加」をクリックすると、メンバーが増えます。そのあと「次へ」です。</translation>
+      <translation>「追加」をクリックすると、メンバーが増えます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#47</source>
@@ -5717,11 +5719,11 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>200と入力します。コウモリが番人の左へ移ります。</translation>
+      <translation>200と入力してください。コウモリが番人の左へ移ります。</translation>
     </message>
     <message>
       <source>#49</source>
-      <translation>440と入力します。こちらは右側を飛びます。</translation>
+      <translation>440と入力してください。こちらは右側を飛びます。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -5733,7 +5735,7 @@
     </message>
     <message>
       <source>#52</source>
-      <translation>30と入力します。強いミラなら、戦いを最後まで見られます。</translation>
+      <translation>30と入力してください。強いミラなら、戦いを最後まで見られます。</translation>
     </message>
     <message>
       <source>#53</source>
@@ -5753,7 +5755,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>「OK」をクリックします。ミラはあとのテストにも参加します。</translation>
+      <translation>「OK」をクリックしてください。ミラはあとのテストにも参加します。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -5781,7 +5783,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>起こること（番人が岩の力を吸い取った！など）を入力します。そのあと「次へ」です。</translation>
+      <translation>出来事（番人が岩の力を吸い取った！など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#65</source>
@@ -5793,7 +5795,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>「画面」タブをクリックします。地面を揺らしましょう。</translation>
+      <translation>「画面」タブをクリックしてください。地面を揺らしましょう。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -5801,11 +5803,11 @@
     </message>
     <message>
       <source>#69</source>
-      <translation>8と入力します。最大の9に近い、強い揺れです。</translation>
+      <translation>8と入力してください。最大の9に近い、強い揺れです。</translation>
     </message>
     <message>
       <source>#70</source>
-      <translation>40と入力します。40フレーム、つまり1秒の3分の2です。</translation>
+      <translation>40と入力してください。40フレーム、つまり1秒の3分の2です。</translation>
     </message>
     <message>
       <source>#71</source>
@@ -5813,7 +5815,7 @@
     </message>
     <message>
       <source>#72</source>
-      <translation>「画面のフラッシュ」をダブルクリックします。これだけでコマンドが決まります。</translation>
+      <translation>「画面のフラッシュ」をダブルクリックしてください。これだけでコマンドが決まります。</translation>
     </message>
     <message>
       <source>#73</source>
@@ -5825,11 +5827,11 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>20と入力します。光はすぐに消えます。</translation>
+      <translation>20と入力してください。光はすぐに消えます。</translation>
     </message>
     <message>
       <source>#76</source>
-      <translation>「フロー」タブをクリックします。ここで少し間を置きます。</translation>
+      <translation>「フロー」タブをクリックしてください。ここで少し間を置きます。</translation>
     </message>
     <message>
       <source>#77</source>
@@ -5837,7 +5839,7 @@
     </message>
     <message>
       <source>#78</source>
-      <translation>20と入力します。</translation>
+      <translation>20と入力してください。</translation>
     </message>
     <message>
       <source>#79</source>
@@ -5849,7 +5851,7 @@
     </message>
     <message>
       <source>#81</source>
-      <translation>敵キャラを回復、出現、行動させたり、戦闘を中断したりできます。</translation>
+      <translation>敵キャラの回復、出現、行動や、戦闘の中断ができるコマンドです。</translation>
     </message>
     <message>
       <source>#82</source>
@@ -5865,7 +5867,7 @@
     </message>
     <message>
       <source>#85</source>
-      <translation>30と入力します。HPが30戻ります。</translation>
+      <translation>30と入力してください。HPが30回復します。</translation>
     </message>
     <message>
       <source>#86</source>
@@ -5885,11 +5887,11 @@
     </message>
     <message>
       <source>#90</source>
-      <translation>3と入力します。3ターン目の始めに起こります。</translation>
+      <translation>3と入力してください。3ターン目の始めに起こります。</translation>
     </message>
     <message>
       <source>#91</source>
-      <translation>「戦闘」タブのままなので、「敵キャラのステートの変更」をクリックします。</translation>
+      <translation>「戦闘」タブのままなので、「敵キャラのステートの変更」をクリックしてください。</translation>
     </message>
     <message>
       <source>#92</source>
@@ -5901,11 +5903,11 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>「ステート」で、最後にある自分で作ったものを選びます。</translation>
+      <translation>「ステート」で、最後にある自分で作ったものを選んでください。</translation>
     </message>
     <message>
       <source>#95</source>
-      <translation>「メッセージ」タブをクリックします。ミラが気づきます。</translation>
+      <translation>「メッセージ」タブをクリックしてください。ミラが気づきます。</translation>
     </message>
     <message>
       <source>#96</source>
@@ -5925,7 +5927,7 @@
     </message>
     <message>
       <source>#100</source>
-      <translation>「話す人」をクリックして、ミラの名前を書きます。そのあと「次へ」です。</translation>
+      <translation>「話す人」をクリックして、ミラの名前を入力します。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#101</source>
@@ -5941,7 +5943,7 @@
     </message>
     <message>
       <source>#104</source>
-      <translation>トーマの返事（今のうちに攻めるんだ！など）を入力します。そのあと「次へ」です。</translation>
+      <translation>トーマの返事（今のうちに攻めるんだ！など）を入力し、「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#105</source>
@@ -5961,7 +5963,7 @@
     </message>
     <message>
       <source>#109</source>
-      <translation>8と入力します。ゲームでここに来るころのミラに近い強さです。</translation>
+      <translation>8と入力してください。ゲームでここに来るころのミラに近い強さです。</translation>
     </message>
     <message>
       <source>#110</source>
@@ -5989,19 +5991,19 @@
     </message>
     <message>
       <source>#116</source>
-      <translation>レッスン18では、自動で進むイベントシーンを作ります。「次へ」で終わります。</translation>
+      <translation>レッスン18では、自動で進むイベントシーンを作ります。「次へ」をクリックすると終わります。</translation>
     </message>
   </context>
   <context>
     <name>TutorialStep18</name>
     <message>
       <source>#1</source>
-      <translation>このレッスンでは、物語の結末になるイベントシーンを作ります。
+      <translation>このレッスンでは、結末のシーンを4部に分けて作ります。
 「次へ」で始まります。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>結末だけがない新しいプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>結末のないプロジェクトを作りますか？「いいえ」なら、丘の上にランプ台のあるものを開きます。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6025,7 +6027,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>第1章は丘への道です。道の始まる「アンバー村」をクリックしてください。</translation>
+      <translation>第1部は丘への道です。道の始まる「アンバー村」をクリックしてください。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -6085,7 +6087,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>「ページコピー」をクリックします。帰り道もよく似ているので、あとで使います。</translation>
+      <translation>「ページコピー」をクリックしてください。帰り道もよく似ているので、あとで使います。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -6093,7 +6095,7 @@
     </message>
     <message>
       <source>#25</source>
-      <translation>道は2マス幅です。あとで右クリックの「イベントのコピー」で、下のマスにも置けます。</translation>
+      <translation>道の幅は2マスです。あとで右クリックの「イベントのコピー」で、下のマスにも置けます。</translation>
     </message>
     <message>
       <source>#26</source>
@@ -6105,7 +6107,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>「ページ貼り付け」をクリックします。コマンドも開始条件も一緒に入ります。</translation>
+      <translation>「ページ貼り付け」をクリックしてください。コマンドも開始条件も一緒に入ります。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -6145,7 +6147,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>第2章はせりふです。この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
+      <translation>第2部はせりふです。この空いたマスをダブルクリックして、シーンのイベントを置きます。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -6169,7 +6171,7 @@
     </message>
     <message>
       <source>#44</source>
-      <translation>「顔…」をクリックします。顔があると、だれの言葉かすぐわかります。</translation>
+      <translation>「顔…」をクリックしてください。顔があると、だれの言葉かすぐわかります。</translation>
     </message>
     <message>
       <source>#45</source>
@@ -6185,7 +6187,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>ミラの言葉（見て、村じゅうが見えるよ、など）を入力して、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -6209,7 +6211,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>トーマの言葉（もうすぐ明るくなるぞ、など）を入力して、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -6225,7 +6227,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックします。</translation>
+      <translation>お礼の言葉（光を取り戻してくれたな、など）を入力して、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#59</source>
@@ -6233,15 +6235,15 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>最後のメッセージをクリックします。長老の言葉で、その前に2人が話します。</translation>
+      <translation>最後のメッセージをクリックしてください。長老の言葉で、その前に2人が話します。</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>第3章は動きです。ミラがランプへ歩きます。「+」をダブルクリックしてください。</translation>
+      <translation>第3部は動きです。ミラがランプへ歩きます。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#62</source>
-      <translation>「移動ルートの設定」をクリックします。だれかを歩かせるコマンドです。</translation>
+      <translation>「移動ルートの設定」をクリックしてください。だれかを歩かせるコマンドです。</translation>
     </message>
     <message>
       <source>#63</source>
@@ -6261,7 +6263,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>「スイッチON…」をクリックします。着いたときに、スイッチでランプを灯します。</translation>
+      <translation>「スイッチON…」をクリックしてください。着いたときに、スイッチでランプを灯します。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -6285,7 +6287,7 @@
     </message>
     <message>
       <source>#73</source>
-      <translation>「OK」をクリックします。スイッチはルートの最後に入りました。</translation>
+      <translation>「OK」をクリックしてください。スイッチはルートの最後に入りました。</translation>
     </message>
     <message>
       <source>#74</source>
@@ -6301,7 +6303,7 @@
     </message>
     <message>
       <source>#77</source>
-      <translation>ここにチェックがあれば、歩き終わるまで次のコマンドは待ちます。</translation>
+      <translation>ここがオンなら、歩き終わるまで次のコマンドは待ちます。</translation>
     </message>
     <message>
       <source>#78</source>
@@ -6309,7 +6311,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>第4章は結末です。ランプが灯ると音楽が流れます。「+」をダブルクリックしてください。</translation>
+      <translation>第4部は結末です。ランプが灯ると音楽が流れます。「+」をダブルクリックしてください。</translation>
     </message>
     <message>
       <source>#80</source>
@@ -6341,11 +6343,11 @@
     </message>
     <message>
       <source>#87</source>
-      <translation>シーンは1回だけでよいので、「ページ追加」をクリックします。</translation>
+      <translation>シーンは1回だけでよいので、「ページ追加」をクリックしてください。</translation>
     </message>
     <message>
       <source>#88</source>
-      <translation>条件として、新しく作った最後のスイッチを選びます。そのあと「次へ」です。</translation>
+      <translation>条件として、新しく作った最後のスイッチを選びます。そのあと「次へ」をクリックします。</translation>
     </message>
     <message>
       <source>#89</source>
@@ -6393,7 +6395,7 @@
     </message>
     <message>
       <source>#100</source>
-      <translation>「向きを変えない」をクリックします。ランプは、だれのほうも向きません。</translation>
+      <translation>「向きを変えない」をクリックしてください。ランプは、だれのほうも向きません。</translation>
     </message>
     <message>
       <source>#101</source>
@@ -6417,7 +6419,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>ゲーム全体の入ったプロジェクトを作りますか？「いいえ」なら、今あるものを開きます。</translation>
+      <translation>ゲーム全体の入ったプロジェクトを作りますか？「いいえ」なら、レッスン18などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6537,7 +6539,7 @@
     </message>
     <message>
       <source>#32</source>
-      <translation>マップも人物も戦闘も作り、1本のゲームになりました。おめでとうございます！</translation>
+      <translation>マップ、人物、戦闘、シーンを作り、1本のゲームになりました。おめでとうございます！</translation>
     </message>
     <message>
       <source>#33</source>

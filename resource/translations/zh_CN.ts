@@ -1215,7 +1215,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个带村庄的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个带有本课程村庄的项目吗？选“否”可以打开已有的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1379,7 +1379,7 @@
     </message>
     <message>
       <source>#43</source>
-      <translation>选中的消息可以用 Ctrl+C 复制，也能用到别的事件里。</translation>
+      <translation>选中的消息可以用 Ctrl+C 复制，也能粘贴到别的事件里。</translation>
     </message>
     <message>
       <source>#44</source>
@@ -1435,7 +1435,7 @@
     </message>
     <message>
       <source>#57</source>
-      <translation>完成了！你会制作事件、选择外观，还能让它说话了。</translation>
+      <translation>完成了！你会制作能说话的人物了。用工具栏里的“试玩”，可以在游戏里见到皮普。</translation>
     </message>
     <message>
       <source>#58</source>
@@ -1555,7 +1555,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>名称就是它的种类。可以改成更好找的名称，例如：出口。</translation>
+      <translation>快速事件给它起名为“通道”。可以改成更好找的名称，例如：出口。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -1639,7 +1639,7 @@
     </message>
     <message>
       <source>#49</source>
-      <translation>右键点击这个离门远的格子。然后点击“下一步”。</translation>
+      <translation>右键点击这个离门远的格子，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#50</source>
@@ -1659,7 +1659,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>点击“试玩”，亲自看看那扇门能不能进屋。</translation>
+      <translation>点击“试玩”，亲自看看能不能从那扇门进屋。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -1811,7 +1811,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>已经选中“ON”：打开宝箱，开关就会打开。</translation>
+      <translation>已经选中“ON”：宝箱一打开，开关就变成 ON。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -1939,7 +1939,7 @@
     </message>
     <message>
       <source>#66</source>
-      <translation>完成了！你会用页面让事件变化了。第 5 课制作对话。点击“下一步”结束。</translation>
+      <translation>完成了！你会用页面让事件变化了。第 5 课制作对话。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -1979,7 +1979,7 @@
     </message>
     <message>
       <source>#9</source>
-      <translation>点击“实际大小”，让箭头指向正确的格子，然后点击“下一步”。</translation>
+      <translation>点击“实际大小”，让箭头指向正确的格子。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -2259,7 +2259,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>它和开关一样有 ON 和 OFF，但只属于一个事件，可以用作页的出现条件。</translation>
+      <translation>它和开关一样有 ON 和 OFF，但只属于一个事件，可以用作页面的出现条件。</translation>
     </message>
     <message>
       <source>#80</source>
@@ -2323,7 +2323,7 @@
     </message>
     <message>
       <source>#95</source>
-      <translation>完成了！玩家能做选择，队伍也有了新成员。第 6 课讲主角。点击“下一步”结束。</translation>
+      <translation>完成了！玩家能做选择，队伍也有了新成员。第 6 课讲主角。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -2479,7 +2479,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个项目吗？里面有空的商店和旅店。选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个项目吗？里面的商店和旅店还没有人。选“否”可以打开已有的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2651,7 +2651,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>选择列表中的第二种：旅行斗篷。</translation>
+      <translation>选择列表中的第二种，也就是米拉穿的斗篷。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -2787,7 +2787,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>路从这里通出村庄。点击这一格，选中它。</translation>
+      <translation>路从这里通往村外。点击这一格，选中它。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -2823,7 +2823,7 @@
     </message>
     <message>
       <source>#20</source>
-      <translation>双击这一格，路从这里向北通出森林。</translation>
+      <translation>双击这一格，路从这里向北通往森林外。</translation>
     </message>
     <message>
       <source>#21</source>
@@ -2875,7 +2875,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>换地图时画面会暗一下。如果是梦境，用“白色”更合适。</translation>
+      <translation>换地图时画面会短暂变黑。如果是梦境，用“白色”更合适。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -3011,7 +3011,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>点击这一格，路从这里向南通出森林。</translation>
+      <translation>点击这一格，路从这里向南通往森林外。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3062,7 +3062,7 @@
     <name>TutorialStep9</name>
     <message>
       <source>#1</source>
-      <translation>这一课让拉杆打开大门：游戏会记住拉杆被拉动过。</translation>
+      <translation>这一课用拉杆打开大门，打开后就一直开着。</translation>
     </message>
     <message>
       <source>#2</source>
@@ -3346,7 +3346,7 @@
     </message>
     <message>
       <source>#26</source>
-      <translation>“音量”决定声音大小。略低于 100 %，音效才不会被盖住。</translation>
+      <translation>“音量”决定声音大小。略低于 100%，音效才不会被盖住。</translation>
     </message>
     <message>
       <source>#27</source>
@@ -3374,7 +3374,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>接下来是战斗。敌人身后显示的是地图的战斗背景，这里是“群山”。</translation>
+      <translation>接下来是战斗。敌人身后显示的是地图的战斗背景，矿洞入口的是“群山”。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -3573,7 +3573,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>点击第 2 个，里面是每个卫兵开口先说的话。</translation>
+      <translation>点击第二个，里面是每个卫兵开口先说的话。</translation>
     </message>
     <message>
       <source>#32</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
       <source>#56</source>
-      <translation>再次点击第 2 个。</translation>
+      <translation>再次点击第二个。</translation>
     </message>
     <message>
       <source>#57</source>
@@ -3793,7 +3793,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>现在打开的应该是“琥珀村”。如果不是，请在这个列表中点击它。</translation>
+      <translation>现在打开的应该是“琥珀村”。如果不是，就在这个列表中点击它。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -3817,7 +3817,7 @@
     </message>
     <message>
       <source>#14</source>
-      <translation>每个选项卡放一类数据。现在显示的应该是“角色”。如果不是，请点击它。</translation>
+      <translation>每个选项卡放一类数据。现在显示的应该是“角色”。如果不是，就点击它。</translation>
     </message>
     <message>
       <source>#15</source>
@@ -3897,7 +3897,7 @@
     </message>
     <message>
       <source>#34</source>
-      <translation>“敌人”是队伍要对付的对手。第 14 课会让他们出现在森林里。</translation>
+      <translation>“敌人”是队伍要对付的对手。第 14 课会让它们出现在森林里。</translation>
     </message>
     <message>
       <source>#35</source>
@@ -4353,7 +4353,7 @@
     </message>
     <message>
       <source>#58</source>
-      <translation>再点击“旅行斗篷”，回到它这里。</translation>
+      <translation>再次点击“旅行斗篷”，回到它的设置。</translation>
     </message>
     <message>
       <source>#59</source>
@@ -4433,7 +4433,7 @@
     </message>
     <message>
       <source>#78</source>
-      <translation>如果穿着，说明特性还是 100 %。课后把它改成 120 %。</translation>
+      <translation>如果穿着，说明特性还是 100%。课后把它改成 120%。</translation>
     </message>
     <message>
       <source>#79</source>
@@ -4465,7 +4465,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个项目吗？那里的森林还很太平。选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个项目吗？里面的森林还很太平。选“否”可以打开已有的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4473,7 +4473,7 @@
     </message>
     <message>
       <source>#4</source>
-      <translation>点击“确定”。里面有森林，还有一种谁也没遇到过的敌人。</translation>
+      <translation>点击“确定”。项目里会有森林，还有一种谁也没遇到过的敌人。</translation>
     </message>
     <message>
       <source>#5</source>
@@ -4669,7 +4669,7 @@
     </message>
     <message>
       <source>#53</source>
-      <translation>点击“地面”选项卡。</translation>
+      <translation>点击“地面”选项卡，确保显示的是它。</translation>
     </message>
     <message>
       <source>#54</source>
@@ -4713,7 +4713,7 @@
     </message>
     <message>
       <source>#64</source>
-      <translation>第 15 课会教主角们使用技能。点击“下一步”结束本课。</translation>
+      <translation>第 15 课会让主角们学会技能。点击“下一步”结束本课。</translation>
     </message>
   </context>
   <context>
@@ -4725,7 +4725,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有三位主角的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个有三位主角的项目吗？选“否”可以打开已经有“贤者”这个职业的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4749,7 +4749,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>“琥珀村”里有一位主角。如果缩放不是 100 %，点击“实际大小”。</translation>
+      <translation>现在打开的应该是“琥珀村”，不是就点击它。缩放不是 100% 时，点击“实际大小”。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -4981,7 +4981,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要为这一课新建项目吗？选“否”可以打开已经做好五种敌人的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5057,7 +5057,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>输入他的名称，例如：岩石守卫。然后点击“下一步”。</translation>
+      <translation>输入名称，例如：岩石守卫。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -5573,7 +5573,7 @@
     </message>
     <message>
       <source>#12</source>
-      <translation>调查守卫就会与敌群“岩石守卫之战”战斗，而且不能逃跑。</translation>
+      <translation>调查守卫就会与他的敌群战斗，而且不能逃跑。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -5677,7 +5677,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>在“行动限制”中选择“无法行动”。然后点击“下一步”。</translation>
+      <translation>在“行动限制”中选择“无法行动”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -5705,7 +5705,7 @@
     </message>
     <message>
       <source>#45</source>
-      <translation>点击“岩石守卫之战”。</translation>
+      <translation>点击 6 号，也就是守卫的敌群。</translation>
     </message>
     <message>
       <source>#46</source>
@@ -5713,7 +5713,7 @@
     </message>
     <message>
       <source>#47</source>
-      <translation>在“敌人”中选择“洞穴蝙蝠”。然后点击“下一步”。</translation>
+      <translation>在“敌人”中选择“洞穴蝙蝠”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#48</source>
@@ -5741,7 +5741,7 @@
     </message>
     <message>
       <source>#54</source>
-      <translation>打一个回合：按 Enter 选“攻击”，再按一次选对象。然后点击“下一步”。</translation>
+      <translation>打一个回合：按 Enter 键选“攻击”，再按一次选对象。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#55</source>
@@ -5765,7 +5765,7 @@
     </message>
     <message>
       <source>#60</source>
-      <translation>点击“敌人的 HP”，守卫和 50 % 会自动填好，正合适。</translation>
+      <translation>点击“敌人的 HP”，守卫和 50% 会自动填好，正合适。</translation>
     </message>
     <message>
       <source>#61</source>
@@ -5849,7 +5849,7 @@
     </message>
     <message>
       <source>#81</source>
-      <translation>可以让敌人恢复、出现、行动，也可以中止战斗。</translation>
+      <translation>这些指令能让敌人恢复、出现、行动，也能中止战斗。</translation>
     </message>
     <message>
       <source>#82</source>
@@ -5893,7 +5893,7 @@
     </message>
     <message>
       <source>#92</source>
-      <translation>在“敌人”中选择“整个敌群”。然后点击“下一步”。</translation>
+      <translation>在“敌人”中选择“整个敌群”，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#93</source>
@@ -5996,12 +5996,12 @@
     <name>TutorialStep18</name>
     <message>
       <source>#1</source>
-      <translation>这一课制作故事的结局：一段人物自己行动的演出。
+      <translation>这一课制作故事的结局：一段人物自己行动的过场演出。
 点击“下一步”开始。</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个只差结局的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个只差结局的项目吗？选“否”可以打开山岗上已经有灯台的项目。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6025,11 +6025,11 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>第一章：上山的路。路从村里开始，点击“琥珀村”。</translation>
+      <translation>第一部分：上山的路。路从村里开始，点击“琥珀村”。</translation>
     </message>
     <message>
       <source>#9</source>
-      <translation>接下来箭头会指向地图的格子。如果缩放不是 100 %，点击“实际大小”。</translation>
+      <translation>接下来箭头会指向地图的格子。如果缩放不是 100%，点击“实际大小”。</translation>
     </message>
     <message>
       <source>#10</source>
@@ -6037,7 +6037,7 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>村里的路在西边到头。双击这一格，制作上山的通道。</translation>
+      <translation>村里的路往西到这里为止。双击这一格，制作上山的通道。</translation>
     </message>
     <message>
       <source>#12</source>
@@ -6109,7 +6109,7 @@
     </message>
     <message>
       <source>#29</source>
-      <translation>粘贴来的是第 2 页。排在最后的页优先。</translation>
+      <translation>粘贴来的是第 2 页。它排在最后，所以以它为准。</translation>
     </message>
     <message>
       <source>#30</source>
@@ -6125,7 +6125,7 @@
     </message>
     <message>
       <source>#33</source>
-      <translation>点击从路的西端数起的第二格。然后点击“下一步”。</translation>
+      <translation>点击从路的西端数起的第二格，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#34</source>
@@ -6145,7 +6145,7 @@
     </message>
     <message>
       <source>#38</source>
-      <translation>第二章：台词。双击这个空格，把演出的事件放在这里。</translation>
+      <translation>第二部分：台词。双击这个空格，把演出的事件放在这里。</translation>
     </message>
     <message>
       <source>#39</source>
@@ -6185,7 +6185,7 @@
     </message>
     <message>
       <source>#48</source>
-      <translation>输入她的话，例如：看，整个村庄都看得到。然后点击“下一步”。</translation>
+      <translation>输入她的话，例如：看，能望见整个村庄！然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#49</source>
@@ -6237,7 +6237,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>第三章：动作。说完话，米拉走到灯前。双击“+”。</translation>
+      <translation>第三部分：动作。说完话，米拉走到灯前。双击“+”。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -6309,7 +6309,7 @@
     </message>
     <message>
       <source>#79</source>
-      <translation>第四章：结局。灯亮时响起音乐。双击“+”。</translation>
+      <translation>第四部分：结局。灯亮时响起音乐。双击“+”。</translation>
     </message>
     <message>
       <source>#80</source>
@@ -6369,7 +6369,7 @@
     </message>
     <message>
       <source>#94</source>
-      <translation>这里也选择 6 号开关。然后点击“下一步”。</translation>
+      <translation>这里也选择 6 号开关，然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#95</source>
@@ -6441,7 +6441,7 @@
     </message>
     <message>
       <source>#8</source>
-      <translation>游戏开始时首先出现标题画面。现在那里只有项目的名字。</translation>
+      <translation>游戏开始时首先出现标题画面。现在那里只有项目的名称。</translation>
     </message>
     <message>
       <source>#9</source>
@@ -6453,11 +6453,11 @@
     </message>
     <message>
       <source>#11</source>
-      <translation>输入游戏的名字，例如：黎明之灯。然后点击“下一步”。</translation>
+      <translation>输入游戏的标题，例如：黎明之灯。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#12</source>
-      <translation>点击“显示游戏标题”，让名字出现在标题画面上。然后点击“下一步”。</translation>
+      <translation>点击“显示游戏标题”，让它出现在标题画面上。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#13</source>
@@ -6477,11 +6477,11 @@
     </message>
     <message>
       <source>#17</source>
-      <translation>指令要做什么在这里选择，例如“制作人员”。</translation>
+      <translation>添加指令后，在这里选择它要做什么，例如“制作人员”。</translation>
     </message>
     <message>
       <source>#18</source>
-      <translation>在这一栏里，可以换成适合故事的文字。</translation>
+      <translation>在这一栏里，可以给它换上适合故事的文字。</translation>
     </message>
     <message>
       <source>#19</source>
@@ -6493,7 +6493,7 @@
     </message>
     <message>
       <source>#21</source>
-      <translation>点击“确定”，保留名字和图像。</translation>
+      <translation>点击“确定”，保留标题和图像。</translation>
     </message>
     <message>
       <source>#22</source>
@@ -6501,7 +6501,7 @@
     </message>
     <message>
       <source>#23</source>
-      <translation>这里列出了游戏的所有事件。在上面输入部分名称，可以缩小范围。</translation>
+      <translation>这里列出了游戏的所有事件。在上面输入名称的一部分，可以缩小范围。</translation>
     </message>
     <message>
       <source>#24</source>
@@ -6521,7 +6521,7 @@
     </message>
     <message>
       <source>#28</source>
-      <translation>故事变长时，右键点击地图，用“新建地图…”就能再加地图。</translation>
+      <translation>故事变长时，右键点击地图，用“新建地图…”就能添加更多地图。</translation>
     </message>
     <message>
       <source>#29</source>
@@ -6533,7 +6533,7 @@
     </message>
     <message>
       <source>#31</source>
-      <translation>这就是标题画面：你起的名字、你选的图像，还有三个指令。</translation>
+      <translation>这就是标题画面：你起的标题、你选的图像，还有三个指令。</translation>
     </message>
     <message>
       <source>#32</source>

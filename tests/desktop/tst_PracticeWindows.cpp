@@ -1,9 +1,11 @@
 #include "PracticeTest.h"
+#include "player/view/PlayerWindow.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -20,7 +22,9 @@ private Q_SLOTS:
     void aStepIsSkippedWhileADialogIsOpen();
     void theArrowComesBackToADialogThatWasClosed();
     void anotherDialogDoesNotTakeTheArrowAway();
+    void theArrowPointsAtTheButtonThatPutsBack();
     void startAgainClosesTheDialogs();
+    void beginningAnewEndsTheGame();
     void theOverlaysDoNotCoverTheListOfLessons();
     void aPopupIsAbandonedToTheCompanion();
     void theStripSaysWhatTheBubbleSays();
@@ -114,6 +118,31 @@ void tst_PracticeWindows::anotherDialogDoesNotTakeTheArrowAway()
     QTRY_COMPARE_WITH_TIMEOUT(stepId(), 4, kSoonMs);
 }
 
+void tst_PracticeWindows::theArrowPointsAtTheButtonThatPutsBack()
+{
+    // Whoever has no project finds nothing to open.
+    const QTemporaryDir nothing;
+    m_windows->setProjectsFolder(nothing.path());
+    LessonSession &session = m_editor->session();
+    session.request(QStringLiteral("TutorialStep2"));
+    QTRY_VERIFY_WITH_TIMEOUT(session.runner().isRunning(), kSoonMs);
+    session.skipStep();
+    session.answer(false);
+    QCOMPARE(stepId(), 6);
+    session.skipStep();
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 7, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(session.isAstray() && session.canPutBack(), kSoonMs);
+    const auto *const button = find<QAbstractButton>("putBackButton");
+    const auto isPointedAt = [&session, button] {
+        const std::optional<QPoint> target = session.bubbleTarget();
+        return target && *target + LessonWords::kTip == button->mapToGlobal(button->rect().center());
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isPointedAt() && isPointing(), kSoonMs);
+    QVERIFY(clickOn(button));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 6, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(isPointing(), kSoonMs);
+}
+
 void tst_PracticeWindows::startAgainClosesTheDialogs()
 {
     openNewProject();
@@ -132,6 +161,29 @@ void tst_PracticeWindows::startAgainClosesTheDialogs()
     QTRY_COMPARE_WITH_TIMEOUT(started.size(), 1, kSoonMs);
     QCOMPARE(stepId(), 1);
     QCOMPARE(m_windows->openWindows(), QStringList{QStringLiteral("MainWindow")});
+}
+
+void tst_PracticeWindows::beginningAnewEndsTheGame()
+{
+    openNewProject();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    QVERIFY(clickOn(
+        m_windows->window(QStringLiteral("NewProject"))->findChild<QAbstractButton *>(QStringLiteral("ok"))));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_editor->projectFolder().isEmpty(), kSoonMs);
+    m_windows->play();
+    const QPointer<player::PlayerWindow> game = mainWindow()->findChild<player::PlayerWindow *>();
+    QVERIFY(game != nullptr);
+    QSignalSpy started(&m_editor->session(), &LessonSession::started);
+    QVERIFY(clickOn(find<QAbstractButton>("startAgainButton")));
+    const auto question = [] {
+        return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(question() != nullptr, kSoonMs);
+    QVERIFY(clickOn(question()->buttons().constFirst()));
+    QTRY_COMPARE_WITH_TIMEOUT(started.size(), 1, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(game == nullptr, kSoonMs);
 }
 
 void tst_PracticeWindows::theOverlaysDoNotCoverTheListOfLessons()

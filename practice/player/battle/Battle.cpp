@@ -59,7 +59,8 @@ void Battle::tellOfTroop()
             //: %1 is the name of an enemy.
             tell(QStringLiteral("data/Enemies.json"),
                  tr("The actions of “%1” name skills that the database does not have, so it just attacks.")
-                     .arg(m_data.enemies.name(member.enemy)));
+                     .arg(m_data.enemies.name(member.enemy)),
+                 member.enemy);
         }
     }
     if (entry->members.isEmpty()) {
@@ -68,11 +69,12 @@ void Battle::tellOfTroop()
     }
 }
 
-void Battle::tell(const QString &file, const QString &text)
+void Battle::tell(const QString &file, const QString &text, int enemy)
 {
     Problem problem;
     problem.file = file;
     problem.event = file.endsWith(QLatin1String("Troops.json")) ? m_troop : 0;
+    problem.entry = enemy;
     problem.text = text;
     m_problems.append(problem);
 }

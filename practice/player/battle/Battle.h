@@ -65,7 +65,7 @@ public:
 
 private:
     void tellOfTroop();
-    void tell(const QString &file, const QString &text);
+    void tell(const QString &file, const QString &text, int enemy = 0);
 
     const GameData &m_data;
     GameState *m_state;

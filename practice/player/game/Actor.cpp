@@ -17,7 +17,7 @@ Actor Actor::begin(const ActorEntry &entry, const GameData &data)
     actor.exp = expOfLevel(actor.level);
     actor.weapon = data.weapons.find(entry.weapon) != nullptr ? entry.weapon : 0;
     actor.armor = data.armors.find(entry.armor) != nullptr ? entry.armor : 0;
-    actor.learnUpTo(actor.level, data);
+    actor.learnOfLevels(1, actor.level, data);
     actor.recoverAll(data);
     return actor;
 }
@@ -159,10 +159,12 @@ void Actor::changeMp(int amount, const GameData &data)
 
 void Actor::addState(int state, const GameData &data, int turns)
 {
+    if (has(traits(data), "resistState", state)) {
+        return;
+    }
     if (state == kKnockedOut) {
         changeHp(-hp, data);
-    } else if (!isKnockedOut() && data.states.find(state) != nullptr &&
-               !has(traits(data), "resistState", state)) {
+    } else if (!isKnockedOut() && data.states.find(state) != nullptr) {
         states.insert(state, turns);
         fitPoints(data);
     }
@@ -200,26 +202,30 @@ int Actor::expOfLevel(int level)
 void Actor::changeExp(qint64 amount, const GameData &data)
 {
     exp = int(qBound(qint64(0), exp + amount, qint64(expOfLevel(maxLevel))));
+    const int before = level;
     int reached = 1;
     while (reached < maxLevel && exp >= expOfLevel(reached + 1)) {
         ++reached;
     }
     level = reached;
-    learnUpTo(level, data);
+    learnOfLevels(before + 1, level, data);
     fitPoints(data);
 }
 
 void Actor::changeLevel(int levels, const GameData &data)
 {
     const int target = int(qBound(qint64(1), qint64(level) + levels, qint64(maxLevel)));
-    changeExp(expOfLevel(target) - exp, data);
+    if (target != level) {
+        changeExp(expOfLevel(target) - exp, data);
+    }
 }
 
-void Actor::learnUpTo(int reached, const GameData &data)
+void Actor::learnOfLevels(int first, int last, const GameData &data)
 {
     if (const ClassEntry *entry = data.classes.find(classId)) {
         for (const Learning &learning : entry->learnings) {
-            if (learning.level <= reached && data.skills.find(learning.skill) != nullptr) {
+            if (learning.level >= first && learning.level <= last &&
+                data.skills.find(learning.skill) != nullptr) {
                 learn(learning.skill);
             }
         }

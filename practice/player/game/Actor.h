@@ -62,8 +62,8 @@ struct Actor
     void fitPoints(const GameData &data);
     void learn(int skill);
     void forget(int skill) { skills.removeAll(skill); }
-    /// With the levels that it makes and takes; skills of new levels are learned. What traits add is in
-    /// @p amount already.
+    /// With the levels that it makes and takes; skills of new levels are learned, and what was forgotten of
+    /// earlier ones stays so. What traits add is in @p amount already.
     void changeExp(qint64 amount, const GameData &data);
     void changeLevel(int levels, const GameData &data);
     /// EXP that a level begins with.
@@ -77,7 +77,8 @@ struct Actor
     [[nodiscard]] static Actor fromJson(const QJsonObject &json, const GameData &data);
 
 private:
-    void learnUpTo(int reached, const GameData &data);
+    /// What the class teaches from one level to another.
+    void learnOfLevels(int first, int last, const GameData &data);
 };
 
 } // namespace player

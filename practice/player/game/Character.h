@@ -2,6 +2,7 @@
 
 #include "player/game/Command.h"
 #include "player/game/Direction.h"
+#include "player/game/Problem.h"
 
 #include <QPoint>
 #include <QPointF>
@@ -44,6 +45,8 @@ struct Character
     Route route;
     int routePlace = 0;
     bool hasRoute = false;
+    /// The command that gave it.
+    Problem routeOf;
     /// Ticks until the next step of a route or of its own movement.
     int pause = 0;
     /// Ticks that something has been in the way of the route.

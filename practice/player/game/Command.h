@@ -26,8 +26,12 @@ using CommandList = QVector<Command>;
 /// One step of a movement route.
 struct RouteStep
 {
+    static constexpr int kLastCode = 27;
+
     int code = 0;
     QJsonArray parameters;
+
+    [[nodiscard]] bool isKnown() const { return code >= 1 && code <= kLastCode; }
 };
 
 struct Route

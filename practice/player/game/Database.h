@@ -142,7 +142,8 @@ struct TroopMember
     bool isHidden = false;
 };
 
-/// Conditions of a battle event; those that are -1 or 0 do not count. With none, the page never begins.
+/// Conditions of a battle event; those that are -1 or 0 do not count. With none, the page is due at
+/// once.
 struct TroopConditions
 {
     /// From the beginning of the turn that ends with this number, from 0.
@@ -227,6 +228,8 @@ struct SystemEntry
     QVector<int> party;
     int startMap = 0;
     QPoint startCell;
+    /// Of the game's own words, such as "ja_JP"; empty for that of the editor.
+    QString locale;
     /// Empty for the usual word.
     QString currency;
     /// Names of switches and variables by number; place 0 is empty.

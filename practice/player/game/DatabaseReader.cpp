@@ -222,11 +222,13 @@ void checkAnimations(const GameData::Files &files, QVector<Problem> *problems)
 {
     const QString file = QStringLiteral("data/Animations.json");
     const QJsonArray entries = files.value(file).toArray();
-    for (const QJsonValue &entry : entries) {
+    for (int id = 1; id < entries.size(); ++id) {
+        const QJsonValue entry = entries.at(id);
         const int pictures = number(entry, "frames", 1);
         if (entry.isObject() && (pictures < 1 || pictures > kMostPictures)) {
             Problem problem;
             problem.file = file;
+            problem.entry = id;
             problem.text =
                 QCoreApplication::translate("TestPlay", "The animation “%1” has %2 pictures; it has to have "
                                                         "1 to %3.")
@@ -251,6 +253,7 @@ SystemEntry system(const QJsonValue &json)
     SystemEntry entry;
     entry.gameTitle = text(json, "gameTitle");
     entry.version = number(json, "versionId");
+    entry.locale = text(json, "locale");
     const QJsonArray party = list(json, "partyMembers");
     for (const QJsonValue &who : party) {
         entry.party.append(who.toInt());

@@ -126,7 +126,7 @@ void GameState::join(int actorId, const GameData &data, bool beginsAnew)
     if (beginsAnew) {
         actors.remove(actorId);
     }
-    if (!party.contains(actorId) && actor(actorId, data) != nullptr) {
+    if (actor(actorId, data) != nullptr && !party.contains(actorId)) {
         party.append(actorId);
     }
 }

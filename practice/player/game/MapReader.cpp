@@ -118,6 +118,13 @@ void checkEvents(const QString &file, const QJsonValue &json, MapData *map, QVec
                                                              "the event stays.")
                          .arg(number(pages.at(page), "moveType")));
             }
+            for (const RouteStep &step : qAsConst(event.pages[page].route.steps)) {
+                if (!step.isKnown()) {
+                    tell(page + 1,
+                         QCoreApplication::translate("TestPlay", "There is no movement %1; it is passed by.")
+                             .arg(step.code));
+                }
+            }
             if (!member(pages.at(page), "list").isArray()) {
                 tell(page + 1, QCoreApplication::translate(
                                    "TestPlay", "The page has no list of commands: it does nothing."));

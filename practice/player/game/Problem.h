@@ -19,6 +19,8 @@ struct Problem
     /// Row of the command in its list, from 1, 0 for none.
     int line = 0;
     QString text;
+    /// Number of any other entry of the data file, which the text has the name of; 0 for none.
+    int entry = 0;
     /// How often it happened since it was told last; no part of what it is.
     int times = 1;
 

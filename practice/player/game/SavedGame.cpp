@@ -194,9 +194,10 @@ Actor Actor::fromJson(const QJsonObject &json, const GameData &data)
     if (const ActorEntry *entry = data.actors.find(actor.id)) {
         actor = begin(*entry, data);
     }
+    actor.classId = number(json, "classId");
+    actor.changeExp(qint64(number(json, "exp")) - actor.exp, data);
     actor.name = text(json, "name");
     actor.image = text(json, "image");
-    actor.classId = number(json, "classId");
     actor.weapon = data.weapons.find(number(json, "weapon")) != nullptr ? number(json, "weapon") : 0;
     actor.armor = data.armors.find(number(json, "armor")) != nullptr ? number(json, "armor") : 0;
     actor.skills.clear();
@@ -210,7 +211,7 @@ Actor Actor::fromJson(const QJsonObject &json, const GameData &data)
         member(json, "states"), [&data](int state) { return data.states.find(state) != nullptr; }, 9999);
     actor.hp = qMax(0, number(json, "hp"));
     actor.mp = qMax(0, number(json, "mp"));
-    actor.changeExp(qint64(number(json, "exp")) - actor.exp, data);
+    actor.fitPoints(data);
     return actor;
 }
 
@@ -237,6 +238,10 @@ QJsonObject GameState::toJson(const GameData &data) const
             {QStringLiteral("y"), hero.cell.y()},
             {QStringLiteral("direction"), hero.direction},
             {QStringLiteral("isTransparent"), hero.isTransparent},
+            {QStringLiteral("speed"), hero.speed},
+            {QStringLiteral("frequency"), hero.frequency},
+            {QStringLiteral("isThrough"), hero.isThrough},
+            {QStringLiteral("opacity"), hero.opacity},
             {QStringLiteral("timer"), isTimerOn ? timerTicks : -1},
             {QStringLiteral("ticks"), double(ticks)},
             {QStringLiteral("screen"), screenJson(screen)},
@@ -285,6 +290,10 @@ std::optional<GameState> GameState::fromJson(const QJsonObject &json, const Game
     state.hero.at = cell;
     state.hero.direction = qBound(int(kDown), number(json, "direction"), int(kUp));
     state.hero.isTransparent = flag(json, "isTransparent");
+    state.hero.speed = number(json, "speed");
+    state.hero.frequency = number(json, "frequency");
+    state.hero.isThrough = flag(json, "isThrough");
+    state.hero.opacity = qBound(0, number(json, "opacity", state.hero.opacity), 255);
     state.timerTicks = qMax(0, number(json, "timer"));
     state.isTimerOn = number(json, "timer") >= 0;
     state.ticks = qint64(qMax(0.0, member(json, "ticks").toDouble()));

@@ -233,16 +233,20 @@ bool BattleScene::beginEvent()
 void BattleScene::tell(const QVector<Note> &notes)
 {
     int animation = 0;
+    bool isOnScreen = false;
     QVector<Fighter> animated;
     for (const Note &note : notes) {
         if (note.kind == Note::Kind::kUsesSkill) {
             const SkillEntry *skill = m_interpreter->data().skills.find(note.id);
             animation = skill != nullptr ? skill->animation : 0;
             animated.clear();
+            const AnimationEntry *entry = m_interpreter->data().animations.find(animation);
+            isOnScreen = entry != nullptr && entry->isOnScreen;
         }
         const bool isAboutDoer = note.kind == Note::Kind::kUsesSkill || note.kind == Note::Kind::kAttacks;
-        // Whatever a skill does to somebody, it is seen once.
-        const bool isSeen = !isAboutDoer && !animated.contains(note.who);
+        // Whatever a skill does to somebody, it is seen once; over all of the screen, once for all of them.
+        const bool wasSeen = isOnScreen ? !animated.isEmpty() : animated.contains(note.who);
+        const bool isSeen = !isAboutDoer && !wasSeen;
         if (isSeen) {
             animated.append(note.who);
         }

@@ -15,6 +15,8 @@ constexpr int kFadeTicks = 24;
 /// Steps to the next battle by chance.
 constexpr int kFewestSteps = 12;
 constexpr int kMostSteps = 36;
+/// Ticks after which a route that does not get on is said to be stuck.
+constexpr int kPatience = 5 * GameState::kTicksPerSecond;
 
 QString mapFile(int map)
 {
@@ -80,6 +82,10 @@ void MapScene::tick(const Input &input, Game *game)
         const bool wasMoving = game->state().hero.isMoving();
         Walker::tickHero(&m_world, play);
         Walker::tickEvents(&m_world, play);
+        tellStuck(game->state().hero);
+        for (const World::Event &event : qAsConst(m_world.events())) {
+            tellStuck(event.character);
+        }
         if (wasMoving && !game->state().hero.isMoving()) {
             heroArrived();
         }
@@ -88,6 +94,19 @@ void MapScene::tick(const Input &input, Game *game)
         }
     }
     m_world.refresh();
+}
+
+/// Also where no event waits for the route: a hero who cannot get on can do nothing else.
+void MapScene::tellStuck(const Character &who)
+{
+    if (who.hasRoute && who.blockedTicks == kPatience) {
+        Problem problem = who.routeOf;
+        problem.text =
+            QCoreApplication::translate("TestPlay", "The route has not got on for %1 seconds: something "
+                                                    "is in the way.")
+                .arg(kPatience / GameState::kTicksPerSecond);
+        m_game->tell(problem);
+    }
 }
 
 void MapScene::tickHero(const Input &input)

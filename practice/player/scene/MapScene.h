@@ -57,6 +57,7 @@ private:
     void go(std::unique_ptr<Scene> scene);
     void enterMap(bool takesMusic);
     void tickTransfer();
+    void tellStuck(const Character &who);
     void tickHero(const Input &input);
     void heroArrived();
     void countStep();

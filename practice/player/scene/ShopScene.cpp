@@ -69,8 +69,10 @@ void ShopScene::listGoods(const Game &game)
         } else if (game.state().count(kind, goods.id) >= GameState::kMostGoods) {
             reason = tr("You cannot carry more of this.");
         }
-        rows.append({Terms::thing(kind, goods.id, game.data()), Terms::gold(goods.price, game.data()),
-                     descriptionOf(goods, game.data()), reason, place});
+        const QString help = descriptionOf(goods, game.data());
+        const bool hasBoth = !help.isEmpty() && !reason.isEmpty();
+        rows.append({Terms::thing(kind, goods.id, game.data()), Terms::gold(goods.price, game.data()), help,
+                     hasBoth ? help + QStringLiteral("  ") + reason : reason, place});
     }
     m_list = ListPanel(QStringLiteral("goods"), kList);
     m_list.setEmptyText(tr("There is nothing for sale."));
@@ -291,7 +293,10 @@ void ShopScene::show(const Game &game, Frame *frame) const
     purse.lines = {PanelLine(Terms::gold(game.state().gold, game.data()))};
     frame->panels.append(purse);
     if (isAtCommands) {
-        frame->panels.append(m_list.panel());
+        // The one cursor that keys move is that of the commands.
+        Panel list = m_list.panel();
+        list.current = -1;
+        frame->panels.append(list);
         frame->panels.append(m_commands.panel());
         return;
     }

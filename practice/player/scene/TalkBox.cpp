@@ -124,6 +124,23 @@ void TalkBox::beginPage()
     m_endsByItself = false;
 }
 
+void TalkBox::finishPage(const Game &game)
+{
+    if (m_page < 0) {
+        readMessage(game);
+    }
+    m_done = lettersOfPage();
+}
+
+int TalkBox::lettersOfPage() const
+{
+    int total = 0;
+    for (const QVector<TalkText::Token> &line : m_lines) {
+        total += int(line.size());
+    }
+    return total;
+}
+
 /// The letters of a page are counted through all its lines.
 void TalkBox::typeLetters(bool all)
 {
@@ -172,11 +189,7 @@ void TalkBox::tickMessage(const Input &input, Game *game)
         m_waitsForKey = !isKey(input);
         return;
     }
-    int total = 0;
-    for (const QVector<TalkText::Token> &line : qAsConst(m_lines)) {
-        total += int(line.size());
-    }
-    if (m_done < total) {
+    if (m_done < lettersOfPage()) {
         if (isKey(input)) {
             m_pause = 0;
             typeLetters(true);
@@ -308,11 +321,8 @@ void TalkBox::show(const Game &game, Frame *frame) const
             panel.lines.append(TalkText::shown(line, left));
             left = qMax(0, left - int(line.size()));
         }
-        int total = 0;
-        for (const QVector<TalkText::Token> &line : m_lines) {
-            total += int(line.size());
-        }
-        panel.isWaiting = m_kind == Kind::kMessage && (m_waitsForKey || m_done >= total) && !m_endsByItself;
+        const bool isDone = m_waitsForKey || m_done >= lettersOfPage();
+        panel.isWaiting = m_kind == Kind::kMessage && isDone && !m_endsByItself;
         frame->panels.append(panel);
     }
     const int messagePlace = m_hasMessage ? m_message.place : 2;

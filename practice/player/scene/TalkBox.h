@@ -30,12 +30,15 @@ public:
 
     void tick(const Input &input, Game *game);
     void show(const Game &game, Frame *frame) const;
+    /// Shows all letters of the message's page at once, whatever they wait for.
+    void finishPage(const Game &game);
 
 private:
     enum class Kind { kNothing, kMessage, kChoices, kNumber, kItems, kScroll };
 
     void readMessage(const Game &game);
     void beginPage();
+    [[nodiscard]] int lettersOfPage() const;
     void tickMessage(const Input &input, Game *game);
     /// Shows further letters, up to a pause or a key; all of them with @p all.
     void typeLetters(bool all);

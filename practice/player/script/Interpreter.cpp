@@ -14,8 +14,6 @@ namespace {
 constexpr int kLoop = 112;
 constexpr int kEndOfLoop = 413;
 constexpr int kLabel = 115;
-/// Ticks after which a route that is waited for is said to be stuck.
-constexpr int kPatience = 5 * GameState::kTicksPerSecond;
 
 } // namespace
 
@@ -112,11 +110,6 @@ bool Interpreter::isWaiting()
         return m_stage->isAway();
     case Wait::kRoute:
         who = m_stage->character(m_waitCharacter);
-        if (who != nullptr && who->blockedTicks == kPatience) {
-            tell(QCoreApplication::translate("TestPlay", "The route has not got on for %1 seconds: something "
-                                                         "is in the way.")
-                     .arg(kPatience / GameState::kTicksPerSecond));
-        }
         return who != nullptr && (who->hasRoute || who->isMoving());
     case Wait::kBalloon:
         who = m_stage->character(m_waitCharacter);
@@ -168,10 +161,9 @@ bool Interpreter::waitsForTurn()
     return true;
 }
 
-void Interpreter::tell(const QString &text)
+Problem Interpreter::place() const
 {
     Problem problem;
-    problem.text = text;
     if (isRunning()) {
         const ListPlace &at = m_levels.constLast().place;
         problem.file = at.file;
@@ -180,6 +172,13 @@ void Interpreter::tell(const QString &text)
         problem.page = at.page;
         problem.line = m_row + 1;
     }
+    return problem;
+}
+
+void Interpreter::tell(const QString &text)
+{
+    Problem problem = place();
+    problem.text = text;
     m_tell(problem);
 }
 

@@ -90,6 +90,8 @@ public:
     /// True while another event talks or has another scene: the command is to be left at once, and comes
     /// again.
     bool waitsForTurn();
+    /// The place of the command, for something to tell about it.
+    [[nodiscard]] Problem place() const;
     /// Tells what cannot be done, with the place of the command.
     void tell(const QString &text);
 

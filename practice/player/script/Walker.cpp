@@ -250,10 +250,11 @@ bool step(Character *who, int direction, World *world)
     }
     turn(who, direction);
     const QPoint to = who->cell + stepTo(direction);
+    // Also by one who walks through everything.
+    if (who->id != Character::kHero && world->state().hero.cell == to) {
+        world->addMeeting(who->id);
+    }
     if (!world->canEnter(*who, to)) {
-        if (who->id != Character::kHero && world->state().hero.cell == to) {
-            world->addMeeting(who->id);
-        }
         return false;
     }
     begin(who, to, ticksPerCell(who->speed));

@@ -88,9 +88,7 @@ void FramePainter::paint(QPainter *painter, const Frame &frame, const GameData &
         painter->fillRect(all, colour);
     }
     PanelPainter::paintTimer(painter, frame.timer, scale);
-    for (const Panel &panel : frame.panels) {
-        m_panels.paint(painter, panel, scale, frame.tick);
-    }
+    m_panels.paintAll(painter, frame.panels, scale, frame.tick);
     SpritePainter::paintAnimations(painter, frame, data, scale);
     painter->restore();
 }

@@ -3,6 +3,7 @@
 #include "player/view/PanelLayout.h"
 
 #include <QPainter>
+#include <QRegion>
 
 #include <array>
 
@@ -48,6 +49,18 @@ void paintGround(QPainter *painter, const QRect &rect, Background background, co
     } else if (background == Background::kDim) {
         painter->fillRect(rect, QColor(0, 0, 0, 130));
     }
+}
+
+/// What keeps anything below a panel from shining through it.
+void paintCover(QPainter *painter, const QRect &rect, const ScreenScale &scale)
+{
+    QColor ground = kGround;
+    ground.setAlpha(255);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(ground);
+    painter->drawRoundedRect(rect, scale.length(6), scale.length(6));
+    painter->setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// A text with a shadow, narrower where it would not fit.
@@ -191,6 +204,19 @@ void paintTab(QPainter *painter, const Panel &panel, const ScreenScale &scale)
 PanelPainter::PanelPainter(Artwork *artwork)
     : m_artwork(artwork)
 {
+}
+
+void PanelPainter::paintAll(QPainter *painter, const QVector<Panel> &panels, const ScreenScale &scale,
+                            qint64 tick)
+{
+    QRegion taken;
+    for (const Panel &panel : panels) {
+        if (panel.background == Background::kWindow && taken.intersects(panel.rect)) {
+            paintCover(painter, scale.rect(panel.rect), scale);
+        }
+        paint(painter, panel, scale, tick);
+        taken += panel.rect;
+    }
 }
 
 void PanelPainter::paint(QPainter *painter, const Panel &panel, const ScreenScale &scale, qint64 tick)

@@ -3,6 +3,8 @@
 #include "player/view/Artwork.h"
 #include "player/view/ScreenScale.h"
 
+#include <QVector>
+
 class QPainter;
 
 namespace player {
@@ -17,7 +19,10 @@ public:
     /// @p artwork outlives the painter.
     explicit PanelPainter(Artwork *artwork);
 
-    /// @p tick lets signs blink.
+    /// All of them, the first one at the bottom. Where one lies on another, nothing shines through. @p tick
+    /// lets signs blink.
+    void paintAll(QPainter *painter, const QVector<Panel> &panels, const ScreenScale &scale, qint64 tick);
+    /// One by itself.
     void paint(QPainter *painter, const Panel &panel, const ScreenScale &scale, qint64 tick);
     /// The time that is left, in the upper right corner.
     static void paintTimer(QPainter *painter, const QString &timer, const ScreenScale &scale);

@@ -20,6 +20,61 @@ constexpr int kRoute = 205;
 constexpr int kAsksSwitch = 0;
 constexpr int kAsksVariable = 1;
 
+/// Where a command says which variable it takes: in @c places, always or where parameter @c by is 1.
+struct VariablePlaces
+{
+    int code;
+    int by;
+    QVector<int> places;
+};
+
+constexpr int kAlways = -1;
+
+const QVector<VariablePlaces> &variablePlaces()
+{
+    static const QVector<VariablePlaces> places{
+        {103, kAlways, {0}}, {104, kAlways, {0}}, {122, 3, {4}},       {125, 1, {2}},    {126, 2, {3}},
+        {127, 2, {3}},       {128, 2, {3}},       {201, 0, {1, 2, 3}}, {202, 1, {2, 3}}, {231, 3, {4, 5}},
+        {232, 2, {3, 4}},    {301, 0, {1}},       {311, 0, {1}},       {311, 3, {4}},    {312, 0, {1}},
+        {312, 3, {4}},       {313, 0, {1}},       {314, 0, {1}},       {315, 0, {1}},    {315, 3, {4}},
+        {316, 0, {1}},       {316, 3, {4}},       {317, 0, {1}},       {331, 2, {3}},    {332, 2, {3}}};
+    return places;
+}
+
+bool takesVariable(int code, const QJsonArray &parameters, int number)
+{
+    for (const VariablePlaces &where : variablePlaces()) {
+        if (where.code != code || (where.by != kAlways && parameters.at(where.by).toInt() != 1)) {
+            continue;
+        }
+        for (const int place : where.places) {
+            if (parameters.at(place).toInt() == number) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// Whether a text says the variable, as in "\\v[3]".
+bool saysVariable(const QJsonArray &parameters, int number)
+{
+    const QString word = QStringLiteral("\\v[%1]").arg(number);
+    const auto says = [&word](const QJsonValue &parameter) {
+        return parameter.toString().contains(word, Qt::CaseInsensitive);
+    };
+    return std::any_of(parameters.begin(), parameters.end(), says);
+}
+
+bool branchAsks(const QJsonArray &parameters, bool isSwitch, int number)
+{
+    if (parameters.at(0).toInt(-1) != (isSwitch ? kAsksSwitch : kAsksVariable)) {
+        return false;
+    }
+    const bool isCompared = !isSwitch && parameters.at(4).toInt() == 1;
+    return parameters.at(1).toInt() == number || (isCompared && parameters.at(5).toInt() == number);
+}
+
 bool isWithin(int number, const QJsonArray &range)
 {
     return number >= range.at(0).toInt() && number <= range.at(1).toInt();
@@ -39,19 +94,16 @@ bool commandUses(const QJsonValue &command, const Wanted &wanted)
 {
     const QJsonArray parameters = command[QLatin1String("parameters")].toArray();
     const bool isSwitch = wanted.by == By::kSwitch;
-    switch (command[QLatin1String("code")].toInt()) {
-    case kBranch:
-        return parameters.at(0).toInt(-1) == (isSwitch ? kAsksSwitch : kAsksVariable) &&
-               parameters.at(1).toInt() == wanted.number;
-    case kSwitches:
-        return isSwitch && isWithin(wanted.number, parameters);
-    case kVariables:
-        return !isSwitch && isWithin(wanted.number, parameters);
-    case kRoute:
-        return isSwitch && routeUses(parameters.at(1), wanted.number);
-    default:
-        return false;
+    const int code = command[QLatin1String("code")].toInt();
+    if (code == kBranch) {
+        return branchAsks(parameters, isSwitch, wanted.number);
     }
+    if (isSwitch) {
+        return (code == kSwitches && isWithin(wanted.number, parameters)) ||
+               (code == kRoute && routeUses(parameters.at(1), wanted.number));
+    }
+    return (code == kVariables && isWithin(wanted.number, parameters)) ||
+           takesVariable(code, parameters, wanted.number) || saysVariable(parameters, wanted.number);
 }
 
 bool pageUses(const QJsonValue &page, const Wanted &wanted)

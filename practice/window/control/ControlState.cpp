@@ -12,6 +12,27 @@ bool hangOn(const QVector<ControlRequirement> &requirements, const QString &fiel
     return !field.isEmpty() && std::any_of(requirements.cbegin(), requirements.cend(), isOfField);
 }
 
+/// Whether a list on the way of @p path has no entry that could be meant: nothing could be shown or changed.
+bool leadsNowhere(const QString &path, const EditorWindow *window)
+{
+    const RowSources &sources = window->project().sources();
+    if (!sources.isPath(path) || sources.place(path, window->layer())) {
+        return false;
+    }
+    // A place that nobody has named is no list without entries.
+    const QString root = path.section(QLatin1Char('/'), 0, 0);
+    return root == QLatin1String("data") || sources.place(root, window->layer());
+}
+
+bool beginsNowhere(const ControlAction &action, const EditorWindow *window)
+{
+    const ControlAction *done = window->chosen(action);
+    return done != nullptr &&
+           std::any_of(done->begin.cbegin(), done->begin.cend(), [window](const QString &command) {
+               return leadsNowhere(command.section(QLatin1Char(' '), 1, 1), window);
+           });
+}
+
 } // namespace
 
 bool canRun(const ControlAction &action, const EditorWindow *window)
@@ -24,7 +45,9 @@ bool canRun(const ControlAction &action, const EditorWindow *window)
 ControlMaker withState(const ControlMaker &maker, const ControlReader &reader)
 {
     return [maker, shown = reader.description().shownWhen, enabled = reader.description().enabledWhen,
-            click = reader.description().click, isOfUse = reader.isOfUse()](EditorWindow *window) {
+            click = reader.description().click, isOfUse = reader.isOfUse(),
+            field = reader.description().own.object.value(QLatin1String("field")).toString()](
+               EditorWindow *window) {
         QWidget *control = maker(window);
         if (!shown.isEmpty()) {
             const auto takeTurns = [control, window, shown] {
@@ -37,8 +60,9 @@ ControlMaker withState(const ControlMaker &maker, const ControlReader &reader)
             QObject::connect(window, &EditorWindow::arranged, control, takeTurns);
             takeTurns();
         }
-        keepFresh(control, window, [control, window, enabled, click, isOfUse] {
+        keepFresh(control, window, [control, window, enabled, click, isOfUse, field] {
             control->setEnabled(window->meets(enabled) && canRun(click, window) &&
+                                !leadsNowhere(field, window) && !beginsNowhere(click, window) &&
                                 (!isOfUse || isOfUse(window)));
         });
         return control;

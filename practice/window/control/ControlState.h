@@ -6,5 +6,6 @@
 [[nodiscard]] bool canRun(const ControlAction &action, const EditorWindow *window);
 
 /// Makes the control of @p maker so that it is there only while the description has it shown, and grey while
-/// it is of no use: while what enables it does not hold, or what a click on it runs cannot run.
+/// it is of no use: while what enables it does not hold, what a click on it runs cannot run, or its field, or
+/// what a click on it begins with, is that of an entry of a list without any.
 [[nodiscard]] ControlMaker withState(const ControlMaker &maker, const ControlReader &reader);

@@ -1,9 +1,10 @@
 #include "window/control/EventPictures.h"
 
+#include "player/view/MessagePreview.h"
 #include "project/MapTree.h"
 #include "project/events/MovementWay.h"
 #include "window/MapPainter.h"
-#include "window/MessagePicture.h"
+#include "window/Pictures.h"
 
 namespace {
 
@@ -22,13 +23,18 @@ int number(const EditorWindow &window, const char *field)
 QPixmap EventPictures::message(const ControlContext & /*context*/, const EditorWindow &window,
                                const QSize &size)
 {
-    MessageLook look;
-    look.face = text(window, "command/0");
-    look.speaker = text(window, "command/4");
-    look.lines = text(window, "command/lines").split(QLatin1Char('\n'));
-    look.ground = static_cast<MessageLook::Ground>(qBound(0, number(window, "command/2"), 2));
-    look.place = static_cast<MessageLook::Place>(qBound(0, number(window, "command/3"), 2));
-    return messagePicture(look, size);
+    player::Message message;
+    message.face = text(window, "command/0");
+    message.background = number(window, "command/2");
+    message.place = number(window, "command/3");
+    message.speaker = text(window, "command/4");
+    message.lines = text(window, "command/lines").split(QLatin1Char('\n'));
+    DataRoots files;
+    const QStringList names = window.project().files().names();
+    for (const QString &name : names) {
+        files.insert(name, window.layer().file(name));
+    }
+    return player::messagePreview(message, files, &Pictures::load, size);
 }
 
 QPixmap EventPictures::route(const ControlContext &context, const EditorWindow &window, const QSize &size)

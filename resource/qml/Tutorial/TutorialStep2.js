@@ -514,7 +514,7 @@
 "name":"What the player sees",
 "folder":false,
 "translationId":31,
-"x":417,
+"x":579,
 "y":275,
 "windowKey":"TextPreview",
 "condition":"windowState,TextPreview,close",

@@ -395,7 +395,7 @@
 "name":"How it looks",
 "folder":false,
 "translationId":24,
-"x":417,
+"x":579,
 "y":275,
 "windowKey":"TextPreview",
 "condition":"windowState,TextPreview,close",

@@ -36,6 +36,8 @@ public:
     QString m_data = QStringLiteral("as it was");
     QString m_project = QStringLiteral("/games/mine");
     bool m_canRestore = true;
+    /// The button to put things back shows here.
+    std::optional<QPoint> m_putBackSpot;
     QVector<ControlUse> m_performed;
     /// What performing does.
     std::function<void()> m_onPerform;
@@ -167,6 +169,7 @@ public:
     {
         return QStringLiteral("put it back");
     }
+    [[nodiscard]] std::optional<QPoint> spotToPutBack() const override { return m_putBackSpot; }
     [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
     [[nodiscard]] QSize applicationSize() const override { return {1100, 720}; }
 };

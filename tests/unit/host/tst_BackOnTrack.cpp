@@ -10,6 +10,8 @@ class tst_BackOnTrack : public QObject
 private Q_SLOTS:
     void leadsBackIntoAWindowThatWasClosed();
     void leadsOutOfADialogThatIsInTheWay();
+    void aGreyControlIsNoWay();
+    void whatWasLeftInAStepThatPointsNowhereIsOpenedAsBefore();
     void opensTheWindowAgainForTheSameRow();
     void aWindowThatCameUpInAnotherWayIsLeft();
     void opensAMenuAgainAtTheSameRow();
@@ -71,6 +73,57 @@ void tst_BackOnTrack::leadsOutOfADialogThatIsInTheWay()
     played.editor.close(str(kProperties));
     played.turn();
     QVERIFY(!played.session.isAstray());
+}
+
+void tst_BackOnTrack::aGreyControlIsNoWay()
+{
+    Played played;
+    played.editor.m_ways =
+        someWays() + Ways{way("Other", "commands", "doubleClick", "Other", Does::kOpens, kProperties),
+                          way("MainWindow", "tool", "click", "MainWindow", Does::kOpens, "Other"),
+                          way("Other", "close", "click", "Other", Does::kCloses, "Other")};
+    const ControlSpot commands = Played::spot("Other", "commands");
+    played.editor.m_controls.insert(str(kProperties), Played::spot(kProperties, "picture"));
+    played.editor.open(str("Other"));
+    played.play({Played::item(1, kProperties, "action,picture,")});
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, commands);
+    played.editor.m_hidden = {commands};
+    played.editor.report(str("action"), str("remove"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("Other", "close"));
+    // With nothing else to use it is what to wait for.
+    played.editor.m_ways = {way("Other", "commands", "doubleClick", "Other", Does::kOpens, kProperties)};
+    played.editor.report(str("action"), str("remove"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, commands);
+}
+
+void tst_BackOnTrack::whatWasLeftInAStepThatPointsNowhereIsOpenedAsBefore()
+{
+    Played played;
+    // What opens the window sooner opens it for something else.
+    played.editor.m_ways =
+        someWays() + Ways{way("Other", "commands", "doubleClick", "Other", Does::kOpens, kProperties),
+                          way("Other", "close", "click", "Other", Does::kCloses, "Other")};
+    played.editor.m_controls.insert(str(kProperties), Played::spot(kProperties, "picture"));
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 QStringLiteral(R"("id":2)"), Played::item(3, kProperties, "action,picture,")});
+    played.use("MainWindow", "maps", 2);
+    played.editor.open(str(kProperties));
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    played.editor.close(str(kProperties));
+    played.editor.open(str("Other"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.session.next();
+    played.turn();
+    QCOMPARE(played.id(), 3);
+    QCOMPARE(played.session.wayBack()->by, Played::spot("Other", "close"));
+    played.editor.close(str("Other"));
+    played.turn();
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 2));
 }
 
 void tst_BackOnTrack::opensTheWindowAgainForTheSameRow()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void skippingGoesOnWhereNothingCanBeDone();
     void skippingAStepThatWaitsForNextPressesNext();
     void nextDoesTheClickThatNobodyHasMade();
+    void nextClicksAsOftenAsTheHintSays();
     void nextLeavesWhatWasDone();
     void nextChoosesTheRowAgainThatWasLeft();
     void passesOverStepsThatPassByThemselves();
@@ -286,6 +287,24 @@ void tst_LessonMemory::nextDoesTheClickThatNobodyHasMade()
     // What to type is the person's own.
     played.session.next();
     QCOMPARE(played.id(), 4);
+    QCOMPARE(played.editor.m_performed.size(), 3);
+}
+
+void tst_LessonMemory::nextClicksAsOftenAsTheHintSays()
+{
+    Played played;
+    played.editor.m_controls.insert(QStringLiteral("MainWindow"), Played::spot("MainWindow", "up"));
+    played.play({Played::item(1, "MainWindow", "click,", "click", "Click “Up” three times."),
+                 Played::item(2, "MainWindow", "click,", "click", "Click “Up” twice."),
+                 Played::item(3, "MainWindow", "click,", "keyboard"), QStringLiteral(R"("id":4)")});
+    played.session.next();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_performed.size(), 3);
+    // Who has clicked there knows how often.
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "up"));
+    played.turn();
+    played.session.next();
+    QCOMPARE(played.id(), 3);
     QCOMPARE(played.editor.m_performed.size(), 3);
 }
 

@@ -9,8 +9,13 @@ class tst_PutBack : public QObject
 
 private Q_SLOTS:
     void anotherProjectIsPutBack();
+    void theArrowPointsAtTheButtonThatPutsBack();
     void theDataArePutBackAfterAWrongMove();
     void whatAWrongButtonHasChangedIsPutBack();
+    void whatAWrongMoveHasChosenIsPutBack_data();
+    void whatAWrongMoveHasChosenIsPutBack();
+    void whatTheStepAsksForIsNoOtherChoice();
+    void anotherChoiceIsNoDamage();
     void theButtonThatTheStepPointsAtIsNoWrongOne();
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
@@ -41,6 +46,29 @@ void tst_PutBack::anotherProjectIsPutBack()
     QVERIFY(!played.session.isAstray());
     QCOMPARE(played.editor.m_project, str("/games/mine"));
     QCOMPARE(played.editor.m_data, str("as it was"));
+    QCOMPARE(played.lastTold(), str("indicator|update|95|196|MainWindow|Hint|4|0"));
+}
+
+void tst_PutBack::theArrowPointsAtTheButtonThatPutsBack()
+{
+    Played played;
+    played.play({Played::item(1, "MainWindow", "list,1")});
+    played.editor.m_project = str("/games/other");
+    played.use("MainWindow", "new");
+    played.editor.report(str("action"), str("fileNew"), str("open"));
+    played.turn();
+    QCOMPARE(played.lastTold(), str("indicator|update|-9999|-9999|MainWindow|put it back|4|6"));
+    // It comes up when the editor hears of it,
+    played.editor.m_putBackSpot = QPoint(500, 900) + LessonWords::kTip;
+    Q_EMIT played.editor.viewChanged();
+    played.turn();
+    QCOMPARE(played.lastTold(), str("indicator|update|500|900|MainWindow|put it back|4|0"));
+    // and may be moved.
+    played.editor.m_putBackSpot = QPoint(510, 900) + LessonWords::kTip;
+    Q_EMIT played.editor.viewChanged();
+    played.turn();
+    QCOMPARE(played.told.constLast(), str("indicator|updateXy|510|900"));
+    played.session.putBack();
     QCOMPARE(played.lastTold(), str("indicator|update|95|196|MainWindow|Hint|4|0"));
 }
 
@@ -82,6 +110,89 @@ void tst_PutBack::whatAWrongButtonHasChangedIsPutBack()
     played.session.putBack();
     QCOMPARE(played.editor.m_data, str("as it was"));
     QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::whatAWrongMoveHasChosenIsPutBack_data()
+{
+    QTest::addColumn<QByteArray>("condition");
+    QTest::newRow("a step with an event") << QByteArray("action,fileSave,");
+    QTest::newRow("a click and Next") << QByteArray("click,");
+}
+
+void tst_PutBack::whatAWrongMoveHasChosenIsPutBack()
+{
+    QFETCH(const QByteArray, condition);
+    const ControlSpot grass = Played::spot("MainWindow", "tiles", 0);
+    const ControlSpot rock = Played::spot("MainWindow", "tiles", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "fileSave"));
+    played.editor.m_chosen = {grass};
+    played.play({Played::item(1, "MainWindow", condition.constData()), QStringLiteral(R"("id":2)")});
+    QSignalSpy changed(&played.session, &LessonSession::astrayChanged);
+    played.use("MainWindow", "tiles", 3);
+    played.editor.m_chosen = {rock};
+    played.editor.report(str("list"), str("3"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    QCOMPARE(changed.size(), 1);
+    // Who chooses it again herself has nothing to put back.
+    played.use("MainWindow", "tiles", 0);
+    played.editor.m_chosen = {grass};
+    played.editor.report(str("list"), str("0"));
+    played.turn();
+    QVERIFY(!played.session.canPutBack());
+    QCOMPARE(changed.size(), 2);
+}
+
+void tst_PutBack::whatTheStepAsksForIsNoOtherChoice()
+{
+    Played played;
+    const ControlSpot tab = Played::spot("MainWindow", "tabs", 1);
+    played.editor.m_controls.insert(str("MainWindow"), tab);
+    played.editor.m_chosen = {Played::spot("MainWindow", "tabs", 0), Played::spot("MainWindow", "tiles", 3)};
+    played.play({Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)")});
+    // A wrong move that chooses nothing,
+    played.use("MainWindow", "grid");
+    played.editor.report(str("action"), str("grid"));
+    // and the tab, behind which are other rows.
+    played.use("MainWindow", "tabs", 1);
+    played.editor.m_chosen = {tab, Played::spot("MainWindow", "trees", 0)};
+    played.editor.report(str("tabView"), str("tabview"), str("1"));
+    played.turn();
+    QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::anotherChoiceIsNoDamage()
+{
+    const ControlSpot row = Played::spot("MainWindow", "maps", 3);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), row);
+    played.editor.m_chosen = {Played::spot("MainWindow", "tiles", 0)};
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
+                 Played::item(3, "MainWindow", "click,"), Played::item(4, "MainWindow", "list,3"),
+                 QStringLiteral(R"("id":5)")});
+    played.use("MainWindow", "tiles", 2);
+    played.editor.m_chosen = {Played::spot("MainWindow", "tiles", 2)};
+    played.editor.report(str("list"), str("2"));
+    played.turn();
+    QVERIFY(played.session.canPutBack());
+    played.session.next();
+    played.turn();
+    played.session.next();
+    played.turn();
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("a map less");
+    played.editor.m_hidden.append(row);
+    played.editor.report(str("action"), str("delete"));
+    played.turn();
+    played.session.next();
+    QCOMPARE(played.id(), 4);
+    QTRY_VERIFY(played.session.canPutBack());
+    // Who is lost goes back to where the map was deleted, and not to where a tile was chosen.
+    played.editor.m_hidden.clear();
+    played.session.putBack();
+    QCOMPARE(played.id(), 3);
 }
 
 void tst_PutBack::theButtonThatTheStepPointsAtIsNoWrongOne()

@@ -159,6 +159,8 @@ void tst_ScenarioRunner::namesWordsThatNobodyKnows_data()
                                  << QStringLiteral("\"dance\" is not a condition type");
     QTest::newRow("a condition of another form") << QStringLiteral(R"("condition":"list,a")")
                                                  << QStringLiteral("list,a") << QStringLiteral("\"list,2\"");
+    QTest::newRow("an icon") << QStringLiteral(R"("icon":"hammer")") << QStringLiteral("hammer")
+                             << QStringLiteral("doubleClick");
     QTest::newRow("a command") << QStringLiteral(R"("command":"presetData,2")")
                                << QStringLiteral("presetData,2") << QStringLiteral("presetData,stepN");
 }

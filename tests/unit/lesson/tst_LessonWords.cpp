@@ -15,6 +15,8 @@ private Q_SLOTS:
     void knowsAHintThatAsksToDrag();
     void numbersAreFoundInHints_data();
     void numbersAreFoundInHints();
+    void knowsHowOftenToClick_data();
+    void knowsHowOftenToClick();
 };
 
 void tst_LessonWords::givesIconsTheirNumberInTheLink()
@@ -100,6 +102,45 @@ void tst_LessonWords::numbersAreFoundInHints()
 {
     QFETCH(QString, hint);
     QTEST(LessonWords::numberToType(hint), "number");
+}
+
+void tst_LessonWords::knowsHowOftenToClick_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<int>("times");
+    const auto row = [](const char *hint, int times) {
+        QTest::newRow(hint) << QString::fromUtf8(hint) << times;
+    };
+    row("Click “Up” five times: it is five cells to the lamp. Then click “Next”.", 5);
+    row("「上に移動」を5回クリックします。ランプの前まで5マスです。そのあと「次へ」です。", 5);
+    row("点击“向上移动”五次，走五格就到灯前。然后点击“下一步”。", 5);
+    row("Click “Add” twice.", 2);
+    row("点击两次“添加”。", 2);
+    row("点击“添加” 12 次。", 12);
+    row("Click “Left” once: one cell. Then click “Next”.", 1);
+    row("「左に移動」を1回クリックします。そのあと「次へ」です。", 1);
+    row("点击一次“向左移动”，走一格。然后点击“下一步”。", 1);
+    // How often something else happens.
+    row("Click “Priority”. One with 6 comes three times as often.", 1);
+    row("Click “Twice a turn”.", 1);
+    row("「毎ターン」をクリックします。HPが毎ターン5回復します。", 1);
+    row("点击“每场战斗打两次”。", 1);
+    row("打一个回合：按 Enter 两次。然后点击“下一步”。", 1);
+    row("点击第二个。说两次话。", 1);
+    row("Double-click it: the window opens two times.", 1);
+    row("Right-click it twice.", 1);
+    row("右键点击两次。", 1);
+    row("Click it many times.", 1);
+    // Nobody is kept busy by a slip of the keyboard.
+    row("Click “Up” 5000000000 times.", 1);
+    row("Click “Up” 5000 times.", 20);
+    row("", 1);
+}
+
+void tst_LessonWords::knowsHowOftenToClick()
+{
+    QFETCH(QString, hint);
+    QTEST(LessonWords::timesToClick(hint), "times");
 }
 
 QTEST_APPLESS_MAIN(tst_LessonWords)

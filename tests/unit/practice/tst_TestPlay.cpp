@@ -37,6 +37,7 @@ private Q_SLOTS:
     void theGameWaitsWhileTheEditorIsUsed();
     void anotherProjectEndsTheGame();
     void aProblemLeadsToItsEvent();
+    void aProblemOfTheDatabaseLeadsToItsEntry();
     void theStripStaysInSight();
 
 private:
@@ -222,6 +223,19 @@ void tst_TestPlay::aProblemLeadsToItsEvent()
     const player::Problem problem{str("data/Map001.json"), 1, 1, 1, 1, str("what")};
     Q_EMIT window()->placeAsked(problem);
     QCOMPARE((*m_editor)->openWindows(), (QStringList{str("MainWindow"), str("EventEditorMain")}));
+    QVERIFY(m_play->isOn());
+}
+
+void tst_TestPlay::aProblemOfTheDatabaseLeadsToItsEntry()
+{
+    play();
+    player::Problem problem;
+    problem.file = str("data/Enemies.json");
+    problem.entry = 3;
+    Q_EMIT window()->placeAsked(problem);
+    QCOMPARE((*m_editor)->openWindows(), (QStringList{str("MainWindow"), str("DatabaseMain")}));
+    QCOMPARE(m_editor->find<QTabBar>("DatabaseMain", "tabs")->currentIndex(), 6);
+    QCOMPARE(m_editor->find<RowList>("DatabaseMain", "enemies")->currentRow(), 2);
     QVERIFY(m_play->isOn());
 }
 

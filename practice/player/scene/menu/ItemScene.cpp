@@ -39,7 +39,9 @@ void ItemScene::list(const Game &game)
             const GearEntry *gear = entries.find(held.key());
             if (gear != nullptr && held.value() > 0) {
                 const QString reason = tr("Put it on in the menu, under Equipment.");
-                rows.append({gear->name, QStringLiteral("× %1").arg(held.value()), {}, reason, held.key()});
+                const QString help = gear->description;
+                rows.append({gear->name, QStringLiteral("× %1").arg(held.value()), help,
+                             help.isEmpty() ? reason : help + QStringLiteral("  ") + reason, held.key()});
             }
         }
     };

@@ -148,7 +148,7 @@ void changeEquipment(Interpreter &run, const Command &command)
                           : QCoreApplication::translate("TestPlay", "There is no armor %1.").arg(id));
         return;
     }
-    const QVector<Actor *> all = actors(run, 0, qMax(1, command.number(0)));
+    const QVector<Actor *> all = Operands::oneActor(run, command.number(0));
     for (Actor *const actor : all) {
         if (!run.state().equip(actor, isWeapon ? Goods::kWeapon : Goods::kArmor, id, run.data())) {
             run.tell(QCoreApplication::translate(
@@ -159,7 +159,7 @@ void changeEquipment(Interpreter &run, const Command &command)
 
 void changeName(Interpreter &run, const Command &command)
 {
-    const QVector<Actor *> all = actors(run, 0, qMax(1, command.number(0)));
+    const QVector<Actor *> all = Operands::oneActor(run, command.number(0));
     for (Actor *const actor : all) {
         actor->name = command.text(1);
     }
@@ -170,7 +170,7 @@ void nameInput(Interpreter &run, const Command &command)
     if (run.waitsForTurn()) {
         return;
     }
-    const QVector<Actor *> all = actors(run, 0, qMax(1, command.number(0)));
+    const QVector<Actor *> all = Operands::oneActor(run, command.number(0));
     if (all.isEmpty()) {
         return;
     }

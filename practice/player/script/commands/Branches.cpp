@@ -20,9 +20,12 @@ constexpr int kLetter = 6;
 
 bool variableHolds(Interpreter &run, const Command &command)
 {
-    const int value = command.number(kValue);
+    if (!Operands::isNumber(run, command.number(kNumber))) {
+        return false;
+    }
+    const int by = command.number(kFact) == 1 ? 1 : 0;
     return Operands::compare(run.state().variable(command.number(kNumber)), command.number(kComparison),
-                             command.number(kFact) == 1 ? run.state().variable(value) : value);
+                             Operands::given(run, by, command.number(kValue)));
 }
 
 bool selfSwitchHolds(Interpreter &run, const Command &command)
@@ -97,7 +100,8 @@ bool holds(Interpreter &run, const Command &command)
 {
     switch (command.number(0)) {
     case 0:
-        return run.state().isOn(command.number(kNumber)) == (command.number(kState) == 0);
+        return Operands::isNumber(run, command.number(kNumber)) &&
+               run.state().isOn(command.number(kNumber)) == (command.number(kState) == 0);
     case 1:
         return variableHolds(run, command);
     case 2:

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kThen = 0;
 constexpr int kElse = 1;
+/// Ten minutes, as for what takes its time on the screen.
+constexpr int kLongestWait = 36000;
 
 void conditionalBranch(Interpreter &run, const Command &command)
 {
@@ -60,18 +62,26 @@ void commonEvent(Interpreter &run, const Command &command)
     run.call(event->list, {QStringLiteral("data/CommonEvents.json"), 0, event->id, 0});
 }
 
-/// From the first to the last number, as far as both can be; false, with a problem told, otherwise.
-bool isRange(Interpreter &run, int first, int last)
+/// Numbers from one to another.
+struct Range
 {
-    return Operands::isNumber(run, first) && Operands::isNumber(run, last);
+    int first = 1;
+    int last = 0;
+};
+
+/// Whichever of the two parameters is the smaller one; empty, with a problem told, when one cannot be.
+Range rangeOf(Interpreter &run, const Command &command)
+{
+    const int one = command.number(0);
+    const int other = command.number(1);
+    const bool isThere = Operands::isNumber(run, one) && (one == other || Operands::isNumber(run, other));
+    return isThere ? Range{qMin(one, other), qMax(one, other)} : Range();
 }
 
 void switches(Interpreter &run, const Command &command)
 {
-    if (!isRange(run, command.number(0), command.number(1))) {
-        return;
-    }
-    for (int id = command.number(0); id <= command.number(1); ++id) {
+    const Range range = rangeOf(run, command);
+    for (int id = range.first; id <= range.last; ++id) {
         run.state().setSwitch(id, command.number(2) == 0);
     }
 }
@@ -109,14 +119,12 @@ bool operate(int operation, qint64 operand, qint64 *value)
 
 void variables(Interpreter &run, const Command &command)
 {
-    if (!isRange(run, command.number(0), command.number(1))) {
-        return;
-    }
-    for (int id = command.number(0); id <= command.number(1); ++id) {
+    const Range range = rangeOf(run, command);
+    for (int id = range.first; id <= range.last; ++id) {
         // By chance, each of them gets a number of its own.
         qint64 operand = command.number(4);
         if (command.number(3) == 1) {
-            operand = run.state().variable(command.number(4));
+            operand = Operands::given(run, 1, command.number(4));
         } else if (command.number(3) == 2) {
             operand = run.state().random.between(command.number(4), command.number(5));
         }
@@ -150,7 +158,13 @@ void timer(Interpreter &run, const Command &command)
 
 void pause(Interpreter &run, const Command &command)
 {
-    run.waitTicks(command.number(0));
+    const int wanted = command.number(0);
+    if (wanted > kLongestWait) {
+        run.tell(QCoreApplication::translate("TestPlay", "A wait of %1 frames is too long; it ends after %2.")
+                     .arg(wanted)
+                     .arg(kLongestWait));
+    }
+    run.waitTicks(qMin(wanted, kLongestWait));
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "player/script/commands/AllCommands.h"
 #include "player/script/commands/Operands.h"
 
+#include <QCoreApplication>
+
 namespace player {
 
 namespace {
@@ -30,6 +32,12 @@ void message(Interpreter &run, const Command &command)
 {
     if (run.waitsForTurn()) {
         return;
+    }
+    if (command.number(1) != 0 && !command.text(0).isEmpty()) {
+        run.tell(QCoreApplication::translate("TestPlay",
+                                             "The face “%1” is one picture: its number %2 makes no "
+                                             "difference.")
+                     .arg(command.text(0), QString::number(command.number(1))));
     }
     Message message{command.text(0), command.number(2), command.number(3), command.text(4), {}, false};
     message.lines = run.takeLines(kMessageLine);

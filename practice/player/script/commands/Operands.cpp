@@ -8,7 +8,10 @@ namespace player::Operands {
 
 int given(Interpreter &run, int by, int value)
 {
-    return by == 0 ? value : run.state().variable(value);
+    if (by == 0) {
+        return value;
+    }
+    return isNumber(run, value) ? run.state().variable(value) : 0;
 }
 
 int change(Interpreter &run, int change, int by, int amount)
@@ -20,22 +23,26 @@ int change(Interpreter &run, int change, int by, int amount)
 
 QVector<Actor *> actors(Interpreter &run, int by, int actor)
 {
-    QVector<Actor *> actors;
     const int wanted = given(run, by, actor);
     if (wanted == 0 && by == 0) {
+        QVector<Actor *> actors;
         const QVector<int> party = run.state().party;
         for (const int id : party) {
             actors.append(run.state().actor(id, run.data()));
         }
         return actors;
     }
-    Actor *const found = run.state().actor(wanted, run.data());
+    return oneActor(run, wanted);
+}
+
+QVector<Actor *> oneActor(Interpreter &run, int actor)
+{
+    Actor *const found = run.state().actor(actor, run.data());
     if (found == nullptr) {
-        run.tell(QCoreApplication::translate("TestPlay", "There is no actor %1.").arg(wanted));
-    } else {
-        actors.append(found);
+        run.tell(QCoreApplication::translate("TestPlay", "There is no actor %1.").arg(actor));
+        return {};
     }
-    return actors;
+    return {found};
 }
 
 bool compare(int left, int comparison, int right)

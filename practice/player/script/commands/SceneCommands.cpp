@@ -95,7 +95,15 @@ void movementRoute(Interpreter &run, const Command &command)
     who->route = Route::fromJson(command.parameters.at(1));
     who->routePlace = 0;
     who->hasRoute = !who->route.steps.isEmpty();
+    who->routeOf = run.place();
+    who->blockedTicks = 0;
     who->pause = 0;
+    for (const RouteStep &step : qAsConst(who->route.steps)) {
+        if (!step.isKnown()) {
+            run.tell(QCoreApplication::translate("TestPlay", "There is no movement %1; it is passed by.")
+                         .arg(step.code));
+        }
+    }
     if (who->route.waits && who->route.repeats) {
         run.tell(QCoreApplication::translate(
             "TestPlay", "A route that repeats has no end to wait for; the event goes on."));

@@ -140,7 +140,7 @@
 "name":"Keep it",
 "folder":false,
 "translationId":9,
-"x":417,
+"x":579,
 "y":275,
 "windowKey":"TextPreview",
 "condition":"windowState,TextPreview,close",

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
     void typesTheNumberOfTheHint();
+    void clicksAsOftenAsTheHintSays();
     void typesIntoWhatHasTheKeyboard();
     void dragsWhereTheHintSaysSo();
     void leavesAGameWithTheEscapeKey();
@@ -147,6 +148,19 @@ void tst_ActionPlan::typesTheNumberOfTheHint()
     step.condition = *Condition::parse(QStringLiteral("spinBox,=,3"));
     QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)),
              QStringLiteral("a click at (438, 432); Ctrl+A; typing \"3\""));
+}
+
+void tst_ActionPlan::clicksAsOftenAsTheHintSays()
+{
+    const Sight sight = sightWith(buttonsOf(QStringLiteral("click,")));
+    Step step = stepOf(QStringLiteral("click,"), QStringLiteral("click"));
+    step.hint = QStringLiteral("Click it three times. Then click Next.");
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sight, true)),
+             QStringLiteral("a click at (438, 432); a click at (438, 432); a click at (438, 432); "
+                            "a click on the companion's button"));
+    // A click that ends the step comes once.
+    step.condition = *Condition::parse(QStringLiteral("action,viewZoomIn,"));
+    QCOMPARE(wordsOf(*ActionPlan::make(step, sightWith({}), true)), QStringLiteral("a click at (438, 432)"));
 }
 
 void tst_ActionPlan::typesIntoWhatHasTheKeyboard()

@@ -17,6 +17,8 @@ const QString kChoosing = QStringLiteral(
     R"({"id":6,"x":10,"y":-20,"windowKey":"MainWindow","condition":"comboBox,kind,2","hint":"Choose","icon":"click"})");
 const QString kQuoting = QStringLiteral(
     R"({"id":7,"x":10,"y":-20,"windowKey":"MainWindow","condition":"click,","hint":"Choose “Herb found”.","icon":"click"})");
+const QString kRepeating = QStringLiteral(
+    R"({"id":9,"x":10,"y":-20,"windowKey":"MainWindow","condition":"click,","hint":"Click twice.","icon":"click"})");
 const QString kDragging = QStringLiteral(
     R"({"id":5,"x":10,"y":-20,"windowKey":"MainWindow","condition":"pressed,0,0","hint":"Drag to the right","icon":"click"})");
 
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void leavesAGameThatDidNotHearTheFirstKey();
     void typesOnlyWithTheFocus();
     void typesOnlyBehindTheClick();
+    void clicksAgainOnlyBehindTheClick();
     void choosesOnlyFromAListThatIsOpen();
     void choosesWhatTheHintQuotes_data();
     void choosesWhatTheHintQuotes();
@@ -122,6 +125,20 @@ void tst_Pilot::typesOnlyBehindTheClick()
     QCOMPARE(m_scene.acts.size(), 1);
     m_scene.hearsClicks = true;
     QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
+}
+
+void tst_Pilot::clicksAgainOnlyBehindTheClick()
+{
+    m_scene.hearsClicks = false;
+    m_overlays = {kBubble, {kNext}};
+    begin({kRepeating});
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 1, kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_scene.questionsForClicks > kSeveral, kSoonMs);
+    QCOMPARE(m_scene.acts.size(), 1);
+    m_scene.hearsClicks = true;
+    QTRY_COMPARE_WITH_TIMEOUT(m_scene.acts.size(), 3, kSoonMs);
+    QCOMPARE(m_scene.acts.at(1).kind, Action::Kind::kClick);
+    QCOMPARE(m_scene.acts.at(2).kind, Action::Kind::kPressButton);
 }
 
 void tst_Pilot::choosesOnlyFromAListThatIsOpen()

@@ -4,6 +4,10 @@
 #include "strip/LessonStrip.h"
 
 #include <QAccessible>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -43,6 +47,25 @@ StripState crowded(const QString &text)
     return state;
 }
 
+/// What a control of the editor's windows says.
+QString labelOf(const char *window, const char *control, const QString &locale)
+{
+    QFile file(
+        QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions/%1.json").arg(QLatin1String(window)));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QJsonObject description = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonArray controls = description.value(QLatin1String("controls")).toArray();
+    for (const QJsonValue &value : controls) {
+        const QJsonObject object = value.toObject();
+        if (object.value(QLatin1String("name")).toString() == QLatin1String(control)) {
+            return object.value(QLatin1String("label")).toObject().value(locale).toString();
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 class tst_LessonStrip : public QObject
@@ -67,6 +90,8 @@ private Q_SLOTS:
     void everythingHasANameForScreenReaders();
     void textsAndCaptionsFit_data();
     void textsAndCaptionsFit();
+    void puttingBackIsNoUndo_data();
+    void puttingBackIsNoUndo();
     void everyHintFits_data();
     void everyHintFits();
 
@@ -347,6 +372,25 @@ void tst_LessonStrip::textsAndCaptionsFit()
             QVERIFY2(strip.rect().contains(found->geometry()), qPrintable(found->text()));
         }
     }
+}
+
+void tst_LessonStrip::puttingBackIsNoUndo_data()
+{
+    textsAndCaptionsFit_data();
+}
+
+void tst_LessonStrip::puttingBackIsNoUndo()
+{
+    QFETCH(QString, locale);
+    const PracticeTranslator translator(locale);
+    const LessonStrip strip;
+    const QString text = strip.findChild<QPushButton *>(QStringLiteral("putBackButton"))->text();
+    const QString undo = labelOf("MainWindow", "editUndo", locale);
+    QVERIFY(!undo.isEmpty());
+    QVERIFY2(text != undo, qPrintable(text));
+    // The window without a project tells of the same button.
+    const QString told = labelOf("FileDialog", "noProjectsInLesson", locale);
+    QVERIFY2(told.contains(text), qPrintable(told));
 }
 
 void tst_LessonStrip::everyHintFits_data()

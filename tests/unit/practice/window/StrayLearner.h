@@ -176,12 +176,16 @@ public:
         }
         const Step step = session.runner().step();
         const std::optional<ControlSpot> pointed = m_editor->controlFor(step);
-        return str("step %1 %2; open %3; points at %4, which %5; %6; last %7")
+        const std::optional<Way> way = session.wayBack();
+        return str("step %1 %2; open %3; points at %4, which %5; %6; way back %7; last %8")
             .arg(step.id)
             .arg(step.conditionText, m_editor->openWindows().join(QLatin1Char(' ')),
                  pointed ? nameOf(*pointed) : QString(),
                  pointed && m_editor->rectOf(*pointed) ? str("shows") : str("is hidden"),
                  session.isAstray() ? str("astray") : str("on track"),
+                 !way                        ? str("none")
+                 : m_editor->rectOf(way->by) ? nameOf(way->by)
+                                             : nameOf(way->by) + str(", hidden"),
                  QStringList(m_editor.told.mid(qMax(0, int(m_editor.told.size()) - 12))).join(str("; ")));
     }
 

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void controlsAreThereForAValue();
     void allRequirementsMustHold();
     void controlsAreGreyForAValue();
+    void whatBelongsToNoEntryIsGrey();
     void buttonsAreGreyWhileTheirCommandsCannotRun();
     void severalCommandsRunInTurn();
     void entriesAreAddedInTheWindowThatOpens();
@@ -82,6 +83,25 @@ void tst_ControlStates::controlsAreGreyForAValue()
     QVERIFY(spin->isVisible() && !spin->isEnabled());
     bench.window.setField(str("data/Items/{items}/timed"), true);
     QVERIFY(spin->isEnabled());
+}
+
+void tst_ControlStates::whatBelongsToNoEntryIsGrey()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null])"));
+    auto *price =
+        bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/price", "range": [0, 99])");
+    auto *add = bench.make<QPushButton>(R"("type": "button", "label": TEXT,
+        "click": {"open": "Effects", "begin": "list.add data/Items/{items}/effects", "entry": {"hp": 10}})");
+    auto *nowhere = bench.make<QSpinBox>(R"("type": "spinBox", "field": "entry/@value", "range": [0, 99])");
+    bench.window.show();
+    QVERIFY(!price->isEnabled());
+    QVERIFY(!add->isEnabled());
+    // Where nobody has named a place, no list is without entries.
+    QVERIFY(nowhere->isEnabled());
+    QVERIFY(bench.setItems(R"([null, {"effects": []}])"));
+    QVERIFY(price->isEnabled());
+    QVERIFY(add->isEnabled());
 }
 
 void tst_ControlStates::buttonsAreGreyWhileTheirCommandsCannotRun()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void theGameHasItsParty();
     void musicIsChosenWithItsVolume();
     void aTroopHasPagesOfCommands();
+    void aMemberOfATroopMayAppearLater();
     void aCommonEventHasCommands();
     void theGameStartsAtAPlace();
     void lookingChangesNothing();
@@ -221,9 +222,17 @@ void tst_DatabaseMain::anAddedTroopHasAPage()
     SampleEditor editor;
     editor.openDatabase(7);
     editor.click("DatabaseMain", "troopsAdd");
+    // Of nobody there is nothing to choose.
+    QVERIFY(!editor.find<QWidget>("DatabaseMain", "memberEnemy")->isEnabled());
+    QVERIFY(!editor.find<QWidget>("DatabaseMain", "memberX")->isEnabled());
     editor.click("DatabaseMain", "membersAdd");
+    QVERIFY(editor.find<QWidget>("DatabaseMain", "memberEnemy")->isEnabled());
     editor.openRow("DatabaseMain", "troopCommands", 0);
     QCOMPARE(editor->openWindows().last(), str("EventCommandSelect"));
+    editor->close(str("EventCommandSelect"));
+    QVERIFY(editor.find<QWidget>("DatabaseMain", "troopSpan")->isEnabled());
+    editor.click("DatabaseMain", "troopPagesDelete");
+    QVERIFY(!editor.find<QWidget>("DatabaseMain", "troopSpan")->isEnabled());
 }
 
 void tst_DatabaseMain::aPictureIsChosen()
@@ -297,6 +306,10 @@ void tst_DatabaseMain::theGameHasItsParty()
 {
     SampleEditor editor;
     editor.openDatabase(12);
+    editor.click("DatabaseMain", "partyDelete");
+    QVERIFY(!editor.find<QWidget>("DatabaseMain", "partyMember")->isEnabled());
+    editor.click("DatabaseMain", "partyAdd");
+    QVERIFY(editor.find<QWidget>("DatabaseMain", "partyMember")->isEnabled());
     editor.click("DatabaseMain", "partyAdd");
     editor.choose("DatabaseMain", "partyMember", 2);
     QCOMPARE(editor.texts("DatabaseMain", "party"), QStringList({str("#1"), str("#100")}));
@@ -348,6 +361,20 @@ void tst_DatabaseMain::aTroopHasPagesOfCommands()
     editor.click("DatabaseMain", "ok");
     QCOMPARE(editor.value("Troops", "/6/pages").toArray().size(), 3);
     QCOMPARE(editor.value("Troops", "/6/pages/2/list").toArray().size(), 1);
+}
+
+void tst_DatabaseMain::aMemberOfATroopMayAppearLater()
+{
+    SampleEditor editor;
+    editor.openDatabase(7);
+    editor.clickRow("DatabaseMain", "troops", 5);
+    editor.clickRow("DatabaseMain", "members", 2);
+    editor.takeTold();
+    editor.click("DatabaseMain", "memberHidden");
+    QCOMPARE(editor.takeTold(), QStringList{str("checked,memberHidden,1 in DatabaseMain")});
+    editor.click("DatabaseMain", "ok");
+    QVERIFY(editor.value("Troops", "/6/members/0/hidden").isUndefined());
+    QCOMPARE(editor.value("Troops", "/6/members/2/hidden"), QJsonValue(true));
 }
 
 void tst_DatabaseMain::aCommonEventHasCommands()

@@ -191,8 +191,12 @@ void tst_EntryWindows::theTrialBattleHasAParty()
     SampleEditor editor;
     editor.openDatabase(7);
     editor.click("DatabaseMain", "battleTest");
+    // Of nobody there is nothing to choose.
+    QVERIFY(!editor.find<QWidget>("BattleTest", "actor")->isEnabled());
+    QVERIFY(!editor.find<QWidget>("BattleTest", "level")->isEnabled());
     editor.click("BattleTest", "add");
     editor.click("BattleTest", "add");
+    QVERIFY(editor.find<QWidget>("BattleTest", "actor")->isEnabled());
     editor.choose("BattleTest", "actor", 1);
     editor.setNumber("BattleTest", "level", 6);
     editor.choose("BattleTest", "weapon", 3);
@@ -210,8 +214,10 @@ void tst_EntryWindows::theTitleScreenHasCommands()
     SampleEditor editor;
     editor.openDatabase(12);
     editor.click("DatabaseMain", "titleCommands");
+    QVERIFY(!editor.find<QWidget>("TitleCommandWindow", "command")->isEnabled());
     editor.click("TitleCommandWindow", "add");
     editor.click("TitleCommandWindow", "add");
+    QVERIFY(editor.find<QWidget>("TitleCommandWindow", "command")->isEnabled());
     editor.choose("TitleCommandWindow", "command", 4);
     editor.type("TitleCommandWindow", "text", str("Leave"));
     editor.click("TitleCommandWindow", "up");

@@ -16,6 +16,9 @@ private Q_SLOTS:
     void everyCommandOfTheSampleOpensItsForm();
     void goodsOfAShop();
     void aMessageIsDrawn();
+    void aMessageIsDrawnAsTheGameShowsIt();
+    void aCommandIsCalledInTheTitle_data();
+    void aCommandIsCalledInTheTitle();
 };
 
 void tst_EventCommandWindows::initTestCase()
@@ -176,6 +179,55 @@ void tst_EventCommandWindows::aMessageIsDrawn()
     QVERIFY(atTheBottom != empty);
     editor.choose("EventCommand", "101/place", 0);
     QVERIFY(picture() != atTheBottom);
+}
+
+void tst_EventCommandWindows::aMessageIsDrawnAsTheGameShowsIt()
+{
+    SampleEditor editor;
+    begin(editor);
+    openCell(editor, kFree);
+    editor.openRow("EventEditorMain", "commands", 0);
+    editor.clickTab("EventCommandSelect", "tabs", 0);
+    editor.openRow("EventCommandSelect", "commands", 0);
+    const auto picture = [&editor](const QString &text) {
+        editor.find<QPlainTextEdit>("EventCommand", "101/lines")->setPlainText(text);
+        editor.click("EventCommand", "101/preview");
+        const QImage image = editor.find<QWidget>("TextPreview", "preview")->grab().toImage();
+        editor.click("TextPreview", "close");
+        return image;
+    };
+    // A long line goes on in the next one.
+    const QStringList words{str("lamp"), str("lamp"), str("lamp"), str("lamp"),
+                            str("lamp"), str("lamp"), str("lamp")};
+    const QString seven = words.join(QLatin1Char(' '));
+    const QString thirteen = seven + str(" lamp lamp lamp lamp lamp lamp");
+    QCOMPARE(picture(thirteen + QLatin1Char(' ') + seven), picture(thirteen + QLatin1Char('\n') + seven));
+    QVERIFY(picture(thirteen) != picture(thirteen + QLatin1Char(' ') + seven));
+    // What stands for something is that, and a pause is not seen.
+    const QString name = editor.value("Actors", "/1/name").toString();
+    QCOMPARE(picture(str("\\n[1]\\. sleeps.")), picture(name + str(" sleeps.")));
+    QVERIFY(picture(str("\\c[2]Fire!")) != picture(str("Fire!")));
+}
+
+void tst_EventCommandWindows::aCommandIsCalledInTheTitle_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("en_US") << str("en_US") << str("Event command: Show message");
+    QTest::newRow("ja_JP") << str("ja_JP") << QString::fromUtf8("イベントコマンド：メッセージの表示");
+    QTest::newRow("zh_CN") << str("zh_CN") << QString::fromUtf8("事件指令：显示消息");
+}
+
+void tst_EventCommandWindows::aCommandIsCalledInTheTitle()
+{
+    QFETCH(QString, locale);
+    SampleEditor editor(locale.toLatin1().constData());
+    begin(editor);
+    openCell(editor, kFree);
+    editor.openRow("EventEditorMain", "commands", 0);
+    editor.clickTab("EventCommandSelect", "tabs", 0);
+    editor.openRow("EventCommandSelect", "commands", 0);
+    QTEST(editor->window(str("EventCommand"))->windowTitle(), "title");
 }
 
 QTEST_MAIN(tst_EventCommandWindows)

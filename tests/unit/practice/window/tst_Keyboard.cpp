@@ -1,6 +1,8 @@
 #include "EditorFixture.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTabBar>
 #include <QWindow>
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void whatGetsTheKeyboardBehindTheMainWindowKeepsIt();
     void theMenuKeyOpensTheMenuOfTheRow();
     void theMenuKeyOpensTheMenuOfTheCell();
+    void aKeyOpensTheMenuBar();
     void popupKeysAreThePopups();
     void popupEntriesAreChosenByLetter_data();
     void popupEntriesAreChosenByLetter();
@@ -276,6 +279,23 @@ void tst_Keyboard::theMenuKeyOpensTheMenuOfTheCell()
                                              str("push Popup"), str("popup,MapViewPopup, in Menu")}));
     QCOMPARE(editor->origin(str("Menu")).value(),
              editor.map()->mapToGlobal(QRect(3 * 32, 2 * 32, 32, 32).center()));
+}
+
+void tst_Keyboard::aKeyOpensTheMenuBar()
+{
+    Editor editor;
+    editor.openProject();
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    Editor::key(Qt::Key_F10);
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr);
+    QCOMPARE(menu->activeAction(), menu->actions().constFirst());
+    editor.takeTold();
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QCOMPARE(editor->openWindows().last(), str("NewProject"));
+    // A dialog has none.
+    Editor::key(Qt::Key_F10);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
 }
 
 void tst_Keyboard::popupKeysAreThePopups()

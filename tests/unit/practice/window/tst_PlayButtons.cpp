@@ -15,6 +15,7 @@ private Q_SLOTS:
     void theEndIsToldOfNoWindow();
     void anEventIsShownWithPageAndCommand();
     void aCommonEventAndATroopAreShown();
+    void anEntryOfTheDatabaseIsShown();
     void aPlaceThatIsGoneIsNotShown();
     void whatIsTypedIsNotLostForAPlace();
 
@@ -147,6 +148,29 @@ void tst_PlayButtons::aCommonEventAndATroopAreShown()
     QVERIFY((*m_editor)->showPlace(place));
     QCOMPARE(m_editor->find<QTabBar>("DatabaseMain", "tabs")->currentIndex(), 7);
     QCOMPARE(row("DatabaseMain", "troops"), 0);
+}
+
+void tst_PlayButtons::anEntryOfTheDatabaseIsShown()
+{
+    EventPlace place;
+    place.in = EventPlace::In::kDatabase;
+    place.list = str("data/Skills");
+    place.event = 2;
+    QVERIFY((*m_editor)->showPlace(place));
+    QCOMPARE(m_editor->find<QTabBar>("DatabaseMain", "tabs")->currentIndex(), 2);
+    QCOMPARE(row("DatabaseMain", "skills"), 1);
+    m_editor->click("DatabaseMain", "cancel");
+    // What concerns no entry leads to its tab.
+    place.list = str("data/System");
+    place.event = 0;
+    QVERIFY((*m_editor)->showPlace(place));
+    QCOMPARE(m_editor->find<QTabBar>("DatabaseMain", "tabs")->currentIndex(), 12);
+    m_editor->click("DatabaseMain", "cancel");
+    place.list = str("data/Nowhere");
+    QVERIFY(!(*m_editor)->showPlace(place));
+    place.list = str("data/Items");
+    place.event = 9999;
+    QVERIFY(!(*m_editor)->showPlace(place));
 }
 
 void tst_PlayButtons::aPlaceThatIsGoneIsNotShown()

@@ -10,6 +10,8 @@ class tst_GameState : public QObject
 private Q_SLOTS:
     void goodsAndGoldHaveBounds();
     void levelsComeAndGoWithExp();
+    void whatWasForgottenStaysForgotten();
+    void whoJoinsAnewBeginsAnew();
     void equipmentComesFromTheBag();
     void traitsCount();
     void aSavedGameIsTheSameGame();
@@ -43,6 +45,10 @@ player::GameState played(const player::GameData &data)
     state.actor(2, data)->addState(2, data, 3);
     state.hero.cell = {4, 5};
     state.hero.direction = player::kUp;
+    state.hero.speed = 3;
+    state.hero.frequency = 2;
+    state.hero.isThrough = true;
+    state.hero.opacity = 90;
     state.timerTicks = 90;
     state.isTimerOn = true;
     state.ticks = 12345;
@@ -97,6 +103,42 @@ void tst_GameState::levelsComeAndGoWithExp()
     QCOMPARE(mila->hp, 40);
 }
 
+void tst_GameState::whatWasForgottenStaysForgotten()
+{
+    const auto entries = data();
+    player::GameState state = player::GameState::begin(*entries, 1);
+    player::Actor *const mila = state.actor(1, *entries);
+    mila->forget(1);
+    mila->changeExp(29, *entries);
+    mila->changeExp(1, *entries);
+    QCOMPARE(mila->level, 3);
+    QCOMPARE(mila->skills, QVector<int>{2});
+    mila->forget(2);
+    const player::Actor loaded = player::Actor::fromJson(mila->toJson(), *entries);
+    QCOMPARE(loaded.level, 3);
+    QCOMPARE(loaded.skills, QVector<int>());
+    // Who comes to a level once more learns what it teaches once more.
+    mila->changeLevel(-1, *entries);
+    mila->changeLevel(1, *entries);
+    QCOMPARE(mila->skills, QVector<int>{2});
+    // No level more or less is no change.
+    mila->changeExp(5, *entries);
+    mila->changeLevel(0, *entries);
+    QCOMPARE(mila->exp, 35);
+}
+
+void tst_GameState::whoJoinsAnewBeginsAnew()
+{
+    const auto entries = data();
+    player::GameState state = player::GameState::begin(*entries, 1);
+    state.actor(1, *entries)->changeExp(35, *entries);
+    state.join(1, *entries, true);
+    QCOMPARE(state.party, QVector<int>{1});
+    QVERIFY(state.knownActor(1) != nullptr);
+    QCOMPARE(state.knownActor(1)->level, 1);
+    QVERIFY(!state.isDefeated(*entries));
+}
+
 void tst_GameState::equipmentComesFromTheBag()
 {
     const auto entries = data();
@@ -119,7 +161,7 @@ void tst_GameState::traitsCount()
     auto files = smallGame::files({QJsonValue()});
     files.insert(QStringLiteral("data/Armors.json"),
                  smallGame::json(R"([null,{"id":1,"name":"Cloak","defense":2,"traits":
-                     [{"hpRate":150},{"resistState":2},{"addSkill":2},{"sealSkill":1}]}])"));
+                     [{"hpRate":150},{"resistState":2},{"resistState":1},{"addSkill":2},{"sealSkill":1}]}])"));
     const auto entries = player::GameReader::read(files, sample::tileNames());
     player::GameState state = player::GameState::begin(*entries, 1);
     player::Actor *const mila = state.actor(1, *entries);
@@ -127,6 +169,8 @@ void tst_GameState::traitsCount()
     QCOMPARE(mila->usableSkills(*entries), QVector<int>{2});
     mila->addState(2, *entries);
     QVERIFY(!mila->hasState(2));
+    mila->addState(1, *entries);
+    QVERIFY(!mila->isKnockedOut());
     QVERIFY(state.equip(mila, player::Goods::kArmor, 0, *entries));
     QCOMPARE(mila->hp, 40);
 }

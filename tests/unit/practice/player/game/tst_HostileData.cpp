@@ -48,7 +48,7 @@ Files fullGame()
         files.insert(QLatin1String(file), object);
     };
     set("data/System.json",
-        R"({"gameTitle":"Small","versionId":1,"currencyUnit":"G","battleMusic":{"file":"battle"},
+        R"({"gameTitle":"Small","versionId":1,"locale":"","currencyUnit":"G","battleMusic":{"file":"battle"},
         "titleMusic":{"file":"title","volume":90,"pitch":100,"pan":0},
         "titleScreen":{"background":"hills","showTitle":true,"commands":[{"command":"newGame","text":"Go"}]},
         "testBattlers":[{"actorId":1,"level":2,"equips":[1,1]}]})");
@@ -186,6 +186,8 @@ void tst_HostileData::whatIsWrongIsNamed_data()
         "data/Map001.json, event 2, page 1: The page begins by trigger 9, which there is not");
     add("Map001/events/2/pages/0/moveType", -1,
         "data/Map001.json, event 2, page 1: The page moves in way -1, which there is not");
+    add("Map001/events/2/pages/0/moveRoute/list/1/code", 99,
+        "data/Map001.json, event 2, page 1: There is no movement 99");
     add("Map001/events/1/pages/0/list/9/parameters/1", 77,
         "data/Map001.json, event 1, page 1, line 10: There is no animation 77");
     add("Skills/1/animationId", 77, "data/Skills.json: The skill “Strike” shows animation 77");
@@ -207,6 +209,28 @@ void tst_HostileData::whatIsWrongIsNamed_data()
     add("Enemies/1/dropItems/0/itemId", 77, "data/Enemies.json: The enemy “Slime” drops item 77");
     add("Enemies/1/actions/0/skillId", 77,
         "The actions of “Slime” name skills that the database does not have");
+    const auto only = [](const char *name, int value) {
+        return QJsonObject{{QLatin1String(name), value}};
+    };
+    add("Enemies/1/actions/0/skillId", 77, "data/Enemies.json: An action of the enemy “Slime” uses skill 77");
+    add("Enemies/1/traits/0", only("addSkill", 1),
+        "data/Enemies.json: The trait “addSkill” makes no difference to the enemy “Slime”");
+    add("Enemies/1/traits/0", only("sealSkill", 77), "data/Enemies.json: A trait of “Slime” names skill 77");
+    add("States/2/traits/0", only("resistState", 77), "data/States.json: A trait of “Poison” names state 77");
+    add("Classes/1/traits", QJsonArray{only("luck", 5)},
+        "data/Classes.json: “Hero” has the trait “luck”, which there is not.");
+    add("Weapons/2/traits", QJsonArray{only("attackState", 77)},
+        "data/Weapons.json: A trait of “Sword” names state 77");
+    add("Armors/1/traits", QJsonArray{only("addSkill", 77)},
+        "data/Armors.json: A trait of “Cloak” names skill 77");
+    add("Skills/1/effects/0", only("luck", 5),
+        "data/Skills.json: “Strike” has the effect “luck”, which there is not.");
+    add("Skills/1/scope", 5, "data/Skills.json: The skill “Strike” has the target 5, which there is not");
+    add("System/testBattlers/0/actorId", 77,
+        "data/System.json: Actor 77 of the party for trial battles is not there.");
+    add("System/titleScreen/commands/0/command", QStringLiteral("dance"),
+        "data/System.json: The title screen has the command “dance”, which there is not.");
+    add("System/locale", QStringLiteral("ja_JP"), "data/System.json: The game's language is set to ja_JP.");
     add("Troops/1/members/0/enemyId", 77, "The troop “Slime” has a member that is enemy 77");
     add("Troops/1/members", QJsonArray(), "The troop “Slime” has no members");
     add("Troops/1/pages/0/list/1/parameters/2", 77,

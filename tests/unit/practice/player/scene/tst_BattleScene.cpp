@@ -68,6 +68,8 @@ private Q_SLOTS:
     void aSkillIsChosenWithItsTarget();
     void anAnimationIsSeenOverThoseOfTheParty();
     void anAnimationIsSeenOnceForEachDeed();
+    void anAnimationOverTheScreenIsSeenOnceForAllTargets_data();
+    void anAnimationOverTheScreenIsSeenOnceForAllTargets();
     void aBattleEventRunsAtItsTime();
     void anAbortedBattleCountsAsFled();
     void aTroopWithoutMembersEndsAtOnceAndIsTold();
@@ -243,6 +245,51 @@ void tst_BattleScene::anAnimationIsSeenOnceForEachDeed()
         wasSeen = isSeen;
     }
     QCOMPARE(begun, 1);
+}
+
+void tst_BattleScene::anAnimationOverTheScreenIsSeenOnceForAllTargets_data()
+{
+    QTest::addColumn<bool>("isOnScreen");
+    QTest::addColumn<int>("times");
+    QTest::newRow("over the whole screen") << true << 1;
+    QTest::newRow("over each of them") << false << 2;
+}
+
+void tst_BattleScene::anAnimationOverTheScreenIsSeenOnceForAllTargets()
+{
+    QFETCH(bool, isOnScreen);
+    QFETCH(int, times);
+    SlimeGame small;
+    AnimationEntry quake;
+    quake.id = 3;
+    quake.frames = 2;
+    quake.isOnScreen = isOnScreen;
+    small.data->animations.insert(quake);
+    small.setTroop(2);
+    SlimeGame::change(&small.data->skills, SlimeGame::kQuake,
+                      [](SkillEntry *skill) { skill->animation = 3; });
+    SlimeGame::change(&small.data->classes, 1, [](ClassEntry *traveler) {
+        traveler->learnings = {{1, SlimeGame::kQuake}};
+    });
+    small.begin();
+    BattleRun run(small);
+    QVERIFY(run.hurry("commands"));
+    QVERIFY(run.choose(QStringLiteral("Skills")));
+    QVERIFY(run.choose(QStringLiteral("Quake")));
+    QVERIFY(run.choose(QStringLiteral("Guard")));
+    int begun = 0;
+    int wasOver = -1;
+    for (int tick = 0; tick < 600; ++tick) {
+        run.game.tick();
+        const QVector<FrameBattler> battlers = run.game.frame().battlers;
+        int isOver = -1;
+        for (int place = 0; place < battlers.size(); ++place) {
+            isOver = battlers.at(place).animation == 3 ? place : isOver;
+        }
+        begun += isOver >= 0 && isOver != wasOver ? 1 : 0;
+        wasOver = isOver;
+    }
+    QCOMPARE(begun, times);
 }
 
 void tst_BattleScene::aBattleEventRunsAtItsTime()

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void theHeroWalksByKeysAndIsBlocked();
     void theHeroFindsAWayToAClickedCell();
     void aTouchBeginsAnEvent();
+    void anEventThatComesMeetsTheHero_data();
     void anEventThatComesMeetsTheHero();
     void aPatrolWalksItsRoute();
     void aWandererStaysOnTheFloor();
@@ -77,12 +78,20 @@ void tst_MapScene::aTouchBeginsAnEvent()
     QCOMPARE(play.run(QStringLiteral("press right\nwait 30\nexpect at 3 1\nexpect switch 1 on")), QString());
 }
 
+void tst_MapScene::anEventThatComesMeetsTheHero_data()
+{
+    QTest::addColumn<bool>("isThrough");
+    QTest::newRow("one that is stopped") << false;
+    QTest::newRow("one that walks through everything") << true;
+}
+
 void tst_MapScene::anEventThatComesMeetsTheHero()
 {
-    auto play =
-        game({QJsonValue(),
-              smallGame::event(1, 8, 1, list(kSwitch1), 2,
-                               {{QStringLiteral("moveType"), 2}, {QStringLiteral("moveFrequency"), 3}})});
+    QFETCH(bool, isThrough);
+    auto play = game({QJsonValue(), smallGame::event(1, 8, 1, list(kSwitch1), 2,
+                                                     {{QStringLiteral("moveType"), 2},
+                                                      {QStringLiteral("moveFrequency"), 3},
+                                                      {QStringLiteral("through"), isThrough}})});
     QCOMPARE(play.run(QStringLiteral("expect switch 1 on\nexpect at 2 1")), QString());
 }
 

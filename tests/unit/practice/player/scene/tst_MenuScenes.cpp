@@ -26,6 +26,7 @@ private Q_SLOTS:
     void anItemIsUsedOnSomebody();
     void anItemThatWouldDoNothingIsKept();
     void whatCannotBeUsedSaysWhy();
+    void gearInTheBagTellsWhatItIsAndWhereItIsPutOn();
     void aSkillCostsItsMp();
     void equipmentShowsWhatWouldChangeAndIsPutOn();
     void theStatusTellsFiguresAndTurnsToTheOthers();
@@ -78,6 +79,24 @@ void tst_MenuScenes::whatCannotBeUsedSaysWhy()
     QCOMPARE(run.help(), QStringLiteral("It is of use in battle only."));
     QVERIFY(run.pointAt(QStringLiteral("Stone")));
     QCOMPARE(run.help(), QStringLiteral("It cannot be used."));
+}
+
+void tst_MenuScenes::gearInTheBagTellsWhatItIsAndWhereItIsPutOn()
+{
+    SlimeGame small;
+    small.begin();
+    GearEntry knife;
+    knife.id = 90;
+    knife.name = QStringLiteral("Knife");
+    knife.description = QStringLiteral("Short and quick.");
+    small.data->weapons.insert(knife);
+    small.state.addGoods(Goods::kWeapon, knife.id, 1);
+    MenuRun run(small);
+    QVERIFY(run.choose(QStringLiteral("Items")));
+    run.wait(1);
+    QVERIFY(run.pointAt(QStringLiteral("Knife")));
+    QVERIFY(!run.isEnabled(run.list()->current));
+    QCOMPARE(run.help(), QStringLiteral("Short and quick.  Put it on in the menu, under Equipment."));
 }
 
 void tst_MenuScenes::aSkillCostsItsMp()

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void goodsAreBoughtAsManyAsOneLikes();
     void nobodyBuysMoreThanTheMoneyIsFor();
     void whatIsTooDearSaysSo();
+    void whatIsTooDearStillSaysWhatItIs();
+    void oneListAloneHasACursorThatMoves();
     void weaponsAreComparedWithWhatIsHeld();
     void thingsAreSoldForHalfTheirPrice();
     void keyThingsAreNotBought();
@@ -85,6 +87,30 @@ void tst_ShopScene::whatIsTooDearSaysSo()
     QVERIFY(run.choose(QStringLiteral("Tonic")));
     QCOMPARE(run.role(), QStringLiteral("goods"));
     QCOMPARE(run.help(), QStringLiteral("You do not have enough money."));
+}
+
+void tst_ShopScene::whatIsTooDearStillSaysWhatItIs()
+{
+    const SlimeGame small = rich(20);
+    ItemEntry tonic = *small.data->items.find(SlimeGame::kTonic);
+    tonic.description = QStringLiteral("Wakes up an ally.");
+    small.data->items.insert(tonic);
+    SceneRun run(small);
+    run.open<ShopScene>(kGoods, false);
+    QVERIFY(run.choose(QStringLiteral("Buy")));
+    QVERIFY(run.pointAt(QStringLiteral("Tonic")));
+    QCOMPARE(run.help(), QStringLiteral("Wakes up an ally.  You do not have enough money."));
+}
+
+void tst_ShopScene::oneListAloneHasACursorThatMoves()
+{
+    const SlimeGame small = rich(100);
+    SceneRun run(small);
+    run.open<ShopScene>(kGoods, false);
+    QCOMPARE(run.role(), QStringLiteral("shop"));
+    QCOMPARE(run.game.frame().panel("goods")->current, -1);
+    QVERIFY(run.choose(QStringLiteral("Buy")));
+    QCOMPARE(run.game.frame().panel("goods")->current, 0);
 }
 
 void tst_ShopScene::weaponsAreComparedWithWhatIsHeld()

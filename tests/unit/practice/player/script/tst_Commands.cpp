@@ -168,6 +168,8 @@ void addFlowRows()
            R"({"code":121,"indent":0,"parameters":[1,3,0]},{"code":121,"indent":0,"parameters":[2,2,1]},
         {"code":121,"indent":0,"parameters":[9,9,1]})",
            "expect switch 3 on\nexpect switch 1 on\nexpect switch 2 off\nexpect switch 9 off");
+    addRow("121 switches, the last one first", R"({"code":121,"indent":0,"parameters":[3,1,0]})",
+           "expect switch 3 on\nexpect switch 1 on\nexpect switch 2 on");
     addRow("122 variables: all operations", R"({"code":122,"indent":0,"parameters":[1,2,0,0,7]},
         {"code":122,"indent":0,"parameters":[1,1,1,0,3]},{"code":122,"indent":0,"parameters":[1,1,3,1,2]},
         {"code":122,"indent":0,"parameters":[1,1,2,0,1]},{"code":122,"indent":0,"parameters":[3,3,0,1,1]},
@@ -215,6 +217,11 @@ void addPartyAndActorRows()
         "129 the party",
         R"({"code":129,"indent":0,"parameters":[2,0,false]},{"code":129,"indent":0,"parameters":[1,1,false]})",
         "expect party 2");
+    addRow(
+        "129 somebody of the party begins anew",
+        R"({"code":316,"indent":0,"parameters":[0,1,0,0,2,false]},{"code":129,"indent":0,"parameters":[1,0,true]},
+        {"code":121,"indent":0,"parameters":[1,1,0]})",
+        "expect switch 1 on\nexpect level 1 = 1\nwait 5\nexpect hero looks mila");
     addRow("311 HP, and nobody is knocked out", R"({"code":311,"indent":0,"parameters":[0,1,1,0,500,false]})",
            "expect hp 1 = 1");
     addRow("311 HP by a variable", R"({"code":311,"indent":0,"parameters":[0,0,1,1,8,true]})",
@@ -432,6 +439,20 @@ void tst_Commands::whatCannotBeDoneIsNamedWithItsPlace_data()
     add("a troop", R"({"code":301,"indent":0,"parameters":[0,77,false,false]})", "no troop 77");
     add("an enemy outside of a battle", R"({"code":331,"indent":0,"parameters":[0,0,0,1,false]})",
         "outside of a battle");
+    add("a variable that something goes by", R"({"code":125,"indent":0,"parameters":[0,1,77777]})",
+        "no switch or variable 77777");
+    add("a variable that is another", R"({"code":122,"indent":0,"parameters":[1,1,0,1,0]})",
+        "no switch or variable 0");
+    add("a switch that is asked", R"({"code":111,"indent":0,"parameters":[0,0,1]})",
+        "no switch or variable 0");
+    add("a variable that is asked", R"({"code":111,"indent":0,"parameters":[1,-4,0,0,0,0]})",
+        "no switch or variable -4");
+    add("nobody who puts something on", R"({"code":318,"indent":0,"parameters":[0,0,0]})", "no actor 0");
+    add("nobody who is called", R"({"code":319,"indent":0,"parameters":[0,"X"]})", "no actor 0");
+    add("nobody who gets a name", R"({"code":320,"indent":0,"parameters":[0,8]})", "no actor 0");
+    add("a movement",
+        R"({"code":205,"indent":0,"parameters":[0,{"list":[{"code":28},{"code":0}],"wait":false}]})",
+        "no movement 28");
     add("a condition", R"({"code":111,"indent":0,"parameters":[99]})", "no condition 99");
 }
 

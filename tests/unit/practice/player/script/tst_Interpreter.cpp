@@ -16,7 +16,10 @@ private Q_SLOTS:
     void twoEventsTalkOneAfterTheOther();
     void aBrokenListEndsByItself_data();
     void aBrokenListEndsByItself();
+    void aRouteThatIsBlockedIsNamed_data();
     void aRouteThatIsBlockedIsNamed();
+    void aWaitForEverEnds();
+    void aFaceOfOnePictureHasNoNumber();
 };
 
 namespace {
@@ -133,14 +136,54 @@ void tst_Interpreter::aBrokenListEndsByItself()
     QVERIFY(timer.elapsed() < 10000);
 }
 
+void tst_Interpreter::aRouteThatIsBlockedIsNamed_data()
+{
+    QTest::addColumn<int>("who");
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<bool>("waits");
+    QTest::newRow("the hero stands in the way of the event") << 0 << 2 << true;
+    QTest::newRow("nobody waits for the event") << 0 << 2 << false;
+    // Who cannot get on can do nothing else either.
+    QTest::newRow("the event stands in the way of the hero") << -1 << 3 << false;
+}
+
 void tst_Interpreter::aRouteThatIsBlockedIsNamed()
 {
-    // The hero stands in the way of the event.
-    const QByteArray route =
-        R"({"code":205,"indent":0,"parameters":[0,{"list":[{"code":2},{"code":0}],"repeat":false,"skippable":false,"wait":true}]})";
-    sample::Play play(smallGame::filesWith(route), smallGame::onMap());
+    QFETCH(int, who);
+    QFETCH(int, direction);
+    QFETCH(bool, waits);
+    const QString route = QStringLiteral(
+                              R"({"code":108,"indent":0,"parameters":[]},
+            {"code":205,"indent":0,"parameters":[%1,{"list":[{"code":%2},{"code":0}],"repeat":false,"skippable":false,"wait":%3}]})")
+                              .arg(who)
+                              .arg(direction)
+                              .arg(waits ? QStringLiteral("true") : QStringLiteral("false"));
+    sample::Play play(smallGame::filesWith(route.toUtf8()), smallGame::onMap());
     QCOMPARE(play.run(QStringLiteral("ask 3 1\nwait 400")), QString());
     QVERIFY(hasProblem(play, "in the way"));
+    const player::Problem problem = play.hand().problems().constFirst();
+    QCOMPARE(problem.toString().section(QLatin1Char(':'), 0, 0),
+             QStringLiteral("data/Map001.json, event 1, page 1, line 2"));
+}
+
+void tst_Interpreter::aWaitForEverEnds()
+{
+    sample::Play play(smallGame::filesWith(R"({"code":230,"indent":0,"parameters":[2000000000]},
+        {"code":121,"indent":0,"parameters":[1,1,0]})"),
+                      smallGame::onMap());
+    QCOMPARE(
+        play.run(QStringLiteral("ask 3 1\nwait 35900\nexpect switch 1 off\nwait 200\nexpect switch 1 on")),
+        QString());
+    QVERIFY(hasProblem(play, "2000000000 frames"));
+}
+
+void tst_Interpreter::aFaceOfOnePictureHasNoNumber()
+{
+    sample::Play play(smallGame::filesWith(R"({"code":101,"indent":0,"parameters":["mila",3,0,2]},
+        {"code":401,"indent":0,"parameters":["Hello"]})"),
+                      smallGame::onMap());
+    QCOMPARE(play.run(QStringLiteral("ask 3 1\nexpect message Hello\nexpect face mila\ngo on")), QString());
+    QVERIFY(hasProblem(play, "number 3"));
 }
 
 QTEST_GUILESS_MAIN(tst_Interpreter)

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void tintsShiftTheColours();
     void greyTakesTheColoursAway();
     void panelsAreNotTinted();
+    void nothingShinesThroughAPanelOnAnother();
     void panelsByThemselvesDoNotStandInTheDark_data();
     void panelsByThemselvesDoNotStandInTheDark();
     void fadesAndFlashesCoverAll();
@@ -424,6 +425,23 @@ void tst_FramePainter::animationsMove()
     // One that the database does not have.
     frame.sprites[0].animation = 77;
     QCOMPARE(painting.draw(frame), none);
+}
+
+void tst_FramePainter::nothingShinesThroughAPanelOnAnother()
+{
+    Painting painting(kOnce);
+    Frame frame = mapFrame();
+    Panel below;
+    below.rect = QRect(100, 100, 440, 160);
+    Panel above;
+    above.rect = QRect(200, 120, 240, 72);
+    frame.panels = {below, above};
+    const QRect inside = above.rect.adjusted(4, 4, -4, -4);
+    const QImage empty = painting.draw(frame);
+    frame.panels[0].lines = QVector<PanelLine>(4, PanelLine(QString(30, QLatin1Char('W'))));
+    const QImage written = painting.draw(frame);
+    QVERIFY(written != empty);
+    QCOMPARE(written.copy(inside), empty.copy(inside));
 }
 
 void tst_FramePainter::animationsGoOverThePanels()

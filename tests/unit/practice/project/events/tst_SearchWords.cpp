@@ -8,6 +8,8 @@ class tst_SearchWords : public QObject
 private Q_SLOTS:
     void findsEvents_data();
     void findsEvents();
+    void findsTheVariableThatACommandTakes_data();
+    void findsTheVariableThatACommandTakes();
     void showsWhatWasFound();
 };
 
@@ -61,6 +63,53 @@ void tst_SearchWords::findsEvents()
         names.append(row.section(str(": "), 1).section(str(" ("), 0, 0));
     }
     QCOMPARE(names, found);
+    room.project.drafts().drop(window);
+}
+
+void tst_SearchWords::findsTheVariableThatACommandTakes_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<int>("variable");
+    QTest::addColumn<bool>("isFound");
+    const auto row = [](const char *name, const char *command, int variable, bool isFound) {
+        QTest::newRow(name) << QByteArray(command) << variable << isFound;
+    };
+    row("a number that is typed", R"({"code": 103, "parameters": [7, 2]})", 7, true);
+    row("its digits", R"({"code": 103, "parameters": [7, 2]})", 2, false);
+    row("an item that is chosen", R"({"code": 104, "parameters": [7, 0]})", 7, true);
+    row("a branch that compares with it", R"({"code": 111, "parameters": [1, 2, 0, 0, 1, 7, "A"]})", 7, true);
+    row("a branch that compares with a number", R"({"code": 111, "parameters": [1, 2, 0, 0, 0, 7, "A"]})", 7,
+        false);
+    row("what is added", R"({"code": 122, "parameters": [2, 2, 1, 1, 7]})", 7, true);
+    row("a number that is added", R"({"code": 122, "parameters": [2, 2, 1, 0, 7]})", 7, false);
+    row("gold", R"({"code": 125, "parameters": [0, 1, 7]})", 7, true);
+    row("so much gold", R"({"code": 125, "parameters": [0, 0, 7]})", 7, false);
+    row("items", R"({"code": 126, "parameters": [1, 0, 1, 7]})", 7, true);
+    row("a place", R"({"code": 201, "parameters": [1, 2, 3, 7, 0, 0]})", 7, true);
+    row("another place", R"({"code": 201, "parameters": [0, 2, 3, 7, 0, 0]})", 7, false);
+    row("where a picture is", R"({"code": 231, "parameters": [1, "moon", 0, 1, 2, 7, 100, 100, 255, 0]})", 7,
+        true);
+    row("whose HP", R"({"code": 311, "parameters": [1, 7, 0, 0, 1, false]})", 7, true);
+    row("how many HP", R"({"code": 311, "parameters": [0, 1, 0, 1, 7, false]})", 7, true);
+    row("a text", R"({"code": 401, "parameters": ["You have \\V[7] left."]})", 7, true);
+    row("a text with another one", R"({"code": 401, "parameters": ["You have \\v[77] left."]})", 7, false);
+}
+
+void tst_SearchWords::findsTheVariableThatACommandTakes()
+{
+    QFETCH(QByteArray, command);
+    QFETCH(int, variable);
+    ProjectRoom room;
+    begin(room, {1, 1});
+    makeEvent(room, {1, 1});
+    const QJsonObject taking = QJsonDocument::fromJson(command).object();
+    QVERIFY(!taking.isEmpty());
+    room.setField(kList, QJsonArray({taking}).toVariantList());
+    DataLayer *window = room.project.drafts().begin();
+    room.run("search.begin");
+    room.setField("search/by", 2);
+    room.setField("search/variableId", variable);
+    QTEST(!room.texts("found").isEmpty(), "isFound");
     room.project.drafts().drop(window);
 }
 
