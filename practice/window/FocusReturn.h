@@ -2,7 +2,10 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
+#include <QVector>
 #include <QWidget>
+#include <QWindow>
 
 #include <functional>
 
@@ -16,14 +19,22 @@ public:
     /// @p top gives the window that is to have the focus at the moment of the call; nullptr for none.
     explicit FocusReturn(std::function<QWidget *()> top, QObject *parent = nullptr);
 
-    /// For so long the focus may go astray after it was brought back.
-    static constexpr int kMs = 1000;
+    /// For so long the focus may go astray after it was brought back: on a busy machine what took it away
+    /// goes late.
+    static constexpr int kMs = 3000;
 
+    /// Only a window that is shown now can have it by mistake; one that comes later, such as a game, wants
+    /// it.
     void begin();
 
 private:
+    /// Whether another one of the windows that were there at the beginning has it.
+    [[nodiscard]] bool isAstray() const;
+    void bringBack();
     void activateTop() const;
 
     std::function<QWidget *()> m_top;
     QElapsedTimer m_since;
+    QVector<const QWindow *> m_shown;
+    QTimer m_again;
 };

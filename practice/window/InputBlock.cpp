@@ -12,7 +12,7 @@
 namespace {
 
 /// So long a window manager may take until it has given the keyboard to another window.
-constexpr int kHandOverMs = 1000;
+constexpr int kHandOverMs = 3000;
 
 } // namespace
 
