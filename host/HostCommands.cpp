@@ -174,6 +174,16 @@ QString showTooltip(const QString &text, const QPoint &centre)
     return join({QStringLiteral("showTooltip"), text, number(centre.x()), number(centre.y())});
 }
 
+QString contents(const QString &text)
+{
+    return join({QStringLiteral("contents"), text});
+}
+
+QString logAppend(const QString &line)
+{
+    return join({QStringLiteral("log"), QStringLiteral("append"), line});
+}
+
 QString hideTooltip()
 {
     return QStringLiteral("hideTooltip");

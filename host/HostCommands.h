@@ -59,6 +59,10 @@ QString state(bool visible);
 QString showTooltip(const QString &text, const QPoint &centre);
 QString hideTooltip();
 
+/// What is being taught, and a line for a log. A companion that shows neither ignores them.
+QString contents(const QString &text);
+QString logAppend(const QString &line);
+
 } // namespace HostCommands
 
 /// One command of the companion, read.

@@ -117,6 +117,13 @@ void PracticeEditor::connectLink()
     connect(&m_link, &HostLink::lost, this, &PracticeEditor::onLost);
     connect(&m_link, &HostLink::silenceChanged, m_control, &StripControl::setSilent);
     connect(&m_session, &LessonSession::sends, &m_link, &HostLink::send);
+    connect(&m_session, &LessonSession::started, this, [this] {
+        m_link.send(HostCommands::contents(m_course.entry(m_session.lessonName()).numberedTitle()));
+    });
+    connect(&m_session, &LessonSession::stepReached, this, [this] {
+        const QString step = QString::number(m_session.runner().step().id);
+        m_link.send(HostCommands::logAppend(m_session.lessonName() + QLatin1Char(' ') + step));
+    });
 }
 
 void PracticeEditor::connectSession()

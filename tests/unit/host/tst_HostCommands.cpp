@@ -52,6 +52,8 @@ void tst_HostCommands::buildsEachCommand_data()
     row(HostCommands::state(false), "state|hide");
     row(HostCommands::showTooltip(QStringLiteral("Saved"), {8, 9}), "showTooltip|Saved|8|9");
     row(HostCommands::hideTooltip(), "hideTooltip");
+    row(HostCommands::contents(QStringLiteral("Doors")), "contents|Doors");
+    row(HostCommands::logAppend(QStringLiteral("Name the game")), "log|append|Name the game");
 }
 
 void tst_HostCommands::buildsEachCommand()
