@@ -2899,7 +2899,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#39</source>
-      <translation>Click “OK”. The snow field is added behind the forest and opens.</translation>
+      <translation>Click “OK”. The snow field is added at the end of the list and opens.</translation>
     </message>
     <message>
       <source>#40</source>
@@ -2987,7 +2987,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#61</source>
-      <translation>Double-click this cell in the south. That takes it and closes the window.</translation>
+      <translation>Double-click this cell in the east. That takes it and closes the window.</translation>
     </message>
     <message>
       <source>#62</source>
@@ -3011,7 +3011,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#67</source>
-      <translation>Click this cell, where the road leaves the forest in the south.</translation>
+      <translation>The side path ends in the east. Click this cell.</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3043,7 +3043,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#75</source>
-      <translation>Click “Play”. Walk south, from map to map, and ask the guard to lead you back.</translation>
+      <translation>Click “Play”. Walk south, then east into the snow, and ask the guard to lead you back.</translation>
     </message>
     <message>
       <source>#76</source>
@@ -3067,7 +3067,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#2</source>
-      <translation>Make a new project, with a mine and its gate? “No” opens one of yours that has both.</translation>
+      <translation>Make a new project, with a mine and its gate? “No” opens one of yours, such as lesson 8's.</translation>
     </message>
     <message>
       <source>#3</source>

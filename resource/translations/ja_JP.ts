@@ -2899,7 +2899,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>「OK」をクリックすると、雪原が森の次に加わり、表示されます。</translation>
+      <translation>「OK」をクリックすると、雪原が一覧の最後に加わり、表示されます。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -2987,7 +2987,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>森の南のこのマスをダブルクリックしてください。マスが決まり、ウィンドウが閉じます。</translation>
+      <translation>森の東のこのマスをダブルクリックしてください。マスが決まり、ウィンドウが閉じます。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -3011,7 +3011,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>森の南の出口です。このマスをクリックしてください。</translation>
+      <translation>東への脇道の終わりです。このマスをクリックしてください。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3043,7 +3043,7 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>「プレイ」をクリックし、南へ歩いてみましょう。帰りは衛兵に話しかけます。</translation>
+      <translation>「プレイ」をクリックし、南の森から東の雪原へ行きます。帰りは衛兵に話しかけます。</translation>
     </message>
     <message>
       <source>#76</source>
@@ -3067,7 +3067,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>鉱山と門の入ったプロジェクトを作りますか？「いいえ」なら、鉱山と門のあるものを開きます。</translation>
+      <translation>鉱山と門の入ったプロジェクトを作りますか？「いいえ」なら、レッスン8などの続きです。</translation>
     </message>
     <message>
       <source>#3</source>

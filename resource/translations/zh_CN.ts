@@ -2899,7 +2899,7 @@
     </message>
     <message>
       <source>#39</source>
-      <translation>点击“确定”。雪原会加在森林后面，并且打开。</translation>
+      <translation>点击“确定”。雪原会加在列表最后，并且打开。</translation>
     </message>
     <message>
       <source>#40</source>
@@ -2987,7 +2987,7 @@
     </message>
     <message>
       <source>#61</source>
-      <translation>双击森林南边的这一格，选中它并关闭窗口。</translation>
+      <translation>双击森林东边的这一格，选中它并关闭窗口。</translation>
     </message>
     <message>
       <source>#62</source>
@@ -3011,7 +3011,7 @@
     </message>
     <message>
       <source>#67</source>
-      <translation>点击这一格，路从这里向南通往森林外。</translation>
+      <translation>岔路在东边的这一格到头，点击它。</translation>
     </message>
     <message>
       <source>#68</source>
@@ -3043,7 +3043,7 @@
     </message>
     <message>
       <source>#75</source>
-      <translation>点击“试玩”。一路向南，走过三张地图，再请卫兵带你回来。</translation>
+      <translation>点击“试玩”。先向南，再沿岔路向东进入雪地，请卫兵带你回来。</translation>
     </message>
     <message>
       <source>#76</source>
@@ -3066,7 +3066,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有矿洞和大门的项目吗？选“否”可以打开已有这两样的项目。</translation>
+      <translation>要新建一个有矿洞和大门的项目吗？选“否”可以打开已有的项目，例如第 8 课的。</translation>
     </message>
     <message>
       <source>#3</source>

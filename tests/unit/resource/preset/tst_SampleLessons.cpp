@@ -33,8 +33,8 @@ const QMap<QString, int> kMaps = {
     {QStringLiteral("#71"), 2},  // Shop
     {QStringLiteral("#72"), 2},  // Inn
     {QStringLiteral("#170"), 2}, // Hilltop
-    {QStringLiteral("#80"), 9},  // Mine entrance
-    {QStringLiteral("#90"), 9},  // Old mine
+    {QStringLiteral("#80"), 2},  // Mine entrance
+    {QStringLiteral("#90"), 2},  // Old mine
 };
 
 // The lessons by what their windows can change; any lesson draws.
@@ -160,8 +160,8 @@ void tst_SampleLessons::holdsWhatTheLessonStartsFrom_data()
     row("7: Greta", 7, "#72", "#65", 0, 1);
     row("8: to the forest", 8, "#12", "#75", 0, 2);
     row("8: to the village", 8, "#14", "#76", 0, 2);
-    row("8: to the mine", 8, "#14", "#77", 0, 2);
-    row("8: back to the forest", 8, "#80", "#78", -1, 2);
+    row("8: to the mine stands ready", 8, "#14", "#77", 2, 2);
+    row("8: back to the forest stands ready", 8, "#80", "#78", 2, 2);
     row("8: Spring", 8, "#14", "#93", 0, 1);
     row("9: gate stands ready", 9, "#80", "#88", 4, 4);
     row("9: way out of the mine stands ready", 9, "#90", "#38", 2, 2);

@@ -185,7 +185,7 @@ void tst_SampleReferences::turnsOnEachSwitchThatAPageWaitsFor()
 {
     for (int step = kFirstStep; step <= kLastStep; ++step) {
         // The gate that stands ready waits for the lever, to which lesson 9 gives its switch.
-        const QStringList expected = step == 9 ? QStringList{QStringLiteral("4")} : QStringList();
+        const QStringList expected = step <= 9 ? QStringList{QStringLiteral("4")} : QStringList();
         QVERIFY2(sample::unsetSwitches(readStep(step)) == expected, qPrintable(stepName(step)));
     }
 }

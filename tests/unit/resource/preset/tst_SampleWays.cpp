@@ -71,8 +71,8 @@ void tst_SampleWays::findsWhatIsInTheWay_data()
               "Map007.json event 7: nobody gets to (11, 2) of map 7");
     addChange("target in a wall", "Map001.json", "events/6/pages/0/list/0/parameters/2", 0,
               "Map001.json event 6: nobody can stand at (0, 7) of map 3");
-    addChange("target on a figure", "Map002.json", "events/1/pages/0/list/0/parameters",
-              QJsonArray{0, 1, 12, 4, 4, 0}, "Map002.json event 1: nobody can stand at (12, 4) of map 1");
+    addChange("target on a figure", "Map002.json", "events/3/pages/0/list/0/parameters",
+              QJsonArray{0, 1, 12, 4, 4, 0}, "Map002.json event 3: nobody can stand at (12, 4) of map 1");
     addChange("target on a transfer", "Map001.json", "events/6/pages/0/list/0/parameters/3", 8,
               "Map001.json event 6: nobody can stand at (5, 8) of map 3");
     addChange("half an exit of a village", "Map001.json", "events/10/pages/0/list", nothing,
