@@ -6,8 +6,8 @@ namespace player {
 
 namespace {
 
-/// Keys that were meant for the battle do not count.
-constexpr int kDeafTicks = 30;
+/// Keys that were meant for the battle do not count, also those that hurry on once more.
+constexpr int kDeafTicks = 3 * GameState::kTicksPerSecond / 2;
 const QRect kRect(160, 120, 320, 120);
 
 } // namespace
@@ -19,10 +19,14 @@ void GameOverScene::tick(const Input &input, Game *game)
     if (m_ticks++ == 0) {
         game->setMusic({});
     }
-    const bool hasKey = input.isPressed(GameKey::kAct) || input.isPressed(GameKey::kCancel);
-    if (m_ticks > kDeafTicks && hasKey) {
+    const auto isUsed = [&input](GameKey key) {
+        return input.isPressed(key) || input.isHeld(key);
+    };
+    const bool hasKey = isUsed(GameKey::kAct) || isUsed(GameKey::kCancel);
+    if (m_isReady && (input.isPressed(GameKey::kAct) || input.isPressed(GameKey::kCancel))) {
         game->beginTitle();
     }
+    m_isReady = m_isReady || (m_ticks >= kDeafTicks && !hasKey);
 }
 
 void GameOverScene::show(const Game &, Frame *frame) const
@@ -31,9 +35,10 @@ void GameOverScene::show(const Game &, Frame *frame) const
     panel.role = QStringLiteral("gameOver");
     panel.rect = kRect;
     panel.title = tr("Game over");
+    const QString help = m_isReady ? tr("Press Enter to return to the title.") : QString();
     // The sign that it waits stands in a line of its own.
-    panel.lines = {PanelLine(tr("Press Enter to return to the title.")), PanelLine()};
-    panel.isWaiting = m_ticks > kDeafTicks;
+    panel.lines = {PanelLine(help), PanelLine()};
+    panel.isWaiting = m_isReady;
     frame->panels.append(panel);
 }
 

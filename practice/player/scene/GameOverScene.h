@@ -6,7 +6,7 @@
 
 namespace player {
 
-/// The game is lost; a key leads to the title.
+/// The game is lost; once it is seen and the keys are up, a key leads to the title.
 class GameOverScene : public Scene
 {
     Q_DECLARE_TR_FUNCTIONS(GameOverScene)
@@ -19,6 +19,7 @@ public:
 
 private:
     int m_ticks = 0;
+    bool m_isReady = false;
 };
 
 } // namespace player

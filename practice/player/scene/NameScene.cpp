@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kColumns = 10;
 constexpr int kMostLetters = 16;
+/// An action key that was meant for the message before does not take the name.
+constexpr int kDeafTicks = 20;
 const QRect kName(8, 64, 624, 120);
 const QRect kGrid(8, 192, 624, 160);
 
@@ -84,15 +86,19 @@ void NameScene::tick(const Input &input, Game *game)
         begin(*game);
         return;
     }
+    ++m_ticks;
     if (!input.typed.isEmpty()) {
         type(input.typed);
+        m_ticks = kDeafTicks;
         // Who types is done with the enter key.
         pointAtDone();
     }
     // What is typed has done its work: the keys that move are for the grid.
     switch (m_cursor.tick(input)) {
     case RowCursor::Result::kChosen:
-        choose(game);
+        if (m_ticks >= kDeafTicks || input.row) {
+            choose(game);
+        }
         break;
     case RowCursor::Result::kCancelled:
         eraseLast();

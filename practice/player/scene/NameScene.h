@@ -33,6 +33,7 @@ private:
     int m_actor;
     int m_most;
     bool m_hasBegun = false;
+    int m_ticks = 0;
     QStringList m_name;
     /// The letters that can be chosen; behind them stand the rows to erase and to end.
     QStringList m_grid;

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aNameIsTyped();
     void aNameIsChosenLetterByLetter();
     void theNameThatIsThereIsTakenByOneKey();
+    void aKeyForWhatWasBeforeTakesNoName();
     void whatIsToBeDoneNextIsPointedAt();
     void aNameHasNoMoreThanItsLetters();
     void anEmptyNameIsNotTaken();
@@ -76,9 +77,27 @@ void tst_NameScene::theNameThatIsThereIsTakenByOneKey()
     SceneRun run(small);
     run.open<NameScene>(1, 8);
     Scene *scene = run.game.scene();
+    run.wait(20);
     run.act();
     QVERIFY(run.game.scene() != scene);
     QCOMPARE(run.game.state().knownActor(1)->name, QStringLiteral("Mila"));
+}
+
+void tst_NameScene::aKeyForWhatWasBeforeTakesNoName()
+{
+    SlimeGame small;
+    small.begin();
+    SceneRun run(small);
+    run.open<NameScene>(1, 8);
+    const Scene *const scene = run.game.scene();
+    run.act();
+    run.act();
+    QCOMPARE(run.game.scene(), scene);
+    // Who types is here already.
+    type(&run, QStringLiteral("x"));
+    run.act();
+    QVERIFY(run.game.scene() != scene);
+    QCOMPARE(run.game.state().knownActor(1)->name, QStringLiteral("Milax"));
 }
 
 void tst_NameScene::whatIsToBeDoneNextIsPointedAt()
