@@ -547,6 +547,10 @@
         <extracomment>How long the game has been played; %1 is a time.</extracomment>
         <translation>時間 %1</translation>
     </message>
+    <message>
+        <source>Leave this game? What is not saved is lost.</source>
+        <translation>ゲームをやめますか？セーブしていない分は失われます。</translation>
+    </message>
 </context>
 <context>
     <name>NameScene</name>
@@ -715,14 +719,6 @@
     <message>
         <source>Continue</source>
         <translation>コンティニュー</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>はい</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>いいえ</translation>
     </message>
     <message>
         <source>Nothing is saved here yet.</source>
@@ -960,55 +956,13 @@
         <source>Nothing</source>
         <translation>なし</translation>
     </message>
-</context>
-<context>
-    <name>TitleScene</name>
     <message>
-        <source>New game</source>
-        <translation>ニューゲーム</translation>
+        <source>Yes</source>
+        <translation>はい</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>コンティニュー</translation>
-    </message>
-    <message>
-        <source>There is no saved game yet.</source>
-        <translation>セーブデータがまだありません。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>オプション</translation>
-    </message>
-    <message>
-        <source>There is nothing to set in test play.</source>
-        <translation>テストプレイでは設定できるものがありません。</translation>
-    </message>
-    <message>
-        <source>Credits</source>
-        <translation>クレジット</translation>
-    </message>
-    <message>
-        <source>There are no credits in test play.</source>
-        <translation>テストプレイにはクレジットがありません。</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>終了</translation>
-    </message>
-</context>
-<context>
-    <name>UseOnParty</name>
-    <message>
-        <source>It cannot be used.</source>
-        <translation>使えません。</translation>
-    </message>
-    <message>
-        <source>It is of use in battle only.</source>
-        <translation>戦闘中だけ使えます。</translation>
-    </message>
-    <message>
-        <source>Use it on whom?</source>
-        <translation>だれに使いますか？</translation>
+        <source>No</source>
+        <translation>いいえ</translation>
     </message>
 </context>
 <context>
@@ -1372,6 +1326,56 @@
         <source>en_US</source>
         <comment>the locale that this translation is in</comment>
         <translation>ja_JP</translation>
+    </message>
+</context>
+<context>
+    <name>TitleScene</name>
+    <message>
+        <source>New game</source>
+        <translation>ニューゲーム</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>コンティニュー</translation>
+    </message>
+    <message>
+        <source>There is no saved game yet.</source>
+        <translation>セーブデータがまだありません。</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>There is nothing to set in test play.</source>
+        <translation>テストプレイでは設定できるものがありません。</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>クレジット</translation>
+    </message>
+    <message>
+        <source>There are no credits in test play.</source>
+        <translation>テストプレイにはクレジットがありません。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>UseOnParty</name>
+    <message>
+        <source>It cannot be used.</source>
+        <translation>使えません。</translation>
+    </message>
+    <message>
+        <source>It is of use in battle only.</source>
+        <translation>戦闘中だけ使えます。</translation>
+    </message>
+    <message>
+        <source>Use it on whom?</source>
+        <translation>だれに使いますか？</translation>
     </message>
 </context>
 <context>

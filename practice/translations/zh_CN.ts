@@ -547,6 +547,10 @@
         <extracomment>How long the game has been played; %1 is a time.</extracomment>
         <translation>时间 %1</translation>
     </message>
+    <message>
+        <source>Leave this game? What is not saved is lost.</source>
+        <translation>要离开游戏吗？未存档的进度会丢失。</translation>
+    </message>
 </context>
 <context>
     <name>NameScene</name>
@@ -715,14 +719,6 @@
     <message>
         <source>Continue</source>
         <translation>继续游戏</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>否</translation>
     </message>
     <message>
         <source>Nothing is saved here yet.</source>
@@ -960,55 +956,13 @@
         <source>Nothing</source>
         <translation>无</translation>
     </message>
-</context>
-<context>
-    <name>TitleScene</name>
     <message>
-        <source>New game</source>
-        <translation>新游戏</translation>
+        <source>Yes</source>
+        <translation>是</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>继续游戏</translation>
-    </message>
-    <message>
-        <source>There is no saved game yet.</source>
-        <translation>还没有存档。</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>There is nothing to set in test play.</source>
-        <translation>试玩中没有可设置的内容。</translation>
-    </message>
-    <message>
-        <source>Credits</source>
-        <translation>制作人员</translation>
-    </message>
-    <message>
-        <source>There are no credits in test play.</source>
-        <translation>试玩中没有制作人员名单。</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>退出游戏</translation>
-    </message>
-</context>
-<context>
-    <name>UseOnParty</name>
-    <message>
-        <source>It cannot be used.</source>
-        <translation>不能使用。</translation>
-    </message>
-    <message>
-        <source>It is of use in battle only.</source>
-        <translation>只能在战斗中使用。</translation>
-    </message>
-    <message>
-        <source>Use it on whom?</source>
-        <translation>对谁使用？</translation>
+        <source>No</source>
+        <translation>否</translation>
     </message>
 </context>
 <context>
@@ -1372,6 +1326,56 @@
         <source>en_US</source>
         <comment>the locale that this translation is in</comment>
         <translation>zh_CN</translation>
+    </message>
+</context>
+<context>
+    <name>TitleScene</name>
+    <message>
+        <source>New game</source>
+        <translation>新游戏</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续游戏</translation>
+    </message>
+    <message>
+        <source>There is no saved game yet.</source>
+        <translation>还没有存档。</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>There is nothing to set in test play.</source>
+        <translation>试玩中没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>制作人员</translation>
+    </message>
+    <message>
+        <source>There are no credits in test play.</source>
+        <translation>试玩中没有制作人员名单。</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出游戏</translation>
+    </message>
+</context>
+<context>
+    <name>UseOnParty</name>
+    <message>
+        <source>It cannot be used.</source>
+        <translation>不能使用。</translation>
+    </message>
+    <message>
+        <source>It is of use in battle only.</source>
+        <translation>只能在战斗中使用。</translation>
+    </message>
+    <message>
+        <source>Use it on whom?</source>
+        <translation>对谁使用？</translation>
     </message>
 </context>
 <context>

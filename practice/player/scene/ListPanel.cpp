@@ -39,7 +39,7 @@ QString ListPanel::help() const
 {
     const ListRow *row = current();
     if (row == nullptr) {
-        return m_emptyText;
+        return {};
     }
     return row->reason.isEmpty() ? row->help : row->reason;
 }

@@ -15,13 +15,16 @@ namespace {
 
 const QRect kCommands(8, 64, 180, 168);
 const QRect kPurse(8, 240, 180, 112);
+const QRect kQuestion(220, 140, 200, 72);
 
 } // namespace
 
 MenuScene::MenuScene()
     : m_commands(QStringLiteral("menu"), kCommands)
     , m_party(QStringLiteral("party"), PartyPanel::kRect)
+    , m_question(QStringLiteral("choices"), kQuestion)
 {
+    m_question.setRows({{Terms::yes(), {}, {}, {}, 1}, {Terms::no(), {}, {}, {}, 0}});
 }
 
 void MenuScene::list(const Game &game)
@@ -49,6 +52,10 @@ void MenuScene::tick(const Input &input, Game *game)
         list(*game);
         return;
     }
+    if (m_isAsking) {
+        tickQuestion(input, game);
+        return;
+    }
     ListPanel &list = m_isChoosingActor ? m_party : m_commands;
     switch (list.tick(input)) {
     case RowCursor::Result::kChosen:
@@ -64,6 +71,16 @@ void MenuScene::tick(const Input &input, Game *game)
     default:
         break;
     }
+}
+
+void MenuScene::tickQuestion(const Input &input, Game *game)
+{
+    const RowCursor::Result result = m_question.tick(input);
+    const bool isChosen = result == RowCursor::Result::kChosen;
+    if (isChosen && m_question.current()->value == 1) {
+        game->beginTitle();
+    }
+    m_isAsking = !isChosen && result != RowCursor::Result::kCancelled;
 }
 
 void MenuScene::choose(Game *game)
@@ -97,7 +114,9 @@ void MenuScene::open(int command, int place, Game *game)
         game->push(std::make_unique<SaveScene>());
         break;
     default:
-        game->beginTitle();
+        m_isAsking = true;
+        // The key that came here by mistake loses nothing.
+        m_question.setCurrent(1);
     }
 }
 
@@ -111,7 +130,12 @@ void MenuScene::resume(int, Game *game)
 
 void MenuScene::show(const Game &game, Frame *frame) const
 {
-    const QString help = m_isChoosingActor ? m_party.help() : m_commands.help();
+    // Of somebody in the party the states are told, if there are any.
+    const QString states = m_isChoosingActor ? m_party.help() : QString();
+    QString help = states.isEmpty() ? m_commands.help() : states;
+    if (m_isAsking) {
+        help = tr("Leave this game? What is not saved is lost.");
+    }
     frame->panels.append(ListPanel::helpPanel(help));
     Panel purse;
     purse.role = QStringLiteral("gold");
@@ -130,6 +154,9 @@ void MenuScene::show(const Game &game, Frame *frame) const
     } else {
         frame->panels.append(PartyPanel::status(game.state(), game.data()));
         frame->panels.append(m_commands.panel());
+    }
+    if (m_isAsking) {
+        frame->panels.append(m_question.panel());
     }
 }
 

@@ -23,13 +23,17 @@ private:
     enum Command { kItems, kSkills, kEquipment, kStatus, kSave, kToTitle };
 
     void list(const Game &game);
+    void tickQuestion(const Input &input, Game *game);
     void choose(Game *game);
     void open(int command, int place, Game *game);
 
     ListPanel m_commands;
     ListPanel m_party;
+    /// Whether the game is to be left.
+    ListPanel m_question;
     bool m_isListed = false;
     bool m_isChoosingActor = false;
+    bool m_isAsking = false;
 };
 
 } // namespace player

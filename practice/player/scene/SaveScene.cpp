@@ -21,11 +21,12 @@ QString partyText(const GameState &state)
     for (const int id : party) {
         if (const Actor *actor = state.knownActor(id)) {
             names.append(names.isEmpty()
-                             ? actor->name + QStringLiteral(" Lv ") + QString::number(actor->level)
+                             ? QStringLiteral("%1 %2 %3")
+                                   .arg(actor->name, Terms::level(), QString::number(actor->level))
                              : actor->name);
         }
     }
-    return names.join(QLatin1Char(' '));
+    return Terms::list(names);
 }
 
 QString placeText(const GameState &state, const GameData &data)
@@ -45,7 +46,7 @@ SaveScene::SaveScene(Mode mode)
     , m_question(QStringLiteral("choices"), kQuestion)
 {
     m_list.setTitle(mode == Mode::kSave ? tr("Save") : tr("Continue"));
-    m_question.setRows({{tr("Yes"), {}, {}, {}, 1}, {tr("No"), {}, {}, {}, 0}});
+    m_question.setRows({{Terms::yes(), {}, {}, {}, 1}, {Terms::no(), {}, {}, {}, 0}});
 }
 
 void SaveScene::list(const Game &game)

@@ -22,6 +22,12 @@ QString Terms::points(const Actor &actor, const GameData &data)
              QString::number(actor.maxMp(data)));
 }
 
+QString Terms::list(const QStringList &names)
+{
+    //: Between the words of a list.
+    return names.join(tr(", "));
+}
+
 QString Terms::states(const QMap<int, int> &states, const GameData &data)
 {
     QStringList names;
@@ -31,8 +37,7 @@ QString Terms::states(const QMap<int, int> &states, const GameData &data)
             names.append(name);
         }
     }
-    //: Between the words of a list.
-    return names.join(tr(", "));
+    return list(names);
 }
 
 QString Terms::playTime(qint64 ticks)

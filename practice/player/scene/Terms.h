@@ -26,11 +26,15 @@ public:
     static QString items() { return tr("Items"); }
     static QString skills() { return tr("Skills"); }
     static QString nothing() { return tr("Nothing"); }
+    static QString yes() { return tr("Yes"); }
+    static QString no() { return tr("No"); }
     /// The project's own, or the usual one.
     static QString currency(const GameData &data);
     static QString gold(int amount, const GameData &data);
     /// "HP 30/40  MP 3/4".
     static QString points(const Actor &actor, const GameData &data);
+    /// "Mila, Toma".
+    static QString list(const QStringList &names);
     /// The names of the states, with a comma between; empty for none.
     static QString states(const QMap<int, int> &states, const GameData &data);
     /// "1:05:00": hours, minutes and seconds.

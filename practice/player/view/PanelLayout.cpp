@@ -1,5 +1,7 @@
 #include "player/view/PanelLayout.h"
 
+#include <algorithm>
+
 namespace player {
 
 bool PanelLayout::isBanner(const Panel &panel)
@@ -29,6 +31,10 @@ PanelLayout::PanelLayout(const Panel &panel)
     }
     room.setTop(room.top() + kLine * int(panel.lines.size()));
     m_rows = room;
+    // What stands at the right of a row is not to be read as the beginning of the next one.
+    const bool hasRightTexts = std::any_of(panel.rows.cbegin(), panel.rows.cend(),
+                                           [](const PanelRow &row) { return !row.rightText.isEmpty(); });
+    m_gap = hasRightTexts ? kBetweenColumns : 0;
     m_allLines = (m_count + m_columns - 1) / m_columns;
     m_seenLines = qBound(1, (room.height() + kLine / 4) / kLine, m_allLines);
     const int current = qBound(0, panel.current, m_count - 1) / m_columns;
@@ -47,8 +53,9 @@ QRect PanelLayout::row(int row) const
         return {};
     }
     const int column = row % m_columns;
-    const int left = m_rows.width() * column / m_columns;
-    const int right = m_rows.width() * (column + 1) / m_columns;
+    const int width = m_rows.width() + m_gap;
+    const int left = width * column / m_columns;
+    const int right = width * (column + 1) / m_columns - m_gap;
     return {m_rows.left() + left, m_rows.top() + line * kLine, right - left, kLine};
 }
 

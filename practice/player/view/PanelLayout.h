@@ -16,6 +16,8 @@ public:
     static constexpr int kLetters = 16;
     static constexpr int kFace = 96;
     static constexpr int kBesideFace = 12;
+    /// Of rows that have a text at the right.
+    static constexpr int kBetweenColumns = 24;
 
     explicit PanelLayout(const Panel &panel);
 
@@ -44,6 +46,8 @@ private:
     QRect m_rows;
     int m_count = 0;
     int m_columns = 1;
+    /// Between two columns.
+    int m_gap = 0;
     /// Lines of rows: the first one that is seen, how many are, and how many there are.
     int m_firstLine = 0;
     int m_seenLines = 0;

@@ -85,17 +85,14 @@ void paintText(QPainter *painter, const QRect &rect, int flags, const QString &t
     painter->restore();
 }
 
-void paintLine(QPainter *painter, const QRect &rect, const PanelLine &line, const ScreenScale &scale)
+void paintLine(QPainter *painter, const QRect &rect, const PanelLine &line, bool isCentred,
+               const ScreenScale &scale)
 {
-    QString all;
-    for (const Run &run : line.runs) {
-        all += run.text;
-    }
     const QFontMetrics metrics = painter->fontMetrics();
-    const int width = metrics.horizontalAdvance(all);
+    const int width = metrics.horizontalAdvance(line.text());
     // All runs of a line are narrowed alike.
     const double part = width > rect.width() ? qMax(kNarrowest, double(rect.width()) / width) : 1.0;
-    double left = 0;
+    double left = isCentred ? qMax(0, (rect.width() - width) / 2) : 0;
     for (const Run &run : line.runs) {
         const double advance = metrics.horizontalAdvance(run.text) * part;
         const QColor &colour = kLetters.at(size_t(qMax(0, run.colour)) % kLetters.size());
@@ -242,7 +239,7 @@ void PanelPainter::paint(QPainter *painter, const Panel &panel, const ScreenScal
     for (int number = 0; number < int(panel.lines.size()); ++number) {
         const QRect line = scale.rect(layout.line(number)).translated(0, -up);
         if (line.intersects(rect)) {
-            paintLine(painter, line, panel.lines.at(number), scale);
+            paintLine(painter, line, panel.lines.at(number), PanelLayout::isBanner(panel), scale);
         }
     }
     paintRows(painter, panel, layout, scale, tick);

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void aForcedActionFindsItsTarget();
     void whoCannotBeForcedIsNamed_data();
     void whoCannotBeForcedIsNamed();
+    void whoHasFallenIsNotForced();
     void anAbortedBattleIsOver();
 };
 
@@ -187,6 +188,7 @@ void tst_BattleOrders::whoCannotBeForcedIsNamed_data()
     QTest::newRow("an enemy that there is not") << QByteArray("0,9,3,0");
     QTest::newRow("an actor who is elsewhere") << QByteArray("1,9,3,0");
     QTest::newRow("a skill that there is not") << QByteArray("0,0,77,0");
+    QTest::newRow("an enemy that appears later") << QByteArray("0,2,3,0");
 }
 
 void tst_BattleOrders::whoCannotBeForcedIsNamed()
@@ -194,6 +196,22 @@ void tst_BattleOrders::whoCannotBeForcedIsNamed()
     QFETCH(QByteArray, parameters);
     Fight fight;
     fight.order(R"({"code":336,"indent":0,"parameters":[)" + parameters + "]}");
+    QVERIFY(!fight.battle.hasForced());
+    QCOMPARE(fight.problems.size(), 1);
+}
+
+void tst_BattleOrders::whoHasFallenIsNotForced()
+{
+    Fight fight;
+    fight.order(R"({"code":331,"indent":0,"parameters":[0,1,0,99,true]})");
+    QVERIFY(fight.problems.isEmpty());
+    fight.order(R"({"code":336,"indent":0,"parameters":[0,0,3,0]})");
+    QVERIFY(!fight.battle.hasForced());
+    QCOMPARE(fight.problems.size(), 1);
+    // The last blow may be what the page waited for.
+    fight.order(R"({"code":331,"indent":0,"parameters":[-1,1,0,99,true]})");
+    QVERIFY(fight.battle.result() == Battle::Result::kWon);
+    fight.order(R"({"code":336,"indent":0,"parameters":[0,0,3,0]})");
     QVERIFY(!fight.battle.hasForced());
     QCOMPARE(fight.problems.size(), 1);
 }

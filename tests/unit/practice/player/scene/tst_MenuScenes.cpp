@@ -32,6 +32,8 @@ private Q_SLOTS:
     void theStatusTellsFiguresAndTurnsToTheOthers();
     void withoutAPlaceToSaveThatIsSaid();
     void anItemWithACommonEventClosesTheMenu();
+    void anEmptyBagSaysSoOnce();
+    void theWayToTheTitleAsksFirst();
     void anEmptyPartyIsNoHarm();
 };
 
@@ -190,6 +192,43 @@ void tst_MenuScenes::anItemWithACommonEventClosesTheMenu()
     run.wait(2);
     QCOMPARE(run.game.state().waitingCommonEvent, 7);
     QVERIFY(run.game.scene() != menu);
+}
+
+void tst_MenuScenes::anEmptyBagSaysSoOnce()
+{
+    SlimeGame small;
+    small.begin();
+    MenuRun run(small);
+    QVERIFY(run.choose(QStringLiteral("Items")));
+    run.wait(1);
+    QStringList texts;
+    for (const Panel &panel : run.game.frame().panels) {
+        texts += panel.texts();
+    }
+    QCOMPARE(texts.count(QStringLiteral("The bag is empty.")), 1);
+}
+
+void tst_MenuScenes::theWayToTheTitleAsksFirst()
+{
+    SlimeGame small;
+    small.begin();
+    MenuRun run(small);
+    const Scene *const menu = run.game.scene();
+    QVERIFY(run.choose(QStringLiteral("To the title")));
+    QCOMPARE(run.help(), QStringLiteral("Leave this game? What is not saved is lost."));
+    QCOMPARE(run.rows(), QStringList({QStringLiteral("Yes"), QStringLiteral("No")}));
+    // The same key once more changes nothing.
+    run.act();
+    QCOMPARE(run.game.scene(), menu);
+    QCOMPARE(run.role(), QStringLiteral("menu"));
+    run.act();
+    run.cancel();
+    QCOMPARE(run.game.scene(), menu);
+    QCOMPARE(run.role(), QStringLiteral("menu"));
+    run.act();
+    QVERIFY(run.choose(QStringLiteral("Yes")));
+    run.wait(2);
+    QCOMPARE(run.role(), QStringLiteral("title"));
 }
 
 void tst_MenuScenes::anEmptyPartyIsNoHarm()

@@ -103,7 +103,7 @@ void tst_SaveScenes::aSlotTellsPlacePartyAndTime()
     QVERIFY2(ground.files.write(0, ground.small.state, *ground.small.data, &error), qPrintable(error));
     SceneRun run(ground.small, ground.settings);
     run.open<SaveScene>();
-    QCOMPARE(run.rows().at(0), QStringLiteral("1  Amberfield · Mila Lv 1 Toma"));
+    QCOMPARE(run.rows().at(0), QStringLiteral("1  Amberfield · Mila Level 1, Toma"));
     QCOMPARE(run.list()->rows.at(0).rightText, QStringLiteral("1:01:01"));
     QCOMPARE(run.rows().at(1), QStringLiteral("2  —"));
     QCOMPARE(run.rows().size(), SaveFiles::kSlots);

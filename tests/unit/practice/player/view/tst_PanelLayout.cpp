@@ -28,6 +28,7 @@ class tst_PanelLayout : public QObject
 private Q_SLOTS:
     void rowsStandBelowEachOther();
     void rowsShareTheWidthOfColumns();
+    void rowsWithTextsAtTheRightStandApart();
     void linesAndHeadingStandAboveTheRows();
     void aFaceTakesRoomFromTheText();
     void theSpeakerOfAMessageStandsOutside();
@@ -54,6 +55,17 @@ void tst_PanelLayout::rowsShareTheWidthOfColumns()
     QCOMPARE(layout.row(0), QRect(112, 62, 88, 24));
     QCOMPARE(layout.row(1), QRect(200, 62, 88, 24));
     QCOMPARE(layout.row(4), QRect(112, 110, 88, 24));
+}
+
+void tst_PanelLayout::rowsWithTextsAtTheRightStandApart()
+{
+    Panel panel = panelWith(3);
+    panel.columns = 2;
+    panel.rows[1].rightText = QStringLiteral("× 1");
+    const PanelLayout layout(panel);
+    QCOMPARE(layout.row(0), QRect(112, 62, 76, 24));
+    QCOMPARE(layout.row(1), QRect(212, 62, 76, 24));
+    QCOMPARE(layout.rowAt({200, 70}), -1);
 }
 
 void tst_PanelLayout::linesAndHeadingStandAboveTheRows()
