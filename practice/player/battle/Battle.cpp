@@ -207,6 +207,13 @@ bool Battle::force(const Deed &deed)
     if (!isThere || m_data.skills.find(deed.id) == nullptr) {
         return false;
     }
+    // A page that came due by the last blow may want something of who lies there: nothing is wrong with it.
+    if (result() != Result::kGoesOn) {
+        return true;
+    }
+    if (!m_fighters.isStanding(deed.doer)) {
+        return false;
+    }
     m_forced.append(deed);
     return true;
 }

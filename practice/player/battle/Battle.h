@@ -55,7 +55,8 @@ public:
     /// HP.
     void end();
 
-    /// Done before all others, at no cost of the doer's turn. False where there is nobody, or no such skill.
+    /// Done before all others, at no cost of the doer's turn; by nobody once the battle is decided. False
+    /// where the doer is not there or does not stand, or there is no such skill.
     bool force(const Deed &deed);
     /// With the last target for the place -2.
     [[nodiscard]] Fighter forcedTarget(bool ofEnemies, int place) const;

@@ -1,8 +1,33 @@
 #include "player/game/Command.h"
 
+#include "player/game/GameState.h"
 #include "player/game/JsonRead.h"
 
+#include <QCoreApplication>
+
 namespace player {
+
+bool RouteStep::namesWildSwitch() const
+{
+    constexpr int kSwitchOn = 17;
+    constexpr int kSwitchOff = 18;
+    const int id = parameters.at(0).toInt();
+    return (code == kSwitchOn || code == kSwitchOff) && (id < 1 || id > GameState::kLargestNumber);
+}
+
+QString RouteStep::complaint() const
+{
+    if (!isKnown()) {
+        return QCoreApplication::translate("TestPlay", "There is no movement %1; it is passed by.").arg(code);
+    }
+    if (namesWildSwitch()) {
+        return QCoreApplication::translate("TestPlay",
+                                           "There is no switch or variable %1; the numbers go from 1 to %2.")
+            .arg(parameters.at(0).toInt())
+            .arg(GameState::kLargestNumber);
+    }
+    return {};
+}
 
 Route Route::fromJson(const QJsonValue &route)
 {

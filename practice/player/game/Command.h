@@ -32,6 +32,10 @@ struct RouteStep
     QJsonArray parameters;
 
     [[nodiscard]] bool isKnown() const { return code >= 1 && code <= kLastCode; }
+    /// Whether it turns a switch on or off that there cannot be.
+    [[nodiscard]] bool namesWildSwitch() const;
+    /// What is wrong with it, for whoever made the route; empty when it can be done.
+    [[nodiscard]] QString complaint() const;
 };
 
 struct Route

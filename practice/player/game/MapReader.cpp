@@ -119,10 +119,8 @@ void checkEvents(const QString &file, const QJsonValue &json, MapData *map, QVec
                          .arg(number(pages.at(page), "moveType")));
             }
             for (const RouteStep &step : qAsConst(event.pages[page].route.steps)) {
-                if (!step.isKnown()) {
-                    tell(page + 1,
-                         QCoreApplication::translate("TestPlay", "There is no movement %1; it is passed by.")
-                             .arg(step.code));
+                if (const QString complaint = step.complaint(); !complaint.isEmpty()) {
+                    tell(page + 1, complaint);
                 }
             }
             if (!member(pages.at(page), "list").isArray()) {

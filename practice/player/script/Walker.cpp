@@ -123,7 +123,7 @@ void act(Character *who, const RouteStep &order, World *world, const Play &play)
         break;
     case 17:
     case 18:
-        if (number(order, 0) >= 1 && number(order, 0) <= GameState::kLargestNumber) {
+        if (!order.namesWildSwitch()) {
             world->state().setSwitch(number(order, 0), order.code == 17);
         }
         break;

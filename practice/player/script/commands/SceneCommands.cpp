@@ -99,9 +99,8 @@ void movementRoute(Interpreter &run, const Command &command)
     who->blockedTicks = 0;
     who->pause = 0;
     for (const RouteStep &step : qAsConst(who->route.steps)) {
-        if (!step.isKnown()) {
-            run.tell(QCoreApplication::translate("TestPlay", "There is no movement %1; it is passed by.")
-                         .arg(step.code));
+        if (const QString complaint = step.complaint(); !complaint.isEmpty()) {
+            run.tell(complaint);
         }
     }
     if (who->route.waits && who->route.repeats) {

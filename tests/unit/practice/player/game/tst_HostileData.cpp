@@ -188,6 +188,8 @@ void tst_HostileData::whatIsWrongIsNamed_data()
         "data/Map001.json, event 2, page 1: The page moves in way -1, which there is not");
     add("Map001/events/2/pages/0/moveRoute/list/1/code", 99,
         "data/Map001.json, event 2, page 1: There is no movement 99");
+    add("Map001/events/2/pages/0/moveRoute/list/1", QJsonObject{{QStringLiteral("code"), 17}},
+        "data/Map001.json, event 2, page 1: There is no switch or variable 0;");
     add("Map001/events/1/pages/0/list/9/parameters/1", 77,
         "data/Map001.json, event 1, page 1, line 10: There is no animation 77");
     add("Skills/1/animationId", 77, "data/Skills.json: The skill “Strike” shows animation 77");

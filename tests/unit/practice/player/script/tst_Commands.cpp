@@ -453,6 +453,9 @@ void tst_Commands::whatCannotBeDoneIsNamedWithItsPlace_data()
     add("a movement",
         R"({"code":205,"indent":0,"parameters":[0,{"list":[{"code":28},{"code":0}],"wait":false}]})",
         "no movement 28");
+    add("a switch of a movement",
+        R"({"code":205,"indent":0,"parameters":[0,{"list":[{"code":18,"parameters":[10000]},{"code":0}]}]})",
+        "no switch or variable 10000");
     add("a condition", R"({"code":111,"indent":0,"parameters":[99]})", "no condition 99");
 }
 
