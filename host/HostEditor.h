@@ -93,6 +93,15 @@ public:
         return true;
     }
 
+    /// Whether the control has what the condition asks for to be chosen in it: a box whose third entry is to
+    /// be chosen has three of them. What has not counts as a control that is not there.
+    [[nodiscard]] virtual bool offers(const ControlSpot &spot, const Condition &condition) const
+    {
+        Q_UNUSED(spot)
+        Q_UNUSED(condition)
+        return true;
+    }
+
     /// What leads where, as far as the editor knows; what is liked better stands first. What is of no use as
     /// things stand, such as a grey entry of the menu that is open, is not among it. A control that closes
     /// its window and drops what was typed there is the best way out of it. The close button of a frame is

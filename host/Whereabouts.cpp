@@ -72,7 +72,8 @@ Stray Whereabouts::stray() const
     if (hasOtherMeaning() && (wayToChosen() || m_editor->dataMark() != m_needs->start.dataMark)) {
         return Stray::kMeaning;
     }
-    if (!m_needs->pointed || m_editor->rectOf(*m_needs->pointed)) {
+    const std::optional<ControlSpot> &pointed = m_needs->pointed;
+    if (!pointed || (m_editor->rectOf(*pointed) && m_editor->offers(*pointed, m_needs->step.condition))) {
         return Stray::kNot;
     }
     const bool isInMenu = m_editor->windowOf(m_needs->step.windowKey) == QLatin1String("Popup");

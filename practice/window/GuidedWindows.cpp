@@ -6,6 +6,7 @@
 #include "window/EventPlaces.h"
 
 #include <QAbstractScrollArea>
+#include <QComboBox>
 #include <QEvent>
 #include <QScrollBar>
 
@@ -97,6 +98,15 @@ void GuidedWindows::reveal(const ControlSpot &spot)
 bool GuidedWindows::canCause(const ControlSpot &spot, const Condition &condition) const
 {
     return m_guides->ways.canCause(spot, condition);
+}
+
+bool GuidedWindows::offers(const ControlSpot &spot, const Condition &condition) const
+{
+    if (condition.type() != Condition::Type::kComboBox) {
+        return true;
+    }
+    const auto *const box = qobject_cast<const QComboBox *>(m_guides->finder.widgetOf(spot));
+    return box == nullptr || condition.value().toInt() < box->count();
 }
 
 Ways GuidedWindows::ways() const

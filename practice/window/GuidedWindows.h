@@ -31,6 +31,7 @@ public:
     [[nodiscard]] std::optional<QRect> rectOf(const ControlSpot &spot) const override;
     void reveal(const ControlSpot &spot) override;
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const override;
+    [[nodiscard]] bool offers(const ControlSpot &spot, const Condition &condition) const override;
     [[nodiscard]] Ways ways() const override;
     [[nodiscard]] QString meaningOf(const ControlSpot &spot) const override;
     [[nodiscard]] QVector<ControlSpot> chosen() const override;

@@ -23,6 +23,8 @@ public:
     QHash<QString, ControlSpot> m_controls;
     /// What cannot be used just now.
     QVector<ControlSpot> m_hidden;
+    /// How many there are in each box to choose from.
+    int m_entries = 2;
     /// What the person acts on from now on.
     ControlSpot m_cause;
     Ways m_ways;
@@ -112,6 +114,10 @@ public:
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition & /*condition*/) const override
     {
         return !m_inert.contains(spot.control);
+    }
+    [[nodiscard]] bool offers(const ControlSpot & /*spot*/, const Condition &condition) const override
+    {
+        return condition.type() != Condition::Type::kComboBox || condition.value().toInt() < m_entries;
     }
     [[nodiscard]] Ways ways() const override { return m_ways; }
     [[nodiscard]] std::optional<UnknownWord> unknownWord(const Step &step) const override

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
     void whatWentWrongEarlierIsPutBack();
+    void anEntryThatIsGoneIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
     void whoIsLostAgainGoesBackFurther();
@@ -288,6 +289,25 @@ void tst_PutBack::whatWentWrongEarlierIsPutBack()
     next();
     next();
     QVERIFY(!played.session.isAstray());
+}
+
+void tst_PutBack::anEntryThatIsGoneIsPutBack()
+{
+    const ControlSpot box = Played::spot("MainWindow", "enemy");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), box);
+    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "comboBox,enemy,1"),
+                 QStringLiteral(R"("id":3)")});
+    played.editor.m_entries = 1;
+    played.session.next();
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QTRY_VERIFY(played.session.isAstray());
+    QVERIFY(played.session.canPutBack());
+    // There was no such entry when the step began, so it is the step before that has to be done again.
+    played.session.putBack();
+    played.turn();
+    QCOMPARE(played.id(), 1);
 }
 
 void tst_PutBack::whatIsGoneFromTheStartLeadsNowhere()

@@ -3,6 +3,8 @@
 #include "lesson/LessonWords.h"
 #include "lesson/Scenario.h"
 
+#include <QComboBox>
+
 #include <algorithm>
 
 namespace {
@@ -49,6 +51,7 @@ private Q_SLOTS:
     void aGreyEntryLeadsNowhere();
     void knowsWhatAControlBringsAbout_data();
     void knowsWhatAControlBringsAbout();
+    void offersTheEntriesThatABoxHas();
     void knowsWhatAControlMeansAtPresent();
     void saysWhatLeadsBack();
     void aSecondPressBehindNextIsSwallowed();
@@ -310,6 +313,20 @@ void tst_GuidedWindows::knowsWhatAControlBringsAbout()
     QFETCH(QString, condition);
     const Editor editor;
     QTEST(editor->canCause({window, control, part}, *Condition::parse(condition)), "does");
+}
+
+void tst_GuidedWindows::offersTheEntriesThatABoxHas()
+{
+    Editor editor;
+    editor.openProject();
+    const auto offers = [&editor](const char *condition) {
+        return editor->offers(spot("MapProperties", "music"), *Condition::parse(str(condition)));
+    };
+    const auto *const box = editor->window(str("MapProperties"))->findChild<QComboBox *>(str("music"));
+    QVERIFY(box->count() > 1);
+    QVERIFY(offers("comboBox,music,1"));
+    QVERIFY(!offers("comboBox,music,99"));
+    QVERIFY(offers("click,"));
 }
 
 void tst_GuidedWindows::knowsWhatAControlMeansAtPresent()
