@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -39,6 +40,7 @@ SaveSlot SaveFiles::read(int slot, const GameData &data) const
         return found;
     }
     found.isEmpty = false;
+    found.when = QFileInfo(file).lastModified();
     if (file.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) {
         //: %1 is a file's path.
         found.error =

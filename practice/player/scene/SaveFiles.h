@@ -3,6 +3,7 @@
 #include "player/game/GameState.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <optional>
 
@@ -14,6 +15,8 @@ struct GameData;
 struct SaveSlot
 {
     bool isEmpty = true;
+    /// When its file was written.
+    QDateTime when;
     /// Nothing when it is empty or cannot be read.
     std::optional<GameState> state;
     /// Why it cannot be read, for the person.

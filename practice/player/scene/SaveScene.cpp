@@ -4,8 +4,6 @@
 #include "player/scene/Game.h"
 #include "player/scene/Terms.h"
 
-#include <algorithm>
-
 namespace player {
 
 namespace {
@@ -59,14 +57,24 @@ void SaveScene::list(const Game &game)
         rows.append(row(slot, files, game.data()));
     }
     m_list.setRows(rows);
-    m_isListed = true;
-    if (m_mode != Mode::kLoad) {
-        return;
+    if (!m_isListed) {
+        pointAtNewest();
     }
-    const auto first = std::find_if(m_slots.cbegin(), m_slots.cend(),
-                                    [](const SaveSlot &slot) { return slot.state.has_value(); });
-    if (first != m_slots.cend()) {
-        m_list.setCurrent(int(first - m_slots.cbegin()));
+    m_isListed = true;
+}
+
+/// Whoever loads goes on from there, and whoever saves has it there.
+void SaveScene::pointAtNewest()
+{
+    int newest = -1;
+    for (int slot = 0; slot < m_slots.size(); ++slot) {
+        const SaveSlot &its = m_slots.at(slot);
+        if (its.state && (newest < 0 || its.when > m_slots.at(newest).when)) {
+            newest = slot;
+        }
+    }
+    if (newest >= 0) {
+        m_list.setCurrent(newest);
     }
 }
 
@@ -134,7 +142,8 @@ void SaveScene::choose(Game *game)
     const bool hasToAsk = m_mode == Mode::kSave ? !slot.isEmpty : !slot.warning.isEmpty();
     if (!m_isAsking && hasToAsk) {
         m_isAsking = true;
-        m_question.setCurrent(0);
+        // A key too many replaces nothing.
+        m_question.setCurrent(m_mode == Mode::kSave ? 1 : 0);
         return;
     }
     const bool isWanted = !m_isAsking || m_question.current()->value == 1;

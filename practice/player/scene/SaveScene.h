@@ -23,6 +23,7 @@ public:
 
 private:
     void list(const Game &game);
+    void pointAtNewest();
     [[nodiscard]] ListRow row(int slot, const SaveFiles &files, const GameData &data) const;
     void choose(Game *game);
     void carryOut(Game *game);

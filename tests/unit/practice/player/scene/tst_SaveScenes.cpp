@@ -3,6 +3,7 @@
 #include "player/scene/SaveScene.h"
 #include "player/scene/TitleScene.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -55,6 +56,8 @@ class tst_SaveScenes : public QObject
 private Q_SLOTS:
     void aGameIsSavedAndGoneOnWith();
     void aSlotTellsPlacePartyAndTime();
+    void theNewestSaveIsPointedAt_data();
+    void theNewestSaveIsPointedAt();
     void whatIsThereIsReplacedOnlyWhenAsked();
     void aBrokenSaveSaysSoAndIsNotLoaded_data();
     void aBrokenSaveSaysSoAndIsNotLoaded();
@@ -109,6 +112,32 @@ void tst_SaveScenes::aSlotTellsPlacePartyAndTime()
     QCOMPARE(run.rows().size(), SaveFiles::kSlots);
 }
 
+void tst_SaveScenes::theNewestSaveIsPointedAt_data()
+{
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("to save") << true;
+    QTest::newRow("to load") << false;
+}
+
+void tst_SaveScenes::theNewestSaveIsPointedAt()
+{
+    QFETCH(bool, saves);
+    SaveGround ground;
+    const QDateTime now = QDateTime::currentDateTime();
+    const QVector<int> hours = {5, 2, 8};
+    for (int slot = 0; slot < hours.size(); ++slot) {
+        QString error;
+        QVERIFY2(ground.files.write(slot, ground.small.state, *ground.small.data, &error), qPrintable(error));
+        QFile file(ground.files.path(slot));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(now.addSecs(-3600 * hours.at(slot)), QFileDevice::FileModificationTime));
+    }
+    ground.put(3, "no game at all");
+    SceneRun run(ground.small, ground.settings);
+    run.open<SaveScene>(saves ? SaveScene::Mode::kSave : SaveScene::Mode::kLoad);
+    QCOMPARE(run.list()->current, 1);
+}
+
 void tst_SaveScenes::whatIsThereIsReplacedOnlyWhenAsked()
 {
     SaveGround ground;
@@ -117,7 +146,8 @@ void tst_SaveScenes::whatIsThereIsReplacedOnlyWhenAsked()
     run.open<SaveScene>();
     run.act();
     QCOMPARE(run.help(), QStringLiteral("Replace what is saved here?"));
-    QVERIFY(run.choose(QStringLiteral("No")));
+    // The same key once more.
+    run.act();
     QVERIFY(!ground.files.read(0, *ground.small.data).state);
     run.act();
     QVERIFY(run.choose(QStringLiteral("Yes")));
