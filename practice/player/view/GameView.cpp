@@ -14,9 +14,19 @@ namespace player {
 
 namespace {
 
+/// So long after something was closed, the escape key does not leave the game.
+constexpr int kDeafMs = 300;
+
 bool isTalk(const Panel &panel)
 {
     return panel.role == QLatin1String("message") || panel.role == QLatin1String("scroll");
+}
+
+/// The escape key closes it.
+bool isClosable(const Panel &panel)
+{
+    return panel.isWaiting || isTalk(panel) ||
+           (!panel.rows.isEmpty() && panel.role != QLatin1String("title"));
 }
 
 bool waits(const Frame &frame)
@@ -57,6 +67,9 @@ QSize GameView::sizeHint() const
 void GameView::setFrame(const Frame &frame)
 {
     m_frame = frame;
+    if (!isOutermost() && std::any_of(frame.panels.cbegin(), frame.panels.cend(), isClosable)) {
+        m_sinceOpen.start();
+    }
     const bool isTyping = std::any_of(frame.panels.cbegin(), frame.panels.cend(),
                                       [](const Panel &panel) { return panel.role == QLatin1String("name"); });
     m_keys.setTyping(isTyping);
@@ -122,13 +135,9 @@ bool GameView::isOutermost() const
     if (m_frame.isTrialAtRest) {
         return true;
     }
-    const auto closes = [](const Panel &panel) {
-        return panel.isWaiting || isTalk(panel) ||
-               (!panel.rows.isEmpty() && panel.role != QLatin1String("title"));
-    };
     const bool isTitle = m_frame.panel("title") != nullptr;
     return (m_frame.map != 0 || isTitle) && m_frame.battlers.isEmpty() &&
-           std::none_of(m_frame.panels.cbegin(), m_frame.panels.cend(), closes);
+           std::none_of(m_frame.panels.cbegin(), m_frame.panels.cend(), isClosable);
 }
 
 void GameView::paintEvent(QPaintEvent * /*event*/)
@@ -154,7 +163,10 @@ void GameView::paintEvent(QPaintEvent * /*event*/)
 void GameView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && !event->isAutoRepeat() && isOutermost()) {
-        Q_EMIT leaveAsked();
+        // Whoever cancels her way out of the menus with a key too many goes on playing.
+        if (!m_sinceOpen.isValid() || m_sinceOpen.hasExpired(kDeafMs)) {
+            Q_EMIT leaveAsked();
+        }
         return;
     }
     if (event->key() == Qt::Key_F5) {

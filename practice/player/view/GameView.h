@@ -5,6 +5,7 @@
 #include "player/view/FramePainter.h"
 #include "player/view/Keys.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 namespace player {
@@ -34,7 +35,7 @@ public:
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 Q_SIGNALS:
-    /// The escape key was pressed where it closes nothing in the game.
+    /// The escape key was pressed where it closes nothing in the game, and not right after it did.
     void leaveAsked();
     /// The game is to begin anew.
     void restartAsked();
@@ -55,6 +56,8 @@ private:
     Keys m_keys;
     Frame m_frame;
     bool m_isPaused = false;
+    /// Since something was seen that the escape key closes; not valid before the first time.
+    QElapsedTimer m_sinceOpen;
     QString m_words;
 };
 

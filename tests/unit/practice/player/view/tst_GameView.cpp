@@ -44,6 +44,7 @@ private Q_SLOTS:
     void keysComeToTheGame();
     void theEscapeKeyLeavesWhereNothingIsOpen_data();
     void theEscapeKeyLeavesWhereNothingIsOpen();
+    void theEscapeKeyThatClosedSomethingDoesNotLeave();
     void whatIsSaidIsReadOut_data();
     void whatIsSaidIsReadOut();
     void lettersComeFromAnInputMethodForANameOnly();
@@ -157,6 +158,22 @@ void tst_GameView::theEscapeKeyLeavesWhereNothingIsOpen()
     QTest::keyClick(m_view.get(), Qt::Key_Escape);
     QCOMPARE(left.size(), leaves ? 1 : 0);
     QCOMPARE(m_view->keys().take().pressed, leaves ? GameKeys() : GameKeys{GameKey::kCancel});
+}
+
+void tst_GameView::theEscapeKeyThatClosedSomethingDoesNotLeave()
+{
+    QSignalSpy left(m_view.get(), &GameView::leaveAsked);
+    show({panelOf("menu", {}, {str("Items")})});
+    QTest::keyClick(m_view.get(), Qt::Key_Escape);
+    show({});
+    QTest::keyClick(m_view.get(), Qt::Key_Escape);
+    QCOMPARE(left.size(), 0);
+    QCOMPARE(m_view->keys().take().pressed, GameKeys{GameKey::kCancel});
+    const auto leaves = [&] {
+        QTest::keyClick(m_view.get(), Qt::Key_Escape);
+        return !left.isEmpty();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(leaves(), 5000);
 }
 
 void tst_GameView::whatIsSaidIsReadOut_data()
