@@ -2,6 +2,7 @@
 
 #include "TestPlay.h"
 #include "strip/LessonStrip.h"
+#include "strip/PraiseCard.h"
 #include "strip/StripControl.h"
 #include "window/Blink.h"
 #include "window/EditorWindows.h"
@@ -167,12 +168,16 @@ void PracticeEditor::connectStrip()
 {
     connect(m_strip, &LessonStrip::used, this, &PracticeEditor::returnFocus);
     connect(m_testPlay.get(), &TestPlay::ended, this, &PracticeEditor::returnFocus);
-    connect(m_control, &StripControl::praised, this, [this](const QString &praise) {
+    auto *const card = new PraiseCard(m_strip->window());
+    connect(m_control, &StripControl::praised, card, [this, card](const QString &words, bool hasNextLesson) {
         // Where the person has just read the last hint.
-        if (const std::optional<QPoint> bubble = m_session.bubblePlace()) {
-            m_link.send(HostCommands::showTooltip(praise, *bubble + kBubbleText));
-        }
+        const std::optional<QPoint> bubble = m_session.bubblePlace();
+        const QWidget *const window = card->parentWidget();
+        card->praise(words, hasNextLesson,
+                     bubble ? *bubble + kBubbleText : window->mapToGlobal(window->rect().center()));
     });
+    connect(card, &PraiseCard::nextLessonRequested, m_strip, &LessonStrip::nextLessonRequested);
+    connect(&m_course, &LessonCourse::lessonWanted, card, &QWidget::hide);
 }
 
 void PracticeEditor::connectProject()

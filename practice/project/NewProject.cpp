@@ -92,6 +92,12 @@ void NewProject::accept()
     m_folder.clear();
 }
 
+void NewProject::drop()
+{
+    m_typed = m_accepted;
+    m_folder.clear();
+}
+
 void NewProject::acceptLocation()
 {
     m_typed.location = location();

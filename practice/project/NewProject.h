@@ -34,6 +34,8 @@ public:
     void accept();
     /// The same of the place alone.
     void acceptLocation();
+    /// It could not be made: what was offered last is offered again.
+    void drop();
 
     [[nodiscard]] QString name() const { return m_typed.name; }
     /// Full path of the place that is typed. What begins with no root is below the folder that was offered at

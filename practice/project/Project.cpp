@@ -140,12 +140,13 @@ void Project::create()
         !settled.isEmpty() && ProjectFolder::isProject(settled)
             ? settled
             : ProjectFolder::create(m_newProject.location(), m_newProject.name(), m_start.files(), &error);
-    m_newProject.accept();
     if (!folder || !m_files.open(*folder, &error)) {
+        m_newProject.drop();
         m_files.takeBack();
         Q_EMIT failed(error);
         return;
     }
+    m_newProject.accept();
     Q_EMIT created(name());
 }
 

@@ -36,7 +36,7 @@ void StripControl::connectSession()
     });
     connect(m_session, &LessonSession::finished, this, [this] {
         talk(Talk::kFinished, m_session->lessonName());
-        Q_EMIT praised(praise());
+        Q_EMIT praised(praise(), !m_course->lessonAfter(m_lessonName).isEmpty());
     });
     connect(m_session, &LessonSession::refused, this,
             [this](const QString &lessonName) { talk(Talk::kRefused, lessonName); });

@@ -30,8 +30,8 @@ public:
     void showLost();
 
 Q_SIGNALS:
-    /// The lesson that was called @p title is done: praise the person in these words.
-    void praised(const QString &praise);
+    /// The lesson is done: praise the person in these words, and lead to the next one where there is one.
+    void praised(const QString &praise, bool hasNextLesson);
 
 private:
     /// What the strip tells while no lesson runs.

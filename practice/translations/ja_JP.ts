@@ -647,6 +647,17 @@
     </message>
 </context>
 <context>
+    <name>PraiseCard</name>
+    <message>
+        <source>Next lesson</source>
+        <translation>次のレッスン</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>ProjectFolder</name>
     <message>
         <source>A project cannot have the name “%1”: its folder is named after it. Choose another name, without “/”.</source>

@@ -647,6 +647,17 @@
     </message>
 </context>
 <context>
+    <name>PraiseCard</name>
+    <message>
+        <source>Next lesson</source>
+        <translation>下一课</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>ProjectFolder</name>
     <message>
         <source>A project cannot have the name “%1”: its folder is named after it. Choose another name, without “/”.</source>

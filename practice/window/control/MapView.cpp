@@ -1,5 +1,6 @@
 #include "window/control/MapView.h"
 
+#include "window/control/DeleteKey.h"
 #include "project/MapBoard.h"
 #include "window/MapPainter.h"
 
@@ -65,7 +66,7 @@ MapView::Wish MapView::wishOf(const QKeyEvent *event) const
     if (!m_tools->isEventMode()) {
         return nullptr;
     }
-    if (event->matches(QKeySequence::Delete)) {
+    if (isDeleteKey(*event)) {
         return &MapView::deleteRequested;
     }
     if (event->matches(QKeySequence::Copy)) {

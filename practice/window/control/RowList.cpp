@@ -1,5 +1,6 @@
 #include "window/control/RowList.h"
 
+#include "window/control/DeleteKey.h"
 #include "window/MapPainter.h"
 
 #include <QKeyEvent>
@@ -39,7 +40,7 @@ std::function<void()> RowList::wishOf(const QKeyEvent *event)
             Q_EMIT rowOpened(currentRow());
         };
     }
-    if (event->matches(QKeySequence::Delete) && m_settings.isDeletedFrom) {
+    if (isDeleteKey(*event) && m_settings.isDeletedFrom) {
         return [this] {
             Q_EMIT deleteRequested();
         };

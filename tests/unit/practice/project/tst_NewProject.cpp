@@ -117,8 +117,13 @@ void tst_NewProject::aNameThatIsNoneIsRefused()
 {
     ProjectRoom room;
     QSignalSpy created(&room.project, &Project::created);
+    const QVariant place = room.field("newProject.location");
+    room.setField("newProject.location", str("elsewhere"));
     room.create("a/b");
     QCOMPARE(room.failures.size(), 1);
+    // Nor is its place the one that is offered.
+    room.run("newProject.begin");
+    QCOMPARE(room.field("newProject.location"), place);
     QVERIFY2(room.failures.constFirst().contains(str("a/b")), qPrintable(room.failures.constFirst()));
     QVERIFY(!room.project.isOpen());
     QVERIFY(created.isEmpty());

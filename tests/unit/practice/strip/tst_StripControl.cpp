@@ -212,6 +212,7 @@ void tst_StripControl::aFinishedLessonIsPraisedAndLeadsToTheNext()
     QCOMPARE(praised.size(), 1);
     QVERIFY2(text().contains(QStringLiteral("“Maps”")), qPrintable(text()));
     QCOMPARE(praised.constFirst().constFirst().toString(), text());
+    QVERIFY(praised.constFirst().constLast().toBool());
     QVERIFY(button("nextLessonButton")->isVisible());
     button("nextLessonButton")->click();
     QCOMPARE(m_lessons->asked(m_lessons->last()), 1);

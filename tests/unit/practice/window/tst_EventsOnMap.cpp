@@ -98,6 +98,9 @@ void tst_EventsOnMap::keysCopyPasteAndDelete()
     QTest::keyClick(editor.map(), Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(events(editor).size(), before + 1);
     QCOMPARE(events(editor).last()[QLatin1String("pages")], events(editor).at(1)[QLatin1String("pages")]);
+    // Some desktops have it for one more key of deleting.
+    QTest::keyClick(editor.map(), Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(events(editor).size(), before + 1);
     QTest::keyClick(editor.map(), Qt::Key_Delete);
     QCOMPARE(events(editor).size(), before);
     QTest::keyClick(editor.map(), Qt::Key_Return);

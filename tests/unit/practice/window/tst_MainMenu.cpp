@@ -98,6 +98,9 @@ void tst_MainMenu::entriesAreAsTheirButtons()
     QVERIFY(entry(editor, str("&New project…"))->isEnabled());
     QVERIFY(!entry(editor, str("&Save"))->isEnabled());
     QVERIFY(!entry(editor, str("&Pencil"))->isEnabled());
+    // There is no list of maps for one more.
+    const auto *const load = editor->window(str("MapEditTreeBox"))->findChild<QAbstractButton *>(str("load"));
+    QVERIFY(!load->isEnabled());
     const_cast<Editor &>(editor).run("newProject.create");
     QVERIFY(entry(editor, str("&Save"))->isEnabled());
     QVERIFY(entry(editor, str("&Pencil"))->isChecked());
