@@ -6,8 +6,9 @@
 class QLabel;
 class QPushButton;
 
-/// The word of praise at the end of a lesson, where the person has just read the last hint, with the way to the
-/// next lesson. It lies in the main window, above the map, until it is closed or another lesson is wanted.
+/// The word of praise at the end of a lesson, where the person has just read the last hint, with the way to
+/// the next lesson. It lies in the main window, above the map, until it is closed or another lesson is
+/// wanted.
 class PraiseCard : public QFrame
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #include "player/game/Command.h"
 
-#include "player/game/GameState.h"
 #include "player/game/JsonRead.h"
+#include "player/game/Numbers.h"
 
 #include <QCoreApplication>
 
@@ -12,7 +12,7 @@ bool RouteStep::namesWildSwitch() const
     constexpr int kSwitchOn = 17;
     constexpr int kSwitchOff = 18;
     const int id = parameters.at(0).toInt();
-    return (code == kSwitchOn || code == kSwitchOff) && (id < 1 || id > GameState::kLargestNumber);
+    return (code == kSwitchOn || code == kSwitchOff) && (id < 1 || id > kLargestNumber);
 }
 
 QString RouteStep::complaint() const
@@ -24,7 +24,7 @@ QString RouteStep::complaint() const
         return QCoreApplication::translate("TestPlay",
                                            "There is no switch or variable %1; the numbers go from 1 to %2.")
             .arg(parameters.at(0).toInt())
-            .arg(GameState::kLargestNumber);
+            .arg(kLargestNumber);
     }
     return {};
 }

@@ -24,8 +24,6 @@ struct GameState
     static constexpr int kMostGold = 9999999;
     static constexpr int kMostGoods = 99;
     static constexpr int kLargestVariable = 99999999;
-    /// Switches, variables and goods have numbers from 1 to this.
-    static constexpr int kLargestNumber = 9999;
     static constexpr int kLargestParty = 4;
 
     QSet<int> switches;

@@ -1,6 +1,7 @@
 #include "player/game/GameData.h"
 #include "player/game/GameState.h"
 #include "player/game/JsonRead.h"
+#include "player/game/Numbers.h"
 
 #include <QCoreApplication>
 #include <QVariantList>

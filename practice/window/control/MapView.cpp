@@ -1,8 +1,8 @@
 #include "window/control/MapView.h"
 
-#include "window/control/DeleteKey.h"
 #include "project/MapBoard.h"
 #include "window/MapPainter.h"
+#include "window/control/DeleteKey.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "window/control/RowList.h"
 
-#include "window/control/DeleteKey.h"
 #include "window/MapPainter.h"
+#include "window/control/DeleteKey.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

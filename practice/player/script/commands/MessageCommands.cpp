@@ -1,4 +1,5 @@
 #include "player/game/GameData.h"
+#include "player/game/Numbers.h"
 #include "player/script/Interpreter.h"
 #include "player/script/commands/AllCommands.h"
 #include "player/script/commands/Operands.h"
@@ -25,7 +26,7 @@ bool asks(const Command &command)
     const int variable = command.number(0);
     return (command.code == kChoices && !command.parameters.at(0).toArray().isEmpty()) ||
            ((command.code == kNumberInput || command.code == kItemInput) && variable >= 1 &&
-            variable <= GameState::kLargestNumber);
+            variable <= kLargestNumber);
 }
 
 void message(Interpreter &run, const Command &command)

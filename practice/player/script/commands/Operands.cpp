@@ -1,6 +1,7 @@
 #include "player/script/commands/Operands.h"
 
 #include "player/game/GameData.h"
+#include "player/game/Numbers.h"
 
 #include <QCoreApplication>
 
@@ -67,13 +68,13 @@ bool compare(int left, int comparison, int right)
 
 bool isNumber(Interpreter &run, int id)
 {
-    if (id >= 1 && id <= GameState::kLargestNumber) {
+    if (id >= 1 && id <= kLargestNumber) {
         return true;
     }
     run.tell(QCoreApplication::translate("TestPlay", "There is no switch or variable %1; the numbers go "
                                                      "from 1 to %2.")
                  .arg(id)
-                 .arg(GameState::kLargestNumber));
+                 .arg(kLargestNumber));
     return false;
 }
 
