@@ -52,19 +52,22 @@ void tst_PracticePreset::aStepsCommandBringsTheProjectInTheLearnersLanguage_data
     QTest::addColumn<QStringList>("maps");
     QTest::addColumn<QStringList>("heroes");
     QTest::newRow("English") << QStringLiteral("en_US")
-                             << QStringList{QStringLiteral("Amberfield"), QStringLiteral("Mila's house"),
-                                            QStringLiteral("Shop"),       QStringLiteral("Inn"),
-                                            QStringLiteral("Hilltop"),    QStringLiteral("Forest path")}
+                             << QStringList{QStringLiteral("Amberfield"),    QStringLiteral("Mila's house"),
+                                            QStringLiteral("Shop"),          QStringLiteral("Inn"),
+                                            QStringLiteral("Hilltop"),       QStringLiteral("Forest path"),
+                                            QStringLiteral("Mine entrance"), QStringLiteral("Old mine")}
                              << QStringList{QStringLiteral("Mila"), QStringLiteral("Toma")};
     QTest::newRow("Japanese") << QStringLiteral("ja_JP")
                               << QStringList{QStringLiteral("アンバー村"), QStringLiteral("ミラの家"),
                                              QStringLiteral("お店"),       QStringLiteral("宿屋"),
-                                             QStringLiteral("丘の上"),     QStringLiteral("森の小道")}
+                                             QStringLiteral("丘の上"),     QStringLiteral("森の小道"),
+                                             QStringLiteral("鉱山の入口"), QStringLiteral("古い鉱山")}
                               << QStringList{QStringLiteral("ミラ"), QStringLiteral("トーマ")};
     QTest::newRow("Chinese") << QStringLiteral("zh_CN")
-                             << QStringList{QStringLiteral("琥珀村"), QStringLiteral("米拉的家"),
-                                            QStringLiteral("商店"),   QStringLiteral("旅店"),
-                                            QStringLiteral("山岗"),   QStringLiteral("林间小路")}
+                             << QStringList{QStringLiteral("琥珀村"),   QStringLiteral("米拉的家"),
+                                            QStringLiteral("商店"),     QStringLiteral("旅店"),
+                                            QStringLiteral("山岗"),     QStringLiteral("林间小路"),
+                                            QStringLiteral("矿洞入口"), QStringLiteral("旧矿洞")}
                              << QStringList{QStringLiteral("米拉"), QStringLiteral("托马")};
 }
 
