@@ -3,13 +3,16 @@
 #include "window/EditorWindow.h"
 #include "window/Mnemonics.h"
 #include "window/control/ControlState.h"
+#include "window/control/EditKeys.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 
 namespace {
 
@@ -24,20 +27,60 @@ constexpr KeyOfWord kKeys[] = {{"copy", Qt::Key_C, Qt::ControlModifier},
                                {"paste", Qt::Key_V, Qt::ControlModifier},
                                {"delete", Qt::Key_Delete, Qt::NoModifier}};
 
-/// Presses the action's key in what has the focus in the main window.
-void press(QAction *action, const KeyOfWord &key, const EditorWindow *main)
+/// Knows what has the focus in the main window, or had it until its menu bar took it.
+class FocusOfWindow : public QObject
 {
-    QWidget *const focus = main->window()->focusWidget();
-    if (focus == nullptr || !main->isAncestorOf(focus)) {
+public:
+    FocusOfWindow(QMenuBar *bar, const EditorWindow *main)
+        : QObject(bar)
+        , m_bar(bar)
+        , m_main(main)
+    {
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *before, const QWidget *now) {
+            if (now == m_bar) {
+                m_before = before;
+            }
+        });
+    }
+
+    /// A control in the main window; nullptr when something else has the focus.
+    [[nodiscard]] QWidget *control() const
+    {
+        QWidget *const focus = m_main->window()->focusWidget();
+        QWidget *const control = focus == m_bar ? m_before.data() : focus;
+        return m_main->isAncestorOf(control) ? control : nullptr;
+    }
+
+private:
+    const QMenuBar *m_bar;
+    const EditorWindow *m_main;
+    QPointer<QWidget> m_before;
+};
+
+/// Presses the action's key in what has the focus in the main window.
+void press(QAction *action, const KeyOfWord &key, const FocusOfWindow *focus)
+{
+    QWidget *const control = focus->control();
+    if (control == nullptr) {
         return;
     }
     // It is the action's own shortcut, which would take it.
     action->setEnabled(false);
     QKeyEvent down(QEvent::KeyPress, key.key, key.modifiers);
-    QApplication::sendEvent(focus, &down);
+    QApplication::sendEvent(control, &down);
     QKeyEvent up(QEvent::KeyRelease, key.key, key.modifiers);
-    QApplication::sendEvent(focus, &up);
+    QApplication::sendEvent(control, &up);
     action->setEnabled(true);
+}
+
+/// Lets the action do what its key does in what has the focus. While @p menu is open it is grey where the key
+/// would do nothing; the key itself is always passed on.
+void follow(QAction *action, const KeyOfWord &key, const QMenu *menu, const FocusOfWindow *focus)
+{
+    QObject::connect(action, &QAction::triggered, focus, [action, focus, key] { press(action, key, focus); });
+    QObject::connect(menu, &QMenu::aboutToShow, action,
+                     [action, focus, key] { action->setEnabled(EditKeys::work(focus->control(), key.key)); });
+    QObject::connect(menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
 }
 
 /// Lets the action be as its tool button, now and always.
@@ -74,7 +117,8 @@ void follow(QAction *action, const PopupEntry &entry, EditorWindow *main)
     take();
 }
 
-void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main, const FindPopupEntry &find)
+void wire(QAction *action, const MenuEntryDescription &entry, const QMenu *menu, EditorWindow *main,
+          const FocusOfWindow *focus, const FindPopupEntry &find)
 {
     if (!entry.entry.isEmpty()) {
         follow(action, find(entry.entry), main);
@@ -91,8 +135,7 @@ void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main
     }
     for (const KeyOfWord &key : kKeys) {
         if (entry.does == QLatin1String(key.word)) {
-            QObject::connect(action, &QAction::triggered, main,
-                             [action, main, key] { press(action, key, main); });
+            follow(action, key, menu, focus);
             return;
         }
     }
@@ -104,6 +147,7 @@ void wire(QAction *action, const MenuEntryDescription &entry, EditorWindow *main
 void fillMenuBar(QMenuBar *bar, const QVector<MenuDescription> &menus, EditorWindow *main,
                  const QString &locale, const FindPopupEntry &find)
 {
+    const auto *const focus = new FocusOfWindow(bar, main);
     for (const MenuDescription &description : menus) {
         if (description.entries.isEmpty()) {
             continue;
@@ -120,7 +164,7 @@ void fillMenuBar(QMenuBar *bar, const QVector<MenuDescription> &menus, EditorWin
                 keys.append(QKeySequence::fromString(key, QKeySequence::PortableText));
             }
             action->setShortcuts(keys);
-            wire(action, entry, main, find);
+            wire(action, entry, menu, main, focus, find);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "window/control/ListControl.h"
 
 #include "window/control/ControlState.h"
+#include "window/control/EditKeys.h"
 #include "window/control/RowList.h"
 
 #include <QCursor>
@@ -50,6 +51,10 @@ ControlMaker readList(ControlReader &reader)
         auto *list = new RowList(window, painter, settings);
         keepFresh(list, window, [list] { list->refresh(); });
         settleWhenComing(list, window, [list] { list->settle(); });
+        new EditKeys(list, description, [window, begin](const ControlAction &action) {
+            window->run(begin);
+            return window->chosen(action) != nullptr && canRun(action, window);
+        });
         const auto act = [list, window, begin, name = description.name](const ControlAction &action,
                                                                         const QPoint &at) {
             window->run(begin);

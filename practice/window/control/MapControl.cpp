@@ -1,6 +1,7 @@
 #include "window/control/MapControl.h"
 
 #include "window/control/ControlState.h"
+#include "window/control/EditKeys.h"
 #include "window/control/MapKeys.h"
 #include "window/control/MapView.h"
 
@@ -47,6 +48,9 @@ ControlMaker readMap(ControlReader &reader)
         area->setWidget(view);
         area->setFocusPolicy(Qt::NoFocus); // the map itself has the keys
         new MapKeys(view);
+        new EditKeys(view, description, [window](const ControlAction &action) {
+            return window->chosen(action) != nullptr && canRun(action, window);
+        });
         keepFresh(view, window, [view] { view->refresh(); });
         QObject::connect(view, &MapView::pressed, window, [window, view, name] {
             window->report(QStringLiteral("pressed"), QStringLiteral("0"), QStringLiteral("0"),

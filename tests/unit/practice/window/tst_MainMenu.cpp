@@ -19,6 +19,7 @@ private Q_SLOTS:
     void everyToolButtonHasAnEntry();
     void toolTipsTellTheKey();
     void keysGoToWhatHasTheFocus();
+    void copyPasteAndDeleteAreGreyWhereTheyDoNothing();
     void textFieldsKeepTheirKeys();
     void quitAsksLikeTheCloseButton();
 };
@@ -201,6 +202,51 @@ void tst_MainMenu::keysGoToWhatHasTheFocus()
     Editor::key(Qt::Key_V, Qt::ControlModifier);
     Editor::key(Qt::Key_Delete);
     QCOMPARE(taker.keys, QVector<int>({Qt::Key_C, Qt::Key_V, Qt::Key_Delete}));
+}
+
+void tst_MainMenu::copyPasteAndDeleteAreGreyWhereTheyDoNothing()
+{
+    Editor editor;
+    QMenu *const menu = editor.frame()->findChild<QMenuBar *>()->actions().at(1)->menu();
+    // Which of copy, paste and delete can be chosen in the open menu.
+    const auto shown = [&editor, menu] {
+        Q_EMIT menu->aboutToShow();
+        QString able;
+        for (const char *text : {"&Copy", "&Paste", "&Delete"}) {
+            able += QLatin1Char(entry(editor, str(text))->isEnabled() ? text[1] : '-');
+        }
+        Q_EMIT menu->aboutToHide();
+        return able;
+    };
+    QCOMPARE(shown(), str("---"));
+    editor.openProject();
+    editor.map()->setFocus();
+    QCOMPARE(shown(), str("---"));
+    editor.click("MainWindow", "modeEvent");
+    editor.map()->setFocus();
+    QTest::mouseClick(editor.map(), Qt::LeftButton, {}, QPoint(40, 40));
+    QCOMPARE(shown(), str("---"));
+    entry(editor, str("Quick event: &inn…"))->trigger();
+    editor.click("QuickInn", "ok");
+    editor.map()->setFocus();
+    QCOMPARE(shown(), str("C-D"));
+    Editor::key(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(shown(), str("C-D")); // there is an event where it would go
+    Editor::key(Qt::Key_Delete);
+    QCOMPARE(shown(), str("-P-"));
+    // The menu bar has the focus when its menus are walked through by keys.
+    Editor::key(Qt::Key_F, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
+    QCOMPARE(QApplication::activePopupWidget(), menu);
+    QVERIFY(entry(editor, str("&Paste"))->isEnabled());
+    QVERIFY(!entry(editor, str("&Copy"))->isEnabled());
+    QTest::keyClick(menu, Qt::Key_P);
+    QCOMPARE(shown(), str("C-D"));
+    // The keys are passed on while the menu is closed.
+    QVERIFY(entry(editor, str("&Copy"))->isEnabled());
+    // A copied event has no place among the tiles.
+    editor.find<RowList>("MainWindow", "tiles")->setFocus();
+    QCOMPARE(shown(), str("---"));
 }
 
 void tst_MainMenu::textFieldsKeepTheirKeys()
