@@ -1683,7 +1683,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个带皮普和宝箱的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个带皮普和宝箱的项目吗？选“否”可以打开已有的项目，比如第 3 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -1951,7 +1951,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个带村庄的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个带村庄的项目吗？选“否”可以打开已有的项目，比如第 4 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2335,7 +2335,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要为这一课新建项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要为这一课新建项目吗？选“否”可以打开已有的项目，比如第 5 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2479,7 +2479,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个项目吗？里面的商店和旅店还没有人。选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个项目吗？里面的商店和旅店还没有人。选“否”可以打开已有的项目，比如第 6 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -2751,7 +2751,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个项目吗？里面的村庄和森林还没连通。选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个项目吗？里面的村庄和森林还没连通。选“否”可以打开已有的项目，比如第 7 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3066,7 +3066,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有矿洞和大门的项目吗？选“否”可以打开已有的项目，例如第 8 课的。</translation>
+      <translation>要新建一个有矿洞和大门的项目吗？选“否”可以打开已有的项目，比如第 8 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3250,7 +3250,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个带村庄和矿洞的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个带村庄和矿洞的项目吗？选“否”可以打开已有的项目，比如第 9 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -3769,7 +3769,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有两位主角的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个有两位主角的项目吗？选“否”可以打开已有的项目，比如第 11 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4129,7 +4129,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有商店和商品的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个有商店和商品的项目吗？选“否”可以打开已有的项目，比如第 12 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -4465,7 +4465,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个项目吗？里面的森林还很太平。选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个项目吗？里面的森林还很太平。选“否”可以打开已有的项目，比如第 13 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -5533,7 +5533,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个有首领的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个有首领的项目吗？选“否”可以打开已有的项目，比如第 16 课的。</translation>
     </message>
     <message>
       <source>#3</source>
@@ -6417,7 +6417,7 @@
     </message>
     <message>
       <source>#2</source>
-      <translation>要新建一个带完整游戏的项目吗？选“否”可以打开已有的项目。</translation>
+      <translation>要新建一个带完整游戏的项目吗？选“否”可以打开已有的项目，比如第 18 课的。</translation>
     </message>
     <message>
       <source>#3</source>
