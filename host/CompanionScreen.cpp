@@ -26,7 +26,8 @@ CompanionScreen::CompanionScreen(HostEditor *editor, QObject *parent)
 void CompanionScreen::start()
 {
     m_plays = true;
-    Q_EMIT sends(HostCommands::start(m_editor->screenRect()));
+    m_screen = QRect();
+    tellScreen();
     const QStringList keys = m_editor->openWindows();
     for (const QString &key : keys) {
         Q_EMIT sends(HostCommands::windowPush(key));
@@ -82,8 +83,21 @@ void CompanionScreen::tellStackAnew()
 
 void CompanionScreen::onMoved(const QString &windowKey, const QPoint &origin)
 {
+    if (m_plays) {
+        tellScreen();
+    }
     Q_EMIT sends(HostCommands::windowPosition(windowKey, origin));
     tellApplicationSize();
+}
+
+void CompanionScreen::tellScreen()
+{
+    // While a lesson plays the companion takes nothing but the rectangle from it.
+    const QRect screen = m_editor->screenRect();
+    if (screen != m_screen) {
+        m_screen = screen;
+        Q_EMIT sends(HostCommands::start(screen));
+    }
 }
 
 void CompanionScreen::tellApplicationSize()

@@ -3,7 +3,7 @@
 #include "host/HostCommands.h"
 
 #include <QObject>
-#include <QSize>
+#include <QRect>
 
 class HostEditor;
 
@@ -39,11 +39,14 @@ Q_SIGNALS:
 private:
     void tellStackAnew();
     void onMoved(const QString &windowKey, const QPoint &origin);
+    void tellScreen();
     void tellApplicationSize();
     void hideTooltip();
 
     HostEditor *m_editor;
     bool m_plays = false;
     std::optional<QPoint> m_place;
+    /// As they were told last.
+    QRect m_screen;
     QSize m_applicationSize;
 };

@@ -168,7 +168,8 @@ public:
     /// it can, or stands elsewhere.
     [[nodiscard]] virtual std::optional<QPoint> spotToPutBack() const { return {}; }
 
-    /// Rectangle of the whole screen area of the editor.
+    /// Rectangle of the screen that the editor is on, in global screen pixels. Asked for when a lesson begins
+    /// and each time that moved() is emitted: the bubble stays left of its right edge.
     [[nodiscard]] virtual QRect screenRect() const = 0;
 
     /// Size of the main window's contents.

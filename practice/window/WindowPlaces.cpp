@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QWindow>
 
 namespace {
 
@@ -48,8 +47,9 @@ WindowPlaces::WindowPlaces(const DescriptionSet *descriptions, MainFrame *frame,
 
 QRect WindowPlaces::screen() const
 {
-    const QWindow *handle = m_frame->windowHandle();
-    return (handle != nullptr ? handle->screen() : QApplication::primaryScreen())->geometry();
+    // By its place: its QWindow::screen() follows only after the event that tells of the move.
+    const QScreen *const there = QGuiApplication::screenAt(m_frame->geometry().center());
+    return (there != nullptr ? there : QApplication::primaryScreen())->geometry();
 }
 
 std::optional<QPoint> WindowPlaces::origin(const QString &key) const

@@ -45,7 +45,12 @@ public:
         return openWindows().contains(key) ? std::optional(m_windows[key]->mapToGlobal(QPoint()))
                                            : std::nullopt;
     }
-    QRect screenRect() const override { return QApplication::primaryScreen()->geometry(); }
+    QRect screenRect() const override
+    {
+        // When a window moves, its own screen() is told of it later.
+        const QScreen *screen = QApplication::screenAt(m_main.geometry().center());
+        return (screen ? screen : QApplication::primaryScreen())->geometry();
+    }
     QSize applicationSize() const override { return m_main.size(); }
 
     void activateTop() { m_windows[openWindows().constLast()]->activateWindow(); }

@@ -233,6 +233,8 @@ QString XEye::windows()
 
 bool XEye::takePicture(const QString &path)
 {
-    // Window 0 is the screen as the person sees it, the companion's windows included.
-    return QGuiApplication::primaryScreen()->grabWindow(0).save(path, "PNG", kFastPng);
+    // Window 0 is all screens as the person sees them, the companion's windows included.
+    QScreen *const screen = QGuiApplication::primaryScreen();
+    const QRect all = screen->virtualGeometry().translated(-screen->geometry().topLeft());
+    return screen->grabWindow(0, all.x(), all.y(), all.width(), all.height()).save(path, "PNG", kFastPng);
 }

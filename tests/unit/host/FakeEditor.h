@@ -18,6 +18,7 @@ public:
     QStringList m_stack = {QStringLiteral("MainWindow")};
     QHash<QString, QPoint> m_origins = {{QString(), QPoint()},
                                         {QStringLiteral("MainWindow"), QPoint(90, 190)}};
+    QRect m_screen = {0, 0, 1280, 960};
     QHash<QString, QStringList> m_openedFrom;
     /// By window key: the control that has every point of it.
     QHash<QString, ControlSpot> m_controls;
@@ -176,6 +177,6 @@ public:
         return QStringLiteral("put it back");
     }
     [[nodiscard]] std::optional<QPoint> spotToPutBack() const override { return m_putBackSpot; }
-    [[nodiscard]] QRect screenRect() const override { return {0, 0, 1280, 960}; }
+    [[nodiscard]] QRect screenRect() const override { return m_screen; }
     [[nodiscard]] QSize applicationSize() const override { return {1100, 720}; }
 };

@@ -8,6 +8,7 @@ class tst_CompanionScreen : public SessionTest
 private Q_SLOTS:
     void tellsTheWindowsBeforeTheFirstStep();
     void passesOnWhatTheWindowsDo();
+    void tellsTheScreenThatTheEditorGoesTo();
     void tellsTheStackAnewAfterAnAbandonedPopup();
     void showsTheEditorsTooltips();
 };
@@ -42,6 +43,30 @@ void tst_CompanionScreen::passesOnWhatTheWindowsDo()
     QCOMPARE(sent(), (QStringList{QStringLiteral("windowStack|push|Popup"), QStringLiteral("windowStack|pop"),
                                   QStringLiteral("controlPosition|ok|3|4"), QStringLiteral("state|hide"),
                                   QStringLiteral("state|show")}));
+}
+
+void tst_CompanionScreen::tellsTheScreenThatTheEditorGoesTo()
+{
+    const QString main = QStringLiteral("MainWindow");
+    Q_EMIT m_windows->moved(main, QPoint(90, 40));
+    sent();
+    m_windows->m_screen = QRect(1280, 0, 1024, 768);
+    Q_EMIT m_windows->moved(main, QPoint(1300, 40));
+    // The companion would begin to play.
+    QCOMPARE(sent(), QStringList{QStringLiteral("windowPosition|MainWindow|1300|40")});
+    m_session->receive(startCommand(kReading));
+    QCOMPARE(sent().value(0), QStringLiteral("start|1280|0|1024|768"));
+    m_windows->m_screen = QRect(0, 0, 1280, 960);
+    Q_EMIT m_windows->moved(main, QPoint(90, 40));
+    Q_EMIT m_windows->moved(main, QPoint(91, 40));
+    QCOMPARE(sent(), (QStringList{QStringLiteral("start|0|0|1280|960"),
+                                  QStringLiteral("windowPosition|MainWindow|90|40"),
+                                  QStringLiteral("windowPosition|MainWindow|91|40")}));
+    m_session->stop();
+    sent();
+    m_windows->m_screen = QRect(1280, 0, 1024, 768);
+    Q_EMIT m_windows->moved(main, QPoint(1300, 40));
+    QCOMPARE(sent(), QStringList{QStringLiteral("windowPosition|MainWindow|1300|40")});
 }
 
 void tst_CompanionScreen::tellsTheStackAnewAfterAnAbandonedPopup()
