@@ -24,7 +24,7 @@ void FocusReturn::begin()
 {
     m_shown.clear();
     const QWindowList windows = QGuiApplication::topLevelWindows();
-    for (const QWindow *const window : windows) {
+    for (QWindow *const window : windows) {
         if (window->isVisible()) {
             m_shown.append(window);
         }
@@ -36,7 +36,7 @@ void FocusReturn::begin()
 
 bool FocusReturn::isAstray() const
 {
-    const QWindow *const focused = QGuiApplication::focusWindow();
+    QWindow *const focused = QGuiApplication::focusWindow();
     const QWidget *const wanted = m_top();
     return focused != nullptr && wanted != nullptr && focused != wanted->windowHandle() &&
            m_shown.contains(focused);

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
@@ -35,6 +36,7 @@ private:
 
     std::function<QWidget *()> m_top;
     QElapsedTimer m_since;
-    QVector<const QWindow *> m_shown;
+    /// Those of the beginning; a window that has gone may have its address taken by one that comes later.
+    QVector<QPointer<QWindow>> m_shown;
     QTimer m_again;
 };

@@ -2,6 +2,9 @@
 
 #include <QDialog>
 #include <QTest>
+#include <QWindow>
+
+#include <optional>
 
 namespace {
 
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void theFocusIsBroughtBackToTheWindowOnTop();
     void aWindowThatWasThereGivesTheFocusBack();
     void aWindowThatComesLaterKeepsTheFocus();
+    void aWindowInThePlaceOfOneThatHasGoneKeepsTheFocus();
     void aQuestionKeepsTheFocus();
 
 private:
@@ -67,6 +71,27 @@ void tst_FocusReturn::aWindowThatComesLaterKeepsTheFocus()
     game.activateWindow();
     QTRY_VERIFY(game.isActiveWindow());
     // Until its time is over, it looks again and again.
+    QVERIFY(!QTest::qWaitFor([this] { return m_top.isActiveWindow(); }, FocusReturn::kMs / 4));
+}
+
+void tst_FocusReturn::aWindowInThePlaceOfOneThatHasGoneKeepsTheFocus()
+{
+    // Of the two, the second one has the address of the first.
+    std::optional<QWindow> window;
+    const auto begin = [&window] {
+        window.emplace();
+        window->resize(100, 60);
+        window->show();
+        return QTest::qWaitForWindowExposed(&*window);
+    };
+    QVERIFY(begin());
+    FocusReturn focus([this] { return &m_top; });
+    focus.begin();
+    QTRY_VERIFY(m_top.isActiveWindow());
+    window.reset();
+    QVERIFY(begin());
+    window->requestActivate();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), &*window);
     QVERIFY(!QTest::qWaitFor([this] { return m_top.isActiveWindow(); }, FocusReturn::kMs / 4));
 }
 
