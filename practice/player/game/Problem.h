@@ -41,7 +41,8 @@ struct Problem
     friend bool operator==(const Problem &left, const Problem &right)
     {
         return left.file == right.file && left.map == right.map && left.event == right.event &&
-               left.page == right.page && left.line == right.line && left.text == right.text;
+               left.page == right.page && left.line == right.line && left.entry == right.entry &&
+               left.text == right.text;
     }
 };
 

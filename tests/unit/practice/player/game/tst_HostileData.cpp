@@ -12,6 +12,7 @@ class tst_HostileData : public QObject
 private Q_SLOTS:
     void whatIsWrongIsNamed_data();
     void whatIsWrongIsNamed();
+    void entriesOfOneNameAreNamedEach();
     void anyFieldMayHoldAnything_data();
     void anyFieldMayHoldAnything();
     void massesOfEventsBesideTheGameLeaveTimeForIt();
@@ -276,6 +277,29 @@ void tst_HostileData::whatIsWrongIsNamed()
     };
     QVERIFY2(told(wild).contains(problem), qPrintable(told(wild)));
     QVERIFY2(!told(usual).contains(problem), qPrintable(told(usual)));
+}
+
+void tst_HostileData::entriesOfOneNameAreNamedEach()
+{
+    Files files = fullGame();
+    const QString file = QStringLiteral("data/Skills.json");
+    QJsonObject skill = files.value(file).toArray().at(1).toObject();
+    skill.insert(QStringLiteral("animationId"), 77);
+    QJsonArray skills{QJsonValue()};
+    for (const int id : {1, 2}) {
+        skill.insert(QStringLiteral("id"), id);
+        skills.append(skill);
+    }
+    files.insert(file, skills);
+    sample::Play play(files, smallGame::onMap());
+    QCOMPARE(play.run(QStringLiteral("wait 1")), QString());
+    QVector<int> named;
+    for (const player::Problem &problem : play.hand().problems()) {
+        if (problem.text.contains(QStringLiteral("animation 77"))) {
+            named.append(problem.entry);
+        }
+    }
+    QCOMPARE(named, (QVector<int>{1, 2}));
 }
 
 void tst_HostileData::anyFieldMayHoldAnything_data()
