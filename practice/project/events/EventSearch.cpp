@@ -75,9 +75,12 @@ bool branchAsks(const QJsonArray &parameters, bool isSwitch, int number)
     return parameters.at(1).toInt() == number || (isCompared && parameters.at(5).toInt() == number);
 }
 
+/// Whichever of the two ends of the range is the smaller one.
 bool isWithin(int number, const QJsonArray &range)
 {
-    return number >= range.at(0).toInt() && number <= range.at(1).toInt();
+    const int one = range.at(0).toInt();
+    const int other = range.at(1).toInt();
+    return number >= qMin(one, other) && number <= qMax(one, other);
 }
 
 bool routeUses(const QJsonValue &route, int number)

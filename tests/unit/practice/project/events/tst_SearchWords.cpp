@@ -80,6 +80,9 @@ void tst_SearchWords::findsTheVariableThatACommandTakes_data()
     row("a branch that compares with it", R"({"code": 111, "parameters": [1, 2, 0, 0, 1, 7, "A"]})", 7, true);
     row("a branch that compares with a number", R"({"code": 111, "parameters": [1, 2, 0, 0, 0, 7, "A"]})", 7,
         false);
+    row("a range", R"({"code": 122, "parameters": [6, 8, 0, 0, 1]})", 7, true);
+    row("a range, the last one first", R"({"code": 122, "parameters": [8, 6, 0, 0, 1]})", 7, true);
+    row("a range without it", R"({"code": 122, "parameters": [8, 9, 0, 0, 1]})", 7, false);
     row("what is added", R"({"code": 122, "parameters": [2, 2, 1, 1, 7]})", 7, true);
     row("a number that is added", R"({"code": 122, "parameters": [2, 2, 1, 0, 7]})", 7, false);
     row("gold", R"({"code": 125, "parameters": [0, 1, 7]})", 7, true);
