@@ -33,10 +33,7 @@ QPixmap messagePreview(const Message &message, const QMap<QString, QJsonValue> &
     painter.translate(scale.corner);
     painter.fillRect(QRect(QPoint(), scale.size()), kScene);
     Artwork artwork({}, pictures);
-    PanelPainter panels(&artwork);
-    for (const Panel &panel : qAsConst(frame.panels)) {
-        panels.paint(&painter, panel, scale, 0);
-    }
+    PanelPainter(&artwork).paintAll(&painter, frame.panels, scale, 0);
     return picture;
 }
 

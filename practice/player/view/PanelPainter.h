@@ -22,12 +22,11 @@ public:
     /// All of them, the first one at the bottom. Where one lies on another, nothing shines through. @p tick
     /// lets signs blink.
     void paintAll(QPainter *painter, const QVector<Panel> &panels, const ScreenScale &scale, qint64 tick);
-    /// One by itself.
-    void paint(QPainter *painter, const Panel &panel, const ScreenScale &scale, qint64 tick);
     /// The time that is left, in the upper right corner.
     static void paintTimer(QPainter *painter, const QString &timer, const ScreenScale &scale);
 
 private:
+    void paint(QPainter *painter, const Panel &panel, const ScreenScale &scale, qint64 tick);
     void paintFace(QPainter *painter, const Panel &panel, const PanelLayout &layout,
                    const ScreenScale &scale);
 
