@@ -5,6 +5,7 @@
 #include "host/ScenarioRunner.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -34,6 +35,11 @@ void LessonBubble::tell()
     const Step &step = m_runner->step();
     const std::optional<QPoint> place = target();
     m_pointing = place.has_value();
+    const bool isAtPutBack = place && m_guide->isAstray() && !m_guide->wayBack();
+    if (std::exchange(m_isAtPutBack, isAtPutBack) && !place) {
+        // At the screen's edge a step without a place would have its buttons where nobody sees them.
+        m_screen->moveToMiddle();
+    }
     IndicatorUpdate update;
     update.place = place;
     update.windowKey = step.windowKey;

@@ -51,4 +51,6 @@ private:
     QString m_hint;
     /// What the companion was told last: it points at the window of the step, or nowhere.
     bool m_pointing = false;
+    /// It points at what a person clicks to put things back.
+    bool m_isAtPutBack = false;
 };

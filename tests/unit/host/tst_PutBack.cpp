@@ -10,6 +10,7 @@ class tst_PutBack : public QObject
 private Q_SLOTS:
     void anotherProjectIsPutBack();
     void theArrowPointsAtTheButtonThatPutsBack();
+    void aStepWithoutAPlaceIsToldInTheMiddleAfterThat();
     void theDataArePutBackAfterAWrongMove();
     void whatAWrongButtonHasChangedIsPutBack();
     void whatAWrongMoveHasChosenIsPutBack_data();
@@ -71,6 +72,26 @@ void tst_PutBack::theArrowPointsAtTheButtonThatPutsBack()
     QCOMPARE(played.told.constLast(), str("indicator|updateXy|510|900"));
     played.session.putBack();
     QCOMPARE(played.lastTold(), str("indicator|update|95|196|MainWindow|Hint|4|0"));
+}
+
+void tst_PutBack::aStepWithoutAPlaceIsToldInTheMiddleAfterThat()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "enemy"));
+    played.editor.m_entries = 1;
+    played.editor.m_putBackSpot = QPoint(500, 900) + LessonWords::kTip;
+    played.play({QStringLiteral(R"("id":1,"x":-9999,"y":-9999,"windowKey":"MainWindow","hint":"Ready?")"),
+                 Played::item(2, "MainWindow", "comboBox,enemy,1"), QStringLiteral(R"("id":3)")});
+    const QStringList middle = played.told.filter(str("|updateXy|"));
+    QCOMPARE(middle.size(), 1);
+    played.session.next();
+    played.turn();
+    QTRY_VERIFY(played.lastTold().startsWith(str("indicator|update|500|900|")));
+    played.told.clear();
+    played.session.putBack();
+    QCOMPARE(played.id(), 1);
+    QCOMPARE(played.told.filter(str("|updateXy|")), middle);
+    QVERIFY(played.lastTold().contains(str("|Ready?|")));
 }
 
 void tst_PutBack::theDataArePutBackAfterAWrongMove()
