@@ -60,6 +60,7 @@ void LessonGuide::beginLesson(const StepStart &known)
 
 void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
 {
+    noteLeftBehind();
     m_runs = true;
     ++m_number;
     m_canGoBack = canGoBack;
@@ -85,6 +86,7 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_wasGone = false;
     m_looksElsewhere = false;
     m_choosesElsewhere = false;
+    m_hasReturned = false;
     m_left.clear();
     takeStart();
     m_turn.start();
@@ -98,6 +100,8 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
 void LessonGuide::end()
 {
     m_runs = false;
+    m_choosesElsewhere = false;
+    m_leftBehind.clear();
     m_turn.stop();
     m_help.stop();
     m_stray = Stray::kNot;
@@ -259,6 +263,7 @@ void LessonGuide::endTurn()
     if (std::exchange(m_isUsedNow, false) && wantsWindow()) {
         ++m_vainSteps;
     }
+    takeReturn();
     const Whereabouts now(m_editor, &m_needs, m_trail.open());
     const Stray stray = m_runs ? lookAround(now) : Stray::kNot;
     const std::optional<Way> way = usableWay(now, stray);
@@ -396,6 +401,38 @@ void LessonGuide::lookWhatIsChosen(bool isBlamed)
         return !isAsked && !before.contains(spot);
     });
     m_choosesElsewhere = !m_left.isEmpty() && !isLook() && (m_choosesElsewhere || (isBlamed && isMore));
+}
+
+void LessonGuide::noteLeftBehind()
+{
+    if (!m_choosesElsewhere) {
+        return;
+    }
+    for (const ControlSpot &spot : qAsConst(m_left)) {
+        const bool isAsked = m_needs.pointed && spot.isSameControl(*m_needs.pointed);
+        if (!isAsked && !m_leftBehind.contains(spot)) {
+            m_leftBehind.append(spot);
+        }
+    }
+}
+
+void LessonGuide::takeReturn()
+{
+    const QVector<ControlSpot> now = m_leftBehind.isEmpty() ? QVector<ControlSpot>() : m_editor->chosen();
+    for (const ControlSpot &spot : now) {
+        if (m_leftBehind.removeAll(spot) == 0) {
+            continue;
+        }
+        m_hasReturned = true;
+        QVector<ControlSpot> &chosen = m_needs.start.chosen;
+        std::replace_if(
+            chosen.begin(), chosen.end(),
+            [&spot](const ControlSpot &other) { return other.isSameControl(spot); }, spot);
+    }
+    if (m_hasReturned && m_needs.pointed && left().isEmpty()) {
+        m_hasReturned = false;
+        m_needs.start.meaning = m_editor->meaningOf(*m_needs.pointed);
+    }
 }
 
 bool LessonGuide::wantsWindow() const

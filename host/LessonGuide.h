@@ -98,6 +98,10 @@ private:
     [[nodiscard]] bool isDamaged() const;
     /// Whether a wrong move, which was made in this turn for @p isBlamed, has chosen something else.
     void lookWhatIsChosen(bool isBlamed);
+    /// Keeps what a wrong move of the step that ends has left.
+    void noteLeftBehind();
+    /// Whoever goes back to what an earlier step had chosen has not strayed from a step that began elsewhere.
+    void takeReturn();
     [[nodiscard]] bool wantsEvent() const;
     /// The step asks for nothing but to look, or for an answer.
     [[nodiscard]] bool isLook() const;
@@ -132,6 +136,10 @@ private:
     bool m_looksElsewhere = false;
     /// In a step to do, a wrong move has chosen another tab, tool or row, and it is chosen still.
     bool m_choosesElsewhere = false;
+    /// What wrong moves of earlier steps have left and nobody has chosen again.
+    QVector<ControlSpot> m_leftBehind;
+    /// Some of it was chosen again in this step, and the meaning of what it points at is to be taken anew.
+    bool m_hasReturned = false;
     /// left() at the end of the last turn.
     QVector<ControlSpot> m_left;
     /// One click may report several things.

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void whatAWrongMoveHasChosenIsPutBack_data();
     void whatAWrongMoveHasChosenIsPutBack();
     void whatTheStepAsksForIsNoOtherChoice();
+    void whoChoosesAgainWhatAnEarlierStepHadHasNotStrayed();
     void anotherChoiceIsNoDamage();
     void theButtonThatTheStepPointsAtIsNoWrongOne();
     void aTaskThatChangesTheDataIsNothingToPutBack();
@@ -183,6 +184,41 @@ void tst_PutBack::whatTheStepAsksForIsNoOtherChoice()
     played.editor.report(str("tabView"), str("tabview"), str("1"));
     played.turn();
     QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::whoChoosesAgainWhatAnEarlierStepHadHasNotStrayed()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "tool"));
+    const auto choose = [&played](int map) {
+        played.use("MainWindow", "maps", map);
+        played.editor.m_chosen = {Played::spot("MainWindow", "maps", map)};
+        played.editor.m_meanings.insert(str("map"), str("map %1").arg(map));
+        played.editor.report(str("list"), QString::number(map));
+        played.turn();
+    };
+    choose(0);
+    played.play({Played::item(1, "MainWindow", "action,modeEvent,"),
+                 Played::item(2, "MainWindow", "action,viewZoomActual,"),
+                 Played::item(3, "MainWindow", "windowState,MapProperties,open"),
+                 QStringLiteral(R"("id":4)")});
+    played.turn();
+    choose(3);
+    played.use("MainWindow", "tool");
+    played.editor.report(str("action"), str("modeEvent"));
+    played.turn();
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "map", 7));
+    played.use("MainWindow", "tool");
+    played.editor.report(str("action"), str("viewZoomActual"));
+    played.turn();
+    QCOMPARE(played.id(), 3);
+    QVERIFY(!played.session.isAstray());
+    choose(0);
+    QVERIFY(!played.session.isAstray());
+    // From there on that is the map of the step.
+    choose(3);
+    QVERIFY(played.session.isAstray());
+    QCOMPARE(played.session.wayBack()->by, Played::spot("MainWindow", "maps", 0));
 }
 
 void tst_PutBack::anotherChoiceIsNoDamage()
