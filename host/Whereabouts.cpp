@@ -69,7 +69,7 @@ Stray Whereabouts::stray() const
     if (!isThere(m_open)) {
         return Stray::kWindows;
     }
-    if (hasOtherMeaning() && (wayToChosen() || m_editor->dataMark() != m_needs->start.dataMark)) {
+    if (hasOtherMeaning() && (wayToMeaning() || m_editor->dataMark() != m_needs->start.dataMark)) {
         return Stray::kMeaning;
     }
     const std::optional<ControlSpot> &pointed = m_needs->pointed;
@@ -95,7 +95,7 @@ std::optional<Way> Whereabouts::wayBack(Stray stray) const
     case Stray::kWindows:
         return wayToWindows();
     case Stray::kMeaning:
-        return wayToChosen();
+        return wayToMeaning();
     case Stray::kCovered: {
         const WayBack search(m_editor->ways());
         const OpenWindows below = withoutMenu(m_open);
@@ -180,11 +180,16 @@ ControlSpot Whereabouts::openingOf(const Way &way) const
     return found != openings.cend() ? *found : ControlSpot();
 }
 
-std::optional<Way> Whereabouts::wayToChosen() const
+std::optional<Way> Whereabouts::wayToMeaning() const
+{
+    return wayToChosen(m_needs->pointed.value_or(ControlSpot()));
+}
+
+std::optional<Way> Whereabouts::wayToChosen(const ControlSpot &except) const
 {
     const QVector<ControlSpot> now = m_editor->chosen();
     for (const ControlSpot &spot : m_needs->start.chosen) {
-        if (!now.contains(spot) && m_editor->rectOf(spot)) {
+        if (!spot.isSameControl(except) && !now.contains(spot) && m_editor->rectOf(spot)) {
             return Way{spot,
                        QStringLiteral("click"),
                        m_editor->windowOf(spot.windowKey),

@@ -60,8 +60,10 @@ private:
     [[nodiscard]] bool opensSomethingElse(const Way &way) const;
     /// With what the window or menu that the way leads to was opened for the step; none where nobody knows.
     [[nodiscard]] ControlSpot openingOf(const Way &way) const;
-    /// The first of what was chosen when the step began and is not now.
-    [[nodiscard]] std::optional<Way> wayToChosen() const;
+    /// The first of what was chosen when the step began and is not now; nothing of the control of @p except.
+    [[nodiscard]] std::optional<Way> wayToChosen(const ControlSpot &except = {}) const;
+    /// The same for what the step points at: what a row is does not hang on which one of its list is chosen.
+    [[nodiscard]] std::optional<Way> wayToMeaning() const;
 
     const HostEditor *m_editor;
     const StepNeeds *m_needs;

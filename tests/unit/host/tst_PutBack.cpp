@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
+    void aRowThatIsAnotherNowIsPutBack();
     void whatWentWrongEarlierIsPutBack();
     void anEntryThatIsGoneIsPutBack();
     void whatIsGoneFromTheStartLeadsNowhere();
@@ -291,6 +292,31 @@ void tst_PutBack::takesTheFilesOfALessonForItsOwn()
     QVERIFY(played.session.canPutBack());
     played.session.putBack();
     QCOMPARE(played.editor.m_data, str("the lesson's files"));
+}
+
+void tst_PutBack::aRowThatIsAnotherNowIsPutBack()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "commands", 1));
+    played.editor.m_meanings.insert(str("commands"), str("row Switch"));
+    played.editor.m_chosen = {Played::spot("MainWindow", "commands", 0)};
+    played.play({Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
+                 QStringLiteral(R"("id":2)")});
+    played.turn();
+    played.use("MainWindow", "commands", 1);
+    played.editor.m_chosen = {Played::spot("MainWindow", "commands", 1)};
+    played.editor.report(str("list"), str("1"));
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    played.use("MainWindow", "commands", 1);
+    played.editor.m_meanings.insert(str("commands"), str("row +"));
+    played.editor.m_data = str("a command less");
+    played.editor.report(str("action"), str("delete"));
+    played.turn();
+    QVERIFY(played.session.isAstray());
+    // To choose the first row again would not bring the second one back.
+    QVERIFY(!played.session.wayBack());
+    QVERIFY(played.session.canPutBack());
 }
 
 void tst_PutBack::whatIsGoneIsPutBack()
