@@ -20,7 +20,14 @@ LessonHandOver::LessonHandOver(const HostEditor *editor, QObject *parent)
 {
     m_wait.setSingleShot(true);
     m_wait.setInterval(kMs);
-    connect(&m_wait, &QTimer::timeout, this, [this] { Q_EMIT refused(m_lessonName); });
+    connect(&m_wait, &QTimer::timeout, this, &LessonHandOver::refuse);
+}
+
+void LessonHandOver::refuse()
+{
+    // Whoever hears of it may ask for another lesson at once.
+    const QString lessonName = m_lessonName;
+    Q_EMIT refused(lessonName);
 }
 
 void LessonHandOver::begin()
@@ -64,7 +71,7 @@ void LessonHandOver::request(const QString &lessonName)
     m_lessonName = lessonName;
     if (!m_listed.isEmpty() && !m_listed.contains(lessonName)) {
         // The companion would hand over the lesson before.
-        Q_EMIT refused(lessonName);
+        refuse();
         return;
     }
     m_isAwaited = true;
@@ -102,7 +109,7 @@ std::optional<Scenario> LessonHandOver::take(const QString &scenarioText)
     m_isAwaited = false;
     const Scenario scenario = read(scenarioText);
     if (scenario.size() == 0 || !isAsked(scenario)) {
-        Q_EMIT refused(m_lessonName);
+        refuse();
         return {};
     }
     remember(m_lessonName, scenario);
@@ -115,7 +122,7 @@ std::optional<Scenario> LessonHandOver::takeOwn(const QString &lessonName, const
     m_lessonName = lessonName;
     const Scenario scenario = read(scenarioText);
     if (scenario.size() == 0) {
-        Q_EMIT refused(lessonName);
+        refuse();
         return {};
     }
     return ifKnown(scenario);

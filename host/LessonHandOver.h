@@ -75,6 +75,7 @@ Q_SIGNALS:
     void problemFound(const QString &problem);
 
 private:
+    void refuse();
     void askForList(const QString &givenUp);
     [[nodiscard]] Scenario read(const QString &scenarioText);
     void remember(const QString &lessonName, const Scenario &scenario);

@@ -9,6 +9,7 @@ private Q_SLOTS:
     void asksForALessonAndIsRefused();
     void aScenarioThatCannotBeReadIsRefused();
     void refusesALessonThatIsInNoList();
+    void whoHearsOfARefusalMayChangeTheNameThatWasAskedFor();
     void neverPlaysOneLessonUnderTheNameOfAnother();
     void aLessonThatComesLateIsNotPlayedUnderTheNameOfAnother();
     void aLessonThatComesLateIsKnownWhenItComesAgain();
@@ -49,6 +50,18 @@ void tst_LessonHandOver::refusesALessonThatIsInNoList()
     QCOMPARE(sent(), QStringList());
     m_session->request(QStringLiteral("TutorialStep1"));
     QCOMPARE(sent(), QStringList{QStringLiteral("tutorial|TutorialStep1")});
+}
+
+void tst_LessonHandOver::whoHearsOfARefusalMayChangeTheNameThatWasAskedFor()
+{
+    QString wanted = QStringLiteral("TutorialStep77");
+    connect(m_session, &LessonSession::refused, this, [&wanted] { wanted.clear(); });
+    QSignalSpy refused(m_session, &LessonSession::refused);
+    m_session->receive(
+        QStringLiteral("tutorialList\u0001[{\"filename\":\"TutorialStep1\",\"title\":\"Maps\"}]"));
+    m_session->request(wanted);
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused.constFirst().constFirst().toString(), QStringLiteral("TutorialStep77"));
 }
 
 void tst_LessonHandOver::neverPlaysOneLessonUnderTheNameOfAnother()

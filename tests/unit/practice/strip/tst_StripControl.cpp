@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aLessonThatIsLeftSaysWhereItGoesOn();
     void aFinishedLessonIsPraisedAndLeadsToTheNext();
     void aRefusedLessonIsNamed();
+    void aLessonThatIsInNoListIsNamed();
     void silenceIsSaidAndLeavesNothingBehind();
     void aLostGuideIsSaid();
     void theChooserStartsALesson();
@@ -65,9 +66,9 @@ void tst_StripControl::init()
 {
     m_lessons = std::make_unique<SessionOfLessons>();
     m_course = std::make_unique<LessonCourse>(&m_lessons->m_session, SessionOfLessons::catalog(), QString());
-    connect(m_course.get(), &LessonCourse::lessonWanted, this, [this] { m_course->ask(); });
     m_strip = std::make_unique<LessonStrip>();
     m_control = std::make_unique<StripControl>(&m_lessons->m_session, m_course.get(), m_strip.get());
+    connect(m_course.get(), &LessonCourse::lessonWanted, this, [this] { m_course->ask(); });
     m_lessons->list();
     m_strip->show();
 }
@@ -224,6 +225,12 @@ void tst_StripControl::aRefusedLessonIsNamed()
     QVERIFY2(text().contains(QStringLiteral("opened")), qPrintable(text()));
     m_lessons->m_session.receive(QStringLiteral("start\u0001no lesson\u0001-1"));
     QVERIFY2(text().startsWith(QStringLiteral("“Doors” cannot be opened.")), qPrintable(text()));
+}
+
+void tst_StripControl::aLessonThatIsInNoListIsNamed()
+{
+    m_course->begin(QStringLiteral("Nowhere"));
+    QVERIFY2(text().startsWith(QStringLiteral("“Nowhere” cannot be opened.")), qPrintable(text()));
 }
 
 void tst_StripControl::silenceIsSaidAndLeavesNothingBehind()
