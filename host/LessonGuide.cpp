@@ -90,7 +90,7 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_left.clear();
     takeStart();
     m_turn.start();
-    if (wantsEvent()) {
+    if (asksForAct()) {
         m_help.start();
     } else {
         m_help.stop();
@@ -354,7 +354,7 @@ void LessonGuide::blame(const EditorEvent &event)
 
 void LessonGuide::offerHelp()
 {
-    if (m_runs && wantsEvent() && !std::exchange(m_offered, true)) {
+    if (m_runs && asksForAct() && !std::exchange(m_offered, true)) {
         m_help.stop();
         Q_EMIT helpOffered();
     }
@@ -365,6 +365,11 @@ bool LessonGuide::wantsEvent() const
     using Type = Condition::Type;
     const Type type = m_needs.step.condition.type();
     return type != Type::kNext && type != Type::kYesNo && type != Type::kWait;
+}
+
+bool LessonGuide::asksForAct() const
+{
+    return wantsEvent() || (m_needs.step.condition.type() == Condition::Type::kNext && !isLook());
 }
 
 bool LessonGuide::isLook() const

@@ -103,6 +103,8 @@ private:
     /// Whoever goes back to what an earlier step had chosen has not strayed from a step that began elsewhere.
     void takeReturn();
     [[nodiscard]] bool wantsEvent() const;
+    /// Whether the person is to do something in the editor, be it with Next behind it.
+    [[nodiscard]] bool asksForAct() const;
     /// The step asks for nothing but to look, or for an answer.
     [[nodiscard]] bool isLook() const;
     /// What was chosen when the step began and is not now.

@@ -156,6 +156,7 @@ void LessonSession::skipStep()
     const int before = m_reached;
     doStep();
     if (m_reached == before) {
+        m_guide.chooseAsBefore();
         m_runner.skip();
     }
 }
@@ -169,7 +170,11 @@ void LessonSession::doStep()
         restore(m_guide.start());
     }
     const Step step = m_runner.step();
-    if (step.condition.type() == Condition::Type::kNext) {
+    const Condition::Type type = step.condition.type();
+    if (type == Condition::Type::kYesNo || type == Condition::Type::kWait) {
+        return; // nothing is to be done with what it points at
+    }
+    if (type == Condition::Type::kNext) {
         passStep();
     } else if (const std::optional<ControlSpot> pointed = m_guide.pointed()) {
         m_editor->perform(ControlUse::of(step, *pointed));

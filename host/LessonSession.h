@@ -128,7 +128,8 @@ Q_SIGNALS:
 
     /// isAstray(), wayBack() or canPutBack() changed.
     void astrayChanged();
-    /// The person may want help: half a minute has passed in a step, or there were three wrong clicks.
+    /// The person may want help: half a minute has passed in a step that asks for something, or there were
+    /// three wrong clicks.
     void helpOffered();
     /// What the step points at, or leads back to it, is to catch the eye.
     void showRequested(const ControlSpot &spot);

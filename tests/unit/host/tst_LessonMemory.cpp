@@ -27,6 +27,8 @@ private Q_SLOTS:
     void whatPointsNowhereIsDoneToo();
     void skippingGoesOnWhereNothingCanBeDone();
     void skippingAStepThatWaitsForNextPressesNext();
+    void skippingClicksNothingThatIsOnlyShown_data();
+    void skippingClicksNothingThatIsOnlyShown();
     void nextDoesTheClickThatNobodyHasMade();
     void nextClicksAsOftenAsTheHintSays();
     void nextLeavesWhatWasDone();
@@ -262,6 +264,31 @@ void tst_LessonMemory::skippingAStepThatWaitsForNextPressesNext()
     played.session.skipStep();
     QCOMPARE(played.id(), 2);
     QVERIFY(played.editor.m_performed.isEmpty());
+}
+
+void tst_LessonMemory::skippingClicksNothingThatIsOnlyShown_data()
+{
+    QTest::addColumn<QByteArray>("condition");
+    QTest::newRow("a question") << QByteArray("yesNo");
+    QTest::newRow("a wait") << QByteArray("wait,60000");
+}
+
+void tst_LessonMemory::skippingClicksNothingThatIsOnlyShown()
+{
+    QFETCH(const QByteArray, condition);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "delete"));
+    played.editor.m_chosen = {Played::spot("MainWindow", "tiles", 0)};
+    played.play({Played::item(1, "MainWindow", condition.constData(), "eye"), QStringLiteral(R"("id":2)")});
+    // Who has looked at something else has it as before again.
+    played.use("MainWindow", "tiles", 3);
+    played.editor.m_chosen = {Played::spot("MainWindow", "tiles", 3)};
+    played.editor.report(str("list"), str("3"));
+    played.turn();
+    played.session.skipStep();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, Played::spot("MainWindow", "tiles", 0));
 }
 
 void tst_LessonMemory::nextDoesTheClickThatNobodyHasMade()

@@ -22,7 +22,9 @@ private Q_SLOTS:
     void offersHelpAfterThreeWrongClicks();
     void oneClickIsOneWrongMove();
     void typingIsNoWrongClick();
+    void offersHelpAfterAWhile_data();
     void offersHelpAfterAWhile();
+    void offersHelpWithAClickBeforeNext();
     void offersNoHelpWhereNothingIsToBeDone();
 };
 
@@ -260,13 +262,43 @@ void tst_WhatCounts::typingIsNoWrongClick()
     QCOMPARE(offered.size(), 0);
 }
 
+void tst_WhatCounts::offersHelpAfterAWhile_data()
+{
+    QTest::addColumn<QByteArray>("condition");
+    QTest::addColumn<QByteArray>("icon");
+    QTest::newRow("a step that waits for the editor") << QByteArray("list,1") << QByteArray("click");
+    QTest::newRow("a click before Next") << QByteArray("click,") << QByteArray("click");
+    QTest::newRow("typing before Next") << QByteArray("click,") << QByteArray("keyboard");
+}
+
 void tst_WhatCounts::offersHelpAfterAWhile()
 {
+    QFETCH(const QByteArray, condition);
+    QFETCH(const QByteArray, icon);
     Played played;
     QSignalSpy offered(&played.session, &LessonSession::helpOffered);
     played.session.setHelpAfterMs(20);
-    played.play({Played::item(1, "MainWindow", "list,1")});
+    played.play({Played::item(1, "MainWindow", condition.constData(), icon.constData())});
     QVERIFY(offered.wait(5000));
+}
+
+void tst_WhatCounts::offersHelpWithAClickBeforeNext()
+{
+    Played played;
+    QSignalSpy offered(&played.session, &LessonSession::helpOffered);
+    played.editor.m_controls.insert(QStringLiteral("MainWindow"), Played::spot("MainWindow", "add"));
+    played.play({Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)")});
+    for (int click = 1; click <= 3; ++click) {
+        played.use("MainWindow", "tiles", 2);
+        played.editor.report(QStringLiteral("list"), QStringLiteral("2"));
+    }
+    QCOMPARE(offered.size(), 1);
+    played.session.showMe();
+    QVERIFY(played.editor.m_performed.isEmpty());
+    played.session.showMe();
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, Played::spot("MainWindow", "add"));
+    QCOMPARE(played.id(), 2);
 }
 
 void tst_WhatCounts::offersNoHelpWhereNothingIsToBeDone()
@@ -274,7 +306,7 @@ void tst_WhatCounts::offersNoHelpWhereNothingIsToBeDone()
     Played played;
     QSignalSpy offered(&played.session, &LessonSession::helpOffered);
     played.session.setHelpAfterMs(1);
-    played.play({Played::item(1, "MainWindow", "click,")});
+    played.play({Played::item(1, "MainWindow", "click,", "eye")});
     QVERIFY(!offered.wait(50));
 }
 
