@@ -17,6 +17,9 @@ constexpr std::array<const char *, 10> kTelling = {"popup",       "list",      "
                                                    "radioButton", "checked",   "spinBox", "action",
                                                    "menuEvent",   "mouseEvent"};
 
+/// What a step is called that is done with keys and points nowhere.
+constexpr auto kKeys = "Keys";
+
 int rankOf(const EditorEvent &event)
 {
     constexpr int kMost = static_cast<int>(kTelling.size());
@@ -63,13 +66,14 @@ void Recorder::press(Press kind, const QPoint &place)
     m_step->icon = kind == Press::kRightClick ? QStringLiteral("rightClick") : QStringLiteral("click");
 }
 
-void Recorder::type()
+void Recorder::type(Keys keys)
 {
     if (m_step && m_rank > 1) {
         finish();
     }
+    m_hasText = m_hasText || keys == Keys::kText;
     if (!m_step) {
-        m_step = RecordedStep{QStringLiteral("Keys"), {}, keyboardWindow(), {}, {}};
+        m_step = RecordedStep{QString::fromLatin1(kKeys), {}, keyboardWindow(), {}, {}};
     }
     m_step->icon = QStringLiteral("keyboard");
 }
@@ -77,13 +81,14 @@ void Recorder::type()
 void Recorder::finish()
 {
     m_rank = 0;
+    const bool hasText = std::exchange(m_hasText, false);
     const std::optional<RecordedStep> done = std::exchange(m_step, std::nullopt);
     if (!done) {
         return;
     }
     if (!done->condition.isEmpty()) {
         add(*done);
-    } else if (done->icon == QLatin1String("keyboard")) {
+    } else if (hasText) {
         RecordedStep typed = *done;
         typed.condition = QStringLiteral("click,"); // Next, once it is typed
         add(typed);
@@ -107,6 +112,14 @@ void Recorder::hear(const EditorEvent &event)
         m_rank = rankOf(event);
         m_step->condition = conditionOf(event);
         const std::optional<Condition> condition = Condition::parse(m_step->condition);
+        if (m_step->icon != QLatin1String("keyboard")) {
+            pointAt(event.cause);
+        } else if (!event.cause.isNone() && !pointsAt(event.cause) &&
+                   (!m_hasText || (condition && condition->isOfControl()))) {
+            // The click before had no effect, and the keys went elsewhere.
+            m_step->name = QString::fromLatin1(kKeys);
+            m_step->position.reset();
+        }
         if (!m_step->position && condition && condition->isOfControl()) {
             m_step->windowKey = event.windowKey; // where it counts
         }
@@ -121,6 +134,21 @@ void Recorder::add(const RecordedStep &step)
         Q_EMIT problemFound(problem);
     }
     Q_EMIT recorded(step);
+}
+
+bool Recorder::pointsAt(const ControlSpot &spot) const
+{
+    return m_step->name == spot.control && m_step->windowKey == spot.windowKey;
+}
+
+void Recorder::pointAt(const ControlSpot &spot)
+{
+    const std::optional<QPoint> middle =
+        pointsAt(spot) || spot.isNone() ? std::nullopt : pointOf(m_windows, spot);
+    if (middle) {
+        *m_step = {spot.control, *middle - LessonWords::kTip, spot.windowKey, m_step->condition,
+                   m_step->icon};
+    }
 }
 
 QString Recorder::keyboardWindow() const

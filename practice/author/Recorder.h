@@ -18,6 +18,7 @@ class Recorder : public QObject
 
 public:
     enum class Press { kClick, kDoubleClick, kRightClick };
+    enum class Keys { kText, kOther };
 
     /// @p editor stays the caller's and outlives this.
     Recorder(HostEditor *editor, DescriptionSet windows, const LessonRecord &record,
@@ -25,8 +26,8 @@ public:
 
     /// A mouse button went down at @p place, global screen pixels; the second press of a double click too.
     void press(Press kind, const QPoint &place);
-    /// A key was struck.
-    void type();
+    /// A key was struck: one that writes text, or any other, which is a step only if something came of it.
+    void type(Keys keys = Keys::kText);
     /// What was done last has come to its end.
     void finish();
 
@@ -44,6 +45,10 @@ private:
     /// Key of the window that has the keyboard.
     [[nodiscard]] QString keyboardWindow() const;
     [[nodiscard]] RecordedStep stepAt(const QPoint &place) const;
+    /// The control itself is where the step points, if it was used through something that stands for it, such
+    /// as an entry of the menu bar.
+    void pointAt(const ControlSpot &spot);
+    [[nodiscard]] bool pointsAt(const ControlSpot &spot) const;
 
     HostEditor *m_editor;
     DescriptionSet m_windows;
@@ -51,4 +56,6 @@ private:
     /// What is being done; its condition is empty until something came of it.
     std::optional<RecordedStep> m_step;
     int m_rank = 0;
+    /// Text was typed in it.
+    bool m_hasText = false;
 };

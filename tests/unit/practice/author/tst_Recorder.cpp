@@ -2,6 +2,7 @@
 #include "author/Recorder.h"
 #include "author/ScenarioFile.h"
 #include "lesson/Scenario.h"
+#include "lesson/description/ControlSpots.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,6 +44,9 @@ private Q_SLOTS:
     void typingIsAStepAtTheFieldThatWasClicked();
     void typedAndLeftIsFollowedByNext();
     void keysAloneAreOfTheWindowInWhichTheyAct();
+    void keysThatWriteNothingAreAStepIfSomethingCameOfThem();
+    void keysThatGoElsewhereAreNotOfTheControlThatWasClicked();
+    void anEntryOfTheMenuBarIsTheControlThatItStandsFor();
     void aWindowThatClosesByItselfIsWaitedFor();
     void aClickWithoutEffectIsNoStep();
     void theFilesAreALessonThatCanBePlayed();
@@ -50,6 +54,8 @@ private Q_SLOTS:
 
 private:
     QStringList steps();
+    /// In the window.
+    static QPoint centreOf(const char *window, const char *control);
     [[nodiscard]] QString path(const QString &name) const { return m_room->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> m_room;
@@ -67,6 +73,14 @@ void tst_Recorder::init()
     QCOMPARE(errors, QStringList());
     m_recorder =
         std::make_unique<Recorder>(m_editor.get(), windows, LessonRecord(path(QStringLiteral("Harbor.js"))));
+}
+
+QPoint tst_Recorder::centreOf(const char *window, const char *control)
+{
+    QStringList errors;
+    const DescriptionSet windows =
+        DescriptionSet::read(QStringLiteral(TUTORIAL_SOURCE_DIR "/practice/descriptions"), nullptr, &errors);
+    return pointOf(windows, {QString::fromLatin1(window), QString::fromLatin1(control), -1}).value();
 }
 
 QStringList tst_Recorder::steps()
@@ -164,6 +178,47 @@ void tst_Recorder::keysAloneAreOfTheWindowInWhichTheyAct()
     m_recorder->type();
     QCOMPARE(steps(), (QStringList{QStringLiteral("keyboard list,2 ImageSelector (-9999, -9999)"),
                                    QStringLiteral("keyboard click, ImageSelector (-9999, -9999)")}));
+}
+
+void tst_Recorder::keysThatWriteNothingAreAStepIfSomethingCameOfThem()
+{
+    m_editor->open(QStringLiteral("ImageSelector"));
+    m_recorder->type(Recorder::Keys::kOther); // an arrow
+    m_editor->report(QStringLiteral("list"), QStringLiteral("2"));
+    m_recorder->type(Recorder::Keys::kOther); // another one, at the end of the list
+    QCOMPARE(steps(), QStringList{QStringLiteral("keyboard list,2 ImageSelector (-9999, -9999)")});
+}
+
+void tst_Recorder::keysThatGoElsewhereAreNotOfTheControlThatWasClicked()
+{
+    m_recorder->press(Press::kClick, kClick); // on a grey button
+    m_recorder->type(Recorder::Keys::kOther);
+    m_editor->m_cause = {QStringLiteral("MainWindow"), QStringLiteral("tiles"), 3};
+    m_editor->report(QStringLiteral("list"), QStringLiteral("3"));
+    m_editor->m_cause = {};
+    m_recorder->press(Press::kClick, kClick); // on the menu's title
+    m_recorder->type(Recorder::Keys::kOther);
+    m_editor->m_cause = {QStringLiteral("MainWindow"), QStringLiteral("fileSave"), -1};
+    m_editor->report(QStringLiteral("action"), QStringLiteral("fileSave"), QStringLiteral("close"));
+    QCOMPARE(steps(),
+             (QStringList{QStringLiteral("keyboard list,3 MainWindow (-9999, -9999)"),
+                          QStringLiteral("keyboard action,fileSave,close MainWindow (-9999, -9999)")}));
+}
+
+void tst_Recorder::anEntryOfTheMenuBarIsTheControlThatItStandsFor()
+{
+    m_recorder->press(Press::kClick, kClick); // on the menu's title, which reports nothing
+    m_recorder->press(Press::kClick, kClick + QPoint(0, 60));
+    m_editor->m_cause = {QStringLiteral("MainWindow"), QStringLiteral("fileSave"), -1};
+    m_editor->report(QStringLiteral("action"), QStringLiteral("fileSave"), QStringLiteral("close"));
+    m_editor->m_cause = {};
+    m_recorder->press(Press::kClick, kWindow + centreOf("MainWindow", "fileSave"));
+    m_editor->report(QStringLiteral("action"), QStringLiteral("fileSave"), QStringLiteral("close"));
+    const QStringList told = steps();
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told.at(0).startsWith(QStringLiteral("click action,fileSave,close MainWindow (")),
+             qPrintable(told.at(0)));
+    QCOMPARE(told.at(0), told.at(1));
 }
 
 void tst_Recorder::aWindowThatClosesByItselfIsWaitedFor()
