@@ -50,6 +50,9 @@ public:
         // A window passes on what it gets to the widgets in it.
         if (qobject_cast<QWindow *>(watched) != nullptr) {
             hear(event);
+        } else if (event->type() == QEvent::Shortcut) {
+            // Its key comes to no window.
+            m_recorder->type(Recorder::Keys::kOther);
         }
         return QObject::eventFilter(watched, event);
     }
@@ -69,9 +72,28 @@ private:
                               : isSecond                         ? Recorder::Press::kDoubleClick
                                                                  : Recorder::Press::kClick,
                               place);
-        } else if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent *>(event)->text().isEmpty()) {
-            m_recorder->type();
+        } else if (event->type() == QEvent::KeyPress) {
+            hearKey(*static_cast<QKeyEvent *>(event));
         }
+    }
+
+    void hearKey(const QKeyEvent &key)
+    {
+        switch (key.key()) {
+        case Qt::Key_Shift:
+        case Qt::Key_Control:
+        case Qt::Key_Meta:
+        case Qt::Key_Alt:
+        case Qt::Key_AltGr:
+        case Qt::Key_CapsLock:
+        case Qt::Key_NumLock:
+            return; // it is for the key or the click behind it
+        default:
+            break;
+        }
+        const bool isText = !key.text().isEmpty() && key.text().at(0).isPrint() &&
+                            (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+        m_recorder->type(isText ? Recorder::Keys::kText : Recorder::Keys::kOther);
     }
 
     Recorder *m_recorder;
@@ -109,9 +131,16 @@ void AuthorOptions::apply(const QCommandLineParser &parser, const QString &local
     LessonSession &session = editor->session();
     const int first = parser.isSet(from) ? parser.value(from).toInt() : -1;
     if (parser.isSet(scenario)) {
-        const auto *const player =
+        auto *const player =
             new ScenarioPlayer(ScenarioFile(parser.value(scenario), locale), first, &session, editor);
         QObject::connect(player, &ScenarioPlayer::problemFound, editor, &say);
+        editor->course().setOwnLesson(player->lessonName(), [player](bool goesOn) {
+            if (goesOn) {
+                player->goOn();
+            } else {
+                player->begin();
+            }
+        });
     } else if (parser.isSet(from)) {
         session.setFirstStep(first);
     }

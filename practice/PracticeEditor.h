@@ -58,6 +58,7 @@ public:
     [[nodiscard]] bool start(QString *error);
 
     [[nodiscard]] LessonSession &session() { return m_session; }
+    [[nodiscard]] LessonCourse &course() { return m_course; }
     /// The folder of the project that is open; empty when none is.
     [[nodiscard]] QString projectFolder() const;
 

@@ -25,7 +25,11 @@ ScenarioPlayer::ScenarioPlayer(ScenarioFile file, int firstStep, LessonSession *
     const auto wait = qOverload<>(&QTimer::start);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settled, wait);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settled, wait);
-    connect(session, &LessonSession::lessonsListed, this, [this] { play(m_step); });
+    connect(session, &LessonSession::lessonsListed, this, [this] {
+        if (!std::exchange(m_isBegun, true)) {
+            play(m_step);
+        }
+    });
     connect(session, &LessonSession::stepReached, this, [this] {
         if (m_session->lessonName() == m_file.name()) {
             m_step = m_session->runner().step().id;
@@ -33,6 +37,23 @@ ScenarioPlayer::ScenarioPlayer(ScenarioFile file, int firstStep, LessonSession *
     });
     m_contents = contents();
     watch();
+}
+
+void ScenarioPlayer::begin()
+{
+    playOrRefuse(-1);
+}
+
+void ScenarioPlayer::goOn()
+{
+    playOrRefuse(m_step);
+}
+
+void ScenarioPlayer::playOrRefuse(int step)
+{
+    if (!play(step)) {
+        m_session->play(m_file.name(), QString(), step);
+    }
 }
 
 void ScenarioPlayer::watch()

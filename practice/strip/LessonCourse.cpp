@@ -15,10 +15,7 @@ LessonCourse::LessonCourse(LessonSession *session, const LessonCatalog &catalog,
                 tellProblems(); // what was wrong with the files from the start
                 Q_EMIT changed();
             });
-    connect(session, &LessonSession::started, this, [this] {
-        // Should the companion end now, the lesson goes on where it is.
-        m_goesOn = true;
-    });
+    connect(session, &LessonSession::started, this, &LessonCourse::onStarted);
     connect(session, &LessonSession::stepReached, this, &LessonCourse::onStepReached);
     connect(session, &LessonSession::bookmarkChanged, this, &LessonCourse::keepPlace);
     connect(session, &LessonSession::finished, this, [this] {
@@ -37,12 +34,23 @@ QString LessonCourse::Entry::numberedTitle() const
     return number > 0 ? QStringLiteral("%1. %2").arg(QString::number(number), title) : title;
 }
 
+void LessonCourse::setOwnLesson(const QString &lessonName, PlayOwn play)
+{
+    m_ownLesson = lessonName;
+    m_playOwn = std::move(play);
+}
+
 QVector<LessonCourse::Entry> LessonCourse::entries() const
 {
     QVector<Entry> entries;
-    entries.reserve(m_lessons.size());
+    entries.reserve(m_lessons.size() + 1);
+    bool hasOwn = m_ownLesson.isEmpty() || m_lessons.isEmpty();
     for (const LessonSession::Lesson &lesson : m_lessons) {
         entries.append(entry(lesson.name));
+        hasOwn = hasOwn || lesson.name == m_ownLesson;
+    }
+    if (!hasOwn) {
+        entries.append(entry(m_ownLesson));
     }
     return entries;
 }
@@ -63,7 +71,7 @@ LessonCourse::Entry LessonCourse::entry(const QString &lessonName) const
     const LessonCatalog::Entry known = m_catalog.entry(lessonName);
     entry.teaches = known.teaches;
     entry.minutes = known.minutes;
-    entry.isWritten = known.isWritten;
+    entry.isWritten = known.isWritten || lessonName == m_ownLesson;
     entry.isRefused = m_refused.contains(lessonName);
     entry.progress = m_progress.record(lessonName);
     return entry;
@@ -111,6 +119,10 @@ void LessonCourse::ask()
     if (m_wanted.isEmpty()) {
         return;
     }
+    if (m_wanted == m_ownLesson) {
+        m_playOwn(m_goesOn);
+        return;
+    }
     const QJsonObject bookmark = m_goesOn ? m_progress.bookmark(m_wanted) : QJsonObject();
     tellProblems();
     m_awaited = bookmark.isEmpty() ? 0 : m_progress.record(m_wanted).step;
@@ -126,6 +138,17 @@ void LessonCourse::giveUp(const QString &lessonName)
     m_refused.insert(lessonName);
     m_wanted.clear();
     Q_EMIT changed();
+}
+
+void LessonCourse::onStarted()
+{
+    const QString lesson = m_session->lessonName();
+    m_refused.remove(lesson);
+    if (lesson == m_ownLesson) {
+        m_wanted = lesson; // nobody asked for the first time that it is played, and for what has changed
+    }
+    // Should the companion end now, the lesson goes on where it is.
+    m_goesOn = true;
 }
 
 void LessonCourse::onStepReached()

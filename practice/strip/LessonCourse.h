@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <functional>
+
 /// The person's course through the lessons: which there are, which one is wanted, and where each goes on,
 /// also in the next run of the editor. It asks the session for the wanted lesson when it is told that the
 /// companion is there.
@@ -39,6 +41,13 @@ public:
     /// @p session outlives this. @p folder is where the progress is kept; nothing is when it is empty.
     LessonCourse(LessonSession *session, const LessonCatalog &catalog, const QString &folder,
                  QObject *parent = nullptr);
+
+    /// Begins a lesson of the person's own: at the step at which it was left, or at its first.
+    using PlayOwn = std::function<void(bool goesOn)>;
+
+    /// A lesson of the person's own is one more, or takes the place of the one with its name. It is played
+    /// by @p play, and the companion is not asked for it.
+    void setOwnLesson(const QString &lessonName, PlayOwn play);
 
     /// All lessons in their order; none before the companion has listed them.
     [[nodiscard]] QVector<Entry> entries() const;
@@ -73,6 +82,7 @@ private:
     void want(const QString &lessonName, bool goesOn);
     /// It cannot be played.
     void giveUp(const QString &lessonName);
+    void onStarted();
     void onStepReached();
     void keepPlace();
     void tellProblems();
@@ -81,6 +91,9 @@ private:
     LessonCatalog m_catalog;
     LessonProgress m_progress;
     QVector<LessonSession::Lesson> m_lessons;
+    /// Empty when there is none.
+    QString m_ownLesson;
+    PlayOwn m_playOwn;
     QSet<QString> m_refused;
     QString m_wanted;
     bool m_goesOn = false;

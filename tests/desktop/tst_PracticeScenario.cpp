@@ -1,9 +1,15 @@
+#include "AuthorRun.h"
 #include "PracticeTest.h"
 #include "author/ScenarioPlayer.h"
 
+#include <QCommandLineParser>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
+
+#include <csignal>
 
 namespace {
 
@@ -37,11 +43,21 @@ class tst_PracticeScenario : public PracticeTest
 
 private Q_SLOTS:
     void staysAtTheStepWhenTheFileChanges();
+    void isStartedAgain();
+    void goesOnWhenTheCompanionHasDied();
+    void keysAreRecorded();
 
 private:
     void write(const QString &fileName, const QByteArray &text) const;
+    /// Starts the editor as the command line with this option does.
+    void startWith(const QString &option);
+    /// Plays a lesson of three steps, and goes on to the second.
+    void playToTheSecond();
+    /// Presses the first button of the question that comes up.
+    void accept(const char *question);
 
     QTemporaryDir m_folder;
+    qint64 m_companion = 0;
 };
 
 void tst_PracticeScenario::write(const QString &fileName, const QByteArray &text) const
@@ -77,6 +93,106 @@ void tst_PracticeScenario::staysAtTheStepWhenTheFileChanges()
     QTRY_COMPARE_WITH_TIMEOUT(reloaded.size(), 2, kSoonMs);
     QCOMPARE(stepId(), 2);
     QTRY_VERIFY_WITH_TIMEOUT(isReadable(), kSoonMs);
+}
+
+void tst_PracticeScenario::startWith(const QString &option)
+{
+    PracticeEditor::Options options = this->options();
+    options.hasLessonOfItsOwn = true;
+    options.lesson = 0;
+    QStringList errors;
+    std::unique_ptr<EditorWindowSet> windows = EditorWindowSet::create(options.locale, &errors);
+    QVERIFY2(windows != nullptr, qPrintable(errors.join(QLatin1Char('\n'))));
+    m_windows = windows.get();
+    m_editor = std::make_unique<PracticeEditor>(options, std::move(windows));
+    connect(m_editor.get(), &PracticeEditor::companionConnected, this,
+            [this](qint64 pid) { m_companion = pid; });
+    const AuthorOptions author;
+    QCommandLineParser parser;
+    author.addTo(&parser);
+    QVERIFY2(parser.parse({QStringLiteral("PracticeEditor"), option}), qPrintable(parser.errorText()));
+    author.apply(parser, options.locale, m_editor.get(), m_windows);
+    QString error;
+    QVERIFY2(m_editor->start(&error), qPrintable(error));
+}
+
+void tst_PracticeScenario::playToTheSecond()
+{
+    const QString scenario = kName + QStringLiteral(".js");
+    write(scenario, QStringLiteral("var scenario = [%1,%2,%3];").arg(item(1), item(2), item(3)).toUtf8());
+    write(kName + QStringLiteral(".en_US.ts"),
+          catalogue({QStringLiteral("One"), QStringLiteral("Two"), QStringLiteral("Three")}));
+    startWith(QStringLiteral("--scenario=") + m_folder.filePath(scenario));
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 1, kSoonMs);
+    find<QPushButton>("nextButton")->click();
+    QCOMPARE(stepId(), 2);
+    // It is kept where the lesson goes on.
+    QTRY_COMPARE_WITH_TIMEOUT(m_editor->course().entry(kName).progress.step, 2, kSoonMs);
+}
+
+void tst_PracticeScenario::accept(const char *question)
+{
+    const auto isAsked = [question] {
+        const QWidget *const asks = QApplication::activeModalWidget();
+        return asks != nullptr && asks->objectName() == QLatin1String(question);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isAsked(), kSoonMs);
+    qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->buttons().constFirst()->click();
+}
+
+void tst_PracticeScenario::isStartedAgain()
+{
+    playToTheSecond();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    find<QPushButton>("startAgainButton")->click();
+    accept("startAgainMessageBox");
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 1, kSoonMs);
+    QCOMPARE(stripText()->text(), QStringLiteral("One"));
+}
+
+void tst_PracticeScenario::goesOnWhenTheCompanionHasDied()
+{
+    playToTheSecond();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    QCOMPARE(kill(pid_t(m_companion), SIGKILL), 0);
+    accept("lostMessageBox");
+    QTRY_COMPARE_WITH_TIMEOUT(stepId(), 2, kSoonMs);
+    QCOMPARE(stripText()->text(), QStringLiteral("Two"));
+}
+
+void tst_PracticeScenario::keysAreRecorded()
+{
+    const QString scenario = m_folder.filePath(QStringLiteral("Recorded.js"));
+    startWith(QStringLiteral("--record=") + scenario);
+    const auto hasFocus = [this] {
+        return XWindows::activeWindow() == mainWindow()->winId();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hasFocus(), kSoonMs);
+    const auto press = [](const char *key) {
+        XWindows::run(QStringLiteral("xdotool"), {QStringLiteral("key"), QString::fromLatin1(key)});
+    };
+    const auto recorded = [&scenario] {
+        QFile file(scenario);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    auto *const tiles = contents()->findChild<QWidget *>(QStringLiteral("tiles"));
+    QVERIFY(tiles != nullptr);
+    tiles->setFocus();
+    press("Down");
+    press("ctrl+n");
+    QTRY_VERIFY_WITH_TIMEOUT(m_windows->openWindows().contains(QStringLiteral("NewProject")), kSoonMs);
+    press("F3"); // does nothing
+    press("Escape");
+    QTRY_VERIFY_WITH_TIMEOUT(!m_windows->openWindows().contains(QStringLiteral("NewProject")), kSoonMs);
+    press("Down");
+    QTRY_COMPARE_WITH_TIMEOUT(recorded().count("\"condition\""), 3, kSoonMs);
+    for (const char *condition : {"list,1", "windowState,NewProject,open", "windowState,NewProject,close"}) {
+        QVERIFY2(recorded().contains(condition), recorded().constData());
+    }
 }
 
 QTEST_MAIN(tst_PracticeScenario)

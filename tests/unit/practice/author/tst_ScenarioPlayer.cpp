@@ -43,6 +43,9 @@ private Q_SLOTS:
     void staysAtTheStepWhenAFileChanges_data();
     void staysAtTheStepWhenAFileChanges();
     void aBrokenFileChangesNothing();
+    void beginsByItselfOnceOnly();
+    void beginsAgainAndGoesOn();
+    void aFileThatCannotBeReadIsRefused();
 
 private:
     void write(const QString &name, const QByteArray &contents);
@@ -143,6 +146,38 @@ void tst_ScenarioPlayer::aBrokenFileChangesNothing()
     QCOMPARE(step().conditionText, QStringLiteral("list,2"));
     write(QStringLiteral("Harbor.js"), scenarioOf("list,5"));
     QTRY_COMPARE_WITH_TIMEOUT(step().conditionText, QStringLiteral("list,5"), kSoonMs);
+}
+
+void tst_ScenarioPlayer::beginsByItselfOnceOnly()
+{
+    begin(-1);
+    m_session->stop();
+    m_session->receive(QStringLiteral("tutorialList\u0001[]")); // a companion that was started again
+    QVERIFY(!m_session->runner().isRunning());
+}
+
+void tst_ScenarioPlayer::beginsAgainAndGoesOn()
+{
+    begin(7);
+    m_player->begin();
+    QCOMPARE(step().id, 4);
+    m_session->receive(QStringLiteral("next"));
+    QCOMPARE(step().id, 7);
+    m_session->stop();
+    m_player->goOn();
+    QCOMPARE(step().id, 7);
+}
+
+void tst_ScenarioPlayer::aFileThatCannotBeReadIsRefused()
+{
+    begin(-1);
+    QSignalSpy refused(m_session.get(), &LessonSession::refused);
+    QVERIFY(QFile::remove(m_room->filePath(QStringLiteral("Harbor.js"))));
+    m_player->begin();
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused.constFirst().constFirst().toString(), QStringLiteral("Harbor"));
+    QVERIFY(!m_session->runner().isRunning());
+    QVERIFY(!m_problems.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioPlayer)

@@ -26,6 +26,10 @@ private Q_SLOTS:
     void theNextLessonIsOneThatCanBePlayed();
     void aLessonWhoseStateIsGoneBeginsAgainAndSaysSo();
     void whatIsWrongWithTheFilesIsTold();
+    void aLessonOfOnesOwnIsInTheList();
+    void aLessonOfOnesOwnIsNotAskedFor();
+    void aLessonOfOnesOwnGoesOnAfterTheCompanionsEnd();
+    void aLessonOfOnesOwnThatWasMendedIsNoLongerRefused();
 
 private:
     void play(const QString &lesson);
@@ -33,10 +37,16 @@ private:
     void goTo(int step);
     /// As if the editor had been closed and opened again.
     void nextRun();
+    /// The person has a lesson of her own, which m_ownPlays has each time that it was begun: whether it went
+    /// on.
+    void setOwn(const QString &lesson);
 
     QTemporaryDir m_folder;
     std::unique_ptr<SessionOfLessons> m_lessons;
     std::unique_ptr<LessonCourse> m_course;
+    QVector<bool> m_ownPlays;
+    /// Its text; nothing can be played while that is empty.
+    QString m_own;
 };
 
 void tst_LessonCourse::init()
@@ -220,6 +230,67 @@ void tst_LessonCourse::whatIsWrongWithTheFilesIsTold()
     m_lessons->list();
     m_lessons->list();
     QCOMPARE(problems.size(), 1);
+}
+
+void tst_LessonCourse::setOwn(const QString &lesson)
+{
+    m_ownPlays.clear();
+    m_own = QStringLiteral(
+        R"(var scenario = [{"id":1,"condition":"click,"},{"id":2,"condition":"click,"},{"id":3}];)");
+    m_course->setOwnLesson(lesson, [this, lesson](bool goesOn) {
+        m_ownPlays.append(goesOn);
+        m_lessons->m_session.play(lesson, m_own, goesOn ? 2 : -1);
+    });
+}
+
+void tst_LessonCourse::aLessonOfOnesOwnIsInTheList()
+{
+    setOwn(QStringLiteral("Harbor"));
+    QCOMPARE(m_course->entries().size(), 4);
+    QCOMPARE(m_course->entries().constLast().numberedTitle(), QStringLiteral("Harbor"));
+    QVERIFY(m_course->entries().constLast().canBePlayed());
+    // In the place of the one with its name, also where that is not there yet.
+    setOwn(m_lessons->unwritten());
+    QCOMPARE(m_course->entries().size(), 3);
+    QVERIFY(m_course->entries().at(1).canBePlayed());
+}
+
+void tst_LessonCourse::aLessonOfOnesOwnIsNotAskedFor()
+{
+    setOwn(m_lessons->last());
+    m_lessons->m_sent.clear();
+    m_course->begin(m_lessons->last());
+    QCOMPARE(m_lessons->stepId(), 1);
+    m_lessons->m_session.skipStep();
+    m_course->leave();
+    m_course->goOn(m_lessons->last());
+    QCOMPARE(m_lessons->stepId(), 2);
+    QCOMPARE(m_ownPlays, (QVector<bool>{false, true}));
+    QCOMPARE(m_lessons->asked(m_lessons->last()), 0);
+    m_course->begin(m_lessons->first());
+    QCOMPARE(m_lessons->asked(m_lessons->first()), 1);
+}
+
+void tst_LessonCourse::aLessonOfOnesOwnGoesOnAfterTheCompanionsEnd()
+{
+    setOwn(QStringLiteral("Harbor"));
+    m_lessons->m_session.play(QStringLiteral("Harbor"), m_own, -1); // nobody has chosen it
+    m_lessons->m_session.abandon();
+    QCOMPARE(m_course->wanted(), QStringLiteral("Harbor"));
+    m_course->ask();
+    QCOMPARE(m_ownPlays, QVector<bool>{true});
+    m_course->leave();
+    QCOMPARE(m_course->wanted(), QString());
+}
+
+void tst_LessonCourse::aLessonOfOnesOwnThatWasMendedIsNoLongerRefused()
+{
+    setOwn(QStringLiteral("Harbor"));
+    const QString mended = std::exchange(m_own, QString());
+    m_course->begin(QStringLiteral("Harbor"));
+    QVERIFY(!m_course->entry(QStringLiteral("Harbor")).canBePlayed());
+    m_lessons->m_session.play(QStringLiteral("Harbor"), mended, -1);
+    QVERIFY(m_course->entry(QStringLiteral("Harbor")).canBePlayed());
 }
 
 QTEST_GUILESS_MAIN(tst_LessonCourse)
