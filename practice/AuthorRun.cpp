@@ -62,6 +62,9 @@ private:
     {
         if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
             const auto *const mouse = static_cast<QMouseEvent *>(event);
+            if ((mouse->flags() & Qt::MouseEventCreatedDoubleClick) != 0) {
+                return; // the second press of a double click, which comes as one by itself
+            }
             const bool isSecond = event->type() == QEvent::MouseButtonDblClick;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
             const QPoint place = mouse->globalPosition().toPoint();

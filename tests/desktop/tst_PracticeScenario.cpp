@@ -34,6 +34,12 @@ QByteArray catalogue(const QStringList &hints)
         .toUtf8();
 }
 
+/// A key of the real keyboard, in the words of xdotool.
+void press(const char *key)
+{
+    XWindows::run(QStringLiteral("xdotool"), {QStringLiteral("key"), QString::fromLatin1(key)});
+}
+
 } // namespace
 
 /// An author's scenario file from disk, played with the real companion.
@@ -46,6 +52,7 @@ private Q_SLOTS:
     void isStartedAgain();
     void goesOnWhenTheCompanionHasDied();
     void keysAreRecorded();
+    void aDoubleClickIsRecordedAsOneStep();
 
 private:
     void write(const QString &fileName, const QByteArray &text) const;
@@ -53,10 +60,14 @@ private:
     void startWith(const QString &option);
     /// Plays a lesson of three steps, and goes on to the second.
     void playToTheSecond();
+    /// Starts the editor so that it records; what it has written so far is in recorded().
+    void startRecording();
+    [[nodiscard]] QByteArray recorded() const;
     /// Presses the first button of the question that comes up.
     void accept(const char *question);
 
     QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_room;
     qint64 m_companion = 0;
 };
 
@@ -164,21 +175,31 @@ void tst_PracticeScenario::goesOnWhenTheCompanionHasDied()
     QCOMPARE(stripText()->text(), QStringLiteral("Two"));
 }
 
-void tst_PracticeScenario::keysAreRecorded()
+void tst_PracticeScenario::startRecording()
 {
-    const QString scenario = m_folder.filePath(QStringLiteral("Recorded.js"));
-    startWith(QStringLiteral("--record=") + scenario);
+    m_room = std::make_unique<QTemporaryDir>();
+    startWith(QStringLiteral("--record=") + m_room->filePath(QStringLiteral("Recorded.js")));
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     const auto hasFocus = [this] {
         return XWindows::activeWindow() == mainWindow()->winId();
     };
     QTRY_VERIFY_WITH_TIMEOUT(hasFocus(), kSoonMs);
-    const auto press = [](const char *key) {
-        XWindows::run(QStringLiteral("xdotool"), {QStringLiteral("key"), QString::fromLatin1(key)});
-    };
-    const auto recorded = [&scenario] {
-        QFile file(scenario);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
+}
+
+QByteArray tst_PracticeScenario::recorded() const
+{
+    QFile file(m_room->filePath(QStringLiteral("Recorded.js")));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void tst_PracticeScenario::keysAreRecorded()
+{
+    startRecording();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     auto *const tiles = contents()->findChild<QWidget *>(QStringLiteral("tiles"));
     QVERIFY(tiles != nullptr);
     tiles->setFocus();
@@ -193,6 +214,28 @@ void tst_PracticeScenario::keysAreRecorded()
     for (const char *condition : {"list,1", "windowState,NewProject,open", "windowState,NewProject,close"}) {
         QVERIFY2(recorded().contains(condition), recorded().constData());
     }
+}
+
+void tst_PracticeScenario::aDoubleClickIsRecordedAsOneStep()
+{
+    startRecording();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
+    Project *const project = m_windows->project();
+    project->run(QStringLiteral("newProject.create"), project->files());
+    const ControlSpot map{QStringLiteral("MapEditTreeBox"), QStringLiteral("maps"), 0};
+    std::optional<QRect> row;
+    QTRY_VERIFY_WITH_TIMEOUT((row = m_windows->rectOf(map)), kSoonMs);
+    QTRY_VERIFY_WITH_TIMEOUT(XWindows::takesClick(mainWindow()->winId(), row->center()), kSoonMs);
+    XWindows::run(QStringLiteral("xdotool"),
+                  {QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+                   QStringLiteral("--delay"), QStringLiteral("50"), QStringLiteral("1")});
+    QTRY_VERIFY_WITH_TIMEOUT(m_windows->openWindows().contains(QStringLiteral("MapProperties")), kSoonMs);
+    press("Escape"); // what was done before is done
+    QTRY_VERIFY_WITH_TIMEOUT(recorded().contains("\"windowState,MapProperties,open\""), kSoonMs);
+    QCOMPARE(recorded().count("\"condition\""), 1);
+    QVERIFY2(recorded().contains("\"doubleClick\""), recorded().constData());
 }
 
 QTEST_MAIN(tst_PracticeScenario)
