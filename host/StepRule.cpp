@@ -44,14 +44,13 @@ bool StepRule::cameFromPointed(const EditorEvent &event) const
     if (event.cause.isLike(*m_pointed)) {
         return true;
     }
-    if (event.cause.control != ControlSpot::dismiss()) {
-        return false;
-    }
-    // The escape key stands for the button that does the same.
+    // The escape key stands for the button that does the same, and so does a double click on a row.
     const Ways ways = m_editor->ways();
     const std::optional<Way> asked = closingWay(ways, *m_pointed, event.target);
     const std::optional<Way> used = closingWay(ways, event.cause, event.target);
-    return asked && used && asked->drops == used->drops;
+    const bool isShortcut = event.cause.control == ControlSpot::dismiss() ||
+                            (used && used->icon == QLatin1String("doubleClick") && !used->drops);
+    return isShortcut && asked && used && asked->drops == used->drops;
 }
 
 bool StepRule::isDismissal(const EditorEvent &event) const

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void aFieldToTypeIntoIsClosedByAnythingButADismissal_data();
     void aFieldToTypeIntoIsClosedByAnythingButADismissal();
     void escStandsForTheButtonThatDropsToo();
+    void aDoubleClickOnARowStandsForTheButtonThatKeepsToo_data();
+    void aDoubleClickOnARowStandsForTheButtonThatKeepsToo();
     void aDragIsWhatTheHintAsksFor_data();
     void aDragIsWhatTheHintAsksFor();
     void theEndOfAPressBelongsToItsStep();
@@ -144,6 +146,38 @@ void tst_WhatCounts::escStandsForTheButtonThatDropsToo()
         played.editor.close(key);
         QCOMPARE(played.id(), pointed == cancel ? 2 : 1);
     }
+}
+
+void tst_WhatCounts::aDoubleClickOnARowStandsForTheButtonThatKeepsToo_data()
+{
+    QTest::addColumn<QString>("pointed");
+    QTest::addColumn<QString>("used");
+    QTest::addColumn<bool>("counts");
+    const QString ok = QStringLiteral("ok");
+    QTest::newRow("a row for OK") << ok << QStringLiteral("rows") << true;
+    QTest::newRow("a row for Cancel") << QStringLiteral("cancel") << QStringLiteral("rows") << false;
+    QTest::newRow("another button for OK") << ok << QStringLiteral("begin") << false;
+}
+
+void tst_WhatCounts::aDoubleClickOnARowStandsForTheButtonThatKeepsToo()
+{
+    QFETCH(QString, pointed);
+    QFETCH(QString, used);
+    QFETCH(bool, counts);
+    const QString key = QStringLiteral("Chooser");
+    const auto closing = [&key](const char *control, const char *icon, bool drops) {
+        return Way{
+            Played::spot("Chooser", control), QString::fromLatin1(icon), key, Way::Does::kCloses, key, drops};
+    };
+    Played played;
+    played.editor.m_ways = {closing("ok", "click", false), closing("cancel", "click", true),
+                            closing("begin", "click", false), closing("rows", "doubleClick", false)};
+    played.editor.m_controls.insert(key, {key, pointed});
+    played.editor.open(key);
+    played.play({Played::item(1, "Chooser", "windowState,Chooser,close"), QStringLiteral(R"("id":2)")});
+    played.editor.m_cause = {key, used, 3};
+    played.editor.close(key);
+    QCOMPARE(played.id(), counts ? 2 : 1);
 }
 
 void tst_WhatCounts::aDragIsWhatTheHintAsksFor_data()
