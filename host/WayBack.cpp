@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -58,13 +59,22 @@ WayBack::WayBack(Ways ways)
     : m_ways(std::move(ways))
 {
     for (int i = 0; i < m_ways.size(); ++i) {
+        const Way &its = m_ways.at(i);
         const auto isIt = [&](const Use &use) {
             const Way &way = m_ways.at(use.main);
-            return way.isSameUse(m_ways.at(i)) && way.from == m_ways.at(i).from;
+            return way.isSameUse(its) && way.from == its.from;
         };
         const auto use = std::find_if(m_uses.begin(), m_uses.end(), isIt);
         if (use == m_uses.end()) {
             m_uses.append({{i}, i});
+            continue;
+        }
+        if (isAnother(its, *use)) {
+            Use other{{}, i};
+            std::copy_if(use->ways.cbegin(), use->ways.cend(), std::back_inserter(other.ways),
+                         [this](int index) { return m_ways.at(index).does == Way::Does::kCloses; });
+            other.ways.append(i);
+            m_uses.append(other);
             continue;
         }
         use->ways.append(i);
@@ -72,6 +82,13 @@ WayBack::WayBack(Ways ways)
             use->main = i;
         }
     }
+}
+
+bool WayBack::isAnother(const Way &way, const Use &use) const
+{
+    const bool comesUp = way.does == Way::Does::kOpens || way.does == Way::Does::kPopsUp;
+    return comesUp && std::any_of(use.ways.cbegin(), use.ways.cend(),
+                                  [&](int index) { return m_ways.at(index).does == way.does; });
 }
 
 std::optional<OpenWindows> WayBack::after(const Use &use, const OpenWindows &open) const

@@ -29,6 +29,9 @@ private:
         int main = 0;
     };
 
+    /// Whether the way is one or the other with those of the use, as a double click on a row that opens
+    /// another window for another row.
+    [[nodiscard]] bool isAnother(const Way &way, const Use &use) const;
     [[nodiscard]] std::optional<OpenWindows> after(const Use &use, const OpenWindows &open) const;
 
     Ways m_ways;

@@ -54,6 +54,8 @@ private Q_SLOTS:
     void findsTheFirstUse_data();
     void findsTheFirstUse();
     void knowsHowTheWindowHasToComeUp();
+    void aUseThatOpensOneOrTheOtherLeadsToEach_data();
+    void aUseThatOpensOneOrTheOtherLeadsToEach();
     void endsWhereWaysGoRoundForEver();
 };
 
@@ -118,6 +120,30 @@ void tst_WayBack::knowsHowTheWindowHasToComeUp()
     QVERIFY(!search.first(wanted, isThere));
     now.last().cause = ControlSpot();
     QVERIFY(!search.first(now, isThere));
+}
+
+void tst_WayBack::aUseThatOpensOneOrTheOtherLeadsToEach_data()
+{
+    QTest::addColumn<QString>("window");
+    QTest::newRow("the first") << QStringLiteral("Command");
+    QTest::newRow("the second") << QStringLiteral("Choice");
+    QTest::newRow("the first menu") << QStringLiteral("EventPopup");
+    QTest::newRow("the second menu") << QStringLiteral("MapPopup");
+}
+
+void tst_WayBack::aUseThatOpensOneOrTheOtherLeadsToEach()
+{
+    QFETCH(QString, window);
+    const Ways ways{way("commands", "Main", Does::kOpens, "Command", "doubleClick"),
+                    way("commands", "Main", Does::kOpens, "Choice", "doubleClick"),
+                    way("commands", "Main", Does::kPopsUp, "EventPopup", "rightClick"),
+                    way("commands", "Main", Does::kPopsUp, "MapPopup", "rightClick")};
+    const QString main = QStringLiteral("Main");
+    const std::optional<Way> first = WayBack(ways).first(open({main}), [&](const OpenWindows &windows) {
+        return windows.size() == 2 && windows.constLast().name == window;
+    });
+    QVERIFY(first);
+    QCOMPARE(first->windowKey, window);
 }
 
 void tst_WayBack::endsWhereWaysGoRoundForEver()
