@@ -49,7 +49,7 @@ public:
     {
         // When a window moves, its own screen() is told of it later.
         const QScreen *screen = QApplication::screenAt(m_main.geometry().center());
-        return (screen ? screen : QApplication::primaryScreen())->geometry();
+        return (screen != nullptr ? screen : QApplication::primaryScreen())->geometry();
     }
     QSize applicationSize() const override { return m_main.size(); }
 
