@@ -209,8 +209,7 @@ void LessonStrip::tell(const QString &text)
     m_text->setText(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     // What does not fit can be read here.
     m_text->setToolTip(text);
-    QAccessibleEvent changed(m_text, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&changed);
+    // The label has told by itself that its name is another one.
     QAccessibleEvent alert(m_text, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
