@@ -62,6 +62,8 @@ public:
     /// Passes on what a control did: called by the controls. @p screenPosition is where the mouse was.
     void report(const QString &type, const QString &target, const QString &value,
                 const ControlSpot &cause = {});
+    /// Passes on that a control was used of which no event tells.
+    void tellUse(const ControlSpot &cause) { Q_EMIT asked({}, {}, cause); }
     /// Whether all of these hold at present.
     [[nodiscard]] bool meets(const QVector<ControlRequirement> &requirements) const;
     /// What happens at present when a control does @p action: itself, what it has in its place, or nothing.

@@ -65,6 +65,9 @@ ControlMaker readList(ControlReader &reader)
         QObject::connect(list, &RowList::rowChosen, window, [window, name = description.name](int row) {
             window->report(QStringLiteral("list"), QString::number(row), QString(), window->spot(name, row));
         });
+        QObject::connect(list, &RowList::rowTaken, window, [window, name = description.name](int row) {
+            window->tellUse(window->spot(name, row));
+        });
         QObject::connect(list, &RowList::rowOpened, window,
                          [act, action = description.doubleClick] { act(action, QCursor::pos()); });
         QObject::connect(list, &RowList::menuRequested, window,

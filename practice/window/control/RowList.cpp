@@ -26,8 +26,10 @@ RowList::RowList(EditorWindow *window, MapPainter *painter, Settings settings)
     setIconSize({kTilePixels, kTilePixels});
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QListWidget::currentRowChanged, this, &RowList::onCurrentRowChanged);
-    connect(this, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem *item) { Q_EMIT rowChosen(row(item)); });
+    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        m_knownRow = row(item);
+        Q_EMIT rowChosen(m_knownRow);
+    });
     connect(this, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem *item) { Q_EMIT rowOpened(row(item)); });
 }
@@ -81,9 +83,19 @@ void RowList::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void RowList::mousePressEvent(QMouseEvent *event)
+{
+    m_knownRow = currentRow();
+    QListWidget::mousePressEvent(event);
+}
+
 void RowList::mouseReleaseEvent(QMouseEvent *event)
 {
     QListWidget::mouseReleaseEvent(event);
+    if (currentRow() != m_knownRow) {
+        m_knownRow = currentRow();
+        Q_EMIT rowTaken(m_knownRow);
+    }
     if (event->button() == Qt::RightButton && viewport()->rect().contains(event->pos())) {
         Q_EMIT menuRequested(event->globalPos());
     }

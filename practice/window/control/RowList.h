@@ -38,6 +38,9 @@ public:
 Q_SIGNALS:
     /// The person chose a row with mouse or keyboard, also when it was the selected one already.
     void rowChosen(int row);
+    /// Another row is the current one by something else that was done with the mouse: a click of another
+    /// button than the left one, or drawing it over the rows.
+    void rowTaken(int row);
     /// A row was clicked twice, or the return key was pressed on it.
     void rowOpened(int row);
     /// The right button was clicked; @p position in global screen pixels. The row under it is selected by
@@ -51,6 +54,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
@@ -63,4 +67,7 @@ private:
     MapPainter *m_painter;
     Settings m_settings;
     QVector<Row> m_rows;
+    /// The row that was chosen with the mouse last, or that was the current one when a button of it went
+    /// down.
+    int m_knownRow = -1;
 };

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void rowsAreToldEvenWhenSelectedAlready();
     void rowsAreToldFromTheKeyboard();
     void rightClickSelectsWithoutTellingARow();
+    void aRowThatIsTakenWithoutAClickIsToldAsAUse();
     void tabsAreToldEvenWhenCurrentAlready();
     void mapTellsPressThenClick();
     void mapPaintsWithEachTool_data();
@@ -111,6 +112,37 @@ void tst_EditorControls::rightClickSelectsWithoutTellingARow()
     editor.clickRow("MapEditTreeBox", "maps", 3, Qt::RightButton);
     QCOMPARE(editor.takeTold(), (QStringList{str("push Popup"), str("popup,MapPopup, in Menu")}));
     QCOMPARE(editor.shownMap()->name, str("Oasis"));
+}
+
+void tst_EditorControls::aRowThatIsTakenWithoutAClickIsToldAsAUse()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("MapLoader"));
+    editor.takeTold();
+    QVector<ControlSpot> used;
+    QObject::connect(editor.operator->(), &EditorWindows::used, editor.operator->(),
+                     [&used](const ControlSpot &spot) { used.append(spot); });
+    const auto spot = [](int row) {
+        return ControlSpot{str("MapLoader"), str("sampleMaps"), row};
+    };
+    editor.clickRow("MapLoader", "sampleMaps", 2, Qt::RightButton);
+    QCOMPARE(used, QVector<ControlSpot>{spot(2)});
+    editor.clickRow("MapLoader", "sampleMaps", 2, Qt::RightButton);
+    QCOMPARE(used, QVector<ControlSpot>{spot(2)});
+
+    auto *list = editor.find<RowList>("MapLoader", "sampleMaps");
+    const auto middle = [list](int row) {
+        return list->visualItemRect(list->item(row)).center();
+    };
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, middle(0));
+    QMouseEvent move(QEvent::MouseMove, middle(1), list->viewport()->mapToGlobal(middle(1)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &move);
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, middle(1));
+    QCOMPARE(list->currentRow(), 1);
+    QCOMPARE(used, (QVector<ControlSpot>{spot(2), spot(1)}));
+    QCOMPARE(editor.takeTold(), QStringList());
 }
 
 void tst_EditorControls::tabsAreToldEvenWhenCurrentAlready()
