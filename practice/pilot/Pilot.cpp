@@ -281,6 +281,9 @@ void Pilot::watch()
     if (m_sinceDone.isValid() && !m_sinceDone.hasExpired(kSeenMs * m_settings.speed)) {
         return;
     }
+    if (foldsUp()) {
+        return;
+    }
     std::optional<ActionPlan> plan = isLost() ? returning() : planned();
     if (plan && !isLost() && m_isPressLeft) {
         plan->actions = plan->actions.mid(plan->actions.size() - 1);
@@ -293,6 +296,17 @@ void Pilot::watch()
     } else if (!err(*plan) && takeShot(QStringLiteral("id%1").arg(m_session->runner().step().id))) {
         begin(*plan, Intent::kStep);
     }
+}
+
+bool Pilot::foldsUp()
+{
+    const Action escape{Action::Kind::kEscape, {}, 0, {}, 0};
+    const bool hasTried = !m_plan.actions.isEmpty() && m_plan.actions.constFirst().kind == escape.kind;
+    if (m_intent != Intent::kMistake || hasTried || !m_eye->seesList()) {
+        return false;
+    }
+    begin({{}, {escape}, 0}, Intent::kMistake);
+    return true;
 }
 
 bool Pilot::isLost() const

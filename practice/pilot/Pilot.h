@@ -98,6 +98,8 @@ private:
     void onLimit();
     void watch();
     /// A beginner has left the way of the step.
+    /// Whether it now closes a list that a mistake has dropped down: that may cover what comes next.
+    bool foldsUp();
     [[nodiscard]] bool isLost() const;
     /// What is to be done as things are seen; nothing as long as they are not ready for it.
     [[nodiscard]] std::optional<ActionPlan> planned() const;

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void followsTheArrowBack();
     void putsBackWhatWentWrong();
     void clicksAgainWhereNoListDropsDown();
+    void foldsUpWhatAMistakeHasUnfolded();
     void isBrokenWhereNothingLeadsBack();
 
 private:
@@ -69,6 +70,7 @@ void tst_Beginner::init()
     m_settings = {};
     m_settings.title = QStringLiteral("lesson 1 (en_US, yes)");
     m_settings.isBeginner = true;
+    m_scene.hasList = false;
 }
 
 void tst_Beginner::cleanup()
@@ -221,9 +223,24 @@ void tst_Beginner::putsBackWhatWentWrong()
                           QStringLiteral("a click at (138, 302)")}));
 }
 
+void tst_Beginner::foldsUpWhatAMistakeHasUnfolded()
+{
+    m_scene.perform = [this](const Action &action) {
+        m_scene.hasList = m_scene.acts.size() == 1;
+        if (action.place == QPoint(138, 302)) {
+            soon([this] { m_editor->report(QStringLiteral("list"), QStringLiteral("2")); });
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kFirst});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
+    QCOMPARE(*m_failures, QStringList());
+    QCOMPARE(done(), (QStringList{QStringLiteral("a click at (138, 328)"), QStringLiteral("Esc"),
+                                  QStringLiteral("a click at (138, 302)")}));
+}
+
 void tst_Beginner::clicksAgainWhereNoListDropsDown()
 {
-    m_scene.hasList = false;
     m_scene.perform = [this](const Action &action) {
         const int acts = int(m_scene.acts.size());
         soon([this, acts, action] {
