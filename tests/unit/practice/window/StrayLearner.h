@@ -92,10 +92,40 @@ public:
         return id() != before;
     }
 
-    /// Anything at all that a person can do with mouse and keyboard.
-    void doAnything()
+    /// The project's data files, as they would be with what the open dialogs hold.
+    [[nodiscard]] QJsonObject data()
+    {
+        const QString member = str("files");
+        const QJsonObject state = m_editor->state().toJson();
+        const auto filesOf = [&member](const QJsonValue &roots) {
+            return roots.toObject().value(member).toObject();
+        };
+        QJsonObject files = filesOf(state.value(str("project")).toObject().value(member));
+        const QJsonArray windows = state.value(str("windows")).toArray();
+        for (const QJsonValue &window : windows) {
+            const QJsonObject layer = window.toObject().value(str("layer")).toObject();
+            const QJsonObject draft = filesOf(layer.value(str("draft")));
+            for (auto file = draft.begin(); file != draft.end(); ++file) {
+                files.insert(file.key(), file.value());
+            }
+        }
+        return files;
+    }
+
+    /// Something that the step does not ask for, and that the editor can know to be wrong: nothing is typed.
+    void doAnythingWrong()
+    {
+        const std::optional<ControlSpot> pointed = m_editor->controlFor(session.runner().step());
+        doAnything([&pointed](const ControlUse &use) {
+            return use.kind != ControlUse::Kind::kType && !(pointed && use.spot.isSameControl(*pointed));
+        });
+    }
+
+    /// Anything at all that a person can do with mouse and keyboard, of what @p isMeant admits.
+    void doAnything(const std::function<bool(const ControlUse &)> &isMeant = {})
     {
         if (draw(12) == 0) {
+            m_log.append(str("Esc"));
             pressEsc();
             turn();
             return;
@@ -111,6 +141,12 @@ public:
         ControlUse use{
             spots.at(draw(int(spots.size()))), kinds.at(draw(int(kinds.size()))), {}, draw(3) == 0};
         use.text = draw(2) == 0 ? QString() : str("stray");
+        if (isMeant && !isMeant(use)) {
+            return;
+        }
+        if (isMeant) {
+            m_log.append(str("%1 %2").arg(int(use.kind)).arg(nameOf(use.spot)));
+        }
         m_editor->perform(use);
         turn();
     }
@@ -138,6 +174,18 @@ public:
             m_log.append(way ? way->icon + QLatin1Char(' ') + nameOf(way->by) : str("put back or wait"));
         }
         return false;
+    }
+
+    /// Follows the arrow, and puts back whatever is offered to be put back.
+    void putsBackAll()
+    {
+        for (int times = 0; times < kMostAttempts && followsTheArrow(); ++times) {
+            if (!isPlaying() || !session.canPutBack()) {
+                return;
+            }
+            session.putBack();
+            m_log.append(str("put back"));
+        }
     }
 
     /// Follows the arrow up to a step that asks for something, and does that. Whatever has gone wrong may
@@ -189,7 +237,7 @@ public:
                  QStringList(m_editor.told.mid(qMax(0, int(m_editor.told.size()) - 12))).join(str("; ")));
     }
 
-    /// What the arrow has said.
+    /// What the arrow has said, and what was done wrong.
     [[nodiscard]] QString log() const { return m_log.join(str("; ")); }
 
 private:

@@ -1,4 +1,5 @@
 #include "StrayLearner.h"
+#include "host/JsonChange.h"
 
 #include <QDirIterator>
 #include <QSet>
@@ -9,6 +10,9 @@
 namespace {
 
 constexpr int kActs = 100;
+
+/// How often something wrong is done in a step, and put back: once, twice and three times in a row.
+constexpr int kWrongs = 3;
 
 /// Of a lesson, of the same where she says no, and of a trial of one window, which are many.
 constexpr int kStepsOfLesson = 2;
@@ -109,9 +113,10 @@ QVector<QJsonObject> drawn(QVector<QJsonObject> bookmarks, int count, quint32 se
 } // namespace
 
 /// A learner who does a hundred things at random, and then follows the arrow until she has done something
-/// again: from a few steps of each lesson and trial. In the environment TUTORIAL_STRAY_FROM_ALL strays from
-/// all steps of all lessons and trials, TUTORIAL_SEED draws other steps and other things to do,
-/// TUTORIAL_STRAY_IN is a folder with other scenarios, and TUTORIAL_STRAY_SHARE takes one in so many of them:
+/// again; and one who does something wrong, and puts back what she is offered to put back: from a few steps
+/// of each lesson and trial. In the environment TUTORIAL_STRAY_FROM_ALL strays from all steps of all lessons
+/// and trials, TUTORIAL_SEED draws other steps and other things to do, TUTORIAL_STRAY_IN is a folder with
+/// other scenarios, and TUTORIAL_STRAY_SHARE takes one in so many of them:
 ///
 ///     TUTORIAL_STRAY_FROM_ALL=1 TUTORIAL_SEED=22 build/release/tests/tst_StrayLearner
 ///     everyStepIsReachedAgain
@@ -125,6 +130,8 @@ private Q_SLOTS:
     void theEditorDoesEveryStepByItself();
     void everyStepIsReachedAgain_data();
     void everyStepIsReachedAgain();
+    void nothingWrongStaysThatWasPutBack_data();
+    void nothingWrongStaysThatWasPutBack();
 
 private:
     /// What is left of somebody who makes no mistake.
@@ -133,6 +140,8 @@ private:
         QTemporaryDir games;
         /// At the steps to stray from.
         QVector<QJsonObject> bookmarks;
+        /// The project at each step, by its id.
+        QMap<int, QJsonObject> data;
         /// She has come to the end.
         bool isWhole = false;
     };
@@ -176,6 +185,7 @@ void tst_StrayLearner::playPerfectly()
     int count = 0;
     while (learner.isPlaying()) {
         const int id = learner.id();
+        perfect.data.insert(id, learner.data());
         if (!learner.isWaiting() && !known.contains(id)) {
             bookmarks.append(learner.session.bookmark());
         }
@@ -226,6 +236,45 @@ void tst_StrayLearner::everyStepIsReachedAgain()
         QVERIFY2(learner.goesOn(), qPrintable(where + str(": ") + learner.state() + learner.log()));
     }
     qInfo("strayed from %d steps", int(perfect.bookmarks.size()));
+}
+
+void tst_StrayLearner::nothingWrongStaysThatWasPutBack_data()
+{
+    addLessons();
+}
+
+void tst_StrayLearner::nothingWrongStaysThatWasPutBack()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, answersYes);
+    qInfo("TUTORIAL_SEED=%u", seed());
+    if (!m_perfect[QTest::currentDataTag()].isWhole) {
+        m_perfect.erase(QTest::currentDataTag());
+        playPerfectly();
+    }
+    const Perfect &perfect = m_perfect[QTest::currentDataTag()];
+    if (!perfect.isWhole) {
+        return; // that was told
+    }
+    for (const QJsonObject &bookmark : perfect.bookmarks) {
+        const int id = bookmark.value(str("step")).toInt();
+        for (int wrongs = 1; wrongs <= kWrongs; ++wrongs) {
+            StrayLearner learner(path, seed() + quint32(id * kWrongs + wrongs), perfect.games.path(),
+                                 answersYes);
+            learner.begin(bookmark);
+            for (int wrong = 0; wrong < wrongs && learner.isPlaying(); ++wrong) {
+                learner.doAnythingWrong();
+            }
+            learner.putsBackAll();
+            if (learner.id() == id) {
+                const QJsonObject change = JsonChange::between(perfect.data.value(id), learner.data());
+                QVERIFY2(change.isEmpty(),
+                         qPrintable(str("seed %1, at step %2: %3; %4")
+                                        .arg(QString::number(seed()), QString::number(id), learner.log(),
+                                             QString::fromUtf8(QJsonDocument(change).toJson()).left(600))));
+            }
+        }
+    }
 }
 
 QTEST_MAIN(tst_StrayLearner)
