@@ -1,12 +1,28 @@
 #include "window/SecondClick.h"
 
+#include "window/EditorWindow.h"
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPushButton>
 
 namespace {
 
 /// How far apart the two clicks of a double click may be, in pixels.
 constexpr int kNear = 6;
+
+/// The property of a button that is for clicking it again and again.
+const char *const kRepeats = "repeats";
+
+/// Whether one click is all that this is for.
+bool isForOneClick(const QObject *watched)
+{
+    const auto *const button = qobject_cast<const QAbstractButton *>(watched);
+    return button != nullptr && qobject_cast<const EditorWindow *>(button->parentWidget()) != nullptr &&
+           !button->property(kRepeats).toBool() &&
+           (button->isCheckable() || qobject_cast<const QPushButton *>(button) != nullptr);
+}
 
 } // namespace
 
@@ -14,6 +30,11 @@ SecondClick::SecondClick(QObject *parent)
     : QObject(parent)
 {
     qApp->installEventFilter(this);
+}
+
+void SecondClick::setRepeats(QPushButton *button, bool repeats)
+{
+    button->setProperty(kRepeats, repeats);
 }
 
 void SecondClick::begin()
@@ -41,7 +62,7 @@ bool SecondClick::eventFilter(QObject *watched, QEvent *event)
     }
     const QPoint place = static_cast<QMouseEvent *>(event)->globalPos();
     if (isPress) {
-        m_holds = isSecond(place);
+        m_holds = isSecond(place) || (event->type() == QEvent::MouseButtonDblClick && isForOneClick(watched));
         if (!m_holds) {
             end();
         }

@@ -4,8 +4,11 @@
 #include <QObject>
 #include <QPoint>
 
-/// Keeps the second click of a double click from what comes to light when the first one has closed a window
-/// or a context menu: who double-clicks OK does not mean to paint on the map below.
+class QPushButton;
+
+/// Keeps the second click of a double click from doing harm. It does not reach what comes to light when the
+/// first one has closed a window or a context menu: who double-clicks OK does not mean to paint on the map
+/// below. And it does nothing to a button or check box: who double-clicks Add does not mean to add two.
 class SecondClick : public QObject
 {
     Q_OBJECT
@@ -18,6 +21,10 @@ public:
     void begin();
     /// Something else has happened since, so a click is a new one.
     void end() { m_since.invalidate(); }
+
+    /// The button is for clicking it again and again, as fast as one can. Tool buttons are, unless they have
+    /// two states.
+    static void setRepeats(QPushButton *button, bool repeats);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,5 +1,7 @@
 #include "window/control/ButtonControl.h"
 
+#include "window/SecondClick.h"
+
 #include <QPushButton>
 
 ControlMaker readButton(ControlReader &reader)
@@ -9,11 +11,13 @@ ControlMaker readButton(ControlReader &reader)
         reader.readAction();
     }
     const bool isDefault = reader.json().flag(QStringLiteral("default"));
-    return [label, isDefault, description = reader.description()](EditorWindow *window) {
+    const bool repeats = reader.json().flag(QStringLiteral("repeats"));
+    return [label, isDefault, repeats, description = reader.description()](EditorWindow *window) {
         auto *button = new QPushButton(label, window);
         if (isDefault) {
             window->setDefaultButton(button);
         }
+        SecondClick::setRepeats(button, repeats);
         wireClick(button, description, window);
         return button;
     };

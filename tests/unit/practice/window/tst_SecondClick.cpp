@@ -1,6 +1,11 @@
 #include "EditorFixture.h"
 #include "lesson/description/ControlSpots.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSignalSpy>
+
 /// Who double-clicks where one click is enough does no harm by it.
 class tst_SecondClick : public QObject
 {
@@ -13,6 +18,9 @@ private Q_SLOTS:
     void aClickElsewhereCounts();
     void aLaterClickCounts();
     void theSecondClickOnAnEntryIsDropped();
+    void aDoubleClickOnAButtonIsOneClick();
+    void aDoubleClickOnACheckBoxIsOneClick();
+    void aButtonForMoreClicksTakesThemAll();
 
 private:
     int m_interval = 0;
@@ -35,6 +43,19 @@ QPoint pressOk(Editor *editor)
     const QPoint below = editor->map()->mapFromGlobal(ok->mapToGlobal(ok->rect().center()));
     editor->click("MapProperties", "ok");
     return below;
+}
+
+/// As the window system tells it.
+void doubleClick(QWidget *widget)
+{
+    const QPoint middle = widget->rect().center();
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        const bool isUp = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, middle, widget->mapTo(widget->window(), middle), widget->mapToGlobal(middle),
+                          Qt::LeftButton, isUp ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
 }
 
 } // namespace
@@ -97,6 +118,55 @@ void tst_SecondClick::theSecondClickOnAnEntryIsDropped()
     QCOMPARE(editor.map()->markedCell(), marked);
     QTest::mouseClick(editor.map(), Qt::LeftButton, {}, below + QPoint(0, 2 * kCellPixels));
     QVERIFY(editor.map()->markedCell() != marked);
+}
+
+void tst_SecondClick::aDoubleClickOnAButtonIsOneClick()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    const auto *const actors = editor.find<RowList>("DatabaseMain", "actors");
+    const int before = actors->count();
+    auto *const add = editor.find<QPushButton>("DatabaseMain", "actorsAdd");
+    doubleClick(add);
+    QCOMPARE(actors->count(), before + 1);
+    QVERIFY(!add->isDown());
+    QTest::mouseClick(add, Qt::LeftButton);
+    QCOMPARE(actors->count(), before + 2);
+}
+
+void tst_SecondClick::aDoubleClickOnACheckBoxIsOneClick()
+{
+    Editor editor;
+    editor.openProject();
+    editor.click("MainWindow", "modeEvent");
+    QTest::mouseDClick(editor.map(), Qt::LeftButton, {}, QPoint(200, 200));
+    const auto *const box = editor.find<QCheckBox>("EventEditorMain", "through");
+    QVERIFY(!box->isChecked());
+    doubleClick(editor.find<QCheckBox>("EventEditorMain", "through"));
+    QVERIFY(box->isChecked());
+}
+
+void tst_SecondClick::aButtonForMoreClicksTakesThemAll()
+{
+    Editor editor;
+    editor.openProject();
+    editor.click("MainWindow", "modeEvent");
+    QTest::mouseDClick(editor.map(), Qt::LeftButton, {}, QPoint(200, 200));
+    auto *const kind = editor.find<QComboBox>("EventEditorMain", "moveType");
+    kind->setCurrentIndex(3);
+    Q_EMIT kind->activated(3);
+    editor.click("EventEditorMain", "route");
+    doubleClick(editor.find<QPushButton>("MovementRoute", "moveLeft"));
+    // With the "+" below them.
+    QCOMPARE(editor.find<RowList>("MovementRoute", "steps")->count(), 3);
+    editor->close(str("MovementRoute"));
+    editor->close(str("EventEditorMain"));
+    // So do tool buttons without a state.
+    auto *const zoom = editor.find<QAbstractButton>("MainWindow", "viewZoomOut");
+    QSignalSpy clicked(zoom, &QAbstractButton::clicked);
+    doubleClick(zoom);
+    QCOMPARE(clicked.count(), 2);
 }
 
 QTEST_MAIN(tst_SecondClick)
