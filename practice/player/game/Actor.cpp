@@ -196,7 +196,7 @@ void Actor::learn(int skill)
 
 int Actor::expOfLevel(int level)
 {
-    return 5 * level * (level - 1);
+    return 3 * level * (level - 1);
 }
 
 void Actor::changeExp(qint64 amount, const GameData &data)

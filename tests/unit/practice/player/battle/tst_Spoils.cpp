@@ -74,11 +74,11 @@ void tst_Spoils::everybodyWhoStandsGetsAllExpAndRises()
     Fighters fighters(*game.data, &game.state, game.data->troops.find(1));
     fighters.changeHp({false, 1}, -99);
     Spoils spoils;
-    spoils.exp = 30;
+    spoils.exp = 18;
     spoils.gold = 7;
     spoils.items = {{SlimeGame::kHerb, 2}};
     const QVector<Rise> rises = share(spoils, *game.data, fighters, &game.state);
-    // 10 points make level 2, and 30 level 3.
+    // 6 points make level 2, and 18 level 3.
     QCOMPARE(rises.size(), 1);
     QCOMPARE(rises.at(0).actor, 1);
     QCOMPARE(rises.at(0).from, 1);

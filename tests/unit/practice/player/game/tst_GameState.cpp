@@ -87,7 +87,7 @@ void tst_GameState::levelsComeAndGoWithExp()
     player::GameState state = player::GameState::begin(*entries, 1);
     player::Actor *const mila = state.actor(1, *entries);
     QCOMPARE(mila->maxHp(*entries), 40);
-    mila->changeExp(29, *entries);
+    mila->changeExp(17, *entries);
     QCOMPARE(mila->level, 2);
     QVERIFY(!mila->knows(2, *entries));
     mila->changeExp(1, *entries);
@@ -109,7 +109,7 @@ void tst_GameState::whatWasForgottenStaysForgotten()
     player::GameState state = player::GameState::begin(*entries, 1);
     player::Actor *const mila = state.actor(1, *entries);
     mila->forget(1);
-    mila->changeExp(29, *entries);
+    mila->changeExp(17, *entries);
     mila->changeExp(1, *entries);
     QCOMPARE(mila->level, 3);
     QCOMPARE(mila->skills, QVector<int>{2});
@@ -124,7 +124,7 @@ void tst_GameState::whatWasForgottenStaysForgotten()
     // No level more or less is no change.
     mila->changeExp(5, *entries);
     mila->changeLevel(0, *entries);
-    QCOMPARE(mila->exp, 35);
+    QCOMPARE(mila->exp, 23);
 }
 
 void tst_GameState::whoJoinsAnewBeginsAnew()

@@ -91,8 +91,8 @@ void tst_BattleScene::aBattleIsFoughtToItsVictory()
     QVERIFY(run.finish());
     QCOMPARE(run.results, QVector<int>({int(BattleOutcome::kWon)}));
     QCOMPARE(run.game.state().gold, 6);
-    // 24 points: level 2 begins with 10, level 3 with 30.
-    QCOMPARE(run.game.state().knownActor(1)->level, 2);
+    // 24 points: level 3 begins with 18, level 4 with 36.
+    QCOMPARE(run.game.state().knownActor(1)->level, 3);
 }
 
 void tst_BattleScene::aBattleThatIsLostSaysSo()

@@ -239,8 +239,8 @@ void addPartyAndActorRows()
         R"({"code":311,"indent":0,"parameters":[0,1,1,0,30,false]},{"code":312,"indent":0,"parameters":[0,1,1,0,9]},
         {"code":314,"indent":0,"parameters":[0,0]},{"code":121,"indent":0,"parameters":[1,1,0]})",
         "expect switch 1 on\nexpect hp 1 = 40\nexpect mp 1 = 10");
-    addRow("315 EXP, with a message", R"({"code":315,"indent":0,"parameters":[0,0,0,0,10,true]})",
-           "expect exp 1 = 10\nexpect level 1 = 2\nexpect message Mila");
+    addRow("315 EXP, with a message", R"({"code":315,"indent":0,"parameters":[0,0,0,0,6,true]})",
+           "expect exp 1 = 6\nexpect level 1 = 2\nexpect message Mila");
     addRow(
         "316 levels",
         R"({"code":316,"indent":0,"parameters":[0,1,0,0,2,false]},{"code":111,"indent":0,"parameters":[4,1,0,0,2,2,""]},
