@@ -4,6 +4,13 @@
 
 #include <utility>
 
+namespace {
+
+/// Far more steps than any lesson has.
+constexpr int kMostDoublings = 10;
+
+} // namespace
+
 LessonSession::LessonSession(HostEditor *editor, QObject *parent)
     : QObject(parent)
     , m_editor(editor)
@@ -118,9 +125,15 @@ void LessonSession::putBack()
 {
     if (m_guide.isLost() && canGoBack()) {
         const int lost = m_runner.step().id;
+        m_lostAgain = std::exchange(m_lostIn, lost) == lost ? m_lostAgain + 1 : 0;
         LessonHistory::Visit visit = m_history.goBackToGood();
-        if (std::exchange(m_lostIn, lost) == lost && m_history.canGoBack()) {
-            // From there it led to the same end: what is to be done otherwise was decided before.
+        // From there it led to the same end: what is to be done otherwise was decided before, and each time
+        // it is looked for twice as far back.
+        const int further = (1 << qMin(m_lostAgain, kMostDoublings)) - 1;
+        for (int step = 0; step < further && m_history.canGoBack(); ++step) {
+            visit = m_history.goBack();
+        }
+        while (further > 0 && passesByItself(visit.id) && m_history.canGoBack()) {
             visit = m_history.goBack();
         }
         goBackTo(visit);

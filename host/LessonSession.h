@@ -188,6 +188,8 @@ private:
     int m_reached = 0;
     /// Id of the step from which putBack() has led to an earlier one.
     std::optional<int> m_lostIn;
+    /// How often it has led away from that one again.
+    int m_lostAgain = 0;
     /// The step was shown by showMe() already.
     bool m_shown = false;
 };

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatIsGoneFromTheStartLeadsNowhere();
     void anotherProjectCountsWhereTheStepPointsNowhere();
     void whoIsLostAgainGoesBackFurther();
+    void whoIsLostAgainAndAgainGoesBackFurtherEachTime();
     void whatIsUsedInVainIsPutBack();
     void whatDoesAsItIsToldIsNotInVain();
     void aWayThatIsUsedInVainLeadsNowhere();
@@ -443,6 +444,29 @@ void tst_PutBack::whoIsLostAgainGoesBackFurther()
         QCOMPARE(played.id(), back);
         QVERIFY(!played.session.isAstray());
         QCOMPARE(played.editor.m_stack, QStringList{str("MainWindow")});
+    }
+}
+
+void tst_PutBack::whoIsLostAgainAndAgainGoesBackFurtherEachTime()
+{
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "enemy"));
+    played.editor.m_entries = 1;
+    QStringList items;
+    for (int id = 1; id < 8; ++id) {
+        items.append(Played::item(id, "MainWindow", "click,", "eye"));
+    }
+    items.append(Played::item(8, "MainWindow", "comboBox,enemy,1"));
+    played.play(items);
+    for (const int back : {7, 6, 4, 1}) {
+        while (played.id() < 8) {
+            played.session.next();
+            played.turn();
+        }
+        QTRY_VERIFY(played.session.isAstray());
+        played.session.putBack();
+        played.turn();
+        QCOMPARE(played.id(), back);
     }
 }
 
