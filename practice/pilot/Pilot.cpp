@@ -20,6 +20,8 @@ constexpr int kSeenMs = 150;
 // So often a beginner, or whoever cannot know, does again what came to nothing, and waits so long for it.
 constexpr int kMostTries = 3;
 constexpr int kTryMs = 2000;
+// So many ways back are gone in one step before something must be wrong with them.
+constexpr int kMostReturns = 20;
 // What is only slow has come by then: a press that comes twice passes two steps.
 constexpr int kPressTryMs = 8000;
 
@@ -100,6 +102,7 @@ void Pilot::onStepReached()
     Q_EMIT stepReached(runner.index() + 1, runner.scenario().size(), stepText());
     m_hasErred = false;
     m_tries = 0;
+    m_returns = 0;
     m_isPressLeft = false;
     m_sinceDone.invalidate();
     // So that what is there at the first look counts as just come.
@@ -291,7 +294,9 @@ void Pilot::watch()
     if (!plan || isTooSoon(*plan) || (plan->spot && !m_eye->takesClickAt(*plan->spot))) {
         return;
     }
-    if (isLost()) {
+    if (isLost() && ++m_returns > kMostReturns) {
+        breakStep(QStringLiteral("what leads back to the step has no effect"));
+    } else if (isLost()) {
         begin(*plan, Intent::kReturn);
     } else if (!err(*plan) && takeShot(QStringLiteral("id%1").arg(m_session->runner().step().id))) {
         begin(*plan, Intent::kStep);

@@ -167,6 +167,8 @@ private:
     QVector<int> m_questions;
     bool m_isPassing = false;
     /// In all of the play, and whether one of them in this step.
+    /// How often a way back was gone in this step.
+    int m_returns = 0;
     int m_mistakes = 0;
     bool m_hasErred = false;
     int m_tries = 0;

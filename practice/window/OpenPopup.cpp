@@ -67,6 +67,15 @@ void OpenPopup::takeAway()
     popup->setLayer(&popup->project().files());
 }
 
+void OpenPopup::takeAwayAgain(QWidget *widget)
+{
+    QWidget *const window = widget != nullptr ? widget->window() : nullptr;
+    if (window != nullptr && !window->isVisible() && window->windowType() == Qt::Tool) {
+        window->show();
+        window->hide();
+    }
+}
+
 QVector<QPushButton *> OpenPopup::entries() const
 {
     QVector<QPushButton *> entries;
@@ -146,6 +155,9 @@ void OpenPopup::takeKey(const QKeyEvent &event)
 bool OpenPopup::eventFilter(QObject *watched, QEvent *event)
 {
     if (m_popup == nullptr) {
+        if (event->type() == QEvent::MouseButtonPress) {
+            takeAwayAgain(qobject_cast<QWidget *>(watched));
+        }
         return QObject::eventFilter(watched, event);
     }
     switch (event->type()) {

@@ -37,6 +37,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// A window manager that is late shows a menu that has gone, unseen, and it takes the clicks.
+    static void takeAwayAgain(QWidget *widget);
     void takeAway();
     [[nodiscard]] QVector<QPushButton *> entries() const;
     /// Marks the entry that the return key chooses.

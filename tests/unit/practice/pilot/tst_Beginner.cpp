@@ -39,6 +39,7 @@ private Q_SLOTS:
     void clicksAgainWhereNoListDropsDown();
     void foldsUpWhatAMistakeHasUnfolded();
     void isBrokenWhereNothingLeadsBack();
+    void isBrokenWhereTheWayBackHasNoEffect();
 
 private:
     void begin(const QStringList &steps);
@@ -275,6 +276,23 @@ void tst_Beginner::isBrokenWhereNothingLeadsBack()
     begin({kFirst});
     QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), kSoonMs);
     QVERIFY2(m_failures->constFirst().contains(QStringLiteral("nothing that can be clicked leads back")),
+             qPrintable(m_failures->constFirst()));
+}
+
+void tst_Beginner::isBrokenWhereTheWayBackHasNoEffect()
+{
+    m_scene.perform = [this](const Action &) {
+        if (m_scene.acts.size() == 1) {
+            soon([this] {
+                m_editor->m_cause = kList;
+                m_editor->open(kProperties);
+            });
+        }
+        return Hand::Result::kDone;
+    };
+    begin({kFirst});
+    QTRY_VERIFY_WITH_TIMEOUT(m_failures.has_value(), 2 * kSoonMs);
+    QVERIFY2(m_failures->constFirst().contains(QStringLiteral("what leads back to the step has no effect")),
              qPrintable(m_failures->constFirst()));
 }
 

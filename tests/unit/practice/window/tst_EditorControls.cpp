@@ -17,6 +17,7 @@ private Q_SLOTS:
     void rowsAreToldFromTheKeyboard();
     void rightClickSelectsWithoutTellingARow();
     void aRowThatIsTakenWithoutAClickIsToldAsAUse();
+    void aMenuThatIsSeenBySomebodyElseIsTakenAwayAgain();
     void tabsAreToldEvenWhenCurrentAlready();
     void mapTellsPressThenClick();
     void mapPaintsWithEachTool_data();
@@ -142,6 +143,40 @@ void tst_EditorControls::aRowThatIsTakenWithoutAClickIsToldAsAUse()
     QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, middle(1));
     QCOMPARE(list->currentRow(), 1);
     QCOMPARE(used, (QVector<ControlSpot>{spot(2), spot(1)}));
+    QCOMPARE(editor.takeTold(), QStringList());
+}
+
+void tst_EditorControls::aMenuThatIsSeenBySomebodyElseIsTakenAwayAgain()
+{
+    class Shows : public QObject
+    {
+    public:
+        QVector<QEvent::Type> seen;
+
+    protected:
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+                seen.append(event->type());
+            }
+            return QObject::eventFilter(watched, event);
+        }
+    };
+    Editor editor;
+    editor.openProject();
+    editor.clickRow("MapEditTreeBox", "maps", 3, Qt::RightButton);
+    EditorWindow *const menu = editor->window(str("MapPopup"));
+    QTest::keyClick(editor.frame(), Qt::Key_Escape);
+    QVERIFY(!menu->isVisible());
+    editor.takeTold();
+    Shows shows;
+    menu->installEventFilter(&shows);
+    // The window system has it still.
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), menu->mapToGlobal(QPoint(5, 5)), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(menu, &press);
+    QCOMPARE(shows.seen, (QVector<QEvent::Type>{QEvent::Show, QEvent::Hide}));
+    QVERIFY(!menu->isVisible());
     QCOMPARE(editor.takeTold(), QStringList());
 }
 
