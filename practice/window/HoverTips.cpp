@@ -33,6 +33,10 @@ bool HoverTips::eventFilter(QObject *watched, QEvent *event)
     }
     switch (event->type()) {
     case QEvent::Enter:
+        // As with Qt's own tips; a click that has opened a dialog is told as another coming of the mouse.
+        if (!button->isActiveWindow()) {
+            break;
+        }
         m_hovered = button;
         Q_EMIT hovered(button->toolTip(),
                        button->mapToGlobal(QPoint(button->width() / 2, button->height() + kBelow)));

@@ -436,6 +436,7 @@ void tst_GuidedWindows::tellsTheTipsOfButtons()
     QSignalSpy unhovered(editor.operator->(), &HostEditor::unhovered);
     auto *button = editor.find<QWidget>("MainWindow", "fileSave");
     QVERIFY(!button->toolTip().isEmpty());
+    QTRY_VERIFY(button->isActiveWindow());
     const auto send = [button](QEvent::Type type) {
         QEvent event(type);
         return QCoreApplication::sendEvent(button, &event);
@@ -451,6 +452,11 @@ void tst_GuidedWindows::tellsTheTipsOfButtons()
     QCOMPARE(unhovered.size(), 1);
     send(QEvent::Leave);
     QCOMPARE(unhovered.size(), 1);
+    // Beside an open dialog the tip would stay for as long as that does.
+    editor->open(str("NewProject"));
+    QTRY_VERIFY(editor->window(str("NewProject"))->isActiveWindow());
+    send(QEvent::Enter);
+    QCOMPARE(hovered.size(), 1);
 }
 
 void tst_GuidedWindows::knowsWhatALessonNames_data()
