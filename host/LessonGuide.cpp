@@ -20,6 +20,9 @@ bool isTyping(const EditorEvent &event)
 /// to four turns, and the first may have missed.
 constexpr int kMostVainUses = 6;
 
+/// So many times a way back comes up again after it was gone: then it leads round in a circle.
+constexpr int kMostRounds = 3;
+
 bool isPress(const EditorEvent &event)
 {
     return event.type == QLatin1String("pressed");
@@ -81,6 +84,8 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_beganAstray = false;
     m_isWayUsed = false;
     m_vainUses = 0;
+    m_goneWays.clear();
+    m_hasUsedWay = false;
     m_couldPutBack = false;
     m_wasDamaged = false;
     m_wasGone = false;
@@ -221,6 +226,8 @@ bool LessonGuide::restore(const StepStart &start)
         m_needs.start.dataMark = m_editor->dataMark();
         m_wrongMoves = 0;
         m_vainUses = 0;
+        m_goneWays.clear();
+        m_hasUsedWay = false;
         m_vainSteps = 0;
         m_choosesElsewhere = false;
         m_left = left();
@@ -283,12 +290,19 @@ void LessonGuide::endTurn()
 std::optional<Way> LessonGuide::usableWay(const Whereabouts &now, Stray stray)
 {
     std::optional<Way> way = now.wayBack(stray);
+    if (stray == Stray::kNot) {
+        m_goneWays.clear();
+    }
     const bool isUsed = std::exchange(m_isWayUsed, false);
     if (!way || m_needs.start.state.isEmpty()) {
         return way;
     }
+    m_hasUsedWay = m_hasUsedWay || isUsed;
     if (m_way && way != m_way) {
         m_vainUses = 0;
+        if (std::exchange(m_hasUsedWay, false)) {
+            m_goneWays.append(*m_way);
+        }
     } else if (isUsed) {
         ++m_vainUses;
     }
@@ -298,7 +312,8 @@ std::optional<Way> LessonGuide::usableWay(const Whereabouts &now, Stray stray)
         isGone = way->by.part >= 0 && !m_editor->rectOf(way->by);
     }
     // What is not there, or does something else, leads nowhere, but it can be put back.
-    return isGone || m_vainUses >= kMostVainUses ? std::nullopt : way;
+    const bool isCircle = m_goneWays.count(*way) >= kMostRounds;
+    return isGone || isCircle || m_vainUses >= kMostVainUses ? std::nullopt : way;
 }
 
 Stray LessonGuide::lookAround(const Whereabouts &now)

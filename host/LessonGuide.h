@@ -155,6 +155,10 @@ private:
     bool m_isWayUsed = false;
     /// In how many turns it was used and still was what leads back.
     int m_vainUses = 0;
+    /// It was used in an earlier turn already.
+    bool m_hasUsedWay = false;
+    /// Ways back that were gone since the person was on track, each as often as another one took its place.
+    QVector<Way> m_goneWays;
     bool m_couldPutBack = false;
     bool m_wasDamaged = false;
     /// What the step points at was not there at the end of the last turn.
