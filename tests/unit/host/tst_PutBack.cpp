@@ -32,6 +32,7 @@ private Q_SLOTS:
     void whatIsUsedInVainIsPutBack();
     void whatDoesAsItIsToldIsNotInVain();
     void aWayThatIsUsedInVainLeadsNowhere();
+    void waysThatLeadRoundInACircleLeadNowhere();
 };
 
 void tst_PutBack::anotherProjectIsPutBack()
@@ -533,6 +534,39 @@ void tst_PutBack::aWayThatIsUsedInVainLeadsNowhere()
     QVERIFY(played.session.isAstray());
     QVERIFY(played.session.canPutBack());
     QVERIFY(played.lastTold().contains(str("|put it back|")));
+    played.session.putBack();
+    played.turn();
+    QVERIFY(!played.session.isAstray());
+    QCOMPARE(played.editor.m_stack, (QStringList{str("MainWindow"), str(kProperties)}));
+}
+
+void tst_PutBack::waysThatLeadRoundInACircleLeadNowhere()
+{
+    const QString other = str("NewProject");
+    Played played;
+    played.editor.m_ways = someWays() + Ways{way("NewProject", "cancel", "click", "NewProject", Does::kCloses,
+                                                 "NewProject", true)};
+    played.editor.m_controls.insert(str(kProperties), Played::spot(kProperties, "name"));
+    played.editor.open(str(kProperties));
+    played.play({Played::item(1, kProperties, "textLength,name,3"), QStringLiteral(R"("id":2)")});
+    played.use(kProperties, "@dismiss");
+    played.editor.close(str(kProperties));
+    played.turn();
+    int uses = 0;
+    while (played.session.wayBack() && uses < 20) {
+        QVERIFY(!played.session.canPutBack());
+        // What opened the step's window opens another one now.
+        played.editor.m_cause = played.session.wayBack()->by;
+        if (played.editor.m_stack.contains(other)) {
+            played.editor.close(other);
+        } else {
+            played.editor.open(other);
+        }
+        played.turn();
+        ++uses;
+    }
+    QVERIFY2(uses > 4 && uses < 20, qPrintable(QString::number(uses)));
+    QVERIFY(played.session.canPutBack());
     played.session.putBack();
     played.turn();
     QVERIFY(!played.session.isAstray());
