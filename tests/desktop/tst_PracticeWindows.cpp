@@ -9,8 +9,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
-#include <algorithm>
-
 /// What a learner may do beside the lesson, in real windows and with the real companion.
 class tst_PracticeWindows : public PracticeTest
 {
@@ -27,7 +25,6 @@ private Q_SLOTS:
     void theArrowPointsAtTheButtonThatPutsBack();
     void startAgainClosesTheDialogs();
     void beginningAnewEndsTheGame();
-    void theGameStaysAboveTheEditor();
     void theOverlaysDoNotCoverTheListOfLessons();
     void aPopupIsAbandonedToTheCompanion();
     void theStripSaysWhatTheBubbleSays();
@@ -187,36 +184,6 @@ void tst_PracticeWindows::beginningAnewEndsTheGame()
     QVERIFY(clickOn(question()->buttons().constFirst()));
     QTRY_COMPARE_WITH_TIMEOUT(started.size(), 1, kSoonMs);
     QTRY_VERIFY_WITH_TIMEOUT(game == nullptr, kSoonMs);
-}
-
-void tst_PracticeWindows::theGameStaysAboveTheEditor()
-{
-    openNewProject();
-    if (QTest::currentTestFailed()) {
-        return;
-    }
-    QVERIFY(clickOn(
-        m_windows->window(QStringLiteral("NewProject"))->findChild<QAbstractButton *>(QStringLiteral("ok"))));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_editor->projectFolder().isEmpty(), kSoonMs);
-    m_windows->play();
-    auto *const game = mainWindow()->findChild<player::PlayerWindow *>();
-    QVERIFY(game != nullptr);
-    QVERIFY(QTest::qWaitForWindowActive(game, kSoonMs));
-    // A question of the editor comes up with the main window.
-    QVERIFY(clickOn(find<QAbstractButton>("startAgainButton")));
-    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() != nullptr, kSoonMs);
-    QWidget *const question = QApplication::activeModalWidget();
-    QVERIFY(QTest::qWaitForWindowActive(question, kSoonMs));
-    QTest::keyClick(question, Qt::Key_Escape);
-    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, kSoonMs);
-    const auto placeOf = [](const QWidget *window) {
-        const QVector<XWindows::Window> all = XWindows::mapped(QCoreApplication::applicationPid());
-        const auto found = std::find_if(all.cbegin(), all.cend(), [window](const XWindows::Window &one) {
-            return XWindows::idOf(one) == quintptr(window->winId());
-        });
-        return int(found - all.cbegin());
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(placeOf(game) < placeOf(mainWindow()), kSoonMs);
 }
 
 void tst_PracticeWindows::theOverlaysDoNotCoverTheListOfLessons()

@@ -22,16 +22,12 @@ constexpr int kMostTicksAtOnce = 6;
 constexpr int kTimerMs = 8;
 /// What a window manager puts around a window, at most.
 constexpr QMargins kDecoration(6, 32, 6, 6);
-/// A window manager keeps a dialog above its parent, which a question of the editor would bring before the
-/// game.
-constexpr Qt::WindowFlags kAbove = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
 
 } // namespace
 
 PlayerWindow::PlayerWindow(std::unique_ptr<Game> game, std::unique_ptr<Artwork> artwork, const QString &name,
                            QWidget *parent)
-    : QWidget(parent, kAbove)
+    : QWidget(parent, Qt::Window)
     , m_game(std::move(game))
     , m_artwork(std::move(artwork))
     , m_loudspeaker(Loudspeaker::make())
