@@ -1,7 +1,7 @@
 #include "window/HoverTips.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 
 namespace {
@@ -33,8 +33,9 @@ bool HoverTips::eventFilter(QObject *watched, QEvent *event)
     }
     switch (event->type()) {
     case QEvent::Enter:
-        // As with Qt's own tips; a click that has opened a dialog is told as another coming of the mouse.
-        if (!button->isActiveWindow()) {
+        // A click that has opened a dialog is told as another coming of the mouse. Not
+        // QWidget::isActiveWindow(): it lends a window the activation of the dialogs that belong to it.
+        if (QApplication::activeWindow() != button->window()) {
             break;
         }
         m_hovered = button;

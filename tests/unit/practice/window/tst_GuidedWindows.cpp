@@ -436,7 +436,7 @@ void tst_GuidedWindows::tellsTheTipsOfButtons()
     QSignalSpy unhovered(editor.operator->(), &HostEditor::unhovered);
     auto *button = editor.find<QWidget>("MainWindow", "fileSave");
     QVERIFY(!button->toolTip().isEmpty());
-    QTRY_VERIFY(button->isActiveWindow());
+    QTRY_COMPARE(QApplication::activeWindow(), button->window());
     const auto send = [button](QEvent::Type type) {
         QEvent event(type);
         return QCoreApplication::sendEvent(button, &event);
@@ -454,7 +454,7 @@ void tst_GuidedWindows::tellsTheTipsOfButtons()
     QCOMPARE(unhovered.size(), 1);
     // Beside an open dialog the tip would stay for as long as that does.
     editor->open(str("NewProject"));
-    QTRY_VERIFY(editor->window(str("NewProject"))->isActiveWindow());
+    QTRY_COMPARE(QApplication::activeWindow(), editor->window(str("NewProject")));
     send(QEvent::Enter);
     QCOMPARE(hovered.size(), 1);
 }
