@@ -26,7 +26,7 @@ CompanionScreen::CompanionScreen(HostEditor *editor, QObject *parent)
 void CompanionScreen::start()
 {
     m_plays = true;
-    m_screen = QRect();
+    m_screen.reset();
     tellScreen();
     const QStringList keys = m_editor->openWindows();
     for (const QString &key : keys) {

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QRect>
 
+#include <optional>
+
 class HostEditor;
 
 /// Keeps the companion's picture of the screen true: which windows are open, where they are, where the bubble
@@ -46,7 +48,7 @@ private:
     HostEditor *m_editor;
     bool m_plays = false;
     std::optional<QPoint> m_place;
-    /// As they were told last.
-    QRect m_screen;
+    /// As they were told last in this lesson.
+    std::optional<QRect> m_screen;
     QSize m_applicationSize;
 };

@@ -59,6 +59,7 @@ void LessonGuide::beginLesson(const StepStart &known)
     m_trail.assign(known.open);
     m_trail.setLastCauses(known.lastCauses);
     m_trail.follow(m_editor->openWindows());
+    m_leftBehind = known.leftBehind;
 }
 
 void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
@@ -344,6 +345,7 @@ void LessonGuide::takeStart()
     }
     const StepStart before = std::exchange(m_needs.start, StepStart::of(*m_editor, m_trail, m_needs.pointed));
     m_needs.start.takeWindows(before, m_editor->windowOf(m_needs.step.windowKey));
+    m_needs.start.leftBehind = m_leftBehind;
     m_ahead = m_behind ? StepAhead(m_editor, *m_behind) : StepAhead();
 }
 

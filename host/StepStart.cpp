@@ -7,10 +7,15 @@
 StepStart StepStart::of(const HostEditor &editor, const WindowTrail &trail,
                         const std::optional<ControlSpot> &pointed)
 {
-    StepStart start{editor.state(),     trail.open(),
-                    trail.lastCauses(), editor.projectId(),
-                    editor.dataMark(),  pointed ? editor.meaningOf(*pointed) : QString(),
-                    editor.chosen(),    {}};
+    StepStart start{editor.state(),
+                    trail.open(),
+                    trail.lastCauses(),
+                    editor.projectId(),
+                    editor.dataMark(),
+                    pointed ? editor.meaningOf(*pointed) : QString(),
+                    editor.chosen(),
+                    {},
+                    {}};
     for (const OpenWindow &window : trail.open()) {
         const QString menu = window.cause.control.section(QLatin1Char('/'), 0, 0);
         start.openingMeanings.insert(window.name, editor.meaningOf(window.cause));
@@ -45,9 +50,14 @@ QJsonObject StepStart::toJson() const
     for (auto cause = lastCauses.cbegin(); cause != lastCauses.cend(); ++cause) {
         causes.insert(cause.key(), WindowTrail::toJson(cause.value()));
     }
+    QJsonArray left;
+    for (const ControlSpot &spot : leftBehind) {
+        left.append(WindowTrail::toJson(spot));
+    }
     return {{QStringLiteral("state"), state.toJson()},
             {QStringLiteral("windows"), windows},
-            {QStringLiteral("causes"), causes}};
+            {QStringLiteral("causes"), causes},
+            {QStringLiteral("left"), left}};
 }
 
 StepStart StepStart::fromJson(const QJsonObject &json)
@@ -61,6 +71,10 @@ StepStart StepStart::fromJson(const QJsonObject &json)
     const QJsonObject causes = json.value(QLatin1String("causes")).toObject();
     for (auto cause = causes.begin(); cause != causes.end(); ++cause) {
         start.lastCauses.insert(cause.key(), WindowTrail::spotFromJson(cause.value().toObject()));
+    }
+    const QJsonArray left = json.value(QLatin1String("left")).toArray();
+    for (const QJsonValue &spot : left) {
+        start.leftBehind.append(WindowTrail::spotFromJson(spot.toObject()));
     }
     return start;
 }

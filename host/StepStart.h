@@ -21,6 +21,8 @@ struct StepStart
     QVector<ControlSpot> chosen;
     /// The same of what the open windows and the menus before them were opened with, by their names.
     QHash<QString, QString> openingMeanings;
+    /// What wrong moves of earlier steps had left and nobody had chosen again.
+    QVector<ControlSpot> leftBehind;
 
     static StepStart of(const HostEditor &editor, const WindowTrail &trail,
                         const std::optional<ControlSpot> &pointed);
@@ -29,7 +31,7 @@ struct StepStart
     /// the windows are to be opened as they were there.
     void takeWindows(const StepStart &before, const QString &needed);
 
-    /// What another run needs of it: the state, and how the windows came up.
+    /// What another run needs of it: the state, how the windows came up, and what was left behind.
     [[nodiscard]] QJsonObject toJson() const;
     static StepStart fromJson(const QJsonObject &json);
 };

@@ -97,9 +97,9 @@ private:
     void onTick();
     void onLimit();
     void watch();
-    /// A beginner has left the way of the step.
     /// Whether it now closes a list that a mistake has dropped down: that may cover what comes next.
     bool foldsUp();
+    /// A beginner has left the way of the step.
     [[nodiscard]] bool isLost() const;
     /// What is to be done as things are seen; nothing as long as they are not ready for it.
     [[nodiscard]] std::optional<ActionPlan> planned() const;
@@ -166,9 +166,9 @@ private:
     /// Ids of the steps that have asked a question so far.
     QVector<int> m_questions;
     bool m_isPassing = false;
-    /// In all of the play, and whether one of them in this step.
     /// How often a way back was gone in this step.
     int m_returns = 0;
+    /// In all of the play, and whether one of them in this step.
     int m_mistakes = 0;
     bool m_hasErred = false;
     int m_tries = 0;

@@ -1,6 +1,7 @@
 #include "window/control/EditKeys.h"
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include <utility>
 
@@ -19,7 +20,9 @@ bool EditKeys::work(QWidget *control, Qt::Key key)
         return false;
     }
     const auto *const keys = control->findChild<EditKeys *>(QString(), Qt::FindDirectChildrenOnly);
-    return keys != nullptr ? keys->workHere(key) : qobject_cast<QLineEdit *>(control) != nullptr;
+    return keys != nullptr ? keys->workHere(key)
+                           : qobject_cast<QLineEdit *>(control) != nullptr ||
+                                 qobject_cast<QPlainTextEdit *>(control) != nullptr;
 }
 
 bool EditKeys::workHere(Qt::Key key) const

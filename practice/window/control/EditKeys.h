@@ -6,8 +6,6 @@
 
 #include <functional>
 
-class EditorWindow;
-
 /// Tells whether the keys for deleting, copying and pasting would do something in a control at present. The
 /// control owns it.
 class EditKeys : public QObject

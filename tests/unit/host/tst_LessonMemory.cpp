@@ -1,7 +1,5 @@
 #include "SessionFixture.h"
 
-#include <QJsonDocument>
-
 namespace {
 
 QString str(const char *text)
@@ -11,7 +9,7 @@ QString str(const char *text)
 
 } // namespace
 
-/// Going back, being shown, skipping and resuming.
+/// Going back, being shown, and skipping.
 class tst_LessonMemory : public QObject
 {
     Q_OBJECT
@@ -35,12 +33,6 @@ private Q_SLOTS:
     void nextChoosesTheRowAgainThatWasLeft();
     void passesOverStepsThatPassByThemselves();
     void saysWhenAStateIsLost();
-    void resumesWhereALessonWasLeft();
-    void goesBackBehindTheStepAtWhichItWasResumed();
-    void passesOverStepsThatAreNoMoreInTheLesson();
-    void resumesKnowingHowTheWindowsCameUp();
-    void beginsAgainWhenTheStateIsGone();
-    void theBookmarkOutlivesTheCompanionAndNotTheLesson();
     void tellsOfThePressOfAButton();
 };
 
@@ -364,159 +356,6 @@ void tst_LessonMemory::nextChoosesTheRowAgainThatWasLeft()
     played.session.next();
     QCOMPARE(played.editor.m_performed.size(), 1);
     QCOMPARE(played.editor.m_performed.constFirst().spot, tab);
-}
-
-void tst_LessonMemory::resumesWhereALessonWasLeft()
-{
-    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "list,1"),
-                            Played::item(3, "MainWindow", "click,")};
-    QJsonObject bookmark;
-    {
-        Played first;
-        first.session.request(str("TutorialStep1"));
-        first.play(items);
-        first.editor.m_data = str("drawn on");
-        QSignalSpy changed(&first.session, &LessonSession::bookmarkChanged);
-        first.session.receive(str("next"));
-        first.turn();
-        QCOMPARE(changed.size(), 1);
-        first.editor.m_data = str("and a wrong move later");
-        bookmark = QJsonDocument::fromJson(QJsonDocument(first.session.bookmark()).toJson()).object();
-    }
-    Played second;
-    second.session.resume(bookmark);
-    QCOMPARE(second.told, QStringList{str("tutorial|TutorialStep1")});
-    second.play(items);
-    QCOMPARE(second.id(), 2);
-    QCOMPARE(second.editor.m_data, str("drawn on"));
-    QVERIFY(!second.session.isAstray());
-    QCOMPARE(second.session.bookmark(), bookmark);
-    // What came before is known, too.
-    QVERIFY(second.session.canGoBack());
-    second.session.back();
-    QCOMPARE(second.id(), 1);
-    QCOMPARE(second.editor.m_data, str("as it was"));
-    // The next time it begins at the first step again.
-    second.session.request(str("TutorialStep1"));
-    second.play(items);
-    QCOMPARE(second.id(), 1);
-}
-
-void tst_LessonMemory::goesBackBehindTheStepAtWhichItWasResumed()
-{
-    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
-                            Played::item(3, "MainWindow", "click,"), Played::item(4, "MainWindow", "click,")};
-    // One run for each step, and all of it back in the last.
-    QJsonObject bookmark;
-    for (int run = 1; run <= 3; ++run) {
-        Played played;
-        if (bookmark.isEmpty()) {
-            played.session.request(str("TutorialStep1"));
-        } else {
-            played.session.resume(bookmark);
-        }
-        played.play(items);
-        QCOMPARE(played.id(), run);
-        played.editor.m_data = QStringLiteral("of step %1").arg(run + 1);
-        played.session.receive(str("next"));
-        played.turn();
-        bookmark = QJsonDocument::fromJson(QJsonDocument(played.session.bookmark()).toJson()).object();
-    }
-    Played last;
-    last.session.resume(bookmark);
-    last.play(items);
-    QCOMPARE(last.id(), 4);
-    for (const char *data : {"of step 3", "of step 2", "as it was"}) {
-        last.session.back();
-        last.turn();
-        QCOMPARE(last.editor.m_data, str(data));
-    }
-    QCOMPARE(last.id(), 1);
-    QVERIFY(!last.session.canGoBack());
-}
-
-void tst_LessonMemory::passesOverStepsThatAreNoMoreInTheLesson()
-{
-    Played first;
-    first.session.request(str("TutorialStep1"));
-    first.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,"),
-                Played::item(3, "MainWindow", "click,")});
-    for (int step = 0; step < 2; ++step) {
-        first.session.receive(str("next"));
-        first.turn();
-    }
-    Played second;
-    second.session.resume(first.session.bookmark());
-    second.play({Played::item(1, "MainWindow", "click,"), Played::item(3, "MainWindow", "click,")});
-    QCOMPARE(second.id(), 3);
-    second.session.back();
-    QCOMPARE(second.id(), 1);
-}
-
-void tst_LessonMemory::resumesKnowingHowTheWindowsCameUp()
-{
-    const QString key = str("MapProperties");
-    const QStringList items{Played::item(1, "MainWindow", "windowState,MapProperties,open", "doubleClick"),
-                            Played::item(2, "MapProperties", "action,picture,")};
-    const Ways ways{{Played::spot("MainWindow", "maps"), str("doubleClick"), str("MainWindow"),
-                     Way::Does::kOpens, key, false}};
-    Played first;
-    first.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "maps", 4));
-    first.session.request(str("TutorialStep1"));
-    first.play(items);
-    first.use("MainWindow", "maps", 4);
-    first.editor.open(key);
-    first.turn();
-    QCOMPARE(first.id(), 2);
-    Played second;
-    second.editor.m_ways = ways;
-    second.session.resume(first.session.bookmark());
-    second.play(items);
-    QCOMPARE(second.id(), 2);
-    QVERIFY(second.editor.m_stack.contains(key));
-    second.use("MapProperties", "cancel");
-    second.editor.close(key);
-    second.turn();
-    QCOMPARE(second.session.wayBack()->by, Played::spot("MainWindow", "maps", 4));
-}
-
-void tst_LessonMemory::beginsAgainWhenTheStateIsGone()
-{
-    const QStringList items{Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "list,1")};
-    Played first;
-    first.session.request(str("TutorialStep1"));
-    first.play(items);
-    first.session.receive(str("next"));
-    first.turn();
-    Played second;
-    QSignalSpy problems(&second.session, &LessonSession::problemFound);
-    second.editor.m_canRestore = false;
-    second.session.resume(first.session.bookmark());
-    second.play(items);
-    QCOMPARE(second.id(), 1);
-    QCOMPARE(problems.size(), 1);
-}
-
-void tst_LessonMemory::theBookmarkOutlivesTheCompanionAndNotTheLesson()
-{
-    Played played;
-    played.session.request(str("TutorialStep1"));
-    QVERIFY(played.session.bookmark().isEmpty());
-    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
-    played.session.abandon();
-    const QJsonObject bookmark = played.session.bookmark();
-    QCOMPARE(bookmark.value(str("lesson")).toString(), str("TutorialStep1"));
-    played.session.resume(bookmark);
-    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
-    played.session.receive(str("next"));
-    played.turn();
-    played.session.stop();
-    QVERIFY(!played.session.bookmark().isEmpty());
-    played.session.resume(played.session.bookmark());
-    played.play({Played::item(1, "MainWindow", "click,"), Played::item(2, "MainWindow", "click,")});
-    QCOMPARE(played.id(), 2);
-    played.session.receive(str("next"));
-    QVERIFY(played.session.bookmark().isEmpty());
 }
 
 void tst_LessonMemory::tellsOfThePressOfAButton()
