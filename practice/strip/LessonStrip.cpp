@@ -168,6 +168,10 @@ void LessonStrip::setState(const StripState &state)
     m_next->setEnabled(state.hasNext);
     m_yes->setVisible(isPlaying && state.hasYesNo);
     m_no->setVisible(isPlaying && state.hasYesNo);
+    // It may come while someone is about to press the button beside it.
+    QSizePolicy policy = m_help->sizePolicy();
+    policy.setRetainSizeWhenHidden(state.canPutBack);
+    m_help->setSizePolicy(policy);
     m_help->setVisible(isPlaying && state.offersHelp);
     m_putBack->setVisible(isPlaying && state.canPutBack);
     m_skip->setVisible(isPlaying);

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void cleanup();
 
     void showsHowFarTheLessonIs();
+    void putBackStandsStillWhenHelpIsOffered();
     void hasTheButtonsOfTheStep_data();
     void hasTheButtonsOfTheStep();
     void aButtonTellsWhatIsWanted_data();
@@ -152,6 +153,24 @@ void tst_LessonStrip::showsHowFarTheLessonIs()
     m_strip->setState(StripState());
     QVERIFY(!bar->isVisible());
     QVERIFY(!label("minutesLabel")->isVisible());
+}
+
+void tst_LessonStrip::putBackStandsStillWhenHelpIsOffered()
+{
+    LessonStrip strip;
+    strip.resize(kNarrow, strip.sizeHint().height());
+    strip.show();
+    StripState state = playing();
+    state.canPutBack = true;
+    strip.setState(state);
+    const auto *const putBack = strip.findChild<QPushButton *>(QStringLiteral("putBackButton"));
+    const auto *const help = strip.findChild<QPushButton *>(QStringLiteral("helpButton"));
+    QTRY_VERIFY(putBack->isVisible() && putBack->x() > kNarrow / 2);
+    const QRect before = putBack->geometry();
+    state.offersHelp = true;
+    strip.setState(state);
+    QTRY_VERIFY(help->isVisible() && help->x() >= before.right());
+    QCOMPARE(putBack->geometry(), before);
 }
 
 void tst_LessonStrip::hasTheButtonsOfTheStep_data()
