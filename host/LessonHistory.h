@@ -19,6 +19,8 @@ public:
     void begin(const QString &lessonName);
     /// A lesson goes on where @p bookmark was set.
     void resume(const QJsonObject &bookmark);
+    /// The present step is entered anew.
+    void goOn() { m_hasPresent = false; }
 
     /// A step was reached.
     void enter(int id);

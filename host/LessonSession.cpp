@@ -70,6 +70,7 @@ void LessonSession::resume(const QJsonObject &bookmark)
 void LessonSession::play(const QString &lessonName, const QString &scenarioText, int id)
 {
     m_resumed = {};
+    m_goesOn = m_runner.isRunning() && m_runner.step().id == id && m_handOver.lessonName() == lessonName;
     stopRun();
     begin(m_handOver.takeOwn(lessonName, scenarioText), id);
 }
@@ -293,6 +294,7 @@ void LessonSession::answer(bool yes)
 void LessonSession::begin(const std::optional<Scenario> &scenario, int id)
 {
     if (!scenario) {
+        m_goesOn = false;
         return;
     }
     const int first = takeUp(std::exchange(m_firstStep, std::nullopt).value_or(id));
@@ -308,6 +310,10 @@ void LessonSession::begin(const std::optional<Scenario> &scenario, int id)
 
 int LessonSession::takeUp(int id)
 {
+    if (std::exchange(m_goesOn, false)) {
+        m_history.goOn();
+        return id;
+    }
     const QJsonObject bookmark = std::exchange(m_resumed, {});
     const StepStart start = LessonHistory::startOf(bookmark);
     if (!bookmark.isEmpty() && (start.state.isEmpty() || m_guide.restore(start))) {

@@ -32,6 +32,8 @@ public:
     /// Asks for the lesson. A lesson that runs is stopped first.
     void request(const QString &lessonName);
     /// Begins a lesson that the host has itself, such as one from a file on disk, at the step with this id.
+    /// The lesson that is played at that step goes on there, as when its file has changed, and Back leads to
+    /// the steps before it.
     void play(const QString &lessonName, const QString &scenarioText, int id);
     /// The lesson that is asked for next begins at the step with this id.
     void setFirstStep(int id) { m_firstStep = id; }
@@ -179,6 +181,8 @@ private:
     bool m_bookmarkDue = false;
     /// To be resumed when its lesson comes.
     QJsonObject m_resumed;
+    /// What begins next is what was played, at its step.
+    bool m_goesOn = false;
     std::optional<int> m_firstStep;
     QTimer m_wait;
     /// Since a button of the companion was pressed.

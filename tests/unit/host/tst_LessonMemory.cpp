@@ -17,6 +17,7 @@ class tst_LessonMemory : public QObject
 private Q_SLOTS:
     void goesBackWithTheStateOfThen();
     void goesBackStepByStepAndForthAgain();
+    void goesBackInALessonWhoseTextHasChanged();
     void showsAndThenDoes();
     void doesWhatTheIconSays_data();
     void doesWhatTheIconSays();
@@ -112,6 +113,35 @@ void tst_LessonMemory::saysWhenAStateIsLost()
     played.session.back();
     QCOMPARE(lost.size(), 2);
     QCOMPARE(played.id(), 1);
+}
+
+void tst_LessonMemory::goesBackInALessonWhoseTextHasChanged()
+{
+    const auto text = [](const char *hint) {
+        return QStringLiteral("var scenario = [{%1},{%2}];")
+            .arg(Played::item(1, "MainWindow", "list,1"),
+                 Played::item(2, "MainWindow", "click,", "click", hint));
+    };
+    Played played;
+    played.session.play(str("Own"), text("Click it"), 1);
+    played.turn();
+    played.use("MainWindow", "maps", 1);
+    played.editor.m_data = str("after the first");
+    played.editor.report(str("list"), str("1"));
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    played.session.play(str("Own"), text("Click it now"), 2);
+    played.turn();
+    QCOMPARE(played.id(), 2);
+    QVERIFY(played.session.canGoBack());
+    played.session.back();
+    QCOMPARE(played.id(), 1);
+    QCOMPARE(played.editor.m_data, str("as it was"));
+    QVERIFY(!played.session.canGoBack());
+    // Another lesson, or another step of it, begins.
+    played.session.play(str("Own"), text("Click it"), 2);
+    played.turn();
+    QVERIFY(!played.session.canGoBack());
 }
 
 void tst_LessonMemory::showsAndThenDoes()
