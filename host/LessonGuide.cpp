@@ -225,6 +225,8 @@ bool LessonGuide::restore(const StepStart &start)
     m_trail.follow(m_editor->openWindows());
     if (m_runs) {
         m_needs.start.dataMark = m_editor->dataMark();
+        m_isUsed = false;
+        m_isUsedNow = false;
         m_wrongMoves = 0;
         m_vainUses = 0;
         m_goneWays.clear();

@@ -4,10 +4,10 @@ namespace {
 
 using Kind = Action::Kind;
 
-// In pixels: from a row to the one below it, from OK to Cancel, and past the edge of a small button.
+// In pixels: from a row to the one below it, from OK to Cancel, and past the edge of a button.
 constexpr QPoint kNextRow(0, 26);
 constexpr QPoint kNextButton(100, 0);
-constexpr QPoint kBeside(-40, 0);
+constexpr QPoint kBeside(-60, 0);
 
 constexpr int kKinds = 5;
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void nextDoesTheClickThatNobodyHasMade();
     void nextClicksAsOftenAsTheHintSays();
     void nextLeavesWhatWasDone();
+    void nextDoesAgainWhatWasPutBack();
     void nextChoosesTheRowAgainThatWasLeft();
     void passesOverStepsThatPassByThemselves();
     void saysWhenAStateIsLost();
@@ -373,6 +374,29 @@ void tst_LessonMemory::nextLeavesWhatWasDone()
     played.session.next();
     QCOMPARE(played.id(), 3);
     QCOMPARE(played.editor.m_performed.size(), 1);
+}
+
+void tst_LessonMemory::nextDoesAgainWhatWasPutBack()
+{
+    const ControlSpot button = Played::spot("MainWindow", "add");
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), button);
+    played.play({Played::item(1, "MainWindow", "click,"), QStringLiteral(R"("id":2)")});
+    Q_EMIT played.editor.used(button);
+    played.editor.m_data = str("one more");
+    played.turn();
+    played.use("MainWindow", "delete");
+    played.editor.m_data = str("and one less");
+    Q_EMIT played.editor.used(Played::spot("MainWindow", "delete"));
+    played.turn();
+    QVERIFY(played.session.canPutBack());
+    played.session.putBack();
+    played.turn();
+    QVERIFY(played.editor.m_performed.isEmpty());
+    played.session.next();
+    QCOMPARE(played.id(), 2);
+    QCOMPARE(played.editor.m_performed.size(), 1);
+    QCOMPARE(played.editor.m_performed.constFirst().spot, button);
 }
 
 void tst_LessonMemory::nextChoosesTheRowAgainThatWasLeft()

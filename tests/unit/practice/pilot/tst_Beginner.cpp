@@ -110,12 +110,10 @@ void tst_Beginner::errsInTurn_data()
     };
     row("a click", Action::Kind::kClick,
         "a click at (200, 126); Esc; a right click at (200, 100); a click at (300, 100); a double click at "
-        "(160, "
-        "100); a click at (200, 126)");
+        "(140, 100); a click at (200, 126)");
     row("a right click", Action::Kind::kRightClick,
-        "a click at (200, 126); Esc; a click at (200, 100); a click at (300, 100); a double click at (160, "
-        "100); "
-        "a click at (200, 126)");
+        "a click at (200, 126); Esc; a click at (200, 100); a click at (300, 100); a double click at (140, "
+        "100); a click at (200, 126)");
 }
 
 void tst_Beginner::errsInTurn()
