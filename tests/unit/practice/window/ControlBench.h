@@ -26,6 +26,15 @@ public:
 
     /// Gives the project these items.
     bool setItems(const char *items) { return project.replaceFiles({{str("data/Items.json"), str(items)}}); }
+    /// The same, and two maps, of 20 columns and 10 rows, and of 40 and 30.
+    bool setItemsAndMaps(const char *items)
+    {
+        return project.replaceFiles(
+            {{str("data/Items.json"), str(items)},
+             {str("data/MapInfos.json"), str(R"([null, {"id": 1, "name": "a"}, {"id": 2, "name": "b"}])")},
+             {str("data/Map001.json"), str(R"({"width": 20, "height": 10})")},
+             {str("data/Map002.json"), str(R"({"width": 40, "height": 30})")}});
+    }
 
     /// Makes the control, which is of this class.
     template<typename Widget>

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void controlsAreThereForAValue();
     void allRequirementsMustHold();
     void controlsAreGreyForAValue();
+    void aCellIsOneOfItsMap();
+    void aCellBehindTheMapIsKept();
     void whatBelongsToNoEntryIsGrey();
     void buttonsAreGreyWhileTheirCommandsCannotRun();
     void severalCommandsRunInTurn();
@@ -83,6 +85,45 @@ void tst_ControlStates::controlsAreGreyForAValue()
     QVERIFY(spin->isVisible() && !spin->isEnabled());
     bench.window.setField(str("data/Items/{items}/timed"), true);
     QVERIFY(spin->isEnabled());
+}
+
+void tst_ControlStates::aCellIsOneOfItsMap()
+{
+    Bench bench;
+    QVERIFY(bench.setItemsAndMaps(R"([null, {"map": 1, "x": 2}])"));
+    const auto make = [&bench](const QByteArray &cells) {
+        return bench.make<QSpinBox>(
+            R"("type": "spinBox", "field": "data/Items/{items}/x", "range": [0, 255], )" + cells);
+    };
+    const auto *const column = make(R"("cells": "columns", "map": "data/Items/{items}/map")");
+    const auto *const row = make(R"("cells": "rows", "map": "data/Items/{items}/map")");
+    const auto *const selected = make(R"("cells": "columns")");
+    bench.window.show();
+    QCOMPARE(column->maximum(), 19);
+    QCOMPARE(row->maximum(), 9);
+    bench.window.setField(str("data/Items/{items}/map"), 2);
+    QCOMPARE(column->maximum(), 39);
+    QCOMPARE(selected->maximum(), 19);
+    bench.window.setCurrentRow(str("maps"), 1);
+    QCOMPARE(selected->maximum(), 39);
+    // Of a map that is not there nothing is known.
+    bench.window.setField(str("data/Items/{items}/map"), 99);
+    QCOMPARE(column->maximum(), 255);
+}
+
+void tst_ControlStates::aCellBehindTheMapIsKept()
+{
+    Bench bench;
+    QVERIFY(bench.setItemsAndMaps(R"([null, {"x": 200}])"));
+    auto *column = bench.make<QSpinBox>(
+        R"("type": "spinBox", "field": "data/Items/{items}/x", "range": [0, 255], "cells": "columns")");
+    bench.window.show();
+    QCOMPARE(column->value(), 200);
+    QCOMPARE(bench.value("data/Items.json", "/1/x").toInt(), 200);
+    column->setValue(3);
+    QCOMPARE(column->maximum(), 19);
+    column->setValue(200);
+    QCOMPARE(bench.value("data/Items.json", "/1/x").toInt(), 19);
 }
 
 void tst_ControlStates::whatBelongsToNoEntryIsGrey()
