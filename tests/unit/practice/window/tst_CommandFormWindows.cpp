@@ -212,6 +212,8 @@ private Q_SLOTS:
     void aFormShowsItsOwnControlsAlone();
     void acceptingUnchangedChangesNothing();
     void aNewCommandIsPutIn();
+    void thePlaceOfAPictureMayStandInVariables_data();
+    void thePlaceOfAPictureMayStandInVariables();
     void noBoxStandsBlankAfterItsKindChanged();
     void enemiesOfATroopHaveTheirNames();
     void aPlaceOnThisMapIsChosenOnTheMap();
@@ -295,6 +297,33 @@ void tst_CommandFormWindows::aNewCommandIsPutIn()
     const QVector<Row> rows = desk.rows();
     QCOMPARE(rows.size(), before + 1);
     QCOMPARE(rows.at(0).text, str("Wait: 45 frames"));
+}
+
+void tst_CommandFormWindows::thePlaceOfAPictureMayStandInVariables_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::newRow("show") << 231;
+    QTest::newRow("move") << 232;
+}
+
+void tst_CommandFormWindows::thePlaceOfAPictureMayStandInVariables()
+{
+    QFETCH(const int, code);
+    EventDesk desk(str("en_US"));
+    desk.edit(str("data/Map001/events/1/pages/0/list"));
+    desk.openNew(str("picture"), code);
+    const QByteArray form = QByteArray::number(code) + '/';
+    desk.editor.click("EventCommand", form + "where2");
+    for (const auto &place : {std::make_pair("x", 1), std::make_pair("y", 2)}) {
+        const QByteArray box = form + place.first + "Variable";
+        desk.editor.click("EventCommand", box + "Choose");
+        desk.editor.click("VariableSelector", "variablesMaximum");
+        desk.editor.find<QSpinBox>("ChangeMaximum", "count")->setValue(3);
+        desk.editor.click("ChangeMaximum", "ok");
+        desk.editor.clickRow("VariableSelector", "variables", place.second);
+        desk.editor.click("VariableSelector", "ok");
+        QCOMPARE(desk.editor.find<QComboBox>("EventCommand", box)->currentIndex(), place.second);
+    }
 }
 
 void tst_CommandFormWindows::noBoxStandsBlankAfterItsKindChanged()
