@@ -575,7 +575,7 @@
     </message>
     <message>
       <source>#99</source>
-      <translation>鉱山は危ない。先に薬草を買っておけ。</translation>
+      <translation>鉱山は危ない。レベル5まで鍛え、セーブして行け。</translation>
     </message>
     <message>
       <source>#100</source>

@@ -575,7 +575,7 @@
     </message>
     <message>
       <source>#99</source>
-      <translation>矿洞很危险。先买些草药吧。</translation>
+      <translation>矿洞很危险。先练到 5 级，存好档再去。</translation>
     </message>
     <message>
       <source>#100</source>
