@@ -130,7 +130,7 @@ public:
 
     /// Which project is open, in any words that differ for another one; empty for none.
     [[nodiscard]] virtual QString projectId() const { return {}; }
-    /// Differs when the project's data do.
+    /// Differs when the project's data do, or what was copied to be pasted into them.
     [[nodiscard]] virtual QString dataMark() const { return {}; }
     [[nodiscard]] virtual EditorState state() const { return {}; }
     /// Makes all as it was then, windows included, and tells of them as if a person had opened and closed

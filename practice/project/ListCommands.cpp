@@ -123,7 +123,7 @@ void ListCommands::addTo(StateParts &states)
 {
     const QString entry = QStringLiteral("entry");
     const QString from = QStringLiteral("from");
-    states.add(
+    states.addCopied(
         QStringLiteral("copiedEntry"),
         [this, entry, from] {
             QJsonObject copied{{from, m_copiedFrom}};

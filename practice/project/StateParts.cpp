@@ -7,6 +7,21 @@ void StateParts::add(const QString &name, Save save, Load load)
     m_parts.insert(name, {std::move(save), std::move(load)});
 }
 
+void StateParts::addCopied(const QString &name, Save save, Load load)
+{
+    add(name, std::move(save), std::move(load));
+    m_copied.append(name);
+}
+
+QJsonObject StateParts::saveCopied() const
+{
+    QJsonObject parts;
+    for (const QString &name : m_copied) {
+        parts.insert(name, m_parts.value(name).save());
+    }
+    return parts;
+}
+
 QJsonObject StateParts::save() const
 {
     QJsonObject parts;

@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QMap>
+#include <QStringList>
 
 #include <functional>
 
@@ -15,8 +16,12 @@ public:
     using Load = std::function<void(const QJsonValue &)>;
 
     void add(const QString &name, Save save, Load load);
+    /// A part with what was copied last: to paste then means something else.
+    void addCopied(const QString &name, Save save, Load load);
 
     [[nodiscard]] QJsonObject save() const;
+    /// Of the parts with what was copied.
+    [[nodiscard]] QJsonObject saveCopied() const;
     void load(const QJsonObject &parts) const;
 
 private:
@@ -27,4 +32,5 @@ private:
     };
 
     QMap<QString, Part> m_parts;
+    QStringList m_copied;
 };

@@ -55,6 +55,8 @@ EditorState StateKeeper::state() const
 QString StateKeeper::dataMark() const
 {
     QCryptographicHash typed(QCryptographicHash::Sha1);
+    // Who copies something else in between would paste it.
+    typed.addData(QJsonDocument(m_view.project->states().saveCopied()).toJson(QJsonDocument::Compact));
     for (const QString &key : *m_view.stack) {
         if ((*m_view.descriptions)[key].isDraft) {
             const DataLayer &draft = m_view.window(key)->layer();

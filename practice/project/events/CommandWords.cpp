@@ -148,7 +148,7 @@ void CommandWords::addEnemies(RowSources &sources)
 
 void CommandWords::addTo(StateParts &states)
 {
-    states.add(
+    states.addCopied(
         str("copiedCommands"), [this] { return m_copied; },
         [this](const QJsonValue &value) {
             if (value.isArray()) {

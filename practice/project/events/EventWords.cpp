@@ -51,7 +51,7 @@ void EventWords::addTo(StateParts &states)
 {
     const QString event = str("event");
     const QString page = str("page");
-    states.add(
+    states.addCopied(
         str("copiedEvent"),
         [this, event, page] {
             return QJsonObject{{event, m_copiedEvent}, {page, m_copiedPage}};

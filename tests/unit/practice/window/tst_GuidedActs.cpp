@@ -31,6 +31,7 @@ private Q_SLOTS:
     void bringsBackWindowsAndWhatWasTyped();
     void bringsBackAContextMenu();
     void bringsBackTheCopyingOfOneProject();
+    void knowsThatSomethingElseWasCopied();
 };
 
 void tst_GuidedActs::usesControlsAsAPersonDoes()
@@ -138,6 +139,28 @@ void tst_GuidedActs::bringsBackTheCopyingOfOneProject()
         QCOMPARE(editor->openWindows(), (QStringList{str("MainWindow"), str("Copying")}));
         QCOMPARE(editor->projectFolder(), QString());
     }
+}
+
+void tst_GuidedActs::knowsThatSomethingElseWasCopied()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    for (const char *name : {"Mila", "Toma"}) {
+        editor.click("DatabaseMain", "actorsAdd");
+        editor.find<QLineEdit>("DatabaseMain", "actorName")->setText(str(name));
+    }
+    const QString nothing = editor->dataMark();
+    editor.click("DatabaseMain", "actorsCopy");
+    const QString second = editor->dataMark();
+    QVERIFY(second != nothing);
+    const EditorState before = editor->state();
+    editor.clickRow("DatabaseMain", "actors", 0);
+    QCOMPARE(editor->dataMark(), second);
+    QTest::keyClick(editor.find<QWidget>("DatabaseMain", "actors"), Qt::Key_C, Qt::ControlModifier);
+    QVERIFY(editor->dataMark() != second);
+    QVERIFY(editor->restore(before));
+    QCOMPARE(editor->dataMark(), second);
 }
 
 QTEST_MAIN(tst_GuidedActs)
