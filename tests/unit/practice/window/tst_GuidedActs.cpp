@@ -1,4 +1,5 @@
 #include "EditorFixture.h"
+#include "SampleEditor.h"
 #include "host/ControlUse.h"
 
 #include <QDir>
@@ -143,24 +144,20 @@ void tst_GuidedActs::bringsBackTheCopyingOfOneProject()
 
 void tst_GuidedActs::knowsThatSomethingElseWasCopied()
 {
-    Editor editor;
-    editor.openProject();
-    editor->open(str("DatabaseMain"));
-    for (const char *name : {"Mila", "Toma"}) {
-        editor.click("DatabaseMain", "actorsAdd");
-        editor.find<QLineEdit>("DatabaseMain", "actorName")->setText(str(name));
-    }
+    SampleEditor editor;
+    editor.openDatabase(0);
     const QString nothing = editor->dataMark();
+    editor.clickRow("DatabaseMain", "actors", 1);
+    QCOMPARE(editor->dataMark(), nothing);
     editor.click("DatabaseMain", "actorsCopy");
-    const QString second = editor->dataMark();
-    QVERIFY(second != nothing);
+    const QString copied = editor->dataMark();
+    QVERIFY(copied != nothing);
     const EditorState before = editor->state();
     editor.clickRow("DatabaseMain", "actors", 0);
-    QCOMPARE(editor->dataMark(), second);
     QTest::keyClick(editor.find<QWidget>("DatabaseMain", "actors"), Qt::Key_C, Qt::ControlModifier);
-    QVERIFY(editor->dataMark() != second);
+    QVERIFY(editor->dataMark() != copied);
     QVERIFY(editor->restore(before));
-    QCOMPARE(editor->dataMark(), second);
+    QCOMPARE(editor->dataMark(), copied);
 }
 
 QTEST_MAIN(tst_GuidedActs)
