@@ -619,7 +619,7 @@
     </message>
     <message>
       <source>#110</source>
-      <translation>Lights up dark places.</translation>
+      <translation>Of no use by day, but Bruno buys it.</translation>
     </message>
     <message>
       <source>#111</source>

@@ -619,7 +619,7 @@
     </message>
     <message>
       <source>#110</source>
-      <translation>暗い所を照らす。</translation>
+      <translation>昼は使わない。ブルーノに売れる。</translation>
     </message>
     <message>
       <source>#111</source>

@@ -619,7 +619,7 @@
     </message>
     <message>
       <source>#110</source>
-      <translation>照亮黑暗的地方。</translation>
+      <translation>白天用不上，可以卖给布鲁诺。</translation>
     </message>
     <message>
       <source>#111</source>
