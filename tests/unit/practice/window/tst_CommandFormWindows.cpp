@@ -214,6 +214,8 @@ private Q_SLOTS:
     void aNewCommandIsPutIn();
     void thePlaceOfAPictureMayStandInVariables_data();
     void thePlaceOfAPictureMayStandInVariables();
+    void aCellOutsideOfItsMapIsKeptUntilItIsChanged_data();
+    void aCellOutsideOfItsMapIsKeptUntilItIsChanged();
     void noBoxStandsBlankAfterItsKindChanged();
     void enemiesOfATroopHaveTheirNames();
     void aPlaceOnThisMapIsChosenOnTheMap();
@@ -324,6 +326,43 @@ void tst_CommandFormWindows::thePlaceOfAPictureMayStandInVariables()
         desk.editor.click("VariableSelector", "ok");
         QCOMPARE(desk.editor.find<QComboBox>("EventCommand", box)->currentIndex(), place.second);
     }
+}
+
+void tst_CommandFormWindows::aCellOutsideOfItsMapIsKeptUntilItIsChanged_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QJsonArray>("parameters");
+    QTest::newRow("transfer") << 201 << QJsonArray{0, 1, 200, 210, 1, 0};
+    QTest::newRow("event location") << 202 << QJsonArray{0, 0, 200, 210, 0};
+}
+
+void tst_CommandFormWindows::aCellOutsideOfItsMapIsKeptUntilItIsChanged()
+{
+    QFETCH(const int, code);
+    QFETCH(const QJsonArray, parameters);
+    EventDesk desk(str("en_US"));
+    const QString path = str("data/Map001/events/1/pages/0/list");
+    const auto read = [&desk, &path] {
+        return desk.events()->field(path + str("/0/parameters")).toJsonArray();
+    };
+    desk.edit(path);
+    desk.events()->setField(path, QJsonArray{entry(code, parameters), entry(0, {})});
+    desk.openRow(0);
+    desk.editor.click("EventCommand", "ok");
+    QCOMPARE(read(), parameters);
+
+    desk.openRow(0);
+    const QByteArray form = QByteArray::number(code) + '/';
+    auto *column = desk.editor.find<QSpinBox>("EventCommand", form + "x");
+    auto *row = desk.editor.find<QSpinBox>("EventCommand", form + "y");
+    QCOMPARE(column->value(), 200);
+    QCOMPARE(row->value(), 210);
+    column->setValue(0);
+    row->setValue(0);
+    column->setValue(200);
+    row->setValue(210);
+    QCOMPARE(column->value(), desk.events()->field(str("data/Map001/width")).toInt() - 1);
+    QCOMPARE(row->value(), desk.events()->field(str("data/Map001/height")).toInt() - 1);
 }
 
 void tst_CommandFormWindows::noBoxStandsBlankAfterItsKindChanged()
