@@ -17,8 +17,14 @@ public:
 
     /// With what the lesson has had the window or context menu opened last; none where it has not.
     [[nodiscard]] ControlSpot openingOf(const QString &windowKey) const;
+    /// With what the lesson has had the activity begun last; none where it has not.
+    [[nodiscard]] ControlSpot beginningOf(const QString &action) const;
 
 private:
+    /// What the last of them points at for which @p is holds.
+    template<typename Is>
+    [[nodiscard]] ControlSpot spotOfLast(Is is) const;
+
     const HostEditor *m_editor = nullptr;
     Scenario m_scenario;
     int m_index = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Activity.h"
 #include "host/ControlUse.h"
 #include "host/EditorState.h"
 #include "host/Way.h"
@@ -107,6 +108,10 @@ public:
     /// its window and drops what was typed there is the best way out of it. The close button of a frame is
     /// one, too: ControlSpot::dismiss().
     [[nodiscard]] virtual Ways ways() const { return {}; }
+
+    /// What a person can begin and end here. viewChanged() tells when one of them begins, ends, moves, or
+    /// comes to lie over something.
+    [[nodiscard]] virtual QVector<Activity> activities() const { return {}; }
 
     /// What using the control means just now, in any words that differ when it means something else: the text
     /// of a row; for a map which one it is and with what a person draws; that it is hidden or grey. Empty

@@ -84,7 +84,7 @@ void LessonBubble::follow()
 
 std::optional<QPoint> LessonBubble::target() const
 {
-    if (!m_runner->isRunning() || !m_runner->step().hasPosition()) {
+    if (!m_runner->isRunning()) {
         return {};
     }
     if (m_guide->isAstray()) {
@@ -95,7 +95,7 @@ std::optional<QPoint> LessonBubble::target() const
         return spot ? std::optional(*spot - LessonWords::kTip) : std::nullopt;
     }
     const Step &step = m_runner->step();
-    const std::optional<QPoint> origin = m_editor->origin(step.windowKey);
+    const std::optional<QPoint> origin = step.hasPosition() ? m_editor->origin(step.windowKey) : std::nullopt;
     if (!origin) {
         return {};
     }

@@ -136,7 +136,9 @@ LessonGuide::Verdict LessonGuide::judge(const EditorEvent &event)
     const bool isOtherMenu = !m_needs.start.open.isEmpty() && m_needs.start.open.constLast().isMenu &&
                              event.cause.control.startsWith(m_trail.lastMenu().name + QLatin1Char('/')) &&
                              !m_trail.lastMenu().isLike(m_needs.start.open.constLast());
-    const bool isElsewhere = isOtherMenu || (isAstray() && m_stray != Stray::kCovered);
+    const bool isOnlyHindered =
+        m_stray == Stray::kCovered || m_stray == Stray::kBehind || m_stray == Stray::kEnded;
+    const bool isElsewhere = isOtherMenu || (isAstray() && !isOnlyHindered);
     if (!isElsewhere && m_needs.step.condition.isMetBy(event, m_needs.step.windowKey) &&
         StepRule(m_editor, m_needs.step, m_needs.pointed).counts(event)) {
         return Verdict::kDone;
@@ -186,6 +188,12 @@ void LessonGuide::chooseAsBefore()
             m_editor->perform({spot, ControlUse::Kind::kClick, {}, false});
         }
     }
+}
+
+std::optional<ControlUse> LessonGuide::mendOfActivity() const
+{
+    const bool isActivity = m_stray == Stray::kBehind || m_stray == Stray::kEnded;
+    return isActivity && m_way ? std::optional(ControlUse::of(*m_way)) : std::nullopt;
 }
 
 bool LessonGuide::canPutBack() const

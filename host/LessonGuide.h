@@ -56,6 +56,9 @@ public:
     [[nodiscard]] bool isAstray() const { return m_stray != Stray::kNot; }
     /// What to use next to get back. Nothing when the person is not astray or no control leads back.
     [[nodiscard]] const std::optional<Way> &wayBack() const { return m_way; }
+    /// Astray only in that something goes on above the step, or has ended before it: what the editor can do
+    /// of the way back. Nothing where it is something else, which restore() mends.
+    [[nodiscard]] std::optional<ControlUse> mendOfActivity() const;
     /// Whether something has gone wrong that bringing back an earlier state mends: that of the start of the
     /// step, or, where isLost(), that of a step before.
     [[nodiscard]] bool canPutBack() const;

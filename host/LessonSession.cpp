@@ -180,7 +180,9 @@ void LessonSession::doStep()
     if (!m_runner.isRunning()) {
         return;
     }
-    if (m_guide.isAstray()) {
+    if (const std::optional<ControlUse> mend = m_guide.mendOfActivity()) {
+        m_editor->perform(*mend);
+    } else if (m_guide.isAstray()) {
         restore(m_guide.start());
     }
     const Step step = m_runner.step();

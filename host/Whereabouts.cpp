@@ -63,6 +63,9 @@ Stray Whereabouts::stray() const
     if (!m_needs->start.project.isEmpty() && m_editor->projectId() != m_needs->start.project) {
         return Stray::kProject;
     }
+    if (!beginningOfEnded().isNone()) {
+        return Stray::kEnded;
+    }
     if (!m_needs->step.hasPosition()) {
         return Stray::kNot;
     }
@@ -74,7 +77,7 @@ Stray Whereabouts::stray() const
     }
     const std::optional<ControlSpot> &pointed = m_needs->pointed;
     if (!pointed || (m_editor->rectOf(*pointed) && m_editor->offers(*pointed, m_needs->step.condition))) {
-        return Stray::kNot;
+        return activityAbove() ? Stray::kBehind : Stray::kNot;
     }
     const bool isInMenu = m_editor->windowOf(m_needs->step.windowKey) == QLatin1String("Popup");
     const bool hasMenu = !m_open.isEmpty() && m_open.constLast().isMenu;
@@ -101,12 +104,59 @@ std::optional<Way> Whereabouts::wayBack(Stray stray) const
         const OpenWindows below = withoutMenu(m_open);
         return search.first(m_open, [&below](const OpenWindows &open) { return areAlike(open, below); });
     }
+    case Stray::kBehind: {
+        const std::optional<Activity> above = activityAbove();
+        return above ? std::optional(above->end) : std::nullopt;
+    }
+    case Stray::kEnded:
+        return wayToBegin(beginningOfEnded());
     case Stray::kNot:
     case Stray::kProject:
     case Stray::kGone:
         break;
     }
     return {};
+}
+
+bool Whereabouts::isTheEndOf(const Activity &activity) const
+{
+    const Condition &condition = m_needs->step.condition;
+    return condition.type() == Condition::Type::kAction && condition.target() == activity.action &&
+           condition.value() == QLatin1String("close");
+}
+
+std::optional<Activity> Whereabouts::activityAbove() const
+{
+    const std::optional<QRect> rect = m_needs->pointed ? m_editor->rectOf(*m_needs->pointed) : std::nullopt;
+    if (!rect) {
+        return {};
+    }
+    const QVector<Activity> activities = m_editor->activities();
+    const auto found = std::find_if(activities.cbegin(), activities.cend(), [&](const Activity &activity) {
+        return activity.isOn && activity.rect.contains(rect->center()) && !isTheEndOf(activity);
+    });
+    return found != activities.cend() ? std::optional(*found) : std::nullopt;
+}
+
+ControlSpot Whereabouts::beginningOfEnded() const
+{
+    const QVector<Activity> activities = m_editor->activities();
+    const auto found = std::find_if(activities.cbegin(), activities.cend(), [this](const Activity &activity) {
+        return !activity.isOn && isTheEndOf(activity);
+    });
+    return found != activities.cend() ? m_needs->earlier.beginningOf(found->action) : ControlSpot();
+}
+
+std::optional<Way> Whereabouts::wayToBegin(const ControlSpot &beginning) const
+{
+    const QString window = m_editor->windowOf(beginning.windowKey);
+    const auto isThere = [&window](const OpenWindows &open) {
+        return !open.isEmpty() && open.constLast().name == window;
+    };
+    if (isThere(withoutMenu(m_open))) {
+        return Way{beginning, QStringLiteral("click"), window, Way::Does::kShows, QString(), false};
+    }
+    return WayBack(m_editor->ways()).first(m_open, isThere);
 }
 
 std::optional<Way> Whereabouts::wayToWindows() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Activity.h"
 #include "host/EarlierSteps.h"
 #include "host/StepStart.h"
 #include "host/Way.h"
@@ -21,6 +22,10 @@ enum class Stray {
     kProject,
     /// What it points at is not there, though all else is.
     kGone,
+    /// Something that goes on in a window of its own lies over it.
+    kBehind,
+    /// What it waits for the end of has ended before.
+    kEnded,
 };
 
 /// What a step needs to be there to go on.
@@ -48,6 +53,12 @@ public:
 private:
     [[nodiscard]] bool isThere(const OpenWindows &open) const;
     [[nodiscard]] bool hasOtherMeaning() const;
+    /// What goes on above the control that the step points at, unless the step is about its end.
+    [[nodiscard]] std::optional<Activity> activityAbove() const;
+    /// What began the activity whose end the step waits for; none while that goes on.
+    [[nodiscard]] ControlSpot beginningOfEnded() const;
+    [[nodiscard]] bool isTheEndOf(const Activity &activity) const;
+    [[nodiscard]] std::optional<Way> wayToBegin(const ControlSpot &beginning) const;
     /// Whether the step asks for the right click that has opened this menu, which may lie over the spot then.
     [[nodiscard]] bool isAskedMenu(const OpenWindow &menu) const;
     [[nodiscard]] std::optional<Way> wayToWindows() const;

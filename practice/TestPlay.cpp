@@ -86,6 +86,7 @@ void TestPlay::play(const PlayRequest &request)
     connect(m_window, &player::PlayerWindow::left, this, &TestPlay::onLeft);
     connect(m_window, &player::PlayerWindow::restartAsked, this, &TestPlay::playAgain);
     connect(m_window, &player::PlayerWindow::placeAsked, this, &TestPlay::showPlace);
+    m_windows->setPlayWindow(m_window, [window = m_window] { return window->leaveRect(); });
     m_window->showBeside(inSight(), m_strip->window()->windowHandle()->screen()->availableGeometry());
 }
 

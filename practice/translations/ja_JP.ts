@@ -9,6 +9,14 @@
         <translation>このレッスンは「%1」で続きます。</translation>
     </message>
     <message>
+        <source>The game lies over what this step is about. Click “Esc” below it until it closes.</source>
+        <translation>ゲームが、次に使うところを隠しています。ゲームが閉じるまで、下の「Esc」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>The game is closed already.</source>
+        <translation>ゲームはもう終わっています。</translation>
+    </message>
+    <message>
         <source>Press Esc: the menu closes.</source>
         <translation>Escキーを押すと、メニューが閉じます。</translation>
     </message>

@@ -9,6 +9,14 @@
         <translation>课程在“%1”窗口中继续。</translation>
     </message>
     <message>
+        <source>The game lies over what this step is about. Click “Esc” below it until it closes.</source>
+        <translation>游戏挡住了这一步要用的地方。请点击游戏下方的“Esc”，直到游戏关闭。</translation>
+    </message>
+    <message>
+        <source>The game is closed already.</source>
+        <translation>游戏已经关闭了。</translation>
+    </message>
+    <message>
         <source>Press Esc: the menu closes.</source>
         <translation>按 Esc 键，菜单就会关闭。</translation>
     </message>

@@ -1,11 +1,19 @@
 #include "window/BackHints.h"
 
 #include "lesson/Scenario.h"
+#include "window/PlayCover.h"
 
 namespace {
 
 using Does = Way::Does;
 using Kind = WindowDescription::Kind;
+
+bool isTheEndOfPlay(const Step &step)
+{
+    return step.condition.type() == Condition::Type::kAction &&
+           step.condition.target() == QLatin1String("play") &&
+           step.condition.value() == QLatin1String("close");
+}
 
 } // namespace
 
@@ -18,6 +26,12 @@ BackHints::BackHints(const EditorView &view, const ControlFinder *finder)
 QString BackHints::hint(const Way &way, const Step &step) const
 {
     QString todo = action(way);
+    if (PlayCover::isWayOut(way.by)) {
+        return todo;
+    }
+    if (way.does == Does::kShows && isTheEndOfPlay(step)) {
+        return tr("The game is closed already.") + QLatin1Char('\n') + todo;
+    }
     const QString title = titleOf(step.windowKey);
     if (way.does == Does::kShows || title.isEmpty()) {
         return todo;
@@ -30,6 +44,10 @@ QString BackHints::action(const Way &way) const
 {
     if (way.icon == QLatin1String("wait")) {
         return tr("Wait a moment: this window closes by itself.");
+    }
+    if (PlayCover::isWayOut(way.by)) {
+        //: “Esc” is a key that is drawn below the game.
+        return tr("The game lies over what this step is about. Click “Esc” below it until it closes.");
     }
     if (way.by.control == ControlSpot::dismiss()) {
         return way.by.windowKey == m_view.descriptions->popupKey() ? tr("Press Esc: the menu closes.")

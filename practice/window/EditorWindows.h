@@ -6,6 +6,8 @@
 
 #include <QMap>
 
+#include <functional>
+
 class QWidget;
 
 /// What the rest of the practice editor knows of its windows, beside what any host editor tells a lesson. The
@@ -63,6 +65,10 @@ public:
     virtual void setPlayer(const PlayWords::Play &play) = 0;
     /// Lets the project be played as it stands, as its button does; nothing happens while none is open.
     virtual void play() = 0;
+    /// The window in which the project is played, once it is shown: where it lies over what a lesson points
+    /// at, it is to be closed. @p leaveRect gives, in global pixels, where in it a click leaves the game;
+    /// nothing while there is no room for that.
+    virtual void setPlayWindow(QWidget *window, const std::function<std::optional<QRect>()> &leaveRect) = 0;
     /// What was played is over, which a lesson may wait for.
     virtual void tellPlayed() = 0;
     /// Shows a place among the event commands, ready to be changed. False when there is no such place any

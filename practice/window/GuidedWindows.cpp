@@ -39,6 +39,7 @@ GuidedWindows::GuidedWindows()
 {
     connect(&m_tips, &HoverTips::hovered, this, &HostEditor::hovered);
     connect(&m_tips, &HoverTips::unhovered, this, &HostEditor::unhovered);
+    connect(&m_cover, &PlayCover::changed, this, &HostEditor::viewChanged);
 }
 
 GuidedWindows::~GuidedWindows() = default;
@@ -87,7 +88,7 @@ std::optional<ControlSpot> GuidedWindows::controlFor(const Step &step) const
 
 std::optional<QRect> GuidedWindows::rectOf(const ControlSpot &spot) const
 {
-    return m_guides->finder.rectOf(spot);
+    return m_cover.isWayOut(spot) ? m_cover.leaveRect() : m_guides->finder.rectOf(spot);
 }
 
 void GuidedWindows::reveal(const ControlSpot &spot)
@@ -175,6 +176,10 @@ bool GuidedWindows::perform(const ControlUse &use)
             Q_EMIT playEndAsked();
         }
         return isKnown;
+    }
+    if (m_cover.isWayOut(use.spot)) {
+        Q_EMIT playEndAsked();
+        return true;
     }
     if (use.spot.control.isEmpty()) {
         const QWidget *const top = topWindow();

@@ -7,6 +7,7 @@
 #include "window/EditorWindows.h"
 #include "window/FocusReturn.h"
 #include "window/HoverTips.h"
+#include "window/PlayCover.h"
 #include "window/PressGuard.h"
 #include "window/StateKeeper.h"
 
@@ -33,6 +34,7 @@ public:
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const override;
     [[nodiscard]] bool offers(const ControlSpot &spot, const Condition &condition) const override;
     [[nodiscard]] Ways ways() const override;
+    [[nodiscard]] QVector<Activity> activities() const override { return {m_cover.activity()}; }
     [[nodiscard]] QString meaningOf(const ControlSpot &spot) const override;
     [[nodiscard]] QVector<ControlSpot> chosen() const override;
     [[nodiscard]] std::optional<UnknownWord> unknownWord(const Step &step) const override;
@@ -47,6 +49,10 @@ public:
     [[nodiscard]] std::optional<QPoint> spotToPutBack() const override;
 
     void setPutBackButton(QWidget *button) override;
+    void setPlayWindow(QWidget *window, const std::function<std::optional<QRect>()> &leaveRect) override
+    {
+        m_cover.setWindow(window, leaveRect);
+    }
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     bool showPlace(const EventPlace &place) override;
@@ -71,4 +77,5 @@ private:
     FocusReturn m_focus;
     PressGuard m_presses;
     HoverTips m_tips;
+    PlayCover m_cover;
 };

@@ -160,6 +160,14 @@ void GameView::paintEvent(QPaintEvent * /*event*/)
     }
 }
 
+void GameView::strike(Qt::Key key)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    keyPressEvent(&press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    keyReleaseEvent(&release);
+}
+
 void GameView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && !event->isAutoRepeat() && isOutermost()) {

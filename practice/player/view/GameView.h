@@ -25,6 +25,8 @@ public:
     void setPaused(bool isPaused);
 
     [[nodiscard]] Keys &keys() { return m_keys; }
+    /// Does what the key of the keyboard does.
+    void strike(Qt::Key key);
 
     /// What the game says just now: the text of its uppermost window that says something.
     [[nodiscard]] QString words() const;

@@ -1,6 +1,9 @@
 #include "player/view/KeyLine.h"
 
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace player {
 
@@ -36,14 +39,22 @@ KeyLine::KeyLine(QWidget *parent)
     const QString leave = tr("Cancel, to the editor");
     //: Below a game, behind the F5 key: what it does. There is room for some 20 letters.
     const QString anew = tr("Begin anew");
-    m_hints = {{{QStringLiteral("←"), QStringLiteral("↑"), QStringLiteral("↓"), QStringLiteral("→")}, walk},
-               {{QStringLiteral("Enter")}, act},
-               {{QStringLiteral("X")}, menu},
-               {{QStringLiteral("Esc")}, leave},
-               {{QStringLiteral("F5")}, anew}};
+    m_hints = {{{{Qt::Key_Left, QStringLiteral("←")},
+                 {Qt::Key_Up, QStringLiteral("↑")},
+                 {Qt::Key_Down, QStringLiteral("↓")},
+                 {Qt::Key_Right, QStringLiteral("→")}},
+                walk},
+               {{{Qt::Key_Return, QStringLiteral("Enter")}}, act},
+               {{{Qt::Key_X, QStringLiteral("X")}}, menu},
+               {{{Qt::Key_Escape, QStringLiteral("Esc")}}, leave},
+               {{{Qt::Key_F5, QStringLiteral("F5")}}, anew}};
     QStringList words;
     for (const Hint &hint : qAsConst(m_hints)) {
-        words.append(hint.caps.join(QLatin1Char(' ')) + QStringLiteral(": ") + hint.meaning);
+        QStringList caps;
+        for (const Cap &cap : hint.caps) {
+            caps.append(cap.text);
+        }
+        words.append(caps.join(QLatin1Char(' ')) + QStringLiteral(": ") + hint.meaning);
     }
     setAccessibleName(words.join(QStringLiteral("; ")));
 }
@@ -64,8 +75,8 @@ QFont KeyLine::letters(int pixels) const
 int KeyLine::widthOf(const Hint &hint, const QFontMetrics &metrics) const
 {
     int width = kBehindCaps + metrics.horizontalAdvance(hint.meaning) - kBetweenCaps;
-    for (const QString &cap : hint.caps) {
-        width += metrics.horizontalAdvance(cap) + 2 * kInCap + kBetweenCaps;
+    for (const Cap &cap : hint.caps) {
+        width += metrics.horizontalAdvance(cap.text) + 2 * kInCap + kBetweenCaps;
     }
     return width;
 }
@@ -98,37 +109,69 @@ int KeyLine::toldWithin(int width) const
     return told;
 }
 
-void KeyLine::paintEvent(QPaintEvent * /*event*/)
+QVector<KeyLine::Piece> KeyLine::pieces() const
 {
-    const QFont font = letters(lettersWithin(width()));
-    const QFontMetrics metrics(font);
+    const QFontMetrics metrics(letters(lettersWithin(width())));
     const int told = toldWithin(width());
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(font);
-    // Seen on light and dark desktops alike.
-    QColor edge = palette().color(QPalette::ButtonText);
-    edge.setAlpha(kEdgeOpacity);
     int left = kMargin + (width() - widthOf(told, metrics)) / 2;
-    const auto room = [this, &left](int width) {
-        return QRect(left, kAround / 2, width, height() - kAround);
+    QVector<Piece> pieces;
+    const auto add = [&](const QString &text, int around, std::optional<Qt::Key> key) {
+        const QRect rect(left, kAround / 2, metrics.horizontalAdvance(text) + 2 * around, height() - kAround);
+        pieces.append({rect, text, key});
+        left += rect.width();
     };
     for (int number = 0; number < told; ++number) {
         const Hint &hint = m_hints.at(number);
-        for (const QString &cap : hint.caps) {
-            const QRect rect = room(metrics.horizontalAdvance(cap) + 2 * kInCap);
-            painter.setPen(edge);
-            painter.setBrush(palette().color(QPalette::Button));
-            painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-            painter.setPen(palette().color(QPalette::ButtonText));
-            painter.drawText(rect, Qt::AlignCenter, cap);
-            left += rect.width() + kBetweenCaps;
+        for (const Cap &cap : hint.caps) {
+            add(cap.text, kInCap, cap.key);
+            left += kBetweenCaps;
         }
         left += kBehindCaps - kBetweenCaps;
-        const QRect rect = room(metrics.horizontalAdvance(hint.meaning));
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, hint.meaning);
-        left += rect.width() + kBetweenHints;
+        add(hint.meaning, 0, {});
+        left += kBetweenHints;
+    }
+    return pieces;
+}
+
+QRect KeyLine::capOf(Qt::Key key) const
+{
+    const QVector<Piece> told = pieces();
+    const auto cap =
+        std::find_if(told.cbegin(), told.cend(), [key](const Piece &piece) { return piece.key == key; });
+    return cap != told.cend() ? cap->rect : QRect();
+}
+
+void KeyLine::mousePressEvent(QMouseEvent *event)
+{
+    const QVector<Piece> told = pieces();
+    const auto cap = std::find_if(told.cbegin(), told.cend(), [event](const Piece &piece) {
+        return piece.key && piece.rect.contains(event->pos());
+    });
+    if (cap != told.cend() && event->button() == Qt::LeftButton) {
+        Q_EMIT pressed(*cap->key);
+    }
+}
+
+void KeyLine::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(letters(lettersWithin(width())));
+    // Seen on light and dark desktops alike.
+    QColor edge = palette().color(QPalette::ButtonText);
+    edge.setAlpha(kEdgeOpacity);
+    const QVector<Piece> told = pieces();
+    for (const Piece &piece : told) {
+        if (!piece.key) {
+            painter.setPen(palette().color(QPalette::WindowText));
+            painter.drawText(piece.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, piece.text);
+            continue;
+        }
+        painter.setPen(edge);
+        painter.setBrush(palette().color(QPalette::Button));
+        painter.drawRoundedRect(QRectF(piece.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+        painter.setPen(palette().color(QPalette::ButtonText));
+        painter.drawText(piece.rect, Qt::AlignCenter, piece.text);
     }
 }
 

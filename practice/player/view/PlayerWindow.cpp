@@ -50,6 +50,7 @@ PlayerWindow::PlayerWindow(std::unique_ptr<Game> game, std::unique_ptr<Artwork> 
     connect(&m_timer, &QTimer::timeout, this, &PlayerWindow::run);
     connect(m_view, &GameView::leaveAsked, this, &QWidget::close);
     connect(m_view, &GameView::restartAsked, this, &PlayerWindow::restartAsked);
+    connect(m_keys, &KeyLine::pressed, m_view, &GameView::strike);
     connect(m_log, &LogPane::placeAsked, this, &PlayerWindow::placeAsked);
     tell(m_game->takeProblems());
     m_view->setFrame(m_game->frame());
@@ -67,6 +68,13 @@ void PlayerWindow::showBeside(const QVector<QRect> &inSight, const QRect &screen
     raise();
     activateWindow();
     m_view->setFocus();
+}
+
+std::optional<QRect> PlayerWindow::leaveRect() const
+{
+    const QRect cap = m_keys->capOf(Qt::Key_Escape);
+    return cap.isEmpty() ? std::nullopt
+                         : std::optional(QRect(m_keys->mapToGlobal(cap.topLeft()), cap.size()));
 }
 
 void PlayerWindow::run()

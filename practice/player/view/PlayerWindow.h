@@ -9,10 +9,12 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace player {
 
 class GameView;
+class KeyLine;
 class LogPane;
 
 /// The window of a game that is tried out: its screen, the keys, and what it could not do. The game goes on
@@ -30,6 +32,9 @@ public:
     /// Comes up on @p screen, as large as it fits beside what is to stay in sight; all in pixels of the
     /// screen.
     void showBeside(const QVector<QRect> &inSight, const QRect &screen);
+
+    /// Where a click does what the escape key does, in global pixels; nothing in a window too narrow for it.
+    [[nodiscard]] std::optional<QRect> leaveRect() const;
 
     [[nodiscard]] Game &game() { return *m_game; }
     [[nodiscard]] GameView *view() const { return m_view; }
@@ -59,7 +64,7 @@ private:
     /// nullptr on a machine that plays nothing.
     std::unique_ptr<Loudspeaker> m_loudspeaker;
     GameView *m_view;
-    QWidget *m_keys;
+    KeyLine *m_keys;
     LogPane *m_log;
     QTimer m_timer;
     QElapsedTimer m_clock;

@@ -29,6 +29,7 @@ public:
     /// What the person acts on from now on.
     ControlSpot m_cause;
     Ways m_ways;
+    QVector<Activity> m_activities;
     /// Controls that bring no condition about.
     QStringList m_inert;
     /// Window keys that it does not know.
@@ -121,6 +122,7 @@ public:
         return condition.type() != Condition::Type::kComboBox || condition.value().toInt() < m_entries;
     }
     [[nodiscard]] Ways ways() const override { return m_ways; }
+    [[nodiscard]] QVector<Activity> activities() const override { return m_activities; }
     [[nodiscard]] std::optional<UnknownWord> unknownWord(const Step &step) const override
     {
         return m_unknown.contains(step.windowKey)

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void aProblemLeadsToItsEvent();
     void aProblemOfTheDatabaseLeadsToItsEntry();
     void theStripStaysInSight();
+    void aLessonSeesWhereTheGameLiesAndHowItIsLeft();
+    void aDialogThatIsUsedLiesAboveTheGame();
 
 private:
     void play() { m_editor->click("MainWindow", "play"); }
@@ -250,6 +252,48 @@ void tst_TestPlay::theStripStaysInSight()
     if (screen.height() - strip.height() > game.height() + 40) {
         QVERIFY(!game.intersects(strip));
     }
+}
+
+void tst_TestPlay::aLessonSeesWhereTheGameLiesAndHowItIsLeft()
+{
+    QSignalSpy changed(m_editor->operator->(), &HostEditor::viewChanged);
+    QVERIFY(!(*m_editor)->activities().first().isOn);
+    play();
+    QVERIFY(!changed.isEmpty());
+    const Activity game = (*m_editor)->activities().first();
+    QCOMPARE(game.action, str("play"));
+    QVERIFY(game.isOn);
+    QCOMPARE(game.rect, window()->frameGeometry());
+    const std::optional<QRect> end = (*m_editor)->rectOf(game.end.by);
+    QVERIFY(end);
+    QVERIFY(game.rect.contains(*end));
+    QTRY_VERIFY_WITH_TIMEOUT(window()->view()->isOutermost(), kSoonMs);
+    QWidget *const keys = window()->childAt(window()->mapFromGlobal(end->center()));
+    QVERIFY(keys != nullptr);
+    changed.clear();
+    QTest::mouseClick(keys, Qt::LeftButton, {}, keys->mapFromGlobal(end->center()));
+    QVERIFY(!m_play->isOn());
+    QVERIFY(!changed.isEmpty());
+    QVERIFY(!(*m_editor)->activities().first().isOn);
+    QVERIFY(!(*m_editor)->rectOf(game.end.by));
+}
+
+void tst_TestPlay::aDialogThatIsUsedLiesAboveTheGame()
+{
+    play();
+    QTRY_VERIFY_WITH_TIMEOUT(window()->isActiveWindow(), kSoonMs);
+    (*m_editor)->open(str("DatabaseMain"));
+    QWidget *const dialog = (*m_editor)->window(str("DatabaseMain"))->window();
+    dialog->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT((*m_editor)->activities().first().rect.isEmpty(), kSoonMs);
+    QVERIFY((*m_editor)->activities().first().isOn);
+    window()->activateWindow();
+    QTRY_COMPARE_WITH_TIMEOUT((*m_editor)->activities().first().rect, window()->frameGeometry(), kSoonMs);
+    // The main window stays below the game, whichever of them has the keyboard.
+    (*m_editor)->close(str("DatabaseMain"));
+    m_strip->window()->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(m_strip->window()->isActiveWindow(), kSoonMs);
+    QCOMPARE((*m_editor)->activities().first().rect, window()->frameGeometry());
 }
 
 QTEST_MAIN(tst_TestPlay)

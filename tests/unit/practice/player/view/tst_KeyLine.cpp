@@ -14,6 +14,7 @@ private Q_SLOTS:
     void inANarrowWindowTheFirstOnesAreTold();
     void theKeyThatBeginsAnewIsAmongThem();
     void whatIsDrawnStaysWithinTheLine();
+    void aClickOnAKeyPressesIt();
 };
 
 void tst_KeyLine::allKeysAreToldInTheUsualSizes()
@@ -57,6 +58,25 @@ void tst_KeyLine::whatIsDrawnStaysWithinTheLine()
         }
         QVERIFY(isDrawn);
     }
+}
+
+void tst_KeyLine::aClickOnAKeyPressesIt()
+{
+    KeyLine line;
+    line.resize(960, line.sizeHint().height());
+    QVector<Qt::Key> pressed;
+    connect(&line, &KeyLine::pressed, &line, [&pressed](Qt::Key key) { pressed.append(key); });
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Left, Qt::Key_F5}) {
+        QVERIFY(line.rect().contains(line.capOf(key)));
+        QTest::mouseClick(&line, Qt::LeftButton, {}, line.capOf(key).center());
+    }
+    QCOMPARE(pressed, (QVector<Qt::Key>{Qt::Key_Escape, Qt::Key_Left, Qt::Key_F5}));
+    // Beside them, on what is said of them.
+    QTest::mouseClick(&line, Qt::LeftButton, {}, line.capOf(Qt::Key_Escape).center() + QPoint(60, 0));
+    QTest::mouseClick(&line, Qt::LeftButton, {}, QPoint(1, 1));
+    QCOMPARE(pressed.size(), 3);
+    line.resize(200, line.height());
+    QVERIFY(line.capOf(Qt::Key_F5).isEmpty());
 }
 
 QTEST_MAIN(tst_KeyLine)
