@@ -94,6 +94,14 @@ public:
         return true;
     }
 
+    /// Whether each use of the control does the same once more, as a button that adds an entry; of a field
+    /// the last value holds. What is used more often than a step asks for has gone wrong.
+    [[nodiscard]] virtual bool addsUp(const ControlSpot &spot) const
+    {
+        Q_UNUSED(spot)
+        return false;
+    }
+
     /// Whether the control has what the condition asks for to be chosen in it: a box whose third entry is to
     /// be chosen has three of them. What has not counts as a control that is not there.
     [[nodiscard]] virtual bool offers(const ControlSpot &spot, const Condition &condition) const

@@ -80,6 +80,7 @@ void LessonGuide::beginStep(const ScenarioRunner &runner, bool canGoBack)
     m_isUsed = false;
     m_isUsedNow = false;
     m_vainSteps = 0;
+    m_changes = 0;
     m_stray = Stray::kNot;
     m_way.reset();
     m_beganAstray = false;
@@ -235,6 +236,8 @@ bool LessonGuide::restore(const StepStart &start)
         m_needs.start.dataMark = m_editor->dataMark();
         m_isUsed = false;
         m_isUsedNow = false;
+        m_changes = 0;
+        m_lastMark = m_needs.start.dataMark;
         m_wrongMoves = 0;
         m_vainUses = 0;
         m_goneWays.clear();
@@ -278,8 +281,8 @@ void LessonGuide::endTurn()
     if (isFirst) {
         takeStart();
     }
-    if (std::exchange(m_isUsedNow, false) && wantsWindow()) {
-        ++m_vainSteps;
+    if (std::exchange(m_isUsedNow, false)) {
+        countUse();
     }
     takeReturn();
     const Whereabouts now(m_editor, &m_needs, m_trail.open());
@@ -296,6 +299,20 @@ void LessonGuide::endTurn()
         Q_EMIT changed();
     }
     Q_EMIT turned();
+}
+
+void LessonGuide::countUse()
+{
+    m_vainSteps += wantsWindow() ? 1 : 0;
+    if (!m_needs.pointed || !m_editor->addsUp(*m_needs.pointed)) {
+        return;
+    }
+    const QString mark = m_editor->dataMark();
+    const bool isChange = std::exchange(m_lastMark, mark) != mark;
+    m_changes += isChange ? 1 : 0;
+    if (isChange && m_changes > ControlUse::of(m_needs.step, *m_needs.pointed).times) {
+        ++m_wrongMoves;
+    }
 }
 
 std::optional<Way> LessonGuide::usableWay(const Whereabouts &now, Stray stray)
@@ -355,6 +372,7 @@ void LessonGuide::takeStart()
     }
     const StepStart before = std::exchange(m_needs.start, StepStart::of(*m_editor, m_trail, m_needs.pointed));
     m_needs.start.takeWindows(before, m_editor->windowOf(m_needs.step.windowKey));
+    m_lastMark = m_needs.start.dataMark;
     m_needs.start.leftBehind = m_leftBehind;
     m_ahead = m_behind ? StepAhead(m_editor, *m_behind) : StepAhead();
 }

@@ -93,6 +93,8 @@ private:
     /// What leads back, if that can be used and has not come to nothing so far.
     [[nodiscard]] std::optional<Way> usableWay(const Whereabouts &now, Stray stray);
     void takeStart();
+    /// What the step points at was used in this turn, maybe once too often.
+    void countUse();
     void blame(const EditorEvent &event);
     void offerHelp();
     /// There is a state to bring back.
@@ -134,7 +136,10 @@ private:
     int m_wrongClicks = 0;
     /// What the step points at was used.
     bool m_isUsed = false;
-    /// The same in this turn, and in how many turns without an end of the step, which is to open a window.
+    /// Where that adds up: how often it has changed the data, and what they were at the end of the last turn.
+    int m_changes = 0;
+    QString m_lastMark;
+    /// It was used in this turn, and in how many turns without an end of the step, which is to open a window.
     bool m_isUsedNow = false;
     int m_vainSteps = 0;
     /// In a step to look at, something else was chosen than what it began with, at the end of the last turn.

@@ -5,9 +5,15 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 const QLatin1String kId("id");
+
+/// How far beside each other entries with a place are put, and how many of them find one.
+constexpr int kApart = 80;
+constexpr int kMostApart = 6;
 
 QString entryRoot()
 {
@@ -53,6 +59,14 @@ QJsonValue emptied(const QJsonValue &value)
     default:
         return value;
     }
+}
+
+/// Whether there is anything in the entry besides its number.
+bool isFilled(const QJsonValue &entry)
+{
+    QJsonObject object = entry.toObject();
+    object.remove(kId);
+    return entry.isObject() ? emptied(object) != object : emptied(entry) != entry;
 }
 
 } // namespace
@@ -102,7 +116,8 @@ ListCommands::ListCommands(const RowSources *sources)
 
 void ListCommands::addTo(Commands &commands, Fields &fields, RowSources &sources)
 {
-    addCommand(commands, "list.add", &ListCommands::add, &ListCommands::isThere);
+    addCommand(commands, "list.add", &ListCommands::add, &ListCommands::canAdd);
+    addCommand(commands, "list.addApart", &ListCommands::addApart, &ListCommands::canAdd);
     addCommand(commands, "list.remove", &ListCommands::remove, &ListCommands::hasEntry);
     addCommand(commands, "list.copy", &ListCommands::copy, &ListCommands::hasEntry);
     addCommand(commands, "list.paste", &ListCommands::paste, &ListCommands::canPaste);
@@ -114,6 +129,12 @@ void ListCommands::addTo(Commands &commands, Fields &fields, RowSources &sources
     fields.add(
         QStringLiteral("list.count"), [this](const DataLayer & /*layer*/) { return m_count; },
         [this](DataLayer & /*layer*/, const QVariant &value) { m_count = value.toInt(); });
+    const auto keep = [](DataLayer & /*layer*/, const QVariant & /*value*/) {
+    };
+    fields.add(
+        QStringLiteral("list.lost"), [this](const DataLayer &layer) { return lost(layer); }, keep);
+    fields.add(
+        QStringLiteral("list.loses"), [this](const DataLayer &layer) { return lost(layer) > 0; }, keep);
     for (const QString &root : {entryRoot(), countedRoot()}) {
         sources.addRoot(root, [root](const DataLayer &layer) { return layer.mark(root); });
     }
@@ -185,11 +206,41 @@ void ListCommands::add(List &list, const CommandCall &call, DataLayer &layer)
     layer.setMark(entryRoot(), list.placeOf(number));
 }
 
+void ListCommands::addApart(List &list, const CommandCall &call, DataLayer &layer)
+{
+    QJsonObject entry = call.entry.toObject();
+    const auto isAmong = [&list, &entry](const QStringList &members) {
+        return std::any_of(list.entries.cbegin(), list.entries.cend(), [&](const QJsonValue &other) {
+            return std::all_of(members.cbegin(), members.cend(),
+                               [&](const QString &member) { return other[member] == entry.value(member); });
+        });
+    };
+    const QString kX = QStringLiteral("x");
+    const int middle = entry.value(kX).toInt();
+    for (int number = 1; entry.contains(kX) && isAmong({kX, QStringLiteral("y")}) && number <= kMostApart;
+         ++number) {
+        const int steps = number % 2 == 1 ? (number + 1) / 2 : -number / 2;
+        entry.insert(kX, middle + steps * kApart);
+    }
+    const QString kActor = QStringLiteral("actorId");
+    const int actors = int(layer.file(QStringLiteral("data/Actors.json")).toArray().size());
+    for (int actor = 1; entry.contains(kActor) && isAmong({kActor}) && actor < actors; ++actor) {
+        entry.insert(kActor, actor);
+    }
+    add(list, {call.argument, entry}, layer);
+}
+
 void ListCommands::remove(List &list, const CommandCall & /*call*/, DataLayer &layer)
 {
     if (list.hasIds()) {
         const QJsonValue old = list.entries.at(list.selected);
-        list.entries.replace(list.selected, List::withId(emptied(old), list.selected, old));
+        const bool isLast = list.selected == list.entries.size() - 1 && list.selected > list.first();
+        if (isLast && !isFilled(old)) {
+            list.entries.removeLast();
+            --list.selected;
+        } else {
+            list.entries.replace(list.selected, List::withId(emptied(old), list.selected, old));
+        }
     } else {
         list.entries.removeAt(list.selected);
     }
@@ -247,6 +298,23 @@ void ListCommands::resize(List &list, const CommandCall &call, DataLayer &layer)
         list.entries.append(list.fresh(call.entry, int(list.entries.size())));
     }
     write(list, qBound(first, list.selected, qMax(first, size - 1)), layer);
+}
+
+int ListCommands::lost(const DataLayer &layer) const
+{
+    const std::optional<DataPlace> place = layer.mark(countedRoot());
+    if (!place) {
+        return 0;
+    }
+    const QJsonArray entries = layer.value(place->file, place->pointer).toArray();
+    const int first = !entries.isEmpty() && entries.at(0).isNull() ? 1 : 0;
+    const int kept = qMin(int(entries.size()), qMax(0, m_count) + first);
+    return int(std::count_if(entries.cbegin() + kept, entries.cend(), &isFilled));
+}
+
+bool ListCommands::canAdd(const List &list) const
+{
+    return !list.hasIds() || list.entries.size() - list.first() < kMost;
 }
 
 bool ListCommands::isThere(const List & /*list*/) const

@@ -10,14 +10,19 @@ class QJsonArray;
 /// done with an entry is done with the one that is selected in it, and is one step of the history.
 ///
 /// In a list whose first entry is null the others are known by their numbers, which never change: new ones
-/// come last, and one that is removed becomes an empty one with the same members.
+/// come last, and one that is removed becomes an empty one with the same members, or goes if it
+/// is that already and the last. There are at most kMost of them.
 class ListCommands
 {
 public:
     /// @p sources outlive the commands.
     explicit ListCommands(const RowSources *sources);
 
-    /// Adds the commands "list.", the field "list.count" and the roots "entry" and "counted".
+    static constexpr int kMost = 999;
+
+    /// Adds the commands "list.", the fields "list.count", "list.lost" (how many entries with something in
+    /// them go when that many are left) and "list.loses" (whether any do), and the roots "entry" and
+    /// "counted".
     void addTo(Commands &commands, Fields &fields, RowSources &sources);
     /// What was copied.
     void addTo(StateParts &states);
@@ -34,6 +39,7 @@ private:
     void write(const List &list, int number, DataLayer &layer) const;
 
     void add(List &list, const CommandCall &call, DataLayer &layer);
+    void addApart(List &list, const CommandCall &call, DataLayer &layer);
     void remove(List &list, const CommandCall &call, DataLayer &layer);
     void copy(List &list, const CommandCall &call, DataLayer &layer);
     void paste(List &list, const CommandCall &call, DataLayer &layer);
@@ -43,7 +49,12 @@ private:
     void count(List &list, const CommandCall &call, DataLayer &layer);
     void resize(List &list, const CommandCall &call, DataLayer &layer);
 
+    /// How many entries with something in them are behind the first m_count of the list that "list.count"
+    /// named.
+    [[nodiscard]] int lost(const DataLayer &layer) const;
+
     [[nodiscard]] bool isThere(const List &list) const;
+    [[nodiscard]] bool canAdd(const List &list) const;
     [[nodiscard]] bool hasEntry(const List &list) const;
     [[nodiscard]] bool canPaste(const List &list) const;
     [[nodiscard]] bool canMoveUp(const List &list) const;

@@ -90,12 +90,15 @@ QString RowText::text(const Piece &piece, const QJsonValue &entry, int number, c
     if (piece.member == QLatin1String("@number")) {
         return QString::number(number);
     }
+    if (piece.member == QLatin1String("@place")) {
+        return QString::number(number + 1);
+    }
     // A text is called what it says, as in a list of switches.
     const bool isItself =
         piece.member.isEmpty() || (entry.isString() && piece.member == QLatin1String("name"));
     const QJsonValue value = isItself ? entry : JsonPointer::value(entry, QLatin1Char('/') + piece.member);
     if (!piece.set.isEmpty()) {
-        const Choice choice = m_choices->choice(piece.set, value);
+        const Choice choice = m_choices->choice(piece.set, value.isUndefined() ? QJsonValue(0) : value);
         if (!choice.row.isEmpty() && m_kind == Kind::kRow) {
             return RowText(choice.row, m_sources, m_choices, Kind::kRowOfChoice).text(entry, number, layer);
         }

@@ -163,6 +163,12 @@ bool EditorWays::hasWay(const ControlSpot &spot, Way::Does does, const QString &
     });
 }
 
+bool EditorWays::addsUp(const ControlSpot &spot) const
+{
+    const ControlDescription *const control = controlOf(*m_descriptions, spot);
+    return control != nullptr && control->type == QLatin1String("button");
+}
+
 QString EditorWays::windowOf(const QString &key) const
 {
     if (!m_descriptions->contains(key)) {

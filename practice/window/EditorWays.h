@@ -17,6 +17,9 @@ public:
     /// Whether the control brings the condition about by itself.
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const;
 
+    /// Whether each click on the control does the same once more: it is a button.
+    [[nodiscard]] bool addsUp(const ControlSpot &spot) const;
+
     /// Key of the window in which what has this key is used; "Popup" for context menus, empty for the screen.
     [[nodiscard]] QString windowOf(const QString &key) const;
 

@@ -49,8 +49,13 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
 
 void EditorWindow::refresh()
 {
+    m_shown.clear();
+    m_hidesFocus = false;
     Q_EMIT arranged();
     Q_EMIT refreshed();
+    if (m_hidesFocus) {
+        focusFirstOf(m_shown);
+    }
     const QVector<QWidget *> coming = std::exchange(m_coming, {});
     for (QWidget *control : coming) {
         Q_EMIT cameUp(control);
@@ -59,11 +64,14 @@ void EditorWindow::refresh()
 
 void EditorWindow::setAway(QWidget *control, bool isAway)
 {
+    const QWidget *const focus = QApplication::focusWidget();
+    m_hidesFocus =
+        m_hidesFocus || (isAway && focus != nullptr && (focus == control || control->isAncestorOf(focus)));
     control->setVisible(!isAway);
     if (isAway) {
         m_away.insert(control);
-    } else {
-        m_away.remove(control);
+    } else if (m_away.remove(control)) {
+        m_shown.append(control);
     }
 }
 
@@ -224,7 +232,12 @@ void EditorWindow::setDefaultButton(QPushButton *button)
 
 void EditorWindow::focusFirst()
 {
-    for (QWidget *control : qAsConst(m_controls)) {
+    focusFirstOf(m_controls);
+}
+
+void EditorWindow::focusFirstOf(const QVector<QWidget *> &controls)
+{
+    for (QWidget *control : controls) {
         const bool canBe = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabledTo(this) &&
                            control->isVisibleTo(this);
         if (canBe && qobject_cast<QTabBar *>(control) == nullptr) {
@@ -260,9 +273,26 @@ void EditorWindow::keyPressEvent(QKeyEvent *event)
         m_defaultButton->click();
     } else if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::Dialog)) {
         Q_EMIT closeRequested();
-    } else {
+    } else if (!changesTab(*event)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+bool EditorWindow::changesTab(const QKeyEvent &event)
+{
+    const bool isBack = event.key() == Qt::Key_Backtab;
+    if (!event.modifiers().testFlag(Qt::ControlModifier) || !(isBack || event.key() == Qt::Key_Tab)) {
+        return false;
+    }
+    for (QWidget *control : qAsConst(m_controls)) {
+        auto *const tabs = qobject_cast<QTabBar *>(control);
+        if (tabs != nullptr && tabs->isVisible() && tabs->isEnabled() && tabs->count() > 1) {
+            const int step = isBack ? tabs->count() - 1 : 1;
+            tabs->setCurrentIndex((tabs->currentIndex() + step) % tabs->count());
+            return true;
+        }
+    }
+    return false;
 }
 
 void EditorWindow::paintEvent(QPaintEvent * /*event*/)

@@ -119,6 +119,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    /// Besides Enter and Esc: Ctrl+Tab and Ctrl+Shift+Tab go through the first row of tabs.
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -126,6 +127,9 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void focusFirstOf(const QVector<QWidget *> &controls);
+    /// The key goes to another tab.
+    bool changesTab(const QKeyEvent &event);
     void refresh();
     [[nodiscard]] bool isOfUse() const { return isVisible() && !m_isBlocked; }
 
@@ -144,6 +148,9 @@ private:
     QSet<const QWidget *> m_away;
     QString m_changing;
     QVector<QWidget *> m_coming;
+    /// Of the controls that take turns: those that have come last, and whether one with the focus has gone.
+    QVector<QWidget *> m_shown;
+    bool m_hidesFocus = false;
     std::vector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
     QTimer m_timer;

@@ -266,7 +266,7 @@ void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action,
                               const ControlSpot &cause)
 {
     const QScopedValueRollback<ControlSpot> now(m_cause, toldSpot(cause));
-    if (action.close || m_popup.window() == window) {
+    if (action.close || !action.open.isEmpty() || m_popup.window() == window) {
         m_secondClick.begin();
     }
     m_popup.close();
@@ -284,7 +284,7 @@ void EditorWindowSet::onAsked(EditorWindow *window, const ControlAction &action,
 void EditorWindowSet::onCloseRequested(const QString &key)
 {
     EditorWindow *const window = m_windows[key];
-    if (window->hasTimedAction() || m_block.blocks(window)) {
+    if (window->hasTimedAction() || m_block.blocks(window) || m_secondClick.isOnFrame()) {
         return;
     }
     if (key != WindowBuilder::mainKey()) {

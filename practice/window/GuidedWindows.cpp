@@ -101,6 +101,11 @@ bool GuidedWindows::canCause(const ControlSpot &spot, const Condition &condition
     return m_guides->ways.canCause(spot, condition);
 }
 
+bool GuidedWindows::addsUp(const ControlSpot &spot) const
+{
+    return m_guides->ways.addsUp(spot);
+}
+
 bool GuidedWindows::offers(const ControlSpot &spot, const Condition &condition) const
 {
     if (condition.type() != Condition::Type::kComboBox) {

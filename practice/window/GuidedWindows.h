@@ -32,6 +32,7 @@ public:
     [[nodiscard]] std::optional<QRect> rectOf(const ControlSpot &spot) const override;
     void reveal(const ControlSpot &spot) override;
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition &condition) const override;
+    [[nodiscard]] bool addsUp(const ControlSpot &spot) const override;
     [[nodiscard]] bool offers(const ControlSpot &spot, const Condition &condition) const override;
     [[nodiscard]] Ways ways() const override;
     [[nodiscard]] QVector<Activity> activities() const override { return {m_cover.activity()}; }

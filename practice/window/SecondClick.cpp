@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPushButton>
 
@@ -49,6 +50,11 @@ bool SecondClick::isSecond(const QPoint &screenPosition) const
 {
     return m_since.isValid() && m_since.elapsed() < QApplication::doubleClickInterval() &&
            (screenPosition - m_place).manhattanLength() <= kNear;
+}
+
+bool SecondClick::isOnFrame() const
+{
+    return m_isByMouse && isSecond(QCursor::pos());
 }
 
 bool SecondClick::eventFilter(QObject *watched, QEvent *event)

@@ -7,8 +7,9 @@
 class QPushButton;
 
 /// Keeps the second click of a double click from doing harm. It does not reach what comes to light when the
-/// first one has closed a window or a context menu: who double-clicks OK does not mean to paint on the map
-/// below. And it does nothing to a button or check box: who double-clicks Add does not mean to add two.
+/// first one has closed a window or a context menu, or opened one: who double-clicks OK does not mean to
+/// paint on the map below, nor who double-clicks a picture to close the window that comes up there. And it
+/// does nothing to a button or check box: who double-clicks Add does not mean to add two.
 class SecondClick : public QObject
 {
     Q_OBJECT
@@ -16,9 +17,11 @@ class SecondClick : public QObject
 public:
     explicit SecondClick(QObject *parent = nullptr);
 
-    /// Something closes through a control. A click in the same place does nothing for as long as a double
-    /// click may take.
+    /// Something closes or opens through a control. A click in the same place does nothing for as long as a
+    /// double click may take.
     void begin();
+    /// Whether the second click is just now on the frame of a window, where it comes as a wish to close it.
+    [[nodiscard]] bool isOnFrame() const;
     /// Something else has happened since, so a click is a new one.
     void end() { m_since.invalidate(); }
 

@@ -1,10 +1,10 @@
 #include "window/control/SpinBoxControl.h"
 
 #include "project/MapTree.h"
+#include "window/control/NumberBox.h"
 
 #include <QJsonObject>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 #include <algorithm>
 
@@ -55,7 +55,7 @@ ControlMaker readSpinBox(ControlReader &reader)
     const QJsonValue missing = reader.missing();
     const Limit limit = readLimit(reader, range.size() == 2 ? range.at(1) : 0);
     return [field, range, suffix, missing, limit, name = reader.description().name](EditorWindow *window) {
-        auto *spin = new QSpinBox(window);
+        auto *spin = new NumberBox(window);
         spin->setRange(range.at(0), range.at(1));
         spin->setSuffix(suffix);
         keepFresh(spin, window, [spin, window, range, field, missing, limit] {

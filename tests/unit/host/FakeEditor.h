@@ -32,6 +32,8 @@ public:
     QVector<Activity> m_activities;
     /// Controls that bring no condition about.
     QStringList m_inert;
+    /// Controls whose use does the same once more.
+    QStringList m_adding;
     /// Window keys that it does not know.
     QStringList m_unknown;
     QHash<QString, QString> m_meanings;
@@ -116,6 +118,10 @@ public:
     [[nodiscard]] bool canCause(const ControlSpot &spot, const Condition & /*condition*/) const override
     {
         return !m_inert.contains(spot.control);
+    }
+    [[nodiscard]] bool addsUp(const ControlSpot &spot) const override
+    {
+        return m_adding.contains(spot.control);
     }
     [[nodiscard]] bool offers(const ControlSpot & /*spot*/, const Condition &condition) const override
     {

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void whoChoosesAgainWhatAnEarlierStepHadHasNotStrayed();
     void anotherChoiceIsNoDamage();
     void theButtonThatTheStepPointsAtIsNoWrongOne();
+    void pressedMoreOftenThanAskedItIs_data();
+    void pressedMoreOftenThanAskedItIs();
     void aTaskThatChangesTheDataIsNothingToPutBack();
     void takesTheFilesOfALessonForItsOwn();
     void whatIsGoneIsPutBack();
@@ -259,6 +261,46 @@ void tst_PutBack::theButtonThatTheStepPointsAtIsNoWrongOne()
     Q_EMIT played.editor.used(Played::spot("MainWindow", "moveUp"));
     played.turn();
     QVERIFY(!played.session.canPutBack());
+}
+
+void tst_PutBack::pressedMoreOftenThanAskedItIs_data()
+{
+    QTest::addColumn<bool>("addsUp");
+    QTest::addColumn<QByteArray>("hint");
+    QTest::addColumn<int>("mostPresses");
+    QTest::newRow("a button") << true << QByteArray("Click “Add”") << 1;
+    QTest::newRow("a button that is asked for three times")
+        << true << QByteArray("Click “Left” three times") << 3;
+    QTest::newRow("a field") << false << QByteArray("Click the box") << 9;
+}
+
+void tst_PutBack::pressedMoreOftenThanAskedItIs()
+{
+    QFETCH(bool, addsUp);
+    QFETCH(QByteArray, hint);
+    QFETCH(int, mostPresses);
+    Played played;
+    played.editor.m_controls.insert(str("MainWindow"), Played::spot("MainWindow", "add"));
+    played.editor.m_adding = addsUp ? QStringList{str("add")} : QStringList();
+    played.play({Played::item(1, "MainWindow", "click,", "click", hint.constData())});
+    const auto press = [&played] {
+        played.editor.m_data += str(", one more");
+        Q_EMIT played.editor.used(Played::spot("MainWindow", "add"));
+        played.turn();
+    };
+    for (int time = 0; time < mostPresses; ++time) {
+        press();
+        QVERIFY(!played.session.canPutBack());
+    }
+    press();
+    QCOMPARE(played.session.canPutBack(), addsUp);
+    if (addsUp) {
+        played.session.putBack();
+        QVERIFY(!played.session.canPutBack());
+        QCOMPARE(played.editor.m_data, str("as it was"));
+        press();
+        QVERIFY(!played.session.canPutBack());
+    }
 }
 
 void tst_PutBack::aTaskThatChangesTheDataIsNothingToPutBack()

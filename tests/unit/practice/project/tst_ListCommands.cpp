@@ -17,6 +17,10 @@ private Q_SLOTS:
     void removesAnEntry_data();
     void removesAnEntry();
     void removingTheLastSelectsTheOneBefore();
+    void anEmptyEntryAtTheEndGoes();
+    void thereAreNoMoreThanCanBeCounted();
+    void whatIsAddedStandsApart();
+    void tellsHowManyAreLost();
     void pastesWhatWasCopied_data();
     void pastesWhatWasCopied();
     void pastesIntoListsOfOneKindOnly();
@@ -146,6 +150,77 @@ void tst_ListCommands::removingTheLastSelectsTheOneBefore()
     QCOMPARE(m_sources.number(str("data/Items"), *m_files), -1);
     run("list.remove data/Items");
     QCOMPARE(items(), json("[]"));
+}
+
+void tst_ListCommands::anEmptyEntryAtTheEndGoes()
+{
+    m_files->put("data/Items.json", R"([null, {"id": 1, "n": ""}, {"id": 2, "n": "b"}, {"id": 3, "n": ""}])");
+    const auto count = [this] {
+        return int(items().toArray().size()) - 1;
+    };
+    // One in between stays, as the numbers of those behind it do.
+    m_files->select(str("data/Items"), 1);
+    run("list.remove data/Items");
+    QCOMPARE(count(), 3);
+    m_files->select(str("data/Items"), 3);
+    run("list.remove data/Items");
+    QCOMPARE(count(), 2);
+    QCOMPARE(m_sources.number(str("data/Items"), *m_files), 2);
+    // What was in it goes first.
+    run("list.remove data/Items");
+    QCOMPARE(count(), 2);
+    QCOMPARE(items().toArray().at(2), json(R"({"id": 2, "n": ""})"));
+    run("list.remove data/Items");
+    QCOMPARE(count(), 1);
+    // The only one stays.
+    run("list.remove data/Items");
+    QCOMPARE(count(), 1);
+}
+
+void tst_ListCommands::thereAreNoMoreThanCanBeCounted()
+{
+    QJsonArray all{QJsonValue::Null};
+    for (int id = 1; id < ListCommands::kMost; ++id) {
+        all.append(QJsonObject{{str("id"), id}});
+    }
+    m_files->put("data/Items.json", QJsonDocument(all).toJson().constData());
+    run("list.add data/Items");
+    QCOMPARE(items().toArray().size(), ListCommands::kMost + 1);
+    QVERIFY(!m_commands.canRun(str("list.add data/Items"), *m_files));
+    run("list.add data/Items");
+    QCOMPARE(items().toArray().size(), ListCommands::kMost + 1);
+}
+
+void tst_ListCommands::whatIsAddedStandsApart()
+{
+    m_files->put("data/Items.json", "[]");
+    for (int time = 0; time < 4; ++time) {
+        run("list.addApart data/Items", R"({"n": 1, "x": 320, "y": 240})");
+    }
+    QCOMPARE(items(), json(R"([{"n": 1, "x": 320, "y": 240}, {"n": 1, "x": 400, "y": 240},
+                               {"n": 1, "x": 240, "y": 240}, {"n": 1, "x": 480, "y": 240}])"));
+    m_files->put("data/Actors.json", R"([null, {"id": 1}, {"id": 2}])");
+    m_files->put("data/Items.json", R"([{"actorId": 1}])");
+    run("list.addApart data/Items", R"({"actorId": 1})");
+    QCOMPARE(items(), json(R"([{"actorId": 1}, {"actorId": 2}])"));
+    // When all are in, one is in twice.
+    run("list.addApart data/Items", R"({"actorId": 1})");
+    QCOMPARE(items().toArray().size(), 3);
+}
+
+void tst_ListCommands::tellsHowManyAreLost()
+{
+    m_files->put(
+        "data/Items.json",
+        R"([null, {"id": 1, "n": "a"}, {"id": 2, "n": ""}, {"id": 3, "n": "c"}, {"id": 4, "n": "d"}])");
+    QCOMPARE(m_fields->value(str("list.loses"), *m_files).toBool(), false);
+    run("list.count data/Items");
+    QCOMPARE(m_fields->value(str("list.lost"), *m_files).toInt(), 0);
+    m_fields->setValue(str("list.count"), 3, *m_files);
+    QCOMPARE(m_fields->value(str("list.lost"), *m_files).toInt(), 1);
+    m_fields->setValue(str("list.count"), 1, *m_files);
+    QCOMPARE(m_fields->value(str("list.lost"), *m_files).toInt(), 2);
+    QCOMPARE(m_fields->value(str("list.loses"), *m_files).toBool(), true);
 }
 
 void tst_ListCommands::pastesWhatWasCopied_data()

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void buttonsAreGreyWhileTheirCommandsCannotRun();
     void severalCommandsRunInTurn();
     void entriesAreAddedInTheWindowThatOpens();
+    void aNumberBeyondTheRangeBecomesTheNearest_data();
+    void aNumberBeyondTheRangeBecomesTheNearest();
     void controlsTellThroughWhichTheyAct();
     void windowsTellThroughWhichControlTheyOpenAndClose();
     void everyControlIsAStopOfTheTabulatorKey();
@@ -190,6 +192,41 @@ void tst_ControlStates::entriesAreAddedInTheWindowThatOpens()
     EditorWindow *properties = editor->window(str("MapProperties"));
     QCOMPARE(properties->layer().file(str("data/MapInfos.json")).toArray().last(), QJsonValue(7));
     QCOMPARE(editor->project()->files().file(str("data/MapInfos.json")), before);
+}
+
+void tst_ControlStates::aNumberBeyondTheRangeBecomesTheNearest_data()
+{
+    QTest::addColumn<QByteArray>("own");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("value");
+    const QByteArray plain = R"("range": [1, 640])";
+    const QByteArray unit = R"("range": [-50, 50], "suffix": " %")";
+    QTest::newRow("in it") << plain << str("300") << 300;
+    QTest::newRow("too great") << plain << str("99999") << 640;
+    QTest::newRow("just too great") << plain << str("641") << 640;
+    QTest::newRow("too small") << plain << str("0") << 1;
+    QTest::newRow("below zero") << plain << str("-5") << 1;
+    QTest::newRow("letters are none") << plain << str("2x0") << 20;
+    QTest::newRow("more digits than can be meant") << plain << str("99999999999999") << 640;
+    QTest::newRow("with a unit") << unit << str("400") << 50;
+    QTest::newRow("below zero with a unit") << unit << str("-400") << -50;
+}
+
+void tst_ControlStates::aNumberBeyondTheRangeBecomesTheNearest()
+{
+    QFETCH(QByteArray, own);
+    QFETCH(QString, typed);
+    QFETCH(int, value);
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"price": 8}])"));
+    auto *spin = bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/price", )" + own);
+    bench.window.show();
+    spin->selectAll();
+    QTest::keyClicks(spin, typed);
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(spin->value(), value);
+    QCOMPARE(bench.value("data/Items.json", "/1/price"), QJsonValue(value));
+    QCOMPARE(spin->text(), QString::number(value) + spin->suffix());
 }
 
 void tst_ControlStates::controlsTellThroughWhichTheyAct()

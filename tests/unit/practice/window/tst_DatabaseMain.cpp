@@ -271,7 +271,7 @@ void tst_DatabaseMain::entriesHaveReadableRows_data()
     row(6, "enemies", 5, "dropItems", {str("#35: 1 in 1")});
     row(6, "enemies", 5, "actions", {str("#15 (priority 5)"), str("#150 (priority 3)")});
     row(6, "enemies", 5, "enemyTraits", {str("Resists: #111")});
-    row(7, "troops", 5, "members", {str("#121"), str("#143"), str("#121")});
+    row(7, "troops", 5, "members", {str("1: #121"), str("2: #143"), str("3: #121")});
     row(8, "states", 1, "stateTraits", {str("HP each turn: -3")});
 }
 

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void dialogsOpenWithTheirFirstField();
     void aListShowsThatItHasTheFocus();
     void tabGoesThroughTheControlsInOrder();
+    void controlTabGoesThroughTheTabs();
+    void whatComesInThePlaceOfTheFocusHasIt();
     void returnPressesTheButtonWithTheFocus();
     void theButtonOfTheReturnKeyIsMarked();
     void aWindowBelongsToTheOneThatOpenedIt();
@@ -172,6 +174,42 @@ void tst_Keyboard::tabGoesThroughTheControlsInOrder()
     }
     QCOMPARE(names, wanted);
     QCOMPARE(focusName(), wanted.constFirst());
+}
+
+void tst_Keyboard::controlTabGoesThroughTheTabs()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    const auto *const tabs = editor.find<QTabBar>("DatabaseMain", "tabs");
+    auto *const actors = editor.find<QWidget>("DatabaseMain", "actors");
+    actors->setFocus();
+    QTest::keyClick(actors, Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(tabs->currentIndex(), 1);
+    QTest::keyClick(editor.find<QWidget>("DatabaseMain", "classes"), Qt::Key_Backtab,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(tabs->currentIndex(), 0);
+    QTest::keyClick(actors, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(tabs->currentIndex(), tabs->count() - 1);
+}
+
+void tst_Keyboard::whatComesInThePlaceOfTheFocusHasIt()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    editor->window(str("DatabaseMain"))->window()->activateWindow();
+    auto *const tabs = editor.find<QTabBar>("DatabaseMain", "tabs");
+    auto *const actors = editor.find<QWidget>("DatabaseMain", "actors");
+    actors->setFocus();
+    QTRY_VERIFY(actors->hasFocus());
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(1).center());
+    QVERIFY(editor.find<QWidget>("DatabaseMain", "classes")->hasFocus());
+    // Where something else has it, it stays there.
+    auto *const apply = editor.find<QWidget>("DatabaseMain", "apply");
+    apply->setFocus();
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(2).center());
+    QVERIFY(apply->hasFocus());
 }
 
 void tst_Keyboard::returnPressesTheButtonWithTheFocus()

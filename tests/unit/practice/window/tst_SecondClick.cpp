@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aDoubleClickOnAButtonIsOneClick();
     void aDoubleClickOnACheckBoxIsOneClick();
     void aButtonForMoreClicksTakesThemAll();
+    void theSecondClickDoesNothingToTheWindowThatTheFirstHasOpened();
 
 private:
     int m_interval = 0;
@@ -167,6 +168,37 @@ void tst_SecondClick::aButtonForMoreClicksTakesThemAll()
     QSignalSpy clicked(zoom, &QAbstractButton::clicked);
     doubleClick(zoom);
     QCOMPARE(clicked.count(), 2);
+}
+
+void tst_SecondClick::theSecondClickDoesNothingToTheWindowThatTheFirstHasOpened()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("DatabaseMain"));
+    editor.find<QPushButton>("DatabaseMain", "actorsAdd")->click();
+    auto *const face = editor.find<QWidget>("DatabaseMain", "actorFace");
+    QVERIFY(face != nullptr && face->isEnabled() && face->isVisible());
+    const QPoint place = face->mapToGlobal(face->rect().center());
+    QCursor::setPos(place);
+    QTest::mouseClick(face, Qt::LeftButton);
+    QCOMPARE(editor->openWindows().constLast(), str("ImageSelector"));
+    QWidget *const chooser = editor->window(str("ImageSelector"))->window();
+    // On its frame, whose cross asks the window to close.
+    chooser->close();
+    QCOMPARE(editor->openWindows().constLast(), str("ImageSelector"));
+    // On what lies there in it.
+    auto *const cancel = editor.find<QWidget>("ImageSelector", "cancel");
+    chooser->move(chooser->pos() + place - cancel->mapToGlobal(cancel->rect().center()));
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    QCOMPARE(editor->openWindows().constLast(), str("ImageSelector"));
+    // A key is no second click.
+    QTest::keyClick(chooser, Qt::Key_Escape);
+    QCOMPARE(editor->openWindows().constLast(), str("DatabaseMain"));
+    QApplication::setDoubleClickInterval(0);
+    QTest::mouseClick(face, Qt::LeftButton);
+    chooser->close();
+    QCOMPARE(editor->openWindows().constLast(), str("DatabaseMain"));
+    QApplication::setDoubleClickInterval(m_interval);
 }
 
 QTEST_MAIN(tst_SecondClick)
