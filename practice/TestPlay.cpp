@@ -139,7 +139,7 @@ void TestPlay::showPlace(const player::Problem &problem)
     place.event = problem.event > 0 ? problem.event : problem.entry;
     place.page = problem.page;
     place.line = problem.line;
-    m_windows->showPlace(place);
+    m_window->setPlaceReached(m_windows->showPlace(place));
 }
 
 QVector<QRect> TestPlay::inSight() const

@@ -227,7 +227,11 @@ void ListCommands::addApart(List &list, const CommandCall &call, DataLayer &laye
     for (int actor = 1; entry.contains(kActor) && isAmong({kActor}) && actor < actors; ++actor) {
         entry.insert(kActor, actor);
     }
-    add(list, {call.argument, entry}, layer);
+    QJsonValue other = call.entry.isObject() ? QJsonValue(entry) : call.entry;
+    for (int actor = 1; other.isDouble() && list.entries.contains(other) && actor < actors; ++actor) {
+        other = actor;
+    }
+    add(list, {call.argument, other}, layer);
 }
 
 void ListCommands::remove(List &list, const CommandCall & /*call*/, DataLayer &layer)

@@ -1473,6 +1473,10 @@
         <translation>%1行目</translation>
     </message>
     <message>
+        <source>Close the open windows of the editor first: they lie before that place.</source>
+        <translation>先にエディターのウィンドウを閉じてください。開いたままでは、その場所を表示できません。</translation>
+    </message>
+    <message>
         <source>What the game cannot do. A double click, or Enter, leads to the place in the editor.</source>
         <translation>ゲームでできなかったことです。ダブルクリックするかEnterキーを押すと、エディターのその場所が開きます。</translation>
     </message>

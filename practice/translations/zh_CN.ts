@@ -1473,6 +1473,10 @@
         <translation>第 %1 行</translation>
     </message>
     <message>
+        <source>Close the open windows of the editor first: they lie before that place.</source>
+        <translation>请先关闭编辑器中打开的窗口，才能显示那个位置。</translation>
+    </message>
+    <message>
         <source>What the game cannot do. A double click, or Enter, leads to the place in the editor.</source>
         <translation>游戏中无法执行的内容。双击或按 Enter 键可在编辑器中打开相应位置。</translation>
     </message>

@@ -73,8 +73,7 @@ LogPane::LogPane(const GameData *gameData, QWidget *parent)
     column->setSpacing(2);
     column->addWidget(m_heading);
     column->addWidget(m_list);
-    m_heading->setText(
-        tr("What the game cannot do. A double click, or Enter, leads to the place in the editor."));
+    setReached(true);
     m_heading->setWordWrap(true);
     m_heading->setBuddy(m_list);
     m_list->setObjectName(QStringLiteral("problems"));
@@ -103,6 +102,13 @@ void LogPane::add(const QVector<Problem> &problems)
     if (!m_problems.isEmpty()) {
         show();
     }
+}
+
+void LogPane::setReached(bool isReached)
+{
+    m_heading->setText(
+        isReached ? tr("What the game cannot do. A double click, or Enter, leads to the place in the editor.")
+                  : tr("Close the open windows of the editor first: they lie before that place."));
 }
 
 void LogPane::write(int row)

@@ -30,6 +30,8 @@ public:
     explicit LogPane(const GameData *gameData, QWidget *parent = nullptr);
 
     void add(const QVector<Problem> &problems);
+    /// The place that was asked for last could be shown, or not, as windows of the editor are open.
+    void setReached(bool isReached);
     [[nodiscard]] int rows() const { return int(m_problems.size()); }
 
 Q_SIGNALS:

@@ -7,6 +7,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -128,6 +129,22 @@ void PlayerWindow::setRunning(bool isRunning)
         m_timer.start();
     } else {
         m_timer.stop();
+    }
+}
+
+void PlayerWindow::setPlaceReached(bool isReached)
+{
+    m_log->setReached(isReached);
+}
+
+/// In the list of what the game cannot do the key goes back to the game first.
+void PlayerWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !m_view->hasFocus()) {
+        m_view->setFocus();
+        m_view->strike(Qt::Key_Escape);
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

@@ -33,6 +33,9 @@ public:
     /// screen.
     void showBeside(const QVector<QRect> &inSight, const QRect &screen);
 
+    /// What placeAsked() asked for last can be seen, or cannot for other windows of the editor.
+    void setPlaceReached(bool isReached);
+
     /// Where a click does what the escape key does, in global pixels; nothing in a window too narrow for it.
     [[nodiscard]] std::optional<QRect> leaveRect() const;
 
@@ -49,6 +52,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void showEvent(QShowEvent *event) override;

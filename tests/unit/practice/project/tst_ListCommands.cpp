@@ -203,6 +203,10 @@ void tst_ListCommands::whatIsAddedStandsApart()
     m_files->put("data/Items.json", R"([{"actorId": 1}])");
     run("list.addApart data/Items", R"({"actorId": 1})");
     QCOMPARE(items(), json(R"([{"actorId": 1}, {"actorId": 2}])"));
+    m_files->put("data/Items.json", "[1]");
+    run("list.addApart data/Items", "1");
+    QCOMPARE(items(), json("[1, 2]"));
+    m_files->put("data/Items.json", R"([{"actorId": 1}, {"actorId": 2}])");
     // When all are in, one is in twice.
     run("list.addApart data/Items", R"({"actorId": 1})");
     QCOMPARE(items().toArray().size(), 3);

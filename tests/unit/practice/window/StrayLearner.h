@@ -14,6 +14,7 @@
 class StrayLearner
 {
     Editor m_editor;
+    QWidget m_game;
 
 public:
     /// @p games is where projects are, and are made. What she draws by lot is drawn by @p seed.
@@ -29,8 +30,10 @@ public:
         }
         m_editor->setUnattended(true);
         m_editor->setProjectsFolder(games);
-        // Somebody plays, without a window.
-        m_editor->setPlayer([](const PlayRequest &) {});
+        // What is played is a window that lies over half of the editor.
+        m_editor->setPlayer([this](const PlayRequest &) { beginGame(); });
+        QObject::connect(m_editor.operator->(), &EditorWindows::playEndAsked, &m_game, [this] { endGame(); });
+        QObject::connect(m_editor.operator->(), &EditorWindows::projectLeft, &m_game, [this] { endGame(); });
         m_editor->open(str("MainWindow"));
         QObject::connect(&session, &LessonSession::sends, &session,
                          [this](const QString &command) { answer(command); });
@@ -82,7 +85,7 @@ public:
         } else if (isWaiting()) {
             return QTest::qWaitFor([this, before] { return id() != before; }, 5000);
         } else if (endsTheGame(step)) {
-            m_editor->tellPlayed();
+            endGame();
         } else if (!step.hasPosition() && step.icon == str("keyboard")) {
             typeTheNumber(step.hint);
         } else if (!pointed || !m_editor->perform(ControlUse::of(step, *pointed))) {
@@ -162,7 +165,7 @@ public:
             const std::optional<Way> way = session.wayBack();
             if (way && way->icon == str("wait")) {
                 QTest::qWait(100);
-            } else if (way && way->by.control == ControlSpot::dismiss()) {
+            } else if (way && way->by.control == ControlSpot::dismiss() && !PlayCover::isWayOut(way->by)) {
                 pressEsc();
             } else if (way) {
                 m_editor->perform(ControlUse::of(*way));
@@ -248,6 +251,22 @@ private:
     /// Of one step, before she gives up.
     static constexpr int kMostTries = 8;
 
+    void beginGame()
+    {
+        const QWidget *const main = m_editor->window(str("MainWindow"))->window();
+        m_game.setAttribute(Qt::WA_ShowWithoutActivating);
+        m_game.setGeometry(main->x(), main->y() + main->height() / 3, main->width() / 2, main->height() / 2);
+        m_game.show();
+        m_editor->setPlayWindow(&m_game, [this] { return m_game.frameGeometry(); });
+    }
+    void endGame()
+    {
+        if (m_game.isVisible()) {
+            m_game.hide();
+            m_editor->tellPlayed();
+        }
+    }
+
     static bool endsTheGame(const Step &step)
     {
         return step.condition.type() == Condition::Type::kAction && step.condition.target() == str("play") &&
@@ -289,7 +308,8 @@ private:
                 const QVector<int> parts{
                     -1, 0, 1, 2, 3, 4, 5, ControlSpot::cell(4, 4), ControlSpot::cell(9, 7)};
                 const ControlSpot spot{key, control.name, parts.at(draw(int(parts.size())))};
-                if (m_editor->rectOf(spot)) {
+                const std::optional<QPoint> place = m_editor->spotOf(spot);
+                if (place && !m_editor->activities().constFirst().rect.contains(*place)) {
                     spots.append(spot);
                 }
             }

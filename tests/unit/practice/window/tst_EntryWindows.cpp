@@ -175,7 +175,7 @@ void tst_EntryWindows::battleConditionsComeAndGo()
     editor.openDatabase(7);
     editor.clickRow("DatabaseMain", "troops", 5);
     editor.click("DatabaseMain", "troopConditions");
-    QCOMPARE(editor.find<QComboBox>("BattleConditions", "enemy")->currentText(), str("#143"));
+    QCOMPARE(editor.find<QComboBox>("BattleConditions", "enemy")->currentText(), str("2: #143"));
     QVERIFY(!editor.find<QWidget>("BattleConditions", "turn")->isEnabled());
     editor.click("BattleConditions", "turnOn");
     editor.setNumber("BattleConditions", "turn", 7);
