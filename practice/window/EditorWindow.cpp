@@ -50,6 +50,7 @@ EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *proje
 void EditorWindow::refresh()
 {
     m_shown.clear();
+    m_placesLeft.clear();
     m_hidesFocus = false;
     Q_EMIT arranged();
     Q_EMIT refreshed();
@@ -57,7 +58,10 @@ void EditorWindow::refresh()
         focusFirstOf(m_shown);
     }
     const QVector<QWidget *> coming = std::exchange(m_coming, {});
+    // What one of them puts into its field refreshes the window in between.
+    const QSet<QString> left = m_placesLeft;
     for (QWidget *control : coming) {
+        m_placesLeft = left;
         Q_EMIT cameUp(control);
     }
 }
@@ -73,6 +77,26 @@ void EditorWindow::setAway(QWidget *control, bool isAway)
     } else if (m_away.remove(control)) {
         m_shown.append(control);
     }
+}
+
+QString EditorWindow::placeOf(const QString &fieldName) const
+{
+    const std::optional<DataPlace> place = m_project->sources().place(fieldName, *m_layer);
+    return place ? place->file + place->pointer : fieldName;
+}
+
+void EditorWindow::tellOfGoing(const QWidget *control, const QString &fieldName)
+{
+    const QString place = placeOf(fieldName);
+    m_gone.insert({control, place}, field(fieldName));
+    m_placesLeft.insert(place);
+}
+
+EditorWindow::Return EditorWindow::returnOf(const QWidget *control, const QString &fieldName) const
+{
+    const QString place = placeOf(fieldName);
+    const auto kept = m_gone.constFind({control, place});
+    return {kept != m_gone.cend() ? std::optional(*kept) : std::nullopt, m_placesLeft.contains(place)};
 }
 
 void EditorWindow::takePixelFont(QWidget *widget)
@@ -327,6 +351,9 @@ void EditorWindow::resizeEvent(QResizeEvent *event)
 void EditorWindow::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    if (!event->spontaneous()) {
+        m_gone.clear();
+    }
     m_isToBeSeen = m_isToBeSeen || (hasTimedAction() && !event->spontaneous());
     refresh();
 }

@@ -4,6 +4,7 @@
 #include "lesson/description/WindowDescription.h"
 #include "project/Project.h"
 
+#include <QMap>
 #include <QSet>
 #include <QTimer>
 #include <QWidget>
@@ -80,6 +81,18 @@ public:
     /// Tells of @p control, once it shows what there is, that it came up in the place of another one: what
     /// stands in its field may have meant something else. See cameUp().
     void tellOfComing(QWidget *control) { m_coming.append(control); }
+    /// Keeps what stands in the field of @p control, which goes by that: if the person brings it back while
+    /// the window is open, it has that again.
+    void tellOfGoing(const QWidget *control, const QString &fieldName);
+    /// What a control that has come up is to put into its field: what it had there before; nothing where
+    /// another one had the field, and where nobody had.
+    struct Return
+    {
+        std::optional<QVariant> value;
+        /// What stands in the field is the other one's.
+        bool isOthers = false;
+    };
+    [[nodiscard]] Return returnOf(const QWidget *control, const QString &fieldName) const;
 
     /// While a window above keeps this one from being used, its controls do nothing, however they are
     /// pressed: mouse and keys do not get here, but those who have the window read to them can.
@@ -148,6 +161,11 @@ private:
     QSet<const QWidget *> m_away;
     QString m_changing;
     QVector<QWidget *> m_coming;
+    /// What stood in the fields of controls that have gone, by control and place in the data; and the places
+    /// of those that have gone last.
+    QMap<QPair<const QWidget *, QString>, QVariant> m_gone;
+    QSet<QString> m_placesLeft;
+    [[nodiscard]] QString placeOf(const QString &fieldName) const;
     /// Of the controls that take turns: those that have come last, and whether one with the focus has gone.
     QVector<QWidget *> m_shown;
     bool m_hidesFocus = false;

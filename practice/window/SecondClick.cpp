@@ -62,7 +62,10 @@ bool SecondClick::eventFilter(QObject *watched, QEvent *event)
     const bool isPress =
         event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     const bool isRelease = event->type() == QEvent::MouseButtonRelease;
-    m_isByMouse = m_isByMouse && event->type() != QEvent::KeyPress;
+    if (event->type() == QEvent::KeyPress) {
+        m_isByMouse = false;
+        end();
+    }
     if ((!isPress && !isRelease) || !watched->isWidgetType()) {
         return QObject::eventFilter(watched, event);
     }

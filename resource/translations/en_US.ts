@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>All quiet on the forest path.</translation>
+      <translation>Take care on the forest path.</translation>
     </message>
     <message>
       <source>#98</source>
@@ -3599,7 +3599,7 @@ Click “Next” to begin.</translation>
     </message>
     <message>
       <source>#37</source>
-      <translation>Type his words, such as All quiet on the forest path. Then click “Next”.</translation>
+      <translation>Type his words, such as Take care on the forest path. Then click “Next”.</translation>
     </message>
     <message>
       <source>#38</source>

@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>森の小道、異常なし。</translation>
+      <translation>森の小道では、気をつけて。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -3599,7 +3599,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>言葉（森の小道、異常なし！など）を入力してから、「次へ」をクリックしてください。</translation>
+      <translation>言葉（森の小道では、気をつけて。など）を入力してから、「次へ」をクリックしてください。</translation>
     </message>
     <message>
       <source>#38</source>

@@ -567,7 +567,7 @@
     </message>
     <message>
       <source>#97</source>
-      <translation>林间小路，一切正常。</translation>
+      <translation>走林间小路要小心。</translation>
     </message>
     <message>
       <source>#98</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
       <source>#37</source>
-      <translation>输入他的话，例如：林间小路，一切正常。然后点击“下一步”。</translation>
+      <translation>输入他的话，例如：走林间小路要小心。然后点击“下一步”。</translation>
     </message>
     <message>
       <source>#38</source>

@@ -72,7 +72,7 @@ void ShopScene::listGoods(const Game &game)
         const QString help = descriptionOf(goods, game.data());
         const bool hasBoth = !help.isEmpty() && !reason.isEmpty();
         rows.append({Terms::thing(kind, goods.id, game.data()), Terms::gold(goods.price, game.data()), help,
-                     hasBoth ? help + QStringLiteral("  ") + reason : reason, place});
+                     hasBoth ? help + QLatin1Char(' ') + reason : reason, place});
     }
     m_list = ListPanel(QStringLiteral("goods"), kList);
     m_list.setEmptyText(tr("There is nothing for sale."));

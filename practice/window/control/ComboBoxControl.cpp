@@ -70,9 +70,14 @@ ControlMaker readComboBox(ControlReader &reader)
         keepFresh(box, window, [box, window, field, rows, missing, stranger] {
             show(box, rows(window), fieldValue(window, field, missing), stranger);
         });
-        settleWhenComing(box, window, [window, field, rows, missing] {
+        settleWhenComing(box, window, [box, window, field, rows, missing] {
             const QVector<Row> all = rows(window);
-            if (!all.isEmpty() && rowWith(all, fieldValue(window, field, missing)) < 0) {
+            const EditorWindow::Return back = window->returnOf(box, field);
+            const int kept = back.value ? rowWith(all, QJsonValue::fromVariant(*back.value)) : -1;
+            const bool isToBegin = back.isOthers || rowWith(all, fieldValue(window, field, missing)) < 0;
+            if (kept >= 0) {
+                window->choose(field, all.at(kept));
+            } else if (!all.isEmpty() && isToBegin) {
                 window->choose(field, all.constFirst());
             }
         });

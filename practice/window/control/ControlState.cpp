@@ -50,8 +50,12 @@ ControlMaker withState(const ControlMaker &maker, const ControlReader &reader)
                EditorWindow *window) {
         QWidget *control = maker(window);
         if (!shown.isEmpty()) {
-            const auto takeTurns = [control, window, shown] {
+            const auto takeTurns = [control, window, shown, field] {
                 const bool isThere = window->meets(shown);
+                if (!isThere && !window->isAway(control) && !field.isEmpty() &&
+                    hangOn(shown, window->changing())) {
+                    window->tellOfGoing(control, field);
+                }
                 if (isThere && window->isAway(control) && hangOn(shown, window->changing())) {
                     window->tellOfComing(control);
                 }

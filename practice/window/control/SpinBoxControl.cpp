@@ -71,6 +71,12 @@ ControlMaker readSpinBox(ControlReader &reader)
         settleWhenComing(spin, window, [spin, window, field, missing, limit] {
             const QSignalBlocker quiet(spin);
             spin->setMaximum(limit(window));
+            const EditorWindow::Return back = window->returnOf(spin, field);
+            if (back.value) {
+                spin->setValue(back.value->toInt());
+            } else if (back.isOthers) {
+                spin->setValue(missing.toInt());
+            }
             if (spin->value() != fieldValue(window, field, missing).toInt()) {
                 window->setField(field, spin->value());
             }

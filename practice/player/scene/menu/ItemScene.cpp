@@ -29,7 +29,7 @@ void ItemScene::list(const Game &game)
             const QString reason = UseOnParty::reasonAgainst(item->effects, Effects::scopeOf(*item));
             const QString help = item->description;
             rows.append({item->name, QStringLiteral("× %1").arg(held.value()), help,
-                         reason.isEmpty() || help.isEmpty() ? reason : help + QStringLiteral("  ") + reason,
+                         reason.isEmpty() || help.isEmpty() ? reason : help + QLatin1Char(' ') + reason,
                          held.key()});
         }
     }
@@ -41,7 +41,7 @@ void ItemScene::list(const Game &game)
                 const QString reason = tr("Put it on in the menu, under Equipment.");
                 const QString help = gear->description;
                 rows.append({gear->name, QStringLiteral("× %1").arg(held.value()), help,
-                             help.isEmpty() ? reason : help + QStringLiteral("  ") + reason, held.key()});
+                             help.isEmpty() ? reason : help + QLatin1Char(' ') + reason, held.key()});
             }
         }
     };

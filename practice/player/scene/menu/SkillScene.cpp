@@ -43,7 +43,7 @@ void SkillScene::list(Game *game)
             }
             const bool hasBoth = !reason.isEmpty() && !skill->description.isEmpty();
             rows.append({skill->name, QStringLiteral("%1 MP").arg(skill->mpCost), skill->description,
-                         hasBoth ? skill->description + QStringLiteral("  ") + reason : reason, id});
+                         hasBoth ? skill->description + QLatin1Char(' ') + reason : reason, id});
         }
     }
     m_list.setRows(rows);

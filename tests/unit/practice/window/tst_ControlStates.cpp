@@ -15,6 +15,7 @@ class tst_ControlStates : public QObject
 private Q_SLOTS:
     void controlsAreThereOnTheirTab();
     void controlsAreThereForAValue();
+    void whatTakesTurnsOnAFieldKeepsItsOwnValue();
     void allRequirementsMustHold();
     void controlsAreGreyForAValue();
     void aCellIsOneOfItsMap();
@@ -62,6 +63,53 @@ void tst_ControlStates::controlsAreThereForAValue()
     QVERIFY(spin->isVisible());
     bench.window.setCurrentRow(str("data/Items"), 1);
     QVERIFY(!spin->isVisible());
+}
+
+void tst_ControlStates::whatTakesTurnsOnAFieldKeepsItsOwnValue()
+{
+    Bench bench;
+    QVERIFY(bench.setItemsAndMaps(R"([null, {"kind": 0, "value": 7}, {"kind": 1, "value": 2}])"));
+    auto *number = bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/value",
+        "range": [0, 99], "shownWhen": {"field": "data/Items/{items}/kind", "is": [0]})");
+    auto *box = bench.make<QComboBox>(R"("type": "comboBox", "field": "data/Items/{items}/value",
+        "source": "data/MapInfos", "shownWhen": {"field": "data/Items/{items}/kind", "is": [1]})");
+    auto *percent =
+        bench.make<QSpinBox>(R"("type": "spinBox", "field": "data/Items/{items}/value", "range": [0, 100],
+        "missing": 100, "shownWhen": {"field": "data/Items/{items}/kind", "is": [2]})");
+    const auto choose = [&bench](int kind) {
+        bench.window.setField(str("data/Items/{items}/kind"), kind);
+    };
+    const auto value = [&bench](const char *pointer) {
+        return bench.value("data/Items.json", pointer).toInt();
+    };
+    bench.window.show();
+    QCOMPARE(number->value(), 7);
+    // It means something else there, and begins with the first one,
+    choose(1);
+    QCOMPARE(box->currentText(), str("a"));
+    QCOMPARE(value("/1/value"), 1);
+    box->setCurrentIndex(1);
+    Q_EMIT box->activated(1);
+    // or with what is usual;
+    choose(2);
+    QCOMPARE(percent->value(), 100);
+    QCOMPARE(value("/1/value"), 100);
+    // and what was looked away from comes back.
+    choose(0);
+    QCOMPARE(value("/1/value"), 7);
+    choose(1);
+    QCOMPARE(value("/1/value"), 2);
+    // Another entry has its own.
+    bench.window.setCurrentRow(str("data/Items"), 1);
+    QCOMPARE(box->currentText(), str("b"));
+    choose(0);
+    QCOMPARE(number->value(), 0);
+    QCOMPARE(value("/1/value"), 2);
+    // So has the next time.
+    bench.window.hide();
+    bench.window.show();
+    choose(1);
+    QCOMPARE(value("/2/value"), 1);
 }
 
 void tst_ControlStates::allRequirementsMustHold()
