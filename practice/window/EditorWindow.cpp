@@ -1,5 +1,7 @@
 #include "window/EditorWindow.h"
 
+#include "window/control/PictureBox.h"
+
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -261,19 +263,25 @@ void EditorWindow::focusFirst()
 
 void EditorWindow::focusFirstOf(const QVector<QWidget *> &controls)
 {
+    QWidget *first = nullptr;
     for (QWidget *control : controls) {
         const bool canBe = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabledTo(this) &&
-                           control->isVisibleTo(this);
-        if (canBe && qobject_cast<QTabBar *>(control) == nullptr) {
-            control->setFocus(Qt::TabFocusReason);
-            // The window is not the active one yet, so the reason alone selects nothing.
-            if (auto *edit = qobject_cast<QLineEdit *>(control)) {
-                edit->selectAll();
-            } else if (auto *spin = qobject_cast<QAbstractSpinBox *>(control)) {
-                spin->selectAll();
-            }
-            return;
+                           control->isVisibleTo(this) && qobject_cast<QTabBar *>(control) == nullptr;
+        // A picture comes after what is typed or chosen: the space bar opens another window there.
+        const bool isPicture = qobject_cast<PictureBox *>(first) != nullptr;
+        if (canBe && (first == nullptr || isPicture || control == m_firstControl)) {
+            first = control;
         }
+    }
+    if (first == nullptr) {
+        return;
+    }
+    first->setFocus(Qt::TabFocusReason);
+    // The window is not the active one yet, so the reason alone selects nothing.
+    if (auto *edit = qobject_cast<QLineEdit *>(first)) {
+        edit->selectAll();
+    } else if (auto *spin = qobject_cast<QAbstractSpinBox *>(first)) {
+        spin->selectAll();
     }
 }
 

@@ -103,6 +103,8 @@ public:
     void setDefaultButton(QPushButton *button);
     /// Gives the focus to the first control that a person fills in or chooses from, all of its text selected.
     void focusFirst();
+    /// That is this one, where it is there.
+    void setFirstControl(const QWidget *control) { m_firstControl = control; }
 
     /// Lets the window do @p action by itself @p ms after it came up; until then nobody can close it.
     void setTimedAction(int ms, const ControlAction &action);
@@ -171,6 +173,7 @@ private:
     bool m_hidesFocus = false;
     std::vector<Placed> m_placed;
     QPushButton *m_defaultButton = nullptr;
+    const QWidget *m_firstControl = nullptr;
     QTimer m_timer;
     bool m_isToBeSeen = false;
     bool m_isBlocked = false;

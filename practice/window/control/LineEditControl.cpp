@@ -4,8 +4,12 @@
 
 ControlMaker readLineEdit(ControlReader &reader)
 {
-    return [field = reader.field(), name = reader.description().name](EditorWindow *window) {
+    const bool isFirst = reader.json().flag(QStringLiteral("first"));
+    return [isFirst, field = reader.field(), name = reader.description().name](EditorWindow *window) {
         auto *edit = new QLineEdit(window);
+        if (isFirst) {
+            window->setFirstControl(edit);
+        }
         keepFresh(edit, window, [edit, window, field] {
             // The cursor stays where it is while the text does.
             const QString text = window->field(field).toString();

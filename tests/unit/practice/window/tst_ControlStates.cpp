@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QToolButton>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void controlsTellThroughWhichTheyAct();
     void windowsTellThroughWhichControlTheyOpenAndClose();
     void everyControlIsAStopOfTheTabulatorKey();
+    void whatIsTypedComesBeforeAPicture();
 };
 
 void tst_ControlStates::controlsAreThereOnTheirTab()
@@ -337,6 +339,20 @@ void tst_ControlStates::everyControlIsAStopOfTheTabulatorKey()
             QVERIFY2(isStop == isUsed, qPrintable(str(key) + QLatin1Char(' ') + control->objectName()));
         }
     }
+}
+
+void tst_ControlStates::whatIsTypedComesBeforeAPicture()
+{
+    Bench bench;
+    QVERIFY(bench.setItems(R"([null, {"face": "", "text": "a"}])"));
+    bench.make<QAbstractButton>(R"("type": "picture", "picture": "face", "field": "data/Items/{items}/face",
+                                   "click": {"run": "edit.undo"})");
+    auto *text = bench.make<QPlainTextEdit>(R"("type": "textEdit", "field": "data/Items/{items}/text")");
+    bench.make<QPushButton>(R"("type": "button", "label": TEXT)");
+    bench.window.show();
+    bench.window.activateWindow();
+    bench.window.focusFirst();
+    QCOMPARE(bench.window.focusWidget(), text);
 }
 
 QTEST_MAIN(tst_ControlStates)

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aGameIsMadeByKeysAlone();
     void dialogsOpenWithTheirFirstField_data();
     void dialogsOpenWithTheirFirstField();
+    void whatIsLookedForIsTypedAtOnce();
     void aListShowsThatItHasTheFocus();
     void tabGoesThroughTheControlsInOrder();
     void controlTabGoesThroughTheTabs();
@@ -135,6 +136,14 @@ void tst_Keyboard::dialogsOpenWithTheirFirstField()
         Editor::key(Qt::Key_Escape);
         QCOMPARE(editor->openWindows(), QStringList{str("MainWindow")});
     }
+}
+
+void tst_Keyboard::whatIsLookedForIsTypedAtOnce()
+{
+    Editor editor;
+    editor.openProject();
+    editor->open(str("EventSearcher"));
+    QCOMPARE(focusName(), str("name"));
 }
 
 void tst_Keyboard::aListShowsThatItHasTheFocus()
