@@ -135,6 +135,10 @@ bool GameView::isOutermost() const
     if (m_frame.isTrialAtRest) {
         return true;
     }
+    // A game that begins on a map which is not there shows nothing at all.
+    if (m_frame.map == 0 && m_frame.panels.isEmpty() && m_frame.battlers.isEmpty()) {
+        return true;
+    }
     const bool isTitle = m_frame.panel("title") != nullptr;
     return (m_frame.map != 0 || isTitle) && m_frame.battlers.isEmpty() &&
            std::none_of(m_frame.panels.cbegin(), m_frame.panels.cend(), isClosable);

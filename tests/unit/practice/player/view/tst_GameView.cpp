@@ -44,6 +44,7 @@ private Q_SLOTS:
     void keysComeToTheGame();
     void theEscapeKeyLeavesWhereNothingIsOpen_data();
     void theEscapeKeyLeavesWhereNothingIsOpen();
+    void theEscapeKeyLeavesAGameThatIsNowhere();
     void theEscapeKeyThatClosedSomethingDoesNotLeave();
     void whatIsSaidIsReadOut_data();
     void whatIsSaidIsReadOut();
@@ -158,6 +159,20 @@ void tst_GameView::theEscapeKeyLeavesWhereNothingIsOpen()
     QTest::keyClick(m_view.get(), Qt::Key_Escape);
     QCOMPARE(left.size(), leaves ? 1 : 0);
     QCOMPARE(m_view->keys().take().pressed, leaves ? GameKeys() : GameKeys{GameKey::kCancel});
+}
+
+void tst_GameView::theEscapeKeyLeavesAGameThatIsNowhere()
+{
+    QSignalSpy left(m_view.get(), &GameView::leaveAsked);
+    m_view->setFrame(Frame());
+    QTest::keyClick(m_view.get(), Qt::Key_Escape);
+    QCOMPARE(left.size(), 1);
+    // A battle goes on.
+    Frame battle;
+    battle.battlers.append(FrameBattler());
+    m_view->setFrame(battle);
+    QTest::keyClick(m_view.get(), Qt::Key_Escape);
+    QCOMPARE(left.size(), 1);
 }
 
 void tst_GameView::theEscapeKeyThatClosedSomethingDoesNotLeave()
