@@ -5,7 +5,10 @@
 
 namespace {
 
-const QString kPlay = QStringLiteral("play");
+QString play()
+{
+    return QStringLiteral("play");
+}
 
 } // namespace
 
@@ -28,19 +31,19 @@ void PlayCover::setWindow(QWidget *window, const std::function<std::optional<QRe
 Activity PlayCover::activity() const
 {
     Activity activity;
-    activity.action = kPlay;
+    activity.action = play();
     activity.isOn = isOn();
     if (activity.isOn && m_isOnTop && !m_window->isMinimized()) {
         activity.rect = m_window->frameGeometry();
     }
     activity.end = {
-        {kPlay, ControlSpot::dismiss()}, QStringLiteral("click"), kPlay, Way::Does::kCloses, kPlay, false};
+        {play(), ControlSpot::dismiss()}, QStringLiteral("click"), play(), Way::Does::kCloses, play(), false};
     return activity;
 }
 
 bool PlayCover::isWayOut(const ControlSpot &spot)
 {
-    return spot.windowKey == kPlay && spot.control == ControlSpot::dismiss();
+    return spot.windowKey == play() && spot.control == ControlSpot::dismiss();
 }
 
 std::optional<QRect> PlayCover::leaveRect() const

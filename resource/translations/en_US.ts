@@ -575,7 +575,7 @@
     </message>
     <message>
       <source>#99</source>
-      <translation>The mine is dangerous. Be level 5, and save first.</translation>
+      <translation>The mine is dangerous. Come back at level 5, and save before you go in.</translation>
     </message>
     <message>
       <source>#100</source>
