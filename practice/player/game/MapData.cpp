@@ -23,6 +23,11 @@ bool MapData::isFloor(const QPoint &cell) const
     return contains(cell) && floor.value(cell.y() * size.width() + cell.x());
 }
 
+bool MapData::isCounter(const QPoint &cell) const
+{
+    return contains(cell) && counter.value(cell.y() * size.width() + cell.x());
+}
+
 const MapEvent *MapData::event(int number) const
 {
     const auto found = std::find_if(events.cbegin(), events.cend(),

@@ -73,6 +73,8 @@ struct MapData
     QVector<int> tiles;
     /// Whether one can stand on a cell, row by row.
     QVector<bool> floor;
+    /// Whether one can talk across a cell, row by row: over a fence, as over the counter of a shop.
+    QVector<bool> counter;
     Sound music;
     QString backdrop;
     QVector<Encounter> encounters;
@@ -84,6 +86,7 @@ struct MapData
     [[nodiscard]] int tile(int layer, const QPoint &cell) const;
     /// False outside.
     [[nodiscard]] bool isFloor(const QPoint &cell) const;
+    [[nodiscard]] bool isCounter(const QPoint &cell) const;
     /// nullptr when there is none.
     [[nodiscard]] const MapEvent *event(int number) const;
 };

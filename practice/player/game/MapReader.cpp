@@ -31,19 +31,28 @@ int oneOf(const QJsonValue &page, const char *key, int last)
     return isOneOf(page, key, last) ? number(page, key) : 0;
 }
 
-/// Whether one can stand on a tile, by its number; 0 is no tile.
-QVector<bool> floors(const QStringList &tiles)
+/// What can be done with tiles, by their numbers; 0 is no tile.
+struct TileKinds
 {
-    static const QSet<QString> kinds = {
+    /// One can stand on them.
+    QVector<bool> floors{false};
+    /// One can talk across them.
+    QVector<bool> counters{false};
+};
+
+TileKinds kindsOf(const QStringList &tiles)
+{
+    static const QSet<QString> floors = {
         QStringLiteral("grass"),   QStringLiteral("tallGrass"), QStringLiteral("path"),
         QStringLiteral("sand"),    QStringLiteral("floor"),     QStringLiteral("snow"),
         QStringLiteral("flowers"), QStringLiteral("reeds"),     QStringLiteral("mushrooms"),
         QStringLiteral("bridge"),  QStringLiteral("door")};
-    QVector<bool> floors{false};
+    TileKinds kinds;
     for (const QString &tile : tiles) {
-        floors.append(kinds.contains(tile));
+        kinds.floors.append(floors.contains(tile));
+        kinds.counters.append(tile == QLatin1String("fence"));
     }
-    return floors;
+    return kinds;
 }
 
 EventPage page(const QJsonValue &json)
@@ -149,16 +158,18 @@ bool readCells(const QJsonValue &json, MapData *map)
     return true;
 }
 
-void findFloor(const QVector<bool> &floors, MapData *map)
+void findFloor(const TileKinds &kinds, MapData *map)
 {
     const int cells = map->size.width() * map->size.height();
     map->floor.fill(false, cells);
+    map->counter.fill(false, cells);
     for (int cell = 0; cell < cells; ++cell) {
         // The uppermost tile decides.
         for (int layer = MapData::kLayers - 1; layer >= 0; --layer) {
             const int tile = map->tiles.at(layer * cells + cell);
             if (tile != 0) {
-                map->floor[cell] = floors.value(tile);
+                map->floor[cell] = kinds.floors.value(tile);
+                map->counter[cell] = kinds.counters.value(tile);
                 break;
             }
         }
@@ -207,7 +218,7 @@ void checkCells(const QString &file, const QJsonValue &json, int lastTile, MapDa
     }
 }
 
-MapData readMap(int id, const QString &file, const QJsonValue &json, const QVector<bool> &floors,
+MapData readMap(int id, const QString &file, const QJsonValue &json, const TileKinds &kinds,
                 QVector<Problem> *problems)
 {
     MapData map;
@@ -223,8 +234,8 @@ MapData readMap(int id, const QString &file, const QJsonValue &json, const QVect
     }
     map.events = events(json);
     if (readCells(json, &map)) {
-        checkCells(file, json, int(floors.size()) - 1, &map, problems);
-        findFloor(floors, &map);
+        checkCells(file, json, int(kinds.floors.size()) - 1, &map, problems);
+        findFloor(kinds, &map);
     } else {
         Problem problem;
         problem.file = file;
@@ -252,11 +263,11 @@ int mapNumber(const QString &file)
 
 void read(const GameData::Files &files, const QStringList &tiles, GameData *data)
 {
-    const QVector<bool> walkable = floors(tiles);
+    const TileKinds kinds = kindsOf(tiles);
     const QJsonArray infos = files.value(QStringLiteral("data/MapInfos.json")).toArray();
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (const int id = mapNumber(file.key()); id > 0) {
-            MapData map = readMap(id, file.key(), file.value(), walkable, &data->problems);
+            MapData map = readMap(id, file.key(), file.value(), kinds, &data->problems);
             map.name = text(infos.at(id), "name");
             data->maps.insert(map);
         }

@@ -25,6 +25,12 @@ bool isTouch(const World::Event &event)
            (event.page->trigger == Trigger::kTouched || event.page->trigger == Trigger::kMeetsPlayer);
 }
 
+bool canBeAsked(const World::Event &event)
+{
+    return event.page != nullptr && event.page->trigger != Trigger::kByItself &&
+           event.page->trigger != Trigger::kParallel;
+}
+
 } // namespace
 
 MapHero::MapHero(World *world)
@@ -76,22 +82,35 @@ World::Event *MapHero::arrive()
 World::Event *MapHero::ask()
 {
     const Character &hero = m_world->state().hero;
-    World::Event *under = nullptr;
-    for (World::Event &event : m_world->events()) {
-        if (event.page == nullptr || event.page->trigger == Trigger::kByItself ||
-            event.page->trigger == Trigger::kParallel) {
-            continue;
-        }
-        const bool isBefore = event.character.cell == hero.cell + stepTo(hero.direction);
-        // A thing without a picture can be stood on; a touch begins where it is in the way.
-        if (isBefore && (event.page->trigger == Trigger::kAsked || World::isObstacle(event))) {
-            return &event;
-        }
-        if (event.character.cell == hero.cell && event.page->trigger == Trigger::kAsked) {
-            under = &event;
+    const QPoint before = hero.cell + stepTo(hero.direction);
+    if (World::Event *const event = askedAt(before)) {
+        return event;
+    }
+    const MapData *const map = m_world->map();
+    if (map != nullptr && map->isCounter(before)) {
+        if (World::Event *const event = askedAt(before + stepTo(hero.direction))) {
+            return event;
         }
     }
-    return under;
+    for (World::Event &event : m_world->events()) {
+        if (canBeAsked(event) && event.character.cell == hero.cell &&
+            event.page->trigger == Trigger::kAsked) {
+            return &event;
+        }
+    }
+    return nullptr;
+}
+
+World::Event *MapHero::askedAt(const QPoint &cell) const
+{
+    for (World::Event &event : m_world->events()) {
+        // A thing without a picture can be stood on; a touch begins where it is in the way.
+        if (event.character.cell == cell && canBeAsked(event) &&
+            (event.page->trigger == Trigger::kAsked || World::isObstacle(event))) {
+            return &event;
+        }
+    }
+    return nullptr;
 }
 
 World::Event *MapHero::followWay()

@@ -24,6 +24,8 @@ private:
     World::Event *walk(int direction);
     World::Event *followWay();
     World::Event *ask();
+    /// What the action key begins there.
+    [[nodiscard]] World::Event *askedAt(const QPoint &cell) const;
     [[nodiscard]] World::Event *touchedAt(const QPoint &cell) const;
 
     World *m_world;

@@ -10,6 +10,8 @@ class tst_MapScene : public QObject
 private Q_SLOTS:
     void theHeroWalksByKeysAndIsBlocked();
     void theHeroFindsAWayToAClickedCell();
+    void whoStandsBehindACounterIsAskedAcrossIt_data();
+    void whoStandsBehindACounterIsAskedAcrossIt();
     void aTouchBeginsAnEvent();
     void anEventThatComesMeetsTheHero_data();
     void anEventThatComesMeetsTheHero();
@@ -70,6 +72,37 @@ void tst_MapScene::theHeroFindsAWayToAClickedCell()
     auto play = game(events);
     // Around the wall of events, by its open end.
     QCOMPARE(play.run(QStringLiteral("walk to 7 0\nexpect at 7 0")), QString());
+}
+
+void tst_MapScene::whoStandsBehindACounterIsAskedAcrossIt_data()
+{
+    QTest::addColumn<int>("tile");
+    QTest::addColumn<bool>("isAsked");
+    QTest::newRow("a fence") << 21 << true;
+    QTest::newRow("a wall") << 17 << false;
+    QTest::newRow("nothing") << 0 << false;
+}
+
+void tst_MapScene::whoStandsBehindACounterIsAskedAcrossIt()
+{
+    QFETCH(int, tile);
+    QFETCH(bool, isAsked);
+    player::GameData::Files files =
+        smallGame::files({QJsonValue(), smallGame::event(1, 4, 1, list(kSwitch1))});
+    const QString name = QStringLiteral("data/Map001.json");
+    QJsonObject map = files.value(name).toObject();
+    QJsonArray data = map.value(QStringLiteral("data")).toArray();
+    data[10 * 6 + 10 + 3] = tile; // in the second layer, at (3, 1)
+    map.insert(QStringLiteral("data"), data);
+    files.insert(name, map);
+    sample::Play play(files, smallGame::onMap());
+    // Looks there without going there.
+    QCOMPARE(
+        play.run(QStringLiteral("press down\nwait 20\npress up\nwait 20\n%1act\nwait 5\nexpect switch 1 %2")
+                     .arg(tile != 0 ? QStringLiteral("press right\nwait 20\n") : QString(),
+                          isAsked ? QStringLiteral("on") : QStringLiteral("off"))),
+        QString());
+    QCOMPARE(play.hand().state().hero.cell, QPoint(2, 1));
 }
 
 void tst_MapScene::aTouchBeginsAnEvent()
