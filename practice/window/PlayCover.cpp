@@ -54,6 +54,9 @@ std::optional<QRect> PlayCover::leaveRect() const
 bool PlayCover::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::WindowActivate:
+        setOnTop(true);
+        break;
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::Move:
@@ -74,7 +77,11 @@ void PlayCover::onFocusChanged(const QWidget *now)
     }
     // It stays above the main window, which it belongs to, and changes places with dialogs.
     const QWidget *const window = now->window();
-    const bool isOnTop = window == m_window || (m_isOnTop && window == m_window->parentWidget());
+    setOnTop(window == m_window || (m_isOnTop && window == m_window->parentWidget()));
+}
+
+void PlayCover::setOnTop(bool isOnTop)
+{
     if (std::exchange(m_isOnTop, isOnTop) != isOnTop) {
         Q_EMIT changed();
     }

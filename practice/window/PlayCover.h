@@ -34,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void onFocusChanged(const QWidget *now);
+    void setOnTop(bool isOnTop);
     [[nodiscard]] bool isOn() const { return m_window != nullptr && m_window->isVisible(); }
 
     QPointer<QWidget> m_window;

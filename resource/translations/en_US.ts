@@ -575,7 +575,7 @@
     </message>
     <message>
       <source>#99</source>
-      <translation>The mine is dangerous. Come back at level 5, and save before you go in.</translation>
+      <translation>The mine is dangerous. Come at level 5, and save.</translation>
     </message>
     <message>
       <source>#100</source>
@@ -851,7 +851,7 @@
     </message>
     <message>
       <source>#168</source>
-      <translation>And it is bright again.</translation>
+      <translation>It will be bright again.</translation>
     </message>
     <message>
       <source>#169</source>

@@ -851,7 +851,7 @@
     </message>
     <message>
       <source>#168</source>
-      <translation>また明るくなったな。</translation>
+      <translation>これで、また明るくなるな。</translation>
     </message>
     <message>
       <source>#169</source>

@@ -851,7 +851,7 @@
     </message>
     <message>
       <source>#168</source>
-      <translation>又亮起来了。</translation>
+      <translation>这下又会亮起来了。</translation>
     </message>
     <message>
       <source>#169</source>

@@ -98,7 +98,7 @@ void tst_MenuScenes::gearInTheBagTellsWhatItIsAndWhereItIsPutOn()
     run.wait(1);
     QVERIFY(run.pointAt(QStringLiteral("Knife")));
     QVERIFY(!run.isEnabled(run.list()->current));
-    QCOMPARE(run.help(), QStringLiteral("Short and quick.  Put it on in the menu, under Equipment."));
+    QCOMPARE(run.help(), QStringLiteral("Short and quick. Put it on in the menu, under Equipment."));
 }
 
 void tst_MenuScenes::aSkillCostsItsMp()

@@ -99,7 +99,7 @@ void tst_ShopScene::whatIsTooDearStillSaysWhatItIs()
     run.open<ShopScene>(kGoods, false);
     QVERIFY(run.choose(QStringLiteral("Buy")));
     QVERIFY(run.pointAt(QStringLiteral("Tonic")));
-    QCOMPARE(run.help(), QStringLiteral("Wakes up an ally.  You do not have enough money."));
+    QCOMPARE(run.help(), QStringLiteral("Wakes up an ally. You do not have enough money."));
 }
 
 void tst_ShopScene::oneListAloneHasACursorThatMoves()
