@@ -31,6 +31,10 @@ bool hasPanelsOnly(const Frame &frame)
            !frame.panels.isEmpty() && frame.panel("gameOver") == nullptr;
 }
 
+/// Enemies stand higher than in the picture of their troop, as the party needs the lower part of the screen;
+/// the ground that they stand on comes up with them. In game pixels.
+constexpr int kBackdropAbove = 80;
+
 void paintDusk(QPainter *painter, const QRect &rect)
 {
     QLinearGradient dusk(rect.topLeft(), rect.bottomLeft());
@@ -118,7 +122,9 @@ void FramePainter::paintWorld(QPainter *painter, const Frame &frame, const GameD
     }
     const QString backdrops = QStringLiteral("backdrops");
     if (!frame.backdrop.isEmpty()) {
-        painter->drawPixmap(QPoint(), m_artwork->picture(backdrops, frame.backdrop, all.size()));
+        const int above = scale.length(kBackdropAbove);
+        painter->drawPixmap(0, -above,
+                            m_artwork->picture(backdrops, frame.backdrop, all.size() + QSize(0, above)));
     }
     if (!frame.title.isEmpty()) {
         painter->drawPixmap(QPoint(), m_artwork->picture(QStringLiteral("titles"), frame.title, all.size()));

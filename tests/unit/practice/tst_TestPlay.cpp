@@ -285,6 +285,7 @@ void tst_TestPlay::aDialogThatIsUsedLiesAboveTheGame()
     (*m_editor)->open(str("DatabaseMain"));
     QWidget *const dialog = (*m_editor)->window(str("DatabaseMain"))->window();
     dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog, kSoonMs));
     QTRY_VERIFY_WITH_TIMEOUT((*m_editor)->activities().first().rect.isEmpty(), kSoonMs);
     QVERIFY((*m_editor)->activities().first().isOn);
     window()->activateWindow();
