@@ -32,6 +32,7 @@ int main(int argc, char **argv)
         logDebug(kSource, "main", 98) << reason;
     }
     QApplication application(argc, argv);
+    Platform::keepServerWarningsOut();
     QCoreApplication::setApplicationName(QStringLiteral("Tutorial"));
     QCoreApplication::setApplicationVersion(QStringLiteral("0.1.0"));
     QCoreApplication::setOrganizationName(QStringLiteral("VELMORAN"));

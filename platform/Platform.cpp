@@ -1,6 +1,7 @@
 #include "platform/Platform.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 namespace Platform {
 
@@ -72,6 +73,12 @@ void takeScreenPixels()
 #else
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
 #endif
+}
+
+void keepServerWarningsOut()
+{
+    // Window managers frame and drop windows while Qt asks for them: that is nobody's fault and no news.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.xcb.warning=false"));
 }
 
 } // namespace Platform

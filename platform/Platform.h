@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the programs settle with the desktop before they make the application object.
+/// What the programs settle with the desktop when they make the application object.
 namespace Platform {
 
 /// The way to the screen, and what the log is to say of it.
@@ -27,5 +27,9 @@ QString takeWindowSystem();
 /// Has the application object that is made next count in the screen's own pixels, whatever the desktop asks
 /// for: the two ends of the link speak of places in these.
 void takeScreenPixels();
+
+/// Keeps the X server's own warnings out of the log; to be called once the application object is there, so that
+/// the word of a display that cannot be opened still arrives. QT_LOGGING_RULES brings them back.
+void keepServerWarningsOut();
 
 } // namespace Platform

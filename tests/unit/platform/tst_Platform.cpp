@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 
+#include <QLoggingCategory>
 #include <QtTest>
 
 using Variables = QMap<QString, QString>;
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void findsTheVariablesThatScale();
     void takesScreenPixels();
     void takesTheWindowSystem();
+    void theServersWarningsAloneAreKeptOut();
 };
 
 void tst_Platform::x11IsChosenInAWaylandSession_data()
@@ -140,6 +142,18 @@ void tst_Platform::takesTheWindowSystem()
     qunsetenv("QT_QPA_PLATFORM");
     QVERIFY(!Platform::takeWindowSystem().isEmpty());
     QCOMPARE(qgetenv("QT_QPA_PLATFORM"), QByteArray("xcb"));
+}
+
+void tst_Platform::theServersWarningsAloneAreKeptOut()
+{
+    const QLoggingCategory server("qt.qpa.xcb");
+    const QLoggingCategory plugins("qt.qpa.plugin");
+    QVERIFY(server.isWarningEnabled());
+    Platform::keepServerWarningsOut();
+    QVERIFY(!server.isWarningEnabled());
+    QVERIFY(server.isCriticalEnabled());
+    QVERIFY(plugins.isWarningEnabled());
+    QVERIFY(QLoggingCategory::defaultCategory()->isDebugEnabled());
 }
 
 QTEST_APPLESS_MAIN(tst_Platform)
