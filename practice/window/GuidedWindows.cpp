@@ -88,7 +88,7 @@ std::optional<ControlSpot> GuidedWindows::controlFor(const Step &step) const
 
 std::optional<QRect> GuidedWindows::rectOf(const ControlSpot &spot) const
 {
-    return m_cover.isWayOut(spot) ? m_cover.leaveRect() : m_guides->finder.rectOf(spot);
+    return PlayCover::isWayOut(spot) ? m_cover.leaveRect() : m_guides->finder.rectOf(spot);
 }
 
 void GuidedWindows::reveal(const ControlSpot &spot)
@@ -182,7 +182,7 @@ bool GuidedWindows::perform(const ControlUse &use)
         }
         return isKnown;
     }
-    if (m_cover.isWayOut(use.spot)) {
+    if (PlayCover::isWayOut(use.spot)) {
         Q_EMIT playEndAsked();
         return true;
     }
