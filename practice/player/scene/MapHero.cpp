@@ -41,17 +41,36 @@ MapHero::MapHero(World *world)
 World::Event *MapHero::tick(const Input &input)
 {
     if (input.cell) {
-        m_goal = input.cell;
+        beginWay(*input.cell);
     }
     if (input.isPressed(GameKey::kAct)) {
-        m_goal.reset();
+        forgetWay();
         return ask();
     }
     if (const int direction = heldDirection(input); direction != kNowhere) {
-        m_goal.reset();
+        forgetWay();
         return walk(direction);
     }
     return m_goal ? followWay() : nullptr;
+}
+
+void MapHero::forgetWay()
+{
+    m_goal.reset();
+    m_followed = 0;
+}
+
+void MapHero::beginWay(const QPoint &cell)
+{
+    forgetWay();
+    m_goal = cell;
+    for (const World::Event &event : m_world->events()) {
+        // Between two cells it may be clicked on either.
+        if (canBeAsked(event) && !event.character.image.isEmpty() &&
+            (event.character.cell == cell || event.character.at.toPoint() == cell)) {
+            m_followed = event.character.id;
+        }
+    }
 }
 
 World::Event *MapHero::walk(int direction)
@@ -117,9 +136,13 @@ World::Event *MapHero::followWay()
 {
     Character *const hero = &m_world->state().hero;
     const MapData *const map = m_world->map();
+    if (const World::Event *const followed = m_world->event(m_followed);
+        followed != nullptr && followed->page != nullptr) {
+        m_goal = followed->character.cell;
+    }
     const QPoint goal = *m_goal;
     if (map == nullptr || goal == hero->cell) {
-        m_goal.reset();
+        forgetWay();
         return map == nullptr ? nullptr : ask();
     }
     const QVector<QPoint> way = Ways::find(map->size, hero->cell, goal, [this, hero](const QPoint &cell) {
@@ -127,13 +150,13 @@ World::Event *MapHero::followWay()
         return m_world->canEnter(*hero, cell) && touchedAt(cell) == nullptr;
     });
     if (way.isEmpty()) {
-        m_goal.reset();
+        forgetWay();
         return nullptr;
     }
     const int direction = directionOf(way.constFirst() - hero->cell);
     if (way.size() == 1 && !m_world->canEnter(*hero, goal)) {
         // What stands there is asked, or touched.
-        m_goal.reset();
+        forgetWay();
         Walker::step(hero, direction, m_world);
         World::Event *const touched = touchedAt(goal);
         return touched != nullptr ? touched : ask();

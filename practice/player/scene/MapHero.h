@@ -7,7 +7,8 @@
 
 namespace player {
 
-/// What the person has the hero do on the map: walk by keys, or to a clicked cell, and ask what stands there.
+/// What the person has the hero do on the map: walk by keys, or to a clicked cell, and ask what stands there. Who
+/// is clicked is followed.
 class MapHero
 {
 public:
@@ -18,10 +19,11 @@ public:
     World::Event *tick(const Input &input);
     /// The event that begins because the hero has come to stand on its cell.
     World::Event *arrive();
-    void forgetWay() { m_goal.reset(); }
+    void forgetWay();
 
 private:
     World::Event *walk(int direction);
+    void beginWay(const QPoint &cell);
     World::Event *followWay();
     World::Event *ask();
     /// What the action key begins there.
@@ -30,6 +32,8 @@ private:
 
     World *m_world;
     std::optional<QPoint> m_goal;
+    /// Number of the event that was clicked; 0 for none.
+    int m_followed = 0;
 };
 
 } // namespace player

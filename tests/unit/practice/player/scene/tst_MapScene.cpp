@@ -10,6 +10,7 @@ class tst_MapScene : public QObject
 private Q_SLOTS:
     void theHeroWalksByKeysAndIsBlocked();
     void theHeroFindsAWayToAClickedCell();
+    void whoWalksIsFollowedWhereClicked();
     void whoStandsBehindACounterIsAskedAcrossIt_data();
     void whoStandsBehindACounterIsAskedAcrossIt();
     void aTouchBeginsAnEvent();
@@ -72,6 +73,29 @@ void tst_MapScene::theHeroFindsAWayToAClickedCell()
     auto play = game(events);
     // Around the wall of events, by its open end.
     QCOMPARE(play.run(QStringLiteral("walk to 7 0\nexpect at 7 0")), QString());
+}
+
+void tst_MapScene::whoWalksIsFollowedWhereClicked()
+{
+    const QJsonValue route = smallGame::json(
+        R"({"list":[{"code":1},{"code":1},{"code":1},{"code":4},{"code":4},{"code":4},{"code":0}],"repeat":true})");
+    auto play = game({QJsonValue(), smallGame::event(1, 7, 1, list(kSwitch1), 0,
+                                                     {{QStringLiteral("moveType"), 3},
+                                                      {QStringLiteral("moveFrequency"), 5},
+                                                      {QStringLiteral("moveRoute"), route}})});
+    player::Input input;
+    input.cell = QPoint(7, 1);
+    play.hand().tick(input);
+    QCOMPARE(play.run(QStringLiteral("wait 400\nexpect switch 1 on")), QString());
+    // The keys take over.
+    auto other = game({QJsonValue(), smallGame::event(1, 7, 1, list(kSwitch1))});
+    other.hand().tick(input);
+    player::Input down;
+    down.held = {player::GameKey::kDown};
+    for (int tick = 0; tick < 20; ++tick) {
+        other.hand().tick(down);
+    }
+    QCOMPARE(other.run(QStringLiteral("wait 400\nexpect switch 1 off")), QString());
 }
 
 void tst_MapScene::whoStandsBehindACounterIsAskedAcrossIt_data()
