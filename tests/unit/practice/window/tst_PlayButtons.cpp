@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theButtonAndItsKeyPlayTheProject();
     void nothingOfTheEditorChanges();
     void aBattleIsTriedWithTheTypedParty();
+    void aBattleNeedsEnemiesAndAParty();
     void theEndIsToldOfNoWindow();
     void anEventIsShownWithPageAndCommand();
     void aCommonEventAndATroopAreShown();
@@ -93,6 +94,24 @@ void tst_PlayButtons::aBattleIsTriedWithTheTypedParty()
     QVERIFY(!(*m_editor)->project()->isModified());
     QCOMPARE((*m_editor)->openWindows(),
              (QStringList{str("MainWindow"), str("DatabaseMain"), str("BattleTest")}));
+}
+
+void tst_PlayButtons::aBattleNeedsEnemiesAndAParty()
+{
+    handIn();
+    m_editor->openDatabase(7);
+    m_editor->click("DatabaseMain", "troopsAdd");
+    const QAbstractButton *const test = m_editor->find<QAbstractButton>("DatabaseMain", "battleTest");
+    QVERIFY(!test->isEnabled());
+    m_editor->click("DatabaseMain", "membersAdd");
+    QVERIFY(test->isEnabled());
+    m_editor->click("DatabaseMain", "battleTest");
+    while (m_editor->find<RowList>("BattleTest", "battlers")->model()->rowCount() > 0) {
+        m_editor->click("BattleTest", "delete");
+    }
+    QVERIFY(!m_editor->find<QAbstractButton>("BattleTest", "start")->isEnabled());
+    m_editor->click("BattleTest", "add");
+    QVERIFY(m_editor->find<QAbstractButton>("BattleTest", "start")->isEnabled());
 }
 
 void tst_PlayButtons::theEndIsToldOfNoWindow()
