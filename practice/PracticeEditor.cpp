@@ -1,5 +1,6 @@
 #include "PracticeEditor.h"
 
+#include "SoundTrial.h"
 #include "TestPlay.h"
 #include "strip/LessonStrip.h"
 #include "strip/PraiseCard.h"
@@ -38,6 +39,7 @@ PracticeEditor::PracticeEditor(const Options &options, std::unique_ptr<EditorWin
     , m_place(options.placeFile)
     , m_link(options.companionProgram, options.key, options.locale)
     , m_testPlay(std::make_unique<TestPlay>(m_windows.get(), &m_session, m_strip))
+    , m_soundTrial(std::make_unique<SoundTrial>(m_windows.get()))
 {
     m_windows->dock(m_strip);
     m_windows->setPutBackButton(m_strip->putBackButton());

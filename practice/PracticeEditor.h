@@ -15,6 +15,7 @@ class EditorWindows;
 class LessonStrip;
 class QWindow;
 class StripControl;
+class SoundTrial;
 class TestPlay;
 
 /// The practice editor as a whole: joins the windows, the link and the lesson.
@@ -99,6 +100,7 @@ private:
     PlaceMemory m_place;
     HostLink m_link;
     std::unique_ptr<TestPlay> m_testPlay;
+    std::unique_ptr<SoundTrial> m_soundTrial;
     QPointer<QWindow> m_mainWindow; ///< watched; null before start()
     /// What the person wanted from the start has been seen to.
     bool m_isBegun = false;

@@ -20,6 +20,7 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     , m_lists(&m_sources)
     , m_chooser(&m_sources)
     , m_play(&m_start, &m_files, &m_sources)
+    , m_sound(&m_sources, &m_fields)
     , m_events({&m_start, &m_files, &m_sources, &m_board, &m_tools})
 {
     m_tools.addTo(m_commands, m_sources);
@@ -28,6 +29,7 @@ Project::Project(StartData start, const QString &location, QObject *parent)
     m_lists.addTo(m_commands, m_fields, m_sources);
     m_chooser.addTo(m_commands, m_fields, m_sources);
     m_play.addTo(m_commands);
+    m_sound.addTo(m_commands, m_fields);
     m_events.addTo(m_commands, m_fields, m_sources);
     addOwnWords();
     m_tools.addTo(m_states);
@@ -181,6 +183,12 @@ void Project::save()
 void Project::setPlayer(const PlayWords::Play &play)
 {
     m_play.setPlayer(play);
+    Q_EMIT changed();
+}
+
+void Project::setSoundListener(SoundListener *listener)
+{
+    m_sound.setListener(listener);
     Q_EMIT changed();
 }
 

@@ -11,6 +11,7 @@
 #include "project/Maps.h"
 #include "project/NewProject.h"
 #include "project/PlayWords.h"
+#include "project/SoundWords.h"
 #include "project/StartData.h"
 #include "project/StateParts.h"
 #include "project/events/Events.h"
@@ -62,6 +63,9 @@ public:
 
     /// Hands in who plays the project: the commands for it can run from here on.
     void setPlayer(const PlayWords::Play &play);
+    /// Hands in who lets sounds be heard while they are chosen; it outlives the project, or nullptr is handed
+    /// in before it goes.
+    void setSoundListener(SoundListener *listener);
 
     /// Offers @p folder as the place of projects.
     void setProjectsFolder(const QString &folder);
@@ -110,5 +114,6 @@ private:
     ListCommands m_lists;
     Chooser m_chooser;
     PlayWords m_play;
+    SoundWords m_sound;
     Events m_events;
 };

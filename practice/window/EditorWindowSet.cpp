@@ -234,6 +234,11 @@ void EditorWindowSet::setPlayer(const PlayWords::Play &play)
     m_ground.project->setPlayer(play);
 }
 
+void EditorWindowSet::setSoundListener(SoundListener *listener)
+{
+    m_ground.project->setSoundListener(listener);
+}
+
 void EditorWindowSet::play()
 {
     m_ground.project->run(QStringLiteral("play.project"), m_ground.project->files());

@@ -49,6 +49,7 @@ public:
 
     void setProjectsFolder(const QString &folder) override;
     void setPlayer(const PlayWords::Play &play) override;
+    void setSoundListener(SoundListener *listener) override;
     void play() override;
     void tellPlayed() override;
     bool replaceFiles(const QMap<QString, QString> &files) override;

@@ -2,6 +2,7 @@
 
 #include "host/HostEditor.h"
 #include "project/PlayWords.h"
+#include "project/SoundWords.h"
 #include "project/events/EventPlace.h"
 
 #include <QMap>
@@ -63,6 +64,9 @@ public:
     /// Hands in who plays the project when the person asks for it: the buttons for it are of use from here
     /// on. The windows stay as they are meanwhile, and of use.
     virtual void setPlayer(const PlayWords::Play &play) = 0;
+    /// Hands in who lets sounds be heard while they are chosen; it outlives the windows, or nullptr is handed
+    /// in before it goes.
+    virtual void setSoundListener(SoundListener *listener) = 0;
     /// Lets the project be played as it stands, as its button does; nothing happens while none is open.
     virtual void play() = 0;
     /// The window in which the project is played, once it is shown: where it lies over what a lesson points

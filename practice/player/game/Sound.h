@@ -10,7 +10,7 @@ struct Sound
 {
     QString file;
     /// In percent.
-    int volume = 90;
+    int volume = 100;
     /// In percent.
     int pitch = 100;
     /// -100 left to 100 right.
