@@ -7,8 +7,8 @@
 
 namespace player {
 
-/// What the person has the hero do on the map: walk by keys, or to a clicked cell, and ask what stands there. Who
-/// is clicked is followed.
+/// What the person has the hero do on the map: walk by keys, or to a clicked cell, and ask what stands there.
+/// Who is clicked is followed.
 class MapHero
 {
 public:
