@@ -28,8 +28,8 @@ QString takeWindowSystem();
 /// for: the two ends of the link speak of places in these.
 void takeScreenPixels();
 
-/// Keeps the X server's own warnings out of the log; to be called once the application object is there, so that
-/// the word of a display that cannot be opened still arrives. QT_LOGGING_RULES brings them back.
+/// Keeps the X server's own warnings out of the log; to be called once the application object is there, so
+/// that the word of a display that cannot be opened still arrives. QT_LOGGING_RULES brings them back.
 void keepServerWarningsOut();
 
 } // namespace Platform
