@@ -5,8 +5,12 @@
 
 ControlMaker readTextEdit(ControlReader &reader)
 {
-    return [field = reader.field(), name = reader.description().name](EditorWindow *window) {
+    const bool isFirst = reader.json().flag(QStringLiteral("first"));
+    return [isFirst, field = reader.field(), name = reader.description().name](EditorWindow *window) {
         auto *edit = new QPlainTextEdit(window);
+        if (isFirst) {
+            window->setFirstControl(edit);
+        }
         edit->setTabChangesFocus(true);
         keepFresh(edit, window, [edit, window, field] {
             // The cursor stays where it is while the text does.

@@ -39,7 +39,9 @@ void tst_EventCommandWindows::aCommandIsChosenAndWritten()
     editor.takeTold();
     editor.openRow("EventCommandSelect", "commands", 0);
     QCOMPARE(editor.takeTold().mid(1), closed("EventCommandSelect") + opened("EventCommand"));
-    editor.find<QPlainTextEdit>("EventCommand", "101/lines")->setPlainText(str("Woof!\nWoof!"));
+    auto *const lines = editor.find<QPlainTextEdit>("EventCommand", "101/lines");
+    QCOMPARE(lines->window()->focusWidget(), lines); // what is said is typed at once
+    lines->setPlainText(str("Woof!\nWoof!"));
     editor.click("EventCommand", "ok");
     QCOMPARE(editor.texts("EventEditorMain", "commands").size(), 2);
     QVERIFY(editor.texts("EventEditorMain", "commands").at(0).contains(str("Woof! Woof!")));
