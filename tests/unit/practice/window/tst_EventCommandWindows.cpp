@@ -142,6 +142,12 @@ void tst_EventCommandWindows::goodsOfAShop()
     const QStringList names = editor.texts("EventCommandSelect", "commands");
     editor.openRow("EventCommandSelect", "commands", int(names.indexOf(str("Shop"))));
     QCOMPARE(editor.texts("EventCommand", "302/goods").size(), 1);
+    const QAbstractButton *const edit = editor.find<QAbstractButton>("EventCommand", "302/edit");
+    QVERIFY(edit->isEnabled());
+    editor.click("EventCommand", "302/remove");
+    QVERIFY(!edit->isEnabled()); // there are no goods to change
+    editor.click("EventCommand", "302/add");
+    editor.click("Merchandise", "ok");
     editor.click("EventCommand", "302/add");
     QCOMPARE(editor->openWindows().last(), str("Merchandise"));
     editor.choose("Merchandise", "kind", 1);
