@@ -36,6 +36,9 @@ public:
     /// The value that the file holds; undefined when there is no such file.
     [[nodiscard]] virtual QJsonValue file(const QString &name) const = 0;
 
+    /// The merge key of what is no step of its own: a window notes what it works at.
+    [[nodiscard]] static QString noStep() { return QStringLiteral("no step"); }
+
     /// Gives the files these values, as one step. It joins the step before when both have this @p mergeKey
     /// and it is not empty.
     virtual void change(const DataRoots &files, const QString &mergeKey) = 0;
@@ -72,6 +75,7 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] const QHash<QString, int> &selections() const { return m_selected; }
+    void setSelections(const QHash<QString, int> &selected) { m_selected = selected; }
     void forgetSelections() { m_selected.clear(); }
     void forgetMarks() { m_marks.clear(); }
 

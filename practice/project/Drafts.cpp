@@ -19,8 +19,15 @@ QJsonValue Draft::file(const QString &name) const
     return own != m_files.constEnd() ? *own : below()->file(name);
 }
 
-void Draft::change(const DataRoots &files, const QString & /*mergeKey*/)
+void Draft::change(const DataRoots &files, const QString &mergeKey)
 {
+    if (mergeKey != noStep()) {
+        if (mergeKey.isEmpty() || mergeKey != m_mergeKey || m_past.isEmpty()) {
+            m_past.append(state());
+        }
+        m_mergeKey = mergeKey;
+        m_future.clear();
+    }
     for (auto file = files.begin(); file != files.end(); ++file) {
         m_files.insert(file.key(), file.value());
     }
@@ -36,6 +43,7 @@ void Draft::accept()
         }
     }
     m_files.clear();
+    forgetHistory();
     if (!files.isEmpty()) {
         below()->change(files, QString());
     }
@@ -61,12 +69,44 @@ QJsonObject Draft::saveTyped() const
 
 void Draft::loadSelf(const QJsonObject &state)
 {
+    forgetHistory();
     m_files = DataRootsJson::load(state.value(draftMember()).toObject());
     DataLayer::loadSelf(state);
 }
 
+void Draft::undo()
+{
+    step(&m_past, &m_future);
+}
+
+void Draft::redo()
+{
+    step(&m_future, &m_past);
+}
+
+void Draft::step(QVector<State> *from, QVector<State> *to)
+{
+    if (from->isEmpty()) {
+        return;
+    }
+    to->append(state());
+    const State wanted = from->takeLast();
+    m_files = wanted.files;
+    setSelections(wanted.selected);
+    m_mergeKey.clear();
+    Q_EMIT changed();
+}
+
+void Draft::forgetHistory()
+{
+    m_past.clear();
+    m_future.clear();
+    m_mergeKey.clear();
+}
+
 void Draft::clear()
 {
+    forgetHistory();
     m_files.clear();
     forgetSelections();
     forgetMarks();
@@ -106,6 +146,13 @@ void Drafts::drop(const DataLayer *draft)
     }
     m_drafts.pop_back();
     Q_EMIT changed();
+}
+
+void Drafts::forgetHistory()
+{
+    if (!m_drafts.empty()) {
+        m_drafts.back()->forgetHistory();
+    }
 }
 
 void Drafts::clear()

@@ -2,11 +2,13 @@
 
 #include "project/DataLayer.h"
 
+#include <QVector>
+
 #include <memory>
 #include <vector>
 
-/// What was typed into a dialog and neither accepted nor dropped. Files that it did not touch are those of
-/// the layer below.
+/// What was typed into a dialog and neither accepted nor dropped, with a history of its own. Files that it did not
+/// touch are those of the layer below.
 class Draft : public DataLayer
 {
     Q_OBJECT
@@ -24,8 +26,29 @@ public:
     /// Drops what was typed.
     void clear();
 
+    [[nodiscard]] bool canUndo() const { return !m_past.isEmpty(); }
+    [[nodiscard]] bool canRedo() const { return !m_future.isEmpty(); }
+    /// Takes the last change back, and selects what was selected before it; does nothing without one.
+    void undo();
+    void redo();
+    /// What was changed so far stays.
+    void forgetHistory();
+
 private:
+    /// Values are shared, so that a whole state costs little.
+    struct State
+    {
+        DataRoots files;
+        QHash<QString, int> selected;
+    };
+
+    [[nodiscard]] State state() const { return {m_files, selections()}; }
+    void step(QVector<State> *from, QVector<State> *to);
+
     DataRoots m_files;
+    QVector<State> m_past;
+    QVector<State> m_future;
+    QString m_mergeKey;
 };
 
 /// The drafts of the open dialogs, each on top of the one before.
@@ -45,6 +68,9 @@ public:
 
     /// Drops @p draft with all above it; does nothing for another layer.
     void drop(const DataLayer *draft);
+
+    /// What was changed so far in the topmost one cannot be undone in it.
+    void forgetHistory();
 
     /// Drops what was typed into all of them, which stay: there is another project below.
     void clear();

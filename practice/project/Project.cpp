@@ -76,6 +76,30 @@ void Project::addOwnWords()
             return m_files.history().canRedo();
         });
     m_commands.add(QStringLiteral("draft.accept"), [](DataLayer &layer) { layer.accept(); });
+    m_commands.add(
+        QStringLiteral("draft.undo"),
+        [](DataLayer &layer) {
+            if (auto *const draft = qobject_cast<Draft *>(&layer)) {
+                draft->undo();
+            }
+        },
+        {},
+        [](const DataLayer &layer, const QString & /*argument*/) {
+            const auto *const draft = qobject_cast<const Draft *>(&layer);
+            return draft != nullptr && draft->canUndo();
+        });
+    m_commands.add(
+        QStringLiteral("draft.redo"),
+        [](DataLayer &layer) {
+            if (auto *const draft = qobject_cast<Draft *>(&layer)) {
+                draft->redo();
+            }
+        },
+        {},
+        [](const DataLayer &layer, const QString & /*argument*/) {
+            const auto *const draft = qobject_cast<const Draft *>(&layer);
+            return draft != nullptr && draft->canRedo();
+        });
 }
 
 QString Project::name() const

@@ -21,6 +21,13 @@ namespace {
 /// Sizes in the descriptions are made for this font, whatever the desktop's own is.
 constexpr int kFontPixels = 12;
 
+/// Both keys of the menu, one of which is not the desktop's.
+bool isRedo(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Redo) ||
+           (event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier);
+}
+
 } // namespace
 
 EditorWindow::EditorWindow(const QString &key, const QSize &size, Project *project, QWidget *parent,
@@ -305,6 +312,10 @@ void EditorWindow::keyPressEvent(QKeyEvent *event)
         m_defaultButton->click();
     } else if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::Dialog)) {
         Q_EMIT closeRequested();
+    } else if (m_hasOwnLayer && isOfUse() && event->matches(QKeySequence::Undo)) {
+        run(QStringLiteral("draft.undo"));
+    } else if (m_hasOwnLayer && isOfUse() && isRedo(*event)) {
+        run(QStringLiteral("draft.redo"));
     } else if (!changesTab(*event)) {
         QWidget::keyPressEvent(event);
     }

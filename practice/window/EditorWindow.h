@@ -41,7 +41,12 @@ public:
 
     /// What the window shows and changes. The project itself at first; never one that is gone.
     [[nodiscard]] DataLayer &layer() const { return *m_layer; }
-    void setLayer(DataLayer *layer) { m_layer = layer; }
+    /// @p isOwn: a draft that began with the window, whose changes its keys undo.
+    void setLayer(DataLayer *layer, bool isOwn = false)
+    {
+        m_layer = layer;
+        m_hasOwnLayer = isOwn;
+    }
 
     /// Nothing is changed while the window is hidden or blocked: a number that was half typed when it closed
     /// is rounded when the focus leaves it, and must not get into the project that way.
@@ -157,6 +162,7 @@ private:
 
     Project *m_project;
     DataLayer *m_layer;
+    bool m_hasOwnLayer = false;
     /// As described.
     QSize m_size;
     QVector<QWidget *> m_controls;

@@ -137,10 +137,14 @@ bool EditorWindowSet::openWith(const QString &windowKey, const ControlAction &ac
         return true;
     }
     m_places.place(window);
-    window->setLayer(description.isDraft ? m_ground.project->drafts().begin()
-                                         : m_ground.project->drafts().top());
+    Drafts &drafts = m_ground.project->drafts();
+    window->setLayer(description.isDraft ? drafts.begin() : drafts.top(), description.isDraft);
     for (const QString &command : action.begin) {
         window->run(command, action.entry);
+    }
+    if (description.isDraft) {
+        // An entry that the window has begun with goes with Cancel.
+        drafts.forgetHistory();
     }
     if (!m_stack.isEmpty()) {
         standAbove(window, m_windows[m_stack.last()]);

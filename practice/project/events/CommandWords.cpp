@@ -101,7 +101,7 @@ void CommandWords::addTo(Commands &commands, Fields &fields, RowSources &sources
     commands.add(str("commands.of"), [](DataLayer &layer, const CommandCall &call) {
         const QJsonObject edited{{str("list"), call.argument}};
         if (layer.file(listFile()) != edited) {
-            layer.change({{listFile(), edited}}, QString());
+            layer.change({{listFile(), edited}}, DataLayer::noStep());
         }
     });
     const auto isCommand = [this](const DataLayer &layer, const QString & /*argument*/) {

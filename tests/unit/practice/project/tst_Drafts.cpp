@@ -36,6 +36,10 @@ private Q_SLOTS:
     void filesComeAndGoInADraft();
     void droppingTheProjectItselfDoesNothing();
     void clearedDraftsShowWhatIsBelow();
+    void changesOfADraftAreUndoneOneByOne();
+    void changesOfOnePlaceAreOneStepOfADraft();
+    void whatWasAcceptedIsUndoneAsOneStepBelow();
+    void aForgottenHistoryLeavesWhatWasDone();
 
 private:
     [[nodiscard]] QString name(const DataLayer &layer) const { return layer.value(kItems, kName).toString(); }
@@ -201,6 +205,81 @@ void tst_Drafts::clearedDraftsShowWhatIsBelow()
     upper->accept();
     lower->accept();
     QCOMPARE(m_files->history().count(), 0);
+}
+
+void tst_Drafts::changesOfADraftAreUndoneOneByOne()
+{
+    auto *const draft = qobject_cast<Draft *>(m_drafts->begin());
+    QVERIFY(!draft->canUndo());
+    draft->select(kList, 1);
+    draft->set(kItems, kName, QStringLiteral("Bread"));
+    draft->change({{kItems, QJsonArray()}}, QString());
+    draft->select(kList, 0);
+    QSignalSpy changed(m_drafts.get(), &Drafts::changed);
+    draft->undo();
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(name(*draft), QStringLiteral("Bread"));
+    QCOMPARE(draft->selected(kList), 1);
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Herb"));
+    QVERIFY(!draft->canUndo());
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Herb"));
+    draft->redo();
+    QCOMPARE(name(*draft), QStringLiteral("Bread"));
+    draft->redo();
+    QCOMPARE(draft->file(kItems).toArray(), QJsonArray());
+    QCOMPARE(draft->selected(kList), 0);
+    QVERIFY(!draft->canRedo());
+    // A new change leaves nothing to do again.
+    draft->undo();
+    draft->set(kItems, kName, QStringLiteral("Rope"));
+    QVERIFY(!draft->canRedo());
+}
+
+void tst_Drafts::changesOfOnePlaceAreOneStepOfADraft()
+{
+    auto *const draft = qobject_cast<Draft *>(m_drafts->begin());
+    for (const QString &typed : {QStringLiteral("R"), QStringLiteral("Ro"), QStringLiteral("Rope")}) {
+        draft->set(kItems, kName, typed);
+    }
+    draft->set(kItems, QStringLiteral("/1/price"), 9);
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Rope"));
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Herb"));
+    // What a window notes for itself is none.
+    draft->change({{QStringLiteral("commands"), QStringLiteral("a list")}}, DataLayer::noStep());
+    QVERIFY(draft->canRedo() && !draft->canUndo());
+    // What comes next there is a step of its own.
+    draft->redo();
+    draft->set(kItems, kName, QStringLiteral("Ropes"));
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Rope"));
+}
+
+void tst_Drafts::whatWasAcceptedIsUndoneAsOneStepBelow()
+{
+    auto *const lower = qobject_cast<Draft *>(m_drafts->begin());
+    auto *const upper = qobject_cast<Draft *>(m_drafts->begin());
+    upper->set(kItems, kName, QStringLiteral("Bread"));
+    upper->set(kItems, QStringLiteral("/1/price"), 9);
+    upper->accept();
+    QVERIFY(!upper->canUndo());
+    lower->undo();
+    QVERIFY(!lower->canUndo());
+    QCOMPARE(name(*lower), QStringLiteral("Herb"));
+    QCOMPARE(lower->value(kItems, QStringLiteral("/1/price")), QJsonValue(8));
+}
+
+void tst_Drafts::aForgottenHistoryLeavesWhatWasDone()
+{
+    auto *const draft = qobject_cast<Draft *>(m_drafts->begin());
+    draft->set(kItems, kName, QStringLiteral("Bread"));
+    m_drafts->forgetHistory();
+    QVERIFY(!draft->canUndo());
+    draft->undo();
+    QCOMPARE(name(*draft), QStringLiteral("Bread"));
 }
 
 QTEST_APPLESS_MAIN(tst_Drafts)

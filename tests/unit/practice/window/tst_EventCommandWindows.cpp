@@ -44,6 +44,14 @@ void tst_EventCommandWindows::aCommandIsChosenAndWritten()
     lines->setPlainText(str("Woof!\nWoof!"));
     editor.click("EventCommand", "ok");
     QCOMPARE(editor.texts("EventEditorMain", "commands").size(), 2);
+    // The window has a history of its own until it is accepted.
+    auto *const commands = editor.find<RowList>("EventEditorMain", "commands");
+    QTest::keyClick(commands, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(editor.texts("EventEditorMain", "commands"), QStringList{str("+")});
+    QTest::keyClick(commands, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(editor.texts("EventEditorMain", "commands"), QStringList{str("+")});
+    QTest::keyClick(commands, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(editor.texts("EventEditorMain", "commands").size(), 2);
     QVERIFY(editor.texts("EventEditorMain", "commands").at(0).contains(str("Woof! Woof!")));
     QCOMPARE(editor.find<RowList>("EventEditorMain", "commands")->currentRow(), 1);
     editor.click("EventEditorMain", "ok");
