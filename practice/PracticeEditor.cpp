@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
@@ -250,7 +251,7 @@ void PracticeEditor::onLost(const QString &lastWords)
     if (m_options.unattended) {
         return;
     }
-    auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"),
+    auto *box = new QMessageBox(QMessageBox::Warning, m_windows->title(QStringLiteral("MainWindow")),
                                 tr("The guide ended unexpectedly. Your project is not affected."),
                                 QMessageBox::NoButton, m_strip->window());
     box->setObjectName(QStringLiteral("lostMessageBox"));
@@ -287,11 +288,15 @@ void PracticeEditor::tellPerson(const QString &text)
     if (m_options.unattended) {
         return;
     }
-    auto *box = new QMessageBox(QMessageBox::Warning, tr("Practice editor"), tr("Something went wrong."),
-                                QMessageBox::Ok, m_strip->window());
-    box->setInformativeText(text);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    // What goes wrong may still close its window, which hands the keyboard on: the message comes after that.
+    QTimer::singleShot(0, this, [this, text] {
+        auto *box = new QMessageBox(QMessageBox::Warning, m_windows->title(QStringLiteral("MainWindow")),
+                                    tr("Something went wrong."), QMessageBox::Ok, m_strip->window());
+        box->setInformativeText(text);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+        box->activateWindow();
+    });
 }
 
 void PracticeEditor::returnFocus()

@@ -619,10 +619,6 @@
         <translation>問題が起きました。</translation>
     </message>
     <message>
-        <source>Practice editor</source>
-        <translation>練習用エディター</translation>
-    </message>
-    <message>
         <source>The editor cannot listen on “%1”: %2. Start it again with another --key, or without one.</source>
         <extracomment>%1 is the name of a local server, %2 the system&apos;s reason.</extracomment>
         <translation>「%1」で接続を待てません（%2）。別の --key を付けるか、--key を付けずに、もう一度起動してください。</translation>

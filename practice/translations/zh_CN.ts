@@ -619,10 +619,6 @@
         <translation>出错了。</translation>
     </message>
     <message>
-        <source>Practice editor</source>
-        <translation>练习编辑器</translation>
-    </message>
-    <message>
         <source>The editor cannot listen on “%1”: %2. Start it again with another --key, or without one.</source>
         <extracomment>%1 is the name of a local server, %2 the system&apos;s reason.</extracomment>
         <translation>无法在“%1”上等待连接（%2）。请换一个 --key，或不用 --key，重新启动编辑器。</translation>
