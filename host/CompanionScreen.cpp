@@ -3,6 +3,8 @@
 #include "host/HostEditor.h"
 #include "lesson/LessonWords.h"
 
+#include <utility>
+
 CompanionScreen::CompanionScreen(HostEditor *editor, QObject *parent)
     : QObject(parent)
     , m_editor(editor)
@@ -25,6 +27,9 @@ CompanionScreen::CompanionScreen(HostEditor *editor, QObject *parent)
 
 void CompanionScreen::start()
 {
+    if (std::exchange(m_hasOldTooltip, false)) {
+        Q_EMIT sends(HostCommands::showTooltip(QString(), QPoint()));
+    }
     m_plays = true;
     m_screen.reset();
     tellScreen();
@@ -113,5 +118,6 @@ void CompanionScreen::hideTooltip()
 {
     // While a lesson plays, a tooltip that was hidden comes back with the time that it had left; an empty one
     // does not show.
+    m_hasOldTooltip = !m_plays;
     Q_EMIT sends(m_plays ? HostCommands::showTooltip(QString(), QPoint()) : HostCommands::hideTooltip());
 }

@@ -47,6 +47,8 @@ private:
 
     HostEditor *m_editor;
     bool m_plays = false;
+    /// A tooltip was hidden before the lesson: with its start it would come back.
+    bool m_hasOldTooltip = false;
     std::optional<QPoint> m_place;
     /// As they were told last in this lesson.
     std::optional<QRect> m_screen;

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void tellsTheScreenThatTheEditorGoesTo();
     void tellsTheStackAnewAfterAnAbandonedPopup();
     void showsTheEditorsTooltips();
+    void anOldTooltipDoesNotComeBackWithALesson();
 };
 
 void tst_CompanionScreen::tellsTheWindowsBeforeTheFirstStep()
@@ -94,6 +95,19 @@ void tst_CompanionScreen::tellsTheStackAnewAfterAnAbandonedPopup()
         }
         QCOMPARE(stack, m_windows->openWindows());
     }
+}
+
+void tst_CompanionScreen::anOldTooltipDoesNotComeBackWithALesson()
+{
+    Q_EMIT m_windows->hovered(QStringLiteral("Save (Ctrl+S)"), QPoint(30, 40));
+    Q_EMIT m_windows->unhovered();
+    sent();
+    m_session->receive(startCommand(kReading));
+    const QStringList told = sent();
+    const int emptied = int(told.indexOf(QStringLiteral("showTooltip||0|0")));
+    QVERIFY(emptied >= 0);
+    // The companion shows it again from its start on.
+    QVERIFY(told.indexOf(QRegularExpression(QStringLiteral("^start\\|.*"))) > emptied);
 }
 
 void tst_CompanionScreen::showsTheEditorsTooltips()
