@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-/// What was typed into a dialog and neither accepted nor dropped, with a history of its own. Files that it did not
-/// touch are those of the layer below.
+/// What was typed into a dialog and neither accepted nor dropped, with a history of its own. Files that it
+/// did not touch are those of the layer below.
 class Draft : public DataLayer
 {
     Q_OBJECT
