@@ -57,6 +57,15 @@ void Maps::addTo(Commands &commands, Fields &fields, RowSources &sources)
         [this](DataLayer &layer, const QVariant &value) {
             layer.set(MapTree::fileOf(selected(layer)), QStringLiteral("/showName"), value.toBool());
         });
+    const auto pushed = [this](const DataLayer &layer) {
+        const QJsonValue file = layer.file(MapTree::fileOf(selected(layer)));
+        return file.isObject() ? MapEvents(file).countOutside(GameMap::fromFile(file).size) : 0;
+    };
+    const auto keep = [](DataLayer & /*layer*/, const QVariant & /*value*/) {
+    };
+    fields.add(QStringLiteral("map.pushed"), pushed, keep);
+    fields.add(
+        QStringLiteral("map.pushes"), [pushed](const DataLayer &layer) { return pushed(layer) > 0; }, keep);
     commands.add(QStringLiteral("map.new"), [this](DataLayer &layer) {
         GameMap map = GameMap::blank(kNewMapSize, kGround);
         map.name = m_start->texts.value(QStringLiteral("newMapName"));

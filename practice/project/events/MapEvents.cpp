@@ -4,6 +4,7 @@
 
 #include <QRect>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -126,6 +127,14 @@ void MapEvents::rename(int number, const QString &name)
         renamed.insert(str("name"), name);
         m_events.replace(number, renamed);
     }
+}
+
+int MapEvents::countOutside(const QSize &size) const
+{
+    const QVector<Event> events = all();
+    return int(std::count_if(events.cbegin(), events.cend(), [&size](const Event &event) {
+        return !QRect(QPoint(), size).contains(event.cell);
+    }));
 }
 
 void MapEvents::keepInside(const QSize &size)

@@ -45,6 +45,8 @@ public:
     /// Moves the events that stand outside of a map of this size to the nearest cells that are free; one for
     /// which there is none goes.
     void keepInside(const QSize &size);
+    /// How many stand outside of it.
+    [[nodiscard]] int countOutside(const QSize &size) const;
 
     /// An event with one page, and a page, that say nothing.
     [[nodiscard]] static QJsonObject blank(const QString &name);

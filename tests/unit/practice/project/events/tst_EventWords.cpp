@@ -170,7 +170,10 @@ void tst_EventWords::aSmallerMapTakesItsEventsIn()
     begin(room, {20, 3});
     makeEvent(room, {20, 3});
     DataLayer *draft = room.project.drafts().begin();
+    QCOMPARE(room.field("map.pushes"), QVariant(false));
     room.setField("data/Map{maps}/width", 10);
+    QCOMPARE(room.field("map.pushes"), QVariant(true));
+    QCOMPARE(room.field("map.pushed"), QVariant(1));
     room.run("map.accept");
     room.project.drafts().drop(draft);
     QCOMPARE(events(room).at(1)[QLatin1String("x")], QJsonValue(9));

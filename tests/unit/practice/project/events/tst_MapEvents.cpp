@@ -117,7 +117,9 @@ void tst_MapEvents::eventsStayInsideASmallerMap()
     events.add(MapEvents::blank(str("at the edge")), {7, 3});
     events.add(MapEvents::blank(str("outside")), {12, 3});
     events.add(MapEvents::blank(str("far outside")), {19, 15});
+    QCOMPARE(events.countOutside({8, 8}), 2);
     events.keepInside({8, 8});
+    QCOMPARE(events.countOutside({8, 8}), 0);
     QCOMPARE(events.event(1).value(str("x")), QJsonValue(2));
     QCOMPARE(events.at({7, 3}), 2);
     QVector<QPoint> cells;
