@@ -16,6 +16,22 @@ QString formFile()
     return str("command");
 }
 
+/// The form with a text for each of the fields for choices: what is typed behind a gap has its place then.
+/// Those at the end that stay empty are dropped when the form is accepted.
+QJsonObject typable(QJsonObject form)
+{
+    constexpr int kFields = 10;
+    const QString first = str("0");
+    QJsonArray texts = form.value(first).toArray();
+    if (form.value(str("code")).toInt() == EventCommands::kChoices && form.value(first).isArray()) {
+        while (texts.size() < kFields) {
+            texts.append(QString());
+        }
+        form.insert(first, texts);
+    }
+    return form;
+}
+
 QString listFile()
 {
     return str("commands");
@@ -165,12 +181,12 @@ void CommandWords::addForms(Commands &commands, Fields &fields, RowSources &sour
     // The goods of a shop: a kind and the number of an entry each.
     sources.add(str("command/entries"), [this](const DataLayer &layer) { return goods(layer); });
     commands.add(str("command.new"), [this](DataLayer &layer) {
-        QJsonObject form = CommandList::newForm(m_start->eventCommands, chosenCode(layer));
+        QJsonObject form = typable(CommandList::newForm(m_start->eventCommands, chosenCode(layer)));
         form.insert(str("isNew"), true);
         layer.change({{formFile(), form}}, QString());
     });
     commands.add(str("command.edit"), [this](DataLayer &layer) {
-        layer.change({{formFile(), list(layer).form(selected(layer))}}, QString());
+        layer.change({{formFile(), typable(list(layer).form(selected(layer)))}}, QString());
     });
     commands.add(str("command.accept"), [this](DataLayer &layer) { accept(layer); });
     commands.add(str("command.insert"), [this](DataLayer &layer) {

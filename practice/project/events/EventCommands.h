@@ -37,7 +37,8 @@ public:
         /// 0 when the command has no lists.
         int end = 0;
     };
-    /// Choices: code of the entry ahead of a choice's commands, and of those for the way out.
+    /// Choices: their code, that of the entry ahead of a choice's commands, and of that for the way out.
+    static constexpr int kChoices = 102;
     static constexpr int kChoice = 402;
     static constexpr int kCancelled = 403;
     static constexpr int kWayOut = -2;

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void aTileSetLooksLikeItsPicture();
     void theGameHasItsParty();
     void musicIsChosenWithItsVolume();
+    void aNewActorCanGainLevels();
     void aTroopHasPagesOfCommands();
     void aMemberOfATroopMayAppearLater();
     void aCommonEventHasCommands();
@@ -319,6 +320,18 @@ void tst_DatabaseMain::theGameHasItsParty()
     QCOMPARE(editor.value("System", "/partyMembers"), QJsonValue(QJsonArray({3, 1})));
     QCOMPARE(editor.value("System", "/titleScreen/showTitle"), QJsonValue(true));
     QCOMPARE(editor.value("System", "/terms"), QJsonValue(QJsonValue::Null));
+}
+
+void tst_DatabaseMain::aNewActorCanGainLevels()
+{
+    SampleEditor editor;
+    editor.openDatabase(0);
+    editor.click("DatabaseMain", "actorsAdd");
+    QCOMPARE(editor.find<QSpinBox>("DatabaseMain", "actorMaxLevel")->value(), 50);
+    QVERIFY(!editor.find<QComboBox>("DatabaseMain", "actorClass")->currentText().isEmpty());
+    editor.click("DatabaseMain", "ok");
+    QCOMPARE(editor.value("Actors", "/4/id"), QJsonValue(4));
+    QCOMPARE(editor.value("Actors", "/4/classId"), QJsonValue(1));
 }
 
 void tst_DatabaseMain::musicIsChosenWithItsVolume()

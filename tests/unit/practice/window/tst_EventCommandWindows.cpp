@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aCommandIsEditedAndCancelled();
     void everyCommandOfTheSampleOpensItsForm();
     void goodsOfAShop();
+    void aChoiceTypedBehindAGapIsKept();
     void aMessageIsDrawn();
     void aMessageIsDrawnAsTheGameShowsIt();
     void aCommandIsCalledInTheTitle_data();
@@ -173,6 +174,23 @@ void tst_EventCommandWindows::goodsOfAShop()
     QCOMPARE(list.toArray().size(), 3);
     QCOMPARE(list[1][QLatin1String("code")], QJsonValue(605));
     QCOMPARE(list[1][QLatin1String("parameters")], (QJsonArray{1, 2, 1, 77}));
+}
+
+void tst_EventCommandWindows::aChoiceTypedBehindAGapIsKept()
+{
+    SampleEditor editor;
+    begin(editor);
+    openCell(editor, kFree);
+    editor.openRow("EventEditorMain", "commands", 0);
+    editor.clickTab("EventCommandSelect", "tabs", 0);
+    const QStringList names = editor.texts("EventCommandSelect", "commands");
+    editor.openRow("EventCommandSelect", "commands", int(names.indexOf(str("Show choices"))));
+    QTest::keyClicks(editor.find<QLineEdit>("EventCommand", "102/choice4"), str("Fourth"));
+    editor.click("EventCommand", "ok");
+    editor.click("EventEditorMain", "ok");
+    const QJsonValue list = events(editor).last()[QLatin1String("pages")][0][QLatin1String("list")];
+    QCOMPARE(list[0][QLatin1String("parameters")][0],
+             QJsonValue(QJsonArray{str("Yes"), str("No"), QString(), str("Fourth")}));
 }
 
 void tst_EventCommandWindows::aMessageIsDrawn()
